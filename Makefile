@@ -1,0 +1,54 @@
+# The front door: `make run` and `make test` are all a newcomer needs.
+
+JOBS ?= $(shell nproc)
+TEST_JOBS ?= 2
+PREFIX ?= /usr/local
+DESTDIR ?=
+ARGS ?=
+WERROR ?= OFF
+
+release := build/release
+
+.DEFAULT_GOAL := help
+.NOTPARALLEL:
+.PHONY: help deps build run test unit-asan bench lint lint-text format install clean
+
+help: ## this list
+	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+
+deps: ## installs what is needed, or says what is missing where there is no apt
+	@tools/deps.sh
+
+build: ## leaves nocturo and nocturoctl in build/release/bin
+	cmake --preset release -DNOCTURO_WERROR=$(WERROR) -DCMAKE_INSTALL_PREFIX=$(PREFIX)
+	cmake --build --preset release --parallel $(JOBS)
+
+run: deps build ## builds and starts Nocturo with ARGS="..."
+	@tools/run.sh $(release)/bin/nocturo $(ARGS)
+
+test: deps build ## builds and runs every test
+	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS)
+
+unit-asan: ## runs the unit tests under AddressSanitizer and UndefinedBehaviorSanitizer
+	cmake --preset asan
+	cmake --build --preset asan --target unit_tests --parallel $(JOBS)
+	@ctest --preset asan --no-tests=error --parallel $(TEST_JOBS) --label-regex '^unit$$'
+
+bench: build ## builds and runs the benchmarks
+	@set -e; for bench in $(release)/bin/*_bench; do echo "$$bench"; "$$bench"; done
+
+lint-text:
+	@tools/lint.sh text
+
+lint: lint-text build ## checks layout, scripts and code
+	@tools/lint.sh code $(release) $(JOBS)
+
+format: ## lays the code out
+	git ls-files --cached --others --exclude-standard -- '*.cpp' '*.h' | xargs clang-format -i
+
+install: ## installs under PREFIX, below DESTDIR; builds first only where nothing is built
+	@[ -x $(release)/bin/nocturo ] || $(MAKE) build
+	DESTDIR=$(DESTDIR) cmake --install $(release) --prefix $(PREFIX)
+
+clean: ## removes everything that was built
+	rm -rf build

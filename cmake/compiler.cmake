@@ -1,0 +1,16 @@
+# Curve arithmetic is defined to the last bit: no fused multiply-add, no value-changing optimisation.
+add_compile_options(-ffp-contract=off -fno-fast-math -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                    -Wnon-virtual-dtor -Woverloaded-virtual)
+
+if(NOCTURO_WERROR)
+  add_compile_options(-Werror)
+endif()
+
+if(NOCTURO_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# Qt's "signals" and "slots" are words that the code uses for other things.
+add_compile_definitions(QT_NO_KEYWORDS)

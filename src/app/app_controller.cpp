@@ -1,0 +1,180 @@
+#include "app/app_controller.h"
+
+#include "app/settings_table.h"
+#include "display/display_gamma.h"
+#include "platform/displays/display_functions.h"
+#include "platform/notification_center.h"
+#include "platform/run_loop.h"
+#include "platform/settings/defaults_store.h"
+#include "platform/settings/settings_keys.h"
+#include "preferences/affected_screen_set.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <span>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kReapplicationPeriod = 6000ms;
+constexpr std::string_view kEffectActive = "EffectActive";
+
+// The first ten online displays; empty when they cannot be listed.
+class OnlineDisplays {
+  public:
+    OnlineDisplays() {
+        if (CGGetOnlineDisplayList(kZQMaxDisplays, ids_.data(), &count_) != kCGErrorSuccess) {
+            count_ = 0;
+        }
+    }
+    std::span<const CGDirectDisplayID> ids() const { return std::span(ids_).first(count_); }
+
+  private:
+    std::array<CGDirectDisplayID, kZQMaxDisplays> ids_{};
+    std::uint32_t count_ = 0;
+};
+
+template <typename Range, typename Value>
+bool contains(const Range& range, const Value& value) {
+    return std::find(range.begin(), range.end(), value) != range.end();
+}
+
+} // namespace
+
+NDAppController::NDAppController(DefaultsStore& defaults, NotificationCenter& localCenter,
+                                 RunLoop& runLoop)
+    : defaults_(defaults), localCenter_(localCenter), runLoop_(runLoop) {}
+
+NDAppController::~NDAppController() {
+    localCenter_.removeObserver(this);
+}
+
+void NDAppController::applicationDidFinishLaunching() {
+    initDefaults();
+    screenControllers_.emplace();
+    globalEffect_ = std::make_shared<NDGroupEffect>();
+    if (defaults_.boolForKey(kActivateAtLaunch)) {
+        setEffectActive(true, true);
+    } else if (defaults_.boolForKey(kEffectActive)) {
+        setEffectActive(true, false);
+    } else {
+        setEffectActive(false, true);
+    }
+}
+
+void NDAppController::initDefaults() {
+    defaults_.registerDefaults(registeredDefaults());
+    const auto observe = [this](std::string_view name, void (NDAppController::*handler)()) {
+        localCenter_.addObserver(this, name, [this, handler] { (this->*handler)(); });
+    };
+    observe(NSUserDefaultsDidChangeNotification, &NDAppController::defaultsDidChange);
+    observe(NSUserDefaultsDidChangeNotification, &NDAppController::updateApplyTimer);
+    observe(NSApplicationDidChangeScreenParametersNotification,
+            &NDAppController::defaultsDidChange);
+}
+
+bool NDAppController::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
+    if (defaults_.boolForKey(kActivateOnClick)) {
+        toggleGlobalEffect();
+    }
+    return false;
+}
+
+void NDAppController::applicationWillTerminate() {
+    if (effectActive()) {
+        setEffectActive(false, false);
+    }
+    defaults_.synchronize();
+}
+
+void NDAppController::setEffectActive(bool active, bool saveState) {
+    if (saveState) {
+        defaults_.setBool(active, kEffectActive);
+    }
+    if (active) {
+        if (!screenControllers_) {
+            screenControllers_.emplace();
+        }
+        adjustScreenControllers();
+    } else {
+        screenControllers_.reset();
+        ZQDisplayRestoreColorSync();
+    }
+    updateApplyTimer();
+    localCenter_.post(kEffectActivationNotification);
+}
+
+void NDAppController::toggleGlobalEffect() {
+    setEffectActive(!effectActive(), true);
+}
+
+void NDAppController::adjustScreenControllers() {
+    const std::vector<double> affected = affectedScreenSet(defaults_);
+    for (const CGDirectDisplayID display : OnlineDisplays().ids()) {
+        setScreenControllerActive(
+            affected.empty() || contains(affected, static_cast<double>(display)), display);
+    }
+}
+
+void NDAppController::setScreenControllerActive(bool active, CGDirectDisplayID forScreenID) {
+    if (!screenControllers_) {
+        return;
+    }
+    const auto found =
+        std::find_if(screenControllers_->begin(), screenControllers_->end(),
+                     [&](const auto& controller) { return controller->screenID() == forScreenID; });
+    if (found != screenControllers_->end()) {
+        if (!active) {
+            (*found)->restoreGamma();
+            screenControllers_->erase(found);
+        }
+    } else if (active) {
+        screenControllers_->push_back(
+            NDScreenController::screenControllerWithEffect(globalEffect_, forScreenID));
+    }
+}
+
+void NDAppController::updateEffect() {
+    if (screenControllers_) {
+        for (const auto& controller : *screenControllers_) {
+            controller->updateEffect();
+        }
+    }
+}
+
+void NDAppController::updateApplyTimer() {
+    if (!effectActive() || !defaults_.boolForKey(kContinuouslyApply)) {
+        continuousApplyTimer_.reset();
+    } else if (continuousApplyTimer_ == nullptr) {
+        continuousApplyTimer_ =
+            runLoop_.scheduleRepeatingTimer(kReapplicationPeriod, [this] { updateEffect(); });
+    }
+}
+
+void NDAppController::defaultsDidChange() {
+    if (effectActive()) {
+        adjustScreenControllers();
+        updateEffect();
+    }
+}
+
+CGDirectDisplayID NDAppController::validatedDisplayID() {
+    const auto display = static_cast<CGDirectDisplayID>(defaults_.integerForKey(kAffectedScreens));
+    const OnlineDisplays online;
+    if (contains(online.ids(), display)) {
+        return display;
+    }
+    defaults_.setInteger(0, kAffectedScreens);
+    return 0;
+}
+
+void NDAppController::setCurrentEffect(std::shared_ptr<NDGroupEffect> effect) {
+    globalEffect_ = std::move(effect);
+}
+
+} // namespace nocturo

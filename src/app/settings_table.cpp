@@ -1,0 +1,161 @@
+#include "app/settings_table.h"
+
+#include "effects/effect_registry.h"
+#include "platform/settings/defaults_store.h"
+#include "platform/settings/settings_keys.h"
+#include "preferences/affected_screen_set.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace nocturo {
+
+namespace {
+
+constexpr std::int64_t kZero = 0; // an exact type: a plain 0 could become any of them
+
+const std::array<Setting, 16>& rows() {
+    using enum SettingType;
+    static const std::array<Setting, 16> table = {{
+        {NDGroupEffect::kName, effectNames, PropertyArray(), true, "the selected effects"},
+        {kActivateAtLaunch, boolean, true, true, "switch the effect on at every start"},
+        {kActivateOnClick, boolean, true, true, "starting Nocturo again toggles the effect"},
+        {kContinuouslyApply, boolean, true, true, "while on, apply again every 6 seconds"},
+        {kDeactivateForScreenSaver, boolean, true, true, "pause while the screen saver runs"},
+        {kUseHotKey, boolean, false, true, "toggle with the global hot key"},
+        {kShowStatusItem, integer, kZero, true, "1: run as a tray item"},
+        {kHotKeyCode, integer, kZero, false, "virtual key code of the hot key"},
+        {kHotKeyModifiers, integer, kZero, false, "modifier flags of the hot key"},
+        {"EffectActive", boolean, false, false, "whether the effect was last switched on"},
+        {kAffectedScreenSet, displayNumbers, PropertyArray(), false,
+         "the affected displays; none means all"},
+        {kAffectedScreens, integer, kZero, false, "the display last picked; 0 means all"},
+        {"NDDimEffectLevel", real, -0.5, false, "dim: -1 black, 0 unchanged, 1 white"},
+        {"NDColorFilterEffectHue", real, 0.0, false, "color filter: hue in degrees"},
+        {"NDColorFilterEffectVividness", real, 1.0, false, "color filter: strength, 0 to 1"},
+        {"ZQFluxWarned", boolean, false, false, "the f.lux warning was answered"},
+    }};
+    return table;
+}
+
+std::optional<std::string> problemWithNames(const PropertyValue& value) {
+    const auto* array = value.as<PropertyArray>();
+    if (array == nullptr) {
+        return "takes a list of effects";
+    }
+    for (const PropertyValue& element : *array) {
+        const auto* name = element.as<std::string>();
+        if (name == nullptr) {
+            return "takes a list of effect names";
+        }
+        const auto effects = selectableEffects();
+        if (std::none_of(effects.begin(), effects.end(),
+                         [&](const auto& effect) { return effect.className == *name; })) {
+            return "takes effects only, and there is no effect \"" + *name + "\"";
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> problemWithDisplays(const PropertyValue& value) {
+    const auto* array = value.as<PropertyArray>();
+    const auto isDisplay = [](const PropertyValue& element) {
+        const auto* number = element.as<std::int64_t>();
+        return number != nullptr && *number >= std::numeric_limits<std::int32_t>::min() &&
+               *number <= std::numeric_limits<std::int32_t>::max();
+    };
+    if (array == nullptr || !std::all_of(array->begin(), array->end(), isDisplay)) {
+        return "takes a list of display identifiers";
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> problemWithReal(const PropertyValue& value) {
+    const auto* number = value.as<double>();
+    if (number == nullptr || !std::isfinite(static_cast<float>(*number))) {
+        return "takes a finite number";
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> complaint(SettingType type, const PropertyValue& value) {
+    switch (type) {
+    case SettingType::boolean:
+        return value.as<bool>() != nullptr ? std::nullopt
+                                           : std::optional<std::string>("takes true or false");
+    case SettingType::integer:
+        return value.as<std::int64_t>() != nullptr
+                   ? std::nullopt
+                   : std::optional<std::string>("takes a whole number");
+    case SettingType::real:
+        return problemWithReal(value);
+    case SettingType::effectNames:
+        return problemWithNames(value);
+    case SettingType::displayNumbers:
+        return problemWithDisplays(value);
+    }
+    return "cannot be set";
+}
+
+PropertyArray numbersAsValues(const std::vector<double>& numbers) {
+    PropertyArray values;
+    for (const double number : numbers) {
+        values.emplace_back(static_cast<std::int64_t>(number));
+    }
+    return values;
+}
+
+} // namespace
+
+std::span<const Setting> settingsTable() {
+    return rows();
+}
+
+const Setting* settingNamed(std::string_view key) {
+    const auto found = std::find_if(rows().begin(), rows().end(),
+                                    [&](const Setting& setting) { return setting.key == key; });
+    return found != rows().end() ? &*found : nullptr;
+}
+
+PropertyDictionary registeredDefaults() {
+    PropertyDictionary defaults;
+    for (const Setting& setting : rows()) {
+        if (setting.registered) {
+            defaults.emplace(setting.key, setting.whenAbsent);
+        }
+    }
+    return defaults;
+}
+
+PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setting) {
+    if (setting.key == kAffectedScreenSet) {
+        return numbersAsValues(affectedScreenSet(defaults));
+    }
+    if (defaults.objectForKey(setting.key) == nullptr) {
+        return setting.whenAbsent;
+    }
+    switch (setting.type) {
+    case SettingType::boolean:
+        return defaults.boolForKey(setting.key);
+    case SettingType::integer:
+        return defaults.integerForKey(setting.key);
+    case SettingType::real:
+        return static_cast<double>(defaults.floatForKey(setting.key));
+    case SettingType::effectNames:
+    case SettingType::displayNumbers:
+        break;
+    }
+    const PropertyArray* array = defaults.arrayForKey(setting.key);
+    return array != nullptr ? *array : PropertyArray();
+}
+
+std::optional<std::string> problemWith(const Setting& setting, const PropertyValue& value) {
+    if (auto reason = complaint(setting.type, value)) {
+        return "\"" + std::string(setting.key) + "\" " + *reason + ".";
+    }
+    return std::nullopt;
+}
+
+} // namespace nocturo

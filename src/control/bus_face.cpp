@@ -1,0 +1,243 @@
+#include "control/bus_face.h"
+
+#include "app/app_controller.h"
+#include "app/settings_table.h"
+#include "control/bus_values.h"
+#include "effects/color_filter_effect.h"
+#include "effects/dim_effect.h"
+#include "nocturo1_adaptor.h"
+#include "platform/displays/display_functions.h"
+#include "platform/notification_center.h"
+#include "platform/settings/defaults_store.h"
+#include "preferences/affected_screen_set.h"
+
+#include <QCoreApplication>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QMetaProperty>
+
+#include <algorithm>
+
+namespace nocturo {
+
+namespace {
+
+const QString kBusName = QStringLiteral("org.nocturo.Nocturo");
+const QString kObjectPath = QStringLiteral("/org/nocturo/Nocturo");
+const QString kInterface = QStringLiteral("org.nocturo.Nocturo1");
+const QString kInvalidArgument = QStringLiteral("org.nocturo.Error.InvalidArgument");
+
+// Long enough for a busy first instance, short enough for the user who waits for the second.
+constexpr int kReopenTimeoutMs = 2000;
+
+} // namespace
+
+BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
+                 NotificationCenter& localCenter)
+    : controller_(controller), defaults_(defaults), localCenter_(localCenter) {
+    qDBusRegisterMetaType<QList<QVariantMap>>();
+    qDBusRegisterMetaType<QList<qlonglong>>();
+    new Nocturo1Adaptor(this);
+}
+
+BusFace::~BusFace() {
+    localCenter_.removeObserver(this);
+}
+
+bool BusFace::takeName(const QDBusConnection& bus) {
+    bus_ = bus;
+    // The object first: whoever sees the name may call at once.
+    bus_->registerObject(kObjectPath, this);
+    if (bus_->registerService(kBusName)) {
+        return true;
+    }
+    bus_->call(
+        QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, QStringLiteral("Reopen")),
+        QDBus::Block, kReopenTimeoutMs);
+    return false;
+}
+
+void BusFace::announceChanges() {
+    announced_ = snapshot();
+    for (const auto name : {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
+                            NSApplicationDidChangeScreenParametersNotification}) {
+        localCenter_.addObserver(this, name, [this] { announce(); });
+    }
+}
+
+bool BusFace::active() const {
+    return controller_.effectActive();
+}
+
+QString BusFace::displayServicesName() const {
+    const DisplayServices* services = displayServices();
+    return services != nullptr ? QString::fromStdString(std::string(services->name())) : QString();
+}
+
+QList<QVariantMap> BusFace::displays() const {
+    QList<QVariantMap> list;
+    DisplayServices* services = displayServices();
+    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
+    if (online == nullptr) {
+        return list;
+    }
+    const std::vector<double> affected = affectedScreenSet(defaults_);
+    const auto& controllers = controller_.screenControllers();
+    const auto driven = std::min<std::size_t>(online->size(), kZQMaxDisplays);
+    for (std::size_t i = 0; i < driven; ++i) {
+        const DisplayInfo& info = (*online)[i];
+        const bool inSet =
+            affected.empty() || std::find(affected.begin(), affected.end(),
+                                          static_cast<double>(info.id)) != affected.end();
+        const bool applied =
+            controllers && std::any_of(controllers->begin(), controllers->end(), [&](auto& each) {
+                return each->screenID() == info.id && each->hasCurve();
+            });
+        list.append({{QStringLiteral("number"), static_cast<int>(i) + 1},
+                     {QStringLiteral("id"), info.id},
+                     {QStringLiteral("name"), QString::fromStdString(info.name)},
+                     {QStringLiteral("main"), info.main},
+                     {QStringLiteral("rampSize"), info.rampSize},
+                     {QStringLiteral("affected"), inSet},
+                     {QStringLiteral("applied"), applied}});
+    }
+    return list;
+}
+
+QStringList BusFace::effects() const {
+    return busValue(effectiveValue(defaults_, *settingNamed(NDGroupEffect::kName))).toStringList();
+}
+
+double BusFace::dimLevel() const {
+    return shortestReal(NDDimEffect::level());
+}
+
+double BusFace::colorFilterHue() const {
+    return shortestReal(NDColorFilterEffect::hue());
+}
+
+double BusFace::colorFilterVividness() const {
+    return shortestReal(NDColorFilterEffect::vividness());
+}
+
+QList<qlonglong> BusFace::affectedScreens() const {
+    QList<qlonglong> numbers;
+    for (const double number : affectedScreenSet(defaults_)) {
+        numbers.append(static_cast<qlonglong>(number));
+    }
+    return numbers;
+}
+
+QVariantMap BusFace::settings() const {
+    QVariantMap map;
+    for (const Setting& setting : settingsTable()) {
+        map.insert(QString::fromStdString(std::string(setting.key)),
+                   busValue(effectiveValue(defaults_, setting)));
+    }
+    return map;
+}
+
+void BusFace::SetActive(bool active) {
+    controller_.setEffectActive(active, true);
+}
+
+void BusFace::Toggle() {
+    controller_.toggleGlobalEffect();
+}
+
+void BusFace::AddEffects(const QStringList& names) {
+    const auto problem =
+        problemWith(*settingNamed(NDGroupEffect::kName), *propertyValue(QVariant(names)));
+    if (problem) {
+        refuse(*problem);
+        return;
+    }
+    for (const QString& name : names) {
+        NDGroupEffect::effect().addEffect(name.toStdString());
+    }
+}
+
+void BusFace::RemoveEffects(const QStringList& names) {
+    for (const QString& name : names) {
+        NDGroupEffect::effect().removeEffect(name.toStdString());
+    }
+}
+
+void BusFace::SetSetting(const QString& key, const QDBusVariant& value) {
+    const Setting* setting = settingNamed(key.toStdString());
+    if (setting == nullptr) {
+        refuse("There is no setting \"" + key.toStdString() + "\".");
+        return;
+    }
+    // A value of a type that no setting has is refused like any other wrong one.
+    auto stored = propertyValue(value.variant()).value_or(PropertyValue(PropertyDictionary()));
+    if (const auto problem = problemWith(*setting, stored)) {
+        refuse(*problem);
+        return;
+    }
+    defaults_.setObject(std::move(stored), setting->key);
+}
+
+void BusFace::ResetSetting(const QString& key) {
+    const Setting* setting = settingNamed(key.toStdString());
+    if (setting == nullptr) {
+        refuse("There is no setting \"" + key.toStdString() + "\".");
+        return;
+    }
+    defaults_.removeObjectForKey(setting->key);
+}
+
+void BusFace::ToggleScreen(uint id) {
+    chooseAffectedScreen(defaults_, static_cast<std::int32_t>(id));
+}
+
+void BusFace::AffectAllScreens() {
+    chooseAffectedScreen(defaults_, 0);
+}
+
+void BusFace::Reopen() {
+    controller_.applicationShouldHandleReopen(false);
+}
+
+void BusFace::Quit() {
+    // Returns first, so that the caller has its answer.
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+QVariantMap BusFace::snapshot() const {
+    QVariantMap properties;
+    const QMetaObject* meta = metaObject();
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        properties.insert(QString::fromLatin1(meta->property(i).name()),
+                          meta->property(i).read(this));
+    }
+    return properties;
+}
+
+void BusFace::announce() {
+    if (!bus_) {
+        return;
+    }
+    QVariantMap current = snapshot();
+    QVariantMap changed;
+    for (auto property = current.cbegin(); property != current.cend(); ++property) {
+        if (announced_.value(property.key()) != property.value()) {
+            changed.insert(property.key(), property.value());
+        }
+    }
+    if (changed.isEmpty()) {
+        return;
+    }
+    announced_ = std::move(current);
+    QDBusMessage signal =
+        QDBusMessage::createSignal(kObjectPath, QStringLiteral("org.freedesktop.DBus.Properties"),
+                                   QStringLiteral("PropertiesChanged"));
+    signal << kInterface << changed << QStringList();
+    bus_->send(signal);
+}
+
+void BusFace::refuse(const std::string& sentence) {
+    sendErrorReply(kInvalidArgument, QString::fromStdString(sentence));
+}
+
+} // namespace nocturo

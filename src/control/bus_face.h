@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusVariant>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace nocturo {
+
+class DefaultsStore;
+class NDAppController;
+class NotificationCenter;
+
+/// The application's object on the session bus; its interface and what each member does stand in
+/// org.nocturo.Nocturo1.xml.
+class BusFace : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_PROPERTY(bool Active READ active)
+    Q_PROPERTY(QString DisplayServices READ displayServicesName)
+    Q_PROPERTY(QList<QVariantMap> Displays READ displays)
+    Q_PROPERTY(QStringList Effects READ effects)
+    Q_PROPERTY(double DimLevel READ dimLevel)
+    Q_PROPERTY(double ColorFilterHue READ colorFilterHue)
+    Q_PROPERTY(double ColorFilterVividness READ colorFilterVividness)
+    Q_PROPERTY(QList<qlonglong> AffectedScreenSet READ affectedScreens)
+    Q_PROPERTY(QVariantMap Settings READ settings)
+
+  public:
+    /// All three must outlive the face.
+    BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter);
+    ~BusFace() override;
+
+    /// Puts the object on the bus and takes the application's name. False when another process has
+    /// it: then that one is asked to be re-opened. Calls wait until the event loop runs.
+    bool takeName(const QDBusConnection& bus);
+
+    /// Announces changes from now on. Call it after the launch, so that the controller, which
+    /// follows the same notifications, has acted before a change is announced.
+    void announceChanges();
+
+    bool active() const;
+    QString displayServicesName() const;
+    QList<QVariantMap> displays() const;
+    QStringList effects() const;
+    double dimLevel() const;
+    double colorFilterHue() const;
+    double colorFilterVividness() const;
+    QList<qlonglong> affectedScreens() const;
+    QVariantMap settings() const;
+
+  public Q_SLOTS:
+    void SetActive(bool active);
+    void Toggle();
+    void AddEffects(const QStringList& names);
+    void RemoveEffects(const QStringList& names);
+    void SetSetting(const QString& key, const QDBusVariant& value);
+    void ResetSetting(const QString& key);
+    void ToggleScreen(uint id);
+    void AffectAllScreens();
+    void Reopen();
+    void Quit();
+
+  private:
+    QVariantMap snapshot() const;
+    void announce();
+    void refuse(const std::string& sentence);
+
+    NDAppController& controller_;
+    DefaultsStore& defaults_;
+    NotificationCenter& localCenter_;
+    std::optional<QDBusConnection> bus_;
+    QVariantMap announced_;
+};
+
+} // namespace nocturo

@@ -1,0 +1,207 @@
+#include "control/nocturoctl/commands.h"
+
+#include "app/settings_table.h"
+#include "control/nocturoctl/bus_client.h"
+#include "control/nocturoctl/failure.h"
+#include "control/nocturoctl/report.h"
+#include "control/nocturoctl/setting_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <iostream>
+#include <optional>
+#include <vector>
+
+namespace nocturo {
+
+namespace {
+
+void expect(bool argumentsFit) {
+    if (!argumentsFit) {
+        throw Failure{kUsage, ""};
+    }
+}
+
+template <bool active>
+void runSwitch(Arguments arguments) {
+    expect(arguments.empty());
+    BusClient().call("SetActive", active);
+}
+
+void runToggle(Arguments arguments) {
+    expect(arguments.empty());
+    BusClient().call("Toggle");
+}
+
+void runQuit(Arguments arguments) {
+    expect(arguments.empty());
+    BusClient().call("Quit");
+}
+
+void runStatus(Arguments arguments) {
+    const bool asJson = arguments.size() == 1 && arguments[0] == "--json";
+    expect(arguments.empty() || asJson);
+    try {
+        const Json properties = BusClient().properties();
+        if (asJson) {
+            std::cout << statusObject(properties).dump() << '\n';
+        } else {
+            std::cout << statusReport(properties);
+        }
+    } catch (const Failure& failure) {
+        if (asJson && failure.exitStatus == kNotRunning) {
+            std::cout << notRunningObject().dump() << '\n';
+        }
+        throw;
+    }
+}
+
+void runEffects(Arguments arguments) {
+    if (arguments.empty()) {
+        std::cout << effectsReport(BusClient().properties());
+        return;
+    }
+    const std::string& how = arguments.front();
+    expect(arguments.size() > 1 && (how == "add" || how == "remove" || how == "only"));
+    std::vector<std::string> names;
+    for (const std::string& name : arguments.subspan(1)) {
+        const std::string className = effectFromText(name);
+        if (std::find(names.begin(), names.end(), className) == names.end()) {
+            names.push_back(className);
+        }
+    }
+    if (how == "only") {
+        BusClient().callSetSetting("NDGroupEffect", PropertyArray(names.begin(), names.end()));
+    } else {
+        BusClient().call(how == "add" ? "AddEffects" : "RemoveEffects", names);
+    }
+}
+
+const Setting& settingFromName(const std::string& key) {
+    const Setting* setting = settingNamed(key);
+    if (setting == nullptr) {
+        throw Failure{kUsage,
+                      "There is no setting \"" + key + "\"; nocturoctl status lists them all."};
+    }
+    return *setting;
+}
+
+void runGet(Arguments arguments) {
+    expect(arguments.size() == 1);
+    settingFromName(arguments[0]);
+    std::cout << BusClient().properties()["settings"][arguments[0]].dump() << '\n';
+}
+
+void runSet(Arguments arguments) {
+    expect(arguments.size() == 2);
+    const PropertyValue value = settingFromText(settingFromName(arguments[0]), arguments[1]);
+    BusClient().callSetSetting(arguments[0], value);
+}
+
+void runReset(Arguments arguments) {
+    expect(arguments.size() == 1);
+    settingFromName(arguments[0]);
+    BusClient().call("ResetSetting", arguments[0]);
+}
+
+std::optional<std::uint32_t> wholeNumber(const std::string& text) {
+    std::uint32_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
+}
+
+// A display by its number in the list, its name or its identifier. One that is not online can still
+// be taken out of the set, by its identifier.
+std::uint32_t displayFromText(const Json& properties, const std::string& text) {
+    const auto number = wholeNumber(text);
+    for (const char* member : {"number", "name", "id"}) {
+        for (const Json& display : properties["displays"]) {
+            const Json& value = display[member];
+            if (value.is_string() ? value == text : number && value == *number) {
+                return display["id"].get<std::uint32_t>();
+            }
+        }
+    }
+    const Json& chosen = properties["affectedScreenSet"];
+    if (number && *number != 0 &&
+        std::find(chosen.begin(), chosen.end(), *number) != chosen.end()) {
+        return *number;
+    }
+    throw Failure{kUsage, "There is no display \"" + text +
+                              "\"; nocturoctl screens lists their numbers, names and identifiers."};
+}
+
+void runScreens(Arguments arguments) {
+    BusClient client;
+    if (arguments.empty()) {
+        std::cout << screensReport(client.properties());
+    } else if (arguments[0] == "all" && arguments.size() == 1) {
+        client.call("AffectAllScreens");
+    } else {
+        expect(arguments[0] == "toggle" && arguments.size() == 2);
+        client.call("ToggleScreen", displayFromText(client.properties(), arguments[1]));
+    }
+}
+
+// Settings arrive whole with every change; only those that differ are told.
+void printChanges(Json& known, const Json& changed) {
+    Json line = Json::object();
+    for (const auto& [name, value] : changed.items()) {
+        if (name != "settings") {
+            line[name] = value;
+            continue;
+        }
+        for (const auto& [key, setting] : value.items()) {
+            if (known["settings"].value(key, Json()) != setting) {
+                line["settings"][key] = setting;
+            }
+        }
+        known["settings"] = value;
+    }
+    std::cout << changeObject(line).dump() << std::endl;
+}
+
+void runWatch(Arguments arguments) {
+    expect(arguments.empty());
+    Json known;
+    BusClient().watch([&](const Json& properties) { known = properties; },
+                      [&](const Json& properties) { printChanges(known, properties); });
+    std::cerr << "nocturoctl: Nocturo has ended.\n";
+}
+
+constexpr std::array kCommands = std::to_array<Command>({
+    {"on", "", "switch the effect on", "", runSwitch<true>},
+    {"off", "", "switch the effect off", "Every display gets its own colors back.",
+     runSwitch<false>},
+    {"toggle", "", "switch the effect on or off", "Bind this to a key.", runToggle},
+    {"status", "[--json]", "show the state of everything", "With --json, one object for programs.",
+     runStatus},
+    {"effects", "[add|remove|only NAME...]", "list or choose the effects",
+     "NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
+     "name. add and remove change the selection, only replaces it.",
+     runEffects},
+    {"get", "KEY", "show a setting", "nocturoctl status lists the keys.", runGet},
+    {"set", "KEY VALUE", "change a setting",
+     "VALUE is true or false, a number, or a list with commas, as the setting takes it.\n"
+     "For example: nocturoctl set NDDimEffectLevel -0.3",
+     runSet},
+    {"reset", "KEY", "give a setting its default value again", "", runReset},
+    {"screens", "[all | toggle NUMBER|NAME|ID]", "list or choose the affected displays",
+     "toggle puts a display into the set of affected displays or takes it out. An empty\n"
+     "set means all displays, which is also what all chooses.",
+     runScreens},
+    {"watch", "", "print every change as it happens",
+     "One JSON object a line, with what changed. Ends when Nocturo does.", runWatch},
+    {"quit", "", "give the displays back and end Nocturo", "", runQuit},
+});
+
+} // namespace
+
+std::span<const Command> commands() {
+    return kCommands;
+}
+
+} // namespace nocturo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+namespace nocturo {
+
+using Json = nlohmann::ordered_json;
+
+// Texts for people, from the properties of the running Nocturo. Each ends with a new line.
+
+/// The state of everything.
+std::string statusReport(const Json& properties);
+
+/// Every effect, with a mark at the selected ones.
+std::string effectsReport(const Json& properties);
+
+/// The displays, with a mark at the affected ones.
+std::string screensReport(const Json& properties);
+
+/// The properties as one object for programs: "running" first, then in a fixed order.
+Json statusObject(const Json& properties);
+
+/// A change of properties for programs, its members in the same order.
+Json changeObject(const Json& properties);
+
+/// The status object when nothing runs.
+Json notRunningObject();
+
+} // namespace nocturo

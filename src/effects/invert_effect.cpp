@@ -1,0 +1,9 @@
+#include "effects/invert_effect.h"
+
+namespace nocturo {
+
+void NDInvertEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve) {
+    ZQGammaCurveReverse(curve);
+}
+
+} // namespace nocturo

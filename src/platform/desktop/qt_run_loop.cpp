@@ -1,0 +1,43 @@
+#include "platform/desktop/qt_run_loop.h"
+
+#include <QTimer>
+
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+class QtTimer : public Timer {
+  public:
+    QtTimer(std::chrono::milliseconds interval, bool once, std::function<void()> action)
+        : action_(std::move(action)) {
+        // A coarse timer may be 5 % late, which is seen where 6 seconds were promised.
+        timer_.setTimerType(Qt::PreciseTimer);
+        timer_.setSingleShot(once);
+        // The action may destroy this timer, and with it the function that is running.
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+            const auto running = action_;
+            running();
+        });
+        timer_.start(interval);
+    }
+
+  private:
+    QTimer timer_;
+    std::function<void()> action_;
+};
+
+} // namespace
+
+std::unique_ptr<Timer> QtRunLoop::scheduleRepeatingTimer(std::chrono::milliseconds interval,
+                                                         std::function<void()> action) {
+    return std::make_unique<QtTimer>(interval, false, std::move(action));
+}
+
+std::unique_ptr<Timer> QtRunLoop::scheduleTimer(std::chrono::milliseconds delay,
+                                                std::function<void()> action) {
+    return std::make_unique<QtTimer>(delay, true, std::move(action));
+}
+
+} // namespace nocturo

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/run_loop.h"
+
+namespace nocturo {
+
+/// The run loop of the Qt application; timers fire on the thread that scheduled them.
+class QtRunLoop : public RunLoop {
+  public:
+    std::unique_ptr<Timer> scheduleRepeatingTimer(std::chrono::milliseconds interval,
+                                                  std::function<void()> action) override;
+    std::unique_ptr<Timer> scheduleTimer(std::chrono::milliseconds delay,
+                                         std::function<void()> action) override;
+};
+
+} // namespace nocturo

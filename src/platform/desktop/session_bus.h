@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QDBusConnection>
+
+#include <optional>
+
+namespace nocturo {
+
+/// The session bus that the environment names, or the one at its usual place in the runtime
+/// directory; nothing when there is none. Never starts one, as the library would by itself.
+std::optional<QDBusConnection> connectToSessionBus();
+
+} // namespace nocturo

@@ -1,0 +1,96 @@
+#include "platform/displays/display_factory.h"
+
+#include "platform/displays/ramp_display_services.h"
+#include "platform/displays/randr/randr_hardware.h"
+#include "platform/displays/simulated/simulated_hardware.h"
+#include "platform/log.h"
+
+#include <charconv>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+constexpr std::string_view kCategory = "nocturo.displays";
+constexpr std::string_view kTrySimulated =
+    " To see what the effects do, start it with --display-services=simulated.";
+
+OpenedDisplays failed(std::string problem) {
+    OpenedDisplays opened;
+    opened.problem = std::move(problem);
+    return opened;
+}
+
+OpenedDisplays openRandr(const std::string& xDisplay) {
+    if (xDisplay.empty()) {
+        return failed("There is no X server to work with, because DISPLAY is not set." +
+                      std::string(kTrySimulated));
+    }
+    RandrOpening opening = RandrHardware::open(xDisplay);
+    if (opening.result == RandrOpening::Result::waylandGuest) {
+        return failed("The X server " + xDisplay +
+                      " is only a guest of a Wayland session and cannot change its colors; "
+                      "displays under Wayland come with a later version." +
+                      std::string(kTrySimulated));
+    }
+    if (opening.hardware == nullptr) {
+        return failed("The X server " + xDisplay + " cannot be used: " + opening.reason + "." +
+                      std::string(kTrySimulated));
+    }
+    OpenedDisplays opened;
+    RandrHardware* hardware = opening.hardware.get(); // lives as long as the services
+    opened.eventDescriptor = hardware->descriptor();
+    opened.processEvents = [hardware] { hardware->processEvents(); };
+    opened.connectionLost = [hardware] { return hardware->connectionLost(); };
+    opened.services = std::make_unique<RampDisplayServices>(std::move(opening.hardware));
+    logInfo(kCategory, "Displays are those of the X server " + xDisplay + ".");
+    return opened;
+}
+
+OpenedDisplays openSimulated(unsigned count, const std::filesystem::path& pictureDirectory) {
+    OpenedDisplays opened;
+    opened.services = std::make_unique<RampDisplayServices>(
+        std::make_unique<SimulatedHardware>(count, pictureDirectory));
+    logInfo(kCategory,
+            "Displays are simulated; their pictures are in " + pictureDirectory.string() + ".");
+    return opened;
+}
+
+} // namespace
+
+std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
+    using Kind = DisplayChoice::Kind;
+    constexpr std::string_view kSimulated = "simulated";
+    if (text == "auto") {
+        return DisplayChoice{Kind::automatic};
+    }
+    if (text == "randr") {
+        return DisplayChoice{Kind::randr};
+    }
+    if (!text.starts_with(kSimulated)) {
+        return std::nullopt;
+    }
+    DisplayChoice choice{Kind::simulated};
+    text.remove_prefix(kSimulated.size());
+    if (text.empty()) {
+        return choice;
+    }
+    const char* end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data() + 1, end, choice.simulatedCount);
+    const bool isNumber = text.front() == ':' && error == std::errc() && rest == end;
+    if (!isNumber || choice.simulatedCount < 1 || choice.simulatedCount > kMaxSimulatedHeads) {
+        return std::nullopt;
+    }
+    return choice;
+}
+
+OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings) {
+    if (choice.kind == DisplayChoice::Kind::simulated) {
+        return openSimulated(choice.simulatedCount, surroundings.pictureDirectory);
+    }
+    // X servers are all there is to find so far, so "auto" looks where "randr" does.
+    return openRandr(surroundings.xDisplay);
+}
+
+} // namespace nocturo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/displays/display_services.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace nocturo {
+
+/// Which display services the user wants.
+struct DisplayChoice {
+    enum class Kind { automatic, randr, simulated };
+
+    Kind kind = Kind::automatic;
+    unsigned simulatedCount = 2;
+};
+
+/// Reads "auto", "randr", "simulated" or "simulated:N" with N from 1 to 16; nothing for all else.
+std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
+
+/// What the factory takes from the process's surroundings.
+struct DisplaySurroundings {
+    std::string xDisplay; // $DISPLAY; empty when not set
+    std::filesystem::path pictureDirectory;
+};
+
+/// Display services with their place in an event loop.
+struct OpenedDisplays {
+    std::unique_ptr<DisplayServices> services; // null when there are none
+    std::string problem;                       // one sentence for the user, then
+
+    int eventDescriptor = -1;             // -1 when nothing ever comes from outside
+    std::function<void()> processEvents;  // to be called when the descriptor is readable
+    std::function<bool()> connectionLost; // true once the server has gone: nothing works any more
+};
+
+/// Opens what was chosen, and logs it.
+OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings);
+
+} // namespace nocturo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace nocturo {
+
+class DefaultsStore;
+
+/// The displays on which the effect is applied, as identifiers in ascending order; empty means all.
+/// The numbers are as stored: signed, whatever their range, duplicates kept. Read from
+/// "AffectedScreenSet", or from the older single-display key "AffectedScreens" while that is absent
+/// or holds anything but numbers.
+std::vector<double> affectedScreenSet(const DefaultsStore& defaults);
+
+/// What picking a display in a menu does: 0 chooses all displays, an identifier goes into the set
+/// or out of it. Taking the last one out therefore means all displays again. The older key records
+/// the pick, whichever way it went.
+void chooseAffectedScreen(DefaultsStore& defaults, std::int32_t tag);
+
+} // namespace nocturo

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "rig/file_descriptor.h"
+#include "rig/wait.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace nocturo::rig {
+
+using Environment = std::map<std::string, std::string>;
+
+/// This process's environment without what leads to the user's displays, buses and settings.
+Environment cleanEnvironment();
+
+/// A running program. It is killed and reaped at the end, also when the test itself dies.
+///
+/// The end of the thread that started it counts as the test's end: start programs on the main
+/// thread. Its output is taken in while something is waited for and by output() and errors().
+class Process {
+  public:
+    /// Standard input is empty. Throws std::system_error when no process can be made; a program
+    /// that cannot be run exits with 127 and says so in errors().
+    Process(const std::string& program, const std::vector<std::string>& arguments,
+            const Environment& environment);
+    ~Process();
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+    pid_t id() const { return id_; }
+    bool isRunning();
+    void signal(int number);
+
+    /// The exit code, 128 + n when signal n ended it, nothing when it runs on.
+    std::optional<int> wait(Milliseconds timeout = kPatience);
+
+    /// The next line of standard output that was not read yet, without its end; nothing when none
+    /// came.
+    std::optional<std::string> readLine(Milliseconds timeout = kPatience);
+
+    /// Waits for standard error to contain `part`.
+    bool waitForError(std::string_view part, Milliseconds timeout = kPatience);
+
+    /// All that it wrote so far.
+    const std::string& output();
+    const std::string& errors();
+
+    /// Readable when the process has ended.
+    int endDescriptor() const { return end_.get(); }
+
+  private:
+    struct Stream {
+        FileDescriptor pipe; // closed at its end
+        std::string text;
+    };
+
+    template <class Condition>
+    bool takeInUntil(Condition condition, Milliseconds timeout);
+    void takeIn();
+    static void takeIn(Stream& stream);
+    void reap(bool block);
+
+    pid_t id_ = -1;
+    FileDescriptor end_;
+    Stream output_;
+    Stream errors_;
+    std::size_t linesRead_ = 0; // where the next line begins
+    std::optional<int> exitCode_;
+};
+
+} // namespace nocturo::rig

@@ -1,0 +1,65 @@
+#include "rig/session.h"
+
+#include <stdexcept>
+
+namespace nocturo::rig {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string programPath(const std::string& program) {
+    const fs::path built = fs::path(NOCTURO_BIN_DIR) / program;
+    return program.find('/') == std::string::npos && fs::exists(built) ? built.string() : program;
+}
+
+} // namespace
+
+Session::Session(int displays) : environment_(cleanEnvironment()) {
+    environment_["HOME"] = home_.path();
+    environment_["DBUS_SESSION_BUS_ADDRESS"] = bus_.address();
+    environment_["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=" + (home_.path() / "no-bus").string();
+    environment_["XDG_SESSION_TYPE"] = "x11";
+    const std::pair<const char*, fs::path> directories[] = {
+        {"XDG_CONFIG_HOME", home_.path() / "config"}, {"XDG_DATA_HOME", home_.path() / "data"},
+        {"XDG_STATE_HOME", home_.path() / "state"},   {"XDG_CACHE_HOME", home_.path() / "cache"},
+        {"XDG_RUNTIME_DIR", runtimeDirectory()},
+    };
+    for (const auto& [name, path] : directories) {
+        fs::create_directory(path);
+        fs::permissions(path, fs::perms::owner_all);
+        environment_[name] = path;
+    }
+    if (displays > 0) {
+        server_.emplace(displays);
+        environment_["DISPLAY"] = server_->display();
+    }
+}
+
+fs::path Session::settingsFile() const {
+    return home_.path() / "config" / "nocturo" / "settings.plist";
+}
+
+std::unique_ptr<Process> Session::start(const std::string& program,
+                                        const std::vector<std::string>& arguments) {
+    return std::make_unique<Process>(programPath(program), arguments, environment_);
+}
+
+RunResult Session::run(const std::string& program, const std::vector<std::string>& arguments,
+                       Milliseconds timeout) {
+    const auto process = start(program, arguments);
+    const int exit = process->wait(timeout).value_or(-1);
+    return {exit, process->output(), process->errors()};
+}
+
+std::unique_ptr<Process> Session::startNocturo(const std::vector<std::string>& arguments) {
+    auto nocturo = start("nocturo", arguments);
+    if (!bus_.waitForName("org.nocturo.Nocturo", *nocturo)) {
+        nocturo->signal(9);
+        nocturo->wait();
+        throw std::runtime_error("nocturo did not come up: " + nocturo->errors());
+    }
+    return nocturo;
+}
+
+} // namespace nocturo::rig

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "rig/process.h"
+#include "rig/temporary_directory.h"
+#include "rig/x_client.h"
+
+#include <optional>
+#include <string>
+
+namespace nocturo::rig {
+
+/// The name of a display that no server on this machine has, such as ":1234".
+std::string freeDisplay();
+
+/// A real Xorg on a display number of its own, with up to 16 outputs DUMMY0 to DUMMY15 that exist
+/// only in memory. It listens on local sockets only and takes no input device.
+class XServer {
+  public:
+    static constexpr int kMaximumDisplays = 16;
+    static constexpr int kWidth = 320; // of every display
+    static constexpr int kHeight = 240;
+
+    /// Lights the first `displays` (1 to 16) outputs, side by side. Throws std::runtime_error with
+    /// what the server said when it does not start.
+    explicit XServer(int displays = 4);
+    ~XServer();
+
+    /// Such as ":1234".
+    const std::string& display() const { return display_; }
+
+    /// Output number 0 to 15. At its place in the row, unless told otherwise; one that is on moves.
+    void switchOn(int output);
+    void switchOn(int output, int x, int y);
+    /// What unplugging looks like to a client.
+    void switchOff(int output);
+    void setEdid(int output, const std::vector<std::uint8_t>& edid);
+
+    /// Ends the server as a crash would.
+    void kill();
+
+  private:
+    bool start(const std::string& display);
+    void removeSocket() const;
+    Output outputNumber(int number);
+
+    TemporaryDirectory directory_;
+    std::string display_;
+    std::optional<Process> process_;
+    std::optional<XClient> client_;
+    std::uint32_t mode_ = 0;
+};
+
+} // namespace nocturo::rig

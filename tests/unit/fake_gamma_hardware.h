@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/displays/gamma_hardware.h"
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace nocturo {
+
+/// Gamma hardware whose heads and ramps a test changes at will, and which records every write.
+/// Shared with the test, since display services own their hardware.
+struct FakeGammaHardwareState {
+    std::vector<Head> heads;
+    std::map<std::uint32_t, Ramp> ramps; // by CRTC
+    std::vector<std::pair<std::uint32_t, Ramp>> writes;
+    std::uint64_t generation = 1;
+    bool lists = true;
+    bool reads = true;
+
+    /// Adds a head on a CRTC of its own with a ramp of that size.
+    void add(const std::string& connector, std::uint32_t crtc, std::uint32_t size = 256) {
+        Head head;
+        head.connector = connector;
+        head.crtc = crtc;
+        head.rampSize = size;
+        head.bounds = {100.0 * static_cast<double>(heads.size()), 0, 100, 100};
+        heads.push_back(head);
+        if (isUsableRampSize(size) && ramps.count(crtc) == 0) {
+            ramps[crtc] = identityRamp(size);
+        }
+        ++generation;
+    }
+    void remove(const std::string& connector) {
+        std::erase_if(heads, [&](const Head& head) { return head.connector == connector; });
+        ++generation;
+    }
+};
+
+class FakeGammaHardware : public GammaHardware {
+  public:
+    explicit FakeGammaHardware(FakeGammaHardwareState& state) : state_(state) {}
+
+    std::string_view name() const override { return "fake"; }
+    std::uint64_t topologyGeneration() override { return state_.generation; }
+    bool listHeads(std::vector<Head>& heads) override {
+        heads = state_.heads;
+        return state_.lists;
+    }
+    bool readRamp(std::uint32_t crtc, Ramp& ramp) override {
+        if (state_.reads) {
+            ramp = state_.ramps.at(crtc);
+        }
+        return state_.reads;
+    }
+    bool writeRamp(std::uint32_t crtc, const Ramp& ramp) override {
+        state_.ramps[crtc] = ramp;
+        state_.writes.emplace_back(crtc, ramp);
+        return true;
+    }
+
+  private:
+    FakeGammaHardwareState& state_;
+};
+
+} // namespace nocturo

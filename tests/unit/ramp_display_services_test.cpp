@@ -1,0 +1,298 @@
+#include "platform/displays/ramp_display_services.h"
+
+#include "display/display_gamma.h"
+#include "display/screen_controller.h"
+#include "effects/invert_effect.h"
+#include "fake_gamma_hardware.h"
+#include "platform/displays/display_functions.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace nocturo {
+
+namespace {
+
+Ramp reversed(Ramp ramp) {
+    for (auto* channel : {&ramp.red, &ramp.green, &ramp.blue}) {
+        std::reverse(channel->begin(), channel->end());
+    }
+    return ramp;
+}
+
+// A ramp that is no straight line, so that resampling it there and back would show.
+Ramp bumpy(std::uint32_t size, int seed = 7) {
+    Ramp ramp(size);
+    for (std::uint32_t i = 0; i < size; ++i) {
+        const auto value = static_cast<std::uint32_t>(seed) * 2654435761U * (i + 1);
+        ramp.red[i] = static_cast<std::uint16_t>(value >> 16);
+        ramp.green[i] = static_cast<std::uint16_t>(value >> 8);
+        ramp.blue[i] = static_cast<std::uint16_t>(value);
+    }
+    return ramp;
+}
+
+class Displays : public testing::Test {
+  protected:
+    ~Displays() override { setDisplayServices(nullptr); }
+
+    /// Starts the services on what the hardware shows now.
+    void start() {
+        services_ =
+            std::make_unique<RampDisplayServices>(std::make_unique<FakeGammaHardware>(hardware_));
+        setDisplayServices(services_.get());
+    }
+    CGDirectDisplayID id(std::size_t index) { return services_->onlineDisplays()->at(index).id; }
+    CGDirectDisplayID id(const std::string& connector) {
+        for (const DisplayInfo& info : *services_->onlineDisplays()) {
+            if (info.name == connector) {
+                return info.id;
+            }
+        }
+        return 0;
+    }
+    std::unique_ptr<NDScreenController> inverting(CGDirectDisplayID display) {
+        return NDScreenController::screenControllerWithEffect(std::make_shared<NDInvertEffect>(),
+                                                              display);
+    }
+
+    FakeGammaHardwareState hardware_;
+    std::unique_ptr<RampDisplayServices> services_;
+};
+
+TEST(Ramp, EverySixteenBitValueSurvivesReadingAndWriting) {
+    std::vector<std::uint16_t> channel(65536);
+    for (std::size_t i = 0; i < channel.size(); ++i) {
+        channel[i] = static_cast<std::uint16_t>(i);
+    }
+    std::vector<float> table(65536);
+    tableFromChannel(channel, 65536, table.data());
+    EXPECT_EQ(table[13107], 0.2F);
+    std::vector<std::uint16_t> written(65536);
+    channelFromTable(table.data(), 65536, written);
+    EXPECT_EQ(written, channel);
+}
+
+TEST(Ramp, ValuesAreRoundedAndWhatIsOutOfRangeIsLimited) {
+    const float table[] = {-0.1F,
+                           1.5F,
+                           std::nanf(""),
+                           0.5F,
+                           100.4F / 65535,
+                           100.6F / 65535,
+                           std::numeric_limits<float>::infinity()};
+    std::vector<std::uint16_t> channel(7);
+    channelFromTable(table, 7, channel);
+    EXPECT_EQ(channel, (std::vector<std::uint16_t>{0, 65535, 0, 32768, 100, 101, 65535}));
+}
+
+TEST(Ramp, ResamplingKeepsTheEndsAndInterpolatesBetween) {
+    float table[5];
+    tableFromChannel({0, 65535}, 5, table);
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_FLOAT_EQ(table[i], static_cast<float>(i) / 4);
+    }
+    std::vector<std::uint16_t> channel(3);
+    const float curve[] = {1.0F, 0.25F, 0.5F, 0.75F};
+    channelFromTable(curve, 4, channel); // the middle lies half-way between entries 1 and 2
+    EXPECT_EQ(channel, (std::vector<std::uint16_t>{65535, 24576, 49151}));
+}
+
+TEST_F(Displays, RampsOfEverySizeAreWrittenBackBitForBit) {
+    std::uint32_t crtc = 1;
+    for (const std::uint32_t size : {2U, 255U, 256U, 1024U, 4096U, 65535U, 262145U}) {
+        hardware_.add("size " + std::to_string(size), crtc, size);
+        hardware_.ramps[crtc++] = bumpy(size);
+    }
+    start();
+    const auto before = hardware_.ramps;
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        auto controller = inverting(id(i));
+        EXPECT_NE(hardware_.ramps, before);
+        controller->restoreGamma();
+        EXPECT_EQ(hardware_.ramps, before);
+    }
+}
+
+TEST_F(Displays, OneWithoutAUsableRampIsListedButNeverTouched) {
+    hardware_.add("none", 1, 0);
+    hardware_.add("one", 2, 1);
+    hardware_.add("absurd", 3, 5000000);
+    hardware_.add("good", 4);
+    start();
+    EXPECT_EQ(services_->onlineDisplays()->at(2).rampSize, 0U);
+    for (std::size_t i = 0; i < 4; ++i) {
+        const auto controller = inverting(id(i));
+        EXPECT_EQ(controller->hasCurve(), i == 3);
+        controller->restoreGamma();
+        EXPECT_EQ(ZQDisplayGammaIsInverted(id(i)), i == 3 ? 0 : -1);
+    }
+    EXPECT_EQ(ZQDisplayGammaCurve(12345).sampleCount, 0U);
+    EXPECT_EQ(hardware_.writes.size(), 2U);
+}
+
+TEST_F(Displays, AnAllZeroRampCountsAsTheIdentity) {
+    hardware_.add("A", 1);
+    hardware_.ramps[1] = Ramp(256);
+    start();
+    auto controller = inverting(id(0));
+    EXPECT_EQ(hardware_.ramps[1], reversed(identityRamp(256)));
+    controller->restoreGamma();
+    EXPECT_EQ(hardware_.ramps[1], identityRamp(256));
+}
+
+TEST_F(Displays, UpdatesDoNotAccumulateAndActivationCapturesAnew) {
+    hardware_.add("A", 1);
+    hardware_.ramps[1] = bumpy(256);
+    start();
+    auto controller = inverting(id(0));
+    controller->updateEffect();
+    controller->updateEffect();
+    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256)));
+    hardware_.ramps[1] = bumpy(256, 3); // another program
+    controller->setActivation(false);
+    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256, 3)));
+    EXPECT_FALSE(controller->isActive());
+    hardware_.reads = false;
+    controller->retriveGammaCurve();
+    hardware_.writes.clear();
+    controller->updateEffect();
+    controller->restoreGamma();
+    EXPECT_TRUE(hardware_.writes.empty());
+}
+
+TEST_F(Displays, TwoThatShareACrtcDoNotConfuseEachOther) {
+    hardware_.add("A", 1);
+    hardware_.add("B", 1);
+    hardware_.ramps[1] = bumpy(256);
+    start();
+    auto a = inverting(id(0));
+    auto b = inverting(id(1)); // must not capture what was written for A
+    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256)));
+    a->restoreGamma();
+    EXPECT_EQ(hardware_.ramps[1], bumpy(256));
+    b->updateEffect();
+    auto again = inverting(id(0));
+    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256)));
+    services_->restoreSystemColors();
+    EXPECT_EQ(hardware_.ramps[1], bumpy(256));
+}
+
+TEST_F(Displays, EachIsGivenBackWhatItHadWhenFirstSeen) {
+    hardware_.add("A", 1);
+    hardware_.add("B", 2);
+    hardware_.ramps[1] = bumpy(256, 1);
+    hardware_.ramps[2] = bumpy(256, 2);
+    start();
+    auto a = inverting(id("A"));
+    auto b = inverting(id("B"));
+    // A moves to a CRTC of its own size; C comes where A was and must not inherit its ramp.
+    hardware_.remove("A");
+    hardware_.add("C", 1);
+    hardware_.add("A", 3, 1024);
+    a->updateEffect();
+    EXPECT_EQ(hardware_.ramps[3].size(), 1024U);
+    auto c = inverting(id("C"));
+    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256, 1)));
+    hardware_.remove("B"); // its CRTC goes dark but keeps its ramp
+    services_->restoreSystemColors();
+    EXPECT_EQ(hardware_.ramps[1], bumpy(256, 1));
+    EXPECT_EQ(hardware_.ramps[2], bumpy(256, 2));
+    EXPECT_EQ(hardware_.ramps[3].red[341], bumpy(256, 1).red[85]);
+}
+
+TEST_F(Displays, FollowWhatTheHardwareLists) {
+    start();
+    EXPECT_TRUE(services_->onlineDisplays()->empty());
+    EXPECT_EQ(CGMainDisplayID(), 0U);
+    for (std::uint32_t i = 1; i <= 12; ++i) {
+        hardware_.add("D" + std::to_string(i), i);
+    }
+    hardware_.heads[4].primary = true;
+    EXPECT_EQ(CGMainDisplayID(), id("D5"));
+    EXPECT_EQ(ZQDisplayInRect({250, 50, 10, 10}), id("D3"));
+    EXPECT_EQ(ZQDisplayInRect({300, 100, 10, 10}), 0U); // edges do not meet
+    ZQReverseGammaOfActiveDisplays();
+    EXPECT_EQ(hardware_.writes.size(), 10U);
+    EXPECT_EQ(ZQMainDisplayGammaIsInverted(), 1);
+    EXPECT_EQ(ZQDisplayGammaIsInverted(id("D11")), 0);
+    ZQReverseGammaOfDisplaysInRect({0, 0, 150, 10});
+    EXPECT_EQ(ZQDisplayGammaIsInverted(id("D2")), 0);
+    EXPECT_EQ(ZQDisplayGammaIsInverted(id("D3")), 1);
+
+    hardware_.ramps[11] = bumpy(256);
+    services_->restoreSystemColors();
+    EXPECT_EQ(hardware_.ramps[11], bumpy(256)); // beyond the tenth: not ours
+    hardware_.lists = false;
+    ++hardware_.generation;
+    EXPECT_EQ(services_->onlineDisplays(), nullptr);
+    hardware_.writes.clear();
+    ZQReverseGammaOfActiveDisplays();
+    EXPECT_TRUE(hardware_.writes.empty());
+}
+
+std::vector<std::uint8_t> edid(std::uint8_t product, std::uint32_t serial,
+                               const std::string& serialText = "") {
+    std::vector<std::uint8_t> block = {0, 255, 255, 255, 255, 255, 255, 0, 0x10, 0xAC, product, 1};
+    for (int shift = 0; shift < 32; shift += 8) {
+        block.push_back(static_cast<std::uint8_t>(serial >> shift));
+    }
+    block.resize(128);
+    if (!serialText.empty()) {
+        block[72 + 3] = 255;
+        std::copy(serialText.begin(), serialText.end(), block.begin() + 72 + 5);
+    }
+    return block;
+}
+
+std::vector<CGDirectDisplayID>
+identify(DisplayIdentifiers& identifiers,
+         const std::vector<std::pair<std::string, std::vector<std::uint8_t>>>& monitors) {
+    std::vector<Head> heads;
+    for (const auto& [connector, block] : monitors) {
+        heads.emplace_back();
+        heads.back().connector = connector;
+        heads.back().edid = block;
+    }
+    return identifiers.identifiersFor(heads);
+}
+
+TEST(DisplayIdentifiers, FollowAMonitorWithASerialAndStayWithTheConnectorOtherwise) {
+    const auto fresh = [](auto... monitors) {
+        DisplayIdentifiers identifiers;
+        return identify(identifiers, {monitors...});
+    };
+    using Monitor = std::pair<std::string, std::vector<std::uint8_t>>;
+    const auto same = [&](const Monitor& a, const Monitor& b) {
+        return fresh(a)[0] == fresh(b)[0];
+    };
+    EXPECT_TRUE(same({"DP-1", edid(1, 42)}, {"DP-2", edid(1, 42)}));
+    EXPECT_TRUE(same({"DP-1", edid(1, 0, "SN7\n")}, {"DP-2", edid(1, 0, "SN7\n")}));
+    EXPECT_FALSE(same({"DP-1", edid(1, 42)}, {"DP-1", edid(1, 43)}));
+    EXPECT_FALSE(same({"DP-1", edid(1, 42)}, {"DP-1", edid(2, 42)}));
+    for (const std::uint32_t placeholder : {0U, 0x01010101U}) {
+        EXPECT_FALSE(same({"DP-1", edid(1, placeholder)}, {"DP-2", edid(1, placeholder)}));
+        EXPECT_TRUE(same({"DP-1", edid(1, placeholder)}, {"DP-1", edid(1, placeholder)}));
+    }
+    EXPECT_FALSE(same({"DP-1", {}}, {"DP-2", {}}));
+    EXPECT_TRUE(same({"DP-1", {1, 2, 3}}, {"DP-1", {}})); // not an EDID
+    // Stored in users' settings, so never to change; FNV-1a of "connector DP-1" worked out apart.
+    EXPECT_EQ(fresh(Monitor{"DP-1", {}})[0], 915161647U);
+}
+
+TEST(DisplayIdentifiers, TwinsTakeNeighboursAndKeepThem) {
+    DisplayIdentifiers identifiers;
+    const auto twin = edid(1, 42);
+    const auto both = identify(identifiers, {{"DP-1", twin}, {"DP-2", twin}});
+    EXPECT_EQ(both[1], both[0] + 1);
+    EXPECT_EQ(identify(identifiers, {{"DP-2", twin}}), std::vector{both[1]});
+    EXPECT_EQ(identify(identifiers, {{"DP-3", edid(9, 9)}, {"DP-2", twin}, {"DP-1", twin}})[2],
+              both[0]);
+}
+
+} // namespace
+
+} // namespace nocturo

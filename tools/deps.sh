@@ -1,0 +1,95 @@
+#!/usr/bin/env bash
+# Installs what building, testing and linting Nocturo needs on Debian and its relatives, or says what
+# is missing elsewhere. Quick and silent on the network when nothing is missing.
+set -euo pipefail
+
+packages=(
+  # Building
+  g++                       # compiler
+  make                      # front door
+  cmake                     # configuring
+  ninja-build               # building
+  pkg-config                # finding libraries
+  qt6-base-dev              # event loop, bus, pictures
+  libplist-dev              # property lists
+  libxcb1-dev               # X11
+  libxcb-randr0-dev         # displays
+  libsystemd-dev            # nocturoctl's bus
+  nlohmann-json3-dev        # status --json
+  # Testing
+  libgtest-dev              # tests
+  libgmock-dev              # matchers
+  libbenchmark-dev          # benchmarks
+  xserver-xorg-core         # real X server
+  xserver-xorg-video-dummy  # displays without hardware
+  xvfb                      # an X server with all-zero ramps
+  x11-xserver-utils         # xrandr, which lights displays
+  dbus-daemon               # a session bus for each test
+  python3                   # the tests' own calculation
+  # Linting
+  git                       # which files are ours
+  clang-format              # layout
+  clang-tidy                # faults, and clang's view of the code
+  shellcheck                # scripts
+)
+
+# What other distributions must offer, whatever their packages are called.
+programs=(g++ make cmake ninja pkg-config Xorg xrandr dbus-daemon python3)
+modules=(libplist-2.0 xcb xcb-randr libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+linters=(git clang-format clang-tidy shellcheck)
+
+install_on_debian() {
+  local installed missing=() package
+  installed=" $(dpkg-query -W -f '${db:Status-Status}=${Package} ' "${packages[@]}" 2>/dev/null || true)"
+  for package in "${packages[@]}"; do
+    [[ $installed == *" installed=$package "* ]] || missing+=("$package")
+  done
+  if [ "${#missing[@]}" -eq 0 ]; then
+    echo "Everything needed is installed."
+    return
+  fi
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "Run as root: apt-get install ${missing[*]}" >&2
+      exit 1
+    fi
+    as_root=(sudo)
+  fi
+  echo "Installing: ${missing[*]}"
+  "${as_root[@]}" apt-get update -q
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -q -y --no-install-recommends "${missing[@]}"
+}
+
+list_elsewhere() {
+  local missing=() wanted=() name
+  for name in "${programs[@]}"; do
+    command -v "$name" >/dev/null || missing+=("$name")
+  done
+  for name in "${modules[@]}"; do
+    pkg-config --exists "$name" 2>/dev/null || missing+=("$name (library with headers)")
+  done
+  for name in "${linters[@]}"; do
+    command -v "$name" >/dev/null || wanted+=("$name")
+  done
+  echo "This is not Debian or a relative of it, so nothing is installed. Nocturo needs:"
+  echo "  programs:  ${programs[*]}"
+  echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Gui and DBus"
+  echo "  Xorg's dummy video driver for the tests; for lint: ${linters[*]}"
+  if [ "${#wanted[@]}" -gt 0 ]; then
+    echo "Missing for make lint: ${wanted[*]}"
+  fi
+  if [ "${#missing[@]}" -gt 0 ]; then
+    printf 'Missing:\n' >&2
+    printf '  %s\n' "${missing[@]}" >&2
+    exit 1
+  fi
+  echo "All of it is here."
+}
+
+if command -v apt-get >/dev/null && command -v dpkg-query >/dev/null; then
+  install_on_debian
+else
+  list_elsewhere
+fi
