@@ -1,6 +1,7 @@
 #include "app/settings_table.h"
 
 #include "effects/effect_registry.h"
+#include "effects/group_effect.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keys.h"
 #include "preferences/affected_screen_set.h"

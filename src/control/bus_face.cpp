@@ -201,7 +201,7 @@ void BusFace::Reopen() {
 
 void BusFace::Quit() {
     // Returns first, so that the caller has its answer.
-    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
 }
 
 QVariantMap BusFace::snapshot() const {

@@ -32,11 +32,13 @@ double NDEffect::animationTimeInterval() const {
 }
 
 NSComparisonResult NDEffect::priorityCompare(const NDEffect& other) const {
-    if (priority() < other.priority()) {
-        return NSComparisonResult::NSOrderedAscending;
+    const std::int32_t mine = priority();
+    const std::int32_t theirs = other.priority();
+    if (mine == theirs) {
+        return NSComparisonResult::NSOrderedSame;
     }
-    return priority() > other.priority() ? NSComparisonResult::NSOrderedDescending
-                                         : NSComparisonResult::NSOrderedSame;
+    return mine < theirs ? NSComparisonResult::NSOrderedAscending
+                         : NSComparisonResult::NSOrderedDescending;
 }
 
 DefaultsStore& NDEffect::userDefaults() {

@@ -1,7 +1,14 @@
 #include "effects/effect_registry.h"
 
-#include <algorithm>
+#include "effects/color_filter_effect.h"
+#include "effects/dim_effect.h"
+#include "effects/group_effect.h"
+#include "effects/hdtv_luminance_effect.h"
+#include "effects/hide_stripes_effect.h"
+#include "effects/invert_effect.h"
+
 #include <array>
+#include <new>
 
 namespace nocturo {
 
@@ -9,12 +16,15 @@ namespace {
 
 struct EffectClass {
     std::string_view name;
-    EffectInstance (*effect)();
+    NDEffect* (*effect)(std::pmr::memory_resource& memory);
 };
 
 template <typename Effect>
 constexpr EffectClass effectClass() {
-    return {Effect::kName, [] { return EffectInstance(Effect::effect()); }};
+    return {Effect::kName, [](std::pmr::memory_resource& memory) -> NDEffect* {
+                void* place = memory.allocate(sizeof(Effect), alignof(Effect));
+                return ::new (place) Effect(Effect::effect());
+            }};
 }
 
 constexpr std::array kEffectClasses = {
@@ -33,22 +43,13 @@ constexpr std::array<SelectableEffect, 5> kSelectableEffects = {{
 
 } // namespace
 
-NDEffect& EffectInstance::operator*() {
-    return std::visit([](NDEffect& effect) -> NDEffect& { return effect; }, effect_);
-}
-
-const NDEffect& EffectInstance::operator*() const {
-    return std::visit([](const NDEffect& effect) -> const NDEffect& { return effect; }, effect_);
-}
-
-std::optional<EffectInstance> effectNamed(std::string_view className) {
-    const auto* found =
-        std::find_if(kEffectClasses.begin(), kEffectClasses.end(),
-                     [&](const EffectClass& candidate) { return candidate.name == className; });
-    if (found == kEffectClasses.end()) {
-        return std::nullopt;
+NDEffect* effectNamed(std::string_view className, std::pmr::memory_resource& memory) {
+    for (const EffectClass& candidate : kEffectClasses) {
+        if (candidate.name == className) {
+            return candidate.effect(memory);
+        }
     }
-    return found->effect();
+    return nullptr;
 }
 
 std::span<const SelectableEffect> selectableEffects() {

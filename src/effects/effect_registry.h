@@ -1,38 +1,16 @@
 #pragma once
 
-#include "effects/color_filter_effect.h"
-#include "effects/dim_effect.h"
-#include "effects/group_effect.h"
-#include "effects/hdtv_luminance_effect.h"
-#include "effects/hide_stripes_effect.h"
-#include "effects/invert_effect.h"
+#include "effects/effect.h"
 
-#include <optional>
+#include <memory_resource>
 #include <span>
 #include <string_view>
-#include <variant>
 
 namespace nocturo {
 
-/// A fresh effect of any class, held by value so that making one allocates nothing.
-class EffectInstance {
-  public:
-    template <typename Effect>
-    explicit EffectInstance(Effect effect) : effect_(effect) {}
-
-    NDEffect& operator*();
-    const NDEffect& operator*() const;
-    NDEffect* operator->() { return &**this; }
-    const NDEffect* operator->() const { return &**this; }
-
-  private:
-    std::variant<NDInvertEffect, NDHideStripesEffect, NDDimEffect, NDColorFilterEffect,
-                 NDHDTVLuminanceEffect, NDGroupEffect>
-        effect_;
-};
-
-/// A new effect of the class of that name, or nothing when there is none.
-std::optional<EffectInstance> effectNamed(std::string_view className);
+/// A new effect of the class of that name, or null when there is none. It lies in `memory` and ends
+/// with it: effects own nothing, so nobody destroys them.
+NDEffect* effectNamed(std::string_view className, std::pmr::memory_resource& memory);
 
 /// The effects that can be selected, in the order in which they are applied.
 struct SelectableEffect {

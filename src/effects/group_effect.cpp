@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <memory_resource>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,15 +25,35 @@ const PropertyArray* selection() {
     return NDEffect::userDefaults().arrayForKey(NDGroupEffect::kName);
 }
 
-// What the stored value's element names, or nothing. A selection that was edited by hand to hold
-// the group itself would never come to an end, so the group does not count.
-std::optional<EffectInstance> effectOfEntry(const PropertyValue& entry) {
-    const auto* name = entry.as<std::string>();
-    if (name == nullptr || *name == NDGroupEffect::kName) {
-        return std::nullopt;
+// The effects of a selection, made for one use. Re-application makes them anew every time, so they
+// lie within this object, on the stack; only an absurdly long selection reaches the heap.
+class SelectedEffects {
+  public:
+    explicit SelectedEffects(const PropertyArray* names) {
+        if (names == nullptr) {
+            return;
+        }
+        effects_.reserve(names->size());
+        for (const PropertyValue& entry : *names) {
+            // A selection that was edited by hand to hold the group itself would never come to an
+            // end, so the group does not count.
+            const auto* name = entry.as<std::string>();
+            if (name == nullptr || *name == NDGroupEffect::kName) {
+                continue;
+            }
+            if (NDEffect* effect = effectNamed(*name, memory_)) {
+                effects_.push_back(effect);
+            }
+        }
     }
-    return effectNamed(*name);
-}
+
+    std::span<NDEffect*> effects() { return effects_; }
+
+  private:
+    std::array<std::byte, 1024> stack_;
+    std::pmr::monotonic_buffer_resource memory_{stack_.data(), stack_.size()};
+    std::pmr::vector<NDEffect*> effects_{&memory_};
+};
 
 } // namespace
 
@@ -92,37 +113,21 @@ std::size_t NDGroupEffect::effectCount() const {
 }
 
 void NDGroupEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve, double atTime) {
-    const PropertyArray* names = selection();
-    if (names == nullptr) {
-        return;
-    }
-    // Runs on every re-application: the working list lies on the stack, and only an absurdly long
-    // selection reaches the heap.
-    std::array<std::byte, 1024> stack;
-    std::pmr::monotonic_buffer_resource memory(stack.data(), stack.size());
-    std::pmr::vector<EffectInstance> effects(&memory);
-    effects.reserve(names->size());
-    for (const PropertyValue& entry : *names) {
-        if (auto instance = effectOfEntry(entry)) {
-            effects.push_back(*instance);
-        }
-    }
-    std::sort(effects.begin(), effects.end(), [](const auto& left, const auto& right) {
+    SelectedEffects selected(selection());
+    const std::span<NDEffect*> effects = selected.effects();
+    std::sort(effects.begin(), effects.end(), [](const NDEffect* left, const NDEffect* right) {
         return left->priorityCompare(*right) == NSComparisonResult::NSOrderedAscending;
     });
-    for (EffectInstance& instance : effects) {
-        instance->applyEffectOnGammaCurve(curve, atTime);
+    for (NDEffect* effect : effects) {
+        effect->applyEffectOnGammaCurve(curve, atTime);
     }
 }
 
 double NDGroupEffect::animationTimeInterval() const {
     double shortest = NDEffect::animationTimeInterval();
-    if (const PropertyArray* names = selection()) {
-        for (const PropertyValue& entry : *names) {
-            if (const auto instance = effectOfEntry(entry)) {
-                shortest = std::min(shortest, (*instance)->animationTimeInterval());
-            }
-        }
+    SelectedEffects selected(selection());
+    for (const NDEffect* effect : selected.effects()) {
+        shortest = std::min(shortest, effect->animationTimeInterval());
     }
     return shortest * 0.5;
 }

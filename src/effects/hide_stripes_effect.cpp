@@ -1,26 +1,32 @@
 #include "effects/hide_stripes_effect.h"
 
-#include <utility>
-
 namespace nocturo {
 
 namespace {
 
-// Exchanges each pair twice, so the curve keeps its order: unlike inverting, overexposing has a
-// direction only in its target.
-void exchangeEveryPairTwice(ZQGammaCurve* curve) {
-    for (std::uint32_t i = 0; i < curve->sampleCount; ++i) {
-        const std::uint32_t mirror = curve->sampleCount - 1 - i;
-        std::swap(curve->redTable[i], curve->redTable[mirror]);
-        std::swap(curve->greenTable[i], curve->greenTable[mirror]);
-        std::swap(curve->blueTable[i], curve->blueTable[mirror]);
+// The two never are the same entry, which lets a compiler see what becomes of the pair.
+void exchangeTwice(float* __restrict entry, float* __restrict mirror) {
+    float kept = *entry;
+    *entry = *mirror;
+    *mirror = kept;
+    kept = *entry;
+    *entry = *mirror;
+    *mirror = kept;
+}
+
+// The curve keeps its order: unlike inverting, overexposing has a direction only in its target.
+void exchangeEveryPairTwice(ZQGammaTable& table, std::uint32_t count) {
+    for (std::uint32_t i = 0; i < count / 2; ++i) {
+        exchangeTwice(&table[i], &table[count - 1 - i]);
     }
 }
 
 } // namespace
 
 void NDHideStripesEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve) {
-    exchangeEveryPairTwice(curve);
+    for (ZQGammaTable* table : {&curve->redTable, &curve->greenTable, &curve->blueTable}) {
+        exchangeEveryPairTwice(*table, curve->sampleCount);
+    }
     const float start = curve->redTable[0] + curve->greenTable[0] + curve->blueTable[0];
     const float target = 1.5F > start ? 0.0F : 1.0F;
     ZQGammaCurveBlendUniform(curve, target, -0.1F);

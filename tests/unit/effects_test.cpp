@@ -1,4 +1,10 @@
+#include "effects/color_filter_effect.h"
+#include "effects/dim_effect.h"
 #include "effects/effect_registry.h"
+#include "effects/group_effect.h"
+#include "effects/hdtv_luminance_effect.h"
+#include "effects/hide_stripes_effect.h"
+#include "effects/invert_effect.h"
 #include "expected/expected_curves.h"
 #include "platform/notification_center.h"
 #include "platform/settings/defaults_store.h"
@@ -169,13 +175,14 @@ TEST_F(Effects, NamesPrioritiesAndIntervals) {
     const std::pair<const char*, int> all[] = {
         {"NDInvertEffect", 10},      {"NDHideStripesEffect", 13},   {"NDDimEffect", 20},
         {"NDColorFilterEffect", 30}, {"NDHDTVLuminanceEffect", 40}, {"NDGroupEffect", 0}};
+    std::pmr::monotonic_buffer_resource memory;
     for (const auto& [name, priority] : all) {
-        const auto effect = effectNamed(name);
-        ASSERT_TRUE(effect) << name;
-        EXPECT_EQ((*effect)->name(), name);
-        EXPECT_EQ((*effect)->priority(), priority);
+        const NDEffect* effect = effectNamed(name, memory);
+        ASSERT_NE(effect, nullptr) << name;
+        EXPECT_EQ(effect->name(), name);
+        EXPECT_EQ(effect->priority(), priority);
     }
-    EXPECT_FALSE(effectNamed("NDEffect"));
+    EXPECT_EQ(effectNamed("NDEffect", memory), nullptr);
     using enum NSComparisonResult;
     const NDInvertEffect invert;
     EXPECT_EQ(invert.priorityCompare(NDDimEffect()), NSOrderedAscending);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace nocturo {
+
+/// Prints a figure beside the most that it may be.
+inline void printFigure(const std::string& what, double figure, double target, const char* unit) {
+    std::printf("%-58s %9.2f %-4s target %8.2f  %s\n", what.c_str(), figure, unit, target,
+                figure <= target ? "held" : "MISSED");
+    std::fflush(stdout);
+}
+
+/// The value that `share` (0 to 1) of the samples do not exceed; the samples are reordered.
+inline double percentile(std::vector<double>& samples, double share) {
+    const auto last = static_cast<double>(samples.size() - 1);
+    const auto place = samples.begin() + static_cast<std::ptrdiff_t>(last * share + 0.5);
+    std::nth_element(samples.begin(), place, samples.end());
+    return *place;
+}
+
+} // namespace nocturo
