@@ -164,27 +164,26 @@ void BusFace::RemoveEffects(const QStringList& names) {
 }
 
 void BusFace::SetSetting(const QString& key, const QDBusVariant& value) {
-    const Setting* setting = settingNamed(key.toStdString());
+    const Setting* setting = knownSetting(key);
     if (setting == nullptr) {
-        refuse("There is no setting \"" + key.toStdString() + "\".");
         return;
     }
-    // A value of a type that no setting has is refused like any other wrong one.
-    auto stored = propertyValue(value.variant()).value_or(PropertyValue(PropertyDictionary()));
-    if (const auto problem = problemWith(*setting, stored)) {
+    auto stored = propertyValue(value.variant());
+    if (!stored) {
+        refuse("No setting takes a value of this type.");
+        return;
+    }
+    if (const auto problem = problemWith(*setting, *stored)) {
         refuse(*problem);
         return;
     }
-    defaults_.setObject(std::move(stored), setting->key);
+    defaults_.setObject(*std::move(stored), setting->key);
 }
 
 void BusFace::ResetSetting(const QString& key) {
-    const Setting* setting = settingNamed(key.toStdString());
-    if (setting == nullptr) {
-        refuse("There is no setting \"" + key.toStdString() + "\".");
-        return;
+    if (const Setting* setting = knownSetting(key)) {
+        defaults_.removeObjectForKey(setting->key);
     }
-    defaults_.removeObjectForKey(setting->key);
 }
 
 void BusFace::ToggleScreen(uint id) {
@@ -234,6 +233,14 @@ void BusFace::announce() {
                                    QStringLiteral("PropertiesChanged"));
     signal << kInterface << changed << QStringList();
     bus_->send(signal);
+}
+
+const Setting* BusFace::knownSetting(const QString& key) {
+    const Setting* setting = settingNamed(key.toStdString());
+    if (setting == nullptr) {
+        refuse("There is no setting \"" + key.toStdString() + "\".");
+    }
+    return setting;
 }
 
 void BusFace::refuse(const std::string& sentence) {

@@ -7,11 +7,15 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <optional>
+#include <string>
+
 namespace nocturo {
 
 class DefaultsStore;
 class NDAppController;
 class NotificationCenter;
+struct Setting;
 
 /// The application's object on the session bus; its interface and what each member does stand in
 /// org.nocturo.Nocturo1.xml.
@@ -65,6 +69,11 @@ class BusFace : public QObject, protected QDBusContext {
   private:
     QVariantMap snapshot() const;
     void announce();
+
+    /// The setting of that key; otherwise null, and the call is refused.
+    const Setting* knownSetting(const QString& key);
+
+    /// Answers the call being handled with an error.
     void refuse(const std::string& sentence);
 
     NDAppController& controller_;
