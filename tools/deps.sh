@@ -14,6 +14,8 @@ packages=(
   libplist-dev              # property lists
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
+  libxcb-xkb-dev            # keyboard events
+  libxkbcommon-x11-dev      # what keys type
   libsystemd-dev            # nocturoctl's bus
   nlohmann-json3-dev        # status --json
   # Testing
@@ -22,9 +24,13 @@ packages=(
   libbenchmark-dev          # benchmarks
   xserver-xorg-core         # real X server
   xserver-xorg-video-dummy  # displays without hardware
+  libxcb-xtest0-dev         # real key presses
+  x11-xkb-utils             # setxkbmap, which changes layouts
+  xdotool                   # typing into windows
   xvfb                      # an X server with all-zero ramps
   x11-xserver-utils         # xrandr, which lights displays
   dbus-daemon               # a session bus for each test
+  locales                   # one with a comma in its numbers
   python3                   # the tests' own calculation
   # Linting
   git                       # which files are ours
@@ -34,8 +40,8 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr dbus-daemon python3)
-modules=(libplist-2.0 xcb xcb-randr libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr setxkbmap xdotool dbus-daemon python3)
+modules=(libplist-2.0 xcb xcb-randr xcb-xkb xcb-xtest xkbcommon-x11 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
 install_on_debian() {
@@ -75,7 +81,7 @@ list_elsewhere() {
   done
   echo "This is not Debian or a relative of it, so nothing is installed. Nocturo needs:"
   echo "  programs:  ${programs[*]}"
-  echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Gui and DBus"
+  echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Widgets and DBus"
   echo "  Xorg's dummy video driver for the tests; for lint: ${linters[*]}"
   if [ "${#wanted[@]}" -gt 0 ]; then
     echo "Missing for make lint: ${wanted[*]}"

@@ -2,10 +2,12 @@
 
 #include "display/screen_controller.h"
 #include "effects/group_effect.h"
+#include "hotkeys/action_target.h"
 #include "platform/displays/display_services.h"
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,20 +30,22 @@ inline constexpr std::string_view NSApplicationDidChangeScreenParametersNotifica
 /// Switches the combined effect on and off, keeps one screen controller for each affected online
 /// display while it is on, and applies it again on a timer and after every change of a setting.
 /// Settings are read when needed and never kept. Main thread only.
-class NDAppController {
+///
+/// The hot key's target: it responds to "toggleGlobalEffect:".
+class NDAppController : public ActionTarget {
   public:
     using ScreenControllers = std::vector<std::unique_ptr<NDScreenController>>;
 
     /// All three must outlive the controller. Nothing is touched until the launch.
     NDAppController(DefaultsStore& defaults, NotificationCenter& localCenter, RunLoop& runLoop);
-    ~NDAppController();
+    ~NDAppController() override;
     NDAppController(const NDAppController&) = delete;
     NDAppController& operator=(const NDAppController&) = delete;
 
     // Launch and end
 
-    /// Registers the defaults and switches the effect as "ActivateAtLaunch" and the saved
-    /// "EffectActive" say.
+    /// Registers the defaults, switches the effect as "ActivateAtLaunch" and the saved
+    /// "EffectActive" say, and registers the hot key.
     void applicationDidFinishLaunching();
 
     /// Registers the default settings and starts following changes of settings and screens.
@@ -82,6 +86,10 @@ class NDAppController {
     /// Follows a change of settings or screens.
     void defaultsDidChange();
 
+    /// Registers the user's hot key anew with the shared center, or none where "UseHotKey" is not
+    /// set or no key is chosen. One that the desktop refuses leaves the program without a hot key.
+    void updateHotKey();
+
     /// The display of the older single-display setting if it is online; otherwise that setting is
     /// reset and the answer is 0.
     CGDirectDisplayID validatedDisplayID();
@@ -92,6 +100,11 @@ class NDAppController {
 
     /// One per affected display; none while the effect is off.
     const std::optional<ScreenControllers>& screenControllers() const { return screenControllers_; }
+
+    bool respondsTo(std::string_view action) const override;
+    void perform(std::string_view action, const KeyEvent& event,
+                 const std::shared_ptr<void>& object) override;
+    std::string description() const override;
 
   private:
     DefaultsStore& defaults_;

@@ -13,6 +13,7 @@
 namespace nocturo {
 
 class DefaultsStore;
+class KeyboardLayout;
 class NDAppController;
 class NotificationCenter;
 struct Setting;
@@ -29,6 +30,7 @@ class BusFace : public QObject, protected QDBusContext {
     Q_PROPERTY(double ColorFilterHue READ colorFilterHue)
     Q_PROPERTY(double ColorFilterVividness READ colorFilterVividness)
     Q_PROPERTY(QList<qlonglong> AffectedScreenSet READ affectedScreens)
+    Q_PROPERTY(QVariantMap HotKey READ hotKey)
     Q_PROPERTY(QVariantMap Settings READ settings)
 
   public:
@@ -39,6 +41,9 @@ class BusFace : public QObject, protected QDBusContext {
     /// Puts the object on the bus and takes the application's name. False when another process has
     /// it: then that one is asked to be re-opened. Calls wait until the event loop runs.
     bool takeName(const QDBusConnection& bus);
+
+    /// Names and reads keys by this layout, which must outlive the face; null for none.
+    void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
 
     /// Announces changes from now on. Call it after the launch, so that the controller, which
     /// follows the same notifications, has acted before a change is announced.
@@ -52,6 +57,7 @@ class BusFace : public QObject, protected QDBusContext {
     double colorFilterHue() const;
     double colorFilterVividness() const;
     QList<qlonglong> affectedScreens() const;
+    QVariantMap hotKey() const;
     QVariantMap settings() const;
 
   public Q_SLOTS:
@@ -63,6 +69,7 @@ class BusFace : public QObject, protected QDBusContext {
     void ResetSetting(const QString& key);
     void ToggleScreen(uint id);
     void AffectAllScreens();
+    void SetHotKey(const QString& text);
     void Reopen();
     void Quit();
 
@@ -79,6 +86,7 @@ class BusFace : public QObject, protected QDBusContext {
     NDAppController& controller_;
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
+    KeyboardLayout* layout_ = nullptr;
     std::optional<QDBusConnection> bus_;
     QVariantMap announced_;
 };
