@@ -50,6 +50,16 @@ PropertyArray allEffects() {
     return names;
 }
 
+/// Reads again and again: servers tell nobody that a ramp was written.
+void waitForChange(rig::XClient& observer, std::uint32_t crtc, const rig::Channels& before) {
+    const auto start = SteadyClock::now();
+    while (observer.ramp(crtc) == before) {
+        if (microsecondsSince(start) > 1e6) {
+            throw std::runtime_error("the last display's ramp did not change");
+        }
+    }
+}
+
 /// From the call that changes a setting to the last display's ramp seen changed by another program;
 /// the way over the bus and back is part of it.
 void measureSettingsWrite(rig::Session& session, BusClient& client) {
@@ -62,11 +72,8 @@ void measureSettingsWrite(rig::Session& session, BusClient& client) {
         const auto before = observer.ramp(last);
         const auto start = SteadyClock::now();
         client.callSetSetting("NDDimEffectLevel", i % 2 == 0 ? -0.25 : -0.75);
-        const bool changed = observer.ramp(last) != before;
+        waitForChange(observer, last, before);
         samples.push_back(microsecondsSince(start));
-        if (!changed) {
-            throw std::runtime_error("a settings write did not reach the last display");
-        }
     }
     std::printf("settings write to the last of four ramps: median %.0f us\n",
                 percentile(samples, 0.5));
@@ -160,11 +167,7 @@ void measureHotKey(rig::Session& session, BusClient& client) {
         keyboard.press(KEY_F5);
         const auto start = SteadyClock::now();
         keyboard.release(KEY_F5);
-        while (observer.ramp(last) == before) {
-            if (microsecondsSince(start) > 1e6) {
-                throw std::runtime_error("the hot key did not reach the last display");
-            }
-        }
+        waitForChange(observer, last, before);
         samples.push_back(microsecondsSince(start));
         keyboard.release(KEY_LEFTMETA);
     }
