@@ -11,7 +11,7 @@ release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run test unit-asan bench lint lint-text format install clean
+.PHONY: help deps build run test soak unit-asan bench lint lint-text format install clean
 
 help: ## this list
 	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
@@ -19,7 +19,7 @@ help: ## this list
 deps: ## installs what is needed, or says what is missing where there is no apt
 	@tools/deps.sh
 
-build: ## leaves nocturo and nocturoctl in build/release/bin
+build: ## leaves the programs in build/release/bin
 	cmake --preset release -DNOCTURO_WERROR=$(WERROR) -DCMAKE_INSTALL_PREFIX=$(PREFIX)
 	cmake --build --preset release --parallel $(JOBS)
 
@@ -27,7 +27,10 @@ run: deps build ## builds and starts Nocturo with ARGS="..."
 	@tools/run.sh $(release)/bin/nocturo $(ARGS)
 
 test: deps build ## builds and runs every test
-	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS)
+	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^soak$$'
+
+soak: deps build ## builds and runs the tests that take minutes
+	@ctest --preset release --no-tests=error --label-regex '^soak$$'
 
 unit-asan: ## runs the unit tests under AddressSanitizer and UndefinedBehaviorSanitizer
 	cmake --preset asan

@@ -10,6 +10,7 @@
 #include "platform/desktop/session_bus.h"
 #include "platform/desktop/socket_watch.h"
 #include "platform/displays/display_functions.h"
+#include "platform/displays/guarded/guard_process.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
 #include "platform/settings/defaults_store.h"
@@ -82,14 +83,16 @@ int run(QCoreApplication& application, const RunOptions& options) {
     NDAppController controller(*defaults, localCenter, runLoop);
     BusFace face(controller, *defaults, localCenter);
 
-    const PosixSignals signals({SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal},
-                               [&](int number) {
-                                   if (number == InstanceLock::kReopenSignal) {
-                                       controller.applicationShouldHandleReopen(false);
-                                   } else {
-                                       QCoreApplication::quit();
-                                   }
-                               });
+    const PosixSignals signals(
+        {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal, kSwitchOffSignal}, [&](int number) {
+            if (number == InstanceLock::kReopenSignal) {
+                controller.applicationShouldHandleReopen(false);
+            } else if (number == kSwitchOffSignal) {
+                controller.setEffectActive(false, true);
+            } else {
+                QCoreApplication::quit();
+            }
+        });
     const SessionClaim claim(face, *directory);
     if (!claim.isGranted()) {
         tell(stdout, "Nocturo is already running.");
@@ -113,6 +116,8 @@ int run(QCoreApplication& application, const RunOptions& options) {
             QCoreApplication::exit(kFailure);
         }
     });
+
+    const auto guardWatch = whenReadable(displays.guardEndDescriptor, displays.processGuardEnd);
 
     controller.applicationDidFinishLaunching();
     const DesktopHotKeys hotKeys(xDisplay);

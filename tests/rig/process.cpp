@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <filesystem>
+#include <fstream>
 #include <system_error>
 
 #include <fcntl.h>
@@ -63,6 +65,10 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
         (void)!write(STDERR_FILENO, text, strlen(text));
     }
     _exit(127);
+}
+
+int exitCodeOf(int status) {
+    return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
 } // namespace
@@ -140,7 +146,7 @@ void Process::reap(bool block) {
     if (exitCode_ || waitpid(id_, &status, block ? 0 : WNOHANG) != id_) {
         return;
     }
-    exitCode_ = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+    exitCode_ = exitCodeOf(status);
 }
 
 void Process::takeIn(Stream& stream) {
@@ -212,6 +218,39 @@ const std::string& Process::output() {
 const std::string& Process::errors() {
     takeIn();
     return errors_.text;
+}
+
+std::vector<pid_t> childrenNamed(pid_t parent, const std::string& name) {
+    std::vector<pid_t> children;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+        // "17 (name) S 1 ..."; entries that are no processes have no such file.
+        std::ifstream stat(entry.path() / "stat");
+        std::string text;
+        std::getline(stat, text);
+        const auto end = text.rfind(") ");
+        if (end == std::string::npos || text.substr(0, end).find(" (" + name) == text.npos) {
+            continue;
+        }
+        if (std::stoi(text.substr(end + 4)) == parent) {
+            children.push_back(std::stoi(text));
+        }
+    }
+    return children;
+}
+
+void inheritOrphans() {
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
+}
+
+std::optional<int> waitForChild(pid_t child, Milliseconds timeout) {
+    const FileDescriptor end(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
+    pollfd source{end.get(), POLLIN, 0};
+    int status = 0;
+    if (end.get() < 0 || poll(&source, 1, static_cast<int>(timeout.count())) != 1 ||
+        waitpid(child, &status, 0) != child) {
+        return std::nullopt;
+    }
+    return exitCodeOf(status);
 }
 
 } // namespace nocturo::rig

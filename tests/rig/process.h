@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rig/file_descriptor.h"
+#include "platform/file_descriptor.h"
 #include "rig/wait.h"
 
 #include <map>
@@ -72,5 +72,14 @@ class Process {
     std::size_t linesRead_ = 0; // where the next line begins
     std::optional<int> exitCode_;
 };
+
+/// The processes of that name (at most 15 bytes count) that `parent` started or inherited.
+std::vector<pid_t> childrenNamed(pid_t parent, const std::string& name);
+
+/// Makes this process inherit what the programs that it starts leave behind when they end.
+void inheritOrphans();
+
+/// Waits for a child of this process that is no Process; its exit as Process::wait tells it.
+std::optional<int> waitForChild(pid_t child, Milliseconds timeout = kPatience);
 
 } // namespace nocturo::rig

@@ -80,6 +80,10 @@ BusClient::BusClient() {
     bus_.reset(bus);
 }
 
+void BusClient::setPatience(std::chrono::microseconds patience) {
+    sd_bus_set_method_call_timeout(bus_.get(), static_cast<std::uint64_t>(patience.count()));
+}
+
 void BusClient::call(const char* method) {
     send(newCall(kInterface, method));
 }

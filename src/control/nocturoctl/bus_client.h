@@ -2,6 +2,7 @@
 
 #include "platform/property_value.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -17,6 +18,9 @@ using Json = nlohmann::ordered_json;
 class BusClient {
   public:
     BusClient();
+
+    /// How long to wait for an answer, instead of the bus library's 25 seconds.
+    void setPatience(std::chrono::microseconds patience);
 
     void call(const char* method);
     void call(const char* method, bool argument);

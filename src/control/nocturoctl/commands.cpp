@@ -4,6 +4,7 @@
 #include "control/nocturoctl/bus_client.h"
 #include "control/nocturoctl/failure.h"
 #include "control/nocturoctl/report.h"
+#include "control/nocturoctl/restore.h"
 #include "control/nocturoctl/setting_text.h"
 #include "hotkeys/hot_key_text.h"
 
@@ -39,6 +40,11 @@ void runToggle(Arguments arguments) {
 void runQuit(Arguments arguments) {
     expect(arguments.empty());
     BusClient().call("Quit");
+}
+
+void runRestore(Arguments arguments) {
+    expect(arguments.empty());
+    restoreDisplays();
 }
 
 void runStatus(Arguments arguments) {
@@ -236,6 +242,10 @@ constexpr std::array kCommands = std::to_array<Command>({
      runHotKey},
     {"watch", "", "print every change as it happens",
      "One JSON object a line, with what changed. Ends when Nocturo does.", runWatch},
+    {"restore", "", "give every display its own colors back",
+     "Whether Nocturo runs, answers or was killed, and without a session bus as well. Where\n"
+     "nothing is known of a display's own colors it gets plain ones.",
+     runRestore},
     {"quit", "", "give the displays back and end Nocturo", "", runQuit},
 });
 

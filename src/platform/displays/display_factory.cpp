@@ -1,5 +1,8 @@
 #include "platform/displays/display_factory.h"
 
+#include "platform/displays/guarded/display_repair.h"
+#include "platform/displays/guarded/guarded_hardware.h"
+#include "platform/displays/guarded/journal.h"
 #include "platform/displays/ramp_display_services.h"
 #include "platform/displays/randr/randr_hardware.h"
 #include "platform/displays/simulated/simulated_hardware.h"
@@ -22,7 +25,8 @@ OpenedDisplays failed(std::string problem) {
     return opened;
 }
 
-OpenedDisplays openRandr(const std::string& xDisplay) {
+OpenedDisplays openRandr(const std::string& xDisplay,
+                         const std::filesystem::path& runtimeDirectory) {
     if (xDisplay.empty()) {
         return failed("There is no X server to work with, because DISPLAY is not set." +
                       std::string(kTrySimulated));
@@ -38,12 +42,21 @@ OpenedDisplays openRandr(const std::string& xDisplay) {
         return failed("The X server " + xDisplay + " cannot be used: " + opening.reason + "." +
                       std::string(kTrySimulated));
     }
+    // Before anything is captured, so that no effect is ever taken for a display's own colours.
+    const auto journal = journalFile(runtimeDirectory, xDisplay);
+    if (repairDisplays(*opening.hardware, journal) == Repair::inUse) {
+        return failed("Another Nocturo drives the displays of the X server " + xDisplay + ".");
+    }
+    auto guarded =
+        std::make_unique<GuardedHardware>(std::move(opening.hardware), xDisplay, journal);
     OpenedDisplays opened;
-    RandrHardware* hardware = opening.hardware.get(); // lives as long as the services
-    opened.eventDescriptor = hardware->descriptor();
-    opened.processEvents = [hardware] { hardware->processEvents(); };
-    opened.connectionLost = [hardware] { return hardware->connectionLost(); };
-    opened.services = std::make_unique<RampDisplayServices>(std::move(opening.hardware));
+    GuardedHardware* hardware = guarded.get(); // lives as long as the services
+    opened.eventDescriptor = hardware->displays().descriptor();
+    opened.processEvents = [hardware] { hardware->displays().processEvents(); };
+    opened.connectionLost = [hardware] { return hardware->displays().connectionLost(); };
+    opened.guardEndDescriptor = hardware->guardEndDescriptor();
+    opened.processGuardEnd = [hardware] { hardware->processGuardEnd(); };
+    opened.services = std::make_unique<RampDisplayServices>(std::move(guarded));
     logInfo(kCategory, "Displays are those of the X server " + xDisplay + ".");
     return opened;
 }
@@ -87,10 +100,10 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
 
 OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings) {
     if (choice.kind == DisplayChoice::Kind::simulated) {
-        return openSimulated(choice.simulatedCount, surroundings.pictureDirectory);
+        return openSimulated(choice.simulatedCount, surroundings.runtimeDirectory);
     }
     // X servers are all there is to find so far, so "auto" looks where "randr" does.
-    return openRandr(surroundings.xDisplay);
+    return openRandr(surroundings.xDisplay, surroundings.runtimeDirectory);
 }
 
 } // namespace nocturo

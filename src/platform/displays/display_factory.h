@@ -25,7 +25,7 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 /// What the factory takes from the process's surroundings.
 struct DisplaySurroundings {
     std::string xDisplay; // $DISPLAY; empty when not set
-    std::filesystem::path pictureDirectory;
+    std::filesystem::path runtimeDirectory;
 };
 
 /// Display services with their place in an event loop.
@@ -36,6 +36,9 @@ struct OpenedDisplays {
     int eventDescriptor = -1;             // -1 when nothing ever comes from outside
     std::function<void()> processEvents;  // to be called when the descriptor is readable
     std::function<bool()> connectionLost; // true once the server has gone: nothing works any more
+
+    int guardEndDescriptor = -1;           // -1 where the displays need no guard
+    std::function<void()> processGuardEnd; // to be called when that descriptor is readable
 };
 
 /// Opens what was chosen, and logs it.

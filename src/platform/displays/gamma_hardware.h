@@ -42,6 +42,12 @@ class GammaHardware {
     /// the ramp for when it is switched on. Allocates nothing.
     virtual bool writeRamp(std::uint32_t crtc, const Ramp& ramp) = 0;
 
+    /// What the CRTC is to be given back; told before its first write and whenever it changes.
+    virtual void keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) {
+        static_cast<void>(crtc);
+        static_cast<void>(ramp);
+    }
+
     /// Returns once every ramp written so far is in force, for hardware that takes them later.
     virtual void waitForWrites() {}
 };

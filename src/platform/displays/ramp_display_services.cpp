@@ -29,6 +29,7 @@ bool RampDisplayServices::readTransferTable(CGDirectDisplayID display, std::uint
     }
     if (!known->systemRamp) {
         known->systemRamp = ramp;
+        keepSystemRamps();
     }
     tableFromChannel(ramp->red, capacity, red);
     tableFromChannel(ramp->green, capacity, green);
@@ -121,7 +122,21 @@ bool RampDisplayServices::refresh() {
                                          [](const DisplayInfo& info) { return info.main; })) {
         online_.front().main = true;
     }
+    keepSystemRamps();
     return true;
+}
+
+// Of displays that share a CRTC the first is the one that restoring heeds.
+void RampDisplayServices::keepSystemRamps() {
+    std::set<const Crtc*> kept;
+    const auto driven = std::min<std::size_t>(online_.size(), kZQMaxDisplays);
+    for (std::size_t i = 0; i < driven; ++i) {
+        const Display& display = displays_[online_[i].id];
+        if (display.crtc != nullptr && display.systemRamp && kept.insert(display.crtc).second) {
+            hardware_->keepSystemRamp(
+                display.crtc->id, resampledRamp(*display.systemRamp, display.crtc->scratch.size()));
+        }
+    }
 }
 
 void RampDisplayServices::takeHead(const Head& head, CGDirectDisplayID id) {

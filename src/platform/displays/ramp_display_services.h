@@ -58,6 +58,7 @@ class RampDisplayServices : public DisplayServices {
 
     bool refresh();
     void takeHead(const Head& head, CGDirectDisplayID id);
+    void keepSystemRamps();
     Crtc& crtcOf(const Head& head);
     Display* usableDisplay(CGDirectDisplayID id);
     std::optional<Ramp> readRamp(CGDirectDisplayID id, Display& display);

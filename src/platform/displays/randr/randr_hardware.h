@@ -45,6 +45,9 @@ class RandrHardware final : public GammaHardware {
 
     bool connectionLost() const;
 
+    /// For what else is to be asked of the server. It stays the hardware's.
+    xcb_connection_t* connection() const { return connection_.get(); }
+
   private:
     RandrHardware(XcbConnection connection, int preferredScreen);
 

@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-namespace nocturo::rig {
+namespace nocturo {
 
 /// Owns a file descriptor; -1 is none.
 class FileDescriptor {
@@ -30,4 +30,4 @@ class FileDescriptor {
     int descriptor_ = -1;
 };
 
-} // namespace nocturo::rig
+} // namespace nocturo

@@ -1,0 +1,130 @@
+#include "platform/displays/guarded/display_repair.h"
+
+#include "platform/displays/guarded/journal.h"
+#include "platform/log.h"
+
+#include <algorithm>
+#include <string>
+
+// The mark on the server says whether displays are changed and by whom, the journal how they were.
+// The journal is written before the mark is set and the mark is set before the first ramp is
+// written, so a mark without a journal that fits means that the journal came to harm.
+//
+// A killed program's last requests may still wait in the server. They would undo a repair that came
+// before them, so the server's destruction of that program's window is waited for. And while one
+// repairs nobody else may start to change the displays: the server is grabbed meanwhile.
+
+namespace nocturo {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::string_view kCategory = "nocturo.displays";
+constexpr auto kPatience = 2s;
+constexpr auto kGivingBack = 500ms;
+
+// What the journal says of that run; nothing when the file is missing, damaged or another run's.
+std::optional<Journal> journalOf(std::uint64_t token, const std::filesystem::path& file) {
+    std::optional<Journal> journal = readJournal(file).journal;
+    return journal && journal->token == token ? std::move(journal) : std::nullopt;
+}
+
+void setDamagedAside(const std::filesystem::path& file) {
+    const JournalReading reading = readJournal(file);
+    if (reading.exists && !reading.journal) {
+        std::error_code ignored;
+        std::filesystem::rename(file, file.native() + ".damaged", ignored);
+    }
+}
+
+Repair writeBack(RandrHardware& hardware, const std::filesystem::path& file, std::uint64_t token) {
+    const std::optional<Journal> journal = journalOf(token, file);
+    if (!journal) {
+        logWarning(kCategory, "What was kept of the displays' own colors in " + file.string() +
+                                  " is missing or damaged, so they get plain ones.");
+        setDamagedAside(file);
+        writePlainRamps(hardware);
+        return Repair::plainRamps;
+    }
+    for (const auto& [crtc, ramp] : journal->entries) {
+        hardware.writeRamp(crtc, ramp);
+    }
+    return Repair::ownRamps;
+}
+
+Repair repairMarked(RandrHardware& hardware, const std::filesystem::path& file, ServerMark& mark,
+                    const ServerMark::Content& marked) {
+    const ServerMark::Grab grab(mark);
+    if (mark.read() != marked) {
+        return Repair::notNeeded; // somebody else was quicker
+    }
+    const Repair repair = writeBack(hardware, file, marked.token);
+    mark.remove();
+    mark.synchronize();
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
+    return repair;
+}
+
+} // namespace
+
+Repair repairDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile) {
+    ServerMark mark(hardware.connection());
+    const auto marked = mark.read();
+    if (!marked) {
+        // Of another run of the server, or of a Nocturo that was killed with everything given back.
+        std::error_code ignored;
+        std::filesystem::remove(journalFile, ignored);
+        return Repair::notNeeded;
+    }
+    return mark.waitUntilGone(marked->window, kPatience)
+               ? repairMarked(hardware, journalFile, mark, *marked)
+               : Repair::inUse;
+}
+
+Repair repairDisplaysAfter(const ServerMark::Content& ended, RandrHardware& hardware,
+                           const std::filesystem::path& journalFile) {
+    ServerMark mark(hardware.connection());
+    // First: even the mark may still be among what waits in the server.
+    mark.waitUntilGone(ended.window, kPatience);
+    return repairMarked(hardware, journalFile, mark, ended);
+}
+
+std::optional<pid_t> changingProcess(RandrHardware& hardware,
+                                     const std::filesystem::path& journalFile) {
+    ServerMark mark(hardware.connection());
+    const auto marked = mark.read();
+    if (!marked || !mark.isAlive(marked->window)) {
+        return std::nullopt;
+    }
+    const auto journal = journalOf(marked->token, journalFile);
+    return journal ? journal->process : 0;
+}
+
+bool waitUntilGivenBack(RandrHardware& hardware) {
+    return ServerMark(hardware.connection()).waitUntilRemoved(kGivingBack);
+}
+
+Repair overwriteDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile) {
+    const auto marked = ServerMark(hardware.connection()).read();
+    const Repair repair = writeBack(hardware, journalFile, marked ? marked->token : 0);
+    hardware.waitForWrites();
+    return repair;
+}
+
+void writePlainRamps(RandrHardware& hardware) {
+    std::vector<Head> heads;
+    if (!hardware.listHeads(heads)) {
+        return;
+    }
+    const auto driven = std::min<std::size_t>(heads.size(), kZQMaxDisplays);
+    for (std::size_t i = 0; i < driven; ++i) {
+        if (isUsableRampSize(heads[i].rampSize)) {
+            hardware.writeRamp(heads[i].crtc, identityRamp(heads[i].rampSize));
+        }
+    }
+    hardware.waitForWrites();
+}
+
+} // namespace nocturo

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/displays/randr/randr_hardware.h"
+#include "platform/displays/randr/server_mark.h"
+
+#include <filesystem>
+#include <optional>
+#include <sys/types.h>
+
+namespace nocturo {
+
+// What gives the displays of an X server back when the Nocturo that changed them has ended without
+// doing so. Every member of it may be interrupted at any moment and be done again.
+
+enum class Repair {
+    notNeeded,  // nothing was left changed
+    ownRamps,   // every display has its own ramps again
+    plainRamps, // they were not to be had: every display has the identity ramp
+    inUse,      // a Nocturo that has not ended changes the displays; nothing was done
+};
+
+/// Gives back what an ended Nocturo left. One whose connection the server still has is waited for,
+/// for two seconds.
+Repair repairDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile);
+
+/// The same after the Nocturo with that mark only, which has ended for sure, even though the server
+/// may not have noticed it yet.
+Repair repairDisplaysAfter(const ServerMark::Content& ended, RandrHardware& hardware,
+                           const std::filesystem::path& journalFile);
+
+/// The process of the Nocturo that changes the displays now, 0 where that is not to be told;
+/// nothing when there is none.
+std::optional<pid_t> changingProcess(RandrHardware& hardware,
+                                     const std::filesystem::path& journalFile);
+
+/// Waits until nobody changes the displays any more; false when it took longer than half a second.
+bool waitUntilGivenBack(RandrHardware& hardware);
+
+/// Writes what the journal has, else identity ramps, and leaves the rest to the Nocturo that goes
+/// on.
+Repair overwriteDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile);
+
+/// Gives the displays that Nocturo would drive identity ramps.
+void writePlainRamps(RandrHardware& hardware);
+
+} // namespace nocturo

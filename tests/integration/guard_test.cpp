@@ -1,0 +1,371 @@
+// Whatever becomes of Nocturo, the displays come back: on a real X server, with the processes
+// really killed.
+
+#include "rig/session.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <fstream>
+#include <random>
+
+#include <sys/resource.h>
+
+namespace nocturo::rig {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kDisplays = 4;
+constexpr Milliseconds kWithin{100};
+constexpr const char* kGuard = "nocturo-guard";
+
+class Guard : public testing::Test {
+  protected:
+    Guard() : session_(kDisplays), client_(session_.server().display()) {
+        inheritOrphans();
+        for (int i = 0; i < kDisplays; ++i) {
+            // Of a shape that no effect makes, and each display its own.
+            Channels own;
+            for (std::size_t channel = 0; channel < own.size(); ++channel) {
+                for (int entry = 0; entry < 256; ++entry) {
+                    own[channel].push_back(
+                        static_cast<std::uint16_t>(entry * entry + 7 * i + int(channel)));
+                }
+            }
+            client_.setRamp(output(i), own);
+            own_.push_back(own);
+        }
+    }
+    ~Guard() override {
+        nocturo_.reset();
+        reapGuards();
+    }
+
+    static std::string output(int number) { return "DUMMY" + std::to_string(number); }
+
+    /// With its effect on and every display changed.
+    void startChanging() {
+        nocturo_ = session_.startNocturo();
+        ctl({"effects", "only", "invert", "dim"});
+        ctl({"on"});
+        ASSERT_EQ(own(), 0);
+    }
+
+    void ctl(const std::vector<std::string>& arguments) {
+        const RunResult result = session_.run("nocturoctl", arguments);
+        EXPECT_EQ(result.exit, 0) << arguments.front() << ": " << result.errors;
+    }
+
+    /// How many displays show their own ramp, to the last bit.
+    int own() {
+        int count = 0;
+        for (int i = 0; i < kDisplays; ++i) {
+            count += client_.ramp(output(i)) == own_[static_cast<std::size_t>(i)] ? 1 : 0;
+        }
+        return count;
+    }
+    bool allOwnWithin(Milliseconds time) {
+        return waitUntil([&] { return own() == kDisplays; }, time);
+    }
+    int plain() {
+        int count = 0;
+        for (int i = 0; i < kDisplays; ++i) {
+            const Channels ramp = client_.ramp(output(i));
+            count += ramp[0] == ramp[1] && ramp[0][1] == 257 && ramp[0][255] == 65535 ? 1 : 0;
+        }
+        return count;
+    }
+
+    pid_t guardProcess() {
+        const auto guards = childrenNamed(nocturo_->id(), kGuard);
+        return guards.size() == 1 ? guards.front() : -1;
+    }
+
+    /// Waits for the guards that killed applications left to end as they should.
+    void reapGuards() {
+        for (const pid_t guard : childrenNamed(getpid(), kGuard)) {
+            const auto exit = waitForChild(guard);
+            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL) << exit.value_or(-1);
+        }
+    }
+
+    void kill(bool guardToo) {
+        const pid_t guard = guardToo ? guardProcess() : -1;
+        if (guard > 0) {
+            ::kill(guard, SIGKILL);
+        }
+        nocturo_->signal(SIGKILL);
+        nocturo_->wait();
+    }
+
+    /// The next start would find a Nocturo running that the bus has not missed yet.
+    void waitForTheBus() {
+        ASSERT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 3; }));
+    }
+
+    fs::path journal() {
+        return session_.runtimeDirectory() / "nocturo" /
+               ("ramps" + session_.environment().at("DISPLAY"));
+    }
+
+    void killAtRandomMoments(int rounds, int together);
+
+    Session session_;
+    XClient client_;
+    std::vector<Channels> own_;
+    std::unique_ptr<Process> nocturo_;
+};
+
+// What it is doing changes from round to round: starting, toggling, following a slider, nothing.
+void Guard::killAtRandomMoments(int rounds, int together) {
+    std::mt19937 random(std::random_device{}());
+    const auto moment = [&] {
+        return Milliseconds(std::uniform_int_distribution<int>(0, 60)(random));
+    };
+    startChanging();
+    ctl({"quit"});
+    nocturo_->wait();
+    for (int round = 0; round < rounds; ++round) {
+        SCOPED_TRACE("round " + std::to_string(round));
+        const int activity = round % 4;
+        std::unique_ptr<Process> driver;
+        if (activity == 0) {
+            nocturo_ = session_.start("nocturo");
+        } else {
+            nocturo_ = session_.startNocturo();
+            ctl({"on"});
+        }
+        if (activity == 1) {
+            driver = session_.start("toggle_loop", {"100000"});
+        } else if (activity == 2) {
+            driver = session_.start("toggle_loop", {"100000", "drag"});
+        }
+        ASSERT_EQ(nocturo_->wait(moment()), std::nullopt) << nocturo_->errors();
+        const bool guardToo = round * together / rounds != (round + 1) * together / rounds;
+        kill(guardToo);
+        if (guardToo) {
+            waitForTheBus();
+            nocturo_ = session_.startNocturo();
+            ctl({"off"});
+        }
+        EXPECT_TRUE(allOwnWithin(kWithin)) << own();
+        if (guardToo) {
+            ctl({"on"});
+            ctl({"quit"});
+            nocturo_->wait();
+        }
+        reapGuards();
+        waitForTheBus();
+        EXPECT_EQ(own(), kDisplays); // and they stay
+    }
+}
+
+TEST_F(Guard, KilledAtTwentyRandomMoments) {
+    killAtRandomMoments(20, 4);
+}
+
+TEST_F(Guard, SoakKilledAtTwoHundredRandomMoments) {
+    killAtRandomMoments(200, 20);
+}
+
+TEST_F(Guard, IsThereBeforeTheFirstChangeAndOnlyThen) {
+    nocturo_ = session_.startNocturo();
+    EXPECT_EQ(guardProcess(), -1); // no effect is chosen: every display keeps its own ramp
+    ctl({"effects", "only", "invert"});
+    const pid_t guard = guardProcess();
+    ASSERT_GT(guard, 0);
+    EXPECT_EQ(getsid(guard), guard);
+    EXPECT_TRUE(fs::exists(journal()));
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        ::kill(guard, number);
+    }
+    ctl({"quit"});
+    EXPECT_EQ(nocturo_->wait(), 0);
+    EXPECT_EQ(waitForChild(guard), 0);
+    EXPECT_FALSE(fs::exists(journal()));
+    EXPECT_EQ(own(), kDisplays);
+}
+
+TEST_F(Guard, WritesNothingWhereTheDisplaysWereGivenBack) {
+    startChanging();
+    ctl({"off"});
+    const Channels anothers = client_.ramp(output(1));
+    client_.setRamp(output(0), anothers);
+    kill(false);
+    reapGuards();
+    EXPECT_EQ(client_.ramp(output(0)), anothers);
+}
+
+TEST_F(Guard, AnotherTakesOverWhenItIsKilled) {
+    startChanging();
+    for (int i = 0; i < 3; ++i) {
+        const pid_t before = guardProcess();
+        ASSERT_GT(before, 0);
+        ::kill(before, SIGKILL);
+        ASSERT_TRUE(waitUntil([&] {
+            const pid_t now = guardProcess();
+            return now > 0 && now != before;
+        }));
+    }
+    kill(false);
+    EXPECT_TRUE(allOwnWithin(kWithin));
+}
+
+TEST_F(Guard, WithTheServerEverythingEndsByItself) {
+    startChanging();
+    const pid_t guard = guardProcess();
+    ASSERT_GT(guard, 0);
+    nocturo_->signal(SIGSTOP); // the guard has to notice the server's end by itself
+    session_.server().kill();
+    EXPECT_TRUE(waitUntil([&] {
+        std::ifstream stat("/proc/" + std::to_string(guard) + "/stat");
+        std::string text;
+        std::getline(stat, text);
+        return text.find(") Z ") != std::string::npos; // its parent is stopped
+    }));
+    nocturo_->signal(SIGCONT);
+    EXPECT_EQ(nocturo_->wait(), 1);
+    reapGuards();
+    rusage used{};
+    getrusage(RUSAGE_CHILDREN, &used);
+    EXPECT_EQ(childrenNamed(getpid(), kGuard).size(), 0U);
+    EXPECT_LT(used.ru_utime.tv_sec, 5); // nobody went round in circles
+}
+
+TEST_F(Guard, KilledWithTheServerItEndsToo) {
+    startChanging();
+    nocturo_->signal(SIGKILL);
+    session_.server().kill();
+    nocturo_->wait();
+    reapGuards();
+}
+
+TEST_F(Guard, ADamagedJournalGivesPlainColors) {
+    startChanging();
+    kill(true);
+    waitForTheBus();
+    std::fstream(journal(), std::ios::in | std::ios::out).seekp(1000) << "?";
+    nocturo_ = session_.start("nocturo");
+    EXPECT_TRUE(nocturo_->waitForError("is missing or damaged, so they get plain ones."));
+    session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_);
+    ctl({"off"});
+    EXPECT_EQ(plain(), kDisplays);
+    EXPECT_TRUE(fs::exists(journal().native() + ".damaged"));
+}
+
+TEST_F(Guard, AJournalOfAnotherRunIsNotBelieved) {
+    startChanging();
+    const fs::path old = session_.runtimeDirectory() / "old";
+    fs::copy_file(journal(), old);
+    ctl({"quit"});
+    nocturo_->wait();
+    for (int i = 0; i < kDisplays; ++i) {
+        std::swap(own_[static_cast<std::size_t>(i)][0], own_[static_cast<std::size_t>(i)][1]);
+        client_.setRamp(output(i), own_[static_cast<std::size_t>(i)]);
+    }
+    fs::copy_file(old, journal());
+    startChanging(); // no display was left changed: it is not even read
+    kill(true);
+    waitForTheBus();
+    fs::copy_file(old, journal(), fs::copy_options::overwrite_existing);
+    nocturo_ = session_.startNocturo();
+    ctl({"off"});
+    EXPECT_EQ(plain(), kDisplays);
+}
+
+TEST_F(Guard, RestoreByHandWorksInEverySituation) {
+    const auto restore = [&] {
+        const RunResult result = session_.run("nocturoctl", {"restore"});
+        EXPECT_EQ(result.exit, 0) << result.errors;
+        EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 1);
+        return result.output;
+    };
+    startChanging();
+    EXPECT_NE(restore().find("switched its effect off"), std::string::npos);
+    EXPECT_EQ(own(), kDisplays);
+
+    ctl({"on"});
+    const std::string address = session_.environment()["DBUS_SESSION_BUS_ADDRESS"];
+    session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
+    EXPECT_NE(restore().find("switched its effect off"), std::string::npos);
+    EXPECT_EQ(own(), kDisplays);
+    session_.environment()["DBUS_SESSION_BUS_ADDRESS"] = address;
+
+    ctl({"on"});
+    nocturo_->signal(SIGSTOP);
+    EXPECT_NE(restore().find("does not answer"), std::string::npos);
+    EXPECT_EQ(own(), kDisplays);
+    nocturo_->signal(SIGCONT);
+
+    ctl({"on"});
+    kill(true);
+    EXPECT_EQ(own(), 0);
+    EXPECT_NE(restore().find("own colors back"), std::string::npos);
+    EXPECT_EQ(own(), kDisplays);
+
+    EXPECT_NE(restore().find("plain colors now"), std::string::npos);
+    EXPECT_EQ(plain(), kDisplays);
+}
+
+/// Nocturo copied elsewhere, with whatever stands for the guard.
+class GuardElsewhere : public Guard {
+  protected:
+    GuardElsewhere() {
+        fs::create_directories(bin());
+        fs::create_directories(bin() / "../libexec");
+        fs::copy_file(built() / "nocturo", bin() / "nocturo");
+        // The saved effect is what it starts with.
+        nocturo_ = session_.startNocturo();
+        ctl({"effects", "only", "invert"});
+        ctl({"quit"});
+        nocturo_->wait();
+    }
+    static fs::path built() { return NOCTURO_BIN_DIR; }
+    fs::path bin() const { return session_.runtimeDirectory() / "elsewhere" / "bin"; }
+
+    void startFromThere() {
+        nocturo_ = session_.start(bin() / "nocturo");
+        ASSERT_TRUE(session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_));
+        ASSERT_TRUE(waitUntil([&] { return own() == 0; }));
+    }
+};
+
+TEST_F(GuardElsewhere, IsFoundWhereItIsInstalled) {
+    fs::copy_file(built() / kGuard, bin() / "../libexec" / kGuard);
+    startFromThere();
+    kill(false);
+    EXPECT_TRUE(allOwnWithin(kWithin));
+}
+
+TEST_F(GuardElsewhere, MissingItIsToldOnceAndDoneWithout) {
+    startFromThere();
+    ctl({"off"});
+    ctl({"on"});
+    nocturo_->signal(SIGTERM);
+    EXPECT_EQ(nocturo_->wait(), 0);
+    EXPECT_EQ(own(), kDisplays);
+    const std::string& errors = nocturo_->errors();
+    EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
+    EXPECT_NE(errors.find("cannot be had (No such file or directory)"), std::string::npos);
+
+    startFromThere();
+    kill(false);
+    EXPECT_EQ(own(), 0);
+    ctl({"restore"});
+    EXPECT_EQ(own(), kDisplays);
+}
+
+TEST_F(GuardElsewhere, OneThatDoesNotStayAliveIsGivenUp) {
+    fs::copy_file("/bin/false", bin() / kGuard);
+    startFromThere();
+    EXPECT_TRUE(nocturo_->waitForError("it does not stay alive"));
+    ctl({"off"});
+    EXPECT_EQ(own(), kDisplays);
+}
+
+} // namespace
+
+} // namespace nocturo::rig

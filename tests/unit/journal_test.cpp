@@ -1,0 +1,93 @@
+#include "platform/displays/guarded/journal.h"
+#include "temporary_directory.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <limits>
+#include <numeric>
+
+namespace nocturo {
+
+namespace {
+
+Ramp countingRamp(std::uint32_t size, std::uint16_t first) {
+    Ramp ramp(size);
+    for (auto* channel : {&ramp.red, &ramp.green, &ramp.blue}) {
+        std::iota(channel->begin(), channel->end(), first++);
+    }
+    return ramp;
+}
+
+Journal someJournal() {
+    return {0xfedcba9876543210U, 4711, {{63, countingRamp(5, 300)}, {64, countingRamp(2, 65530)}}};
+}
+
+TEST(Journal, ComesBackAsItWas) {
+    for (const Journal& journal :
+         {Journal{}, someJournal(), Journal{1, 2, {{7, countingRamp(kMaxRampSize, 0)}}}}) {
+        EXPECT_TRUE(journalFromBytes(journalBytes(journal)) == journal);
+    }
+}
+
+TEST(Journal, CutExtendedOrChangedItIsRefused) {
+    const std::string whole = journalBytes(someJournal());
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(journalFromBytes(std::string_view(whole).substr(0, length))) << length;
+    }
+    EXPECT_FALSE(journalFromBytes(whole + '\0'));
+    for (std::size_t bit = 0; bit < 8 * whole.size(); ++bit) {
+        std::string changed = whole;
+        changed[bit / 8] = static_cast<char>(changed[bit / 8] ^ (1 << bit % 8));
+        EXPECT_FALSE(journalFromBytes(changed)) << bit;
+    }
+}
+
+// With a checksum that fits, as somebody who means harm would make it.
+TEST(Journal, SizesBeyondTheDataAreRefused) {
+    for (const std::uint32_t size : {0U, 1U, kMaxRampSize + 1}) {
+        EXPECT_FALSE(journalFromBytes(journalBytes({1, 2, {{7, Ramp(size)}}}))) << size;
+    }
+    Journal uneven = someJournal();
+    uneven.entries[1].ramp.blue.clear();
+    EXPECT_FALSE(journalFromBytes(journalBytes(uneven)));
+}
+
+TEST(Journal, AFileIsReplacedAndReadBack) {
+    const TemporaryDirectory directory;
+    const auto file = directory / "ramps";
+    EXPECT_FALSE(readJournal(file).exists);
+    EXPECT_EQ(writeJournal(file, Journal{}), 0);
+    EXPECT_EQ(writeJournal(file, someJournal()), 0);
+    EXPECT_TRUE(readJournal(file).journal == someJournal());
+    EXPECT_EQ(std::filesystem::status(file).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    EXPECT_EQ(writeJournal(directory / "none/ramps", Journal{}), ENOENT);
+
+    std::ofstream(file) << "something else";
+    EXPECT_TRUE(readJournal(file).exists);
+    EXPECT_FALSE(readJournal(file).journal);
+}
+
+TEST(Journal, WhatIsNotAPlainFileCountsAsDamaged) {
+    const TemporaryDirectory directory;
+    writeJournal(directory / "real", someJournal());
+    std::filesystem::create_symlink(directory / "real", directory / "link");
+    std::filesystem::create_directory(directory / "directory");
+    for (const char* name : {"link", "directory"}) {
+        const JournalReading reading = readJournal(directory / name);
+        EXPECT_TRUE(reading.exists && !reading.journal) << name;
+    }
+}
+
+TEST(Journal, OneFileForAllScreensOfAServer) {
+    EXPECT_EQ(journalFile("/run", ":0.1"), journalFile("/run", ":0"));
+    EXPECT_EQ(journalFile("/run", "a.b:1.0"), journalFile("/run", "a.b:1"));
+    EXPECT_NE(journalFile("/run", "a.b:1"), journalFile("/run", "a:1"));
+    EXPECT_NE(journalFile("/run", ":1"), journalFile("/run", ":10"));
+    EXPECT_EQ(journalFile("/run", "unix/../../etc:0").parent_path(), "/run");
+}
+
+} // namespace
+
+} // namespace nocturo
