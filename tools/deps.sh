@@ -14,6 +14,7 @@ packages=(
   libplist-dev              # property lists
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
+  libxcb-screensaver0-dev   # screen savers of an X server
   libsystemd-dev            # nocturoctl's bus
   nlohmann-json3-dev        # status --json
   # Testing
@@ -23,9 +24,11 @@ packages=(
   xserver-xorg-core         # real X server
   xserver-xorg-video-dummy  # displays without hardware
   xvfb                      # an X server with all-zero ramps
-  x11-xserver-utils         # xrandr, which lights displays
+  x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
   dbus-daemon               # a session bus for each test
   python3                   # the tests' own calculation
+  python3-dbusmock          # a login manager and screen savers for tests
+  xscreensaver              # a screen saver that is like no other
   # Linting
   git                       # which files are ours
   clang-format              # layout
@@ -34,8 +37,8 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr dbus-daemon python3)
-modules=(libplist-2.0 xcb xcb-randr libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr xset xscreensaver dbus-daemon python3)
+modules=(libplist-2.0 xcb xcb-randr xcb-screensaver libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
 install_on_debian() {
