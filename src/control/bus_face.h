@@ -13,6 +13,7 @@
 namespace nocturo {
 
 class DefaultsStore;
+class DisturbanceWatch;
 class NDAppController;
 class NotificationCenter;
 struct Setting;
@@ -30,10 +31,13 @@ class BusFace : public QObject, protected QDBusContext {
     Q_PROPERTY(double ColorFilterVividness READ colorFilterVividness)
     Q_PROPERTY(QList<qlonglong> AffectedScreenSet READ affectedScreens)
     Q_PROPERTY(QVariantMap Settings READ settings)
+    Q_PROPERTY(uint Disturbances READ disturbances)
+    Q_PROPERTY(QString Disturber READ disturber)
 
   public:
-    /// All three must outlive the face.
-    BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter);
+    /// All must outlive the face.
+    BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
+            const DisturbanceWatch& disturbances);
     ~BusFace() override;
 
     /// Puts the object on the bus and takes the application's name. False when another process has
@@ -53,6 +57,8 @@ class BusFace : public QObject, protected QDBusContext {
     double colorFilterVividness() const;
     QList<qlonglong> affectedScreens() const;
     QVariantMap settings() const;
+    uint disturbances() const;
+    QString disturber() const;
 
   public Q_SLOTS:
     void SetActive(bool active);
@@ -79,6 +85,7 @@ class BusFace : public QObject, protected QDBusContext {
     NDAppController& controller_;
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
+    const DisturbanceWatch& disturbances_;
     std::optional<QDBusConnection> bus_;
     QVariantMap announced_;
 };

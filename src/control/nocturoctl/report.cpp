@@ -15,9 +15,9 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::array<const char*, 8> kStatusOrder = {
-    "active",         "displayServices",      "displays",         "effects", "dimLevel",
-    "colorFilterHue", "colorFilterVividness", "affectedScreenSet"};
+constexpr std::array<const char*, 10> kStatusOrder = {
+    "active",         "displayServices",      "displays",          "effects",      "dimLevel",
+    "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "disturbances", "disturber"};
 constexpr std::array<const char*, 7> kDisplayOrder = {"number",   "id",       "name",   "main",
                                                       "rampSize", "affected", "applied"};
 
@@ -87,6 +87,18 @@ Row parameterRow(const Json& properties, const char* title, const char* name) {
     return {title, plain(properties[name])};
 }
 
+// Nothing as long as nobody disturbs.
+std::string disturbanceReport(const Json& properties) {
+    const auto count = properties["disturbances"].get<unsigned>();
+    if (count == 0) {
+        return {};
+    }
+    const std::string name = plain(properties["disturber"]);
+    return (name.empty() ? "Another program" : name) + " changes the colors too: found " +
+           std::to_string(count) + (count == 1 ? " time" : " times") +
+           " since Nocturo was started.\n";
+}
+
 } // namespace
 
 std::string statusReport(const Json& properties) {
@@ -97,7 +109,8 @@ std::string statusReport(const Json& properties) {
                    parameterRow(properties, "color filter hue", "colorFilterHue"),
                    parameterRow(properties, "color filter vividness", "colorFilterVividness"),
                    {"display services", plain(properties["displayServices"])}});
-    text += "\nDisplays\n" + screensReport(properties) + "\nSettings\n";
+    text +=
+        "\nDisplays\n" + screensReport(properties) + disturbanceReport(properties) + "\nSettings\n";
     std::vector<Row> rows;
     for (const Setting& setting : settingsTable()) {
         const std::string key(setting.key);
