@@ -6,13 +6,19 @@
 #include "control/nocturoctl/failure.h"
 #include "effects/effect_registry.h"
 #include "figures.h"
+#include "hotkeys/hot_key_center.h"
+#include "hotkeys/key_naming.h"
 #include "platform/displays/display_functions.h"
 #include "platform/displays/ramp_display_services.h"
 #include "platform/displays/randr/randr_hardware.h"
+#include "platform/hotkeys/x11/x11_hot_key_service.h"
+#include "platform/keyboard/modifier_flags.h"
+#include "platform/keyboard/xkb/xkb_keyboard_layout.h"
 #include "platform/notification_center.h"
 #include "platform/run_loop.h"
 #include "platform/settings/defaults_store.h"
 #include "rig/session.h"
+#include "rig/x_keyboard.h"
 
 #include <chrono>
 #include <ctime>
@@ -20,6 +26,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <linux/input-event-codes.h>
+#include <poll.h>
 #include <stdexcept>
 #include <sys/timerfd.h>
 #include <unistd.h>
@@ -42,6 +50,16 @@ PropertyArray allEffects() {
     return names;
 }
 
+/// Reads again and again: servers tell nobody that a ramp was written.
+void waitForChange(rig::XClient& observer, std::uint32_t crtc, const rig::Channels& before) {
+    const auto start = SteadyClock::now();
+    while (observer.ramp(crtc) == before) {
+        if (microsecondsSince(start) > 1e6) {
+            throw std::runtime_error("the last display's ramp did not change");
+        }
+    }
+}
+
 /// From the call that changes a setting to the last display's ramp seen changed by another program;
 /// the way over the bus and back is part of it.
 void measureSettingsWrite(rig::Session& session, BusClient& client) {
@@ -54,11 +72,8 @@ void measureSettingsWrite(rig::Session& session, BusClient& client) {
         const auto before = observer.ramp(last);
         const auto start = SteadyClock::now();
         client.callSetSetting("NDDimEffectLevel", i % 2 == 0 ? -0.25 : -0.75);
-        const bool changed = observer.ramp(last) != before;
+        waitForChange(observer, last, before);
         samples.push_back(microsecondsSince(start));
-        if (!changed) {
-            throw std::runtime_error("a settings write did not reach the last display");
-        }
     }
     std::printf("settings write to the last of four ramps: median %.0f us\n",
                 percentile(samples, 0.5));
@@ -84,6 +99,82 @@ double processorMicroseconds() {
     return static_cast<double>(now.tv_sec) * 1e6 + static_cast<double>(now.tv_nsec) / 1e3;
 }
 
+/// Super+F5 in the settings, for whoever reads them.
+void chooseHotKey(DefaultsStore& store) {
+    store.setInteger(96, "HotKeyCode");
+    store.setInteger(static_cast<std::int64_t>(NSCommandKeyMask), "HotKeyModifiers");
+    store.setBool(true, "UseHotKey");
+}
+
+/// From the moment that a key's release can be read to the last ramp sent.
+void measureOwnPartOfHotKey(rig::Session& session) {
+    const auto service = X11HotKeyService::open(session.server().display());
+    if (service == nullptr) {
+        throw std::runtime_error("there is no hot key service");
+    }
+    HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(service.get());
+    NDEffect::userDefaults().setObject(allEffects(), "NDGroupEffect");
+    chooseHotKey(NDEffect::userDefaults());
+    rig::XKeyboard keyboard(session.server().display());
+    std::vector<double> samples;
+    pollfd source{service->descriptor(), POLLIN, 0};
+    for (int i = 0; i < 1000; ++i) {
+        keyboard.press(KEY_LEFTMETA);
+        keyboard.press(KEY_F5);
+        keyboard.release(KEY_LEFTMETA);
+        poll(&source, 1, -1);
+        service->processEvents();
+        keyboard.release(KEY_F5);
+        poll(&source, 1, -1);
+        const auto start = SteadyClock::now();
+        service->processEvents();
+        samples.push_back(microsecondsSince(start));
+    }
+    HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(nullptr);
+    printFigure("hot key, from readable to the last of four ramps sent, p99",
+                percentile(samples, 0.99) / 1000.0, 2.0, "ms");
+}
+
+void measureNaming(rig::Session& session) {
+    const auto layout = XkbKeyboardLayout::open(session.server().display());
+    constexpr int kRounds = 20000;
+    const auto start = SteadyClock::now();
+    std::size_t length = 0;
+    for (int i = 0; i < kRounds; ++i) {
+        length +=
+            HXStringFromKeyCode(static_cast<std::uint16_t>(i % 50), NSCommandKeyMask, layout.get())
+                .size();
+    }
+    const double each = microsecondsSince(start) / kRounds;
+    if (length == 0) {
+        throw std::runtime_error("no key has a name");
+    }
+    printFigure("naming a key by the layout in force", each, 20.0, "us");
+}
+
+/// From the release at the server to the last display's ramp seen changed by another program.
+void measureHotKey(rig::Session& session, BusClient& client) {
+    rig::XClient observer(session.server().display());
+    rig::XKeyboard keyboard(session.server().display());
+    const std::uint32_t last = observer.crtcOf("DUMMY3");
+    client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDInvertEffect")});
+    client.call("SetHotKey", std::string("super+F5"));
+    client.callSetSetting("UseHotKey", true);
+    std::vector<double> samples;
+    for (int i = 0; i < 1000; ++i) {
+        const auto before = observer.ramp(last);
+        keyboard.press(KEY_LEFTMETA);
+        keyboard.press(KEY_F5);
+        const auto start = SteadyClock::now();
+        keyboard.release(KEY_F5);
+        waitForChange(observer, last, before);
+        samples.push_back(microsecondsSince(start));
+        keyboard.release(KEY_LEFTMETA);
+    }
+    printFigure("hot key, from release to the last of four ramps, p99",
+                percentile(samples, 0.99) / 1000.0, 5.0, "ms");
+}
+
 void measureReapplication(rig::Session& session) {
     auto opening = RandrHardware::open(session.server().display());
     if (opening.hardware == nullptr) {
@@ -106,6 +197,7 @@ void measureReapplication(rig::Session& session) {
         controller.updateEffect();
     }
     const double spent = processorMicroseconds() - start;
+    measureOwnPartOfHotKey(session);
     controller.applicationWillTerminate();
     NDEffect::setUserDefaults(nullptr);
     setDisplayServices(nullptr);
@@ -161,10 +253,12 @@ void measureWakeUps(const rig::Process& nocturo, BusClient& client) {
 void run() {
     rig::Session session(4);
     measureReapplication(session);
+    measureNaming(session);
     const auto nocturo = session.startNocturo();
     setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
     BusClient client;
     measureSettingsWrite(session, client);
+    measureHotKey(session, client);
     measureWakeUps(*nocturo, client);
 }
 

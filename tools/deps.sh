@@ -15,6 +15,8 @@ packages=(
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
   libxcb-screensaver0-dev   # screen savers of an X server
+  libxcb-xkb-dev            # keyboard events
+  libxkbcommon-x11-dev      # what keys type
   libsystemd-dev            # nocturoctl's bus
   nlohmann-json3-dev        # status --json
   # Testing
@@ -23,9 +25,13 @@ packages=(
   libbenchmark-dev          # benchmarks
   xserver-xorg-core         # real X server
   xserver-xorg-video-dummy  # displays without hardware
+  libxcb-xtest0-dev         # real key presses
+  x11-xkb-utils             # setxkbmap, which changes layouts
+  xdotool                   # typing into windows
   xvfb                      # an X server with all-zero ramps
   x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
   dbus-daemon               # a session bus for each test
+  locales                   # one with a comma in its numbers
   python3                   # the tests' own calculation
   python3-dbusmock          # a login manager and screen savers for tests
   xscreensaver              # a screen saver that is like no other
@@ -37,8 +43,8 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr xset xscreensaver dbus-daemon python3)
-modules=(libplist-2.0 xcb xcb-randr xcb-screensaver libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xscreensaver dbus-daemon python3)
+modules=(libplist-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
 install_on_debian() {
@@ -78,7 +84,7 @@ list_elsewhere() {
   done
   echo "This is not Debian or a relative of it, so nothing is installed. Nocturo needs:"
   echo "  programs:  ${programs[*]}"
-  echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Gui and DBus"
+  echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Widgets and DBus"
   echo "  Xorg's dummy video driver for the tests; for lint: ${linters[*]}"
   if [ "${#wanted[@]}" -gt 0 ]; then
     echo "Missing for make lint: ${wanted[*]}"

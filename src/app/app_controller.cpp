@@ -2,6 +2,8 @@
 
 #include "app/settings_table.h"
 #include "display/display_gamma.h"
+#include "hotkeys/hot_key_center.h"
+#include "hotkeys/saved_hot_key.h"
 #include "platform/displays/display_functions.h"
 #include "platform/notification_names.h"
 #include "platform/run_loop.h"
@@ -23,6 +25,7 @@ using namespace std::chrono_literals;
 
 constexpr auto kReapplicationPeriod = 6000ms;
 constexpr std::string_view kEffectActive = "EffectActive";
+constexpr std::string_view kToggleAction = "toggleGlobalEffect:";
 
 // The first ten online displays; empty when they cannot be listed.
 class OnlineDisplays {
@@ -55,6 +58,7 @@ NDAppController::~NDAppController() {
          {&centers_.local, &centers_.workspace, &centers_.distributed}) {
         center->removeObserver(this);
     }
+    HXHotKeyCenter::sharedHotKeyCenter().unregisterAllHotKeys();
 }
 
 void NDAppController::observe(NotificationCenter& center, std::string_view name, Handler handler) {
@@ -72,6 +76,7 @@ void NDAppController::applicationDidFinishLaunching() {
     } else {
         setEffectActive(false, true);
     }
+    updateHotKey();
     for (const auto name :
          {NSWorkspaceDidWakeNotification, NSWorkspaceSessionDidBecomeActiveNotification,
           NSWorkspaceDidTerminateApplicationNotification}) {
@@ -130,7 +135,8 @@ void NDAppController::toggleGlobalEffect() {
 
 void NDAppController::adjustScreenControllers() {
     const std::vector<double> affected = affectedScreenSet(defaults_);
-    for (const CGDirectDisplayID display : OnlineDisplays().ids()) {
+    const OnlineDisplays online;
+    for (const CGDirectDisplayID display : online.ids()) {
         setScreenControllerActive(
             affected.empty() || contains(affected, static_cast<double>(display)), display);
     }
@@ -178,6 +184,21 @@ void NDAppController::defaultsDidChange() {
         adjustScreenControllers();
         updateEffect();
     }
+    updateHotKey();
+}
+
+void NDAppController::updateHotKey() {
+    HXHotKeyCenter& center = HXHotKeyCenter::sharedHotKeyCenter();
+    center.unregisterAllHotKeys();
+    if (!defaults_.boolForKey(kUseHotKey)) {
+        return;
+    }
+    if (const auto hotKey = NDSavedHotKey(defaults_)) {
+        // The center's hot keys end with this controller, which therefore owns itself for them.
+        const std::shared_ptr<ActionTarget> target(std::shared_ptr<void>(), this);
+        center.registerHotKeyWithKeyCode(hotKey->keyCode(), hotKey->modifierFlags(), target,
+                                         std::string(kToggleAction), nullptr);
+    }
 }
 
 void NDAppController::screenSaverDidStart() {
@@ -200,6 +221,19 @@ CGDirectDisplayID NDAppController::validatedDisplayID() {
     }
     defaults_.setInteger(0, kAffectedScreens);
     return 0;
+}
+
+bool NDAppController::respondsTo(std::string_view action) const {
+    return action == kToggleAction;
+}
+
+void NDAppController::perform(std::string_view /*action*/, const KeyEvent& /*event*/,
+                              const std::shared_ptr<void>& /*object*/) {
+    toggleGlobalEffect();
+}
+
+std::string NDAppController::description() const {
+    return "NDAppController";
 }
 
 void NDAppController::setCurrentEffect(std::shared_ptr<NDGroupEffect> effect) {

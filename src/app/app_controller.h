@@ -2,11 +2,13 @@
 
 #include "display/screen_controller.h"
 #include "effects/group_effect.h"
+#include "hotkeys/action_target.h"
 #include "platform/displays/display_services.h"
 #include "platform/notification_center.h"
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -33,20 +35,23 @@ inline constexpr std::string_view NSApplicationDidChangeScreenParametersNotifica
 /// display while it is on, and applies it again on a timer, after every change of a setting and
 /// when the desktop tells of something that may have touched the displays. Pauses it while the
 /// screen saver runs. Settings are read when needed and never kept. Main thread only.
-class NDAppController {
+///
+/// The hot key's target: it responds to "toggleGlobalEffect:".
+class NDAppController : public ActionTarget {
   public:
     using ScreenControllers = std::vector<std::unique_ptr<NDScreenController>>;
 
     /// All must outlive the controller. Nothing is touched until the launch.
     NDAppController(DefaultsStore& defaults, const NotificationCenters& centers, RunLoop& runLoop);
-    ~NDAppController();
+    ~NDAppController() override;
     NDAppController(const NDAppController&) = delete;
     NDAppController& operator=(const NDAppController&) = delete;
 
     // Launch and end
 
     /// Registers the defaults, switches the effect as "ActivateAtLaunch" and the saved
-    /// "EffectActive" say, and starts following the workspace and the displays' colour profiles.
+    /// "EffectActive" say, registers the hot key, and starts following the workspace and the
+    /// displays' colour profiles.
     void applicationDidFinishLaunching();
 
     /// Registers the default settings and starts following changes of settings and screens.
@@ -88,6 +93,10 @@ class NDAppController {
     /// Follows a change of settings or screens.
     void defaultsDidChange();
 
+    /// Registers the user's hot key anew with the shared center, or none where "UseHotKey" is not
+    /// set or no key is chosen. One that the desktop refuses leaves the program without a hot key.
+    void updateHotKey();
+
     /// Switches the effect off without saving, if "NDDeactivateForScreenSaver" is set. Asked only
     /// while the effect is on.
     void screenSaverDidStart();
@@ -106,6 +115,11 @@ class NDAppController {
 
     /// One per affected display; none while the effect is off.
     const std::optional<ScreenControllers>& screenControllers() const { return screenControllers_; }
+
+    bool respondsTo(std::string_view action) const override;
+    void perform(std::string_view action, const KeyEvent& event,
+                 const std::shared_ptr<void>& object) override;
+    std::string description() const override;
 
   private:
     using Handler = void (NDAppController::*)();

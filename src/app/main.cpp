@@ -1,4 +1,5 @@
 #include "app/app_controller.h"
+#include "app/desktop_hot_keys.h"
 #include "app/disturbance_watch.h"
 #include "app/options.h"
 #include "app/wake_repeater.h"
@@ -9,6 +10,7 @@
 #include "platform/desktop/qt_run_loop.h"
 #include "platform/desktop/runtime_directory.h"
 #include "platform/desktop/session_bus.h"
+#include "platform/desktop/socket_watch.h"
 #include "platform/displays/display_functions.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
@@ -18,7 +20,6 @@
 #include "platform/workspace/disturber_finder.h"
 
 #include <QCoreApplication>
-#include <QSocketNotifier>
 #include <QStandardPaths>
 
 #include <csignal>
@@ -39,16 +40,6 @@ constexpr int kUsage = 2;
 
 void tell(std::FILE* stream, const std::string& sentence) {
     std::fprintf(stream, "nocturo: %s\n", sentence.c_str());
-}
-
-std::unique_ptr<QSocketNotifier> whenReadable(int descriptor, std::function<void()> action) {
-    if (descriptor < 0) {
-        return nullptr;
-    }
-    auto notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
-                     std::move(action));
-    return notifier;
 }
 
 std::filesystem::path settingsPath() {
@@ -120,8 +111,8 @@ int run(QCoreApplication& application, const RunOptions& options) {
     const auto settingsWatch =
         whenReadable(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
-    const OpenedDisplays displays =
-        openDisplays(options.displays, {qEnvironmentVariable("DISPLAY").toStdString(), *directory});
+    const std::string xDisplay = qEnvironmentVariable("DISPLAY").toStdString();
+    const OpenedDisplays displays = openDisplays(options.displays, {xDisplay, *directory});
     if (displays.services == nullptr) {
         tell(stderr, displays.problem);
         return kFailure;
@@ -135,12 +126,14 @@ int run(QCoreApplication& application, const RunOptions& options) {
     });
 
     controller.applicationDidFinishLaunching();
+    const DesktopHotKeys hotKeys(xDisplay);
+    face.setKeyboardLayout(hotKeys.layout());
+    controller.updateHotKey();
     face.announceChanges();
     const bool displaysOfX = displays.services->name() == "randr";
-    const DesktopSources sources(
-        centers, runLoop,
-        {displaysOfX ? qEnvironmentVariable("DISPLAY").toStdString() : std::string(),
-         qEnvironmentVariable("XDG_SESSION_ID").toStdString()});
+    const DesktopSources sources(centers, runLoop,
+                                 {displaysOfX ? xDisplay : std::string(),
+                                  qEnvironmentVariable("XDG_SESSION_ID").toStdString()});
     const int result = application.exec();
     controller.applicationWillTerminate();
     setDisplayServices(nullptr);

@@ -6,10 +6,15 @@
 #include "control/bus_values.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
+#include "hotkeys/hot_key_center.h"
+#include "hotkeys/hot_key_text.h"
+#include "hotkeys/key_naming.h"
+#include "hotkeys/saved_hot_key.h"
 #include "nocturo1_adaptor.h"
 #include "platform/displays/display_functions.h"
 #include "platform/notification_center.h"
 #include "platform/settings/defaults_store.h"
+#include "platform/settings/settings_keys.h"
 #include "preferences/affected_screen_set.h"
 
 #include <QCoreApplication>
@@ -131,6 +136,23 @@ QList<qlonglong> BusFace::affectedScreens() const {
     return numbers;
 }
 
+QVariantMap BusFace::hotKey() const {
+    const auto saved = NDSavedHotKey(defaults_);
+    if (saved == nullptr) {
+        return {};
+    }
+    const std::uint16_t keyCode = saved->keyCode();
+    const std::uint64_t flags = saved->modifierFlags();
+    const QString text = QString::fromStdString(HXStringFromKeyCode(keyCode, flags, layout_));
+    const bool registered =
+        HXHotKeyCenter::sharedHotKeyCenter().hasRegisteredHotKeyWithKeyCode(keyCode, flags);
+    return {{QStringLiteral("text"), text.toUpper()},
+            {QStringLiteral("keyCode"), static_cast<int>(keyCode)},
+            {QStringLiteral("modifierFlags"), static_cast<qlonglong>(flags)},
+            {QStringLiteral("enabled"), defaults_.boolForKey(kUseHotKey)},
+            {QStringLiteral("registered"), registered}};
+}
+
 QVariantMap BusFace::settings() const {
     QVariantMap map;
     for (const Setting& setting : settingsTable()) {
@@ -203,6 +225,20 @@ void BusFace::ToggleScreen(uint id) {
 
 void BusFace::AffectAllScreens() {
     chooseAffectedScreen(defaults_, 0);
+}
+
+void BusFace::SetHotKey(const QString& text) {
+    HotKeyCombination combination; // both numbers 0: no hot key
+    if (!text.isEmpty()) {
+        const HotKeyTextResult result = parseHotKeyText(text.toStdString(), layout_);
+        if (!result.combination) {
+            refuse(result.error + " " + std::string(kHotKeyTextSyntax));
+            return;
+        }
+        combination = *result.combination;
+    }
+    defaults_.setInteger(combination.keyCode, kHotKeyCode);
+    defaults_.setInteger(static_cast<std::int64_t>(combination.modifierFlags), kHotKeyModifiers);
 }
 
 void BusFace::Reopen() {

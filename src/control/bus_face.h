@@ -14,6 +14,7 @@ namespace nocturo {
 
 class DefaultsStore;
 class DisturbanceWatch;
+class KeyboardLayout;
 class NDAppController;
 class NotificationCenter;
 struct Setting;
@@ -30,6 +31,7 @@ class BusFace : public QObject, protected QDBusContext {
     Q_PROPERTY(double ColorFilterHue READ colorFilterHue)
     Q_PROPERTY(double ColorFilterVividness READ colorFilterVividness)
     Q_PROPERTY(QList<qlonglong> AffectedScreenSet READ affectedScreens)
+    Q_PROPERTY(QVariantMap HotKey READ hotKey)
     Q_PROPERTY(QVariantMap Settings READ settings)
     Q_PROPERTY(uint Disturbances READ disturbances)
     Q_PROPERTY(QString Disturber READ disturber)
@@ -44,6 +46,9 @@ class BusFace : public QObject, protected QDBusContext {
     /// it: then that one is asked to be re-opened. Calls wait until the event loop runs.
     bool takeName(const QDBusConnection& bus);
 
+    /// Names and reads keys by this layout, which must outlive the face; null for none.
+    void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
+
     /// Announces changes from now on. Call it after the launch, so that the controller, which
     /// follows the same notifications, has acted before a change is announced.
     void announceChanges();
@@ -56,6 +61,7 @@ class BusFace : public QObject, protected QDBusContext {
     double colorFilterHue() const;
     double colorFilterVividness() const;
     QList<qlonglong> affectedScreens() const;
+    QVariantMap hotKey() const;
     QVariantMap settings() const;
     uint disturbances() const;
     QString disturber() const;
@@ -69,6 +75,7 @@ class BusFace : public QObject, protected QDBusContext {
     void ResetSetting(const QString& key);
     void ToggleScreen(uint id);
     void AffectAllScreens();
+    void SetHotKey(const QString& text);
     void Reopen();
     void Quit();
 
@@ -86,6 +93,7 @@ class BusFace : public QObject, protected QDBusContext {
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
     const DisturbanceWatch& disturbances_;
+    KeyboardLayout* layout_ = nullptr;
     std::optional<QDBusConnection> bus_;
     QVariantMap announced_;
 };

@@ -87,10 +87,13 @@ class OnX : public DesktopSources {
     /// Waits until Nocturo has taken in all that the server has sent so far: a window that goes is
     /// answered by applying the effect again.
     void letNocturoCatchUp() {
-        client_.setRootProperty("_NET_CLIENT_LIST", {101, 102});
         overwrite();
-        client_.setRootProperty("_NET_CLIENT_LIST", {101});
-        EXPECT_TRUE(shows("ii"));
+        EXPECT_TRUE(waitUntil([&] {
+            // A window that is gone before Nocturo looked at the list was never there for it.
+            client_.setRootProperty("_NET_CLIENT_LIST", {101, 102});
+            client_.setRootProperty("_NET_CLIENT_LIST", {101});
+            return shown() == "ii";
+        }));
     }
 
     XClient client_{session_.server().display()};

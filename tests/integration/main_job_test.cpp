@@ -228,7 +228,8 @@ TEST_F(MainJob, FollowsItsSettingsFileAndWritesItInTime) {
         <key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>
         <key>Somebody's</key><real>0.25</real>
         <key>EffectActive</key><true/></dict></plist>)";
-    ASSERT_TRUE(waitUntil([&] { return status()["settings"]["EffectActive"] == true; }));
+    ASSERT_TRUE(waitUntil([&] { return status()["settings"]["EffectActive"] == true; }))
+        << nocturo_->errors() << text();
     ctl({"set", "ShowStatusItem", "7"});
     ctl({"quit"});
     nocturo_->wait();

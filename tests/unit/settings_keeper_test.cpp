@@ -193,6 +193,7 @@ TEST_F(SettingsKeeperTest, AFileDamagedWhileRunningIsSetAsideAndTheSettingsAreSa
     keeper->processFileEvents();
     writeText(path, "damaged, then noticed");
     keeper->processFileEvents();
+    runLoop.advance(500);
     EXPECT_EQ(setAsideFiles(), 1U);
     EXPECT_TRUE(store.boolForKey("a"));
     runLoop.advance(1000);
@@ -200,10 +201,26 @@ TEST_F(SettingsKeeperTest, AFileDamagedWhileRunningIsSetAsideAndTheSettingsAreSa
 
     writeText(path, "damaged, then found by the next write");
     store.setBool(true, "b");
-    runLoop.advance(1000);
+    runLoop.advance(800 + 500 + 800);
     EXPECT_EQ(setAsideFiles(), 2U);
     EXPECT_EQ(onDisk(), (PropertyDictionary{{"a", true}, {"b", true}}));
     EXPECT_EQ(warnings.size(), 2U);
+}
+
+TEST_F(SettingsKeeperTest, AFileThatIsBeingWrittenInItsPlaceIsWaitedFor) {
+    start();
+    store.setBool(true, "a");
+    runLoop.advance(1000);
+    store.setBool(true, "b");
+    runLoop.advance(700);
+    writeText(path, ""); // as an editor leaves it for a moment
+    keeper->processFileEvents();
+    runLoop.advance(400); // neither the event nor the write that falls due touch it
+    EXPECT_EQ(std::filesystem::file_size(path), 0U);
+    editElsewhere({{"a", false}, {"theirs", true}});
+    runLoop.advance(2000);
+    EXPECT_EQ(setAsideFiles(), 0U);
+    EXPECT_EQ(onDisk(), (PropertyDictionary{{"a", false}, {"b", true}, {"theirs", true}}));
 }
 
 TEST_F(SettingsKeeperTest, AFailedWriteIsSaidOnceAndTriedAgain) {

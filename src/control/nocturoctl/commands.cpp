@@ -5,6 +5,7 @@
 #include "control/nocturoctl/failure.h"
 #include "control/nocturoctl/report.h"
 #include "control/nocturoctl/setting_text.h"
+#include "hotkeys/hot_key_text.h"
 
 #include <algorithm>
 #include <array>
@@ -106,6 +107,42 @@ void runReset(Arguments arguments) {
     BusClient().call("ResetSetting", arguments[0]);
 }
 
+// Tells what stands in the way of a chosen hot key.
+void printHotKey(const Json& hotKey) {
+    if (hotKey.empty()) {
+        std::cout << "No hot key is chosen.\n";
+        return;
+    }
+    std::cout << hotKey["text"].get<std::string>();
+    if (!hotKey["enabled"].get<bool>()) {
+        std::cout << "  (not enabled; nocturoctl hotkey enable)";
+    } else if (!hotKey["registered"].get<bool>()) {
+        std::cout
+            << "  (not in force: another program holds it, or the desktop offers no hot keys)";
+    }
+    std::cout << '\n';
+}
+
+void runHotKey(Arguments arguments) {
+    BusClient client;
+    const std::string how = arguments.empty() ? "" : arguments[0];
+    if (how == "set" && arguments.size() == 2) {
+        if (arguments[1].empty()) {
+            throw Failure{kUsage, std::string(kHotKeyTextSyntax)};
+        }
+        client.call("SetHotKey", arguments[1]);
+    } else if (how == "none" && arguments.size() == 1) {
+        client.call("SetHotKey", std::string());
+    } else if ((how == "enable" || how == "disable") && arguments.size() == 1) {
+        client.callSetSetting("UseHotKey", how == "enable");
+    } else {
+        expect(arguments.empty());
+    }
+    if (how.empty() || how == "set" || how == "enable") {
+        printHotKey(client.properties()["hotKey"]);
+    }
+}
+
 std::optional<std::uint32_t> wholeNumber(const std::string& text) {
     std::uint32_t number = 0;
     const char* end = text.data() + text.size();
@@ -193,6 +230,10 @@ constexpr std::array kCommands = std::to_array<Command>({
      "toggle puts a display into the set of affected displays or takes it out. An empty\n"
      "set means all displays, which is also what all chooses.",
      runScreens},
+    {"hotkey", "[set KEYS | none | enable | disable]", "show or choose the global hot key",
+     "KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The\n"
+     "hot key toggles the effect while it is enabled.",
+     runHotKey},
     {"watch", "", "print every change as it happens",
      "One JSON object a line, with what changed. Ends when Nocturo does.", runWatch},
     {"quit", "", "give the displays back and end Nocturo", "", runQuit},

@@ -15,9 +15,10 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::array<const char*, 10> kStatusOrder = {
-    "active",         "displayServices",      "displays",          "effects",      "dimLevel",
-    "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "disturbances", "disturber"};
+constexpr std::array<const char*, 11> kStatusOrder = {
+    "active",         "displayServices",      "displays",          "effects", "dimLevel",
+    "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "hotKey",  "disturbances",
+    "disturber"};
 constexpr std::array<const char*, 7> kDisplayOrder = {"number",   "id",       "name",   "main",
                                                       "rampSize", "affected", "applied"};
 
@@ -82,6 +83,16 @@ std::string selectedEffects(const Json& properties) {
     return list.empty() ? "(none)" : list;
 }
 
+std::string hotKeyText(const Json& hotKey) {
+    if (hotKey.empty()) {
+        return "(none)";
+    }
+    const char* state = !hotKey["enabled"].get<bool>()     ? " (not enabled)"
+                        : hotKey["registered"].get<bool>() ? ""
+                                                           : " (not in force)";
+    return hotKey["text"].get<std::string>() + state;
+}
+
 // The row of a parameter that matters only while its effect is selected.
 Row parameterRow(const Json& properties, const char* title, const char* name) {
     return {title, plain(properties[name])};
@@ -108,6 +119,7 @@ std::string statusReport(const Json& properties) {
                    parameterRow(properties, "dim level", "dimLevel"),
                    parameterRow(properties, "color filter hue", "colorFilterHue"),
                    parameterRow(properties, "color filter vividness", "colorFilterVividness"),
+                   {"hot key", hotKeyText(properties["hotKey"])},
                    {"display services", plain(properties["displayServices"])}});
     text +=
         "\nDisplays\n" + screensReport(properties) + disturbanceReport(properties) + "\nSettings\n";
@@ -167,6 +179,9 @@ Json changeObject(const Json& properties) {
         for (Json& display : change["displays"]) {
             display = ordered(display, kDisplayOrder);
         }
+    }
+    if (change.contains("hotKey") && change["hotKey"].empty()) {
+        change["hotKey"] = nullptr;
     }
     return change;
 }

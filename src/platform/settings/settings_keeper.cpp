@@ -16,6 +16,8 @@ constexpr std::string_view kCategory = "nocturo.settings";
 // Not restarted by further changes, so that a slider dragged for minutes is saved meanwhile.
 constexpr std::chrono::milliseconds kWriteDelay{800};
 
+constexpr std::chrono::milliseconds kPatienceWithWriters{500};
+
 std::string errorText(int errorNumber) {
     return std::generic_category().message(errorNumber);
 }
@@ -41,15 +43,19 @@ void SettingsKeeper::userDomainDidChange() {
     timer_ = runLoop_.scheduleTimer(kWriteDelay, [this] {
         // A timer must not be destroyed by its own action, so it is kept until the next one fires.
         firedTimer_ = std::move(timer_);
-        synchronize();
+        write(Reason::timedWrite);
     });
 }
 
 bool SettingsKeeper::synchronize() {
+    return write(Reason::writeNow);
+}
+
+bool SettingsKeeper::write(Reason reason) {
     if (!lostFile_ && store_.changedKeys().empty()) {
         return true;
     }
-    if (!takeInFile(Reason::write)) {
+    if (!takeInFile(reason)) {
         return false;
     }
     const SettingsFileWrite written = writeSettingsFile(path_, store_.userDomain());
@@ -98,6 +104,9 @@ bool SettingsKeeper::takeInFile(Reason reason) {
         store_.mergeUserDomain(std::move(contents.dictionary));
         return true;
     case State::damaged:
+        if (isStillBeingWritten(contents.stamp, reason)) {
+            return false;
+        }
         return setAside(reason);
     case State::unreadable:
         break;
@@ -108,8 +117,33 @@ bool SettingsKeeper::takeInFile(Reason reason) {
     return false;
 }
 
+/// Whoever writes a file in its place empties it first, and an event of our own may have us look
+/// just then: a file counts as damaged once it has been so for a while.
+bool SettingsKeeper::isStillBeingWritten(const std::optional<FileStamp>& stamp, Reason reason) {
+    if (reason == Reason::start || reason == Reason::writeNow) {
+        return false;
+    }
+    if (suspect_ == stamp) {
+        return reason != Reason::secondLook;
+    }
+    suspect_ = stamp;
+    suspectTimer_ = runLoop_.scheduleTimer(kPatienceWithWriters, [this] {
+        firedTimer_ = std::move(suspectTimer_);
+        lookAgain();
+    });
+    return true;
+}
+
+void SettingsKeeper::lookAgain() {
+    takeInFile(Reason::secondLook);
+    if (!store_.changedKeys().empty()) {
+        userDomainDidChange();
+    }
+}
+
 bool SettingsKeeper::setAside(Reason reason) {
     known_.reset();
+    suspect_.reset();
     const SetAsideFile aside = setAsideDamagedFile(path_, now_());
     if (aside.errorNumber != 0) {
         tellUnreadable("is damaged and cannot be set aside (" + errorText(aside.errorNumber) +
@@ -124,7 +158,7 @@ bool SettingsKeeper::setAside(Reason reason) {
                                        : ", and the settings in use are saved anew."));
     if (!atStart) {
         lostFile_ = true;
-        if (reason == Reason::event) {
+        if (reason == Reason::secondLook) {
             userDomainDidChange();
         }
     }

@@ -49,9 +49,12 @@ class SettingsKeeper final : public DefaultsPersistence {
     void processFileEvents();
 
   private:
-    enum class Reason { start, event, write };
+    enum class Reason { start, event, secondLook, timedWrite, writeNow };
 
+    bool write(Reason reason);
     bool takeInFile(Reason reason);
+    bool isStillBeingWritten(const std::optional<FileStamp>& stamp, Reason reason);
+    void lookAgain();
     bool setAside(Reason reason);
     void tellUnreadable(const std::string& what);
 
@@ -64,6 +67,8 @@ class SettingsKeeper final : public DefaultsPersistence {
     bool lostFile_ = false;          // set aside while running: the whole is to be written again
     bool toldUnreadable_ = false;
     bool toldUnwritable_ = false;
+    std::optional<FileStamp> suspect_; // of a file that was found damaged
+    std::unique_ptr<Timer> suspectTimer_;
     std::unique_ptr<Timer> timer_;
     std::unique_ptr<Timer> firedTimer_;
 };

@@ -1,0 +1,50 @@
+#include "app/desktop_hot_keys.h"
+
+#include "hotkeys/hot_key_center.h"
+#include "platform/desktop/socket_watch.h"
+#include "platform/hotkeys/x11/x11_hot_key_service.h"
+#include "platform/keyboard/xkb/xkb_keyboard_layout.h"
+#include "platform/log.h"
+
+namespace nocturo {
+
+namespace {
+
+// Takes in what the server sends; the descriptor of one that has gone would be readable for ever.
+template <typename Source>
+std::unique_ptr<QSocketNotifier> watch(Source& source, std::unique_ptr<QSocketNotifier>& keptIn) {
+    return whenReadable(source.descriptor(), [&source, &keptIn] {
+        source.processEvents();
+        if (source.connectionLost()) {
+            keptIn->setEnabled(false);
+        }
+    });
+}
+
+} // namespace
+
+DesktopHotKeys::DesktopHotKeys(const std::string& xDisplay) {
+    if (!xDisplay.empty()) {
+        service_ = X11HotKeyService::open(xDisplay);
+        layout_ = XkbKeyboardLayout::open(xDisplay);
+    }
+    if (service_ != nullptr) {
+        serviceWatch_ = watch(*service_, serviceWatch_);
+        HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(service_.get());
+    } else {
+        logInfo("nocturo.hotkeys", "There is no X server that could offer a global hot key.");
+    }
+    if (layout_ != nullptr) {
+        layoutWatch_ = watch(*layout_, layoutWatch_);
+    }
+}
+
+DesktopHotKeys::~DesktopHotKeys() {
+    HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(nullptr);
+}
+
+KeyboardLayout* DesktopHotKeys::layout() const {
+    return layout_.get();
+}
+
+} // namespace nocturo

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QSocketNotifier>
+
+#include <memory>
+#include <string>
+
+namespace nocturo {
+
+class KeyboardLayout;
+class X11HotKeyService;
+class XkbKeyboardLayout;
+
+/// The hot key service and the keyboard layout of the desktop, in the event loop. Where the desktop
+/// offers neither, everything works without. The shared hot key center uses the service while this
+/// object lives.
+class DesktopHotKeys {
+  public:
+    /// `xDisplay` is empty where there is no X server.
+    explicit DesktopHotKeys(const std::string& xDisplay);
+    ~DesktopHotKeys();
+    DesktopHotKeys(const DesktopHotKeys&) = delete;
+    DesktopHotKeys& operator=(const DesktopHotKeys&) = delete;
+
+    /// Null where there is none.
+    KeyboardLayout* layout() const;
+
+  private:
+    std::unique_ptr<X11HotKeyService> service_;
+    std::unique_ptr<XkbKeyboardLayout> layout_;
+    std::unique_ptr<QSocketNotifier> serviceWatch_;
+    std::unique_ptr<QSocketNotifier> layoutWatch_;
+};
+
+} // namespace nocturo

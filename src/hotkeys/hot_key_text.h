@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace nocturo {
+
+class KeyboardLayout;
+
+struct HotKeyCombination {
+    std::uint16_t keyCode = 0;
+    std::uint64_t modifierFlags = 0; // NS...KeyMask bits of the modifiers named, no others
+    bool operator==(const HotKeyCombination&) const = default;
+};
+
+/// Either a combination, or one sentence for the user that says what is wrong.
+struct HotKeyTextResult {
+    std::optional<HotKeyCombination> combination;
+    std::string error;
+};
+
+/// What the user may write, for help texts.
+inline constexpr std::string_view kHotKeyTextSyntax =
+    "A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined "
+    "by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, "
+    "pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, "
+    "mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, "
+    "keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a "
+    "key types.";
+
+/// Reads a hot key as a user writes it: parts in any order and any letter case, joined by "+", with
+/// spaces around them if wanted. The one part that names no modifier is the key: a key name, or
+/// what the key types alone under `layout`, which may be null. Only function, arrow and navigation
+/// keys are accepted without a modifier; with any other key the user could not type it any more.
+HotKeyTextResult parseHotKeyText(std::string_view text, KeyboardLayout* layout);
+
+} // namespace nocturo
