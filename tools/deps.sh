@@ -14,6 +14,7 @@ packages=(
   libplist-dev              # property lists
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
+  libxcb-screensaver0-dev   # screen savers of an X server
   libxcb-xkb-dev            # keyboard events
   libxkbcommon-x11-dev      # what keys type
   libsystemd-dev            # nocturoctl's bus
@@ -28,10 +29,12 @@ packages=(
   x11-xkb-utils             # setxkbmap, which changes layouts
   xdotool                   # typing into windows
   xvfb                      # an X server with all-zero ramps
-  x11-xserver-utils         # xrandr, which lights displays
+  x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
   dbus-daemon               # a session bus for each test
   locales                   # one with a comma in its numbers
   python3                   # the tests' own calculation
+  python3-dbusmock          # a login manager and screen savers for tests
+  xscreensaver              # a screen saver that is like no other
   # Linting
   git                       # which files are ours
   clang-format              # layout
@@ -40,8 +43,8 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr setxkbmap xdotool dbus-daemon python3)
-modules=(libplist-2.0 xcb xcb-randr xcb-xkb xcb-xtest xkbcommon-x11 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xscreensaver dbus-daemon python3)
+modules=(libplist-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
 install_on_debian() {

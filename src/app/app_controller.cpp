@@ -5,7 +5,7 @@
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/saved_hot_key.h"
 #include "platform/displays/display_functions.h"
-#include "platform/notification_center.h"
+#include "platform/notification_names.h"
 #include "platform/run_loop.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keys.h"
@@ -49,13 +49,20 @@ bool contains(const Range& range, const Value& value) {
 
 } // namespace
 
-NDAppController::NDAppController(DefaultsStore& defaults, NotificationCenter& localCenter,
+NDAppController::NDAppController(DefaultsStore& defaults, const NotificationCenters& centers,
                                  RunLoop& runLoop)
-    : defaults_(defaults), localCenter_(localCenter), runLoop_(runLoop) {}
+    : defaults_(defaults), centers_(centers), runLoop_(runLoop) {}
 
 NDAppController::~NDAppController() {
-    localCenter_.removeObserver(this);
+    for (NotificationCenter* center :
+         {&centers_.local, &centers_.workspace, &centers_.distributed}) {
+        center->removeObserver(this);
+    }
     HXHotKeyCenter::sharedHotKeyCenter().unregisterAllHotKeys();
+}
+
+void NDAppController::observe(NotificationCenter& center, std::string_view name, Handler handler) {
+    center.addObserver(this, name, [this, handler] { (this->*handler)(); });
 }
 
 void NDAppController::applicationDidFinishLaunching() {
@@ -70,16 +77,21 @@ void NDAppController::applicationDidFinishLaunching() {
         setEffectActive(false, true);
     }
     updateHotKey();
+    for (const auto name :
+         {NSWorkspaceDidWakeNotification, NSWorkspaceSessionDidBecomeActiveNotification,
+          NSWorkspaceDidTerminateApplicationNotification}) {
+        observe(centers_.workspace, name, &NDAppController::updateEffect);
+    }
+    observe(centers_.distributed, NSScreenColorSpaceDidChangeNotification,
+            &NDAppController::updateEffect);
 }
 
 void NDAppController::initDefaults() {
     defaults_.registerDefaults(registeredDefaults());
-    const auto observe = [this](std::string_view name, void (NDAppController::*handler)()) {
-        localCenter_.addObserver(this, name, [this, handler] { (this->*handler)(); });
-    };
-    observe(NSUserDefaultsDidChangeNotification, &NDAppController::defaultsDidChange);
-    observe(NSUserDefaultsDidChangeNotification, &NDAppController::updateApplyTimer);
-    observe(NSApplicationDidChangeScreenParametersNotification,
+    NotificationCenter& local = centers_.local;
+    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::defaultsDidChange);
+    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::updateApplyTimer);
+    observe(local, NSApplicationDidChangeScreenParametersNotification,
             &NDAppController::defaultsDidChange);
 }
 
@@ -106,12 +118,15 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
             screenControllers_.emplace();
         }
         adjustScreenControllers();
+        observe(centers_.distributed, kScreenSaverDidStartNotification,
+                &NDAppController::screenSaverDidStart);
     } else {
         screenControllers_.reset();
         ZQDisplayRestoreColorSync();
+        centers_.distributed.removeObserver(this);
     }
     updateApplyTimer();
-    localCenter_.post(kEffectActivationNotification);
+    centers_.local.post(kEffectActivationNotification);
 }
 
 void NDAppController::toggleGlobalEffect() {
@@ -157,8 +172,10 @@ void NDAppController::updateApplyTimer() {
     if (!effectActive() || !defaults_.boolForKey(kContinuouslyApply)) {
         continuousApplyTimer_.reset();
     } else if (continuousApplyTimer_ == nullptr) {
-        continuousApplyTimer_ =
-            runLoop_.scheduleRepeatingTimer(kReapplicationPeriod, [this] { updateEffect(); });
+        continuousApplyTimer_ = runLoop_.scheduleRepeatingTimer(kReapplicationPeriod, [this] {
+            centers_.local.post(kReapplicationNotification);
+            updateEffect();
+        });
     }
 }
 
@@ -182,6 +199,18 @@ void NDAppController::updateHotKey() {
         center.registerHotKeyWithKeyCode(hotKey->keyCode(), hotKey->modifierFlags(), target,
                                          std::string(kToggleAction), nullptr);
     }
+}
+
+void NDAppController::screenSaverDidStart() {
+    if (defaults_.boolForKey(kDeactivateForScreenSaver)) {
+        setEffectActive(false, false);
+        observe(centers_.distributed, kScreenSaverDidStopNotification,
+                &NDAppController::screenSaverDidStop);
+    }
+}
+
+void NDAppController::screenSaverDidStop() {
+    setEffectActive(true, false);
 }
 
 CGDirectDisplayID NDAppController::validatedDisplayID() {

@@ -4,6 +4,7 @@
 #include "effects/group_effect.h"
 #include "hotkeys/action_target.h"
 #include "platform/displays/display_services.h"
+#include "platform/notification_center.h"
 
 #include <memory>
 #include <optional>
@@ -14,7 +15,6 @@
 namespace nocturo {
 
 class DefaultsStore;
-class NotificationCenter;
 class RunLoop;
 class Timer;
 
@@ -22,22 +22,27 @@ class Timer;
 inline constexpr std::string_view kEffectActivationNotification =
     "NocturoEffectActivationNotification";
 
+/// Posted on the local notification center by the 6-second timer just before it applies the effect
+/// again, while the displays still show what became of the last time.
+inline constexpr std::string_view kReapplicationNotification = "NocturoReapplicationNotification";
+
 /// Posted on the local notification center when displays were plugged, unplugged, moved, switched
 /// on or off.
 inline constexpr std::string_view NSApplicationDidChangeScreenParametersNotification =
     "NSApplicationDidChangeScreenParametersNotification";
 
 /// Switches the combined effect on and off, keeps one screen controller for each affected online
-/// display while it is on, and applies it again on a timer and after every change of a setting.
-/// Settings are read when needed and never kept. Main thread only.
+/// display while it is on, and applies it again on a timer, after every change of a setting and
+/// when the desktop tells of something that may have touched the displays. Pauses it while the
+/// screen saver runs. Settings are read when needed and never kept. Main thread only.
 ///
 /// The hot key's target: it responds to "toggleGlobalEffect:".
 class NDAppController : public ActionTarget {
   public:
     using ScreenControllers = std::vector<std::unique_ptr<NDScreenController>>;
 
-    /// All three must outlive the controller. Nothing is touched until the launch.
-    NDAppController(DefaultsStore& defaults, NotificationCenter& localCenter, RunLoop& runLoop);
+    /// All must outlive the controller. Nothing is touched until the launch.
+    NDAppController(DefaultsStore& defaults, const NotificationCenters& centers, RunLoop& runLoop);
     ~NDAppController() override;
     NDAppController(const NDAppController&) = delete;
     NDAppController& operator=(const NDAppController&) = delete;
@@ -45,7 +50,8 @@ class NDAppController : public ActionTarget {
     // Launch and end
 
     /// Registers the defaults, switches the effect as "ActivateAtLaunch" and the saved
-    /// "EffectActive" say, and registers the hot key.
+    /// "EffectActive" say, registers the hot key, and starts following the workspace and the
+    /// displays' colour profiles.
     void applicationDidFinishLaunching();
 
     /// Registers the default settings and starts following changes of settings and screens.
@@ -63,7 +69,8 @@ class NDAppController : public ActionTarget {
 
     /// The only way the effect is switched; `saveState` also writes "EffectActive". Switching to
     /// the state that holds already runs all steps again: displays that have become affected are
-    /// added, or all displays restored.
+    /// added, or all displays restored. The distributed center is listened to while the effect is
+    /// on; every switch-off ends that, also for colour profiles, which are not followed again.
     void setEffectActive(bool active, bool saveState);
     bool effectActive() const { return screenControllers_.has_value(); }
     void toggleGlobalEffect();
@@ -90,6 +97,14 @@ class NDAppController : public ActionTarget {
     /// set or no key is chosen. One that the desktop refuses leaves the program without a hot key.
     void updateHotKey();
 
+    /// Switches the effect off without saving, if "NDDeactivateForScreenSaver" is set. Asked only
+    /// while the effect is on.
+    void screenSaverDidStart();
+
+    /// Switches it on again without saving; asked unless the user switched the effect off in
+    /// between.
+    void screenSaverDidStop();
+
     /// The display of the older single-display setting if it is online; otherwise that setting is
     /// reset and the answer is 0.
     CGDirectDisplayID validatedDisplayID();
@@ -107,8 +122,11 @@ class NDAppController : public ActionTarget {
     std::string description() const override;
 
   private:
+    using Handler = void (NDAppController::*)();
+    void observe(NotificationCenter& center, std::string_view name, Handler handler);
+
     DefaultsStore& defaults_;
-    NotificationCenter& localCenter_;
+    NotificationCenters centers_;
     RunLoop& runLoop_;
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one

@@ -1,6 +1,8 @@
 #include "app/app_controller.h"
 #include "app/desktop_hot_keys.h"
+#include "app/disturbance_watch.h"
 #include "app/options.h"
+#include "app/wake_repeater.h"
 #include "control/bus_face.h"
 #include "platform/desktop/instance_lock.h"
 #include "platform/desktop/posix_signals.h"
@@ -15,6 +17,8 @@
 #include "platform/notification_center.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keeper.h"
+#include "platform/workspace/desktop_sources.h"
+#include "platform/workspace/disturber_finder.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>
@@ -78,10 +82,17 @@ int run(QCoreApplication& application, const RunOptions& options) {
         return kFailure;
     }
     const auto& defaults = DefaultsStore::standardUserDefaults();
-    NotificationCenter& localCenter = NotificationCenter::defaultCenter();
+    NotificationCenter workspaceCenter;
+    NotificationCenter distributedCenter;
+    const NotificationCenters centers{NotificationCenter::defaultCenter(), workspaceCenter,
+                                      distributedCenter};
     QtRunLoop runLoop;
-    NDAppController controller(*defaults, localCenter, runLoop);
-    BusFace face(controller, *defaults, localCenter);
+    NDAppController controller(*defaults, centers, runLoop);
+    const WakeRepeater wakeRepeater(controller, centers, runLoop);
+    DisturberFinder disturberFinder;
+    const DisturbanceWatch disturbances(
+        controller, centers.local, [&](auto answer) { disturberFinder.find(std::move(answer)); });
+    BusFace face(controller, *defaults, centers.local, disturbances);
 
     const PosixSignals signals(
         {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal, kSwitchOffSignal}, [&](int number) {
@@ -124,6 +135,10 @@ int run(QCoreApplication& application, const RunOptions& options) {
     face.setKeyboardLayout(hotKeys.layout());
     controller.updateHotKey();
     face.announceChanges();
+    const bool displaysOfX = displays.services->name() == "randr";
+    const DesktopSources sources(centers, runLoop,
+                                 {displaysOfX ? xDisplay : std::string(),
+                                  qEnvironmentVariable("XDG_SESSION_ID").toStdString()});
     const int result = application.exec();
     controller.applicationWillTerminate();
     setDisplayServices(nullptr);

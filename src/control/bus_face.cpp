@@ -1,6 +1,7 @@
 #include "control/bus_face.h"
 
 #include "app/app_controller.h"
+#include "app/disturbance_watch.h"
 #include "app/settings_table.h"
 #include "control/bus_values.h"
 #include "effects/color_filter_effect.h"
@@ -38,8 +39,9 @@ constexpr int kReopenTimeoutMs = 2000;
 } // namespace
 
 BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
-                 NotificationCenter& localCenter)
-    : controller_(controller), defaults_(defaults), localCenter_(localCenter) {
+                 NotificationCenter& localCenter, const DisturbanceWatch& disturbances)
+    : controller_(controller), defaults_(defaults), localCenter_(localCenter),
+      disturbances_(disturbances) {
     qDBusRegisterMetaType<QList<QVariantMap>>();
     qDBusRegisterMetaType<QList<qlonglong>>();
     new Nocturo1Adaptor(this);
@@ -64,8 +66,9 @@ bool BusFace::takeName(const QDBusConnection& bus) {
 
 void BusFace::announceChanges() {
     announced_ = snapshot();
-    for (const auto name : {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
-                            NSApplicationDidChangeScreenParametersNotification}) {
+    for (const auto name :
+         {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
+          NSApplicationDidChangeScreenParametersNotification, kDisturbanceNotification}) {
         localCenter_.addObserver(this, name, [this] { announce(); });
     }
 }
@@ -157,6 +160,14 @@ QVariantMap BusFace::settings() const {
                    busValue(effectiveValue(defaults_, setting)));
     }
     return map;
+}
+
+uint BusFace::disturbances() const {
+    return disturbances_.count();
+}
+
+QString BusFace::disturber() const {
+    return QString::fromStdString(disturbances_.disturber());
 }
 
 void BusFace::SetActive(bool active) {

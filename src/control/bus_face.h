@@ -13,6 +13,7 @@
 namespace nocturo {
 
 class DefaultsStore;
+class DisturbanceWatch;
 class KeyboardLayout;
 class NDAppController;
 class NotificationCenter;
@@ -32,10 +33,13 @@ class BusFace : public QObject, protected QDBusContext {
     Q_PROPERTY(QList<qlonglong> AffectedScreenSet READ affectedScreens)
     Q_PROPERTY(QVariantMap HotKey READ hotKey)
     Q_PROPERTY(QVariantMap Settings READ settings)
+    Q_PROPERTY(uint Disturbances READ disturbances)
+    Q_PROPERTY(QString Disturber READ disturber)
 
   public:
-    /// All three must outlive the face.
-    BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter);
+    /// All must outlive the face.
+    BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
+            const DisturbanceWatch& disturbances);
     ~BusFace() override;
 
     /// Puts the object on the bus and takes the application's name. False when another process has
@@ -59,6 +63,8 @@ class BusFace : public QObject, protected QDBusContext {
     QList<qlonglong> affectedScreens() const;
     QVariantMap hotKey() const;
     QVariantMap settings() const;
+    uint disturbances() const;
+    QString disturber() const;
 
   public Q_SLOTS:
     void SetActive(bool active);
@@ -86,6 +92,7 @@ class BusFace : public QObject, protected QDBusContext {
     NDAppController& controller_;
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
+    const DisturbanceWatch& disturbances_;
     KeyboardLayout* layout_ = nullptr;
     std::optional<QDBusConnection> bus_;
     QVariantMap announced_;

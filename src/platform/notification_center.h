@@ -42,4 +42,11 @@ class NotificationCenter {
     int deliveriesRunning_ = 0;
 };
 
+/// The centers that the application listens to. They must outlive whoever is given them.
+struct NotificationCenters {
+    NotificationCenter& local;       // within the process: settings, screens, the effect itself
+    NotificationCenter& workspace;   // the computer, the session, other applications
+    NotificationCenter& distributed; // the whole desktop: screen savers, colour profiles
+};
+
 } // namespace nocturo

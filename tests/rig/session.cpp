@@ -36,6 +36,28 @@ Session::Session(int displays) : environment_(cleanEnvironment()) {
     }
 }
 
+SessionBus& Session::systemBus() {
+    if (!systemBus_) {
+        systemBus_.emplace();
+        environment_["DBUS_SYSTEM_BUS_ADDRESS"] = systemBus_->address();
+    }
+    return *systemBus_;
+}
+
+// The distribution's own interpreter, which its packages of modules are for.
+std::unique_ptr<Process> Session::startMock(SessionBus& bus, const std::string& name,
+                                            const std::vector<std::string>& arguments) {
+    std::vector<std::string> words = {"-m", "dbusmock"};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    auto mock = start("/usr/bin/python3", words);
+    if (!bus.waitForName(name, *mock)) {
+        mock->signal(9);
+        mock->wait();
+        throw std::runtime_error("dbusmock did not come up: " + mock->errors());
+    }
+    return mock;
+}
+
 fs::path Session::settingsFile() const {
     return home_.path() / "config" / "nocturo" / "settings.plist";
 }

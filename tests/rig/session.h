@@ -30,6 +30,15 @@ class Session {
     XServer& server() { return *server_; }
     SessionBus& bus() { return bus_; }
 
+    /// What programs started from the first call on find as the system bus; without one, there is
+    /// none for them.
+    SessionBus& systemBus();
+
+    /// Starts a stand-in for services of the desktop (python3-dbusmock) with its arguments, and
+    /// waits until it owns `name` on the bus.
+    std::unique_ptr<Process> startMock(SessionBus& bus, const std::string& name,
+                                       const std::vector<std::string>& arguments);
+
     /// What programs of this session are started with; tests may change it.
     Environment& environment() { return environment_; }
     std::filesystem::path settingsFile() const;
@@ -50,6 +59,7 @@ class Session {
   private:
     TemporaryDirectory home_;
     SessionBus bus_;
+    std::optional<SessionBus> systemBus_;
     std::optional<XServer> server_;
     Environment environment_;
 };

@@ -18,9 +18,14 @@ struct BusCloser {
 };
 using Bus = std::unique_ptr<sd_bus, BusCloser>;
 
+struct MessageUnref {
+    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+};
+using Message = std::unique_ptr<sd_bus_message, MessageUnref>;
+
 void check(int result, const char* what) {
     if (result < 0) {
-        throw std::runtime_error(std::string("the session bus failed: ") + what);
+        throw std::runtime_error(std::string("the bus failed: ") + what);
     }
 }
 
@@ -40,8 +45,7 @@ bool hasOwner(sd_bus* bus, const std::string& name) {
                              "org.freedesktop.DBus", "NameHasOwner", nullptr, &raw, "s",
                              name.c_str()),
           "NameHasOwner");
-    const std::unique_ptr<sd_bus_message, decltype(&sd_bus_message_unref)> reply(
-        raw, sd_bus_message_unref);
+    const Message reply(raw);
     int owned = 0;
     check(sd_bus_message_read(raw, "b", &owned), "NameHasOwner");
     return owned != 0;
@@ -99,6 +103,21 @@ bool SessionBus::waitForName(const std::string& name, Process& owner, Millisecon
         }
     }
     return true;
+}
+
+void SessionBus::callWith(const char* service, const char* path, const char* interface,
+                          const char* method, const std::function<int(sd_bus_message*)>& append) {
+    const Bus bus = connectTo(address_);
+    sd_bus_message* raw = nullptr;
+    check(sd_bus_message_new_method_call(bus.get(), &raw, service, path, interface, method),
+          method);
+    const Message call(raw);
+    check(append(raw), method);
+    sd_bus_error error = SD_BUS_ERROR_NULL;
+    const int result = sd_bus_call(bus.get(), raw, 0, &error, nullptr);
+    const std::string reason = error.message != nullptr ? error.message : "no reason given";
+    sd_bus_error_free(&error);
+    check(result, (std::string(method) + ": " + reason).c_str());
 }
 
 void SessionBus::kill() {

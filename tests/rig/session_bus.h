@@ -3,12 +3,16 @@
 #include "rig/process.h"
 #include "rig/temporary_directory.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
+#include <systemd/sd-bus.h>
+
 namespace nocturo::rig {
 
-/// A session bus of the test's own. It starts no services by itself.
+/// A session bus of the test's own, or what stands for the system bus: they are told apart only by
+/// the variable that names them. It starts no services by itself.
 class SessionBus {
   public:
     /// Throws std::runtime_error when the bus does not start.
@@ -20,10 +24,23 @@ class SessionBus {
     /// Waits until somebody owns the name; false when `owner` ended before, or nobody did in time.
     bool waitForName(const std::string& name, Process& owner, Milliseconds timeout = kPatience);
 
+    /// Calls a method and waits for the answer, which is dropped; `types` and what follows as
+    /// sd_bus_message_append takes them. Throws std::runtime_error when it fails.
+    template <class... Arguments>
+    void call(const char* service, const char* path, const char* interface, const char* method,
+              const char* types, Arguments... arguments) {
+        callWith(service, path, interface, method, [&](sd_bus_message* message) {
+            return sd_bus_message_append(message, types, arguments...);
+        });
+    }
+
     /// Ends the bus as a crash would.
     void kill();
 
   private:
+    void callWith(const char* service, const char* path, const char* interface, const char* method,
+                  const std::function<int(sd_bus_message*)>& append);
+
     TemporaryDirectory directory_;
     std::optional<Process> process_;
     std::string address_;

@@ -149,13 +149,24 @@ void XClient::switchOff(const Output& output) {
     }
 }
 
-void XClient::setEdid(const Output& output, const std::vector<std::uint8_t>& edid) {
+std::uint32_t XClient::atom(const std::string& name) {
     auto* raw = connection_.get();
-    const auto atom =
-        needed(xcb_intern_atom_reply(raw, xcb_intern_atom(raw, false, 4, "EDID"), nullptr), "atom");
+    const auto cookie =
+        xcb_intern_atom(raw, false, static_cast<std::uint16_t>(name.size()), name.data());
+    return needed(xcb_intern_atom_reply(raw, cookie, nullptr), "atom")->atom;
+}
+
+void XClient::setRootProperty(const std::string& name, const std::vector<std::uint32_t>& numbers) {
+    check(xcb_change_property_checked(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(name),
+                                      XCB_ATOM_CARDINAL, 32,
+                                      static_cast<std::uint32_t>(numbers.size()), numbers.data()),
+          "property");
+}
+
+void XClient::setEdid(const Output& output, const std::vector<std::uint8_t>& edid) {
     check(xcb_randr_change_output_property_checked(
-              raw, output.id, atom->atom, XCB_ATOM_INTEGER, 8, XCB_PROP_MODE_REPLACE,
-              static_cast<std::uint32_t>(edid.size()), edid.data()),
+              connection_.get(), output.id, atom("EDID"), XCB_ATOM_INTEGER, 8,
+              XCB_PROP_MODE_REPLACE, static_cast<std::uint32_t>(edid.size()), edid.data()),
           "EDID");
 }
 

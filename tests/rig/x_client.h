@@ -38,6 +38,10 @@ class XClient {
     void setRamp(std::uint32_t crtc, const Channels& ramp);
     void setRamp(const std::string& output, const Channels& ramp) { setRamp(crtcOf(output), ramp); }
 
+    /// Makes the numbers a property of the root window, as a window manager would.
+    void setRootProperty(const std::string& name, const std::vector<std::uint32_t>& numbers);
+    std::uint32_t atom(const std::string& name);
+
     void setScreenSize(int width, int height);
     /// Makes a mode for switchOn.
     std::uint32_t createMode(int width, int height);

@@ -1,12 +1,7 @@
 #include "app/app_controller.h"
 
 #include "app/settings_table.h"
-#include "fake_gamma_hardware.h"
-#include "fake_run_loop.h"
-#include "platform/displays/display_functions.h"
-#include "platform/displays/ramp_display_services.h"
-#include "platform/notification_center.h"
-#include "platform/settings/defaults_store.h"
+#include "app_controller_fixture.h"
 #include "preferences/affected_screen_set.h"
 
 #include <gtest/gtest.h>
@@ -17,41 +12,7 @@ namespace nocturo {
 
 namespace {
 
-class AppController : public testing::Test {
-  protected:
-    void SetUp() override {
-        for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
-            hardware_.add("D" + std::to_string(crtc), crtc);
-        }
-        services_ =
-            std::make_unique<RampDisplayServices>(std::make_unique<FakeGammaHardware>(hardware_));
-        setDisplayServices(services_.get());
-        NDEffect::setUserDefaults(store_);
-        store_->setObject(PropertyArray{std::string("NDInvertEffect")}, "NDGroupEffect");
-    }
-    void TearDown() override {
-        setDisplayServices(nullptr);
-        NDEffect::setUserDefaults(nullptr);
-    }
-
-    CGDirectDisplayID id(std::size_t index) { return services_->onlineDisplays()->at(index).id; }
-
-    /// One letter per CRTC: i inverted, o its own ramp.
-    std::string shown() const {
-        std::string letters;
-        for (const auto& [crtc, ramp] : hardware_.ramps) {
-            letters += ramp.red.front() > ramp.red.back() ? 'i' : 'o';
-        }
-        return letters;
-    }
-
-    FakeGammaHardwareState hardware_;
-    std::unique_ptr<RampDisplayServices> services_;
-    NotificationCenter center_;
-    std::shared_ptr<DefaultsStore> store_ = std::make_shared<DefaultsStore>(center_);
-    FakeRunLoop runLoop_;
-    NDAppController controller_{*store_, center_, runLoop_};
-};
+class AppController : public AppControllerFixture {};
 
 TEST_F(AppController, LaunchSwitchesAsTheSettingsSay) {
     struct Case {
@@ -64,7 +25,7 @@ TEST_F(AppController, LaunchSwitchesAsTheSettingsSay) {
                              Case{false, true, true, true}, Case{false, false, false, false}}) {
         store_->setBool(each.atLaunch, "ActivateAtLaunch");
         store_->setBool(each.saved, "EffectActive");
-        NDAppController fresh(*store_, center_, runLoop_);
+        NDAppController fresh(*store_, centers_, runLoop_);
         fresh.applicationDidFinishLaunching();
         EXPECT_EQ(fresh.effectActive(), each.on);
         EXPECT_EQ(shown(), each.on ? "iii" : "ooo");

@@ -18,6 +18,7 @@ struct FakeGammaHardwareState {
     std::uint64_t generation = 1;
     bool lists = true;
     bool reads = true;
+    int keptBits = 16; // of every entry that is written
 
     /// Adds a head on a CRTC of its own with a ramp of that size.
     void add(const std::string& connector, std::uint32_t crtc, std::uint32_t size = 256) {
@@ -55,7 +56,13 @@ class FakeGammaHardware : public GammaHardware {
         return state_.reads;
     }
     bool writeRamp(std::uint32_t crtc, const Ramp& ramp) override {
-        state_.ramps[crtc] = ramp;
+        Ramp& kept = state_.ramps[crtc] = ramp;
+        const auto mask = static_cast<std::uint16_t>(0xFFFF0000U >> state_.keptBits);
+        for (auto* channel : {&kept.red, &kept.green, &kept.blue}) {
+            for (std::uint16_t& entry : *channel) {
+                entry &= mask;
+            }
+        }
         state_.writes.emplace_back(crtc, ramp);
         return true;
     }

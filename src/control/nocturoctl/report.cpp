@@ -15,9 +15,10 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::array<const char*, 9> kStatusOrder = {
+constexpr std::array<const char*, 11> kStatusOrder = {
     "active",         "displayServices",      "displays",          "effects", "dimLevel",
-    "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "hotKey"};
+    "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "hotKey",  "disturbances",
+    "disturber"};
 constexpr std::array<const char*, 7> kDisplayOrder = {"number",   "id",       "name",   "main",
                                                       "rampSize", "affected", "applied"};
 
@@ -97,6 +98,18 @@ Row parameterRow(const Json& properties, const char* title, const char* name) {
     return {title, plain(properties[name])};
 }
 
+// Nothing as long as nobody disturbs.
+std::string disturbanceReport(const Json& properties) {
+    const auto count = properties["disturbances"].get<unsigned>();
+    if (count == 0) {
+        return {};
+    }
+    const std::string name = plain(properties["disturber"]);
+    return (name.empty() ? "Another program" : name) + " changes the colors too: found " +
+           std::to_string(count) + (count == 1 ? " time" : " times") +
+           " since Nocturo was started.\n";
+}
+
 } // namespace
 
 std::string statusReport(const Json& properties) {
@@ -108,7 +121,8 @@ std::string statusReport(const Json& properties) {
                    parameterRow(properties, "color filter vividness", "colorFilterVividness"),
                    {"hot key", hotKeyText(properties["hotKey"])},
                    {"display services", plain(properties["displayServices"])}});
-    text += "\nDisplays\n" + screensReport(properties) + "\nSettings\n";
+    text +=
+        "\nDisplays\n" + screensReport(properties) + disturbanceReport(properties) + "\nSettings\n";
     std::vector<Row> rows;
     for (const Setting& setting : settingsTable()) {
         const std::string key(setting.key);

@@ -20,4 +20,13 @@ std::optional<QDBusConnection> connectToSessionBus() {
     return bus;
 }
 
+std::optional<QDBusConnection> connectToSystemBus() {
+    QDBusConnection bus =
+        QDBusConnection::connectToBus(QDBusConnection::SystemBus, QStringLiteral("nocturo-system"));
+    if (!bus.isConnected()) {
+        return std::nullopt;
+    }
+    return bus;
+}
+
 } // namespace nocturo

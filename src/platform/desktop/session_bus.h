@@ -10,4 +10,7 @@ namespace nocturo {
 /// directory; nothing when there is none. Never starts one, as the library would by itself.
 std::optional<QDBusConnection> connectToSessionBus();
 
+/// The system bus; nothing when there is none.
+std::optional<QDBusConnection> connectToSystemBus();
+
 } // namespace nocturo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,6 +53,11 @@ class DisplayServices {
     /// or the display cannot be written. Allocates nothing.
     virtual bool writeTransferTable(CGDirectDisplayID display, std::uint32_t count,
                                     const float* red, const float* green, const float* blue) = 0;
+
+    /// How many of these displays no longer hold what was written to them last, because somebody
+    /// else wrote to them. Writes it to those again, so each change is counted once.
+    virtual std::uint32_t
+    takeBackDisturbedDisplays(std::span<const CGDirectDisplayID> displays) = 0;
 
     /// Gives the first kZQMaxDisplays displays, and every other one that was written, the system's
     /// own colours back.

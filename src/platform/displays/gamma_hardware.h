@@ -4,6 +4,7 @@
 #include "platform/displays/ramp.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,10 @@ class GammaHardware {
 
     /// The heads that are on, in a stable order; false when they cannot be listed.
     virtual bool listHeads(std::vector<Head>& heads) = 0;
+
+    /// Says that the ramps of these CRTCs are read next, each once, so that hardware which takes
+    /// time to answer can be asked for all of them together.
+    virtual void expectReads(std::span<const std::uint32_t> /*crtcs*/) {}
 
     /// Reads the ramp of a CRTC into `ramp`, which has the CRTC's size already; false on failure.
     virtual bool readRamp(std::uint32_t crtc, Ramp& ramp) = 0;

@@ -65,6 +65,32 @@ bool RampDisplayServices::writeTransferTable(CGDirectDisplayID display, std::uin
     return writeScratch(crtc, display);
 }
 
+std::uint32_t
+RampDisplayServices::takeBackDisturbedDisplays(std::span<const CGDirectDisplayID> displays) {
+    std::vector<std::uint32_t> written;
+    for (const CGDirectDisplayID id : displays) {
+        const Display* display = usableDisplay(id);
+        if (display != nullptr && display->crtc->writer == id) {
+            written.push_back(display->crtc->id);
+        }
+    }
+    hardware_->expectReads(written);
+    std::uint32_t disturbed = 0;
+    for (const std::uint32_t id : written) {
+        Crtc& crtc = crtcs_.at(id);
+        if (!hardware_->readRamp(id, crtc.scratch) || crtc.scratch == crtc.written) {
+            continue;
+        }
+        // Hardware that keeps fewer bits than it takes never holds what was written; only a ramp
+        // that can be put back was changed by somebody.
+        const bool heldOnceMore = hardware_->writeRamp(id, crtc.written) &&
+                                  hardware_->readRamp(id, crtc.scratch) &&
+                                  crtc.scratch == crtc.written;
+        disturbed += heldOnceMore ? 1 : 0;
+    }
+    return disturbed;
+}
+
 void RampDisplayServices::restoreSystemColors() {
     refresh();
     std::set<const Crtc*> restored;

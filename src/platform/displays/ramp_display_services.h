@@ -28,6 +28,7 @@ class RampDisplayServices : public DisplayServices {
                            float* green, float* blue, std::uint32_t& count) override;
     bool writeTransferTable(CGDirectDisplayID display, std::uint32_t count, const float* red,
                             const float* green, const float* blue) override;
+    std::uint32_t takeBackDisturbedDisplays(std::span<const CGDirectDisplayID> displays) override;
     void restoreSystemColors() override;
 
   private:

@@ -361,10 +361,29 @@ std::optional<std::uint32_t> RandrHardware::knownGammaSize(std::uint32_t crtc) c
     return std::nullopt;
 }
 
+void RandrHardware::expectReads(std::span<const std::uint32_t> crtcs) {
+    for (const auto& [crtc, sequence] : rampsAsked_) {
+        xcb_discard_reply(connection_.get(), sequence);
+    }
+    rampsAsked_.clear();
+    for (const auto crtc : crtcs) {
+        rampsAsked_.emplace_back(crtc, xcb_randr_get_crtc_gamma(connection_.get(), crtc).sequence);
+    }
+}
+
 bool RandrHardware::readRamp(std::uint32_t crtc, Ramp& ramp) {
     auto* raw = connection_.get();
+    const auto asked = std::find_if(rampsAsked_.begin(), rampsAsked_.end(),
+                                    [&](const auto& each) { return each.first == crtc; });
+    xcb_randr_get_crtc_gamma_cookie_t cookie{};
+    if (asked != rampsAsked_.end()) {
+        cookie.sequence = asked->second;
+        rampsAsked_.erase(asked);
+    } else {
+        cookie = xcb_randr_get_crtc_gamma(raw, crtc);
+    }
     const XcbReply<xcb_randr_get_crtc_gamma_reply_t> reply(
-        xcb_randr_get_crtc_gamma_reply(raw, xcb_randr_get_crtc_gamma(raw, crtc), nullptr));
+        xcb_randr_get_crtc_gamma_reply(raw, cookie, nullptr));
     if (!reply || reply->size != ramp.size()) {
         return false;
     }

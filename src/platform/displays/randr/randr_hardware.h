@@ -29,6 +29,7 @@ class RandrHardware final : public GammaHardware {
     std::uint64_t topologyGeneration() override;
 
     bool listHeads(std::vector<Head>& heads) override;
+    void expectReads(std::span<const std::uint32_t> crtcs) override;
     bool readRamp(std::uint32_t crtc, Ramp& ramp) override;
 
     /// True means sent. What the server refuses later, such as a CRTC that has vanished, is logged
@@ -72,6 +73,7 @@ class RandrHardware final : public GammaHardware {
     std::uint32_t maximumRequestLength_ = 0; // in units of four bytes
     std::uint64_t generation_ = 1;
     std::vector<std::pair<std::uint32_t, std::uint32_t>> gammaSizes_; // by CRTC; they never change
+    std::vector<std::pair<std::uint32_t, unsigned>> rampsAsked_; // by CRTC: xcb's sequence number
     std::vector<std::uint32_t> unplugged_; // outputs that are lit although nothing is connected
     bool refusalLogged_ = false;
     bool lossCounted_ = false;
