@@ -115,7 +115,8 @@ void NDAppController::toggleGlobalEffect() {
 
 void NDAppController::adjustScreenControllers() {
     const std::vector<double> affected = affectedScreenSet(defaults_);
-    for (const CGDirectDisplayID display : OnlineDisplays().ids()) {
+    const OnlineDisplays online;
+    for (const CGDirectDisplayID display : online.ids()) {
         setScreenControllerActive(
             affected.empty() || contains(affected, static_cast<double>(display)), display);
     }
