@@ -22,6 +22,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kReapplicationPeriod = 6000ms;
+constexpr auto kModeChangeDelay = 50ms;
 constexpr std::string_view kEffectActive = "EffectActive";
 
 // The first ten online displays; empty when they cannot be listed.
@@ -52,6 +53,7 @@ NDAppController::NDAppController(DefaultsStore& defaults, NotificationCenter& lo
 
 NDAppController::~NDAppController() {
     localCenter_.removeObserver(this);
+    CGDisplayRemoveReconfigurationCallback(NDDisplayReconfigurationCallback, this);
 }
 
 void NDAppController::applicationDidFinishLaunching() {
@@ -65,6 +67,7 @@ void NDAppController::applicationDidFinishLaunching() {
     } else {
         setEffectActive(false, true);
     }
+    CGDisplayRegisterReconfigurationCallback(NDDisplayReconfigurationCallback, this);
 }
 
 void NDAppController::initDefaults() {
@@ -148,6 +151,11 @@ void NDAppController::updateEffect() {
     }
 }
 
+void NDAppController::displayModeDidChange() {
+    updateEffect();
+    modeChangeTimer_ = runLoop_.scheduleTimer(kModeChangeDelay, [this] { updateEffect(); });
+}
+
 void NDAppController::updateApplyTimer() {
     if (!effectActive() || !defaults_.boolForKey(kContinuouslyApply)) {
         continuousApplyTimer_.reset();
@@ -176,6 +184,13 @@ CGDirectDisplayID NDAppController::validatedDisplayID() {
 
 void NDAppController::setCurrentEffect(std::shared_ptr<NDGroupEffect> effect) {
     globalEffect_ = std::move(effect);
+}
+
+void NDDisplayReconfigurationCallback(CGDirectDisplayID /*display*/, std::uint32_t flags,
+                                      void* controller) {
+    if ((flags & kCGDisplaySetModeFlag) != 0) {
+        static_cast<NDAppController*>(controller)->displayModeDidChange();
+    }
 }
 
 } // namespace nocturo

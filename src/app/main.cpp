@@ -109,19 +109,28 @@ int run(QCoreApplication& application, const RunOptions& options) {
     const auto settingsWatch =
         whenReadable(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
-    const OpenedDisplays displays =
-        openDisplays(options.displays, {qEnvironmentVariable("DISPLAY").toStdString(), *directory});
+    const OpenedDisplays displays = openDisplays(
+        options.displays, {qEnvironmentVariable("DISPLAY").toStdString(), *directory}, runLoop);
     if (displays.services == nullptr) {
         tell(stderr, displays.problem);
         return kFailure;
     }
     setDisplayServices(displays.services.get());
-    const auto displayWatch = whenReadable(displays.eventDescriptor, [&] {
-        displays.processEvents();
-        if (displays.connectionLost()) {
-            QCoreApplication::exit(kFailure);
+    displays.services->setChangeHandler([&](const DisplayChanges& changes) {
+        callReconfigurationCallbacks(changes);
+        if (changes.arrangementChanged) {
+            localCenter.post(NSApplicationDidChangeScreenParametersNotification);
         }
     });
+    std::vector<std::unique_ptr<QSocketNotifier>> displayWatches;
+    for (const int descriptor : displays.eventDescriptors) {
+        displayWatches.push_back(whenReadable(descriptor, [&] {
+            displays.processEvents();
+            if (displays.connectionLost()) {
+                QCoreApplication::exit(kFailure);
+            }
+        }));
+    }
 
     controller.applicationDidFinishLaunching();
     face.announceChanges();

@@ -22,7 +22,8 @@ OpenedDisplays failed(std::string problem) {
     return opened;
 }
 
-OpenedDisplays openRandr(const std::string& xDisplay) {
+OpenedDisplays openRandr(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+    const std::string& xDisplay = surroundings.xDisplay;
     if (xDisplay.empty()) {
         return failed("There is no X server to work with, because DISPLAY is not set." +
                       std::string(kTrySimulated));
@@ -40,10 +41,12 @@ OpenedDisplays openRandr(const std::string& xDisplay) {
     }
     OpenedDisplays opened;
     RandrHardware* hardware = opening.hardware.get(); // lives as long as the services
-    opened.eventDescriptor = hardware->descriptor();
-    opened.processEvents = [hardware] { hardware->processEvents(); };
+    opened.eventDescriptors.push_back(hardware->descriptor());
+    auto services = std::make_unique<RampDisplayServices>(std::move(opening.hardware), nullptr,
+                                                          &runLoop);
+    opened.processEvents = [displays = services.get()] { displays->lookForChanges(); };
     opened.connectionLost = [hardware] { return hardware->connectionLost(); };
-    opened.services = std::make_unique<RampDisplayServices>(std::move(opening.hardware));
+    opened.services = std::move(services);
     logInfo(kCategory, "Displays are those of the X server " + xDisplay + ".");
     return opened;
 }
@@ -85,12 +88,13 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
     return choice;
 }
 
-OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings) {
+OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings,
+                            RunLoop& runLoop) {
     if (choice.kind == DisplayChoice::Kind::simulated) {
         return openSimulated(choice.simulatedCount, surroundings.pictureDirectory);
     }
     // X servers are all there is to find so far, so "auto" looks where "randr" does.
-    return openRandr(surroundings.xDisplay);
+    return openRandr(surroundings, runLoop);
 }
 
 } // namespace nocturo

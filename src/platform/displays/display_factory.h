@@ -8,8 +8,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace nocturo {
+
+class RunLoop;
 
 /// Which display services the user wants.
 struct DisplayChoice {
@@ -33,12 +36,13 @@ struct OpenedDisplays {
     std::unique_ptr<DisplayServices> services; // null when there are none
     std::string problem;                       // one sentence for the user, then
 
-    int eventDescriptor = -1;             // -1 when nothing ever comes from outside
-    std::function<void()> processEvents;  // to be called when the descriptor is readable
+    std::vector<int> eventDescriptors;    // none when nothing ever comes from outside
+    std::function<void()> processEvents;  // to be called when one of them is readable
     std::function<bool()> connectionLost; // true once the server has gone: nothing works any more
 };
 
-/// Opens what was chosen, and logs it.
-OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings);
+/// Opens what was chosen, and logs it. The run loop must outlive what is opened.
+OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings,
+                            RunLoop& runLoop);
 
 } // namespace nocturo

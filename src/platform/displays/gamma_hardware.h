@@ -17,6 +17,8 @@ struct Head {
     std::uint32_t rampSize = 0;     // entries per channel as reported, whatever it is
     DisplayRect bounds;
     bool primary = false;
+    /// Another number than before whenever a mode was set since, also if it was the same again.
+    std::uint64_t modeGeneration = 0;
 };
 
 /// Devices with 16-bit gamma ramps per CRTC. What a desktop offers is adapted to this, and
@@ -41,6 +43,9 @@ class GammaHardware {
     /// Writes a ramp of the CRTC's own size; false on failure. A CRTC that is switched off keeps
     /// the ramp for when it is switched on. Allocates nothing.
     virtual bool writeRamp(std::uint32_t crtc, const Ramp& ramp) = 0;
+
+    /// What the CRTC is to be given back; told before its first write and whenever it changes.
+    virtual void keepSystemRamp(std::uint32_t /*crtc*/, const Ramp& /*ramp*/) {}
 
     /// Returns once every ramp written so far is in force, for hardware that takes them later.
     virtual void waitForWrites() {}
