@@ -14,7 +14,8 @@ packages=(
   libplist-dev              # property lists
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
-  libsystemd-dev            # nocturoctl's bus
+  liblcms2-dev              # color profiles
+  libsystemd-dev            # nocturoctl's bus, colord
   nlohmann-json3-dev        # status --json
   # Testing
   libgtest-dev              # tests
@@ -24,7 +25,8 @@ packages=(
   xserver-xorg-video-dummy  # displays without hardware
   xvfb                      # an X server with all-zero ramps
   x11-xserver-utils         # xrandr, which lights displays
-  dbus-daemon               # a session bus for each test
+  dbus-daemon               # buses of the tests' own
+  colord                    # the tests' color manager
   python3                   # the tests' own calculation
   # Linting
   git                       # which files are ours
@@ -35,7 +37,7 @@ packages=(
 
 # What other distributions must offer, whatever their packages are called.
 programs=(g++ make cmake ninja pkg-config Xorg xrandr dbus-daemon python3)
-modules=(libplist-2.0 xcb xcb-randr libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+modules=(libplist-2.0 xcb xcb-randr lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
 install_on_debian() {

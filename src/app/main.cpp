@@ -47,6 +47,12 @@ std::unique_ptr<QSocketNotifier> whenReadable(int descriptor, std::function<void
     return notifier;
 }
 
+std::string systemBusAddress() {
+    return qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS",
+                                QStringLiteral("unix:path=/run/dbus/system_bus_socket"))
+        .toStdString();
+}
+
 std::filesystem::path settingsPath() {
     return std::filesystem::path(
                QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
@@ -110,7 +116,8 @@ int run(QCoreApplication& application, const RunOptions& options) {
         whenReadable(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
     const OpenedDisplays displays = openDisplays(
-        options.displays, {qEnvironmentVariable("DISPLAY").toStdString(), *directory}, runLoop);
+        options.displays,
+        {qEnvironmentVariable("DISPLAY").toStdString(), *directory, systemBusAddress()}, runLoop);
     if (displays.services == nullptr) {
         tell(stderr, displays.problem);
         return kFailure;

@@ -159,4 +159,15 @@ void XClient::setEdid(const Output& output, const std::vector<std::uint8_t>& edi
           "EDID");
 }
 
+void XClient::setRootProperty(const std::string& name, const std::vector<std::uint8_t>& bytes) {
+    auto* raw = connection_.get();
+    const auto cookie =
+        xcb_intern_atom(raw, false, static_cast<std::uint16_t>(name.size()), name.data());
+    const auto atom = needed(xcb_intern_atom_reply(raw, cookie, nullptr), "atom");
+    check(xcb_change_property_checked(raw, XCB_PROP_MODE_REPLACE, root_, atom->atom,
+                                      XCB_ATOM_CARDINAL, 8,
+                                      static_cast<std::uint32_t>(bytes.size()), bytes.data()),
+          "property");
+}
+
 } // namespace nocturo::rig

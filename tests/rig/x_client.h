@@ -44,6 +44,8 @@ class XClient {
     void switchOn(const Output& output, std::uint32_t mode, int x, int y);
     void switchOff(const Output& output);
     void setEdid(const Output& output, const std::vector<std::uint8_t>& edid);
+    /// Of bytes, on the root window.
+    void setRootProperty(const std::string& name, const std::vector<std::uint8_t>& bytes);
 
   private:
     void check(xcb_void_cookie_t cookie, const char* what);

@@ -1,5 +1,6 @@
 #include "platform/displays/display_factory.h"
 
+#include "platform/displays/profiles/profile_calibrations.h"
 #include "platform/displays/ramp_display_services.h"
 #include "platform/displays/randr/randr_hardware.h"
 #include "platform/displays/simulated/simulated_hardware.h"
@@ -41,9 +42,11 @@ OpenedDisplays openRandr(const DisplaySurroundings& surroundings, RunLoop& runLo
     }
     OpenedDisplays opened;
     RandrHardware* hardware = opening.hardware.get(); // lives as long as the services
+    auto profiles = std::make_unique<ProfileCalibrations>(xDisplay, surroundings.systemBusAddress);
+    opened.eventDescriptors = profiles->descriptors();
     opened.eventDescriptors.push_back(hardware->descriptor());
-    auto services = std::make_unique<RampDisplayServices>(std::move(opening.hardware), nullptr,
-                                                          &runLoop);
+    auto services = std::make_unique<RampDisplayServices>(std::move(opening.hardware),
+                                                          std::move(profiles), &runLoop);
     opened.processEvents = [displays = services.get()] { displays->lookForChanges(); };
     opened.connectionLost = [hardware] { return hardware->connectionLost(); };
     opened.services = std::move(services);

@@ -29,6 +29,7 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 struct DisplaySurroundings {
     std::string xDisplay; // $DISPLAY; empty when not set
     std::filesystem::path pictureDirectory;
+    std::string systemBusAddress;
 };
 
 /// Display services with their place in an event loop.
