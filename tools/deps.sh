@@ -17,7 +17,8 @@ packages=(
   libxcb-screensaver0-dev   # screen savers of an X server
   libxcb-xkb-dev            # keyboard events
   libxkbcommon-x11-dev      # what keys type
-  libsystemd-dev            # nocturoctl's bus
+  liblcms2-dev              # color profiles
+  libsystemd-dev            # nocturoctl's bus, colord
   nlohmann-json3-dev        # status --json
   # Testing
   libgtest-dev              # tests
@@ -30,8 +31,9 @@ packages=(
   xdotool                   # typing into windows
   xvfb                      # an X server with all-zero ramps
   x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
-  dbus-daemon               # a session bus for each test
   locales                   # one with a comma in its numbers
+  dbus-daemon               # buses of the tests' own
+  colord                    # the tests' color manager
   python3                   # the tests' own calculation
   python3-dbusmock          # a login manager and screen savers for tests
   xscreensaver              # a screen saver that is like no other
@@ -44,7 +46,7 @@ packages=(
 
 # What other distributions must offer, whatever their packages are called.
 programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xscreensaver dbus-daemon python3)
-modules=(libplist-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+modules=(libplist-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
 install_on_debian() {

@@ -24,6 +24,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kReapplicationPeriod = 6000ms;
+constexpr auto kModeChangeDelay = 50ms;
 constexpr std::string_view kEffectActive = "EffectActive";
 constexpr std::string_view kToggleAction = "toggleGlobalEffect:";
 
@@ -59,6 +60,7 @@ NDAppController::~NDAppController() {
         center->removeObserver(this);
     }
     HXHotKeyCenter::sharedHotKeyCenter().unregisterAllHotKeys();
+    CGDisplayRemoveReconfigurationCallback(NDDisplayReconfigurationCallback, this);
 }
 
 void NDAppController::observe(NotificationCenter& center, std::string_view name, Handler handler) {
@@ -84,6 +86,7 @@ void NDAppController::applicationDidFinishLaunching() {
     }
     observe(centers_.distributed, NSScreenColorSpaceDidChangeNotification,
             &NDAppController::updateEffect);
+    CGDisplayRegisterReconfigurationCallback(NDDisplayReconfigurationCallback, this);
 }
 
 void NDAppController::initDefaults() {
@@ -168,6 +171,11 @@ void NDAppController::updateEffect() {
     }
 }
 
+void NDAppController::displayModeDidChange() {
+    updateEffect();
+    modeChangeTimer_ = runLoop_.scheduleTimer(kModeChangeDelay, [this] { updateEffect(); });
+}
+
 void NDAppController::updateApplyTimer() {
     if (!effectActive() || !defaults_.boolForKey(kContinuouslyApply)) {
         continuousApplyTimer_.reset();
@@ -238,6 +246,13 @@ std::string NDAppController::description() const {
 
 void NDAppController::setCurrentEffect(std::shared_ptr<NDGroupEffect> effect) {
     globalEffect_ = std::move(effect);
+}
+
+void NDDisplayReconfigurationCallback(CGDirectDisplayID /*display*/, std::uint32_t flags,
+                                      void* controller) {
+    if ((flags & kCGDisplaySetModeFlag) != 0) {
+        static_cast<NDAppController*>(controller)->displayModeDidChange();
+    }
 }
 
 } // namespace nocturo

@@ -6,6 +6,7 @@
 #include "platform/displays/display_services.h"
 #include "platform/notification_center.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -86,6 +87,11 @@ class NDAppController : public ActionTarget {
     /// Applies the effect again on every display that has a controller.
     void updateEffect();
 
+    /// A display's mode was set: applies the effect at once and again 0.05 seconds later, for
+    /// drivers that reset the ramp only after they have told. Another mode meanwhile starts these
+    /// 0.05 seconds anew.
+    void displayModeDidChange();
+
     /// Starts or stops the 6-second timer as the state and "ContinuouslyApply" say; a running one
     /// keeps its phase.
     void updateApplyTimer();
@@ -131,6 +137,11 @@ class NDAppController : public ActionTarget {
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
     std::unique_ptr<Timer> continuousApplyTimer_;
+    std::unique_ptr<Timer> modeChangeTimer_;
 };
+
+/// Has the controller follow when the flags say that a mode was set; all else is ignored.
+void NDDisplayReconfigurationCallback(CGDirectDisplayID display, std::uint32_t flags,
+                                      void* controller);
 
 } // namespace nocturo

@@ -15,6 +15,7 @@
 #include "platform/displays/guarded/guard_process.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
+#include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keeper.h"
 #include "platform/workspace/desktop_sources.h"
@@ -41,6 +42,12 @@ constexpr int kUsage = 2;
 
 void tell(std::FILE* stream, const std::string& sentence) {
     std::fprintf(stream, "nocturo: %s\n", sentence.c_str());
+}
+
+std::string systemBusAddress() {
+    return qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS",
+                                QStringLiteral("unix:path=/run/dbus/system_bus_socket"))
+        .toStdString();
 }
 
 std::filesystem::path settingsPath() {
@@ -115,18 +122,31 @@ int run(QCoreApplication& application, const RunOptions& options) {
         whenReadable(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
     const std::string xDisplay = qEnvironmentVariable("DISPLAY").toStdString();
-    const OpenedDisplays displays = openDisplays(options.displays, {xDisplay, *directory});
+    const OpenedDisplays displays =
+        openDisplays(options.displays, {xDisplay, *directory, systemBusAddress()}, runLoop);
     if (displays.services == nullptr) {
         tell(stderr, displays.problem);
         return kFailure;
     }
     setDisplayServices(displays.services.get());
-    const auto displayWatch = whenReadable(displays.eventDescriptor, [&] {
-        displays.processEvents();
-        if (displays.connectionLost()) {
-            QCoreApplication::exit(kFailure);
+    displays.services->setChangeHandler([&](const DisplayChanges& changes) {
+        callReconfigurationCallbacks(changes);
+        if (changes.arrangementChanged) {
+            centers.local.post(NSApplicationDidChangeScreenParametersNotification);
+        }
+        if (!changes.profilesChanged.empty()) {
+            centers.distributed.post(NSScreenColorSpaceDidChangeNotification);
         }
     });
+    std::vector<std::unique_ptr<QSocketNotifier>> displayWatches;
+    for (const int descriptor : displays.eventDescriptors) {
+        displayWatches.push_back(whenReadable(descriptor, [&] {
+            displays.processEvents();
+            if (displays.connectionLost()) {
+                QCoreApplication::exit(kFailure);
+            }
+        }));
+    }
 
     const auto guardWatch = whenReadable(displays.guardEndDescriptor, displays.processGuardEnd);
 

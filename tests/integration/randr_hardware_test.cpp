@@ -141,6 +141,20 @@ TEST(RandrHardware, followsOutputsThatGoAndCome) {
     EXPECT_EQ(connectors(*hardware), (Names{"DUMMY0", "DUMMY1", "DUMMY2"}));
     EXPECT_EQ(client.ramp(crtc), uneven);
 
+    // Switched off and on again between two looks: all seems the same, but the ramp may not be.
+    std::vector<Head> before;
+    std::vector<Head> after;
+    ASSERT_TRUE(hardware->listHeads(before));
+    generation = hardware->topologyGeneration();
+    server.switchOff(1);
+    server.switchOn(1);
+    EXPECT_TRUE(generationMovesOn(*hardware, generation));
+    ASSERT_TRUE(hardware->listHeads(after));
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(after[i].bounds, before[i].bounds);
+        EXPECT_EQ(after[i].modeGeneration != before[i].modeGeneration, i == 1);
+    }
+
     generation = hardware->topologyGeneration();
     server.setEdid(0, {1, 2, 3});
     EXPECT_TRUE(generationMovesOn(*hardware, generation));

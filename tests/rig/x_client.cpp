@@ -170,4 +170,11 @@ void XClient::setEdid(const Output& output, const std::vector<std::uint8_t>& edi
           "EDID");
 }
 
+void XClient::setRootBytes(const std::string& name, const std::vector<std::uint8_t>& bytes) {
+    check(xcb_change_property_checked(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(name),
+                                      XCB_ATOM_CARDINAL, 8,
+                                      static_cast<std::uint32_t>(bytes.size()), bytes.data()),
+          "property");
+}
+
 } // namespace nocturo::rig

@@ -40,6 +40,8 @@ class XClient {
 
     /// Makes the numbers a property of the root window, as a window manager would.
     void setRootProperty(const std::string& name, const std::vector<std::uint32_t>& numbers);
+    /// The same with bytes, such as a profile's.
+    void setRootBytes(const std::string& name, const std::vector<std::uint8_t>& bytes);
     std::uint32_t atom(const std::string& name);
 
     void setScreenSize(int width, int height);

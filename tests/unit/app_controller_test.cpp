@@ -89,6 +89,33 @@ TEST_F(AppController, AnUnpluggedDisplayKeepsItsControllerUntilOff) {
     EXPECT_EQ(shown(), "ooo");
 }
 
+TEST_F(AppController, AModeChangeAppliesAtOnceAndOnceMore) {
+    controller_.applicationDidFinishLaunching();
+    store_->setBool(false, "ContinuouslyApply");
+    const auto reset = [&] { hardware_.ramps[1] = identityRamp(256); };
+    reset();
+    NDDisplayReconfigurationCallback(id(0), 0xFFFFFFF7, &controller_);
+    EXPECT_EQ(shown(), "oii");
+    callReconfigurationCallbacks({{id(0), id(1)}, false, {}});
+    EXPECT_EQ(shown(), "iii");
+    reset();
+    runLoop_.advance(49);
+    EXPECT_EQ(shown(), "oii");
+    runLoop_.advance(1);
+    EXPECT_EQ(shown(), "iii");
+    reset();
+    runLoop_.advance(10000);
+    EXPECT_EQ(shown(), "oii");
+    callReconfigurationCallbacks({{}, true, {id(0)}});
+    EXPECT_EQ(shown(), "oii");
+
+    callReconfigurationCallbacks({{id(0)}, false, {}});
+    controller_.setEffectActive(false, false);
+    hardware_.writes.clear();
+    runLoop_.advance(50);
+    EXPECT_TRUE(hardware_.writes.empty());
+}
+
 TEST_F(AppController, AppliesAgainEverySixSecondsWhileAskedTo) {
     controller_.applicationDidFinishLaunching();
     hardware_.ramps[1] = identityRamp(256);

@@ -2,6 +2,7 @@
 
 #include "platform/displays/gamma_hardware.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -15,7 +16,11 @@ struct FakeGammaHardwareState {
     std::vector<Head> heads;
     std::map<std::uint32_t, Ramp> ramps; // by CRTC
     std::vector<std::pair<std::uint32_t, Ramp>> writes;
+    std::map<std::uint32_t, Ramp> kept; // what each CRTC is to be given back
     std::uint64_t generation = 1;
+    std::uint64_t modes = 0;         // set so far
+    int writesNotProvidedFor = 0;    // before it was said what to give back
+    std::function<void()> afterRead; // when set
     bool lists = true;
     bool reads = true;
     int keptBits = 16; // of every entry that is written
@@ -27,9 +32,19 @@ struct FakeGammaHardwareState {
         head.crtc = crtc;
         head.rampSize = size;
         head.bounds = {100.0 * static_cast<double>(heads.size()), 0, 100, 100};
+        head.modeGeneration = ++modes;
         heads.push_back(head);
         if (isUsableRampSize(size) && ramps.count(crtc) == 0) {
             ramps[crtc] = identityRamp(size);
+        }
+        ++generation;
+    }
+    /// Sets the same mode again.
+    void setMode(const std::string& connector) {
+        for (Head& head : heads) {
+            if (head.connector == connector) {
+                head.modeGeneration = ++modes;
+            }
         }
         ++generation;
     }
@@ -53,6 +68,9 @@ class FakeGammaHardware : public GammaHardware {
         if (state_.reads) {
             ramp = state_.ramps.at(crtc);
         }
+        if (state_.afterRead) {
+            state_.afterRead();
+        }
         return state_.reads;
     }
     bool writeRamp(std::uint32_t crtc, const Ramp& ramp) override {
@@ -64,8 +82,10 @@ class FakeGammaHardware : public GammaHardware {
             }
         }
         state_.writes.emplace_back(crtc, ramp);
+        state_.writesNotProvidedFor += state_.kept.count(crtc) == 0 ? 1 : 0;
         return true;
     }
+    void keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) override { state_.kept[crtc] = ramp; }
 
   private:
     FakeGammaHardwareState& state_;

@@ -179,6 +179,11 @@ TEST_F(Displays, TwoThatShareACrtcDoNotConfuseEachOther) {
     EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256)));
     services_->restoreSystemColors();
     EXPECT_EQ(hardware_.ramps[1], bumpy(256));
+
+    hardware_.ramps[1] = bumpy(256, 3); // another program
+    a = inverting(id(0));
+    b = inverting(id(1));
+    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256, 3)));
 }
 
 TEST_F(Displays, EachIsGivenBackWhatItHadWhenFirstSeen) {

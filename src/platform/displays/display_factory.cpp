@@ -3,6 +3,7 @@
 #include "platform/displays/guarded/display_repair.h"
 #include "platform/displays/guarded/guarded_hardware.h"
 #include "platform/displays/guarded/journal.h"
+#include "platform/displays/profiles/profile_calibrations.h"
 #include "platform/displays/ramp_display_services.h"
 #include "platform/displays/randr/randr_hardware.h"
 #include "platform/displays/simulated/simulated_hardware.h"
@@ -25,8 +26,8 @@ OpenedDisplays failed(std::string problem) {
     return opened;
 }
 
-OpenedDisplays openRandr(const std::string& xDisplay,
-                         const std::filesystem::path& runtimeDirectory) {
+OpenedDisplays openRandr(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+    const std::string& xDisplay = surroundings.xDisplay;
     if (xDisplay.empty()) {
         return failed("There is no X server to work with, because DISPLAY is not set." +
                       std::string(kTrySimulated));
@@ -43,7 +44,7 @@ OpenedDisplays openRandr(const std::string& xDisplay,
                       std::string(kTrySimulated));
     }
     // Before anything is captured, so that no effect is ever taken for a display's own colours.
-    const auto journal = journalFile(runtimeDirectory, xDisplay);
+    const auto journal = journalFile(surroundings.runtimeDirectory, xDisplay);
     if (repairDisplays(*opening.hardware, journal) == Repair::inUse) {
         return failed("Another Nocturo drives the displays of the X server " + xDisplay + ".");
     }
@@ -51,12 +52,16 @@ OpenedDisplays openRandr(const std::string& xDisplay,
         std::make_unique<GuardedHardware>(std::move(opening.hardware), xDisplay, journal);
     OpenedDisplays opened;
     GuardedHardware* hardware = guarded.get(); // lives as long as the services
-    opened.eventDescriptor = hardware->displays().descriptor();
-    opened.processEvents = [hardware] { hardware->displays().processEvents(); };
+    auto profiles = std::make_unique<ProfileCalibrations>(xDisplay, surroundings.systemBusAddress);
+    opened.eventDescriptors = profiles->descriptors();
+    opened.eventDescriptors.push_back(hardware->displays().descriptor());
+    auto services =
+        std::make_unique<RampDisplayServices>(std::move(guarded), std::move(profiles), &runLoop);
+    opened.processEvents = [displays = services.get()] { displays->lookForChanges(); };
     opened.connectionLost = [hardware] { return hardware->displays().connectionLost(); };
     opened.guardEndDescriptor = hardware->guardEndDescriptor();
     opened.processGuardEnd = [hardware] { hardware->processGuardEnd(); };
-    opened.services = std::make_unique<RampDisplayServices>(std::move(guarded));
+    opened.services = std::move(services);
     logInfo(kCategory, "Displays are those of the X server " + xDisplay + ".");
     return opened;
 }
@@ -98,12 +103,13 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
     return choice;
 }
 
-OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings) {
+OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings,
+                            RunLoop& runLoop) {
     if (choice.kind == DisplayChoice::Kind::simulated) {
         return openSimulated(choice.simulatedCount, surroundings.runtimeDirectory);
     }
     // X servers are all there is to find so far, so "auto" looks where "randr" does.
-    return openRandr(surroundings.xDisplay, surroundings.runtimeDirectory);
+    return openRandr(surroundings, runLoop);
 }
 
 } // namespace nocturo

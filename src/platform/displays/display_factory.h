@@ -8,8 +8,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace nocturo {
+
+class RunLoop;
 
 /// Which display services the user wants.
 struct DisplayChoice {
@@ -26,6 +29,7 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 struct DisplaySurroundings {
     std::string xDisplay; // $DISPLAY; empty when not set
     std::filesystem::path runtimeDirectory;
+    std::string systemBusAddress;
 };
 
 /// Display services with their place in an event loop.
@@ -33,15 +37,16 @@ struct OpenedDisplays {
     std::unique_ptr<DisplayServices> services; // null when there are none
     std::string problem;                       // one sentence for the user, then
 
-    int eventDescriptor = -1;             // -1 when nothing ever comes from outside
-    std::function<void()> processEvents;  // to be called when the descriptor is readable
+    std::vector<int> eventDescriptors;    // none when nothing ever comes from outside
+    std::function<void()> processEvents;  // to be called when one of them is readable
     std::function<bool()> connectionLost; // true once the server has gone: nothing works any more
 
     int guardEndDescriptor = -1;           // -1 where the displays need no guard
     std::function<void()> processGuardEnd; // to be called when that descriptor is readable
 };
 
-/// Opens what was chosen, and logs it.
-OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings);
+/// Opens what was chosen, and logs it. The run loop must outlive what is opened.
+OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings,
+                            RunLoop& runLoop);
 
 } // namespace nocturo

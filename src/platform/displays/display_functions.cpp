@@ -1,10 +1,26 @@
 #include "platform/displays/display_functions.h"
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace nocturo {
 
 namespace {
 
+using Registration = std::pair<CGDisplayReconfigurationCallBack, void*>;
+
 DisplayServices* chosenServices = nullptr;
+
+std::vector<Registration>& registrations() {
+    static std::vector<Registration> all;
+    return all;
+}
+
+bool isRegistered(const Registration& registration) {
+    const auto& all = registrations();
+    return std::find(all.begin(), all.end(), registration) != all.end();
+}
 
 bool meet(const DisplayRect& a, const DisplayRect& b) {
     return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
@@ -81,6 +97,34 @@ CGError CGSetDisplayTransferByTable(CGDirectDisplayID display, std::uint32_t cou
 void CGDisplayRestoreColorSyncSettings() {
     if (chosenServices != nullptr) {
         chosenServices->restoreSystemColors();
+    }
+}
+
+CGError CGDisplayRegisterReconfigurationCallback(CGDisplayReconfigurationCallBack callback,
+                                                 void* userInfo) {
+    if (callback == nullptr) {
+        return kCGErrorFailure;
+    }
+    if (!isRegistered({callback, userInfo})) {
+        registrations().emplace_back(callback, userInfo);
+    }
+    return kCGErrorSuccess;
+}
+
+CGError CGDisplayRemoveReconfigurationCallback(CGDisplayReconfigurationCallBack callback,
+                                               void* userInfo) {
+    return std::erase(registrations(), Registration(callback, userInfo)) > 0 ? kCGErrorSuccess
+                                                                             : kCGErrorFailure;
+}
+
+void callReconfigurationCallbacks(const DisplayChanges& changes) {
+    const std::vector<Registration> all = registrations();
+    for (const CGDirectDisplayID display : changes.modeChanged) {
+        for (const Registration& registration : all) {
+            if (isRegistered(registration)) {
+                registration.first(display, kCGDisplaySetModeFlag, registration.second);
+            }
+        }
     }
 }
 

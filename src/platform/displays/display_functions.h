@@ -43,4 +43,23 @@ CGError CGSetDisplayTransferByTable(CGDirectDisplayID display, std::uint32_t cou
 
 void CGDisplayRestoreColorSyncSettings();
 
+using CGDisplayChangeSummaryFlags = std::uint32_t;
+inline constexpr CGDisplayChangeSummaryFlags kCGDisplaySetModeFlag = 8;
+
+/// Called once for each display whose mode was set, with kCGDisplaySetModeFlag.
+using CGDisplayReconfigurationCallBack = void (*)(CGDirectDisplayID display,
+                                                  CGDisplayChangeSummaryFlags flags,
+                                                  void* userInfo);
+
+/// A callback may be registered with several contexts, each once.
+CGError CGDisplayRegisterReconfigurationCallback(CGDisplayReconfigurationCallBack callback,
+                                                 void* userInfo);
+
+/// Fails when it is not registered with that context.
+CGError CGDisplayRemoveReconfigurationCallback(CGDisplayReconfigurationCallBack callback,
+                                               void* userInfo);
+
+/// Calls the registered callbacks as the changes ask for; callbacks may register and remove.
+void callReconfigurationCallbacks(const DisplayChanges& changes);
+
 } // namespace nocturo

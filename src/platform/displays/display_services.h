@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@ struct DisplayRect {
     double y = 0;
     double width = 0;
     double height = 0;
+    bool operator==(const DisplayRect&) const = default;
 };
 
 /// An online display.
@@ -29,6 +31,19 @@ struct DisplayInfo {
     DisplayRect bounds;
     std::uint32_t rampSize = 0; // entries per channel; 0 when the display has no usable ramp
     bool main = false;          // exactly one display of a list that is not empty
+    bool operator==(const DisplayInfo&) const = default;
+};
+
+/// What happened to the displays since this was told last.
+struct DisplayChanges {
+    /// Displays on which a mode was set, each once: another one, the same again, or the first since
+    /// they were plugged in. Drivers may reset the ramp then.
+    std::vector<CGDirectDisplayID> modeChanged;
+    /// Displays were plugged, unplugged, moved, resized, switched on or off.
+    bool arrangementChanged = false;
+    /// Online displays whose system colours are others now.
+    std::vector<CGDirectDisplayID> profilesChanged;
+    bool operator==(const DisplayChanges&) const = default;
 };
 
 /// Reads and writes the transfer tables of the desktop's displays. Tables are 32-bit floats,
@@ -62,6 +77,11 @@ class DisplayServices {
     /// Gives the first kZQMaxDisplays displays, and every other one that was written, the system's
     /// own colours back.
     virtual void restoreSystemColors() = 0;
+
+    /// Has `handler` called from the event loop, never from inside another member, whenever
+    /// something changed. Changes that come in quick succession, as with a docking station, are
+    /// told together once they have settled.
+    virtual void setChangeHandler(std::function<void(const DisplayChanges&)> handler) = 0;
 };
 
 } // namespace nocturo

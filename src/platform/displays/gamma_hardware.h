@@ -18,6 +18,8 @@ struct Head {
     std::uint32_t rampSize = 0;     // entries per channel as reported, whatever it is
     DisplayRect bounds;
     bool primary = false;
+    /// Another number than before whenever a mode was set since, also if it was the same again.
+    std::uint64_t modeGeneration = 0;
 };
 
 /// Devices with 16-bit gamma ramps per CRTC. What a desktop offers is adapted to this, and

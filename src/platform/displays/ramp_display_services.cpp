@@ -2,18 +2,36 @@
 
 #include <algorithm>
 #include <cstring>
-#include <set>
 #include <utility>
 
 namespace nocturo {
 
-RampDisplayServices::RampDisplayServices(std::unique_ptr<GammaHardware> hardware)
-    : hardware_(std::move(hardware)) {
+namespace {
+
+void addOnce(std::vector<CGDirectDisplayID>& ids, CGDirectDisplayID id) {
+    if (std::find(ids.begin(), ids.end(), id) == ids.end()) {
+        ids.push_back(id);
+    }
+}
+
+} // namespace
+
+RampDisplayServices::RampDisplayServices(std::unique_ptr<GammaHardware> hardware,
+                                         std::unique_ptr<CalibrationSource> calibrations,
+                                         RunLoop* runLoop)
+    : hardware_(std::move(hardware)), calibrations_(std::move(calibrations)) {
     refresh();
+    pending_ = {};
+    if (runLoop != nullptr) {
+        settler_.emplace(*runLoop, [this] { tellChanges(); });
+    }
+    noteWhatCameAlong();
 }
 
 const std::vector<DisplayInfo>* RampDisplayServices::onlineDisplays() {
-    return refresh() ? &online_ : nullptr;
+    const bool listed = refresh();
+    noteWhatCameAlong();
+    return listed ? &online_ : nullptr;
 }
 
 bool RampDisplayServices::readTransferTable(CGDirectDisplayID display, std::uint32_t capacity,
@@ -23,12 +41,14 @@ bool RampDisplayServices::readTransferTable(CGDirectDisplayID display, std::uint
     if (known == nullptr || capacity == 0) {
         return false;
     }
+    takeCalibrations();
     std::optional<Ramp> ramp = readRamp(display, *known);
+    noteWhatCameAlong();
     if (!ramp) {
         return false;
     }
-    if (!known->systemRamp) {
-        known->systemRamp = ramp;
+    if (!known->firstSeen) {
+        known->firstSeen = ramp;
         keepSystemRamps();
     }
     tableFromChannel(ramp->red, capacity, red);
@@ -62,7 +82,12 @@ bool RampDisplayServices::writeTransferTable(CGDirectDisplayID display, std::uin
         channelFromTable(green, count, crtc.scratch.green);
         channelFromTable(blue, count, crtc.scratch.blue);
     }
-    return writeScratch(crtc, display);
+    if (crtc.kept.size() == 0) {
+        keepSystemRamp(crtc, crtc.own);
+    }
+    const bool written = writeScratch(crtc, display, display);
+    noteWhatCameAlong();
+    return written;
 }
 
 std::uint32_t
@@ -93,29 +118,27 @@ RampDisplayServices::takeBackDisturbedDisplays(std::span<const CGDirectDisplayID
 
 void RampDisplayServices::restoreSystemColors() {
     refresh();
-    std::set<const Crtc*> restored;
-    const auto restore = [&](Crtc& crtc, const Ramp& ramp) {
-        if (restored.insert(&crtc).second) {
-            crtc.scratch = resampledRamp(ramp, crtc.scratch.size());
-            writeScratch(crtc, 0);
-        }
-    };
-    // Displays beyond the driven ones are not ours to write.
-    const auto driven = std::min<std::size_t>(online_.size(), kZQMaxDisplays);
-    for (std::size_t i = 0; i < driven; ++i) {
-        Display& display = displays_[online_[i].id];
-        if (display.crtc != nullptr && display.systemRamp) {
-            restore(*display.crtc, *display.systemRamp);
-        }
-    }
-    // What was written for a display that has gone must not greet the next one there.
+    takeCalibrations();
     for (auto& [id, crtc] : crtcs_) {
-        if (crtc.writer != 0) {
-            restore(crtc, crtc.own);
+        if (const GiveBack back = giveBack(crtc); back.ramp != nullptr) {
+            crtc.scratch = resampledRamp(*back.ramp, crtc.scratch.size());
+            writeScratch(crtc, 0, back.display);
         }
     }
     // Whoever is told that the displays are back, or that the program has ended, finds them so.
     hardware_->waitForWrites();
+    noteWhatCameAlong();
+}
+
+void RampDisplayServices::setChangeHandler(std::function<void(const DisplayChanges&)> handler) {
+    changeHandler_ = std::move(handler);
+}
+
+void RampDisplayServices::lookForChanges() {
+    if (refresh()) {
+        takeCalibrations();
+        noteWhatCameAlong();
+    }
 }
 
 bool RampDisplayServices::Capture::matches(std::uint32_t count, const float* red,
@@ -136,7 +159,7 @@ bool RampDisplayServices::refresh() {
         return false;
     }
     generation_ = generation;
-    online_.clear();
+    const std::vector<DisplayInfo> before = std::exchange(online_, {});
     for (auto& [id, display] : displays_) {
         display.crtc = nullptr;
     }
@@ -148,22 +171,23 @@ bool RampDisplayServices::refresh() {
                                          [](const DisplayInfo& info) { return info.main; })) {
         online_.front().main = true;
     }
+    // Only now is it known which displays share a CRTC.
+    for (auto& [id, display] : displays_) {
+        if (std::find(ids.begin(), ids.end(), id) == ids.end()) {
+            display.modeGeneration.reset();
+        }
+        if (display.crtc != nullptr && !display.firstSeen) {
+            display.firstSeen = readRamp(id, display);
+        }
+    }
+    pending_.arrangementChanged = pending_.arrangementChanged || before != online_;
+    noteChange();
+    takeCalibrations();
     keepSystemRamps();
     return true;
 }
 
 // Of displays that share a CRTC the first is the one that restoring heeds.
-void RampDisplayServices::keepSystemRamps() {
-    std::set<const Crtc*> kept;
-    const auto driven = std::min<std::size_t>(online_.size(), kZQMaxDisplays);
-    for (std::size_t i = 0; i < driven; ++i) {
-        const Display& display = displays_[online_[i].id];
-        if (display.crtc != nullptr && display.systemRamp && kept.insert(display.crtc).second) {
-            hardware_->keepSystemRamp(
-                display.crtc->id, resampledRamp(*display.systemRamp, display.crtc->scratch.size()));
-        }
-    }
-}
 
 void RampDisplayServices::takeHead(const Head& head, CGDirectDisplayID id) {
     const bool isMain = head.primary && std::none_of(online_.begin(), online_.end(),
@@ -171,12 +195,15 @@ void RampDisplayServices::takeHead(const Head& head, CGDirectDisplayID id) {
     const bool usable = isUsableRampSize(head.rampSize);
     online_.push_back({id, head.connector, head.bounds, usable ? head.rampSize : 0, isMain});
     Display& display = displays_[id];
-    if (!usable) {
-        return;
+    if (!display.modeGeneration) {
+        calibrationGeneration_.reset();
     }
-    display.crtc = &crtcOf(head);
-    if (!display.systemRamp) {
-        display.systemRamp = readRamp(id, display);
+    if (display.modeGeneration != head.modeGeneration) {
+        display.modeGeneration = head.modeGeneration;
+        addOnce(pending_.modeChanged, id);
+    }
+    if (usable) {
+        display.crtc = &crtcOf(head);
     }
 }
 
@@ -198,26 +225,160 @@ RampDisplayServices::Display* RampDisplayServices::usableDisplay(CGDirectDisplay
     return found != displays_.end() && found->second.crtc != nullptr ? &found->second : nullptr;
 }
 
-// The ramp in force for a display: what the CRTC holds, unless that was written here for another.
+// The ramp in force for a display: what the CRTC holds, unless that was written here for another or
+// stands for system colours that are no longer the display's.
 std::optional<Ramp> RampDisplayServices::readRamp(CGDirectDisplayID id, Display& display) {
     Crtc& crtc = *display.crtc;
     if (!hardware_->readRamp(crtc.id, crtc.scratch)) {
         return std::nullopt;
     }
-    if (crtc.writer != 0 && crtc.scratch == crtc.written) {
-        return crtc.writer == id ? crtc.written : crtc.own;
+    const bool ours = crtc.writtenFor != 0 && crtc.scratch == crtc.written;
+    const bool foreign = ours && isForeign(crtc, id);
+    const bool outdated = (ours && display.calibrationIsNews) ||
+                          (display.superseded && crtc.scratch == *display.superseded);
+    display.calibrationIsNews = false;
+    if ((foreign || outdated) && display.systemRamp()) {
+        if (outdated) {
+            display.superseded = crtc.scratch;
+        }
+        return resampledRamp(*display.systemRamp(), crtc.scratch.size());
+    }
+    if (foreign || (ours && crtc.writer != 0 && crtc.writer != id)) {
+        return crtc.own;
+    }
+    if (ours) {
+        return crtc.written;
     }
     crtc.own = crtc.scratch.isAllZero() ? identityRamp(crtc.scratch.size()) : crtc.scratch;
     return crtc.own;
 }
 
-bool RampDisplayServices::writeScratch(Crtc& crtc, CGDirectDisplayID writer) {
+// Whether what was written last was for a display that is no longer there.
+bool RampDisplayServices::isForeign(const Crtc& crtc, CGDirectDisplayID id) const {
+    return crtc.writtenFor != id && displays_.at(crtc.writtenFor).crtc != &crtc;
+}
+
+bool RampDisplayServices::writeScratch(Crtc& crtc, CGDirectDisplayID writer,
+                                       CGDirectDisplayID writtenFor) {
     if (!hardware_->writeRamp(crtc.id, crtc.scratch)) {
         return false;
     }
     std::swap(crtc.written, crtc.scratch);
     crtc.writer = writer;
+    crtc.writtenFor = writtenFor;
     return true;
+}
+
+void RampDisplayServices::takeCalibrations() {
+    if (calibrations_ == nullptr) {
+        return;
+    }
+    const std::uint64_t generation = calibrations_->generation();
+    if (calibrationGeneration_ == generation) {
+        return;
+    }
+    calibrationGeneration_ = generation;
+    bool changed = false;
+    for (const DisplayInfo& info : online_) {
+        Display& display = displays_[info.id];
+        if (display.crtc != nullptr && takeCalibration(display, info.name)) {
+            addOnce(pending_.profilesChanged, info.id);
+            changed = true;
+        }
+    }
+    keepSystemRamps();
+    if (changed || calibrations_->generation() != generation) {
+        noteChange();
+    }
+}
+
+// Whether the display's system ramp is another now.
+bool RampDisplayServices::takeCalibration(Display& display, const std::string& connector) {
+    CalibrationAnswer answer = calibrations_->calibration(connector, display.crtc->scratch.size());
+    // The first answer is no change: the display shows what it showed when Nocturo came.
+    const bool isChange =
+        std::exchange(display.calibrationSettled, display.calibrationSettled || answer.settled);
+    if (answer.ramp == display.calibration) {
+        return false;
+    }
+    const std::optional<Ramp> former = display.systemRamp();
+    if (isChange) {
+        supersede(display);
+    }
+    display.calibration = std::move(answer.ramp);
+    return display.systemRamp() != former;
+}
+
+// What the display shows now stands for the calibration that comes, if it shows its system colours.
+void RampDisplayServices::supersede(Display& display) {
+    Crtc& crtc = *display.crtc;
+    display.calibrationIsNews = true;
+    if (display.systemRamp() && hardware_->readRamp(crtc.id, crtc.scratch) &&
+        crtc.scratch == resampledRamp(*display.systemRamp(), crtc.scratch.size())) {
+        display.superseded = crtc.scratch;
+    }
+}
+
+RampDisplayServices::GiveBack RampDisplayServices::giveBack(const Crtc& crtc) const {
+    const auto of = [this](CGDirectDisplayID id) -> const Display& { return displays_.at(id); };
+    // Displays beyond the driven ones are not ours to write.
+    const auto driven = std::min<std::size_t>(online_.size(), kZQMaxDisplays);
+    for (std::size_t i = 0; i < driven; ++i) {
+        const Display& display = of(online_[i].id);
+        if (display.crtc == &crtc && display.systemRamp()) {
+            return {&*display.systemRamp(), online_[i].id};
+        }
+    }
+    // What was written for a display that has gone must not greet the next one there.
+    if (crtc.writer != 0) {
+        const std::optional<Ramp>& ramp = of(crtc.writer).systemRamp();
+        return {ramp ? &*ramp : &crtc.own, crtc.writer};
+    }
+    return {};
+}
+
+void RampDisplayServices::keepSystemRamps() {
+    for (auto& [id, crtc] : crtcs_) {
+        if (const GiveBack back = giveBack(crtc); back.ramp != nullptr) {
+            keepSystemRamp(crtc, *back.ramp);
+        }
+    }
+}
+
+void RampDisplayServices::keepSystemRamp(Crtc& crtc, const Ramp& ramp) {
+    Ramp fitting = resampledRamp(ramp, crtc.scratch.size());
+    if (crtc.kept != fitting) {
+        crtc.kept = std::move(fitting);
+        hardware_->keepSystemRamp(crtc.id, crtc.kept);
+    }
+}
+
+void RampDisplayServices::noteChange() {
+    if (settler_) {
+        settler_->note();
+    }
+}
+
+// An answer of the hardware may have brought word of a change along, and then nothing outside says
+// so any more.
+void RampDisplayServices::noteWhatCameAlong() {
+    if (generation_ != hardware_->topologyGeneration()) {
+        noteChange();
+    }
+}
+
+void RampDisplayServices::tellChanges() {
+    if (pending_.arrangementChanged) {
+        calibrationGeneration_.reset(); // profiles may go by the order of the displays
+    }
+    if (refresh()) {
+        takeCalibrations();
+        noteWhatCameAlong();
+    }
+    const DisplayChanges changes = std::exchange(pending_, {});
+    if (changeHandler_ && changes != DisplayChanges{}) {
+        changeHandler_(changes);
+    }
 }
 
 } // namespace nocturo

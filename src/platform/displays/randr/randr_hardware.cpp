@@ -221,6 +221,9 @@ void RandrHardware::handle(const xcb_generic_event_t& event) {
     }
     // Brightness keys and the like change properties too, and say nothing about the heads.
     const auto& notify = reinterpret_cast<const xcb_randr_notify_event_t&>(event);
+    if (notify.subCode == XCB_RANDR_NOTIFY_CRTC_CHANGE) {
+        modes_.note(notify.u.cc.crtc, notify.u.cc.mode, notify.u.cc.rotation);
+    }
     if (notify.subCode != XCB_RANDR_NOTIFY_OUTPUT_PROPERTY || notify.u.op.atom == edidAtom_) {
         ++generation_;
     }
@@ -274,6 +277,7 @@ void RandrHardware::describe(std::vector<LitOutput>& lit, std::vector<Head>& hea
         Head& head = lit[i].head;
         head.edid = edidBytes(edid.get());
         head.rampSize = knownGammaSize(head.crtc).value_or(0);
+        head.modeGeneration = modes_.note(head.crtc, lit[i].mode, lit[i].rotation);
         makeConnectorUnique(heads, head.connector);
         heads.push_back(std::move(head));
     }
@@ -328,7 +332,10 @@ bool RandrHardware::findLitOutputs(std::vector<LitOutput>& lit,
                 &screen == &screens.front() && screen.primary && screen.primary->output == output;
             const DisplayRect bounds{double(crtc->x), double(crtc->y), double(crtc->width),
                                      double(crtc->height)};
-            lit.push_back({output, {outputName(*info), {}, info->crtc, 0, bounds, primary}});
+            lit.push_back({output,
+                           {outputName(*info), {}, info->crtc, 0, bounds, primary},
+                           crtc->mode,
+                           crtc->rotation});
         }
     }
     return true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/displays/gamma_hardware.h"
+#include "platform/displays/randr/crtc_modes.h"
 #include "platform/displays/randr/xcb_handles.h"
 
 #include <memory>
@@ -55,6 +56,8 @@ class RandrHardware final : public GammaHardware {
     struct LitOutput {
         std::uint32_t output = 0;
         Head head;
+        std::uint32_t mode = 0;
+        std::uint16_t rotation = 0;
     };
 
     bool isWaylandGuest() const;
@@ -72,6 +75,7 @@ class RandrHardware final : public GammaHardware {
     std::uint8_t firstEvent_ = 0;
     std::uint32_t maximumRequestLength_ = 0; // in units of four bytes
     std::uint64_t generation_ = 1;
+    CrtcModes modes_;
     std::vector<std::pair<std::uint32_t, std::uint32_t>> gammaSizes_; // by CRTC; they never change
     std::vector<std::pair<std::uint32_t, unsigned>> rampsAsked_; // by CRTC: xcb's sequence number
     std::vector<std::uint32_t> unplugged_; // outputs that are lit although nothing is connected

@@ -1,0 +1,180 @@
+// Displays with colour profiles, assigned as desktops do: on the root window, and through a real
+// colord. Switching off and ending leave each display at its calibration, to the last bit.
+
+#include "platform/displays/profiles/profile_calibrations.h"
+#include "rig/color_manager.h"
+#include "rig/color_profile.h"
+#include "rig/session.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <fstream>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+
+namespace nocturo::rig {
+
+namespace {
+
+Channels reversed(Channels channels) {
+    for (auto& channel : channels) {
+        std::reverse(channel.begin(), channel.end());
+    }
+    return channels;
+}
+
+class ColorProfiles : public testing::Test {
+  protected:
+    void useColord() {
+        try {
+            colord_.emplace();
+        } catch (const std::runtime_error& error) {
+            GTEST_SKIP() << error.what();
+        }
+        session_.environment()["DBUS_SYSTEM_BUS_ADDRESS"] = colord_->busAddress();
+    }
+    void start() {
+        nocturo_ = session_.startNocturo();
+        ctl({"effects", "only", "invert"});
+        ctl({"off"});
+    }
+    void ctl(const std::vector<std::string>& arguments) {
+        const RunResult result = session_.run("nocturoctl", arguments);
+        EXPECT_EQ(result.exit, 0) << result.errors;
+    }
+    std::filesystem::path file(unsigned number) {
+        return writeFile(std::to_string(number) + ".icc", colorProfile(calibration(number)));
+    }
+    std::filesystem::path writeFile(const std::string& name,
+                                    const std::vector<std::uint8_t>& bytes) {
+        const auto path = directory_.path() / name;
+        std::ofstream(path, std::ios::binary)
+            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<long>(bytes.size()));
+        return path;
+    }
+    void setProperty(const char* name, unsigned number) {
+        client_.setRootBytes(name, colorProfile(calibration(number)));
+    }
+    bool shows(int display, const Channels& ramp) {
+        return client_.ramp("DUMMY" + std::to_string(display)) == ramp;
+    }
+    bool calibrated(unsigned first, unsigned second) {
+        return shows(0, calibration(first)) && shows(1, calibration(second));
+    }
+    /// Switches off until it shows that what colord said has arrived.
+    bool offEndsCalibrated(unsigned first, unsigned second) {
+        return waitUntil([&] {
+            ctl({"off"});
+            return calibrated(first, second);
+        });
+    }
+
+    TemporaryDirectory directory_;
+    std::optional<ColorManager> colord_;
+    Session session_{2};
+    XClient client_{session_.server().display()};
+    std::unique_ptr<Process> nocturo_;
+};
+
+TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
+    setProperty("_ICC_PROFILE", 1);
+    setProperty("_ICC_PROFILE_1", 2);
+    start();
+    EXPECT_TRUE(calibrated(1, 2));
+    ctl({"on"});
+    EXPECT_TRUE(shows(0, reversed(calibration(1))) && shows(1, reversed(calibration(2))));
+    setProperty("_ICC_PROFILE_1", 3);
+    ctl({"effects", "add", "invert"}); // updates
+    EXPECT_TRUE(shows(1, reversed(calibration(2))));
+    ctl({"off"});
+    EXPECT_TRUE(calibrated(1, 3));
+    setProperty("_ICC_PROFILE", 4);
+    ctl({"on"});
+    EXPECT_TRUE(shows(0, reversed(calibration(4))));
+    ctl({"quit"});
+    EXPECT_EQ(nocturo_->wait(), 0);
+    EXPECT_TRUE(calibrated(4, 3));
+}
+
+TEST_F(ColorProfiles, OfColordComeFirst) {
+    useColord();
+    setProperty("_ICC_PROFILE", 9);
+    setProperty("_ICC_PROFILE_1", 2);
+    colord_->assign("DUMMY0", file(1));
+    start();
+    EXPECT_TRUE(offEndsCalibrated(1, 2));
+    ctl({"on"});
+    colord_->assign("DUMMY1", file(3));
+    EXPECT_TRUE(offEndsCalibrated(1, 3));
+    ctl({"on"});
+    EXPECT_TRUE(shows(0, reversed(calibration(1))) && shows(1, reversed(calibration(3))));
+    colord_->assign("DUMMY0", file(5));
+    EXPECT_TRUE(shows(0, reversed(calibration(1)))) << "a running effect keeps its curve";
+    EXPECT_TRUE(offEndsCalibrated(5, 3));
+    colord_->remove("DUMMY0");
+    EXPECT_TRUE(offEndsCalibrated(9, 3));
+    colord_->assign("DUMMY0", file(6));
+    EXPECT_TRUE(offEndsCalibrated(6, 3));
+    ctl({"on"});
+    nocturo_->signal(SIGTERM);
+    nocturo_->wait();
+    EXPECT_TRUE(calibrated(6, 3));
+    EXPECT_EQ(nocturo_->errors(), "");
+}
+
+TEST_F(ColorProfiles, ThatAreBrokenAreRefusedWithASentence) {
+    useColord();
+    const Channels own = client_.ramp("DUMMY0");
+    const auto path = file(1);
+    colord_->assign("DUMMY0", path);
+    const auto good = colorProfile(calibration(1));
+    writeFile("1.icc", {good.begin(), good.begin() + 400});
+    client_.setRootBytes("_ICC_PROFILE", {1, 2, 3});
+    setProperty("_ICC_PROFILE_1", 2);
+    start();
+    ASSERT_TRUE(nocturo_->waitForError("1.icc is not used"));
+    ctl({"on"});
+    ctl({"off"});
+    EXPECT_TRUE(shows(0, own));
+    EXPECT_TRUE(shows(1, calibration(2)));
+
+    std::filesystem::remove(path);
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    setProperty("_ICC_PROFILE_1", 3); // has everything looked at again
+    ctl({"off"});
+    EXPECT_TRUE(shows(0, own));
+    EXPECT_TRUE(shows(1, calibration(3)));
+    const std::string& said = nocturo_->errors();
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 2) << said;
+    EXPECT_NE(said.find("_ICC_PROFILE is not used"), std::string::npos) << said;
+}
+
+TEST_F(ColorProfiles, CostNothingWhenTheSystemBusIsSilent) {
+    const std::string path = directory_.path() / "silent";
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
+    const FileDescriptor silent(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    ASSERT_EQ(bind(silent.get(), reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    ASSERT_EQ(listen(silent.get(), 4), 0);
+    setProperty("_ICC_PROFILE", 1);
+    setProperty("_ICC_PROFILE_1", 2);
+
+    const auto before = std::chrono::steady_clock::now();
+    ProfileCalibrations profiles("", "unix:path=" + path);
+    EXPECT_FALSE(profiles.calibration("DUMMY0", 256).settled);
+    EXPECT_LT(std::chrono::steady_clock::now() - before, Milliseconds(200));
+    EXPECT_FALSE(profiles.waitForAnswers(Milliseconds(10)));
+
+    session_.environment()["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=" + path;
+    start();
+    EXPECT_TRUE(calibrated(1, 2));
+}
+
+} // namespace
+
+} // namespace nocturo::rig

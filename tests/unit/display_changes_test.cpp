@@ -1,0 +1,301 @@
+// What the display services tell of changes, and the system colours that displays go back to.
+
+#include "display/display_gamma.h"
+#include "display/screen_controller.h"
+#include "effects/invert_effect.h"
+#include "fake_gamma_hardware.h"
+#include "fake_run_loop.h"
+#include "platform/displays/display_functions.h"
+#include "platform/displays/ramp_display_services.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace nocturo {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+// Rising, and another one for every number.
+Ramp colors(std::uint16_t number) {
+    Ramp ramp(256);
+    for (std::uint16_t i = 0; i < 256; ++i) {
+        ramp.red[i] = static_cast<std::uint16_t>(200 * i + number);
+        ramp.green[i] = static_cast<std::uint16_t>(210 * i + number);
+        ramp.blue[i] = static_cast<std::uint16_t>(220 * i + number);
+    }
+    return ramp;
+}
+
+Ramp inverted(std::uint16_t number) {
+    Ramp ramp = colors(number);
+    for (auto* channel : {&ramp.red, &ramp.green, &ramp.blue}) {
+        std::reverse(channel->begin(), channel->end());
+    }
+    return ramp;
+}
+
+struct Profiles {
+    std::map<std::string, Ramp> ramps; // by connector
+    bool settled = true;
+    std::uint64_t generation = 1;
+
+    void assign(const std::string& connector, std::uint16_t number) {
+        ramps[connector] = colors(number);
+        ++generation;
+    }
+};
+
+class FakeCalibrations : public CalibrationSource {
+  public:
+    explicit FakeCalibrations(Profiles& profiles) : profiles_(profiles) {}
+    CalibrationAnswer calibration(const std::string& connector, std::uint32_t size) override {
+        const auto found = profiles_.ramps.find(connector);
+        if (found == profiles_.ramps.end()) {
+            return {std::nullopt, profiles_.settled};
+        }
+        return {resampledRamp(found->second, size), profiles_.settled};
+    }
+    std::uint64_t generation() override { return profiles_.generation; }
+
+  private:
+    Profiles& profiles_;
+};
+
+class DisplayChangesTest : public testing::Test {
+  protected:
+    ~DisplayChangesTest() override { setDisplayServices(nullptr); }
+
+    void SetUp() override {
+        hardware_.add("A", 1);
+        hardware_.add("B", 2);
+        hardware_.ramps[1] = colors(1);
+        hardware_.ramps[2] = colors(2);
+    }
+    void start() {
+        services_ = std::make_unique<RampDisplayServices>(
+            std::make_unique<FakeGammaHardware>(hardware_),
+            std::make_unique<FakeCalibrations>(profiles_), &runLoop_);
+        services_->setChangeHandler([this](const DisplayChanges& each) { told_.push_back(each); });
+        setDisplayServices(services_.get());
+        a_ = id("A");
+        b_ = id("B");
+    }
+    CGDirectDisplayID id(const std::string& connector) {
+        for (const DisplayInfo& info : *services_->onlineDisplays()) {
+            if (info.name == connector) {
+                return info.id;
+            }
+        }
+        return 0;
+    }
+    /// What is told once all has settled.
+    std::vector<DisplayChanges> toldAfter(std::int64_t milliseconds = 1000) {
+        runLoop_.advance(milliseconds);
+        return std::exchange(told_, {});
+    }
+    std::unique_ptr<NDScreenController> inverting(CGDirectDisplayID display) {
+        return NDScreenController::screenControllerWithEffect(std::make_shared<NDInvertEffect>(),
+                                                              display);
+    }
+    const Ramp& shown(std::uint32_t crtc) { return hardware_.ramps[crtc]; }
+
+    FakeGammaHardwareState hardware_;
+    Profiles profiles_;
+    FakeRunLoop runLoop_;
+    std::unique_ptr<RampDisplayServices> services_;
+    std::vector<DisplayChanges> told_;
+    CGDirectDisplayID a_ = 0;
+    CGDirectDisplayID b_ = 0;
+};
+
+TEST_F(DisplayChangesTest, EachKindIsToldAndNothingElse) {
+    start();
+    ++hardware_.generation;
+    services_->lookForChanges();
+    EXPECT_THAT(toldAfter(), IsEmpty());
+
+    hardware_.setMode("B");
+    services_->lookForChanges();
+    EXPECT_THAT(told_, IsEmpty()); // never from inside a member
+    EXPECT_THAT(toldAfter(), ElementsAre(DisplayChanges{{b_}, false, {}}));
+
+    hardware_.heads[0].bounds.x = 500;
+    ++hardware_.generation;
+    services_->lookForChanges();
+    EXPECT_THAT(toldAfter(), ElementsAre(DisplayChanges{{}, true, {}}));
+
+    hardware_.remove("A");
+    services_->lookForChanges();
+    EXPECT_THAT(toldAfter(), ElementsAre(DisplayChanges{{}, true, {}}));
+
+    hardware_.add("A", 1);
+    services_->lookForChanges();
+    EXPECT_THAT(toldAfter(), ElementsAre(DisplayChanges{{a_}, true, {}}));
+
+    profiles_.assign("A", 3);
+    services_->lookForChanges();
+    EXPECT_THAT(toldAfter(), ElementsAre(DisplayChanges{{}, false, {a_}}));
+    EXPECT_EQ(runLoop_.pendingTimers(), 0U);
+}
+
+TEST_F(DisplayChangesTest, ABurstIsToldOnceWithinAQuarterOfASecond) {
+    start();
+    for (int i = 0; i < 4; ++i) {
+        hardware_.setMode(i % 2 == 0 ? "A" : "B");
+        services_->lookForChanges();
+        EXPECT_THAT(toldAfter(40), IsEmpty());
+    }
+    EXPECT_THAT(toldAfter(9), IsEmpty());
+    const auto told = toldAfter(1);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_THAT(told[0].modeChanged, UnorderedElementsAre(a_, b_));
+    EXPECT_THAT(toldAfter(), IsEmpty());
+
+    for (int i = 0; i < 50; ++i) { // endless
+        hardware_.setMode("A");
+        services_->lookForChanges();
+        runLoop_.advance(10);
+    }
+    EXPECT_EQ(toldAfter(0).size(), 2U);
+}
+
+TEST_F(DisplayChangesTest, WhatComesAlongWithAnAnswerIsNotMissed) {
+    start();
+    hardware_.afterRead = [&] {
+        hardware_.afterRead = nullptr;
+        hardware_.setMode("A");
+    };
+    EXPECT_EQ(ZQDisplayGammaCurve(a_).sampleCount, 256U);
+    EXPECT_THAT(toldAfter(), ElementsAre(DisplayChanges{{a_}, false, {}}));
+}
+
+TEST_F(DisplayChangesTest, AnAssignedCalibrationIsWhatADisplayGoesBackTo) {
+    profiles_.assign("A", 7);
+    start();
+    const auto a = inverting(a_);
+    const auto b = inverting(b_);
+    EXPECT_EQ(shown(1), inverted(1)); // what it showed when it was captured
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(7));
+    EXPECT_EQ(shown(2), colors(2));
+    const auto again = inverting(a_);
+    EXPECT_EQ(shown(1), inverted(7));
+}
+
+TEST_F(DisplayChangesTest, AProfileThatChangesWhileOffCountsAtTheNextCapture) {
+    profiles_.assign("A", 1); // which is what it shows
+    start();
+    hardware_.writes.clear();
+    profiles_.assign("A", 7);
+    services_->lookForChanges();
+    EXPECT_THAT(hardware_.writes, IsEmpty());
+    profiles_.assign("A", 8);
+    auto a = inverting(a_);
+    EXPECT_EQ(shown(1), inverted(8));
+    EXPECT_EQ(toldAfter().size(), 1U);
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(8));
+
+    // What others have put there since is no former colour.
+    profiles_.assign("A", 9);
+    hardware_.ramps[1] = colors(20);
+    a = inverting(a_);
+    EXPECT_EQ(shown(1), inverted(20));
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(9));
+}
+
+TEST_F(DisplayChangesTest, AProfileThatChangesWhileOnCountsAtTheNextRestore) {
+    profiles_.assign("A", 1);
+    start();
+    auto a = inverting(a_);
+    profiles_.assign("A", 7);
+    services_->lookForChanges();
+    a->updateEffect();
+    EXPECT_EQ(shown(1), inverted(1));
+    a->restoreGamma();
+    EXPECT_EQ(shown(1), colors(1));
+    a = inverting(a_); // as when a display leaves the affected ones and comes back
+    EXPECT_EQ(shown(1), inverted(7));
+    a->updateEffect();
+    a->restoreGamma();
+    EXPECT_EQ(shown(1), colors(7));
+    a->updateEffect();
+    profiles_.ramps.clear();
+    ++profiles_.generation;
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(1));
+}
+
+TEST_F(DisplayChangesTest, ALateFirstAnswerIsNoChangeOfTheProfile) {
+    profiles_.settled = false;
+    start();
+    profiles_.settled = true;
+    profiles_.assign("A", 7);
+    services_->lookForChanges();
+    const auto a = inverting(a_);
+    EXPECT_EQ(shown(1), inverted(1));
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(7));
+}
+
+TEST_F(DisplayChangesTest, APluggedInDisplayNeverTakesWhatWasWrittenForAnother) {
+    profiles_.assign("A", 7);
+    start();
+    auto a = inverting(a_);
+    const auto replaceBy = [&](const std::string& connector) {
+        hardware_.heads.erase(hardware_.heads.begin()); // the one on the first CRTC
+        hardware_.add(connector, 1);
+        std::rotate(hardware_.heads.begin(), hardware_.heads.end() - 1, hardware_.heads.end());
+        return inverting(id(connector));
+    };
+    auto c = replaceBy("C"); // while on
+    EXPECT_EQ(shown(1), inverted(1));
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(1));
+
+    a = replaceBy("A"); // while off
+    EXPECT_EQ(shown(1), inverted(7));
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(7));
+    const auto d = replaceBy("D");
+    EXPECT_EQ(shown(1), inverted(1)); // what others had left there, not A's calibration
+    hardware_.remove("D");
+    services_->restoreSystemColors();
+    EXPECT_EQ(shown(1), colors(1));
+}
+
+TEST_F(DisplayChangesTest, TheHardwareIsToldWhatToGiveBackBeforeAnyWrite) {
+    hardware_.add("C", 3);
+    profiles_.assign("A", 7);
+    hardware_.reads = false;
+    start();
+    EXPECT_EQ(hardware_.kept, (std::map<std::uint32_t, Ramp>{{1, colors(7)}}));
+    hardware_.reads = true;
+    const auto a = inverting(a_);
+    const auto b = inverting(b_);
+    const std::vector<float> dark(256, 0.0F);
+    EXPECT_TRUE(services_->writeTransferTable(id("C"), 256, dark.data(), dark.data(), dark.data()));
+    EXPECT_EQ(hardware_.writesNotProvidedFor, 0);
+    EXPECT_EQ(hardware_.kept[2], colors(2));
+    EXPECT_EQ(hardware_.kept[3], identityRamp(256)); // nothing better is known
+    profiles_.assign("B", 8);
+    services_->lookForChanges();
+    EXPECT_EQ(hardware_.kept[2], colors(8));
+    hardware_.remove("A");
+    hardware_.remove("B");
+    hardware_.add("A", 2);
+    services_->lookForChanges();
+    EXPECT_EQ(hardware_.kept[2], colors(7));
+    EXPECT_EQ(hardware_.kept[1], colors(7)); // still dark with A's effect in it
+}
+
+} // namespace
+
+} // namespace nocturo
