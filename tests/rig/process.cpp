@@ -1,69 +1,16 @@
 #include "rig/process.h"
 
-#include <array>
-#include <cerrno>
 #include <csignal>
-#include <cstring>
-#include <system_error>
 
-#include <fcntl.h>
-#include <poll.h>
 #include <sys/prctl.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace nocturo::rig {
 
 namespace {
 
-[[noreturn]] void fail(const char* what) {
-    throw std::system_error(errno, std::generic_category(), what);
-}
-
-struct Pipe {
-    FileDescriptor read;
-    FileDescriptor write;
-};
-
-Pipe makePipe() {
-    int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) {
-        fail("pipe2");
-    }
-    Pipe made{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
-    fcntl(ends[0], F_SETFL, O_NONBLOCK);
-    return made;
-}
-
-std::vector<char*> pointersTo(std::vector<std::string>& texts) {
-    std::vector<char*> pointers;
-    pointers.reserve(texts.size() + 1);
-    for (auto& text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
-    return pointers;
-}
-
-// Between fork and exec: only what is safe there.
-[[noreturn]] void becomeProgram(pid_t parent, int output, int errors, char* const* arguments,
-                                char* const* environment) {
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (getppid() != parent) {
-        _exit(127);
-    }
-    const int input = open("/dev/null", O_RDONLY);
-    dup2(input, STDIN_FILENO);
-    dup2(output, STDOUT_FILENO);
-    dup2(errors, STDERR_FILENO);
-    execvpe(arguments[0], arguments, environment);
-    const char* reason = strerrordesc_np(errno);
-    for (const char* text : {static_cast<const char*>(arguments[0]), ": ", reason, "\n"}) {
-        (void)!write(STDERR_FILENO, text, strlen(text));
-    }
-    _exit(127);
-}
+constexpr int kCannotRun = 127;
+constexpr int kEndedBySignal = 128; // plus the signal
 
 } // namespace
 
@@ -86,132 +33,105 @@ Environment cleanEnvironment() {
 
 Process::Process(const std::string& program, const std::vector<std::string>& arguments,
                  const Environment& environment) {
-    std::vector<std::string> words{program};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<std::string> settings;
+    QProcessEnvironment settings;
     for (const auto& [name, value] : environment) {
-        settings.push_back(std::string(name).append("=").append(value));
+        settings.insert(QString::fromStdString(name), QString::fromStdString(value));
     }
-    const auto wordPointers = pointersTo(words);
-    const auto settingPointers = pointersTo(settings);
-    Pipe output = makePipe();
-    Pipe errors = makePipe();
-
-    const pid_t parent = getpid();
-    id_ = fork();
-    if (id_ < 0) {
-        fail("fork");
+    process_.setProcessEnvironment(settings);
+    process_.setStandardInputFile(QProcess::nullDevice());
+    process_.setChildProcessModifier([parent = getpid()] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (getppid() != parent) {
+            _exit(kCannotRun);
+        }
+    });
+    QStringList words;
+    for (const auto& argument : arguments) {
+        words << QString::fromStdString(argument);
     }
-    if (id_ == 0) {
-        becomeProgram(parent, output.write.get(), errors.write.get(), wordPointers.data(),
-                      settingPointers.data());
+    process_.start(QString::fromStdString(program), words);
+    if (!process_.waitForStarted()) {
+        errors_ = program + ": " + process_.errorString().toStdString() + "\n";
     }
-    output_.pipe = std::move(output.read);
-    errors_.pipe = std::move(errors.read);
-    end_ = FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, id_, 0)));
-    if (end_.get() < 0) {
-        const int reason = errno;
-        kill(id_, SIGKILL);
-        reap(true);
-        errno = reason;
-        fail("pidfd_open");
-    }
+    id_ = static_cast<pid_t>(process_.processId());
 }
 
 Process::~Process() {
     signal(SIGKILL);
-    reap(true);
+    process_.waitForFinished();
 }
 
 void Process::signal(int number) {
     // Once reaped, the number may be another process's.
-    if (!exitCode_) {
+    if (process_.state() == QProcess::Running) {
         kill(id_, number);
     }
 }
 
 bool Process::isRunning() {
-    reap(false);
-    return !exitCode_;
-}
-
-void Process::reap(bool block) {
-    int status = 0;
-    if (exitCode_ || waitpid(id_, &status, block ? 0 : WNOHANG) != id_) {
-        return;
-    }
-    exitCode_ = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
-}
-
-void Process::takeIn(Stream& stream) {
-    std::array<char, 65536> buffer;
-    while (stream.pipe.get() >= 0) {
-        const ssize_t count = read(stream.pipe.get(), buffer.data(), buffer.size());
-        if (count > 0) {
-            stream.text.append(buffer.data(), static_cast<std::size_t>(count));
-        } else if (count == 0) {
-            stream.pipe.close();
-        } else if (errno != EINTR) {
-            return;
-        }
-    }
+    return !wait(Milliseconds(0));
 }
 
 void Process::takeIn() {
-    takeIn(output_);
-    takeIn(errors_);
+    output_ += process_.readAllStandardOutput().toStdString();
+    errors_ += process_.readAllStandardError().toStdString();
 }
 
 // Tells false only after a last look at everything that arrived.
 template <class Condition>
-bool Process::takeInUntil(Condition condition, Milliseconds timeout) {
+bool Process::takeInUntil(Condition condition, QProcess::ProcessChannel source,
+                          Milliseconds timeout) {
     const auto deadline = timeAfter(timeout);
-    while (true) {
-        const bool ended = !isRunning();
+    process_.setReadChannel(source);
+    for (bool more = true;; more = process_.waitForReadyRead(millisecondsUntil(deadline))) {
         takeIn();
         if (condition()) {
             return true;
         }
-        const int left = millisecondsUntil(deadline);
-        if (ended || left == 0) {
+        if (!more) {
             return false;
         }
-        std::array<pollfd, 3> sources{{{output_.pipe.get(), POLLIN, 0},
-                                       {errors_.pipe.get(), POLLIN, 0},
-                                       {end_.get(), POLLIN, 0}}};
-        poll(sources.data(), sources.size(), left);
     }
 }
 
 std::optional<int> Process::wait(Milliseconds timeout) {
-    takeInUntil([this] { return exitCode_.has_value(); }, timeout);
-    return exitCode_;
+    process_.waitForFinished(static_cast<int>(timeout.count()));
+    if (process_.state() != QProcess::NotRunning) {
+        return std::nullopt;
+    }
+    if (process_.error() == QProcess::FailedToStart) {
+        return kCannotRun;
+    }
+    return process_.exitCode() +
+           (process_.exitStatus() == QProcess::CrashExit ? kEndedBySignal : 0);
 }
 
 std::optional<std::string> Process::readLine(Milliseconds timeout) {
     std::size_t end = std::string::npos;
-    const bool found = takeInUntil(
-        [&] { return (end = output_.text.find('\n', linesRead_)) != std::string::npos; }, timeout);
-    if (!found) {
+    const auto arrived = [&] { return (end = output_.find('\n', linesRead_)) != output_.npos; };
+    if (!takeInUntil(arrived, QProcess::StandardOutput, timeout)) {
         return std::nullopt;
     }
-    std::string line = output_.text.substr(linesRead_, end - linesRead_);
+    std::string line = output_.substr(linesRead_, end - linesRead_);
     linesRead_ = end + 1;
     return line;
 }
 
 bool Process::waitForError(std::string_view part, Milliseconds timeout) {
-    return takeInUntil([&] { return errors_.text.find(part) != std::string::npos; }, timeout);
+    const auto arrived = [&] { return errors_.find(part) != std::string::npos; };
+    return takeInUntil(arrived, QProcess::StandardError, timeout);
 }
 
 const std::string& Process::output() {
+    process_.waitForFinished(0);
     takeIn();
-    return output_.text;
+    return output_;
 }
 
 const std::string& Process::errors() {
+    process_.waitForFinished(0);
     takeIn();
-    return errors_.text;
+    return errors_;
 }
 
 } // namespace nocturo::rig

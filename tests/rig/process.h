@@ -1,6 +1,5 @@
 #pragma once
 
-#include "rig/file_descriptor.h"
 #include "rig/wait.h"
 
 #include <map>
@@ -8,6 +7,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <QProcess>
 
 #include <sys/types.h>
 
@@ -18,14 +19,15 @@ using Environment = std::map<std::string, std::string>;
 /// This process's environment without what leads to the user's displays, buses and settings.
 Environment cleanEnvironment();
 
-/// A running program. It is killed and reaped at the end, also when the test itself dies.
+/// A running program. It is killed and reaped at the end, also when the test itself dies. Works
+/// without an event loop and an application object.
 ///
 /// The end of the thread that started it counts as the test's end: start programs on the main
 /// thread. Its output is taken in while something is waited for and by output() and errors().
 class Process {
   public:
-    /// Standard input is empty. Throws std::system_error when no process can be made; a program
-    /// that cannot be run exits with 127 and says so in errors().
+    /// Standard input is empty. A program that cannot be run exits with 127 and says so in
+    /// errors().
     Process(const std::string& program, const std::vector<std::string>& arguments,
             const Environment& environment);
     ~Process();
@@ -50,27 +52,16 @@ class Process {
     const std::string& output();
     const std::string& errors();
 
-    /// Readable when the process has ended.
-    int endDescriptor() const { return end_.get(); }
-
   private:
-    struct Stream {
-        FileDescriptor pipe; // closed at its end
-        std::string text;
-    };
-
     template <class Condition>
-    bool takeInUntil(Condition condition, Milliseconds timeout);
+    bool takeInUntil(Condition condition, QProcess::ProcessChannel source, Milliseconds timeout);
     void takeIn();
-    static void takeIn(Stream& stream);
-    void reap(bool block);
 
-    pid_t id_ = -1;
-    FileDescriptor end_;
-    Stream output_;
-    Stream errors_;
+    QProcess process_;
+    pid_t id_ = -1; // also when it has ended
+    std::string output_;
+    std::string errors_;
     std::size_t linesRead_ = 0; // where the next line begins
-    std::optional<int> exitCode_;
 };
 
 } // namespace nocturo::rig

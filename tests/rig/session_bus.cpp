@@ -1,12 +1,10 @@
 #include "rig/session_bus.h"
 
-#include <array>
 #include <csignal>
 #include <fstream>
 #include <memory>
 #include <stdexcept>
 
-#include <poll.h>
 #include <systemd/sd-bus.h>
 
 namespace nocturo::rig {
@@ -47,11 +45,6 @@ bool hasOwner(sd_bus* bus, const std::string& name) {
     return owned != 0;
 }
 
-int markChanged(sd_bus_message*, void* changed, sd_bus_error*) {
-    *static_cast<bool*>(changed) = true;
-    return 0;
-}
-
 } // namespace
 
 SessionBus::SessionBus() {
@@ -76,26 +69,15 @@ SessionBus::SessionBus() {
 bool SessionBus::waitForName(const std::string& name, Process& owner, Milliseconds timeout) {
     const auto deadline = timeAfter(timeout);
     const Bus bus = connectTo(address_);
-    bool changed = false;
-    const std::string rule = "type='signal',sender='org.freedesktop.DBus',"
-                             "member='NameOwnerChanged',arg0='" +
-                             name + "'";
-    check(sd_bus_add_match(bus.get(), nullptr, rule.c_str(), markChanged, &changed), "match");
+    const std::string rule = "type='signal',member='NameOwnerChanged',arg0='" + name + "'";
+    check(sd_bus_add_match(bus.get(), nullptr, rule.c_str(), nullptr, nullptr), "match");
     while (!hasOwner(bus.get(), name)) {
-        // The call may have taken the change in already, so process before waiting.
-        for (changed = false; !changed;) {
-            const int processed = sd_bus_process(bus.get(), nullptr);
-            check(processed, "process");
-            if (processed > 0) {
-                continue;
-            }
-            const int left = millisecondsUntil(deadline);
-            if (left == 0 || !owner.isRunning()) {
-                return false;
-            }
-            std::array<pollfd, 2> sources{
-                {{sd_bus_get_fd(bus.get()), POLLIN, 0}, {owner.endDescriptor(), POLLIN, 0}}};
-            poll(sources.data(), sources.size(), left);
+        if (millisecondsUntil(deadline) == 0 || !owner.isRunning()) {
+            return false;
+        }
+        // Wakes with the change, or in time to see that the owner has ended.
+        check(sd_bus_wait(bus.get(), 50000), "wait");
+        while (sd_bus_process(bus.get(), nullptr) > 0) {
         }
     }
     return true;

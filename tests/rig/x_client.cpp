@@ -127,26 +127,25 @@ std::uint32_t XClient::createMode(int width, int height) {
     return needed(xcb_randr_create_mode_reply(raw, cookie, nullptr), "new mode")->mode;
 }
 
-void XClient::switchOn(const Output& output, std::uint32_t mode, int x, int y) {
+void XClient::configure(std::uint32_t crtc, std::uint32_t mode, int x, int y,
+                        const std::vector<std::uint32_t>& outputs) {
     auto* raw = connection_.get();
-    check(xcb_randr_add_output_mode_checked(raw, output.id, mode), "mode of an output");
-    const auto crtc = output.crtc != 0 ? output.crtc : output.possibleCrtc;
     const auto cookie = xcb_randr_set_crtc_config(
         raw, crtc, XCB_CURRENT_TIME, XCB_CURRENT_TIME, static_cast<std::int16_t>(x),
-        static_cast<std::int16_t>(y), mode, XCB_RANDR_ROTATION_ROTATE_0, 1, &output.id);
-    if (needed(xcb_randr_set_crtc_config_reply(raw, cookie, nullptr), "output on")->status != 0) {
-        throw std::runtime_error("the X server refused: output on");
+        static_cast<std::int16_t>(y), mode, XCB_RANDR_ROTATION_ROTATE_0,
+        static_cast<std::uint32_t>(outputs.size()), outputs.data());
+    if (needed(xcb_randr_set_crtc_config_reply(raw, cookie, nullptr), "CRTC")->status != 0) {
+        throw std::runtime_error("the X server refused: CRTC");
     }
 }
 
+void XClient::switchOn(const Output& output, std::uint32_t mode, int x, int y) {
+    check(xcb_randr_add_output_mode_checked(connection_.get(), output.id, mode), "output mode");
+    configure(output.crtc != 0 ? output.crtc : output.possibleCrtc, mode, x, y, {output.id});
+}
+
 void XClient::switchOff(const Output& output) {
-    auto* raw = connection_.get();
-    const auto cookie =
-        xcb_randr_set_crtc_config(raw, output.crtc, XCB_CURRENT_TIME, XCB_CURRENT_TIME, 0, 0,
-                                  XCB_NONE, XCB_RANDR_ROTATION_ROTATE_0, 0, nullptr);
-    if (needed(xcb_randr_set_crtc_config_reply(raw, cookie, nullptr), "output off")->status != 0) {
-        throw std::runtime_error("the X server refused: output off");
-    }
+    configure(output.crtc, XCB_NONE, 0, 0, {});
 }
 
 void XClient::setEdid(const Output& output, const std::vector<std::uint8_t>& edid) {

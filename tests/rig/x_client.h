@@ -47,6 +47,8 @@ class XClient {
 
   private:
     void check(xcb_void_cookie_t cookie, const char* what);
+    void configure(std::uint32_t crtc, std::uint32_t mode, int x, int y,
+                   const std::vector<std::uint32_t>& outputs);
 
     XcbConnection connection_;
     std::uint32_t root_ = 0;

@@ -41,16 +41,6 @@ XKeyboard::XKeyboard(const std::string& display)
     setLayout("us");
 }
 
-XKeyboard::~XKeyboard() {
-    auto* raw = connection_.get();
-    const XcbReply<xcb_query_keymap_reply_t> keymap(
-        xcb_query_keymap_reply(raw, xcb_query_keymap(raw), nullptr));
-    for (unsigned key = 8; keymap && key < 256; ++key) {
-        if ((keymap->keys[key / 8] >> (key % 8) & 1) != 0)
-            fake(static_cast<std::uint16_t>(key - kEvdevToX11Offset), false);
-    }
-}
-
 void XKeyboard::fake(std::uint16_t key, bool down) {
     auto* raw = connection_.get();
     check(raw,

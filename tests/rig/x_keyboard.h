@@ -14,10 +14,6 @@ class XKeyboard {
   public:
     /// The keyboard has the us layout then, and nothing is locked.
     explicit XKeyboard(const std::string& display);
-    /// Lets go of all keys that were pressed, so that the server is not left with keys held.
-    ~XKeyboard();
-    XKeyboard(const XKeyboard&) = delete;
-    XKeyboard& operator=(const XKeyboard&) = delete;
 
     void press(std::uint16_t key) { fake(key, true); }
     void release(std::uint16_t key) { fake(key, false); }

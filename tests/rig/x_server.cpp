@@ -1,6 +1,5 @@
 #include "rig/x_server.h"
 
-#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -73,43 +72,31 @@ std::string freeDisplay() {
     }
 }
 
-XServer::XServer(int displays) {
-    std::ofstream(directory_.path() / "xorg.conf") << kConfiguration;
-    // Another server may take the number between the choice and the start.
-    for (int attempt = 0; attempt < 5 && !client_; ++attempt) {
-        start(freeDisplay());
-    }
-    if (!client_) {
-        std::ostringstream log;
-        log << std::ifstream(directory_.path() / "xorg.log").rdbuf();
-        throw std::runtime_error("Xorg did not start: " + process_->errors() + log.str());
-    }
-    mode_ = client_->createMode(kWidth, kHeight);
-    switchOn(0);
-    client_->setScreenSize(kMaximumDisplays * kWidth, 2 * kHeight);
-    for (int output = 1; output < std::min(displays, kMaximumDisplays); ++output) {
-        switchOn(output);
-    }
-}
-
-bool XServer::start(const std::string& display) {
+XServer::XServer(int displays) : display_(freeDisplay()) {
     const std::string directory = directory_.path();
+    std::ofstream(directory + "/xorg.conf") << kConfiguration;
     auto environment = cleanEnvironment();
     // Keeps the server from asking the machine's login manager for a seat.
     environment["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=" + directory + "/no-bus";
     environment["HOME"] = directory;
     process_.emplace(serverProgram(),
-                     std::vector<std::string>{display, "-displayfd", "1", "-noreset", "-nolisten",
+                     std::vector<std::string>{display_, "-displayfd", "1", "-noreset", "-nolisten",
                                               "tcp", "-novtswitch", "-sharevts", "-config",
                                               directory + "/xorg.conf", "-configdir", directory,
                                               "-logfile", directory + "/xorg.log"},
                      environment);
     if (!process_->readLine()) {
-        return false;
+        std::ostringstream log;
+        log << std::ifstream(directory + "/xorg.log").rdbuf();
+        throw std::runtime_error("Xorg did not start: " + process_->errors() + log.str());
     }
-    display_ = display;
-    client_.emplace(display);
-    return true;
+    client_.emplace(display_);
+    mode_ = client_->createMode(kWidth, kHeight);
+    switchOn(0);
+    client_->setScreenSize(kMaximumDisplays * kWidth, 2 * kHeight);
+    for (int output = 1; output < displays; ++output) {
+        switchOn(output);
+    }
 }
 
 XServer::~XServer() {
@@ -123,10 +110,6 @@ XServer::~XServer() {
 void XServer::kill() {
     process_->signal(SIGKILL);
     process_->wait();
-    removeSocket();
-}
-
-void XServer::removeSocket() const {
     std::error_code ignored;
     fs::remove(socketPath(display_), ignored);
     fs::remove("/tmp/.X" + display_.substr(1) + "-lock", ignored);

@@ -39,8 +39,6 @@ class XServer {
     void kill();
 
   private:
-    bool start(const std::string& display);
-    void removeSocket() const;
     Output outputNumber(int number);
 
     TemporaryDirectory directory_;
