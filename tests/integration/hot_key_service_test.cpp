@@ -22,6 +22,8 @@ using rig::XServer;
 constexpr std::uint16_t kF5 = 96;
 constexpr std::uint16_t kF6 = 97;
 constexpr std::uint16_t kK = 40;
+constexpr unsigned kCapsOn = XCB_MOD_MASK_LOCK;
+constexpr unsigned kNumOn = XCB_MOD_MASK_2;
 
 using Told = std::vector<std::string>; // "press 1", "release 1"
 
@@ -38,9 +40,11 @@ class Listener {
         return service->registerHotKey(keyCode, modifiers, {kSignature, id});
     }
 
-    /// Lets the service work until it has told of `count` events; false when they did not come.
-    bool hears(std::size_t count) {
-        return worksUntil([&] { return told.size() >= count; });
+    /// Lets the service work until it has told of `count` events or time is up; what it told since
+    /// the last time.
+    Told hears(std::size_t count) {
+        worksUntil([&] { return told.size() >= count; });
+        return std::exchange(told, {});
     }
 
     bool worksUntil(const std::function<bool()>& condition) {
@@ -102,49 +106,31 @@ TEST_F(HotKeyServiceTest, tellsOfOnePressAndOneReleaseWhateverIsLocked) {
     ASSERT_TRUE(listener.add(kF5, cmdKey | shiftKey, 1));
     ASSERT_TRUE(listener.add(kF5, cmdKey, 2));
     ASSERT_TRUE(listener.add(kK, optionKey | controlKey, 3));
-    const Told all{"press 1", "release 1", "press 2", "release 2", "press 3", "release 3"};
     const auto tapAll = [&] {
-        listener.told.clear();
+        listener.events.clear();
         tapWith({KEY_LEFTMETA, KEY_LEFTSHIFT}, KEY_F5);
         tapWith({KEY_RIGHTMETA}, KEY_F5);
         tapWith({KEY_RIGHTMETA, KEY_LEFTCTRL}, KEY_F5); // not claimed
         tapWith({KEY_LEFTALT, KEY_LEFTCTRL}, KEY_K);
-        return listener.hears(all.size());
+        EXPECT_EQ(listener.hears(6),
+                  (Told{"press 1", "release 1", "press 2", "release 2", "press 3", "release 3"}));
     };
-
-    EXPECT_TRUE(tapAll());
-    EXPECT_EQ(listener.told, all);
-    keyboard.tap(KEY_CAPSLOCK);
-    ASSERT_EQ(keyboard.modifiers(), XCB_MOD_MASK_LOCK);
-    EXPECT_TRUE(tapAll());
-    EXPECT_EQ(listener.told, all);
-    keyboard.tap(KEY_NUMLOCK);
-    ASSERT_EQ(keyboard.modifiers(), XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2);
-    EXPECT_TRUE(tapAll());
-    EXPECT_EQ(listener.told, all);
-    keyboard.tap(KEY_CAPSLOCK);
-    ASSERT_EQ(keyboard.modifiers(), XCB_MOD_MASK_2);
-    EXPECT_TRUE(tapAll());
-    EXPECT_EQ(listener.told, all);
-    keyboard.setLayout("us,ru");
-    keyboard.lockGroup(1);
-    EXPECT_TRUE(tapAll());
-    EXPECT_EQ(listener.told, all);
-}
-
-TEST_F(HotKeyServiceTest, handsOverModifiersAndTime) {
-    ASSERT_TRUE(listener.add(kF5, cmdKey | shiftKey, 1));
-    ASSERT_TRUE(listener.add(kK, optionKey | controlKey, 2));
-    keyboard.tap(KEY_CAPSLOCK);
-    tapWith({KEY_LEFTMETA, KEY_LEFTSHIFT}, KEY_F5);
-    tapWith({KEY_LEFTALT, KEY_LEFTCTRL}, KEY_K);
-    ASSERT_TRUE(listener.hears(4));
+    for (const auto& [lock, state] :
+         {std::pair(KEY_NUMLOCK, kNumOn), std::pair(KEY_CAPSLOCK, kNumOn | kCapsOn),
+          std::pair(KEY_NUMLOCK, kCapsOn)}) {
+        keyboard.tap(static_cast<std::uint16_t>(lock));
+        ASSERT_EQ(keyboard.modifiers(), state);
+        tapAll();
+    }
     const auto& events = listener.events;
     EXPECT_EQ(events[0].modifierFlags, NSAlphaShiftKeyMask | NSCommandKeyMask | NSShiftKeyMask);
-    EXPECT_EQ(events[2].modifierFlags, NSAlphaShiftKeyMask | NSAlternateKeyMask | NSControlKeyMask);
+    EXPECT_EQ(events[4].modifierFlags, NSAlphaShiftKeyMask | NSAlternateKeyMask | NSControlKeyMask);
     EXPECT_GT(events[0].timestamp, 0);
-    EXPECT_GE(events[3].timestamp, events[0].timestamp);
-    EXPECT_LT(events[3].timestamp, events[0].timestamp + 10);
+    EXPECT_GE(events[5].timestamp, events[0].timestamp);
+    EXPECT_LT(events[5].timestamp, events[0].timestamp + 10);
+    keyboard.setLayout("us,ru");
+    keyboard.lockGroup(1);
+    tapAll();
 }
 
 TEST_F(HotKeyServiceTest, followsTheKeyWhenItsModifiersGoFirst) {
@@ -158,12 +144,10 @@ TEST_F(HotKeyServiceTest, followsTheKeyWhenItsModifiersGoFirst) {
     keyboard.release(KEY_LEFTMETA);
     keyboard.release(KEY_F5);
     keyboard.tap(KEY_F6);
-    ASSERT_TRUE(listener.hears(4));
-    EXPECT_EQ(listener.told, (Told{"press 1", "release 1", "press 3", "release 3"}));
+    EXPECT_EQ(listener.hears(4), (Told{"press 1", "release 1", "press 3", "release 3"}));
     EXPECT_EQ(listener.events[1].modifierFlags, 0u);
 
     // A second hot key pressed while the first is held is one more, not part of the first.
-    listener.told.clear();
     keyboard.press(KEY_LEFTMETA);
     keyboard.press(KEY_F5);
     keyboard.release(KEY_LEFTMETA);
@@ -171,8 +155,7 @@ TEST_F(HotKeyServiceTest, followsTheKeyWhenItsModifiersGoFirst) {
     keyboard.tap(KEY_F6);
     keyboard.release(KEY_F7);
     keyboard.release(KEY_F5);
-    ASSERT_TRUE(listener.hears(4));
-    EXPECT_EQ(listener.told, (Told{"press 2", "press 3", "release 3", "release 2"}));
+    EXPECT_EQ(listener.hears(4), (Told{"press 2", "press 3", "release 3", "release 2"}));
 }
 
 TEST_F(HotKeyServiceTest, takesAHeldKeyForOnePressAndOneRelease) {
@@ -180,19 +163,18 @@ TEST_F(HotKeyServiceTest, takesAHeldKeyForOnePressAndOneRelease) {
     ASSERT_TRUE(listener.add(kF5, cmdKey, 1));
     keyboard.press(KEY_LEFTMETA);
     keyboard.press(KEY_F5);
-    ASSERT_TRUE(listener.hears(1));
+    EXPECT_EQ(listener.hears(1), Told{"press 1"});
     // Nothing but repeats can wake the service now, and each must find the list as it was.
     for (int wakeUps = 0; wakeUps < 10; ++wakeUps) {
         pollfd source{listener.service->descriptor(), POLLIN, 0};
         ASSERT_EQ(poll(&source, 1, 10000), 1);
         listener.service->processEvents();
-        ASSERT_EQ(listener.told, Told{"press 1"});
+        ASSERT_EQ(listener.told, Told{});
     }
     keyboard.release(KEY_F5);
     keyboard.release(KEY_LEFTMETA);
     tapWith({KEY_LEFTMETA}, KEY_F5);
-    ASSERT_TRUE(listener.hears(4));
-    EXPECT_EQ(listener.told, (Told{"press 1", "release 1", "press 1", "release 1"}));
+    EXPECT_EQ(listener.hears(3), (Told{"release 1", "press 1", "release 1"}));
 }
 
 TEST_F(HotKeyServiceTest, refusesWhatAnotherProgramHolds) {
@@ -200,39 +182,24 @@ TEST_F(HotKeyServiceTest, refusesWhatAnotherProgramHolds) {
     constexpr std::uint16_t kWithNumLock = XCB_MOD_MASK_4 | XCB_MOD_MASK_2;
     ASSERT_TRUE(keyboard.grab(KEY_F5, kWithNumLock));
     EXPECT_FALSE(listener.add(kF5, cmdKey, 1));
-    for (const unsigned locks :
-         {0u, unsigned(XCB_MOD_MASK_LOCK), unsigned(XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2)}) {
+    for (const unsigned locks : {0u, kCapsOn, kCapsOn | kNumOn}) {
         const auto state = static_cast<std::uint16_t>(XCB_MOD_MASK_4 | locks);
         EXPECT_TRUE(isSoonFree(KEY_F5, state)) << state;
     }
-    EXPECT_TRUE(listener.add(kF6, cmdKey, 2));
     keyboard.ungrab(KEY_F5, kWithNumLock);
-    const auto handle = listener.add(kF5, cmdKey, 3);
-    EXPECT_TRUE(handle);
+    const auto handle = listener.add(kF5, cmdKey, 2);
+    ASSERT_TRUE(handle);
     EXPECT_FALSE(isFree(KEY_F5, kWithNumLock | XCB_MOD_MASK_LOCK));
-    EXPECT_FALSE(listener.add(kF5, cmdKey, 4)) << "held by ourselves";
-    EXPECT_FALSE(listener.add(127, cmdKey, 5)) << "no such key";
+    EXPECT_FALSE(listener.add(kF5, cmdKey, 3)) << "held by ourselves";
+    EXPECT_FALSE(listener.add(127, cmdKey, 4)) << "no such key";
 
-    tapWith({KEY_LEFTMETA}, KEY_F5);
-    tapWith({KEY_LEFTMETA}, KEY_F6);
-    ASSERT_TRUE(listener.hears(4));
-    EXPECT_EQ(listener.told, (Told{"press 3", "release 3", "press 2", "release 2"}));
+    listener.service->unregisterHotKey(*handle);
     listener.service->unregisterHotKey(*handle);
     EXPECT_TRUE(isSoonFree(KEY_F5, kWithNumLock));
-}
-
-TEST_F(HotKeyServiceTest, isSilentAboutAFormerCombination) {
-    const auto first = listener.add(kF5, cmdKey, 1);
-    ASSERT_TRUE(first);
-    tapWith({KEY_LEFTMETA}, KEY_F5);
-    ASSERT_TRUE(listener.hears(2));
-    listener.service->unregisterHotKey(*first);
-    listener.service->unregisterHotKey(*first);
-    ASSERT_TRUE(listener.add(kF6, cmdKey, 2));
+    ASSERT_TRUE(listener.add(kF6, cmdKey, 5));
     tapWith({KEY_LEFTMETA}, KEY_F5);
     tapWith({KEY_LEFTMETA}, KEY_F6);
-    ASSERT_TRUE(listener.hears(4));
-    EXPECT_EQ(listener.told, (Told{"press 1", "release 1", "press 2", "release 2"}));
+    EXPECT_EQ(listener.hears(2), (Told{"press 5", "release 5"}));
 }
 
 TEST_F(HotKeyServiceTest, survivesChangesFromItsOwnHandlers) {
@@ -245,30 +212,25 @@ TEST_F(HotKeyServiceTest, survivesChangesFromItsOwnHandlers) {
     };
     listener.whenTold = [&](const std::string&) { replaceWith(kF5); };
     keyboard.press(KEY_LEFTMETA);
-    for (const std::size_t taps : {1u, 2u}) {
-        keyboard.press(KEY_F5);
-        ASSERT_TRUE(listener.hears(2 * taps - 1));
-        keyboard.release(KEY_F5);
-        ASSERT_TRUE(listener.hears(2 * taps));
-    }
-    EXPECT_EQ(listener.told, (Told{"press 1", "release 2", "press 3", "release 4"}));
+    keyboard.press(KEY_F5);
+    EXPECT_EQ(listener.hears(1), Told{"press 1"});
+    keyboard.release(KEY_F5);
+    EXPECT_EQ(listener.hears(1), Told{"release 2"});
 
     // Another combination while the key is held: the release is nobody's, and the key is free.
-    listener.told.clear();
     listener.whenTold = [&](const std::string& what) {
-        if (what == "press 5")
+        if (what == "press 3")
             replaceWith(kF6);
-        if (what == "release 6")
+        if (what == "release 4")
             replaceWith(kF5);
     };
     keyboard.press(KEY_F5);
-    ASSERT_TRUE(listener.hears(1));
+    EXPECT_EQ(listener.hears(1), Told{"press 3"});
     keyboard.release(KEY_F5);
     keyboard.tap(KEY_F6);
-    ASSERT_TRUE(listener.hears(3));
+    EXPECT_EQ(listener.hears(2), (Told{"press 4", "release 4"}));
     keyboard.tap(KEY_F5);
-    ASSERT_TRUE(listener.hears(5));
-    EXPECT_EQ(listener.told, (Told{"press 5", "press 6", "release 6", "press 7", "release 7"}));
+    EXPECT_EQ(listener.hears(2), (Told{"press 5", "release 5"}));
 }
 
 TEST_F(HotKeyServiceTest, wakesTheEventLoopForWhatArrivedDuringARegistration) {
@@ -280,8 +242,7 @@ TEST_F(HotKeyServiceTest, wakesTheEventLoopForWhatArrivedDuringARegistration) {
     EXPECT_EQ(listener.told, Told{});
     pollfd source{listener.service->descriptor(), POLLIN, 0};
     ASSERT_EQ(poll(&source, 1, 10000), 1);
-    ASSERT_TRUE(listener.hears(2));
-    EXPECT_EQ(listener.told, (Told{"press 1", "release 1"}));
+    EXPECT_EQ(listener.hears(2), (Told{"press 1", "release 1"}));
 }
 
 TEST_F(HotKeyServiceTest, findsModifiersAgainWhenTheyMove) {
@@ -296,11 +257,7 @@ TEST_F(HotKeyServiceTest, findsModifiersAgainWhenTheyMove) {
     keyboard.tap(KEY_NUMLOCK);
     ASSERT_NE(keyboard.modifiers() & XCB_MOD_MASK_3, 0);
     tapWith({KEY_LEFTMETA}, KEY_F5);
-    ASSERT_TRUE(listener.hears(2));
-    keyboard.tap(KEY_NUMLOCK);
-    tapWith({KEY_LEFTMETA}, KEY_F5);
-    ASSERT_TRUE(listener.hears(4));
-    EXPECT_EQ(listener.told, (Told{"press 1", "release 1", "press 1", "release 1"}));
+    EXPECT_EQ(listener.hears(2), (Told{"press 1", "release 1"}));
     EXPECT_EQ(listener.events[0].modifierFlags, NSCommandKeyMask);
 }
 
@@ -309,7 +266,6 @@ TEST_F(HotKeyServiceTest, noticesThatTheServerIsGone) {
     const auto layout = XkbKeyboardLayout::open(server.display());
     ASSERT_TRUE(handle);
     ASSERT_TRUE(layout);
-    EXPECT_EQ(layout->textForKeyDown(0, 0), "a");
     EXPECT_FALSE(listener.service->connectionLost());
     server.kill();
     EXPECT_TRUE(listener.worksUntil([&] { return listener.service->connectionLost(); }));
@@ -318,7 +274,6 @@ TEST_F(HotKeyServiceTest, noticesThatTheServerIsGone) {
     EXPECT_EQ(layout->textForKeyDown(0, 0), "");
     EXPECT_TRUE(layout->connectionLost());
     EXPECT_EQ(X11HotKeyService::open(server.display()), nullptr);
-    EXPECT_EQ(XkbKeyboardLayout::open(server.display()), nullptr);
     EXPECT_EQ(X11HotKeyService::open(""), nullptr);
     EXPECT_EQ(XkbKeyboardLayout::open(""), nullptr);
 }
@@ -331,39 +286,29 @@ TEST(KeyboardLayout, namesKeysAsTheLayoutEngravesThem) {
     const auto layout = XkbKeyboardLayout::open(server.display());
     ASSERT_TRUE(layout);
     const auto typed = [&](std::initializer_list<std::uint16_t> keyCodes) {
-        std::vector<std::string> texts;
+        std::string texts;
         for (const auto keyCode : keyCodes)
-            texts.push_back(layout->textForKeyDown(keyCode, 0));
+            texts += layout->textForKeyDown(keyCode, 0) + " ";
         return texts;
     };
-    const std::initializer_list<std::uint16_t> keys = {0, 6, 24, 33, 41, 50};
-    using Texts = std::vector<std::string>;
-    EXPECT_EQ(typed(keys), (Texts{"a", "z", "=", "[", ";", "`"}));
-    EXPECT_EQ(typed({36, 48, 51, 53, 117, 122, 56, 127}), Texts(8)) << "controls, F1, Shift, none";
+    const auto follows = [&](const char* texts) {
+        return rig::waitUntil([&] { return typed({0, 6, 24, 33, 41, 50}) == texts; });
+    };
+    EXPECT_TRUE(follows("a z = [ ; ` "));
+    EXPECT_EQ(typed({36, 48, 51, 53, 117, 122, 56, 127}), "        ")
+        << "controls, F1, Shift, none";
     EXPECT_EQ(layout->textForKeyDown(0, 2), "A");
     EXPECT_EQ(layout->textForKeyDown(0, 2 | 4), "a") << "Shift undoes caps lock";
     EXPECT_EQ(layout->textForKeyDown(0, 16), "") << "a control character";
     EXPECT_EQ(layout->textForKeyDown(0, 1 | 8 | 0xff00), "a");
-
-    const auto follows = [&](const Texts& texts) {
-        return rig::waitUntil([&] { return typed(keys) == texts; });
-    };
     keyboard.setLayout("de");
-    EXPECT_TRUE(follows({"a", "y", "", "ü", "ö", ""})) << "the acute and the circumflex are dead";
-    keyboard.setLayout("fr");
-    EXPECT_TRUE(follows({"q", "w", "=", "", "m", "²"})) << "the circumflex is dead";
-    keyboard.setLayout("us", "dvorak");
-    EXPECT_TRUE(follows({"a", ";", "]", "/", "s", "`"}));
-    keyboard.setLayout("ru");
-    EXPECT_TRUE(follows({"ф", "я", "=", "х", "ж", "ё"}));
-    keyboard.setLayout("us,ru");
-    EXPECT_TRUE(follows({"a", "z", "=", "[", ";", "`"}));
+    EXPECT_TRUE(follows("a y  ü ö  ")) << "the acute and the circumflex are dead";
+    keyboard.setLayout("us,ru", "dvorak,");
+    EXPECT_TRUE(follows("a ; ] / s ` "));
     keyboard.lockGroup(1);
-    EXPECT_TRUE(follows({"ф", "я", "=", "х", "ж", "ё"}));
+    EXPECT_TRUE(follows("ф я = х ж ё "));
     keyboard.tap(KEY_CAPSLOCK);
     EXPECT_EQ(layout->textForKeyDown(0, 0), "ф") << "what is locked is for the caller to say";
-    keyboard.lockGroup(0);
-    EXPECT_TRUE(follows({"a", "z", "=", "[", ";", "`"}));
 }
 
 } // namespace

@@ -35,17 +35,15 @@ class HotKeyToggle : public testing::Test {
     bool becomes(bool inverted) {
         return waitUntil([&] { return isInverted() == inverted; });
     }
-    void press(std::initializer_list<int> keys) {
-        for (const int key : keys) {
-            keyboard_.press(static_cast<std::uint16_t>(key));
+    /// The modifiers are let go first: the key itself is released with none held.
+    void press(std::initializer_list<std::uint16_t> keys) {
+        for (const auto key : keys) {
+            keyboard_.press(key);
         }
-        // Modifiers first: the key itself is let go with none held.
-        for (const int key : keys) {
-            keyboard_.release(static_cast<std::uint16_t>(key));
+        for (const auto key : keys) {
+            keyboard_.release(key);
         }
     }
-    void pressSuperShiftF5() { press({KEY_LEFTMETA, KEY_LEFTSHIFT, KEY_F5}); }
-    void pressControlK() { press({KEY_LEFTCTRL, KEY_K}); }
 
     Session session_{2};
     XClient client_{session_.server().display()};
@@ -53,8 +51,7 @@ class HotKeyToggle : public testing::Test {
     std::unique_ptr<Process> nocturo_ = session_.startNocturo();
 };
 
-TEST_F(HotKeyToggle, TogglesOnReleaseWhateverIsLocked) {
-    EXPECT_TRUE(hotKey().is_null());
+TEST_F(HotKeyToggle, TogglesOnReleaseAndFollowsTheChosenCombination) {
     EXPECT_EQ(ctl({"hotkey"}).output, "No hot key is chosen.\n");
     ctl({"hotkey", "set", "shift+Super+f5"});
     ctl({"hotkey", "enable"});
@@ -63,88 +60,58 @@ TEST_F(HotKeyToggle, TogglesOnReleaseWhateverIsLocked) {
                               {"modifierFlags", 0x120000},
                               {"enabled", true},
                               {"registered", true}}));
-    bool inverted = false;
-    for (const int lock : {KEY_RESERVED, KEY_CAPSLOCK, KEY_NUMLOCK, KEY_CAPSLOCK}) {
-        if (lock != KEY_RESERVED) {
-            keyboard_.tap(static_cast<std::uint16_t>(lock));
-        }
-        pressSuperShiftF5();
-        inverted = !inverted;
-        EXPECT_TRUE(becomes(inverted)) << lock;
-    }
     keyboard_.press(KEY_LEFTMETA);
     keyboard_.press(KEY_LEFTSHIFT);
     keyboard_.press(KEY_F5);
     ctl({"status"}); // the press has arrived by now
-    EXPECT_EQ(isInverted(), inverted);
+    EXPECT_FALSE(isInverted());
     keyboard_.release(KEY_F5);
-    EXPECT_TRUE(becomes(!inverted));
-}
+    EXPECT_TRUE(becomes(true));
+    keyboard_.release(KEY_LEFTSHIFT);
+    keyboard_.release(KEY_LEFTMETA);
 
-TEST_F(HotKeyToggle, AChangedCombinationReplacesTheOldOne) {
-    ctl({"hotkey", "enable"});
-    ctl({"hotkey", "set", "super+shift+F5"});
     ctl({"hotkey", "set", "ctrl+k"});
-    EXPECT_EQ(hotKey()["text"], "⌃K");
-    pressSuperShiftF5();
-    pressControlK();
-    EXPECT_TRUE(becomes(true)); // toggled once: the old combination is silent
+    press({KEY_LEFTMETA, KEY_LEFTSHIFT, KEY_F5});
+    press({KEY_LEFTCTRL, KEY_K});
+    EXPECT_TRUE(becomes(false)); // toggled once: the old combination is silent
     ctl({"hotkey", "disable"});
     EXPECT_FALSE(hotKey()["registered"]);
     EXPECT_TRUE(keyboard_.grab(KEY_K, XCB_MOD_MASK_CONTROL)); // it is free again
     ctl({"hotkey", "none"});
     EXPECT_TRUE(hotKey().is_null());
-    EXPECT_TRUE(isInverted());
+
+    const RunResult wrong = session_.run("nocturoctl", {"hotkey", "set", "ctrl+nokey"});
+    EXPECT_EQ(wrong.exit, 2);
+    EXPECT_NE(wrong.errors.find("ctrl+super+F5"), std::string::npos) << wrong.errors;
+    EXPECT_TRUE(hotKey().is_null());
 }
 
-TEST_F(HotKeyToggle, WhatAnotherProgramHoldsIsNotRegisteredUntilItIsFree) {
+TEST_F(HotKeyToggle, WhatAnotherProgramHoldsIsRegisteredOnceItIsFree) {
     ASSERT_TRUE(keyboard_.grab(KEY_K, XCB_MOD_MASK_CONTROL));
     ctl({"hotkey", "set", "ctrl+k"});
     EXPECT_NE(ctl({"hotkey", "enable"}).output.find("another program holds it"), std::string::npos);
     EXPECT_EQ(hotKey()["registered"], false);
-    ctl({"on"}); // everything else runs
-    EXPECT_TRUE(isInverted());
     keyboard_.ungrab(KEY_K, XCB_MOD_MASK_CONTROL);
-    ctl({"set", "ActivateOnClick", "false"}); // any change tries again
-    EXPECT_EQ(hotKey()["registered"], true);
-    pressControlK();
-    EXPECT_TRUE(becomes(false));
-}
-
-TEST_F(HotKeyToggle, TwoHundredSettingsChangesLeaveOneRegistration) {
-    ctl({"hotkey", "set", "ctrl+k"});
-    ctl({"hotkey", "enable"});
-    for (int i = 0; i < 200; ++i) {
+    for (int i = 0; i < 200; ++i) { // any change tries again, and none claims it twice
         ctl({"set", "NDDimEffectLevel", "-0." + std::to_string(i + 1)});
     }
-    pressControlK();
-    EXPECT_TRUE(becomes(true));
-    pressControlK();
-    EXPECT_TRUE(becomes(false));
+    for (const bool inverted : {true, false}) {
+        press({KEY_LEFTCTRL, KEY_K});
+        EXPECT_TRUE(becomes(inverted));
+    }
     ctl({"hotkey", "none"});
     EXPECT_TRUE(keyboard_.grab(KEY_K, XCB_MOD_MASK_CONTROL)); // and none is left behind
 }
 
 TEST_F(HotKeyToggle, IsNamedAsTheLayoutInForceEngravesIt) {
-    keyboard_.setLayout("us,ru");
-    ctl({"hotkey", "set", "ctrl+q"});
-    EXPECT_EQ(hotKey()["text"], "⌃Q");
     keyboard_.setLayout("fr,ru");
-    EXPECT_EQ(hotKey()["text"], "⌃A");
+    ctl({"hotkey", "set", "ctrl+a"});
+    EXPECT_EQ(hotKey()["keyCode"], 12); // where a US board has Q
     keyboard_.lockGroup(1);
     EXPECT_EQ(hotKey()["text"], "⌃Й");
     ctl({"hotkey", "enable"});
     press({KEY_LEFTCTRL, KEY_Q});
     EXPECT_TRUE(becomes(true)); // the group does not matter to the key itself
-}
-
-TEST_F(HotKeyToggle, WhatCannotBeReadSaysWhatIsAccepted) {
-    for (const char* text : {"", "ctrl+", "k", "ctrl+nokey", "ctrl+a+b", "ctrl+super"}) {
-        const RunResult result = session_.run("nocturoctl", {"hotkey", "set", text});
-        EXPECT_EQ(result.exit, 2) << text;
-        EXPECT_NE(result.errors.find("ctrl+super+F5"), std::string::npos) << result.errors;
-    }
-    EXPECT_TRUE(hotKey().is_null());
 }
 
 } // namespace

@@ -36,9 +36,7 @@ Channels unevenRamp(std::size_t size) {
 
 Ramp asRamp(const Channels& channels) {
     Ramp ramp;
-    ramp.red = channels[0];
-    ramp.green = channels[1];
-    ramp.blue = channels[2];
+    std::tie(ramp.red, ramp.green, ramp.blue) = std::tie(channels[0], channels[1], channels[2]);
     return ramp;
 }
 
@@ -46,7 +44,6 @@ std::vector<std::string> connectors(RandrHardware& hardware) {
     std::vector<Head> heads;
     EXPECT_TRUE(hardware.listHeads(heads));
     std::vector<std::string> names;
-    names.reserve(heads.size());
     for (const auto& head : heads) {
         names.push_back(head.connector);
     }
@@ -111,8 +108,7 @@ TEST(RandrHardware, readsAndWritesEveryBitOfARamp) {
 
     Ramp wrongSize(255);
     EXPECT_FALSE(hardware->readRamp(first, wrongSize));
-    std::vector<Head> heads;
-    ASSERT_TRUE(hardware->listHeads(heads));
+    EXPECT_EQ(connectors(*hardware).size(), 2u);
     EXPECT_FALSE(hardware->writeRamp(first, wrongSize));
 }
 
@@ -164,9 +160,7 @@ TEST(RandrHardware, survivesACrtcThatVanished) {
     XServer server(1);
     const auto hardware = openHardware(server.display());
     int warnings = 0;
-    setLogSink([&](LogLevel level, std::string_view category, std::string_view) {
-        warnings += level == LogLevel::warning && category == "nocturo.displays";
-    });
+    setLogSink([&](LogLevel level, auto, auto) { warnings += level == LogLevel::warning; });
     Ramp ramp(256);
     EXPECT_FALSE(hardware->readRamp(0x7fffff, ramp));
     EXPECT_TRUE(hardware->writeRamp(0x7fffff, ramp));
@@ -186,19 +180,21 @@ TEST(RandrHardware, noticesThatTheServerIsGone) {
     ASSERT_TRUE(hardware->listHeads(heads));
     const auto crtc = heads.front().crtc;
     const auto generation = hardware->topologyGeneration();
-    EXPECT_FALSE(hardware->connectionLost());
-
     server.kill();
     pollfd source{hardware->descriptor(), POLLIN, 0};
     EXPECT_EQ(poll(&source, 1, 5000), 1);
     EXPECT_NE(hardware->topologyGeneration(), generation);
     EXPECT_TRUE(hardware->connectionLost());
-
     Ramp ramp(256);
     EXPECT_FALSE(hardware->writeRamp(crtc, ramp));
     EXPECT_FALSE(hardware->readRamp(crtc, ramp));
     EXPECT_FALSE(hardware->listHeads(heads));
     EXPECT_TRUE(heads.empty());
+
+    const RandrOpening opening = RandrHardware::open(server.display());
+    EXPECT_EQ(opening.result, RandrOpening::Result::unreachable);
+    EXPECT_NE(opening.reason.find(server.display()), std::string::npos);
+    EXPECT_EQ(RandrHardware::open("").result, RandrOpening::Result::unreachable);
 }
 
 TEST(RandrHardware, readsTheZeroesThatSomeServersBeginWith) {
@@ -211,25 +207,11 @@ TEST(RandrHardware, readsTheZeroesThatSomeServersBeginWith) {
     const auto hardware = openHardware(display);
     std::vector<Head> heads;
     ASSERT_TRUE(hardware->listHeads(heads));
-    ASSERT_EQ(heads.size(), 1u);
     Ramp ramp = asRamp(unevenRamp(256));
-    ASSERT_TRUE(hardware->readRamp(heads.front().crtc, ramp));
+    ASSERT_TRUE(hardware->readRamp(heads.at(0).crtc, ramp));
     EXPECT_EQ(ramp, Ramp(256));
-    server.signal(SIGTERM);
+    server.signal(SIGTERM); // cleans up behind itself, which a killed one could not
     server.wait();
-}
-
-TEST(RandrHardware, saysWhyItCannotOpenADisplay) {
-    std::string gone;
-    {
-        XServer server(1);
-        gone = server.display();
-    }
-    const RandrOpening opening = RandrHardware::open(gone);
-    EXPECT_EQ(opening.result, RandrOpening::Result::unreachable);
-    EXPECT_EQ(opening.hardware, nullptr);
-    EXPECT_NE(opening.reason.find(gone), std::string::npos);
-    EXPECT_EQ(RandrHardware::open("").result, RandrOpening::Result::unreachable);
 }
 
 } // namespace

@@ -4,8 +4,6 @@
 
 #include <gmock/gmock.h>
 #include <limits>
-#include <string>
-#include <utility>
 
 namespace nocturo {
 namespace {
@@ -32,44 +30,35 @@ TEST_F(DefaultsStoreTest, ReadsEachTypeWithItsOwnConversions) {
         std::int64_t asInteger;
         float asFloat;
     };
-    const Case cases[] = {
-        {true, true, 0, 0.0F},
-        {false, false, 0, 0.0F},
-        {std::int64_t{-7}, true, -7, -7.0F},
-        {std::int64_t{0}, false, 0, 0.0F},
-        {0.25, true, 0, 0.25F},
-        {-0.0, false, 0, 0.0F},
-        {0.1, true, 0, 0.1F},
-        {1e300, true, 0, 0.0F}, // infinite in single precision
-        {-std::numeric_limits<double>::infinity(), true, 0, 0.0F},
-        {std::numeric_limits<double>::quiet_NaN(), true, 0, 0.0F},
-        {std::string("1"), false, 0, 0.0F},
-        {PropertyArray{true}, false, 0, 0.0F},
-    };
-    int index = 0;
-    for (const Case& expected : cases) {
-        SCOPED_TRACE(index++);
-        store.setObject(expected.value, "key");
-        EXPECT_EQ(store.boolForKey("key"), expected.asBool);
-        EXPECT_EQ(store.integerForKey("key"), expected.asInteger);
-        EXPECT_EQ(store.floatForKey("key"), expected.asFloat);
-        EXPECT_EQ(store.arrayForKey("key") != nullptr,
-                  expected.value.as<PropertyArray>() != nullptr);
+    for (const auto& [value, asBool, asInteger, asFloat] : {
+             Case{true, true, 0, 0.0F},
+             Case{std::int64_t{-7}, true, -7, -7.0F},
+             Case{std::int64_t{0}, false, 0, 0.0F},
+             Case{0.25, true, 0, 0.25F},
+             Case{-0.0, false, 0, 0.0F},
+             Case{1e300, true, 0, 0.0F}, // infinite in single precision
+             Case{std::numeric_limits<double>::quiet_NaN(), true, 0, 0.0F},
+             Case{std::string("1"), false, 0, 0.0F},
+             Case{PropertyArray{true}, false, 0, 0.0F},
+         }) {
+        SCOPED_TRACE(value.index());
+        store.setObject(value, "key");
+        EXPECT_EQ(store.boolForKey("key"), asBool);
+        EXPECT_EQ(store.integerForKey("key"), asInteger);
+        EXPECT_EQ(store.floatForKey("key"), asFloat);
+        EXPECT_EQ(store.arrayForKey("key") != nullptr, value.as<PropertyArray>() != nullptr);
     }
-    EXPECT_EQ(store.objectForKey("absent"), nullptr);
     EXPECT_FALSE(store.boolForKey("absent"));
 }
 
 TEST_F(DefaultsStoreTest, ARegisteredDefaultHoldsWhereTheUserSaidNothing) {
     store.registerDefaults({{"level", 0.5}, {"other", true}});
     store.registerDefaults({{"level", 0.75}});
-    EXPECT_EQ(store.floatForKey("level"), 0.75F);
-
     store.setObject(std::string("not a number"), "level");
     EXPECT_EQ(store.floatForKey("level"), 0.0F) << "a wrong type does not fall back";
-
     store.removeObjectForKey("level");
     EXPECT_EQ(store.floatForKey("level"), 0.75F);
+    EXPECT_TRUE(store.boolForKey("other"));
     EXPECT_THAT(store.userDomain(), IsEmpty()) << "defaults are never kept";
 }
 

@@ -1,31 +1,19 @@
 #include "hotkeys/field/hot_key_text_field.h"
-#include "hotkeys/field/hot_key_text_field_editor.h"
+#include "hotkeys/key_event.h"
 #include "platform/keyboard/keyboard_layout.h"
-#include "platform/log.h"
 
 #include <gmock/gmock.h>
 
-#include <QAction>
 #include <QApplication>
-#include <QMenuBar>
-#include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
-
-#include <map>
 
 namespace nocturo {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::StartsWith;
-
 struct FakeLayout : KeyboardLayout {
     std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t) override {
-        const std::map<int, std::string> texts{{0, "a"}, {40, "k"}, {27, "ß"}};
-        const auto found = texts.find(keyCode);
-        return found == texts.end() ? "" : found->second;
+        return keyCode == 0 ? "a" : keyCode == 40 ? "k" : keyCode == 27 ? "ß" : "";
     }
 };
 
@@ -45,31 +33,22 @@ class HotKeyField : public testing::Test {
   protected:
     HotKeyField() {
         auto* box = new QVBoxLayout(&window);
-        menu.addMenu("Screen")->addAction(&action);
-        action.setShortcut(QKeySequence("Ctrl+S"));
-        for (QWidget* widget : std::initializer_list<QWidget*>{&menu, &before, field, &after}) {
+        for (QLineEdit* widget :
+             std::initializer_list<QLineEdit*>{&other, &before, field, &after}) {
             box->addWidget(widget);
         }
-        listen(*field);
+        using Field = HXHotKeyTextField;
+        for (const auto& [signal, word] : {std::pair(&Field::recordingStarted, "started "),
+                                           std::pair(&Field::hotKeyEdited, "edited "),
+                                           std::pair(&Field::recordingEnded, "ended ")}) {
+            QObject::connect(field, signal, &window, [this, text = word] { said.append(text); });
+        }
         field->setKeyboardLayout(&layout);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         before.setFocus();
     }
-    ~HotKeyField() override {
-        setLogSink([](LogLevel, std::string_view, std::string_view) {});
-    }
-
-    void listen(HXHotKeyTextField& source) {
-        QObject::connect(&source, &HXHotKeyTextField::recordingStarted, &window,
-                         [this] { said.append("started "); });
-        QObject::connect(&source, &HXHotKeyTextField::hotKeyEdited, &window,
-                         [this] { said.append("edited "); });
-        QObject::connect(&source, &HXHotKeyTextField::recordingEnded, &window,
-                         [this] { said.append("ended "); });
-    }
-
     static void send(QEvent::Type type, const Key& key, Qt::KeyboardModifiers modifiers = {},
                      quint32 native = 0, bool repeat = false) {
         QKeyEvent event(type, key.qtKey, modifiers, key.scanCode, 0, native, key.text, repeat);
@@ -83,20 +62,15 @@ class HotKeyField : public testing::Test {
         send(QEvent::KeyRelease, key, modifiers, native);
     }
 
-    /// The whole way of a key through the application, shortcuts included.
-    void typeIntoWindow(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(window.windowHandle(), key, modifiers);
-    }
-    void click(QWidget& widget, QPoint position = {}) {
+    static void click(QWidget& widget, QPoint position = {}) {
         QTest::mouseClick(&widget, Qt::LeftButton, {}, position);
     }
 
     std::string said;
     FakeLayout layout;
     QWidget window;
-    QMenuBar menu;
-    QAction action{"Save"};
-    QPushButton before{"&Before"};
+    HXHotKeyTextField other;
+    QLineEdit before;
     QLineEdit after;
     HXHotKeyTextField* field = new HXHotKeyTextField;
 };
@@ -119,7 +93,6 @@ TEST_F(HotKeyField, RecordsKeysWithAModifierAndFunctionKeysAlone) {
              Case{{Qt::Key_Left, 113}, Qt::KeypadModifier, 0, 123, 0x800000, "←"},
              Case{{Qt::Key_Delete, 119, "\x7f"}, none, 0, 117, 0x800000, "⌦"},
              Case{{Qt::Key_Backspace, 22, "\b"}, none, 0, -1, 0, ""},
-             Case{kTab, none, 0, -1, 0, ""},
              Case{kReturn, Qt::ControlModifier, 0, 36, 0x40000, "⌃↩"},
              Case{kEscape, Qt::MetaModifier, 0, 53, 0x100000, "⌘⎋"},
              Case{{Qt::Key_ssharp, 20, "ß"}, Qt::AltModifier, 0, 27, 0x80000, "⌥SS"},
@@ -131,13 +104,11 @@ TEST_F(HotKeyField, RecordsKeysWithAModifierAndFunctionKeysAlone) {
         field->startRecording();
         const auto old = field->hotKey();
         type(key, modifiers, native);
+        EXPECT_EQ(field->isRecording(), keyCode < 0) << key.scanCode;
         if (keyCode < 0) {
             EXPECT_EQ(field->hotKey(), old);
-            EXPECT_TRUE(field->isRecording()) << key.scanCode;
             continue;
         }
-        EXPECT_FALSE(field->isRecording()) << key.scanCode;
-        ASSERT_TRUE(field->hotKey());
         EXPECT_EQ(field->hotKey()->keyCode(), keyCode);
         EXPECT_EQ(field->hotKey()->modifierFlags(), flags) << key.scanCode;
         EXPECT_EQ(field->text().toStdString(), text);
@@ -160,53 +131,35 @@ TEST_F(HotKeyField, ReturnKeepsAndEscapePutsBack) {
         EXPECT_TRUE(field->hasFocus()) << "Tab would start from the top of the window";
     }
     type(kReturn); // starts again; what is recorded does what the old one did
-    EXPECT_THAT(field->accessibleDescription().toStdString(), HasSubstr("Escape"));
     type(kF5, Qt::MetaModifier);
-    EXPECT_THAT(field->accessibleDescription().toStdString(), StartsWith("Super+F5."));
+    EXPECT_TRUE(field->accessibleDescription().startsWith("Super+F5."));
     ASSERT_NE(field->hotKey(), first);
     field->hotKey()->invokeWithEvent({});
     EXPECT_EQ(runs, 1);
 
-    HXHotKeyTextField empty;
-    empty.setKeyboardLayout(&layout);
-    window.layout()->addWidget(&empty);
-    empty.show();
-    empty.startRecording();
+    field->setHotKey(nullptr);
+    field->startRecording();
     type({Qt::Key_Escape, 66, "\x1b"}); // a layout with Escape in the place of caps lock
-    EXPECT_EQ(empty.text(), "A");
-    EXPECT_EQ(empty.hotKey(), nullptr);
-    empty.setParent(nullptr);
-}
-
-TEST_F(HotKeyField, TakesEveryKeyOfTheApplicationWhileItRecords) {
-    int triggered = 0;
-    QObject::connect(&action, &QAction::triggered, &window, [&] { ++triggered; });
-    QObject::connect(&before, &QPushButton::pressed, &window, [&] { ++triggered; });
-    click(*field);
-    for (const bool records : {true, false}) {
-        typeIntoWindow(Qt::Key_S, Qt::ControlModifier);
-        typeIntoWindow(Qt::Key_B, Qt::AltModifier);
-        typeIntoWindow(Qt::Key_Tab);
-        EXPECT_EQ(triggered, records ? 0 : 2);
-        EXPECT_EQ(field->hasFocus(), records);
-        click(window, QPoint(1, window.height() - 1)); // an empty place
-        EXPECT_FALSE(field->isRecording());
-    }
+    EXPECT_EQ(field->text(), "A");
+    EXPECT_EQ(field->hotKey(), nullptr);
+    before.setFocus();
     field->setFocus(Qt::ActiveWindowFocusReason);
     EXPECT_FALSE(field->isRecording()) << "the user only came back to the window";
 }
 
+// What the application's shortcuts and buttons get is seen where a real server sends the keys.
 TEST_F(HotKeyField, TabPassesThroughUntilAnotherKeyIsPressed) {
-    typeIntoWindow(Qt::Key_Tab);
-    EXPECT_TRUE(field->isRecording());
-    typeIntoWindow(Qt::Key_Tab);
-    EXPECT_TRUE(after.hasFocus());
-    typeIntoWindow(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_TRUE(field->isRecording());
-    typeIntoWindow(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_TRUE(before.hasFocus());
+    for (const auto& [key, modifiers, next] :
+         {std::tuple(Qt::Key_Tab, Qt::NoModifier, &after),
+          std::tuple(Qt::Key_Backtab, Qt::ShiftModifier, &before)}) {
+        for (const bool recording : {true, false}) {
+            QTest::keyClick(window.windowHandle(), key, modifiers);
+            EXPECT_EQ(field->isRecording(), recording);
+        }
+        EXPECT_TRUE(next->hasFocus());
+    }
     EXPECT_EQ(field->hotKey(), nullptr);
-    typeIntoWindow(Qt::Key_Tab);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
     type(kK);
     type(kTab, Qt::ShiftModifier);
     EXPECT_EQ(field->text(), "⇧⇥");
@@ -233,11 +186,9 @@ TEST_F(HotKeyField, ReturnsTheKeysWhenTheLastOneIsUp) {
 }
 
 TEST_F(HotKeyField, EndsHoweverTheFieldIsLeft) {
-    HXHotKeyTextField other;
-    window.layout()->addWidget(&other);
-    other.show();
     for (const auto& leave : std::initializer_list<std::function<void()>>{
-             [&] { click(after); }, [&] { field->setEnabled(false); }, [&] { field->hide(); },
+             [&] { click(after); }, [&] { click(window, QPoint(1, window.height() - 1)); },
+             [&] { field->setEnabled(false); }, [&] { field->hide(); },
              [&] { other.startRecording(); }}) {
         field->setEnabled(true);
         field->show();
@@ -249,40 +200,19 @@ TEST_F(HotKeyField, EndsHoweverTheFieldIsLeft) {
         EXPECT_EQ(said, "edited ended ");
     }
     EXPECT_TRUE(other.isRecording());
-    other.setParent(nullptr);
-
-    for (const bool keyIsDown : {false, true}) {
-        auto* brief = new HXHotKeyTextField(&window);
-        brief->show();
-        brief->startRecording();
-        if (keyIsDown) {
-            press(kF5);
-        }
-        said.clear();
-        listen(*brief);
-        delete brief;
-        EXPECT_EQ(said, "ended ");
-    }
 }
 
-TEST_F(HotKeyField, WarnsWhenItsTextIsUsedAsItsValue) {
-    std::vector<std::string> lines;
-    setLogSink([&](LogLevel level, std::string_view category, std::string_view sentence) {
-        EXPECT_EQ(level, LogLevel::warning);
-        lines.push_back(std::string(category) + ": " + std::string(sentence));
-    });
-    field->setHotKey(HXHotKey::hotKeyWithKeyCode(40, 0x100000, nullptr));
-    EXPECT_THAT(lines, ElementsAre());
-    field->setStringValue("x");
-    EXPECT_EQ(field->stringValue(), "x");
-    EXPECT_THAT(lines,
-                ElementsAre("nocturo.hotkeys: -[HXHotKeyTextField setStringValue:] is not what you "
-                            "want. Use -[HXHotKeyTextField setHotKey:] instead.",
-                            "nocturo.hotkeys: -[HXHotKeyTextField stringValue] is not what you "
-                            "want. Use -[HXHotKeyTextField hotKey] instead."));
-    EXPECT_EQ(HXHotKeyTextFieldCell::fieldEditorForView(&after), nullptr);
-    field->setHotKey(nullptr);
-    EXPECT_EQ(field->text(), "A");
+TEST_F(HotKeyField, EndsWhenItIsDestroyedBeforeTheKeyIsUp) {
+    field->startRecording();
+    press(kF5);
+    delete field;
+    EXPECT_EQ(said, "started edited ended ");
+}
+
+TEST_F(HotKeyField, EndsWhenItIsDestroyed) {
+    field->startRecording();
+    delete field;
+    EXPECT_EQ(said, "started ended ");
 }
 
 } // namespace

@@ -5,12 +5,9 @@
 
 #include <bit>
 #include <clocale>
-#include <csignal>
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <limits>
-#include <string>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace nocturo {
@@ -18,7 +15,6 @@ namespace {
 
 using State = SettingsFileContents::State;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist "
                                    "version=\"1.0\">";
@@ -46,56 +42,46 @@ PropertyDictionary oneOfEach() {
     };
 }
 
+std::string repeated(std::string_view text, int times) {
+    std::string all;
+    for (; times > 0; --times) {
+        all += text;
+    }
+    return all;
+}
+
 std::string nested(int depth) {
-    std::string text = std::string(kHead) + "<dict><key>a</key>";
-    for (int level = 0; level < depth; ++level) {
-        text += "<array>";
-    }
-    for (int level = 0; level < depth; ++level) {
-        text += "</array>";
-    }
-    return text + "</dict></plist>";
+    return std::string(kHead) + "<dict><key>a</key>" + repeated("<array>", depth) +
+           repeated("</array>", depth) + "</dict></plist>";
 }
 
-TEST(PropertyListTest, EveryTypeReadsBackAsItWas) {
-    EXPECT_EQ(parsePropertyListXml(propertyListXml(oneOfEach())), oneOfEach());
+/// Puts a locale with a decimal comma in force, which is made for the occasion; false where it
+/// cannot be made.
+bool useDecimalComma(const TemporaryDirectory& directory) {
+    writeText(directory / "source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\n"
+                                    "grouping -1\nEND LC_NUMERIC\n");
+    const std::string place = directory / "";
+    // The other categories are missing, which localedef reports and survives.
+    static_cast<void>(std::system(("localedef --no-archive -c -i " + place + "source " + place +
+                                   "comma >" + place + "log 2>&1")
+                                      .c_str()));
+    ::setenv("LOCPATH", place.c_str(), 1);
+    return std::setlocale(LC_NUMERIC, "comma") != nullptr;
 }
-
-/// Puts a locale with a decimal comma in force, which is made for the occasion.
-class CommaLocale {
-  public:
-    CommaLocale() {
-        writeText(directory / "source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\n"
-                                        "grouping -1\nEND LC_NUMERIC\n");
-        // The other categories are missing, which localedef reports and survives.
-        const std::string command =
-            "localedef --no-archive -c -i " + (directory / "source").string() + " " +
-            (directory / "comma").string() + " >" + (directory / "log").string() + " 2>&1";
-        static_cast<void>(std::system(command.c_str()));
-        ::setenv("LOCPATH", (directory / "").c_str(), 1);
-        std::setlocale(LC_NUMERIC, "comma");
-        ::unsetenv("LOCPATH");
-    }
-    ~CommaLocale() { std::setlocale(LC_NUMERIC, "C"); }
-
-  private:
-    TemporaryDirectory directory;
-};
 
 TEST(PropertyListTest, RealsReadBackToTheLastBitWhereHalfIsWrittenWithAComma) {
-    const CommaLocale locale;
-    if (std::string_view(std::localeconv()->decimal_point) != ",") {
+    const TemporaryDirectory directory;
+    if (!useDecimalComma(directory)) {
         GTEST_SKIP() << "localedef made no locale";
     }
-    for (const double real :
-         {static_cast<double>(0.1F), 0.1, 1e-10, -1.0 / 3.0, 5e-324, 1.7976931348623157e308,
-          2.2250738585072014e-308, 9007199254740993.0, 0.5}) {
+    for (const double real : {static_cast<double>(0.1F), -1.0 / 3.0, 5e-324, 1.7976931348623157e308,
+                              9007199254740993.0, 0.5}) {
         const auto read = parsePropertyListXml(propertyListXml({{"real", real}}));
-        ASSERT_TRUE(read);
-        const auto* back = read->at("real").as<double>();
-        ASSERT_NE(back, nullptr) << real;
-        EXPECT_EQ(std::bit_cast<std::uint64_t>(*back), std::bit_cast<std::uint64_t>(real)) << real;
+        ASSERT_TRUE(read && read->at("real").as<double>()) << real;
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(*read->at("real").as<double>()),
+                  std::bit_cast<std::uint64_t>(real));
     }
+    std::setlocale(LC_NUMERIC, "C");
 }
 
 TEST(PropertyListTest, ReadsWhatOthersWrite) {
@@ -112,11 +98,10 @@ TEST(PropertyListTest, ReadsWhatOthersWrite) {
 }
 
 TEST(PropertyListTest, RefusesWhatIsNoListOrIsBuiltToExhaustIt) {
-    using namespace std::string_literals;
     for (const std::string& text :
-         {""s, "garbage"s, "{\"json\": true}"s, "bplist00"s, "\0\0\0\0"s,
-          std::string(kHead) + "<array/></plist>", std::string(kHead) + "<true/></plist>",
-          std::string(kHead) + "</plist>", std::string(kHead) + "<dict><true/></dict></plist>",
+         {std::string("{\"json\": true}"), std::string("bplist00"), std::string(4, '\0'),
+          std::string(kHead) + "<array/></plist>", std::string(kHead) + "</plist>",
+          std::string(kHead) + "<dict><true/></dict></plist>",
           std::string(kHead) + "<dict><key>a</key><x/></dict></plist>", nested(400),
           nested(500000)}) {
         EXPECT_FALSE(parsePropertyListXml(text)) << text.substr(0, 80);
@@ -124,20 +109,16 @@ TEST(PropertyListTest, RefusesWhatIsNoListOrIsBuiltToExhaustIt) {
     EXPECT_TRUE(parsePropertyListXml(nested(100)));
 }
 
-TEST(PropertyListTest, ACutOffListIsNeverTakenForAShorterOne) {
+TEST(PropertyListTest, ReadsBackWhatItWroteAndNothingOfACutOffList) {
     const PropertyDictionary whole = oneOfEach();
     const std::string xml = propertyListXml(whole);
-    int refused = 0;
+    EXPECT_EQ(parsePropertyListXml(xml), whole);
     for (std::size_t length = 0; length < xml.size(); ++length) {
         // An exact copy, so that the sanitizer sees a read beyond its end.
         const std::vector<char> cut(xml.begin(), xml.begin() + static_cast<std::ptrdiff_t>(length));
         const auto read = parsePropertyListXml({cut.data(), cut.size()});
-        refused += read ? 0 : 1;
-        if (read) {
-            EXPECT_EQ(*read, whole) << length;
-        }
+        EXPECT_TRUE(!read || (*read == whole && length > xml.size() - 20)) << length;
     }
-    EXPECT_GT(refused, static_cast<int>(xml.size()) - 20);
 }
 
 class SettingsFileTest : public testing::Test {
@@ -162,7 +143,6 @@ TEST_F(SettingsFileTest, MakesItsDirectoryAndKeepsEverythingPrivate) {
     EXPECT_EQ(modeOf(path), 0600U);
     EXPECT_EQ(modeOf(directory), 0700U);
     EXPECT_EQ(modeOf(directory.parent_path()), 0700U);
-
     const SettingsFileContents read = readSettingsFile(path);
     EXPECT_EQ(read.state, State::loaded);
     EXPECT_EQ(read.dictionary, before);
@@ -189,38 +169,19 @@ TEST_F(SettingsFileTest, ALinkSurvivesAndItsTargetIsReplaced) {
     EXPECT_EQ(readSettingsFile(home / "circle").errorNumber, ELOOP);
 }
 
-TEST_F(SettingsFileTest, AFailedWriteLeavesTheOldFileAndNothingElse) {
+TEST_F(SettingsFileTest, RefusesWhatIsNoSettingsFile) {
     ASSERT_EQ(writeSettingsFile(path, before).errorNumber, 0);
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit unlimited{};
-    ::getrlimit(RLIMIT_FSIZE, &unlimited);
-    const rlimit full{100, unlimited.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    const int error = writeSettingsFile(path, after).errorNumber;
-    ::setrlimit(RLIMIT_FSIZE, &unlimited);
-    EXPECT_EQ(error, EFBIG);
-    EXPECT_EQ(readSettingsFile(path).dictionary, before);
-    EXPECT_THAT(namesIn(directory), ElementsAre("settings.plist"));
-
-    const std::filesystem::path occupied = directory / "occupied";
-    std::filesystem::create_directories(occupied / "x");
-    EXPECT_EQ(writeSettingsFile(occupied, after).errorNumber, EISDIR);
-    EXPECT_EQ(writeSettingsFile(path / "below a file", after).errorNumber, ENOTDIR);
-    EXPECT_THAT(namesIn(directory), ElementsAre("occupied", "settings.plist"));
-}
-
-TEST_F(SettingsFileTest, TellsDamagedFromUnreadable) {
-    std::filesystem::create_directories(directory);
-    writeText(path, "");
-    EXPECT_EQ(readSettingsFile(path).state, State::damaged);
-    writeText(path, propertyListXml(before) + std::string(2 << 20, ' '));
-    EXPECT_EQ(readSettingsFile(path).state, State::damaged) << "absurdly large";
-
-    EXPECT_EQ(readSettingsFile(directory).state, State::unreadable);
-    EXPECT_EQ(readSettingsFile(directory).errorNumber, EISDIR);
     EXPECT_EQ(readSettingsFile(path / "below a file").errorNumber, ENOTDIR);
+    EXPECT_EQ(writeSettingsFile(path / "below a file", after).errorNumber, ENOTDIR);
+    std::filesystem::create_directories(directory / "occupied/x");
+    EXPECT_EQ(readSettingsFile(directory / "occupied").errorNumber, EISDIR);
+    EXPECT_EQ(writeSettingsFile(directory / "occupied", after).errorNumber, EISDIR);
     ASSERT_EQ(::mkfifo((directory / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(readSettingsFile(directory / "pipe").state, State::unreadable);
+    EXPECT_THAT(namesIn(directory), ElementsAre("occupied", "pipe", "settings.plist"));
+
+    writeText(path, propertyListXml(before) + std::string(2 << 20, ' '));
+    EXPECT_EQ(readSettingsFile(path).state, State::damaged) << "absurdly large";
 }
 
 TEST_F(SettingsFileTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {
@@ -229,16 +190,13 @@ TEST_F(SettingsFileTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {
     const auto when = std::chrono::sys_days(std::chrono::November / 21 / 2026) +
                       std::chrono::hours(6) + std::chrono::minutes(8) + std::chrono::seconds(38);
     std::filesystem::create_directories(directory);
-    for (const char* content : {"first", "second", "third"}) {
+    for (const char* content : {"first", "second"}) {
         writeText(path, content);
         EXPECT_EQ(setAsideDamagedFile(path, when).errorNumber, 0);
     }
     ::unsetenv("TZ");
-    EXPECT_THAT(namesIn(directory), ElementsAre("settings.plist.damaged-20261121-090838",
-                                                "settings.plist.damaged-20261121-090838-2",
-                                                "settings.plist.damaged-20261121-090838-3"));
     EXPECT_EQ(readText(directory / "settings.plist.damaged-20261121-090838"), "first");
-    EXPECT_EQ(readText(directory / "settings.plist.damaged-20261121-090838-3"), "third");
+    EXPECT_EQ(readText(directory / "settings.plist.damaged-20261121-090838-2"), "second");
     EXPECT_EQ(setAsideDamagedFile(path, when).errorNumber, ENOENT);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -8,25 +10,57 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
+
+#include <sys/resource.h>
 
 namespace nocturo {
 
-/// An empty directory of a test's own, gone with everything in it when the test ends.
+/// An empty directory of a test's own that only this user may enter, gone with everything in it
+/// when the test ends.
 class TemporaryDirectory {
   public:
     TemporaryDirectory() {
-        std::string name = (std::filesystem::temp_directory_path() / "nocturo-XXXXXX").string();
-        path_ = ::mkdtemp(name.data());
+        std::string name = std::filesystem::temp_directory_path() / "nocturo-test-XXXXXX";
+        if (::mkdtemp(name.data()) == nullptr) {
+            throw std::system_error(errno, std::generic_category(), "mkdtemp");
+        }
+        path_ = name;
     }
-    ~TemporaryDirectory() { std::filesystem::remove_all(path_); }
+    ~TemporaryDirectory() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
     TemporaryDirectory(const TemporaryDirectory&) = delete;
     TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
 
+    const std::filesystem::path& path() const { return path_; }
     std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
 
   private:
     std::filesystem::path path_;
+};
+
+/// Lets this process write no file beyond `bytes`: the full disk that needs no mount. Writing on
+/// fails with EFBIG for as long as this exists.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t bytes) : onLimit_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit tight{bytes, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &tight);
+    }
+    ~FullDisk() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, onLimit_);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit before_{};
+    void (*onLimit_)(int);
 };
 
 inline void writeText(const std::filesystem::path& path, std::string_view text) {
