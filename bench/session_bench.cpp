@@ -246,7 +246,7 @@ void measureWakeUps(const rig::Process& nocturo, BusClient& client) {
     pass(2);
     before = wakeUps(nocturo.id());
     pass(kWatched);
-    printFigure("wake-ups in 19 s while on (timer and server's answer every 6 s, rounded up)",
+    printFigure("wake-ups in 19 s while on (two per 6 s, rounded up)",
                 static_cast<double>(wakeUps(nocturo.id()) - before), 8, "");
 }
 

@@ -3,7 +3,9 @@
 #include "platform/log.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstring>
+#include <thread>
 
 #include <sys/uio.h>
 #include <xcb/randr.h>
@@ -376,6 +378,10 @@ void RandrHardware::expectReads(std::span<const std::uint32_t> crtcs) {
     for (const auto crtc : crtcs) {
         rampsAsked_.emplace_back(crtc, xcb_randr_get_crtc_gamma(connection_.get(), crtc).sequence);
     }
+    xcb_flush(connection_.get());
+    // The answers arrive one by one, and waiting for them would wake the process up for each; a
+    // moment later all are there.
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
 bool RandrHardware::readRamp(std::uint32_t crtc, Ramp& ramp) {
