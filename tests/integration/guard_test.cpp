@@ -282,6 +282,16 @@ TEST_F(Guard, AJournalOfAnotherRunIsNotBelieved) {
     EXPECT_EQ(plain(), kDisplays);
 }
 
+TEST_F(Guard, RestoreByHandWorksWhileNocturoHangs) {
+    startChanging();
+    EXPECT_TRUE(waitUntil([&] { return own() == 0; }));
+    nocturo_->signal(SIGSTOP);
+    const RunResult restored = session_.run("nocturoctl", {"restore"});
+    EXPECT_EQ(restored.exit, 0) << restored.errors;
+    EXPECT_NE(restored.output.find("does not answer"), std::string::npos) << restored.output;
+    EXPECT_EQ(own(), kDisplays);
+}
+
 TEST_F(Guard, RestoreByHandWorksInEverySituation) {
     const auto restore = [&] {
         const RunResult result = session_.run("nocturoctl", {"restore"});
@@ -301,15 +311,8 @@ TEST_F(Guard, RestoreByHandWorksInEverySituation) {
     session_.environment()["DBUS_SESSION_BUS_ADDRESS"] = address;
 
     ctl({"on"});
-    nocturo_->signal(SIGSTOP);
-    EXPECT_NE(restore().find("does not answer"), std::string::npos);
-    EXPECT_EQ(own(), kDisplays);
-    nocturo_->signal(SIGCONT);
-    // What it was asked meanwhile comes first: an answer to the second question is past all that.
-    ctl({"status"});
-    ctl({"status"});
-
-    ctl({"on"});
+    // A server drops what a killed program sent and it has not read yet.
+    EXPECT_TRUE(waitUntil([&] { return own() == 0; }));
     kill(true);
     EXPECT_EQ(own(), 0);
     EXPECT_NE(restore().find("own colors back"), std::string::npos);
