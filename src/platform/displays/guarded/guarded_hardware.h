@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 
 namespace nocturo {
@@ -29,6 +30,9 @@ class GuardedHardware final : public GammaHardware {
     std::string_view name() const override { return hardware_->name(); }
     std::uint64_t topologyGeneration() override { return hardware_->topologyGeneration(); }
     bool listHeads(std::vector<Head>& heads) override { return hardware_->listHeads(heads); }
+    void expectReads(std::span<const std::uint32_t> crtcs) override {
+        hardware_->expectReads(crtcs);
+    }
     bool readRamp(std::uint32_t crtc, Ramp& ramp) override {
         return hardware_->readRamp(crtc, ramp);
     }
