@@ -1,6 +1,6 @@
 #include "platform/settings/settings_file.h"
 
-#include "platform/settings/property_list.h"
+#include "platform/property_lists/property_list.h"
 #include "temporary_directory.h"
 
 #include <bit>
@@ -13,7 +13,7 @@
 namespace nocturo {
 namespace {
 
-using State = SettingsFileContents::State;
+using State = PropertyListFileContents::State;
 using testing::ElementsAre;
 
 constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist "
@@ -137,13 +137,13 @@ class SettingsFileTest : public testing::Test {
 };
 
 TEST_F(SettingsFileTest, MakesItsDirectoryAndKeepsEverythingPrivate) {
-    EXPECT_EQ(readSettingsFile(path).state, State::absent);
-    const SettingsFileWrite written = writeSettingsFile(path, before);
+    EXPECT_EQ(readPropertyListFile(path).state, State::absent);
+    const PropertyListFileWrite written = writeSettingsFile(path, before);
     EXPECT_EQ(written.errorNumber, 0);
     EXPECT_EQ(modeOf(path), 0600U);
     EXPECT_EQ(modeOf(directory), 0700U);
     EXPECT_EQ(modeOf(directory.parent_path()), 0700U);
-    const SettingsFileContents read = readSettingsFile(path);
+    const PropertyListFileContents read = readPropertyListFile(path);
     EXPECT_EQ(read.state, State::loaded);
     EXPECT_EQ(read.dictionary, before);
     EXPECT_EQ(read.stamp, written.stamp);
@@ -163,25 +163,25 @@ TEST_F(SettingsFileTest, ALinkSurvivesAndItsTargetIsReplaced) {
     for (const PropertyDictionary& content : {before, after}) { // the target is missing at first
         EXPECT_EQ(writeSettingsFile(path, content).errorNumber, 0);
         EXPECT_TRUE(std::filesystem::is_symlink(path));
-        EXPECT_EQ(readSettingsFile(home / "dotfiles/real").dictionary, content);
+        EXPECT_EQ(readPropertyListFile(home / "dotfiles/real").dictionary, content);
     }
     std::filesystem::create_symlink("circle", home / "circle");
-    EXPECT_EQ(readSettingsFile(home / "circle").errorNumber, ELOOP);
+    EXPECT_EQ(readPropertyListFile(home / "circle").errorNumber, ELOOP);
 }
 
 TEST_F(SettingsFileTest, RefusesWhatIsNoSettingsFile) {
     ASSERT_EQ(writeSettingsFile(path, before).errorNumber, 0);
-    EXPECT_EQ(readSettingsFile(path / "below a file").errorNumber, ENOTDIR);
+    EXPECT_EQ(readPropertyListFile(path / "below a file").errorNumber, ENOTDIR);
     EXPECT_EQ(writeSettingsFile(path / "below a file", after).errorNumber, ENOTDIR);
     std::filesystem::create_directories(directory / "occupied/x");
-    EXPECT_EQ(readSettingsFile(directory / "occupied").errorNumber, EISDIR);
+    EXPECT_EQ(readPropertyListFile(directory / "occupied").errorNumber, EISDIR);
     EXPECT_EQ(writeSettingsFile(directory / "occupied", after).errorNumber, EISDIR);
     ASSERT_EQ(::mkfifo((directory / "pipe").c_str(), 0600), 0);
-    EXPECT_EQ(readSettingsFile(directory / "pipe").state, State::unreadable);
+    EXPECT_EQ(readPropertyListFile(directory / "pipe").state, State::unreadable);
     EXPECT_THAT(namesIn(directory), ElementsAre("occupied", "pipe", "settings.plist"));
 
     writeText(path, propertyListXml(before) + std::string(2 << 20, ' '));
-    EXPECT_EQ(readSettingsFile(path).state, State::damaged) << "absurdly large";
+    EXPECT_EQ(readPropertyListFile(path).state, State::damaged) << "absurdly large";
 }
 
 TEST_F(SettingsFileTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {

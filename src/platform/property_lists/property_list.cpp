@@ -4,7 +4,7 @@
 // And it frees its tree by recursion, so a text of nothing but opening tags would overrun the
 // stack: such a text is refused before it is parsed.
 
-#include "platform/settings/property_list.h"
+#include "platform/property_lists/property_list.h"
 
 #include <plist/plist.h>
 
