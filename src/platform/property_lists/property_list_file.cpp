@@ -157,13 +157,13 @@ PropertyListFileContents readPropertyListFile(const std::filesystem::path& path)
         return unreadable(errorOfWhatIsNoFile(status));
     }
     contents.stamp = stampOf(status);
-    std::string xml;
-    if (const int error = readAll(file.get(), xml)) {
+    std::string content;
+    if (const int error = readAll(file.get(), content)) {
         return unreadable(error);
     }
     std::optional<PropertyDictionary> dictionary;
-    if (xml.size() <= kLargestFile) {
-        dictionary = parsePropertyListXml(xml);
+    if (content.size() <= kLargestFile) {
+        dictionary = parsePropertyList(content);
     }
     contents.state = dictionary ? State::loaded : State::damaged;
     contents.dictionary = std::move(dictionary).value_or(PropertyDictionary{});

@@ -36,7 +36,7 @@ struct PropertyListFileContents {
     int errorNumber = 0;            // when unreadable
 };
 
-/// Reads the property list at `path`. Never blocks on what is no ordinary file.
+/// Reads the property list at `path`, XML or binary. Never blocks on what is no ordinary file.
 PropertyListFileContents readPropertyListFile(const std::filesystem::path& path);
 
 struct PropertyListFileWrite {
