@@ -224,6 +224,8 @@ TEST(PropertyListTest, RefusesBinaryListsThatAreDamaged) {
              {"\x4F"},
              {"\x14" + std::string(4, '\0')},
              {container(0xD, 1, {3, 3}), "\x09"}, // a key that is no text
+             {container(0xD, 1, {3, 4}), std::string("\x52x\0", 3), "\x09"},
+             {container(0xD, 1, {3, 4}), std::string("\x61\0\0", 3), "\x09"},
              {"\x70"}}) {
         EXPECT_FALSE(parsePropertyList(withRootDictionary(objects))) << objects[0].substr(0, 12);
     }

@@ -2,6 +2,7 @@
 // anew for each reference to it and descends by recursion, so a list of a few hundred bytes, each
 // array naming the next one a hundred times, asks for more memory than there is, and a long chain
 // overruns the stack. The walk below adds up what the references would spell out and makes nothing.
+// It looks for NULs in texts as well, because libplist ends the process over one in a key.
 
 #include "platform/property_lists/binary_list_bounds.h"
 
@@ -78,28 +79,34 @@ class Walk {
         return true;
     }
 
+    /// Too long for the marker, a size is an integer object of its own; moves `at` behind it.
+    std::optional<std::uint64_t> longSize(std::uint64_t& at) const {
+        const auto marker = number(at, 1, table_);
+        if (!marker || *marker >> 4U != 0x1 || (*marker & 0xFU) > 3) {
+            return std::nullopt;
+        }
+        const std::uint64_t width = std::uint64_t{1} << (*marker & 0xFU);
+        const auto size = number(at + 1, width, table_);
+        at += 1 + width;
+        return size;
+    }
+
     std::optional<Object> objectAt(std::uint64_t at) const {
         const auto marker = number(at, 1, table_);
         if (at < kHeader || !marker) {
             return std::nullopt;
         }
+        const std::uint64_t type = *marker >> 4U;
+        const bool isText = type == 0x5 || type == 0x6;
+        const bool isCounted = isText || type == 0x4 || type == 0xA || type == 0xD;
         std::uint64_t size = *marker & 0xFU;
         std::uint64_t content = at + 1;
-        const std::uint64_t type = *marker >> 4U;
-        const bool isCounted =
-            type == 0x4 || type == 0x5 || type == 0x6 || type == 0xA || type == 0xD;
         if (isCounted && size == 0xF) {
-            // Too long for the marker: an integer object follows and holds the size.
-            const auto width = number(content, 1, table_);
-            if (!width || *width >> 4U != 0x1 || (*width & 0xFU) > 3) {
+            const auto counted = longSize(content);
+            if (!counted) {
                 return std::nullopt;
             }
-            const auto longSize = number(content + 1, 1U << (*width & 0xFU), table_);
-            if (!longSize) {
-                return std::nullopt;
-            }
-            size = *longSize;
-            content += 1 + (1U << (*width & 0xFU));
+            size = *counted;
         }
         // Beyond any list; nothing below can overflow then.
         if (size > bytes_.size()) {
@@ -134,7 +141,19 @@ class Walk {
             return std::nullopt;
         }
         const std::uint64_t taken = object.bytes + object.references * referenceWidth_;
-        return taken <= table_ - content ? std::optional(object) : std::nullopt;
+        if (taken > table_ - content || (isText && holdsNul(object, type == 0x6 ? 2 : 1))) {
+            return std::nullopt;
+        }
+        return object;
+    }
+
+    bool holdsNul(const Object& text, std::size_t unit) const {
+        for (std::size_t i = 0; i < text.bytes; i += unit) {
+            if (*number(text.content + i, unit, table_) == 0) {
+                return true;
+            }
+        }
+        return false;
     }
 
     std::optional<Extent> extentOf(std::uint64_t index, unsigned deepest) {
