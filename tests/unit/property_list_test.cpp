@@ -45,6 +45,10 @@ std::string repeated(std::string_view text, int times) {
     return all;
 }
 
+std::string withText(const std::string& text) {
+    return std::string(kHead) + "<dict><key>a</key><string>" + text + "</string></dict></plist>";
+}
+
 std::string nested(int depth) {
     return std::string(kHead) + "<dict><key>a</key>" + repeated("<array>", depth) +
            repeated("</array>", depth) + "</dict></plist>";
@@ -97,11 +101,12 @@ TEST(PropertyListTest, RefusesWhatIsNoListOrIsBuiltToExhaustIt) {
          {std::string("{\"json\": true}"), std::string("bplist00"), std::string(4, '\0'),
           std::string(kHead) + "<array/></plist>", std::string(kHead) + "</plist>",
           std::string(kHead) + "<dict><true/></dict></plist>",
-          std::string(kHead) + "<dict><key>a</key><x/></dict></plist>", nested(400),
-          nested(500000)}) {
+          std::string(kHead) + "<dict><key>a</key><x/></dict></plist>", nested(400), nested(500000),
+          withText(repeated("&amp;", 100000))}) {
         EXPECT_FALSE(parsePropertyList(text)) << text.substr(0, 80);
     }
     EXPECT_TRUE(parsePropertyList(nested(100)));
+    EXPECT_TRUE(parsePropertyList(withText(repeated("&amp;", 5000))));
 }
 
 TEST(PropertyListTest, ReadsBackWhatItWroteAndNothingOfACutOffList) {

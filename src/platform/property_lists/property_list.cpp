@@ -2,8 +2,9 @@
 // locale in force, and Qt puts the user's in force, so both run under the C locale. It hands out a
 // negative integer as its unsigned twin in 2.2 and has signed functions of their own from 2.3 on.
 // It frees its tree by recursion, so a text of nothing but opening tags would overrun the stack:
-// such a text is refused before it is parsed, and binary_list_bounds says what is wrong with some
-// binary ones.
+// such a text is refused before it is parsed, and so is one of very many entities, for each of
+// which the rest of its string is moved. binary_list_bounds says what is wrong with some binary
+// lists.
 
 #include "platform/property_lists/property_list.h"
 
@@ -26,6 +27,7 @@ namespace nocturo {
 namespace {
 
 constexpr std::size_t kMostContainers = 10000;
+constexpr std::size_t kMostEntities = 10000;
 constexpr int kDeepestNesting = 256;
 constexpr std::string_view kUidKey = "CF$UID";
 
@@ -226,7 +228,7 @@ std::size_t occurrences(std::string_view text, std::string_view part) {
 
 plist_t parsedXml(std::string_view xml) {
     plist_t parsed = nullptr;
-    if (xml.find('\0') == xml.npos &&
+    if (xml.find('\0') == xml.npos && occurrences(xml, "&") <= kMostEntities &&
         occurrences(xml, "<dict") + occurrences(xml, "<array") <= kMostContainers) {
         plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &parsed);
     }
