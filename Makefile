@@ -6,12 +6,13 @@ PREFIX ?= /usr/local
 DESTDIR ?=
 ARGS ?=
 WERROR ?= OFF
+FUZZ_SECONDS ?= 60
 
 release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run test soak unit-asan bench lint lint-text format install clean
+.PHONY: help deps build run test soak unit-asan fuzz bench lint lint-text format install clean
 
 help: ## this list
 	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
@@ -36,6 +37,11 @@ unit-asan: ## runs the unit tests under AddressSanitizer and UndefinedBehaviorSa
 	cmake --preset asan
 	cmake --build --preset asan --target unit_tests --parallel $(JOBS)
 	@ctest --preset asan --no-tests=error --parallel $(TEST_JOBS) --label-regex '^unit$$'
+
+fuzz: deps ## feeds what reads files FUZZ_SECONDS of invented ones each; needs clang++
+	cmake --preset fuzz
+	cmake --build --preset fuzz --parallel $(JOBS)
+	@tools/fuzz.sh build/fuzz $(FUZZ_SECONDS)
 
 bench: build ## builds and runs the benchmarks
 	@set -e; for bench in $(release)/bin/*_bench; do echo "$$bench"; "$$bench"; done

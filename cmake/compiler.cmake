@@ -17,5 +17,9 @@ if(NOCTURO_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(NOCTURO_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # Qt's "signals" and "slots" are words that the code uses for other things.
 add_compile_definitions(QT_NO_KEYWORDS)

@@ -37,6 +37,9 @@ packages=(
   python3                   # the tests' own calculation
   python3-dbusmock          # a login manager and screen savers for tests
   xscreensaver              # a screen saver that is like no other
+  # Fuzzing
+  clang                     # libFuzzer
+  libclang-rt-dev           # its runtime
   # Linting
   git                       # which files are ours
   clang-format              # layout
@@ -87,7 +90,7 @@ list_elsewhere() {
   echo "This is not Debian or a relative of it, so nothing is installed. Nocturo needs:"
   echo "  programs:  ${programs[*]}"
   echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Widgets and DBus"
-  echo "  Xorg's dummy video driver for the tests; for lint: ${linters[*]}"
+  echo "  Xorg's dummy video driver for the tests; for lint: ${linters[*]}; for fuzz: clang++"
   if [ "${#wanted[@]}" -gt 0 ]; then
     echo "Missing for make lint: ${wanted[*]}"
   fi

@@ -3,7 +3,7 @@
 #include "fake_run_loop.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
-#include "platform/settings/property_list.h"
+#include "platform/property_lists/property_list.h"
 #include "temporary_directory.h"
 
 #include <fstream>
@@ -37,7 +37,7 @@ class SettingsKeeperTest : public testing::Test {
                        [] { return std::chrono::system_clock::time_point{}; });
         notifications = 0;
     }
-    PropertyDictionary onDisk() const { return readSettingsFile(path).dictionary; }
+    PropertyDictionary onDisk() const { return readPropertyListFile(path).dictionary; }
     void editElsewhere(const PropertyDictionary& content) const {
         writeText(path, propertyListXml(content));
     }

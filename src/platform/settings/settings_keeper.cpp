@@ -58,7 +58,7 @@ bool SettingsKeeper::write(Reason reason) {
     if (!takeInFile(reason)) {
         return false;
     }
-    const SettingsFileWrite written = writeSettingsFile(path_, store_.userDomain());
+    const PropertyListFileWrite written = writeSettingsFile(path_, store_.userDomain());
     if (written.errorNumber != 0) {
         if (!std::exchange(toldUnwritable_, true)) {
             logWarning(kCategory, "The settings cannot be saved to " + path_.string() + " (" +
@@ -86,11 +86,11 @@ void SettingsKeeper::processFileEvents() {
 
 /// Brings the store up to what is on the disk; false when the file there must not be replaced.
 bool SettingsKeeper::takeInFile(Reason reason) {
-    using State = SettingsFileContents::State;
+    using State = PropertyListFileContents::State;
     if (known_ && fileStamp(path_) == known_) {
         return true;
     }
-    SettingsFileContents contents = readSettingsFile(path_);
+    PropertyListFileContents contents = readPropertyListFile(path_);
     switch (contents.state) {
     case State::absent:
         // Editors delete before they write; that is no wish to lose the settings.

@@ -1,10 +1,14 @@
-// libplist has three habits that the code below answers. It reads and prints reals under the
+// libplist has some habits that the code below answers. It reads and prints reals under the
 // locale in force, and Qt puts the user's in force, so both run under the C locale. It hands out a
 // negative integer as its unsigned twin in 2.2 and has signed functions of their own from 2.3 on.
-// And it frees its tree by recursion, so a text of nothing but opening tags would overrun the
-// stack: such a text is refused before it is parsed.
+// It frees its tree by recursion, so a text of nothing but opening tags would overrun the stack:
+// such a text is refused before it is parsed, and so is one of very many entities, for each of
+// which the rest of its string is moved. binary_list_bounds says what is wrong with some binary
+// lists.
 
-#include "platform/settings/property_list.h"
+#include "platform/property_lists/property_list.h"
+
+#include "platform/property_lists/binary_list_bounds.h"
 
 #include <plist/plist.h>
 
@@ -23,6 +27,7 @@ namespace nocturo {
 namespace {
 
 constexpr std::size_t kMostContainers = 10000;
+constexpr std::size_t kMostEntities = 10000;
 constexpr int kDeepestNesting = 256;
 constexpr std::string_view kUidKey = "CF$UID";
 
@@ -221,6 +226,23 @@ std::size_t occurrences(std::string_view text, std::string_view part) {
     return count;
 }
 
+plist_t parsedXml(std::string_view xml) {
+    plist_t parsed = nullptr;
+    if (xml.find('\0') == xml.npos && occurrences(xml, "&") <= kMostEntities &&
+        occurrences(xml, "<dict") + occurrences(xml, "<array") <= kMostContainers) {
+        plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &parsed);
+    }
+    return parsed;
+}
+
+plist_t parsedBinary(std::string_view bytes) {
+    plist_t parsed = nullptr;
+    if (isBoundedBinaryList(bytes)) {
+        plist_from_bin(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &parsed);
+    }
+    return parsed;
+}
+
 } // namespace
 
 std::string propertyListXml(const PropertyDictionary& dictionary) {
@@ -236,15 +258,12 @@ std::string propertyListXml(const PropertyDictionary& dictionary) {
     return {text, length};
 }
 
-std::optional<PropertyDictionary> parsePropertyListXml(std::string_view xml) {
-    if (xml.size() > std::numeric_limits<std::uint32_t>::max() || xml.find('\0') != xml.npos ||
-        occurrences(xml, "<dict") + occurrences(xml, "<array") > kMostContainers) {
+std::optional<PropertyDictionary> parsePropertyList(std::string_view bytes) {
+    if (bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
         return std::nullopt;
     }
     const CLocaleScope cLocale;
-    plist_t parsed = nullptr;
-    plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &parsed);
-    const OwnedPlist root(parsed);
+    const OwnedPlist root(bytes.starts_with("bplist") ? parsedBinary(bytes) : parsedXml(bytes));
     return PLIST_IS_DICT(root.get()) ? membersOf(root.get(), 0) : std::nullopt;
 }
 

@@ -15,11 +15,10 @@ namespace nocturo {
 /// is kept, rounded down) and whatever follows a NUL in a string.
 std::string propertyListXml(const PropertyDictionary& dictionary);
 
-/// The root dictionary of a property list in XML, or nothing when the text is no such list: cut
-/// off, of another format, with another root, or built to exhaust the reader. A dictionary
-/// below the root whose only key is CF$UID is the format's way to write a PropertyUid and reads as
-/// one. An unsigned
-/// integer beyond the signed 64 bits wraps around.
-std::optional<PropertyDictionary> parsePropertyListXml(std::string_view xml);
+/// The root dictionary of a property list in XML or in the binary form, or nothing when the bytes
+/// are no such list: cut off, of another format, with another root, or built to exhaust the reader.
+/// A dictionary below the root whose only key is CF$UID is the XML form of a PropertyUid and reads
+/// as one. An unsigned integer beyond the signed 64 bits wraps around.
+std::optional<PropertyDictionary> parsePropertyList(std::string_view bytes);
 
 } // namespace nocturo

@@ -1,0 +1,249 @@
+#include "platform/property_lists/property_list.h"
+
+#include "temporary_directory.h"
+
+#include <bit>
+#include <clocale>
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <limits>
+
+namespace nocturo {
+namespace {
+
+constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist "
+                                   "version=\"1.0\">";
+
+PropertyDictionary oneOfEach() {
+    return {
+        {"true", true},
+        {"one", std::int64_t{1}},
+        {"minus one", std::int64_t{-1}},
+        {"least", std::numeric_limits<std::int64_t>::min()},
+        {"most", std::numeric_limits<std::int64_t>::max()},
+        {"real one", 1.0},
+        {"text", std::string(" <a href=\"x\">&amp; ]]>\t\xC3\xA9\xF0\x9F\x8C\x99 'q'\n ")},
+        {"empty text", std::string()},
+        {"data", PropertyData{{0, 255, 10, 60, 0}}},
+        {"no data", PropertyData{}},
+        {"date", PropertyDate{781000000, 0}},
+        {"early date", PropertyDate{-1, 0}},
+        {"uid", PropertyUid{42}},
+        {"empty array", PropertyArray{}},
+        {"empty dictionary", PropertyDictionary{}},
+        {"<key> & \xC3\xBC", false},
+        {"nested", PropertyDictionary{{"array", PropertyArray{false, std::int64_t{0}, 0.0,
+                                                              PropertyArray{std::string("x")}}}}},
+    };
+}
+
+std::string repeated(std::string_view text, int times) {
+    std::string all;
+    for (; times > 0; --times) {
+        all += text;
+    }
+    return all;
+}
+
+std::string withText(const std::string& text) {
+    return std::string(kHead) + "<dict><key>a</key><string>" + text + "</string></dict></plist>";
+}
+
+std::string nested(int depth) {
+    return std::string(kHead) + "<dict><key>a</key>" + repeated("<array>", depth) +
+           repeated("</array>", depth) + "</dict></plist>";
+}
+
+/// Puts a locale with a decimal comma in force, which is made for the occasion; false where it
+/// cannot be made.
+bool useDecimalComma(const TemporaryDirectory& directory) {
+    writeText(directory / "source", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\n"
+                                    "grouping -1\nEND LC_NUMERIC\n");
+    const std::string place = directory / "";
+    // The other categories are missing, which localedef reports and survives.
+    static_cast<void>(std::system(("localedef --no-archive -c -i " + place + "source " + place +
+                                   "comma >" + place + "log 2>&1")
+                                      .c_str()));
+    ::setenv("LOCPATH", place.c_str(), 1);
+    return std::setlocale(LC_NUMERIC, "comma") != nullptr;
+}
+
+TEST(PropertyListTest, RealsReadBackToTheLastBitWhereHalfIsWrittenWithAComma) {
+    const TemporaryDirectory directory;
+    if (!useDecimalComma(directory)) {
+        GTEST_SKIP() << "localedef made no locale";
+    }
+    for (const double real : {static_cast<double>(0.1F), -1.0 / 3.0, 5e-324, 1.7976931348623157e308,
+                              9007199254740993.0, 0.5}) {
+        const auto read = parsePropertyList(propertyListXml({{"real", real}}));
+        ASSERT_TRUE(read && read->at("real").as<double>()) << real;
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(*read->at("real").as<double>()),
+                  std::bit_cast<std::uint64_t>(real));
+    }
+    std::setlocale(LC_NUMERIC, "C");
+}
+
+TEST(PropertyListTest, ReadsWhatOthersWrite) {
+    const auto read =
+        parsePropertyList(std::string(kHead) +
+                          "<!-- by hand --><dict><key>i</key><integer> -5 </integer>"
+                          "<key>r</key><real>2.5</real><key>s</key><string>a&#xE9;&lt;<![CDATA[<b>"
+                          "]]></string><key>d</key><data> AQI=\n</data></dict></plist>");
+    const PropertyDictionary expected{{"i", std::int64_t{-5}},
+                                      {"r", 2.5},
+                                      {"s", std::string("a\xC3\xA9<<b>")},
+                                      {"d", PropertyData{{1, 2}}}};
+    EXPECT_EQ(read, expected);
+}
+
+TEST(PropertyListTest, RefusesWhatIsNoListOrIsBuiltToExhaustIt) {
+    for (const std::string& text :
+         {std::string("{\"json\": true}"), std::string("bplist00"), std::string(4, '\0'),
+          std::string(kHead) + "<array/></plist>", std::string(kHead) + "</plist>",
+          std::string(kHead) + "<dict><true/></dict></plist>",
+          std::string(kHead) + "<dict><key>a</key><x/></dict></plist>", nested(400), nested(500000),
+          withText(repeated("&amp;", 100000))}) {
+        EXPECT_FALSE(parsePropertyList(text)) << text.substr(0, 80);
+    }
+    EXPECT_TRUE(parsePropertyList(nested(100)));
+    EXPECT_TRUE(parsePropertyList(withText(repeated("&amp;", 5000))));
+}
+
+TEST(PropertyListTest, ReadsBackWhatItWroteAndNothingOfACutOffList) {
+    const PropertyDictionary whole = oneOfEach();
+    const std::string xml = propertyListXml(whole);
+    EXPECT_EQ(parsePropertyList(xml), whole);
+    for (std::size_t length = 0; length < xml.size(); ++length) {
+        // An exact copy, so that the sanitizer sees a read beyond its end.
+        const std::vector<char> cut(xml.begin(), xml.begin() + static_cast<std::ptrdiff_t>(length));
+        const auto read = parsePropertyList({cut.data(), cut.size()});
+        EXPECT_TRUE(!read || (*read == whole && length > xml.size() - 20)) << length;
+    }
+}
+
+std::string bigEndian(std::uint64_t value, int width) {
+    std::string bytes;
+    for (int shift = 8 * (width - 1); shift >= 0; shift -= 8) {
+        bytes += static_cast<char>(value >> shift & 0xFFU);
+    }
+    return bytes;
+}
+
+/// A container of any number of references, two bytes each.
+std::string container(unsigned type, std::size_t count, const std::vector<std::size_t>& to) {
+    std::string bytes = bigEndian(type << 4U | 0xFU, 1) + '\x12' + bigEndian(count, 4);
+    for (const std::size_t reference : to) {
+        bytes += bigEndian(reference, 2);
+    }
+    return bytes;
+}
+
+/// The objects as a binary list, the first at its root.
+std::string binaryList(const std::vector<std::string>& objects) {
+    std::string bytes = "bplist00";
+    std::string offsets;
+    for (const std::string& object : objects) {
+        offsets += bigEndian(bytes.size(), 4);
+        bytes += object;
+    }
+    const std::size_t table = bytes.size();
+    return bytes + offsets + std::string(6, '\0') + "\x04\x02" + bigEndian(objects.size(), 8) +
+           bigEndian(0, 8) + bigEndian(table, 8);
+}
+
+/// {"a": the object after the next}, with whatever else is given.
+std::string withRootDictionary(std::vector<std::string> objects) {
+    objects.insert(objects.begin(), {container(0xD, 1, {1, 2}), "Qa"});
+    return binaryList(objects);
+}
+
+/// Arrays below the root, each naming the next one as often as `times`, down to an empty one.
+std::string chain(std::size_t length, std::size_t times) {
+    std::vector<std::string> arrays;
+    for (std::size_t i = 0; i < length; ++i) {
+        arrays.push_back(container(0xA, times, std::vector<std::size_t>(times, i + 3)));
+    }
+    arrays.push_back("\xA0");
+    return withRootDictionary(arrays);
+}
+
+TEST(PropertyListTest, ReadsEveryTypeOfABinaryList) {
+    const std::string list = binaryList({
+        container(0xD, 9, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18}),
+        "Qa",
+        "Qb",
+        "Qc",
+        "Qd",
+        "Qe",
+        "Qf",
+        "Qg",
+        "Qh",
+        "Qi",
+        "\x09",                                    // true
+        std::string("\x11\x01\x00", 3),            // 256
+        '\x13' + bigEndian(~std::uint64_t{4}, 8),  // -5
+        '\x22' + bigEndian(0x40200000, 4),         // 2.5 in single precision
+        '\x23' + bigEndian(0xBFD5555555555555, 8), // -1/3 in double precision
+        std::string("\x63\x00\xE9\xD8\x3C", 5) + std::string("\xDF\x19", 2),
+        std::string("\x42\x00\xFF", 3),
+        '\x33' + bigEndian(0x41C7468EA0000000, 8),
+        container(0xA, 2, {10, 19}),
+        "\xD0",
+    });
+    const PropertyDictionary expected{{"a", true},
+                                      {"b", std::int64_t{256}},
+                                      {"c", std::int64_t{-5}},
+                                      {"d", 2.5},
+                                      {"e", -1.0 / 3.0},
+                                      {"f", std::string("\xC3\xA9\xF0\x9F\x8C\x99")},
+                                      {"g", PropertyData{{0, 255}}},
+                                      {"h", PropertyDate{781000000, 0}},
+                                      {"i", PropertyArray{true, PropertyDictionary{}}}};
+    EXPECT_EQ(parsePropertyList(list), expected);
+}
+
+TEST(PropertyListTest, RefusesBinaryListsThatWouldExhaustIt) {
+    EXPECT_TRUE(parsePropertyList(chain(60, 1)));
+    EXPECT_FALSE(parsePropertyList(chain(65, 1))) << "nested too deep";
+    EXPECT_FALSE(parsePropertyList(chain(65000, 1))) << "nested too deep for the stack";
+    EXPECT_TRUE(parsePropertyList(chain(2, 200)));
+    EXPECT_FALSE(parsePropertyList(chain(3, 200))) << "eight million arrays";
+    EXPECT_FALSE(parsePropertyList(chain(30, 200)));
+    const std::string text = "\x5F\x12" + bigEndian(500000, 4) + std::string(500000, 'x');
+    EXPECT_TRUE(parsePropertyList(withRootDictionary({container(0xA, 2, {3, 3}), text})));
+    EXPECT_FALSE(parsePropertyList(
+        withRootDictionary({container(0xA, 60000, std::vector<std::size_t>(60000, 3)), text})))
+        << "thirty gigabytes of text";
+}
+
+TEST(PropertyListTest, RefusesBinaryListsThatAreDamaged) {
+    for (const std::vector<std::string>& objects : std::vector<std::vector<std::string>>{
+             {container(0xA, 1, {2})},                         // itself
+             {container(0xA, 1, {3}), container(0xA, 1, {0})}, // the root
+             {container(0xA, 1, {7})},                         // no object
+             {container(0xA, 0xFFFFFFFF, {})},
+             {container(0xD, 0x80000000, {})},
+             {"\x5F\x13" + bigEndian(std::numeric_limits<std::uint64_t>::max(), 8) + "text"},
+             {"\x6F\x13" + bigEndian(std::uint64_t{1} << 63U, 8) + "text"},
+             {"\x5F\x1F" + std::string(64, '\0')}, // a size of 32768 bytes
+             {"\x4F"},
+             {"\x14" + std::string(4, '\0')},
+             {container(0xD, 1, {3, 3}), "\x09"}, // a key that is no text
+             {container(0xD, 1, {3, 4}), std::string("\x52x\0", 3), "\x09"},
+             {container(0xD, 1, {3, 4}), std::string("\x61\0\0", 3), "\x09"},
+             {"\x70"}}) {
+        EXPECT_FALSE(parsePropertyList(withRootDictionary(objects))) << objects[0].substr(0, 12);
+    }
+    EXPECT_FALSE(parsePropertyList(binaryList({"\xA0"})));
+    EXPECT_FALSE(parsePropertyList(binaryList({})));
+
+    const std::string whole = chain(2, 2);
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        const std::vector<char> cut(whole.begin(),
+                                    whole.begin() + static_cast<std::ptrdiff_t>(length));
+        EXPECT_FALSE(parsePropertyList({cut.data(), cut.size()})) << length;
+    }
+}
+
+} // namespace
+} // namespace nocturo
