@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 
@@ -159,6 +160,14 @@ TEST_F(OnX, XScreenSaverPausesTheEffect) {
     const char* property = "_SCREENSAVER_STATUS";
     client_.setRootProperty(property, {client_.atom("LOCK"), 1, 2});
     EXPECT_TRUE(shows("oo"));
+    saver->signal(SIGKILL); // its property stays
+    EXPECT_TRUE(shows("ii"));
+    ctl({"quit"});
+    nocturo_->wait();
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(shows("ii"));
+    letNocturoCatchUp();
+    EXPECT_TRUE(isOn());
 }
 
 TEST_F(OnX, AnApplicationThatQuitsHasTheEffectAppliedAgain) {
