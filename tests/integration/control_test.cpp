@@ -145,7 +145,10 @@ TEST_F(ControlOfRunning, WatchTellsEachChange) {
 }
 
 TEST_F(ControlOfRunning, SimulatedDisplaysDrawWhatTheyShow) {
-    const auto picture = session_.runtimeDirectory() / "nocturo" / "display-2.png";
+    const auto directory = session_.runtimeDirectory() / "nocturo";
+    const auto picture = directory / "display-2.png";
+    EXPECT_EQ(nocturo_->readLine(),
+              "nocturo: Displays are simulated; their pictures are in " + directory.string() + ".");
     ctl({"off"});
     ASSERT_TRUE(std::filesystem::exists(picture));
     const auto plainSize = std::filesystem::file_size(picture);

@@ -70,8 +70,8 @@ OpenedDisplays openSimulated(unsigned count, const std::filesystem::path& pictur
     OpenedDisplays opened;
     opened.services = std::make_unique<RampDisplayServices>(
         std::make_unique<SimulatedHardware>(count, pictureDirectory));
-    logInfo(kCategory,
-            "Displays are simulated; their pictures are in " + pictureDirectory.string() + ".");
+    opened.notice =
+        "Displays are simulated; their pictures are in " + pictureDirectory.string() + ".";
     return opened;
 }
 
