@@ -170,6 +170,7 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
     }));
     nocturo_->signal(SIGCONT);
     EXPECT_EQ(nocturo_->wait(), 1);
+    EXPECT_EQ(nocturo_->errors(), "nocturo: The display server has gone, so Nocturo ends.\n");
     reapGuards();
     rusage used{};
     getrusage(RUSAGE_CHILDREN, &used);

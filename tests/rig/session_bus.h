@@ -1,7 +1,7 @@
 #pragma once
 
 #include "rig/process.h"
-#include "rig/temporary_directory.h"
+#include "unit/temporary_directory.h"
 
 #include <functional>
 #include <optional>
