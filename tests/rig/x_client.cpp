@@ -55,16 +55,6 @@ std::vector<Output> XClient::outputs() {
     return outputs;
 }
 
-std::vector<std::string> XClient::litOutputs() {
-    std::vector<std::string> names;
-    for (const auto& output : outputs()) {
-        if (output.crtc != 0) {
-            names.push_back(output.name);
-        }
-    }
-    return names;
-}
-
 std::uint32_t XClient::crtcOf(const std::string& name) {
     for (const auto& output : outputs()) {
         if (output.name == name) {

@@ -28,7 +28,6 @@ class XClient {
 
     /// In the server's order.
     std::vector<Output> outputs();
-    std::vector<std::string> litOutputs();
     /// The CRTC that drives the output, or would if it were on.
     std::uint32_t crtcOf(const std::string& name);
 
