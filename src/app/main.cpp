@@ -42,6 +42,7 @@ constexpr int kUsage = 2;
 
 void tell(std::FILE* stream, const std::string& sentence) {
     std::fprintf(stream, "nocturo: %s\n", sentence.c_str());
+    std::fflush(stream); // standard output may be a pipe
 }
 
 std::string systemBusAddress() {
@@ -127,6 +128,9 @@ int run(QCoreApplication& application, const RunOptions& options) {
     if (displays.services == nullptr) {
         tell(stderr, displays.problem);
         return kFailure;
+    }
+    if (!displays.notice.empty()) {
+        tell(stdout, displays.notice);
     }
     setDisplayServices(displays.services.get());
     displays.services->setChangeHandler([&](const DisplayChanges& changes) {

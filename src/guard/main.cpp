@@ -3,16 +3,13 @@
 // kernel brings about however that process ends. It is small because it waits for as long as
 // Nocturo runs: statically linked where that is possible, and without streams or locales.
 
-#include "platform/desktop/runtime_directory.h"
 #include "platform/displays/guarded/display_repair.h"
 #include "platform/displays/guarded/guard_process.h"
-#include "platform/displays/guarded/journal.h"
 #include "platform/displays/randr/randr_hardware.h"
 
 #include <array>
 #include <charconv>
 #include <cstdio>
-#include <cstdlib>
 #include <poll.h>
 #include <span>
 #include <string>
@@ -25,11 +22,6 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kUsage = 2;
-
-int say(const std::string& sentence, int status) {
-    std::fprintf(status == kDone ? stdout : stderr, "%s\n", sentence.c_str());
-    return status;
-}
 
 // Waits for Nocturo to end, or for the server, with which the ramps go; true for Nocturo.
 bool waitForNocturo(RandrHardware& hardware) {
@@ -57,54 +49,6 @@ int guard(const std::string& display, const char* journal, const ServerMark::Con
     return kDone;
 }
 
-// True when a running Nocturo switched off. One that cannot be told from another program by its
-// number, or that has just ended, is sent nothing.
-bool askToSwitchOff(RandrHardware& hardware, pid_t nocturo) {
-    return nocturo > 0 && kill(nocturo, kSwitchOffSignal) == 0 && waitUntilGivenBack(hardware);
-}
-
-int restore() {
-    const char* display = std::getenv("DISPLAY");
-    const auto directory = runtimeDirectory();
-    if (display == nullptr || *display == '\0') {
-        return say("There is no X server whose displays could be given back, because DISPLAY is "
-                   "not set.",
-                   kFailed);
-    }
-    if (!directory) {
-        return say("The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.",
-                   kFailed);
-    }
-    const RandrOpening opening = RandrHardware::open(display);
-    if (opening.hardware == nullptr) {
-        return say("The displays cannot be given back: " + opening.reason + ".", kFailed);
-    }
-    RandrHardware& hardware = *opening.hardware;
-    const auto journal = journalFile(*directory, display);
-    if (const auto nocturo = changingProcess(hardware, journal)) {
-        if (askToSwitchOff(hardware, *nocturo)) {
-            return say("Nocturo has switched its effect off and given the displays back.", kDone);
-        }
-    }
-    switch (repairDisplays(hardware, journal)) {
-    case Repair::ownRamps:
-        return say("The displays have their own colors back, as they were before Nocturo changed "
-                   "them.",
-                   kDone);
-    case Repair::plainRamps:
-        return say("The displays have plain colors now.", kDone);
-    case Repair::inUse:
-        overwriteDisplays(hardware, journal);
-        return say("The displays have been given back, but a Nocturo that does not answer still "
-                   "runs and may change them again.",
-                   kDone);
-    case Repair::notNeeded:
-        break;
-    }
-    writePlainRamps(hardware);
-    return say("Nocturo had left no display changed; the displays have plain colors now.", kDone);
-}
-
 template <class Number>
 bool parse(std::string_view text, Number& number) {
     const char* end = text.data() + text.size();
@@ -124,9 +68,7 @@ int main(int argc, char* argv[]) {
         parse(arguments[4], nocturo.token) && parse(arguments[5], nocturo.window)) {
         return guard(arguments[2], arguments[3], nocturo);
     }
-    if (arguments.size() == 2 && std::string_view(arguments[1]) == "--restore") {
-        return restore();
-    }
-    return say("Nocturo starts this program by itself; nocturoctl restore is what you may want.",
-               kUsage);
+    std::fputs("Nocturo starts this program by itself; nocturoctl restore is what you may want.\n",
+               stderr);
+    return kUsage;
 }

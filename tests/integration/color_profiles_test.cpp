@@ -1,16 +1,12 @@
 // Displays with colour profiles, assigned as desktops do: on the root window, and through a real
 // colord. Switching off and ending leave each display at its calibration, to the last bit.
 
+#include "nocturo_test.h"
 #include "platform/displays/profiles/profile_calibrations.h"
 #include "rig/color_manager.h"
 #include "rig/color_profile.h"
-#include "rig/session.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstring>
-#include <fstream>
 
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -20,15 +16,10 @@ namespace nocturo::rig {
 
 namespace {
 
-Channels reversed(Channels channels) {
-    for (auto& channel : channels) {
-        std::reverse(channel.begin(), channel.end());
-    }
-    return channels;
-}
-
-class ColorProfiles : public testing::Test {
+class ColorProfiles : public NocturoOnX {
   protected:
+    ColorProfiles() : NocturoOnX(2) {}
+
     void useColord() {
         try {
             colord_.emplace();
@@ -41,10 +32,6 @@ class ColorProfiles : public testing::Test {
         nocturo_ = session_.startNocturo();
         ctl({"effects", "only", "invert"});
         ctl({"off"});
-    }
-    void ctl(const std::vector<std::string>& arguments) {
-        const RunResult result = session_.run("nocturoctl", arguments);
-        EXPECT_EQ(result.exit, 0) << result.errors;
     }
     std::filesystem::path file(unsigned number) {
         return writeFile(std::to_string(number) + ".icc", colorProfile(calibration(number)));
@@ -59,8 +46,9 @@ class ColorProfiles : public testing::Test {
     void setProperty(const char* name, unsigned number) {
         client_.setRootBytes(name, colorProfile(calibration(number)));
     }
-    bool shows(int display, const Channels& ramp) {
-        return client_.ramp("DUMMY" + std::to_string(display)) == ramp;
+    bool shows(int display, const Channels& ramp) { return client_.ramp(output(display)) == ramp; }
+    bool inverted(unsigned first, unsigned second) {
+        return shows(0, reversed(calibration(first))) && shows(1, reversed(calibration(second)));
     }
     bool calibrated(unsigned first, unsigned second) {
         return shows(0, calibration(first)) && shows(1, calibration(second));
@@ -75,9 +63,6 @@ class ColorProfiles : public testing::Test {
 
     TemporaryDirectory directory_;
     std::optional<ColorManager> colord_;
-    Session session_{2};
-    XClient client_{session_.server().display()};
-    std::unique_ptr<Process> nocturo_;
 };
 
 TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
@@ -86,7 +71,7 @@ TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
     start();
     EXPECT_TRUE(calibrated(1, 2));
     ctl({"on"});
-    EXPECT_TRUE(shows(0, reversed(calibration(1))) && shows(1, reversed(calibration(2))));
+    EXPECT_TRUE(inverted(1, 2));
     setProperty("_ICC_PROFILE_1", 3);
     ctl({"effects", "add", "invert"}); // updates
     EXPECT_TRUE(shows(1, reversed(calibration(2))));
@@ -100,6 +85,39 @@ TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
     EXPECT_TRUE(calibrated(4, 3));
 }
 
+TEST_F(ColorProfiles, HoldWhenNocturoIsKilled) {
+    useColord();
+    setProperty("_ICC_PROFILE", 1);
+    colord_->assign("DUMMY1", file(2));
+    start();
+    ASSERT_TRUE(offEndsCalibrated(1, 2));
+    ctl({"on"});
+    kill(false);
+    EXPECT_TRUE(waitUntil([&] { return calibrated(1, 2); }));
+
+    const auto switchOn = [&] {
+        nocturo_ = session_.startNocturo();
+        ctl({"effects", "only", "invert"}); // a killed one may have left the choice unwritten
+        ctl({"on"});
+        EXPECT_TRUE(inverted(1, 2)); // of what it found
+    };
+    const auto loseTheJournal = [&] {
+        waitForTheBus();
+        switchOn();
+        kill(true);
+        waitForTheBus();
+        damageJournal();
+    };
+    loseTheJournal();
+    EXPECT_NE(ctl({"restore"}).output.find("those of their color profiles"), std::string::npos);
+    EXPECT_TRUE(calibrated(1, 2));
+    loseTheJournal();
+    switchOn();
+    EXPECT_TRUE(nocturo_->waitForError("is missing or damaged"));
+    ctl({"off"});
+    EXPECT_TRUE(calibrated(1, 2));
+}
+
 TEST_F(ColorProfiles, OfColordComeFirst) {
     useColord();
     setProperty("_ICC_PROFILE", 9);
@@ -111,7 +129,7 @@ TEST_F(ColorProfiles, OfColordComeFirst) {
     colord_->assign("DUMMY1", file(3));
     EXPECT_TRUE(offEndsCalibrated(1, 3));
     ctl({"on"});
-    EXPECT_TRUE(shows(0, reversed(calibration(1))) && shows(1, reversed(calibration(3))));
+    EXPECT_TRUE(inverted(1, 3));
     colord_->assign("DUMMY0", file(5));
     EXPECT_TRUE(shows(0, reversed(calibration(1)))) << "a running effect keeps its curve";
     EXPECT_TRUE(offEndsCalibrated(5, 3));

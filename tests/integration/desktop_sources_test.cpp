@@ -1,14 +1,7 @@
 // What the desktop tells reaches the displays: a real X server and its screen saver, and stand-ins
 // for the services of the session bus and the system bus.
 
-#include "rig/session.h"
-
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
+#include "nocturo_test.h"
 
 namespace nocturo::rig {
 
@@ -20,16 +13,15 @@ constexpr const char* kMock = "org.freedesktop.DBus.Mock";
 constexpr const char* kLogin = "org.freedesktop.login1";
 constexpr const char* kLoginSession = "/org/freedesktop/login1/session/c1";
 
-class DesktopSources : public testing::Test {
+/// A session on an X server, or in simulation, whose desktop tells of things.
+template <class Base>
+class DesktopSources : public Base {
   protected:
-    explicit DesktopSources(int displays = 2) : session_(displays) {}
+    using Base::Base;
+    using Base::ctl;
+    using Base::session_;
+    using Base::status;
 
-    RunResult ctl(const std::vector<std::string>& arguments) {
-        RunResult result = session_.run("nocturoctl", arguments);
-        EXPECT_EQ(result.exit, 0) << arguments.front() << ": " << result.errors;
-        return result;
-    }
-    Json status() { return Json::parse(ctl({"status", "--json"}).output); }
     bool isOn() { return status()["active"]; }
     bool isSavedOn() { return status()["settings"]["EffectActive"]; }
     bool turns(bool on) {
@@ -48,13 +40,12 @@ class DesktopSources : public testing::Test {
         session_.systemBus().call(kLogin, kLoginSession, kMock, "UpdateProperties", "sa{sv}",
                                   "org.freedesktop.login1.Session", 1, name, "b", int{value});
     }
-
-    Session session_;
-    std::unique_ptr<Process> nocturo_;
 };
 
-class OnX : public DesktopSources {
+class OnX : public DesktopSources<NocturoOnX> {
   protected:
+    OnX() : DesktopSources(2) {}
+
     /// Leaves the effect on, inverting, with nothing that applies it again by itself.
     void start() {
         nocturo_ = session_.startNocturo();
@@ -64,25 +55,9 @@ class OnX : public DesktopSources {
         ASSERT_EQ(shown(), "ii");
     }
 
-    /// One letter a display: i falling, o rising.
-    std::string shown() {
-        std::string letters;
-        for (const char* output : {"DUMMY0", "DUMMY1"}) {
-            const Channels ramp = client_.ramp(output);
-            letters += ramp[0].front() > ramp[0].back() ? 'i' : 'o';
-        }
-        return letters;
-    }
-    bool shows(const std::string& letters) {
-        return waitUntil([&] { return shown() == letters; });
-    }
     /// What another program, or a driver that wakes up, does.
     void overwrite(const char* output = "DUMMY1") {
-        Channels ramp = client_.ramp(output);
-        for (auto& channel : ramp) {
-            std::reverse(channel.begin(), channel.end());
-        }
-        client_.setRamp(output, ramp);
+        client_.setRamp(output, reversed(client_.ramp(output)));
     }
     /// Waits until Nocturo has taken in all that the server has sent so far: a window that goes is
     /// answered by applying the effect again.
@@ -95,11 +70,9 @@ class OnX : public DesktopSources {
             return shown() == "ii";
         }));
     }
-
-    XClient client_{session_.server().display()};
 };
 
-class Simulated : public DesktopSources {
+class Simulated : public DesktopSources<NocturoTest> {
   protected:
     Simulated() : DesktopSources(0) {}
     /// Returns when the first call is answered, which is once everything is being followed.
@@ -112,11 +85,11 @@ class Simulated : public DesktopSources {
 TEST_F(OnX, TheServersScreenSaverPausesTheEffect) {
     start();
     session_.run("xset", {"s", "activate"});
-    EXPECT_TRUE(shows("oo"));
+    EXPECT_TRUE(becomes("oo"));
     EXPECT_FALSE(isOn());
     EXPECT_TRUE(isSavedOn());
     session_.run("xset", {"s", "reset"});
-    EXPECT_TRUE(shows("ii"));
+    EXPECT_TRUE(becomes("ii"));
     EXPECT_TRUE(isSavedOn());
 
     ctl({"set", "NDDeactivateForScreenSaver", "false"});
@@ -132,7 +105,7 @@ TEST_F(OnX, AScreenSaverThatRunsAtTheStartCounts) {
     nocturo_->wait();
     session_.run("xset", {"s", "activate"});
     nocturo_ = session_.startNocturo();
-    EXPECT_TRUE(shows("oo"));
+    EXPECT_TRUE(becomes("oo"));
     EXPECT_TRUE(isSavedOn());
     ctl({"on"}); // the user's word holds
     EXPECT_EQ(shown(), "ii");
@@ -151,14 +124,22 @@ TEST_F(OnX, XScreenSaverPausesTheEffect) {
     };
     ASSERT_TRUE(waitUntil([&] { return command("-time"); })) << saver->errors();
     ASSERT_TRUE(waitUntil([&] { return command("-activate"); })) << saver->errors();
-    EXPECT_TRUE(shows("oo"));
+    EXPECT_TRUE(becomes("oo"));
     EXPECT_TRUE(isSavedOn());
     command("-deactivate");
-    EXPECT_TRUE(shows("ii"));
+    EXPECT_TRUE(becomes("ii"));
 
     const char* property = "_SCREENSAVER_STATUS";
     client_.setRootProperty(property, {client_.atom("LOCK"), 1, 2});
-    EXPECT_TRUE(shows("oo"));
+    EXPECT_TRUE(becomes("oo"));
+    saver->signal(SIGKILL); // its property stays
+    EXPECT_TRUE(becomes("ii"));
+    ctl({"quit"});
+    nocturo_->wait();
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(becomes("ii"));
+    letNocturoCatchUp();
+    EXPECT_TRUE(isOn());
 }
 
 TEST_F(OnX, AnApplicationThatQuitsHasTheEffectAppliedAgain) {
@@ -168,7 +149,7 @@ TEST_F(OnX, AnApplicationThatQuitsHasTheEffectAppliedAgain) {
     auto player = session_.startMock(session_.bus(), someName[0], someName);
     overwrite();
     player.reset();
-    EXPECT_TRUE(shows("ii"));
+    EXPECT_TRUE(becomes("ii"));
     letNocturoCatchUp();
 }
 
@@ -179,14 +160,14 @@ TEST_F(OnX, WakingUpAndComingToTheFrontHaveTheEffectAppliedAgain) {
     setSessionProperty("Active", false);
     overwrite();
     setSessionProperty("Active", true);
-    EXPECT_TRUE(shows("ii"));
+    EXPECT_TRUE(becomes("ii"));
 
     overwrite();
     session_.systemBus().call(kLogin, "/org/freedesktop/login1", kMock, "EmitSignal", "sssav",
                               "org.freedesktop.login1.Manager", "PrepareForSleep", "b", 1, "b", 0);
-    EXPECT_TRUE(shows("ii"));
+    EXPECT_TRUE(becomes("ii"));
     overwrite(); // the driver comes late
-    EXPECT_TRUE(waitUntil([&] { return shown() == "ii"; }, Milliseconds(3100)));
+    EXPECT_TRUE(becomes("ii", Milliseconds(3100)));
 }
 
 TEST_F(OnX, AProgramThatFightsIsCountedAndNamed) {

@@ -1,11 +1,9 @@
 // Displays that change while the effect is on, on a real X server. Re-application every 6 seconds
 // is off throughout, so whatever is put right was put right because the server told.
 
-#include "rig/session.h"
+#include "nocturo_test.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include <random>
 
 namespace nocturo::rig {
 
@@ -21,46 +19,23 @@ Channels ownRamp(int display) {
     return channels;
 }
 
-class DisplayEvents : public testing::Test {
+class DisplayEvents : public NocturoOnX {
   protected:
     static constexpr int kDisplays = 4;
 
-    void SetUp() override {
-        for (int i = 0; i < kDisplays; ++i) {
-            setOwn(i);
+    DisplayEvents() : NocturoOnX(kDisplays) {
+        for (int display = 0; display < kDisplays; ++display) {
+            setOwn(display);
         }
+    }
+    void SetUp() override {
         nocturo_ = session_.startNocturo();
         ctl({"set", "ContinuouslyApply", "false"});
         ctl({"effects", "only", "invert"});
         ctl({"on"});
     }
-    void ctl(const std::vector<std::string>& arguments) {
-        const RunResult result = session_.run("nocturoctl", arguments);
-        EXPECT_EQ(result.exit, 0) << result.errors;
-    }
-    static std::string output(int display) { return "DUMMY" + std::to_string(display); }
-    void setOwn(int display) { client_.setRamp(output(display), ownRamp(display)); }
-
-    /// One letter a display: i inverted, o its own ramp, ? anything else.
-    std::string shown() {
-        std::string letters;
-        for (int display = 0; display < kDisplays; ++display) {
-            const Channels ramp = client_.ramp(output(display));
-            Channels reversed = ownRamp(display);
-            for (auto& channel : reversed) {
-                std::reverse(channel.begin(), channel.end());
-            }
-            letters += ramp == ownRamp(display) ? 'o' : ramp == reversed ? 'i' : '?';
-        }
-        return letters;
-    }
-    bool becomes(const std::string& letters) {
-        return waitUntil([&] { return shown() == letters; });
-    }
-
-    Session session_{kDisplays};
-    XClient client_{session_.server().display()};
-    std::unique_ptr<Process> nocturo_;
+    void setOwn(int display) { NocturoOnX::setOwn(display, ownRamp(display)); }
+    void dockAndUndock(int rounds);
 };
 
 TEST_F(DisplayEvents, AModeChangeAppliesAtOnceAndOnceMore) {
@@ -74,9 +49,9 @@ TEST_F(DisplayEvents, AModeChangeAppliesAtOnceAndOnceMore) {
         setMode(client_.createMode(320 + attempt, 200));
         EXPECT_TRUE(becomes("iiii"));
         setOwn(1);
-        seen = waitUntil([&] { return shown() == "iiii"; }, Milliseconds(1000));
+        seen = becomes("iiii", Milliseconds(1000));
         setOwn(1);
-        EXPECT_FALSE(waitUntil([&] { return shown() == "iiii"; }, Milliseconds(200))) << "a third";
+        EXPECT_FALSE(becomes("iiii", Milliseconds(200))) << "a third";
     }
     EXPECT_TRUE(seen);
     ctl({"off"});
@@ -111,21 +86,38 @@ TEST_F(DisplayEvents, DisplaysComeAndGo) {
     EXPECT_EQ(nocturo_->errors(), "");
 }
 
-TEST_F(DisplayEvents, ADockEndsRightWhateverOthersWriteMeanwhile) {
+// Three of four displays leave and come back at once, while another client writes ramps, its own or
+// nonsense, to those that are there and those that are not.
+void DisplayEvents::dockAndUndock(int rounds) {
     auto& server = session_.server();
-    for (int round = 0; round < 5; ++round) {
+    std::mt19937 random(4);
+    const auto overwrite = [&] {
+        const int display = static_cast<int>(random() % kDisplays);
+        client_.setRamp(output(display), ownRamp(static_cast<int>(random() % 1000)));
+    };
+    for (int round = 0; round < rounds; ++round) {
         for (int display = 1; display < kDisplays; ++display) {
             server.switchOff(display);
-            setOwn(display);
+            overwrite();
         }
         for (int display = 1; display < kDisplays; ++display) {
+            overwrite();
             server.switchOn(display);
-            setOwn(display);
+            setOwn(display); // as drivers do
         }
-        EXPECT_TRUE(becomes("iiii")) << round;
+        ASSERT_TRUE(becomes("iiii")) << round << ": " << shown();
     }
     ctl({"off"});
     EXPECT_EQ(shown(), "oooo");
+    EXPECT_EQ(nocturo_->errors(), "");
+}
+
+TEST_F(DisplayEvents, ADockEndsRightWhateverOthersWriteMeanwhile) {
+    dockAndUndock(5);
+}
+
+TEST_F(DisplayEvents, SoakADockEndsRightTwoHundredTimes) {
+    dockAndUndock(200);
 }
 
 } // namespace

@@ -1,13 +1,8 @@
 // Whatever becomes of Nocturo, the displays come back: on a real X server, with the processes
 // really killed.
 
-#include "rig/session.h"
+#include "nocturo_test.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <csignal>
-#include <fstream>
 #include <iostream>
 #include <random>
 
@@ -22,11 +17,12 @@ namespace fs = std::filesystem;
 constexpr int kDisplays = 4;
 constexpr Milliseconds kWithin{100};
 constexpr const char* kGuard = "nocturo-guard";
+constexpr const char* kAllOwn = "oooo";
+constexpr const char* kAllChanged = "????"; // inverted and dimmed
 
-class Guard : public testing::Test {
+class Guard : public NocturoOnX {
   protected:
-    Guard() : session_(kDisplays), client_(session_.server().display()) {
-        inheritOrphans();
+    Guard() : NocturoOnX(kDisplays) {
         for (int i = 0; i < kDisplays; ++i) {
             // Of a shape that no effect makes, and each display its own.
             Channels own;
@@ -36,41 +32,18 @@ class Guard : public testing::Test {
                         static_cast<std::uint16_t>(entry * entry + 7 * i + int(channel)));
                 }
             }
-            client_.setRamp(output(i), own);
-            own_.push_back(own);
+            setOwn(i, own);
         }
     }
-    ~Guard() override {
-        nocturo_.reset();
-        reapGuards();
-    }
-
-    static std::string output(int number) { return "DUMMY" + std::to_string(number); }
 
     /// With its effect on and every display changed.
     void startChanging() {
         nocturo_ = session_.startNocturo();
         ctl({"effects", "only", "invert", "dim"});
         ctl({"on"});
-        ASSERT_EQ(own(), 0);
+        ASSERT_EQ(shown(), kAllChanged);
     }
 
-    void ctl(const std::vector<std::string>& arguments) {
-        const RunResult result = session_.run("nocturoctl", arguments);
-        EXPECT_EQ(result.exit, 0) << arguments.front() << ": " << result.errors;
-    }
-
-    /// How many displays show their own ramp, to the last bit.
-    int own() {
-        int count = 0;
-        for (int i = 0; i < kDisplays; ++i) {
-            count += client_.ramp(output(i)) == own_[static_cast<std::size_t>(i)] ? 1 : 0;
-        }
-        return count;
-    }
-    bool allOwnWithin(Milliseconds time = kPatience) {
-        return waitUntil([&] { return own() == kDisplays; }, time);
-    }
     int plain() {
         int count = 0;
         for (int i = 0; i < kDisplays; ++i) {
@@ -80,44 +53,7 @@ class Guard : public testing::Test {
         return count;
     }
 
-    pid_t guardProcess() {
-        const auto guards = childrenNamed(nocturo_->id(), kGuard);
-        return guards.size() == 1 ? guards.front() : -1;
-    }
-
-    /// Waits for the guards that killed applications left to end as they should.
-    void reapGuards() {
-        for (const pid_t guard : childrenNamed(getpid(), kGuard)) {
-            const auto exit = waitForChild(guard);
-            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL) << exit.value_or(-1);
-        }
-    }
-
-    void kill(bool guardToo) {
-        const pid_t guard = guardToo ? guardProcess() : -1;
-        if (guard > 0) {
-            ::kill(guard, SIGKILL);
-        }
-        nocturo_->signal(SIGKILL);
-        nocturo_->wait();
-    }
-
-    /// The next start would find a Nocturo running that the bus has not missed yet.
-    void waitForTheBus() {
-        ASSERT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 3; }));
-    }
-
-    fs::path journal() {
-        return session_.runtimeDirectory() / "nocturo" /
-               ("ramps" + session_.environment().at("DISPLAY"));
-    }
-
     void killAtRandomMoments(int rounds, int together);
-
-    Session session_;
-    XClient client_;
-    std::vector<Channels> own_;
-    std::unique_ptr<Process> nocturo_;
 };
 
 // What it is doing changes from round to round: starting, toggling, following a slider, nothing.
@@ -154,7 +90,7 @@ void Guard::killAtRandomMoments(int rounds, int together) {
             ctl({"off"});
         }
         late += allOwnWithin(kWithin) ? 0 : 1;
-        EXPECT_TRUE(allOwnWithin()) << own();
+        EXPECT_TRUE(allOwnWithin()) << shown();
         if (guardToo) {
             ctl({"on"});
             ctl({"quit"});
@@ -162,7 +98,7 @@ void Guard::killAtRandomMoments(int rounds, int together) {
         }
         reapGuards();
         waitForTheBus();
-        EXPECT_EQ(own(), kDisplays); // and they stay
+        EXPECT_EQ(shown(), kAllOwn); // and they stay
     }
     // On a machine that has enough else to do the processor itself comes late now and then.
     std::cout << late << " of " << rounds << " took longer than " << kWithin.count() << " ms\n";
@@ -192,7 +128,7 @@ TEST_F(Guard, IsThereBeforeTheFirstChangeAndOnlyThen) {
     EXPECT_EQ(nocturo_->wait(), 0);
     EXPECT_EQ(waitForChild(guard), 0);
     EXPECT_FALSE(fs::exists(journal()));
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
 }
 
 TEST_F(Guard, WritesNothingWhereTheDisplaysWereGivenBack) {
@@ -234,6 +170,7 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
     }));
     nocturo_->signal(SIGCONT);
     EXPECT_EQ(nocturo_->wait(), 1);
+    EXPECT_EQ(nocturo_->errors(), "nocturo: The display server has gone, so Nocturo ends.\n");
     reapGuards();
     rusage used{};
     getrusage(RUSAGE_CHILDREN, &used);
@@ -253,7 +190,7 @@ TEST_F(Guard, ADamagedJournalGivesPlainColors) {
     startChanging();
     kill(true);
     waitForTheBus();
-    std::fstream(journal(), std::ios::in | std::ios::out).seekp(1000) << "?";
+    damageJournal();
     nocturo_ = session_.start("nocturo");
     EXPECT_TRUE(nocturo_->waitForError("is missing or damaged, so they get plain ones."));
     session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_);
@@ -269,8 +206,9 @@ TEST_F(Guard, AJournalOfAnotherRunIsNotBelieved) {
     ctl({"quit"});
     nocturo_->wait();
     for (int i = 0; i < kDisplays; ++i) {
-        std::swap(own_[static_cast<std::size_t>(i)][0], own_[static_cast<std::size_t>(i)][1]);
-        client_.setRamp(output(i), own_[static_cast<std::size_t>(i)]);
+        Channels other = client_.ramp(output(i));
+        std::swap(other[0], other[1]);
+        setOwn(i, other);
     }
     fs::copy_file(old, journal());
     startChanging(); // no display was left changed: it is not even read
@@ -284,12 +222,12 @@ TEST_F(Guard, AJournalOfAnotherRunIsNotBelieved) {
 
 TEST_F(Guard, RestoreByHandWorksWhileNocturoHangs) {
     startChanging();
-    EXPECT_TRUE(waitUntil([&] { return own() == 0; }));
+    EXPECT_TRUE(becomes(kAllChanged));
     nocturo_->signal(SIGSTOP);
     const RunResult restored = session_.run("nocturoctl", {"restore"});
     EXPECT_EQ(restored.exit, 0) << restored.errors;
     EXPECT_NE(restored.output.find("does not answer"), std::string::npos) << restored.output;
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
 }
 
 TEST_F(Guard, RestoreByHandWorksInEverySituation) {
@@ -301,22 +239,22 @@ TEST_F(Guard, RestoreByHandWorksInEverySituation) {
     };
     startChanging();
     EXPECT_NE(restore().find("switched its effect off"), std::string::npos);
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
 
     ctl({"on"});
     const std::string address = session_.environment()["DBUS_SESSION_BUS_ADDRESS"];
     session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
     EXPECT_NE(restore().find("switched its effect off"), std::string::npos);
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
     session_.environment()["DBUS_SESSION_BUS_ADDRESS"] = address;
 
     ctl({"on"});
     // A server drops what a killed program sent and it has not read yet.
-    EXPECT_TRUE(waitUntil([&] { return own() == 0; }));
+    EXPECT_TRUE(becomes(kAllChanged));
     kill(true);
-    EXPECT_EQ(own(), 0);
+    EXPECT_EQ(shown(), kAllChanged);
     EXPECT_NE(restore().find("own colors back"), std::string::npos);
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
 
     EXPECT_NE(restore().find("plain colors now"), std::string::npos);
     EXPECT_EQ(plain(), kDisplays);
@@ -341,7 +279,7 @@ class GuardElsewhere : public Guard {
     void startFromThere() {
         nocturo_ = session_.start(bin() / "nocturo");
         ASSERT_TRUE(session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_));
-        ASSERT_TRUE(waitUntil([&] { return own() == 0; }));
+        ASSERT_TRUE(becomes("iiii"));
     }
 };
 
@@ -358,16 +296,16 @@ TEST_F(GuardElsewhere, MissingItIsToldOnceAndDoneWithout) {
     ctl({"on"});
     nocturo_->signal(SIGTERM);
     EXPECT_EQ(nocturo_->wait(), 0);
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
     const std::string& errors = nocturo_->errors();
     EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
     EXPECT_NE(errors.find("cannot be had (No such file or directory)"), std::string::npos);
 
     startFromThere();
     kill(false);
-    EXPECT_EQ(own(), 0);
+    EXPECT_EQ(shown(), "iiii");
     ctl({"restore"});
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
 }
 
 TEST_F(GuardElsewhere, OneThatDoesNotStayAliveIsGivenUp) {
@@ -375,7 +313,7 @@ TEST_F(GuardElsewhere, OneThatDoesNotStayAliveIsGivenUp) {
     startFromThere();
     EXPECT_TRUE(nocturo_->waitForError("it does not stay alive"));
     ctl({"off"});
-    EXPECT_EQ(own(), kDisplays);
+    EXPECT_EQ(shown(), kAllOwn);
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 
 #include "rig/process.h"
 #include "rig/session_bus.h"
-#include "rig/temporary_directory.h"
 #include "rig/x_server.h"
+#include "unit/temporary_directory.h"
 
 #include <filesystem>
 #include <memory>

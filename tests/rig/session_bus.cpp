@@ -1,12 +1,9 @@
 #include "rig/session_bus.h"
 
-#include <array>
-#include <csignal>
 #include <fstream>
 #include <memory>
 #include <stdexcept>
 
-#include <poll.h>
 #include <systemd/sd-bus.h>
 
 namespace nocturo::rig {
@@ -51,11 +48,6 @@ bool hasOwner(sd_bus* bus, const std::string& name) {
     return owned != 0;
 }
 
-int markChanged(sd_bus_message*, void* changed, sd_bus_error*) {
-    *static_cast<bool*>(changed) = true;
-    return 0;
-}
-
 } // namespace
 
 SessionBus::SessionBus() {
@@ -77,32 +69,11 @@ SessionBus::SessionBus() {
     address_ = *line;
 }
 
-bool SessionBus::waitForName(const std::string& name, Process& owner, Milliseconds timeout) {
-    const auto deadline = timeAfter(timeout);
+bool SessionBus::waitForName(const std::string& name, Process& owner) {
     const Bus bus = connectTo(address_);
-    bool changed = false;
-    const std::string rule = "type='signal',sender='org.freedesktop.DBus',"
-                             "member='NameOwnerChanged',arg0='" +
-                             name + "'";
-    check(sd_bus_add_match(bus.get(), nullptr, rule.c_str(), markChanged, &changed), "match");
-    while (!hasOwner(bus.get(), name)) {
-        // The call may have taken the change in already, so process before waiting.
-        for (changed = false; !changed;) {
-            const int processed = sd_bus_process(bus.get(), nullptr);
-            check(processed, "process");
-            if (processed > 0) {
-                continue;
-            }
-            const int left = millisecondsUntil(deadline);
-            if (left == 0 || !owner.isRunning()) {
-                return false;
-            }
-            std::array<pollfd, 2> sources{
-                {{sd_bus_get_fd(bus.get()), POLLIN, 0}, {owner.endDescriptor(), POLLIN, 0}}};
-            poll(sources.data(), sources.size(), left);
-        }
-    }
-    return true;
+    bool owned = false;
+    waitUntil([&] { return (owned = hasOwner(bus.get(), name)) || !owner.isRunning(); });
+    return owned;
 }
 
 void SessionBus::callWith(const char* service, const char* path, const char* interface,
@@ -118,11 +89,6 @@ void SessionBus::callWith(const char* service, const char* path, const char* int
     const std::string reason = error.message != nullptr ? error.message : "no reason given";
     sd_bus_error_free(&error);
     check(result, (std::string(method) + ": " + reason).c_str());
-}
-
-void SessionBus::kill() {
-    process_->signal(SIGKILL);
-    process_->wait();
 }
 
 } // namespace nocturo::rig

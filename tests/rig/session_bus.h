@@ -1,7 +1,7 @@
 #pragma once
 
 #include "rig/process.h"
-#include "rig/temporary_directory.h"
+#include "unit/temporary_directory.h"
 
 #include <functional>
 #include <optional>
@@ -22,7 +22,7 @@ class SessionBus {
     const std::string& address() const { return address_; }
 
     /// Waits until somebody owns the name; false when `owner` ended before, or nobody did in time.
-    bool waitForName(const std::string& name, Process& owner, Milliseconds timeout = kPatience);
+    bool waitForName(const std::string& name, Process& owner);
 
     /// Calls a method and waits for the answer, which is dropped; `types` and what follows as
     /// sd_bus_message_append takes them. Throws std::runtime_error when it fails.
@@ -33,9 +33,6 @@ class SessionBus {
             return sd_bus_message_append(message, types, arguments...);
         });
     }
-
-    /// Ends the bus as a crash would.
-    void kill();
 
   private:
     void callWith(const char* service, const char* path, const char* interface, const char* method,

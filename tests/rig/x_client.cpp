@@ -55,16 +55,6 @@ std::vector<Output> XClient::outputs() {
     return outputs;
 }
 
-std::vector<std::string> XClient::litOutputs() {
-    std::vector<std::string> names;
-    for (const auto& output : outputs()) {
-        if (output.crtc != 0) {
-            names.push_back(output.name);
-        }
-    }
-    return names;
-}
-
 std::uint32_t XClient::crtcOf(const std::string& name) {
     for (const auto& output : outputs()) {
         if (output.name == name) {
@@ -156,10 +146,11 @@ std::uint32_t XClient::atom(const std::string& name) {
     return needed(xcb_intern_atom_reply(raw, cookie, nullptr), "atom")->atom;
 }
 
-void XClient::setRootProperty(const std::string& name, const std::vector<std::uint32_t>& numbers) {
+void XClient::setRootProperty(const std::string& name, std::uint8_t format, std::size_t count,
+                              const void* data) {
     check(xcb_change_property_checked(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(name),
-                                      XCB_ATOM_CARDINAL, 32,
-                                      static_cast<std::uint32_t>(numbers.size()), numbers.data()),
+                                      XCB_ATOM_CARDINAL, format, static_cast<std::uint32_t>(count),
+                                      data),
           "property");
 }
 
@@ -168,13 +159,6 @@ void XClient::setEdid(const Output& output, const std::vector<std::uint8_t>& edi
               connection_.get(), output.id, atom("EDID"), XCB_ATOM_INTEGER, 8,
               XCB_PROP_MODE_REPLACE, static_cast<std::uint32_t>(edid.size()), edid.data()),
           "EDID");
-}
-
-void XClient::setRootBytes(const std::string& name, const std::vector<std::uint8_t>& bytes) {
-    check(xcb_change_property_checked(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(name),
-                                      XCB_ATOM_CARDINAL, 8,
-                                      static_cast<std::uint32_t>(bytes.size()), bytes.data()),
-          "property");
 }
 
 } // namespace nocturo::rig

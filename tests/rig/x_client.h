@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/displays/randr/xcb_handles.h"
+#include "platform/x11/xcb_handles.h"
 
 #include <array>
 #include <cstdint>
@@ -28,7 +28,6 @@ class XClient {
 
     /// In the server's order.
     std::vector<Output> outputs();
-    std::vector<std::string> litOutputs();
     /// The CRTC that drives the output, or would if it were on.
     std::uint32_t crtcOf(const std::string& name);
 
@@ -39,9 +38,13 @@ class XClient {
     void setRamp(const std::string& output, const Channels& ramp) { setRamp(crtcOf(output), ramp); }
 
     /// Makes the numbers a property of the root window, as a window manager would.
-    void setRootProperty(const std::string& name, const std::vector<std::uint32_t>& numbers);
+    void setRootProperty(const std::string& name, const std::vector<std::uint32_t>& numbers) {
+        setRootProperty(name, 32, numbers.size(), numbers.data());
+    }
     /// The same with bytes, such as a profile's.
-    void setRootBytes(const std::string& name, const std::vector<std::uint8_t>& bytes);
+    void setRootBytes(const std::string& name, const std::vector<std::uint8_t>& bytes) {
+        setRootProperty(name, 8, bytes.size(), bytes.data());
+    }
     std::uint32_t atom(const std::string& name);
 
     void setScreenSize(int width, int height);
@@ -52,6 +55,8 @@ class XClient {
     void setEdid(const Output& output, const std::vector<std::uint8_t>& edid);
 
   private:
+    void setRootProperty(const std::string& name, std::uint8_t format, std::size_t count,
+                         const void* data);
     void check(xcb_void_cookie_t cookie, const char* what);
 
     XcbConnection connection_;

@@ -1,7 +1,7 @@
 #include "rig/x_keyboard.h"
 
 #include "platform/keyboard/virtual_key_codes.h"
-#include "platform/keyboard/xkb/xcb_xkb.h"
+#include "platform/x11/xcb_xkb.h"
 #include "rig/process.h"
 
 #include <algorithm>

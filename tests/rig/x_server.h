@@ -1,8 +1,8 @@
 #pragma once
 
 #include "rig/process.h"
-#include "rig/temporary_directory.h"
 #include "rig/x_client.h"
+#include "unit/temporary_directory.h"
 
 #include <optional>
 #include <string>

@@ -1,14 +1,10 @@
 #pragma once
 
 #include "app/app_controller.h"
-#include "fake_gamma_hardware.h"
+#include "display_services_fixture.h"
 #include "fake_run_loop.h"
-#include "platform/displays/display_functions.h"
-#include "platform/displays/ramp_display_services.h"
 #include "platform/notification_center.h"
 #include "platform/settings/defaults_store.h"
-
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
@@ -16,24 +12,17 @@
 namespace nocturo {
 
 /// An application controller over three displays in memory, with the invert effect selected.
-class AppControllerFixture : public testing::Test {
+class AppControllerFixture : public DisplayServicesFixture {
   protected:
     void SetUp() override {
         for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
             hardware_.add("D" + std::to_string(crtc), crtc);
         }
-        services_ =
-            std::make_unique<RampDisplayServices>(std::make_unique<FakeGammaHardware>(hardware_));
-        setDisplayServices(services_.get());
+        start();
         NDEffect::setUserDefaults(store_);
         store_->setObject(PropertyArray{std::string("NDInvertEffect")}, "NDGroupEffect");
     }
-    void TearDown() override {
-        setDisplayServices(nullptr);
-        NDEffect::setUserDefaults(nullptr);
-    }
-
-    CGDirectDisplayID id(std::size_t index) { return services_->onlineDisplays()->at(index).id; }
+    void TearDown() override { NDEffect::setUserDefaults(nullptr); }
 
     /// One letter per CRTC: i inverted, o its own ramp.
     std::string shown() const {
@@ -44,8 +33,6 @@ class AppControllerFixture : public testing::Test {
         return letters;
     }
 
-    FakeGammaHardwareState hardware_;
-    std::unique_ptr<RampDisplayServices> services_;
     NotificationCenter center_;
     NotificationCenter workspace_;
     NotificationCenter distributed_;

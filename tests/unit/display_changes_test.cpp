@@ -1,17 +1,10 @@
 // What the display services tell of changes, and the system colours that displays go back to.
 
 #include "display/display_gamma.h"
-#include "display/screen_controller.h"
-#include "effects/invert_effect.h"
-#include "fake_gamma_hardware.h"
+#include "display_services_fixture.h"
 #include "fake_run_loop.h"
-#include "platform/displays/display_functions.h"
-#include "platform/displays/ramp_display_services.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace nocturo {
 
@@ -33,11 +26,7 @@ Ramp colors(std::uint16_t number) {
 }
 
 Ramp inverted(std::uint16_t number) {
-    Ramp ramp = colors(number);
-    for (auto* channel : {&ramp.red, &ramp.green, &ramp.blue}) {
-        std::reverse(channel->begin(), channel->end());
-    }
-    return ramp;
+    return reversed(colors(number));
 }
 
 struct Profiles {
@@ -67,10 +56,8 @@ class FakeCalibrations : public CalibrationSource {
     Profiles& profiles_;
 };
 
-class DisplayChangesTest : public testing::Test {
+class DisplayChangesTest : public DisplayServicesFixture {
   protected:
-    ~DisplayChangesTest() override { setDisplayServices(nullptr); }
-
     void SetUp() override {
         hardware_.add("A", 1);
         hardware_.add("B", 2);
@@ -78,37 +65,20 @@ class DisplayChangesTest : public testing::Test {
         hardware_.ramps[2] = colors(2);
     }
     void start() {
-        services_ = std::make_unique<RampDisplayServices>(
-            std::make_unique<FakeGammaHardware>(hardware_),
-            std::make_unique<FakeCalibrations>(profiles_), &runLoop_);
+        DisplayServicesFixture::start(std::make_unique<FakeCalibrations>(profiles_), &runLoop_);
         services_->setChangeHandler([this](const DisplayChanges& each) { told_.push_back(each); });
-        setDisplayServices(services_.get());
         a_ = id("A");
         b_ = id("B");
-    }
-    CGDirectDisplayID id(const std::string& connector) {
-        for (const DisplayInfo& info : *services_->onlineDisplays()) {
-            if (info.name == connector) {
-                return info.id;
-            }
-        }
-        return 0;
     }
     /// What is told once all has settled.
     std::vector<DisplayChanges> toldAfter(std::int64_t milliseconds = 1000) {
         runLoop_.advance(milliseconds);
         return std::exchange(told_, {});
     }
-    std::unique_ptr<NDScreenController> inverting(CGDirectDisplayID display) {
-        return NDScreenController::screenControllerWithEffect(std::make_shared<NDInvertEffect>(),
-                                                              display);
-    }
     const Ramp& shown(std::uint32_t crtc) { return hardware_.ramps[crtc]; }
 
-    FakeGammaHardwareState hardware_;
     Profiles profiles_;
     FakeRunLoop runLoop_;
-    std::unique_ptr<RampDisplayServices> services_;
     std::vector<DisplayChanges> told_;
     CGDirectDisplayID a_ = 0;
     CGDirectDisplayID b_ = 0;

@@ -1,27 +1,14 @@
 #include "platform/displays/ramp_display_services.h"
 
 #include "display/display_gamma.h"
-#include "display/screen_controller.h"
-#include "effects/invert_effect.h"
-#include "fake_gamma_hardware.h"
-#include "platform/displays/display_functions.h"
+#include "display_services_fixture.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace nocturo {
 
 namespace {
-
-Ramp reversed(Ramp ramp) {
-    for (auto* channel : {&ramp.red, &ramp.green, &ramp.blue}) {
-        std::reverse(channel->begin(), channel->end());
-    }
-    return ramp;
-}
 
 // A ramp that is no straight line, so that resampling it there and back would show.
 Ramp bumpy(std::uint32_t size, int seed = 7) {
@@ -35,33 +22,7 @@ Ramp bumpy(std::uint32_t size, int seed = 7) {
     return ramp;
 }
 
-class Displays : public testing::Test {
-  protected:
-    ~Displays() override { setDisplayServices(nullptr); }
-
-    /// Starts the services on what the hardware shows now.
-    void start() {
-        services_ =
-            std::make_unique<RampDisplayServices>(std::make_unique<FakeGammaHardware>(hardware_));
-        setDisplayServices(services_.get());
-    }
-    CGDirectDisplayID id(std::size_t index) { return services_->onlineDisplays()->at(index).id; }
-    CGDirectDisplayID id(const std::string& connector) {
-        for (const DisplayInfo& info : *services_->onlineDisplays()) {
-            if (info.name == connector) {
-                return info.id;
-            }
-        }
-        return 0;
-    }
-    std::unique_ptr<NDScreenController> inverting(CGDirectDisplayID display) {
-        return NDScreenController::screenControllerWithEffect(std::make_shared<NDInvertEffect>(),
-                                                              display);
-    }
-
-    FakeGammaHardwareState hardware_;
-    std::unique_ptr<RampDisplayServices> services_;
-};
+using Displays = DisplayServicesFixture;
 
 TEST(Ramp, EverySixteenBitValueSurvivesReadingAndWriting) {
     std::vector<std::uint16_t> channel(65536);

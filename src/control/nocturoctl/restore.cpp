@@ -2,12 +2,16 @@
 
 #include "control/nocturoctl/bus_client.h"
 #include "control/nocturoctl/failure.h"
+#include "platform/desktop/runtime_directory.h"
+#include "platform/displays/guarded/display_repair.h"
 #include "platform/displays/guarded/guard_process.h"
+#include "platform/displays/guarded/journal.h"
+#include "platform/displays/profiles/profile_calibrations.h"
+#include "platform/displays/randr/randr_hardware.h"
 
-#include <cerrno>
-#include <cstring>
+#include <csignal>
+#include <cstdlib>
 #include <iostream>
-#include <unistd.h>
 
 namespace nocturo {
 
@@ -16,6 +20,9 @@ namespace {
 // Somebody sits in front of screens that cannot be read.
 constexpr std::chrono::seconds kPatience{1};
 
+constexpr const char* kSwitchedOff =
+    "Nocturo has switched its effect off and given the displays back.";
+
 bool switchOffOverTheBus() {
     try {
         BusClient client;
@@ -23,23 +30,67 @@ bool switchOffOverTheBus() {
         client.call("SetActive", false);
         return true;
     } catch (const Failure&) {
-        return false; // whatever it is, the guard program needs no bus
+        return false; // whatever it is, what follows needs no bus
     }
+}
+
+// True when a running Nocturo switched off. One that cannot be told from another program by its
+// number, or that has just ended, is sent nothing.
+bool switchOffBySignal(RandrHardware& hardware, const std::filesystem::path& journal) {
+    const auto nocturo = changingProcess(hardware, journal);
+    return nocturo && *nocturo > 0 && kill(*nocturo, kSwitchOffSignal) == 0 &&
+           waitUntilGivenBack(hardware);
+}
+
+std::string environmentVariable(const char* name, const char* otherwise = "") {
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : otherwise;
+}
+
+const char* restoreByHand() {
+    const std::string display = environmentVariable("DISPLAY");
+    const auto directory = runtimeDirectory();
+    if (display.empty()) {
+        throw Failure{kFailed, "There is no X server whose displays could be given back, because "
+                               "DISPLAY is not set."};
+    }
+    if (!directory) {
+        throw Failure{kFailed, "The runtime directory cannot be used; set XDG_RUNTIME_DIR to one "
+                               "of yours."};
+    }
+    const RandrOpening opening = RandrHardware::open(display);
+    if (opening.hardware == nullptr) {
+        throw Failure{kFailed, "The displays cannot be given back: " + opening.reason + "."};
+    }
+    RandrHardware& hardware = *opening.hardware;
+    const auto journal = journalFile(*directory, display);
+    if (switchOffBySignal(hardware, journal)) {
+        return kSwitchedOff;
+    }
+    ProfileCalibrations calibrations(
+        display,
+        environmentVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket"));
+    switch (repairDisplays(hardware, journal, calibrations)) {
+    case Repair::ownRamps:
+        return "The displays have their own colors back, as they were before Nocturo changed them.";
+    case Repair::plainRamps:
+        return "The displays have plain colors now, or those of their color profiles.";
+    case Repair::inUse:
+        overwriteDisplays(hardware, journal, calibrations);
+        return "The displays have been given back, but a Nocturo that does not answer still runs "
+               "and may change them again.";
+    case Repair::notNeeded:
+        break;
+    }
+    writePlainRamps(hardware, calibrations);
+    return "Nocturo had left no display changed; the displays have plain colors now, or those of "
+           "their color profiles.";
 }
 
 } // namespace
 
 void restoreDisplays() {
-    if (switchOffOverTheBus()) {
-        std::cout << "Nocturo has switched its effect off and given the displays back.\n";
-        return;
-    }
-    std::string program = guardProgram().string();
-    std::string verb = "--restore";
-    char* const arguments[] = {program.data(), verb.data(), nullptr};
-    execv(program.c_str(), arguments);
-    throw Failure{kFailed, "The displays cannot be given back, because " + program +
-                               " cannot be started: " + std::strerror(errno) + "."};
+    std::cout << (switchOffOverTheBus() ? kSwitchedOff : restoreByHand()) << '\n';
 }
 
 } // namespace nocturo

@@ -1,19 +1,17 @@
 #pragma once
 
+#include "platform/file_descriptor.h"
+
 #include <filesystem>
-#include <optional>
 
 namespace nocturo {
 
 /// The lock that lets one Nocturo run where there is no session bus to own a name on. Held until
-/// destroyed, or until the process ends however it ends.
+/// destroyed, or until the process ends however it ends. One for each directory and process.
 class InstanceLock {
   public:
     /// `directory` is the runtime directory.
     explicit InstanceLock(const std::filesystem::path& directory);
-    ~InstanceLock();
-    InstanceLock(const InstanceLock&) = delete;
-    InstanceLock& operator=(const InstanceLock&) = delete;
 
     /// False while another process holds the lock. A directory that takes no lock lets everybody
     /// run.
@@ -25,7 +23,7 @@ class InstanceLock {
     static const int kReopenSignal;
 
   private:
-    int descriptor_;
+    FileDescriptor file_;
     bool held_;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/displays/randr/xcb_handles.h"
+#include "platform/x11/xcb_handles.h"
 
 #include <QSocketNotifier>
 

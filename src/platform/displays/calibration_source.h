@@ -2,6 +2,7 @@
 
 #include "platform/displays/ramp.h"
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -28,6 +29,10 @@ class CalibrationSource {
     /// A number that differs from the one before whenever an answer may have changed since. Takes
     /// in what has come from outside, without waiting.
     virtual std::uint64_t generation() = 0;
+
+    /// For what cannot wait in an event loop: waits, no longer than that, until all that was asked
+    /// for so far is settled. False when it is not.
+    virtual bool waitForAnswers(std::chrono::milliseconds /*patience*/) { return true; }
 };
 
 } // namespace nocturo

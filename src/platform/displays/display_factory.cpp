@@ -45,14 +45,14 @@ OpenedDisplays openRandr(const DisplaySurroundings& surroundings, RunLoop& runLo
     }
     // Before anything is captured, so that no effect is ever taken for a display's own colours.
     const auto journal = journalFile(surroundings.runtimeDirectory, xDisplay);
-    if (repairDisplays(*opening.hardware, journal) == Repair::inUse) {
+    auto profiles = std::make_unique<ProfileCalibrations>(xDisplay, surroundings.systemBusAddress);
+    if (repairDisplays(*opening.hardware, journal, *profiles) == Repair::inUse) {
         return failed("Another Nocturo drives the displays of the X server " + xDisplay + ".");
     }
     auto guarded =
         std::make_unique<GuardedHardware>(std::move(opening.hardware), xDisplay, journal);
     OpenedDisplays opened;
     GuardedHardware* hardware = guarded.get(); // lives as long as the services
-    auto profiles = std::make_unique<ProfileCalibrations>(xDisplay, surroundings.systemBusAddress);
     opened.eventDescriptors = profiles->descriptors();
     opened.eventDescriptors.push_back(hardware->displays().descriptor());
     auto services =
@@ -70,8 +70,8 @@ OpenedDisplays openSimulated(unsigned count, const std::filesystem::path& pictur
     OpenedDisplays opened;
     opened.services = std::make_unique<RampDisplayServices>(
         std::make_unique<SimulatedHardware>(count, pictureDirectory));
-    logInfo(kCategory,
-            "Displays are simulated; their pictures are in " + pictureDirectory.string() + ".");
+    opened.notice =
+        "Displays are simulated; their pictures are in " + pictureDirectory.string() + ".";
     return opened;
 }
 

@@ -36,6 +36,7 @@ struct DisplaySurroundings {
 struct OpenedDisplays {
     std::unique_ptr<DisplayServices> services; // null when there are none
     std::string problem;                       // one sentence for the user, then
+    std::string notice;                        // one for a user who may want it; may be empty
 
     std::vector<int> eventDescriptors;    // none when nothing ever comes from outside
     std::function<void()> processEvents;  // to be called when one of them is readable

@@ -187,8 +187,6 @@ bool RampDisplayServices::refresh() {
     return true;
 }
 
-// Of displays that share a CRTC the first is the one that restoring heeds.
-
 void RampDisplayServices::takeHead(const Head& head, CGDirectDisplayID id) {
     const bool isMain = head.primary && std::none_of(online_.begin(), online_.end(),
                                                      [](const auto& info) { return info.main; });
@@ -319,6 +317,7 @@ void RampDisplayServices::supersede(Display& display) {
     }
 }
 
+// Of displays that share a CRTC the first is the one that restoring heeds.
 RampDisplayServices::GiveBack RampDisplayServices::giveBack(const Crtc& crtc) const {
     const auto of = [this](CGDirectDisplayID id) -> const Display& { return displays_.at(id); };
     // Displays beyond the driven ones are not ours to write.

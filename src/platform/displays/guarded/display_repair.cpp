@@ -12,7 +12,9 @@
 //
 // A killed program's last requests may still wait in the server. They would undo a repair that came
 // before them, so the server's destruction of that program's window is waited for. And while one
-// repairs nobody else may start to change the displays: the server is grabbed meanwhile.
+// repairs nobody else may start to change the displays: the server is grabbed meanwhile. What is to
+// be written is found out before that, because a source of calibrations has a connection of its
+// own.
 
 namespace nocturo {
 
@@ -23,6 +25,7 @@ using namespace std::chrono_literals;
 constexpr std::string_view kCategory = "nocturo.displays";
 constexpr auto kPatience = 2s;
 constexpr auto kGivingBack = 500ms;
+constexpr auto kWaitForCalibrations = 500ms;
 
 // What the journal says of that run; nothing when the file is missing, damaged or another run's.
 std::optional<Journal> journalOf(std::uint64_t token, const std::filesystem::path& file) {
@@ -38,28 +41,65 @@ void setDamagedAside(const std::filesystem::path& file) {
     }
 }
 
-Repair writeBack(RandrHardware& hardware, const std::filesystem::path& file, std::uint64_t token) {
-    const std::optional<Journal> journal = journalOf(token, file);
-    if (!journal) {
+std::vector<Journal::Entry> plainRamps(RandrHardware& hardware, CalibrationSource* calibrations) {
+    std::vector<Head> heads;
+    hardware.listHeads(heads);
+    heads.resize(std::min<std::size_t>(heads.size(), kZQMaxDisplays));
+    std::erase_if(heads, [](const Head& head) { return !isUsableRampSize(head.rampSize); });
+    if (calibrations != nullptr) {
+        for (const Head& head : heads) {
+            calibrations->calibration(head.connector, head.rampSize);
+        }
+        calibrations->waitForAnswers(kWaitForCalibrations);
+    }
+    std::vector<Journal::Entry> ramps;
+    for (const Head& head : heads) {
+        std::optional<Ramp> known;
+        if (calibrations != nullptr) {
+            known = calibrations->calibration(head.connector, head.rampSize).ramp;
+        }
+        ramps.push_back({head.crtc, known ? std::move(*known) : identityRamp(head.rampSize)});
+    }
+    return ramps;
+}
+
+struct Known {
+    Repair repair;
+    std::vector<Journal::Entry> ramps;
+};
+
+Known whatToWrite(RandrHardware& hardware, const std::filesystem::path& file, std::uint64_t token,
+                  CalibrationSource* calibrations) {
+    if (auto journal = journalOf(token, file)) {
+        return {Repair::ownRamps, std::move(journal->entries)};
+    }
+    return {Repair::plainRamps, plainRamps(hardware, calibrations)};
+}
+
+void write(RandrHardware& hardware, const std::vector<Journal::Entry>& ramps) {
+    for (const auto& [crtc, ramp] : ramps) {
+        hardware.writeRamp(crtc, ramp);
+    }
+}
+
+Repair writeBack(RandrHardware& hardware, const std::filesystem::path& file, const Known& known) {
+    if (known.repair == Repair::plainRamps) {
         logWarning(kCategory, "What was kept of the displays' own colors in " + file.string() +
                                   " is missing or damaged, so they get plain ones.");
         setDamagedAside(file);
-        writePlainRamps(hardware);
-        return Repair::plainRamps;
     }
-    for (const auto& [crtc, ramp] : journal->entries) {
-        hardware.writeRamp(crtc, ramp);
-    }
-    return Repair::ownRamps;
+    write(hardware, known.ramps);
+    return known.repair;
 }
 
 Repair repairMarked(RandrHardware& hardware, const std::filesystem::path& file, ServerMark& mark,
-                    const ServerMark::Content& marked) {
+                    const ServerMark::Content& marked, CalibrationSource* calibrations) {
+    const Known known = whatToWrite(hardware, file, marked.token, calibrations);
     const ServerMark::Grab grab(mark);
     if (mark.read() != marked) {
         return Repair::notNeeded; // somebody else was quicker
     }
-    const Repair repair = writeBack(hardware, file, marked.token);
+    const Repair repair = writeBack(hardware, file, known);
     mark.remove();
     mark.synchronize();
     std::error_code ignored;
@@ -69,7 +109,8 @@ Repair repairMarked(RandrHardware& hardware, const std::filesystem::path& file, 
 
 } // namespace
 
-Repair repairDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile) {
+Repair repairDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile,
+                      CalibrationSource& calibrations) {
     ServerMark mark(hardware.connection());
     const auto marked = mark.read();
     if (!marked) {
@@ -79,7 +120,7 @@ Repair repairDisplays(RandrHardware& hardware, const std::filesystem::path& jour
         return Repair::notNeeded;
     }
     return mark.waitUntilGone(marked->window, kPatience)
-               ? repairMarked(hardware, journalFile, mark, *marked)
+               ? repairMarked(hardware, journalFile, mark, *marked, &calibrations)
                : Repair::inUse;
 }
 
@@ -88,7 +129,7 @@ Repair repairDisplaysAfter(const ServerMark::Content& ended, RandrHardware& hard
     ServerMark mark(hardware.connection());
     // First: even the mark may still be among what waits in the server.
     mark.waitUntilGone(ended.window, kPatience);
-    return repairMarked(hardware, journalFile, mark, ended);
+    return repairMarked(hardware, journalFile, mark, ended, nullptr);
 }
 
 std::optional<pid_t> changingProcess(RandrHardware& hardware,
@@ -106,24 +147,18 @@ bool waitUntilGivenBack(RandrHardware& hardware) {
     return ServerMark(hardware.connection()).waitUntilRemoved(kGivingBack);
 }
 
-Repair overwriteDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile) {
+Repair overwriteDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile,
+                         CalibrationSource& calibrations) {
     const auto marked = ServerMark(hardware.connection()).read();
-    const Repair repair = writeBack(hardware, journalFile, marked ? marked->token : 0);
+    const Known known =
+        whatToWrite(hardware, journalFile, marked ? marked->token : 0, &calibrations);
+    const Repair repair = writeBack(hardware, journalFile, known);
     hardware.waitForWrites();
     return repair;
 }
 
-void writePlainRamps(RandrHardware& hardware) {
-    std::vector<Head> heads;
-    if (!hardware.listHeads(heads)) {
-        return;
-    }
-    const auto driven = std::min<std::size_t>(heads.size(), kZQMaxDisplays);
-    for (std::size_t i = 0; i < driven; ++i) {
-        if (isUsableRampSize(heads[i].rampSize)) {
-            hardware.writeRamp(heads[i].crtc, identityRamp(heads[i].rampSize));
-        }
-    }
+void writePlainRamps(RandrHardware& hardware, CalibrationSource& calibrations) {
+    write(hardware, plainRamps(hardware, &calibrations));
     hardware.waitForWrites();
 }
 

@@ -26,13 +26,10 @@ class ProfileCalibrations final : public CalibrationSource {
 
     CalibrationAnswer calibration(const std::string& connector, std::uint32_t rampSize) override;
     std::uint64_t generation() override;
+    bool waitForAnswers(std::chrono::milliseconds patience) override;
 
     /// Descriptors that are readable when generation() should be asked. They stay this object's.
     std::vector<int> descriptors() const;
-
-    /// For programs without an event loop: waits, no longer than that, until what has been asked
-    /// for so far is settled. False when it is not.
-    bool waitForAnswers(std::chrono::milliseconds patience);
 
   private:
     void refuse(const std::string& what, const std::string& problem);

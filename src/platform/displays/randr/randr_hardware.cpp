@@ -11,9 +11,8 @@
 #include <xcb/randr.h>
 #include <xcb/xcbext.h>
 
-// Every question is asked of all screens, outputs or CRTCs before the first answer is waited for: a
-// list costs three round trips however many displays there are. A question that was asked is always
-// collected, because xcb keeps an uncollected answer for good.
+// A list of the heads costs three round trips however many there are: as in finding the outputs,
+// all that is to be asked is asked before the first answer is waited for.
 
 namespace nocturo {
 
@@ -24,51 +23,9 @@ constexpr std::string_view kCategory = "nocturo.displays";
 // 256 blocks of 128 bytes is the longest EDID there can be; counted in units of four bytes.
 constexpr std::uint32_t kLongestEdid = 256 * 128 / 4;
 
-std::string outputName(const xcb_randr_get_output_info_reply_t& info) {
-    const auto* bytes = reinterpret_cast<const char*>(xcb_randr_get_output_info_name(&info));
-    return {bytes, static_cast<std::size_t>(xcb_randr_get_output_info_name_length(&info))};
-}
-
 RandrOpening refused(RandrOpening::Result result, std::string reason) {
     return {result, nullptr, std::move(reason)};
 }
-
-struct ScreenQuery {
-    xcb_randr_get_screen_resources_current_cookie_t resourcesCookie{};
-    xcb_randr_get_output_primary_cookie_t primaryCookie{};
-    XcbReply<xcb_randr_get_screen_resources_current_reply_t> resources;
-    XcbReply<xcb_randr_get_output_primary_reply_t> primary;
-    std::vector<xcb_randr_get_output_info_cookie_t> outputCookies;
-    std::vector<xcb_randr_get_crtc_info_cookie_t> crtcCookies;
-    std::vector<XcbReply<xcb_randr_get_crtc_info_reply_t>> crtcInfos;
-
-    const xcb_randr_output_t* outputs() const {
-        return xcb_randr_get_screen_resources_current_outputs(resources.get());
-    }
-
-    void askForDetails(xcb_connection_t* connection) {
-        const auto time = resources->config_timestamp;
-        const auto* crtcs = xcb_randr_get_screen_resources_current_crtcs(resources.get());
-        for (int i = 0; i < resources->num_outputs; ++i) {
-            outputCookies.push_back(xcb_randr_get_output_info(connection, outputs()[i], time));
-        }
-        for (int i = 0; i < resources->num_crtcs; ++i) {
-            crtcCookies.push_back(xcb_randr_get_crtc_info(connection, crtcs[i], time));
-        }
-    }
-
-    /// The CRTC when it shows something, else null.
-    const xcb_randr_get_crtc_info_reply_t* litCrtc(xcb_randr_crtc_t crtc) const {
-        const auto* crtcs = xcb_randr_get_screen_resources_current_crtcs(resources.get());
-        const auto* end = crtcs + resources->num_crtcs;
-        const auto* found = std::find(crtcs, end, crtc);
-        if (found == end) {
-            return nullptr;
-        }
-        const auto* info = crtcInfos[static_cast<std::size_t>(found - crtcs)].get();
-        return info && info->mode != XCB_NONE ? info : nullptr;
-    }
-};
 
 std::vector<std::uint8_t> edidBytes(const xcb_randr_get_output_property_reply_t* reply) {
     if (!reply || reply->format != 8) {
@@ -123,7 +80,7 @@ RandrOpening RandrHardware::open(const std::string& displayName) {
 
     std::unique_ptr<RandrHardware> hardware(
         new RandrHardware(std::move(connection), preferredScreen));
-    if ((guest && guest->present) || hardware->isWaylandGuest()) {
+    if ((guest && guest->present) || isWaylandGuest(raw, hardware->roots_.front())) {
         return refused(Result::waylandGuest,
                        "the X server " + displayName + " is a guest of a Wayland session");
     }
@@ -143,28 +100,6 @@ RandrHardware::RandrHardware(XcbConnection connection, int preferredScreen)
     for (int i = 0; screens.rem > 0; ++i, xcb_screen_next(&screens)) {
         roots_.insert(i == preferredScreen ? roots_.begin() : roots_.end(), screens.data->root);
     }
-}
-
-// Servers before 23.1 have no extension that tells, but name their outputs after themselves.
-bool RandrHardware::isWaylandGuest() const {
-    auto* raw = connection_.get();
-    ScreenQuery query;
-    query.resources.reset(xcb_randr_get_screen_resources_current_reply(
-        raw, xcb_randr_get_screen_resources_current(raw, roots_.front()), nullptr));
-    if (!query.resources) {
-        return false;
-    }
-    query.askForDetails(raw);
-    bool guest = false;
-    for (const auto cookie : query.outputCookies) {
-        const XcbReply<xcb_randr_get_output_info_reply_t> info(
-            xcb_randr_get_output_info_reply(raw, cookie, nullptr));
-        guest = guest || (info && outputName(*info).starts_with("XWAYLAND"));
-    }
-    for (const auto cookie : query.crtcCookies) {
-        xcb_discard_reply(raw, cookie.sequence);
-    }
-    return guest;
 }
 
 void RandrHardware::subscribe(bool withResourceChanges) {
@@ -235,7 +170,7 @@ bool RandrHardware::listHeads(std::vector<Head>& heads) {
     heads.clear();
     std::vector<LitOutput> lit;
     std::vector<std::uint32_t> unplugged;
-    if (!findLitOutputs(lit, unplugged)) {
+    if (!findLitOutputs(connection_.get(), roots_, lit, unplugged)) {
         return false;
     }
     // What the server knows about connections is as old as its last look, and an output that is lit
@@ -246,7 +181,7 @@ bool RandrHardware::listHeads(std::vector<Head>& heads) {
     };
     if (!std::all_of(unplugged.begin(), unplugged.end(), confirmed)) {
         makeServerLook();
-        if (!findLitOutputs(lit, unplugged)) {
+        if (!findLitOutputs(connection_.get(), roots_, lit, unplugged)) {
             return false;
         }
     }
@@ -283,64 +218,6 @@ void RandrHardware::describe(std::vector<LitOutput>& lit, std::vector<Head>& hea
         makeConnectorUnique(heads, head.connector);
         heads.push_back(std::move(head));
     }
-}
-
-bool RandrHardware::findLitOutputs(std::vector<LitOutput>& lit,
-                                   std::vector<std::uint32_t>& unplugged) const {
-    lit.clear();
-    unplugged.clear();
-    auto* raw = connection_.get();
-    std::vector<ScreenQuery> screens(roots_.size());
-    for (std::size_t i = 0; i < roots_.size(); ++i) {
-        screens[i].resourcesCookie = xcb_randr_get_screen_resources_current(raw, roots_[i]);
-        screens[i].primaryCookie = xcb_randr_get_output_primary(raw, roots_[i]);
-    }
-    bool complete = true;
-    for (auto& screen : screens) {
-        screen.resources.reset(
-            xcb_randr_get_screen_resources_current_reply(raw, screen.resourcesCookie, nullptr));
-        screen.primary.reset(
-            xcb_randr_get_output_primary_reply(raw, screen.primaryCookie, nullptr));
-        complete = complete && screen.resources;
-    }
-    if (!complete) {
-        return false;
-    }
-    for (auto& screen : screens) {
-        screen.askForDetails(raw);
-    }
-
-    for (auto& screen : screens) {
-        std::vector<XcbReply<xcb_randr_get_output_info_reply_t>> outputInfos;
-        for (const auto cookie : screen.outputCookies) {
-            outputInfos.emplace_back(xcb_randr_get_output_info_reply(raw, cookie, nullptr));
-        }
-        for (const auto cookie : screen.crtcCookies) {
-            screen.crtcInfos.emplace_back(xcb_randr_get_crtc_info_reply(raw, cookie, nullptr));
-        }
-        for (std::size_t i = 0; i < outputInfos.size(); ++i) {
-            // An output may have vanished between the questions.
-            const auto* info = outputInfos[i].get();
-            const auto* crtc = info ? screen.litCrtc(info->crtc) : nullptr;
-            if (!crtc) {
-                continue;
-            }
-            const auto output = screen.outputs()[i];
-            if (info->connection == XCB_RANDR_CONNECTION_DISCONNECTED) {
-                unplugged.push_back(output);
-                continue;
-            }
-            const bool primary =
-                &screen == &screens.front() && screen.primary && screen.primary->output == output;
-            const DisplayRect bounds{double(crtc->x), double(crtc->y), double(crtc->width),
-                                     double(crtc->height)};
-            lit.push_back({output,
-                           {outputName(*info), {}, info->crtc, 0, bounds, primary},
-                           crtc->mode,
-                           crtc->rotation});
-        }
-    }
-    return true;
 }
 
 void RandrHardware::fetchGammaSizes(const std::vector<LitOutput>& lit) {

@@ -2,7 +2,8 @@
 
 #include "platform/displays/gamma_hardware.h"
 #include "platform/displays/randr/crtc_modes.h"
-#include "platform/displays/randr/xcb_handles.h"
+#include "platform/displays/randr/lit_outputs.h"
+#include "platform/x11/xcb_handles.h"
 
 #include <memory>
 #include <optional>
@@ -53,17 +54,8 @@ class RandrHardware final : public GammaHardware {
   private:
     RandrHardware(XcbConnection connection, int preferredScreen);
 
-    struct LitOutput {
-        std::uint32_t output = 0;
-        Head head;
-        std::uint32_t mode = 0;
-        std::uint16_t rotation = 0;
-    };
-
-    bool isWaylandGuest() const;
     void subscribe(bool withResourceChanges);
     void handle(const xcb_generic_event_t& event);
-    bool findLitOutputs(std::vector<LitOutput>& lit, std::vector<std::uint32_t>& unplugged) const;
     void makeServerLook();
     void describe(std::vector<LitOutput>& lit, std::vector<Head>& heads);
     void fetchGammaSizes(const std::vector<LitOutput>& lit);

@@ -1,7 +1,7 @@
 #include "platform/hotkeys/x11/real_modifiers.h"
 
-#include "platform/displays/randr/xcb_handles.h"
 #include "platform/keyboard/modifier_flags.h"
+#include "platform/x11/xcb_handles.h"
 
 #include <algorithm>
 #include <initializer_list>

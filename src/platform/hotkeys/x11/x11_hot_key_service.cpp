@@ -2,8 +2,8 @@
 
 #include "platform/keyboard/modifier_flags.h"
 #include "platform/keyboard/virtual_key_codes.h"
-#include "platform/keyboard/xkb/xcb_xkb.h"
 #include "platform/log.h"
+#include "platform/x11/xcb_xkb.h"
 
 #include <algorithm>
 #include <limits>

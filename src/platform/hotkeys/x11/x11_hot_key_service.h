@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/displays/randr/xcb_handles.h"
 #include "platform/hotkeys/hot_key_service.h"
 #include "platform/hotkeys/x11/real_modifiers.h"
+#include "platform/x11/xcb_handles.h"
 
 #include <memory>
 #include <string>

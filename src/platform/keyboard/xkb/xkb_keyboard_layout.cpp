@@ -1,7 +1,7 @@
 #include "platform/keyboard/xkb/xkb_keyboard_layout.h"
 
 #include "platform/keyboard/virtual_key_codes.h"
-#include "platform/keyboard/xkb/xcb_xkb.h"
+#include "platform/x11/xcb_xkb.h"
 
 #include <utility>
 

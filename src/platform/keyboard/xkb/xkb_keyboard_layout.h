@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/displays/randr/xcb_handles.h"
 #include "platform/keyboard/keyboard_layout.h"
+#include "platform/x11/xcb_handles.h"
 
 #include <array>
 #include <memory>

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "rig/session.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <csignal>
+#include <fstream>
+
+namespace nocturo::rig {
+
+inline Channels reversed(Channels channels) {
+    for (auto& channel : channels) {
+        std::reverse(channel.begin(), channel.end());
+    }
+    return channels;
+}
+
+/// A session whose Nocturo is told what to do as users tell it. With 0 displays it has no X server.
+class NocturoTest : public testing::Test {
+  protected:
+    explicit NocturoTest(int displays) : session_(displays) {}
+
+    RunResult ctl(const std::vector<std::string>& arguments) {
+        RunResult result = session_.run("nocturoctl", arguments);
+        EXPECT_EQ(result.exit, 0) << arguments.front() << ": " << result.errors;
+        return result;
+    }
+    nlohmann::json status() { return nlohmann::json::parse(ctl({"status", "--json"}).output); }
+
+    Session session_;
+    std::unique_ptr<Process> nocturo_;
+};
+
+/// The same on a real X server, whose ramps it looks at. Nocturo and its guard may be killed.
+class NocturoOnX : public NocturoTest {
+  protected:
+    explicit NocturoOnX(int displays) : NocturoTest(displays) {
+        inheritOrphans();
+        for (int display = 0; display < displays; ++display) {
+            own_.push_back(client_.ramp(output(display)));
+        }
+    }
+    ~NocturoOnX() override {
+        nocturo_.reset();
+        reapGuards();
+    }
+
+    static std::string output(int display) { return "DUMMY" + std::to_string(display); }
+
+    /// Makes it what the display shows and what counts as its own.
+    void setOwn(int display, Channels ramp) {
+        client_.setRamp(output(display), ramp);
+        own_.at(static_cast<std::size_t>(display)) = std::move(ramp);
+    }
+
+    /// One letter a display: i inverted, o its own ramp, to the last bit, ? anything else.
+    std::string shown() {
+        std::string letters;
+        for (std::size_t display = 0; display < own_.size(); ++display) {
+            const Channels ramp = client_.ramp(output(static_cast<int>(display)));
+            letters += ramp == own_[display] ? 'o' : ramp == reversed(own_[display]) ? 'i' : '?';
+        }
+        return letters;
+    }
+    bool becomes(const std::string& letters, Milliseconds time = kPatience) {
+        return waitUntil([&] { return shown() == letters; }, time);
+    }
+    bool allOwnWithin(Milliseconds time = kPatience) {
+        return becomes(std::string(own_.size(), 'o'), time);
+    }
+
+    pid_t guardProcess() {
+        const auto guards = childrenNamed(nocturo_->id(), "nocturo-guard");
+        return guards.size() == 1 ? guards.front() : -1;
+    }
+    void kill(bool guardToo) {
+        nocturo_->signal(SIGSTOP); // or it starts another guard
+        const pid_t guard = guardToo ? guardProcess() : -1;
+        if (guard > 0) {
+            ::kill(guard, SIGKILL);
+        }
+        nocturo_->signal(SIGKILL);
+        nocturo_->wait();
+    }
+    /// Waits for the guards that killed applications left to end as they should.
+    void reapGuards() {
+        for (const pid_t guard : childrenNamed(getpid(), "nocturo-guard")) {
+            const auto exit = waitForChild(guard);
+            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL) << exit.value_or(-1);
+        }
+    }
+    /// The next start would find a Nocturo running that the bus has not missed yet.
+    void waitForTheBus() {
+        ASSERT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 3; }));
+    }
+
+    std::filesystem::path journal() {
+        return session_.runtimeDirectory() / "nocturo" /
+               ("ramps" + session_.environment().at("DISPLAY"));
+    }
+    void damageJournal() {
+        std::fstream(journal(), std::ios::in | std::ios::out).seekp(1000) << "?";
+    }
+
+    XClient client_{session_.server().display()};
+    std::vector<Channels> own_;
+};
+
+} // namespace nocturo::rig
