@@ -37,6 +37,17 @@ packages=(
   python3                   # the tests' own calculation
   python3-dbusmock          # a login manager and screen savers for tests
   xscreensaver              # a screen saver that is like no other
+  desktop-file-utils        # desktop entries
+  appstream                 # metainfo
+  libxml2-utils             # MIME definition
+  shared-mime-info          # its database
+  man-db                    # manuals, and groff
+  mandoc                    # manuals, more strictly
+  bash-completion           # completions ...
+  zsh                       # ...
+  fish                      # ...
+  systemd                   # unit
+  librsvg2-bin              # icons
   # Linting
   git                       # which files are ours
   clang-format              # layout
