@@ -11,7 +11,7 @@ release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run test soak unit-asan bench lint lint-text format install clean
+.PHONY: help deps build run test soak unit-asan bench lint lint-text format install package dist clean
 
 help: ## this list
 	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
@@ -52,6 +52,12 @@ format: ## lays the code out
 install: ## installs under PREFIX, below DESTDIR; builds first only where nothing is built
 	@[ -x $(release)/bin/nocturo ] || $(MAKE) build
 	DESTDIR=$(DESTDIR) cmake --install $(release) --prefix $(PREFIX)
+
+dist: ## packs the committed sources into build/package
+	@tools/package.sh dist
+
+package: deps ## builds a Debian package in build/package
+	@JOBS=$(JOBS) tools/package.sh deb
 
 clean: ## removes everything that was built
 	rm -rf build

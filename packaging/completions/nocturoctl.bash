@@ -2,10 +2,7 @@
 # bash completion for nocturoctl
 
 _nocturoctl_displays() {
-  nocturoctl status --json 2>/dev/null | python3 -c '
-import json, sys
-for display in json.load(sys.stdin).get("displays", []):
-    print(display["number"], display["name"], sep="\n")' 2>/dev/null
+  nocturoctl screens 2>/dev/null | sed -n 's/^ *\[[x ]\] *\([0-9]*\) *\([^ ]*\).*/\1 \2/p'
 }
 
 _nocturoctl() {

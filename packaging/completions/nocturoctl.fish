@@ -1,8 +1,5 @@
 function __nocturoctl_displays
-    nocturoctl status --json 2>/dev/null | python3 -c '
-import json, sys
-for display in json.load(sys.stdin).get("displays", []):
-    print(display["number"], display["name"], sep="\t")' 2>/dev/null
+    nocturoctl screens 2>/dev/null | string replace -rf '^ *\[[x ]\] *([0-9]+) *(\S+).*' '$1\t$2'
 end
 
 function __nocturoctl_at -d 'True where the given verb was written and so many words follow it'
