@@ -1,6 +1,7 @@
 #include "app/app_controller.h"
 
 #include "app/settings_table.h"
+#include "app/user_interface.h"
 #include "display/display_gamma.h"
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/saved_hot_key.h"
@@ -112,6 +113,26 @@ void NDAppController::applicationWillTerminate() {
     defaults_.synchronize();
 }
 
+void NDAppController::openPreferences() {
+    if (userInterface_ != nullptr) {
+        userInterface_->showPreferences();
+    }
+}
+
+void NDAppController::openAboutBox() {
+    if (userInterface_ != nullptr) {
+        userInterface_->showAboutBox();
+    }
+}
+
+bool NDAppController::openFile(const std::string& path) {
+    return userInterface_ != nullptr && userInterface_->openEffectFile(path);
+}
+
+bool NDAppController::openFileWithoutUI(const std::string& path) {
+    return openFile(path);
+}
+
 void NDAppController::setEffectActive(bool active, bool saveState) {
     if (saveState) {
         defaults_.setBool(active, kEffectActive);
@@ -198,7 +219,7 @@ void NDAppController::defaultsDidChange() {
 void NDAppController::updateHotKey() {
     HXHotKeyCenter& center = HXHotKeyCenter::sharedHotKeyCenter();
     center.unregisterAllHotKeys();
-    if (!defaults_.boolForKey(kUseHotKey)) {
+    if (recordingHotKey_ || !defaults_.boolForKey(kUseHotKey)) {
         return;
     }
     if (const auto hotKey = NDSavedHotKey(defaults_)) {
@@ -207,6 +228,11 @@ void NDAppController::updateHotKey() {
         center.registerHotKeyWithKeyCode(hotKey->keyCode(), hotKey->modifierFlags(), target,
                                          std::string(kToggleAction), nullptr);
     }
+}
+
+void NDAppController::setRecordingHotKey(bool recording) {
+    recordingHotKey_ = recording;
+    updateHotKey();
 }
 
 void NDAppController::screenSaverDidStart() {

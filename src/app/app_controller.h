@@ -18,6 +18,7 @@ namespace nocturo {
 class DefaultsStore;
 class RunLoop;
 class Timer;
+class UserInterface;
 
 /// Posted on the local notification center at the end of every setEffectActive.
 inline constexpr std::string_view kEffectActivationNotification =
@@ -66,6 +67,18 @@ class NDAppController : public ActionTarget {
     /// and has the settings written.
     void applicationWillTerminate();
 
+    // Windows and documents. Without a user interface, which must outlive the controller, nothing
+    // is shown and every document is refused.
+
+    void setUserInterface(UserInterface* userInterface) { userInterface_ = userInterface; }
+    void openPreferences();
+    void openAboutBox();
+
+    /// The desktop asks to open an effect document; false when it is refused. Loads and shows no
+    /// window.
+    bool openFile(const std::string& path);
+    bool openFileWithoutUI(const std::string& path);
+
     // Activation
 
     /// The only way the effect is switched; `saveState` also writes "EffectActive". Switching to
@@ -103,6 +116,10 @@ class NDAppController : public ActionTarget {
     /// set or no key is chosen. One that the desktop refuses leaves the program without a hot key.
     void updateHotKey();
 
+    /// While a hot key is being recorded none is registered, or it would fire instead of being
+    /// recorded.
+    void setRecordingHotKey(bool recording);
+
     /// Switches the effect off without saving, if "NDDeactivateForScreenSaver" is set. Asked only
     /// while the effect is on.
     void screenSaverDidStart();
@@ -134,6 +151,8 @@ class NDAppController : public ActionTarget {
     DefaultsStore& defaults_;
     NotificationCenters centers_;
     RunLoop& runLoop_;
+    UserInterface* userInterface_ = nullptr;
+    bool recordingHotKey_ = false;
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
     std::unique_ptr<Timer> continuousApplyTimer_;

@@ -52,6 +52,9 @@ class NDScreenController {
     /// Whether the capture succeeded, so that the effect is applied.
     bool hasCurve() const { return _gammaCurve.sampleCount != 0; }
 
+    /// The captured curve; without samples when the capture failed.
+    const ZQGammaCurve& gammaCurve() const { return _gammaCurve; }
+
   private:
     Clock clock_;
     Date startDate;

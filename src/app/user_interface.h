@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/displays/display_services.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace nocturo {
+
+/// The application's windows, for those who know nothing of windows. Main thread only.
+class UserInterface {
+  public:
+    virtual ~UserInterface() = default;
+
+    /// Shows the window and brings it to the front.
+    virtual void showPreferences() = 0;
+    virtual void showAboutBox() = 0;
+
+    /// Makes the preference window, if there is none, without showing it.
+    virtual void loadPreferences() = 0;
+
+    /// Takes over what an effect document says; false when it is refused. While the preference
+    /// window is not loaded, a document that is accepted changes nothing.
+    virtual bool openEffectFile(const std::string& path) = 0;
+
+    /// Writes what the preference window, which it loads, shows to an effect document; false when
+    /// that failed.
+    virtual bool saveEffectFile(const std::string& path) = 0;
+
+    /// A PNG picture of what the effect does on an online display, whether it is on or not: its
+    /// curves and a scene seen through them.
+    virtual std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) = 0;
+};
+
+} // namespace nocturo
