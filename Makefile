@@ -11,10 +11,10 @@ release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run test soak unit-asan bench lint lint-text format install package dist clean
+.PHONY: help deps build run test soak unit-asan bench lint lint-text format install package package-test dist clean
 
 help: ## this list
-	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-13s %s\n", $$1, $$2 }' Makefile
 
 deps: ## installs what is needed, or says what is missing where there is no apt
 	@tools/deps.sh
@@ -27,7 +27,7 @@ run: deps build ## builds and starts Nocturo with ARGS="..."
 	@tools/run.sh $(release)/bin/nocturo $(ARGS)
 
 test: deps build ## builds and runs every test
-	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^soak$$'
+	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^(soak|package)$$'
 
 soak: deps build ## builds and runs the tests that take minutes
 	@ctest --preset release --no-tests=error --label-regex '^soak$$'
@@ -58,6 +58,9 @@ dist: ## packs the committed sources into build/package
 
 package: deps ## builds a Debian package in build/package
 	@JOBS=$(JOBS) tools/package.sh deb
+
+package-test: package build ## installs that package into a fresh system, starts it and removes it
+	@ctest --preset release --no-tests=error --label-regex '^package$$'
 
 clean: ## removes everything that was built
 	rm -rf build

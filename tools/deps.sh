@@ -11,6 +11,7 @@ packages=(
   ninja-build               # building
   pkg-config                # finding libraries
   qt6-base-dev              # event loop, bus, pictures
+  libqt6svg6                # icons
   libplist-dev              # property lists
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
@@ -48,6 +49,11 @@ packages=(
   fish                      # ...
   systemd                   # unit
   librsvg2-bin              # icons
+  # Packaging
+  dpkg-dev                  # packages
+  debhelper                 # ...
+  lintian                   # their rules
+  debootstrap               # a fresh system to install them in
   # Linting
   git                       # which files are ours
   clang-format              # layout

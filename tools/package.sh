@@ -33,7 +33,7 @@ make_deb() {
   fi
   # Symbols of programs this small are had by building again.
   (cd "$source" &&
-    DEB_BUILD_OPTIONS="noautodbgsym parallel=${JOBS:-$(nproc)}" dpkg-buildpackage -us -uc) \
+    DEB_BUILD_OPTIONS="noautodbgsym terse parallel=${JOBS:-$(nproc)}" dpkg-buildpackage -us -uc) \
     >"$out/deb/build.log" 2>&1 || { tail -n 40 "$out/deb/build.log" >&2; exit 1; }
   rm -f "$out"/*.deb
   mv "$out/deb"/*.deb "$out/"

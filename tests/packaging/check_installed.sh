@@ -56,13 +56,14 @@ mime_type() {
 
 manuals() {
   need man
-  local page said
+  local page said pages=0
   for page in "$share"/man/man[18]/*.[18]; do
     said=$(MANWIDTH=80 LC_ALL=C.UTF-8 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null)
     [ -z "$said" ] || fail "$said"
     ! command -v mandoc >/dev/null || mandoc -Tlint -Wwarning "$page"
+    pages=$((pages + 1))
   done
-  [ "$(ls "$share/man/man1" "$share/man/man8" | grep -c '\.[18]$')" = 3 ] || fail "three pages are wanted"
+  [ "$pages" = 3 ] || fail "three pages are wanted"
 }
 
 completions() {
