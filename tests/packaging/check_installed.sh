@@ -84,13 +84,23 @@ unit() {
   local service=$share/dbus-1/services/org.nocturo.Nocturo.service
   grep -qx "Exec=$prefix/bin/nocturo" "$service" || fail "the bus starts something else"
   grep -qx "SystemdService=nocturo.service" "$service" || fail "the bus does not know the unit"
-  XDG_RUNTIME_DIR=$work systemd-analyze verify --user --man=no "$prefix/lib/systemd/user/nocturo.service"
+  local said
+  said=$(XDG_RUNTIME_DIR=$work systemd-analyze verify --user --man=no \
+    "$prefix/lib/systemd/user/nocturo.service" 2>&1)
+  # It names other units' faults too, and forgives unknown words.
+  [[ $said != *nocturo.service* ]] || fail "$said"
 }
 
-# Every icon can be drawn, and symbolic ones take the color that they are told.
+# Every icon can be drawn, by renderers of SVG Tiny as well, and symbolic ones take the color that they are
+# told.
 icons() {
   need rsvg-convert
-  local icon size
+  local icon size name
+  for name in scalable/apps/org.nocturo.Nocturo symbolic/apps/org.nocturo.Nocturo-symbolic \
+    symbolic/status/nocturo-status{,-active}-symbolic; do
+    [ -e "$share/icons/hicolor/$name.svg" ] || fail "$name is missing"
+  done
+  ! grep -lrE 'clip-path|<mask|<filter' "$share/icons" || fail "Qt draws these without that"
   echo '.ColorScheme-Text, path { color: #ff0000 !important; }' >"$work/red.css"
   while read -r icon; do
     for size in 16 22 48 256; do
