@@ -12,10 +12,10 @@ release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run test soak unit-asan fuzz bench lint lint-text format install clean
+.PHONY: help deps build run test soak unit-asan fuzz bench lint lint-text format install package package-test dist screenshots clean
 
 help: ## this list
-	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-10s %s\n", $$1, $$2 }' Makefile
+	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-13s %s\n", $$1, $$2 }' Makefile
 
 deps: ## installs what is needed, or says what is missing where there is no apt
 	@tools/deps.sh
@@ -28,7 +28,7 @@ run: deps build ## builds and starts Nocturo with ARGS="..."
 	@tools/run.sh $(release)/bin/nocturo $(ARGS)
 
 test: deps build ## builds and runs every test
-	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^soak$$'
+	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^(soak|package)$$'
 
 soak: deps build ## builds and runs the tests that take minutes
 	@ctest --preset release --no-tests=error --label-regex '^soak$$'
@@ -46,6 +46,10 @@ fuzz: deps ## feeds what reads files FUZZ_SECONDS of invented ones each; needs c
 bench: build ## builds and runs the benchmarks
 	@set -e; for bench in $(release)/bin/*_bench; do echo "$$bench"; "$$bench"; done
 
+screenshots: build ## takes the pictures of the windows anew; with LOOKS=dir all looks, into that
+	cmake --build --preset release --target window_pictures --parallel $(JOBS)
+	@tools/screenshots.sh $(LOOKS)
+
 lint-text:
 	@tools/lint.sh text
 
@@ -58,6 +62,15 @@ format: ## lays the code out
 install: ## installs under PREFIX, below DESTDIR; builds first only where nothing is built
 	@[ -x $(release)/bin/nocturo ] || $(MAKE) build
 	DESTDIR=$(DESTDIR) cmake --install $(release) --prefix $(PREFIX)
+
+dist: ## packs the committed sources into build/package
+	@tools/package.sh dist
+
+package: deps ## builds a Debian package in build/package
+	@JOBS=$(JOBS) tools/package.sh deb
+
+package-test: package build ## installs that package into a fresh system, starts it and removes it
+	@ctest --preset release --no-tests=error --label-regex '^package$$'
 
 clean: ## removes everything that was built
 	rm -rf build

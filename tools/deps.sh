@@ -11,6 +11,7 @@ packages=(
   ninja-build               # building
   pkg-config                # finding libraries
   qt6-base-dev              # event loop, bus, pictures
+  libqt6svg6                # icons
   libplist-dev              # property lists
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
@@ -40,6 +41,22 @@ packages=(
   # Fuzzing
   clang                     # libFuzzer
   libclang-rt-dev           # its runtime
+  desktop-file-utils        # desktop entries
+  appstream                 # metainfo
+  libxml2-utils             # MIME definition
+  shared-mime-info          # its database
+  man-db                    # manuals, and groff
+  mandoc                    # manuals, more strictly
+  bash-completion           # completions ...
+  zsh                       # ...
+  fish                      # ...
+  systemd                   # unit
+  librsvg2-bin              # icons
+  # Packaging
+  dpkg-dev                  # packages
+  debhelper                 # ...
+  lintian                   # their rules
+  debootstrap               # a fresh system to install them in
   # Linting
   git                       # which files are ours
   clang-format              # layout

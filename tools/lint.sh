@@ -14,7 +14,7 @@ ours() {
 check_text() {
   local code scripts
   mapfile -t code < <(ours '*.cpp' '*.h')
-  mapfile -t scripts < <(ours '*.sh' .ci/run)
+  mapfile -t scripts < <(ours '*.sh' '*.bash' .ci/run)
   echo "clang-format: ${#code[@]} files"
   clang-format --dry-run -Werror "${code[@]}"
   echo "shellcheck: ${#scripts[@]} scripts"

@@ -1,0 +1,52 @@
+# shellcheck shell=bash
+# bash completion for nocturoctl
+
+_nocturoctl_displays() {
+  nocturoctl screens 2>/dev/null | sed -n 's/^ *\[[x ]\] *\([0-9]*\) *\([^ ]*\).*/\1 \2/p'
+}
+
+_nocturoctl() {
+  local cur prev words cword
+  _init_completion -n : || return
+  local verbs='on off toggle status effects get set reset screens hotkey watch restore quit
+    open save preferences about preview'
+  local effects='invert overexposure dim color-filter hdtv-luminance'
+  local switches='ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver
+    UseHotKey EffectActive ZQFluxWarned'
+  local settings="$switches NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers
+    AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue
+    NDColorFilterEffectVividness"
+  local choices=''
+  if ((cword == 1)); then
+    choices="$verbs --help --version"
+  else
+    case ${words[1]}:$cword in
+      status:2) choices='--json' ;;
+      effects:2) choices='add remove only' ;;
+      effects:*) choices=$effects ;;
+      get:2 | set:2 | reset:2) choices=$settings ;;
+      set:3) [[ " $switches " != *[[:space:]]"$prev"[[:space:]]* ]] || choices='true false' ;;
+      screens:2) choices='all toggle' ;;
+      screens:3) [[ $prev != toggle ]] || choices=$(_nocturoctl_displays) ;;
+      hotkey:2) choices='set none enable disable' ;;
+      open:2 | save:2)
+        _filedir nocturo
+        return
+        ;;
+      preview:*)
+        case $prev in
+          --png)
+            _filedir png
+            return
+            ;;
+          --display) choices=$(_nocturoctl_displays) ;;
+          *) choices='--png --display' ;;
+        esac
+        ;;
+    esac
+    [[ $cur != -* || -n $choices ]] || choices='--help'
+  fi
+  mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$cur")
+}
+
+complete -F _nocturoctl nocturoctl

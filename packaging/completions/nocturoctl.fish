@@ -1,0 +1,56 @@
+function __nocturoctl_displays
+    nocturoctl screens 2>/dev/null | string replace -rf '^ *\[[x ]\] *([0-9]+) *(\S+).*' '$1\t$2'
+end
+
+function __nocturoctl_at -d 'True where the given verb was written and so many words follow it'
+    set -l words (commandline -opc)
+    test (count $words) -eq (math 2 + $argv[2]); and test "$words[2]" = $argv[1]
+end
+
+function __nocturoctl_after -d 'True where the last two words are these'
+    set -l words (commandline -opc)
+    test "$words[-2] $words[-1]" = "$argv"
+end
+
+set -l effects invert overexposure dim color-filter hdtv-luminance
+set -l switches ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver UseHotKey EffectActive ZQFluxWarned
+set -l settings $switches NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness
+
+complete -c nocturoctl -f
+complete -c nocturoctl -l help -d 'Show help'
+complete -c nocturoctl -n __fish_use_subcommand -l version -d 'Show the version'
+complete -c nocturoctl -n __fish_use_subcommand -a on -d 'Switch the effect on'
+complete -c nocturoctl -n __fish_use_subcommand -a off -d 'Switch the effect off'
+complete -c nocturoctl -n __fish_use_subcommand -a toggle -d 'Switch the effect on or off'
+complete -c nocturoctl -n __fish_use_subcommand -a status -d 'Show the state of everything'
+complete -c nocturoctl -n __fish_use_subcommand -a effects -d 'List or choose the effects'
+complete -c nocturoctl -n __fish_use_subcommand -a get -d 'Show a setting'
+complete -c nocturoctl -n __fish_use_subcommand -a set -d 'Change a setting'
+complete -c nocturoctl -n __fish_use_subcommand -a reset -d 'Give a setting its default value again'
+complete -c nocturoctl -n __fish_use_subcommand -a screens -d 'List or choose the affected displays'
+complete -c nocturoctl -n __fish_use_subcommand -a hotkey -d 'Show or choose the global hot key'
+complete -c nocturoctl -n __fish_use_subcommand -a watch -d 'Print every change as it happens'
+complete -c nocturoctl -n __fish_use_subcommand -a restore -d 'Give every display its own colors back'
+complete -c nocturoctl -n __fish_use_subcommand -a quit -d 'Give the displays back and end Nocturo'
+complete -c nocturoctl -n __fish_use_subcommand -a open -d 'Open the effect kept in a document'
+complete -c nocturoctl -n __fish_use_subcommand -a save -d 'Keep the effect in a document'
+complete -c nocturoctl -n __fish_use_subcommand -a preferences -d 'Show the preferences'
+complete -c nocturoctl -n __fish_use_subcommand -a about -d 'Show the box about Nocturo'
+complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a display shows into a picture'
+
+complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'
+complete -c nocturoctl -n '__nocturoctl_at effects 0' -a 'add remove only'
+complete -c nocturoctl -n '__fish_seen_subcommand_from effects; and not __nocturoctl_at effects 0' -a "$effects"
+for verb in get set reset
+    complete -c nocturoctl -n "__nocturoctl_at $verb 0" -a "$settings"
+end
+for setting in $switches
+    complete -c nocturoctl -n "__nocturoctl_after set $setting" -a 'true false'
+end
+complete -c nocturoctl -n '__nocturoctl_at screens 0' -a 'all toggle'
+complete -c nocturoctl -n '__nocturoctl_after screens toggle' -a '(__nocturoctl_displays)'
+complete -c nocturoctl -n '__nocturoctl_at hotkey 0' -a 'set none enable disable'
+complete -c nocturoctl -n '__nocturoctl_at open 0' -k -a '(__fish_complete_suffix .nocturo)'
+complete -c nocturoctl -n '__nocturoctl_at save 0' -k -a '(__fish_complete_suffix .nocturo)'
+complete -c nocturoctl -n '__fish_seen_subcommand_from preview' -l png -r -k -a '(__fish_complete_suffix .png)' -d 'The picture'
+complete -c nocturoctl -n '__fish_seen_subcommand_from preview' -l display -x -a '(__nocturoctl_displays)' -d 'Which display'

@@ -1,0 +1,100 @@
+"""Holds the manuals and the completions against what the programs themselves say: documented_test.py
+PREFIX. Asks the bus to start the installed Nocturo, through its service file, on simulated displays."""
+
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PREFIX = pathlib.Path(sys.argv.pop())
+BIN = PREFIX / "bin"
+SHARE = PREFIX / "share"
+COMPLETIONS = {
+    "bash": SHARE / "bash-completion/completions/nocturoctl",
+    "zsh": SHARE / "zsh/site-functions/_nocturoctl",
+    "fish": SHARE / "fish/vendor_completions.d/nocturoctl.fish",
+}
+# Verbs that are written about before they come.
+AWAITED = {"open", "save", "preferences", "about", "preview"}
+
+
+def say(*command, **options):
+    return subprocess.run(command, check=True, capture_output=True, text=True, **options).stdout
+
+
+def words(path, pattern):
+    return set(re.findall(pattern, path.read_text(), re.MULTILINE))
+
+
+def on_the_bus():
+    """What a running Nocturo answers: its state, and the names of its effects."""
+    with tempfile.TemporaryDirectory() as home:
+        services = pathlib.Path(home) / "data/dbus-1/services"
+        services.mkdir(parents=True)
+        service = (SHARE / "dbus-1/services/org.nocturo.Nocturo.service").read_text()
+        (services / "org.nocturo.Nocturo.service").write_text(
+            re.sub("^(Exec=.*)$", r"\1 --display-services=simulated", service, flags=re.MULTILINE))
+        environment = {
+            "PATH": f"{BIN}:{os.environ['PATH']}", "HOME": home, "XDG_RUNTIME_DIR": home,
+            "XDG_DATA_HOME": f"{home}/data", "XDG_CONFIG_HOME": home, "XDG_STATE_HOME": home,
+            "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"}
+        script = ("dbus-send --session --print-reply --dest=org.freedesktop.DBus / "
+                  "org.freedesktop.DBus.StartServiceByName string:org.nocturo.Nocturo uint32:0 >&2 && "
+                  "nocturoctl status --json && nocturoctl effects && nocturoctl quit")
+        state, effects = say("dbus-run-session", "--", "sh", "-c", script,
+                             env=environment).split("\n", 1)
+        return json.loads(state), set(re.findall(r"\] +(\S+)", effects))
+
+
+class Documented(unittest.TestCase):
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.state, cls.effects = on_the_bus()
+        cls.verbs = words_of_help = set(
+            re.findall(r"^  ([a-z]+) ", say(BIN / "nocturoctl", "--help"), re.MULTILINE))
+        assert {"on", "toggle", "quit"} <= words_of_help
+
+    def assert_same(self, found, expected, where):
+        self.assertEqual(found - AWAITED, expected - AWAITED, where)
+
+    def test_manual_of_nocturoctl_tells_of_every_verb(self):
+        found = words(SHARE / "man/man1/nocturoctl.1", r"^\.It Ic ([a-z]+)")
+        self.assert_same(found, self.verbs, "nocturoctl.1")
+
+    def test_manual_of_nocturo_tells_of_every_setting_effect_and_option(self):
+        manual = SHARE / "man/man1/nocturo.1"
+        text = manual.read_text()
+        settings = re.search(r"^\.Sh SETTINGS$(.*?)^\.Sh ", text, re.M | re.S).group(1)
+        listed = " ".join(re.findall(r"^\.It Sy (.*)$", settings, re.MULTILINE))
+        self.assertEqual(set(listed.replace(",", " ").split()), set(self.state["settings"]))
+        effects = re.search(r"^\.Sh EFFECTS$(.*?)^\.Sh ", text, re.M | re.S).group(1)
+        self.assertEqual(set(re.findall(r"^\.It Cm (\S+)", effects, re.MULTILINE)), self.effects)
+        for option in set(re.findall(r"^  --([a-z-]+)", say(BIN / "nocturo", "--help"), re.MULTILINE)):
+            self.assertIn(rf"Fl \-{option}", text)
+            for shell, path in COMPLETIONS.items():
+                self.assertIn(option, path.with_name(path.name.replace("nocturoctl", "nocturo"))
+                              .read_text(), shell)
+
+    def test_completions_know_every_verb_setting_and_effect(self):
+        bash = COMPLETIONS["bash"].read_text()
+        verbs = set(re.search(r"verbs='([^']*)'", bash).group(1).split())
+        self.assert_same(verbs, self.verbs, "bash")
+        self.assert_same(words(COMPLETIONS["fish"], r"__fish_use_subcommand -a ([a-z]+)"), self.verbs,
+                         "fish")
+        zsh = re.search(r"verbs=\((.*?)^\)", COMPLETIONS["zsh"].read_text(), re.M | re.S).group(1)
+        self.assert_same(set(re.findall(r"'([a-z]+):", zsh)), self.verbs, "zsh")
+        for shell, path in COMPLETIONS.items():
+            text = set(re.findall(r"[\w-]+", path.read_text()))
+            self.assertLessEqual(self.effects | set(self.state["settings"]), text, shell)
+            keys = {word for word in text if re.match("ND[A-Z]|HotKey|Affected|Activate", word)}
+            self.assertLessEqual(keys, set(self.state["settings"]), shell)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
