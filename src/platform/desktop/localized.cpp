@@ -25,7 +25,8 @@ QString filled(const QString& format, const QStringList& arguments) {
         const qsizetype index = match.hasCaptured(1) ? match.capturedView(1).toInt() - 1 : next++;
         result += arguments.value(index, QStringLiteral("(null)"));
     }
-    return result + QStringView(format).mid(copied);
+    result += QStringView(format).mid(copied);
+    return result;
 }
 
 } // namespace nocturo
