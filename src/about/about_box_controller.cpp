@@ -68,6 +68,8 @@ void ZQAboutBoxController::loadWindow() {
 }
 
 void ZQAboutBoxController::windowDidLoad() {
+    window_->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     window_->setAttribute(Qt::WA_QuitOnClose, false);
     window_->setFixedSize(window_->size());
     const QString title = filled(localized("About %@"), {applicationName(bundle_)});

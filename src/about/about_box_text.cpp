@@ -78,6 +78,7 @@ std::unique_ptr<QTextDocument> filledTemplate(const QTextDocument& aboutTemplate
     QTextCursor credits = wordIn(*document, QStringLiteral("Credits"));
     setSystemFont(version, false);
     setSystemFont(name, true);
+    credits.removeSelectedText(); // an empty fragment would leave the word
     credits.insertFragment(texts.credits);
     replace(copyright, texts.copyright);
     replace(version, texts.version);

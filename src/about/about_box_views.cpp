@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QEvent>
+#include <QImage>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -55,11 +56,25 @@ ZQAboutBoxBackground::ZQAboutBoxBackground(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void ZQAboutBoxBackground::changeEvent(QEvent* event) {
+bool ZQAboutBoxBackground::event(QEvent* event) {
+    // A window tells its activation to itself alone; it is another one after a move.
+    if ((event->type() == QEvent::ParentChange || event->type() == QEvent::Show) &&
+        observedWindow_ != window()) {
+        if (observedWindow_) {
+            observedWindow_->removeEventFilter(this);
+        }
+        observedWindow_ = window();
+        observedWindow_->installEventFilter(this);
+        update();
+    }
+    return QWidget::event(event);
+}
+
+bool ZQAboutBoxBackground::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::ActivationChange) {
         update();
     }
-    QWidget::changeEvent(event);
+    return QWidget::eventFilter(watched, event);
 }
 
 void ZQAboutBoxBackground::paintEvent(QPaintEvent* event) {
@@ -119,7 +134,13 @@ ZQAboutBoxScrollView::ZQAboutBoxScrollView(QWidget* parent) : QTextBrowser(paren
 }
 
 QVariant ZQAboutBoxScrollView::loadResource(int, const QUrl&) {
-    return {};
+    // Without any answer the document would look for a file of that name itself.
+    static const QImage nothing = [] {
+        QImage pixel(1, 1, QImage::Format_ARGB32);
+        pixel.fill(Qt::transparent);
+        return pixel;
+    }();
+    return nothing;
 }
 
 void ZQAboutBoxScrollView::changeEvent(QEvent* event) {

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPoint>
+#include <QPointer>
 #include <QTextBrowser>
 #include <QWidget>
 
@@ -34,13 +35,15 @@ class ZQAboutBoxBackground : public QWidget {
     explicit ZQAboutBoxBackground(QWidget* parent = nullptr);
 
   protected:
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    QPointer<QWidget> observedWindow_;
     WindowDrag drag_;
 };
 
