@@ -28,11 +28,6 @@ inline constexpr std::string_view kEffectActivationNotification =
 /// again, while the displays still show what became of the last time.
 inline constexpr std::string_view kReapplicationNotification = "NocturoReapplicationNotification";
 
-/// Posted on the local notification center when displays were plugged, unplugged, moved, switched
-/// on or off.
-inline constexpr std::string_view NSApplicationDidChangeScreenParametersNotification =
-    "NSApplicationDidChangeScreenParametersNotification";
-
 /// Switches the combined effect on and off, keeps one screen controller for each affected online
 /// display while it is on, and applies it again on a timer, after every change of a setting and
 /// when the desktop tells of something that may have touched the displays. Pauses it while the

@@ -3,6 +3,7 @@
 #include "app/disturbance_watch.h"
 #include "app/options.h"
 #include "app/wake_repeater.h"
+#include "app/windows/app_windows.h"
 #include "control/bus_face.h"
 #include "platform/desktop/instance_lock.h"
 #include "platform/desktop/posix_signals.h"
@@ -20,10 +21,12 @@
 #include "platform/settings/settings_keeper.h"
 #include "platform/workspace/desktop_sources.h"
 #include "platform/workspace/disturber_finder.h"
+#include "platform/x11/xcb_handles.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QStandardPaths>
 
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -39,6 +42,8 @@ namespace {
 constexpr int kSuccess = 0;
 constexpr int kFailure = 1;
 constexpr int kUsage = 2;
+const std::array kSignals = {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal,
+                             kSwitchOffSignal};
 
 void tell(std::FILE* stream, const std::string& sentence) {
     std::fprintf(stream, "nocturo: %s\n", sentence.c_str());
@@ -56,6 +61,23 @@ std::filesystem::path settingsPath() {
                QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
                    .toStdString()) /
            "nocturo" / "settings.plist";
+}
+
+/// Whether Qt, which ends the process where it finds no desktop, has one to show windows on.
+bool hasDesktop() {
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        return true;
+    }
+    return !qEnvironmentVariableIsEmpty("DISPLAY") &&
+           xcb_connection_has_error(XcbConnection(xcb_connect(nullptr, nullptr)).get()) == 0;
+}
+
+/// Without a desktop there are no windows to be seen, but everything else works: so let Qt draw
+/// into memory there.
+void choosePlatform() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !hasDesktop()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
 }
 
 /// Claims to be the one Nocturo of the session: its name on the session bus, or a lock where there
@@ -82,8 +104,18 @@ class SessionClaim {
     std::optional<InstanceLock> lock_;
 };
 
+bool inEventLoop = false;
+
+/// Qt ends the process by itself when the X server goes, if it notices before the displays do.
+void endWithServer() {
+    if (inEventLoop) {
+        DefaultsStore::standardUserDefaults()->synchronize();
+        tell(stderr, "The display server has gone, so Nocturo ends.");
+    }
+}
+
 /// Runs the application in its event loop until it is told to end.
-int run(QCoreApplication& application, const RunOptions& options) {
+int run(const RunOptions& options) {
     const auto directory = runtimeDirectory();
     if (!directory) {
         tell(stderr, "The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.");
@@ -100,18 +132,18 @@ int run(QCoreApplication& application, const RunOptions& options) {
     DisturberFinder disturberFinder;
     const DisturbanceWatch disturbances(
         controller, centers.local, [&](auto answer) { disturberFinder.find(std::move(answer)); });
-    BusFace face(controller, *defaults, centers.local, disturbances);
+    AppWindows windows(controller, *defaults, centers);
+    BusFace face(controller, *defaults, centers.local, disturbances, windows);
 
-    const PosixSignals signals(
-        {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal, kSwitchOffSignal}, [&](int number) {
-            if (number == InstanceLock::kReopenSignal) {
-                controller.applicationShouldHandleReopen(false);
-            } else if (number == kSwitchOffSignal) {
-                controller.setEffectActive(false, true);
-            } else {
-                QCoreApplication::quit();
-            }
-        });
+    const PosixSignals signals(kSignals, [&](int number) {
+        if (number == InstanceLock::kReopenSignal) {
+            controller.applicationShouldHandleReopen(false);
+        } else if (number == kSwitchOffSignal) {
+            controller.setEffectActive(false, true);
+        } else {
+            QCoreApplication::quit();
+        }
+    });
     const SessionClaim claim(face, *directory);
     if (!claim.isGranted()) {
         tell(stdout, "Nocturo is already running.");
@@ -157,13 +189,18 @@ int run(QCoreApplication& application, const RunOptions& options) {
     controller.applicationDidFinishLaunching();
     const DesktopHotKeys hotKeys(xDisplay);
     face.setKeyboardLayout(hotKeys.layout());
+    windows.setKeyboardLayout(hotKeys.layout());
     controller.updateHotKey();
     face.announceChanges();
     const bool displaysOfX = displays.services->name() == "randr";
     const DesktopSources sources(centers, runLoop,
                                  {displaysOfX ? xDisplay : std::string(),
                                   qEnvironmentVariable("XDG_SESSION_ID").toStdString()});
-    const int result = application.exec();
+    std::atexit(endWithServer);
+    inEventLoop = true;
+    const int result = QApplication::exec();
+    inEventLoop = false;
+    windows.setKeyboardLayout(nullptr);
     controller.applicationWillTerminate();
     setDisplayServices(nullptr);
     if (result != kSuccess) {
@@ -187,8 +224,13 @@ int main(int argc, char* argv[]) {
         tell(stderr, error->sentence);
         return kUsage;
     }
-    QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("nocturo"));
     installQtLogSink();
-    return run(application, std::get<RunOptions>(options));
+    PosixSignals::block(kSignals);
+    choosePlatform();
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("nocturo"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Nocturo"));
+    QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    return run(std::get<RunOptions>(options));
 }

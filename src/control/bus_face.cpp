@@ -3,6 +3,7 @@
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
 #include "app/settings_table.h"
+#include "app/user_interface.h"
 #include "control/bus_values.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
@@ -13,6 +14,7 @@
 #include "nocturo1_adaptor.h"
 #include "platform/displays/display_functions.h"
 #include "platform/notification_center.h"
+#include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keys.h"
 #include "preferences/affected_screen_set.h"
@@ -32,6 +34,7 @@ const QString kBusName = QStringLiteral("org.nocturo.Nocturo");
 const QString kObjectPath = QStringLiteral("/org/nocturo/Nocturo");
 const QString kInterface = QStringLiteral("org.nocturo.Nocturo1");
 const QString kInvalidArgument = QStringLiteral("org.nocturo.Error.InvalidArgument");
+const QString kFailed = QStringLiteral("org.nocturo.Error.Failed");
 
 // Long enough for a busy first instance, short enough for the user who waits for the second.
 constexpr int kReopenTimeoutMs = 2000;
@@ -39,9 +42,10 @@ constexpr int kReopenTimeoutMs = 2000;
 } // namespace
 
 BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
-                 NotificationCenter& localCenter, const DisturbanceWatch& disturbances)
+                 NotificationCenter& localCenter, const DisturbanceWatch& disturbances,
+                 UserInterface& userInterface)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter),
-      disturbances_(disturbances) {
+      disturbances_(disturbances), userInterface_(userInterface) {
     qDBusRegisterMetaType<QList<QVariantMap>>();
     qDBusRegisterMetaType<QList<qlonglong>>();
     new Nocturo1Adaptor(this);
@@ -58,10 +62,11 @@ bool BusFace::takeName(const QDBusConnection& bus) {
     if (bus_->registerService(kBusName)) {
         return true;
     }
-    bus_->call(
+    const QDBusMessage answer = bus_->call(
         QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, QStringLiteral("Reopen")),
         QDBus::Block, kReopenTimeoutMs);
-    return false;
+    // One that was just killed may be gone by now.
+    return answer.type() == QDBusMessage::ErrorMessage && bus_->registerService(kBusName);
 }
 
 void BusFace::announceChanges() {
@@ -241,6 +246,39 @@ void BusFace::SetHotKey(const QString& text) {
     defaults_.setInteger(static_cast<std::int64_t>(combination.modifierFlags), kHotKeyModifiers);
 }
 
+void BusFace::OpenFile(const QString& path) {
+    userInterface_.loadPreferences();
+    if (!controller_.openFile(path.toStdString())) {
+        fail(QStringLiteral("\"%1\" is not an effect document.").arg(path));
+    }
+}
+
+void BusFace::SaveFile(const QString& path) {
+    if (!userInterface_.saveEffectFile(path.toStdString())) {
+        fail(QStringLiteral("Could not save settings at \"%1\".").arg(path));
+    }
+}
+
+void BusFace::ShowPreferences() {
+    controller_.openPreferences();
+}
+
+void BusFace::ShowAboutBox() {
+    controller_.openAboutBox();
+}
+
+QByteArray BusFace::RenderPreview(uint id) {
+    const QList<QVariantMap> online = displays();
+    if (std::none_of(online.begin(), online.end(), [&](const QVariantMap& display) {
+            return display.value(QStringLiteral("id")).toUInt() == id;
+        })) {
+        refuse("There is no display with the identifier " + std::to_string(id) + ".");
+        return {};
+    }
+    const std::vector<std::uint8_t> picture = userInterface_.previewPicture(id);
+    return {reinterpret_cast<const char*>(picture.data()), static_cast<qsizetype>(picture.size())};
+}
+
 void BusFace::Reopen() {
     controller_.applicationShouldHandleReopen(false);
 }
@@ -292,6 +330,10 @@ const Setting* BusFace::knownSetting(const QString& key) {
 
 void BusFace::refuse(const std::string& sentence) {
     sendErrorReply(kInvalidArgument, QString::fromStdString(sentence));
+}
+
+void BusFace::fail(const QString& sentence) {
+    sendErrorReply(kFailed, sentence);
 }
 
 } // namespace nocturo

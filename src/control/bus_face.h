@@ -17,6 +17,7 @@ class DisturbanceWatch;
 class KeyboardLayout;
 class NDAppController;
 class NotificationCenter;
+class UserInterface;
 struct Setting;
 
 /// The application's object on the session bus; its interface and what each member does stand in
@@ -39,7 +40,7 @@ class BusFace : public QObject, protected QDBusContext {
   public:
     /// All must outlive the face.
     BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
-            const DisturbanceWatch& disturbances);
+            const DisturbanceWatch& disturbances, UserInterface& userInterface);
     ~BusFace() override;
 
     /// Puts the object on the bus and takes the application's name. False when another process has
@@ -76,6 +77,11 @@ class BusFace : public QObject, protected QDBusContext {
     void ToggleScreen(uint id);
     void AffectAllScreens();
     void SetHotKey(const QString& text);
+    void OpenFile(const QString& path);
+    void SaveFile(const QString& path);
+    void ShowPreferences();
+    void ShowAboutBox();
+    QByteArray RenderPreview(uint id);
     void Reopen();
     void Quit();
 
@@ -86,13 +92,15 @@ class BusFace : public QObject, protected QDBusContext {
     /// The setting of that key; otherwise null, and the call is refused.
     const Setting* knownSetting(const QString& key);
 
-    /// Answers the call being handled with an error.
+    // Answer the call being handled with an error.
     void refuse(const std::string& sentence);
+    void fail(const QString& sentence);
 
     NDAppController& controller_;
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
     const DisturbanceWatch& disturbances_;
+    UserInterface& userInterface_;
     KeyboardLayout* layout_ = nullptr;
     std::optional<QDBusConnection> bus_;
     QVariantMap announced_;

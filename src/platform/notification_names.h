@@ -4,6 +4,12 @@
 
 namespace nocturo {
 
+// Posted on the local center.
+
+/// Displays were plugged, unplugged, moved, switched on or off.
+inline constexpr std::string_view NSApplicationDidChangeScreenParametersNotification =
+    "NSApplicationDidChangeScreenParametersNotification";
+
 // Posted on the workspace center.
 
 /// The computer woke up.

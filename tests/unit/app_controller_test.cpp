@@ -2,6 +2,7 @@
 
 #include "app/settings_table.h"
 #include "app_controller_fixture.h"
+#include "platform/notification_names.h"
 #include "preferences/affected_screen_set.h"
 
 #include <gtest/gtest.h>

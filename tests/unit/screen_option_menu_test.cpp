@@ -1,10 +1,10 @@
-#include "app/menus/screen_option_menu_manager.h"
+#include "preferences/menus/screen_option_menu_manager.h"
 
-#include "app/app_controller.h"
 #include "fake_gamma_hardware.h"
 #include "platform/displays/display_functions.h"
 #include "platform/displays/ramp_display_services.h"
 #include "platform/notification_center.h"
+#include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
 
 #include <gtest/gtest.h>

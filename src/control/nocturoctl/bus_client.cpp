@@ -17,6 +17,7 @@ constexpr const char* kObjectPath = "/org/nocturo/Nocturo";
 constexpr const char* kInterface = "org.nocturo.Nocturo1";
 constexpr const char* kPropertiesInterface = "org.freedesktop.DBus.Properties";
 constexpr const char* kInvalidArgument = "org.nocturo.Error.InvalidArgument";
+constexpr const char* kNotDone = "org.nocturo.Error.Failed";
 
 [[noreturn]] void failBecauseNotRunning() {
     throw Failure{kNotRunning, "Nocturo is not running; start it with: nocturo &"};
@@ -123,6 +124,16 @@ void BusClient::callSetSetting(const std::string& key, const PropertyValue& valu
     send(message);
 }
 
+std::string BusClient::renderPreview(std::uint32_t display) {
+    const Message message = newCall(kInterface, "RenderPreview");
+    check(sd_bus_message_append(message.get(), "u", display));
+    const Message reply = send(message);
+    const void* bytes = nullptr;
+    std::size_t size = 0;
+    check(sd_bus_message_read_array(reply.get(), 'y', &bytes, &size));
+    return {static_cast<const char*>(bytes), size};
+}
+
 Json BusClient::properties() {
     const Message message = newCall(kPropertiesInterface, "GetAll");
     check(sd_bus_message_append(message.get(), "s", kInterface));
@@ -173,6 +184,9 @@ BusClient::Message BusClient::send(const Message& message) {
     }
     if (error.is(kInvalidArgument)) {
         throw Failure{kUsage, error.sentence()};
+    }
+    if (error.is(kNotDone)) {
+        throw Failure{kFailed, error.sentence()};
     }
     throw Failure{kFailed, "Nocturo did not do it: " + error.sentence()};
 }

@@ -28,6 +28,9 @@ class BusClient {
     void call(const char* method, const std::string& argument);
     void call(const char* method, std::span<const std::string> argument);
 
+    /// A picture in PNG of what the effects do on the display of that identifier.
+    std::string renderPreview(std::uint32_t display);
+
     /// `value` is of a type that a setting can have.
     void callSetSetting(const std::string& key, const PropertyValue& value);
 

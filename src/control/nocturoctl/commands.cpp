@@ -12,6 +12,8 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <optional>
 #include <vector>
@@ -189,6 +191,62 @@ void runScreens(Arguments arguments) {
     }
 }
 
+std::string absolutePath(const std::string& path) {
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(path, error);
+    if (path.empty() || error) {
+        throw Failure{kUsage, "Name a file."};
+    }
+    return absolute;
+}
+
+void runOpen(Arguments arguments) {
+    expect(arguments.size() == 1);
+    BusClient().call("OpenFile", absolutePath(arguments[0]));
+}
+
+void runSave(Arguments arguments) {
+    expect(arguments.size() == 1);
+    BusClient().call("SaveFile", absolutePath(arguments[0]));
+}
+
+void runPreferences(Arguments arguments) {
+    expect(arguments.empty());
+    BusClient().call("ShowPreferences");
+}
+
+void runAbout(Arguments arguments) {
+    expect(arguments.empty());
+    BusClient().call("ShowAboutBox");
+}
+
+std::uint32_t mainDisplay(const Json& properties) {
+    for (const Json& display : properties["displays"]) {
+        if (display["main"].get<bool>()) {
+            return display["id"].get<std::uint32_t>();
+        }
+    }
+    throw Failure{kFailed, "No display is online."};
+}
+
+void runPreview(Arguments arguments) {
+    std::string file;
+    std::string display;
+    expect(arguments.size() == 2 || arguments.size() == 4);
+    for (; !arguments.empty(); arguments = arguments.subspan(2)) {
+        expect(arguments[0] == "--png" || arguments[0] == "--display");
+        (arguments[0] == "--png" ? file : display) = arguments[1];
+    }
+    expect(!file.empty());
+    BusClient client;
+    const Json properties = client.properties();
+    const std::string picture = client.renderPreview(
+        display.empty() ? mainDisplay(properties) : displayFromText(properties, display));
+    if (!(std::ofstream(file, std::ios::binary) << picture << std::flush)) {
+        throw Failure{kFailed, "The file \"" + file + "\" cannot be written."};
+    }
+}
+
 // Settings arrive whole with every change; only those that differ are told.
 void printChanges(Json& known, const Json& changed) {
     Json line = Json::object();
@@ -240,6 +298,14 @@ constexpr std::array kCommands = std::to_array<Command>({
      "KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The\n"
      "hot key toggles the effect while it is enabled.",
      runHotKey},
+    {"open", "FILE", "take the effects from a document", "", runOpen},
+    {"save", "FILE", "save the effects as a document", "", runSave},
+    {"preview", "--png FILE [--display N]", "draw what the effects do",
+     "The curves of a display, of the main one unless told otherwise, and a scene seen\n"
+     "through them, as a PNG picture. N is its number, name or identifier.",
+     runPreview},
+    {"preferences", "", "show the preference window", "", runPreferences},
+    {"about", "", "show the about box", "", runAbout},
     {"watch", "", "print every change as it happens",
      "One JSON object a line, with what changed. Ends when Nocturo does.", runWatch},
     {"restore", "", "give every display its own colors back",

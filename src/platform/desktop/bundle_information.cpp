@@ -68,7 +68,7 @@ QString applicationName(const BundleInformation& bundle) {
 
 QString versionText(const BundleInformation& bundle) {
     const PropertyValue* shortVersion = bundle.objectForKey("CFBundleShortVersionString");
-    const QString shortText = description(shortVersion);
+    QString shortText = description(shortVersion);
     const QString bundleText = description(bundle.objectForKey("CFBundleVersion"));
     if (shortVersion != nullptr && bundleText == shortText) {
         return shortText;

@@ -4,8 +4,8 @@
 #include <csignal>
 #include <fcntl.h>
 
-// A record lock belongs to one process alone. One that children share would outlive a killed
-// Nocturo until the guard that it was just starting had closed its copy.
+// A record lock belongs to one process alone. One that children share can outlive a killed
+// Nocturo until the guard that it was just starting has closed its copy.
 
 namespace nocturo {
 

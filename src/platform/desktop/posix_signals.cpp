@@ -9,21 +9,29 @@ namespace nocturo {
 
 namespace {
 
-int openBlockedSignals(std::initializer_list<int> signalNumbers) {
+sigset_t signalSet(std::span<const int> signalNumbers) {
     sigset_t signals;
     sigemptyset(&signals);
     for (const int number : signalNumbers) {
         sigaddset(&signals, number);
     }
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    return signals;
+}
+
+int openSignals(std::span<const int> signalNumbers) {
+    const sigset_t signals = signalSet(signalNumbers);
     return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
 } // namespace
 
-PosixSignals::PosixSignals(std::initializer_list<int> signalNumbers,
-                           std::function<void(int)> handler)
-    : descriptor_(openBlockedSignals(signalNumbers)), notifier_(descriptor_, QSocketNotifier::Read),
+void PosixSignals::block(std::span<const int> signalNumbers) {
+    const sigset_t signals = signalSet(signalNumbers);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
+
+PosixSignals::PosixSignals(std::span<const int> signalNumbers, std::function<void(int)> handler)
+    : descriptor_(openSignals(signalNumbers)), notifier_(descriptor_, QSocketNotifier::Read),
       handler_(std::move(handler)) {
     connect(&notifier_, &QSocketNotifier::activated, this, [this] { read(); });
 }

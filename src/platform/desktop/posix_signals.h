@@ -4,16 +4,19 @@
 #include <QSocketNotifier>
 
 #include <functional>
-#include <initializer_list>
+#include <span>
 
 namespace nocturo {
 
-/// Delivers POSIX signals through the event loop. Blocks them for the process, so make it before
-/// any thread is started.
+/// Delivers POSIX signals through the event loop.
 class PosixSignals : public QObject {
   public:
-    /// Calls `handler` with the signal's number, from the event loop.
-    PosixSignals(std::initializer_list<int> signalNumbers, std::function<void(int)> handler);
+    /// Blocks signals for the process, so that they wait to be delivered. To be called before any
+    /// thread is started: a QApplication starts some.
+    static void block(std::span<const int> signalNumbers);
+
+    /// Calls `handler` with the signal's number, from the event loop. They must be blocked.
+    PosixSignals(std::span<const int> signalNumbers, std::function<void(int)> handler);
     ~PosixSignals() override;
 
   private:

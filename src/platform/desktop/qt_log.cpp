@@ -37,6 +37,8 @@ void writeToQt(LogLevel level, std::string_view category, std::string_view sente
 } // namespace
 
 void installQtLogSink() {
+    // Profiles are checked by us, with a sentence that names them.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.icc=false"));
     setLogSink(writeToQt);
 }
 

@@ -32,6 +32,7 @@ bool watchSaver(const XEvents& events, xcb_atom_t mark) {
     }
     const auto* windows = xcb_query_tree_children(tree.get());
     std::vector<xcb_get_property_cookie_t> questions;
+    questions.reserve(static_cast<std::size_t>(tree->children_len));
     for (int i = 0; i < tree->children_len; ++i) {
         questions.push_back(
             xcb_get_property(raw, false, windows[i], mark, XCB_GET_PROPERTY_TYPE_ANY, 0, 0));

@@ -36,6 +36,7 @@ ParameterSlider::ParameterSlider(QWidget* parent)
     field_->setAlignment(Qt::AlignRight);
     field_->installEventFilter(this);
     setFocusProxy(slider_);
+    setFocusPolicy(slider_->focusPolicy()); // or a label would not give the focus to its buddy
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(slider_, &RealSlider::moved, this, &ParameterSlider::userMoved);
     connect(field_, &QLineEdit::editingFinished, this, &ParameterSlider::takeTypedNumber);

@@ -293,7 +293,7 @@ void paintPlotLegend(QPainter& painter, const QRectF& area, const PreviewCurves&
         painter.drawText(placed(used + sample + 5, width + 1), Qt::AlignCenter, text);
         used += sample + width + 20;
     };
-    const auto lineSample = [&](QPen pen) {
+    const auto lineSample = [&](const QPen& pen) {
         return [&painter, pen](const QRectF& place) {
             painter.setPen(pen);
             const double y = std::floor(place.center().y()) + 0.5;

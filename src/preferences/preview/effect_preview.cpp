@@ -98,7 +98,7 @@ class EffectPreviewAccessible : public QAccessibleWidget {
         : QAccessibleWidget(preview, QAccessible::Graphic) {}
 
     QString text(QAccessible::Text kind) const override {
-        const QString text = QAccessibleWidget::text(kind);
+        QString text = QAccessibleWidget::text(kind);
         if (kind == QAccessible::Description && text.isEmpty()) {
             return static_cast<EffectPreview*>(object())->description();
         }

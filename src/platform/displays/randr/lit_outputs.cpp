@@ -58,57 +58,58 @@ struct ScreenQuery {
 } // namespace
 
 // Servers before 23.1 have no extension that tells, but name their outputs after themselves.
-bool isWaylandGuest(xcb_connection_t* raw, std::uint32_t root) {
+bool isWaylandGuest(xcb_connection_t* connection, std::uint32_t root) {
     ScreenQuery query;
     query.resources.reset(xcb_randr_get_screen_resources_current_reply(
-        raw, xcb_randr_get_screen_resources_current(raw, root), nullptr));
+        connection, xcb_randr_get_screen_resources_current(connection, root), nullptr));
     if (!query.resources) {
         return false;
     }
-    query.askForDetails(raw);
+    query.askForDetails(connection);
     bool guest = false;
     for (const auto cookie : query.outputCookies) {
         const XcbReply<xcb_randr_get_output_info_reply_t> info(
-            xcb_randr_get_output_info_reply(raw, cookie, nullptr));
+            xcb_randr_get_output_info_reply(connection, cookie, nullptr));
         guest = guest || (info && outputName(*info).starts_with("XWAYLAND"));
     }
     for (const auto cookie : query.crtcCookies) {
-        xcb_discard_reply(raw, cookie.sequence);
+        xcb_discard_reply(connection, cookie.sequence);
     }
     return guest;
 }
 
-bool findLitOutputs(xcb_connection_t* raw, std::span<const std::uint32_t> roots,
+bool findLitOutputs(xcb_connection_t* connection, std::span<const std::uint32_t> roots,
                     std::vector<LitOutput>& lit, std::vector<std::uint32_t>& unplugged) {
     lit.clear();
     unplugged.clear();
     std::vector<ScreenQuery> screens(roots.size());
     for (std::size_t i = 0; i < roots.size(); ++i) {
-        screens[i].resourcesCookie = xcb_randr_get_screen_resources_current(raw, roots[i]);
-        screens[i].primaryCookie = xcb_randr_get_output_primary(raw, roots[i]);
+        screens[i].resourcesCookie = xcb_randr_get_screen_resources_current(connection, roots[i]);
+        screens[i].primaryCookie = xcb_randr_get_output_primary(connection, roots[i]);
     }
     bool complete = true;
     for (auto& screen : screens) {
-        screen.resources.reset(
-            xcb_randr_get_screen_resources_current_reply(raw, screen.resourcesCookie, nullptr));
+        screen.resources.reset(xcb_randr_get_screen_resources_current_reply(
+            connection, screen.resourcesCookie, nullptr));
         screen.primary.reset(
-            xcb_randr_get_output_primary_reply(raw, screen.primaryCookie, nullptr));
+            xcb_randr_get_output_primary_reply(connection, screen.primaryCookie, nullptr));
         complete = complete && screen.resources;
     }
     if (!complete) {
         return false;
     }
     for (auto& screen : screens) {
-        screen.askForDetails(raw);
+        screen.askForDetails(connection);
     }
 
     for (auto& screen : screens) {
         std::vector<XcbReply<xcb_randr_get_output_info_reply_t>> outputInfos;
         for (const auto cookie : screen.outputCookies) {
-            outputInfos.emplace_back(xcb_randr_get_output_info_reply(raw, cookie, nullptr));
+            outputInfos.emplace_back(xcb_randr_get_output_info_reply(connection, cookie, nullptr));
         }
         for (const auto cookie : screen.crtcCookies) {
-            screen.crtcInfos.emplace_back(xcb_randr_get_crtc_info_reply(raw, cookie, nullptr));
+            screen.crtcInfos.emplace_back(
+                xcb_randr_get_crtc_info_reply(connection, cookie, nullptr));
         }
         for (std::size_t i = 0; i < outputInfos.size(); ++i) {
             // An output may have vanished between the questions.

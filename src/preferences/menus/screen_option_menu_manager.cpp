@@ -1,8 +1,9 @@
-#include "app/menus/screen_option_menu_manager.h"
+#include "preferences/menus/screen_option_menu_manager.h"
 
-#include "app/app_controller.h"
 #include "platform/desktop/localized.h"
 #include "platform/displays/display_functions.h"
+#include "platform/notification_center.h"
+#include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
 #include "preferences/affected_screen_set.h"
 
@@ -128,8 +129,9 @@ void NDScreenOptionMenuManager::show(const Option& option, QAction& item) const 
     item.setSeparator(option.separator);
     item.setCheckable(!option.separator);
     item.setChecked(option.checked);
-    item.setText(option.separator ? QString()
-                                  : QString(indent_ * kEmSpacesPerLevel, kEmSpace) + option.title);
+    item.setText(option.separator
+                     ? QString()
+                     : QString(qsizetype{indent_} * kEmSpacesPerLevel, kEmSpace) + option.title);
     item.setToolTip(option.toolTip);
     item.setData(option.tag);
 }

@@ -1,0 +1,28 @@
+#include "preferences/window/sheet.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QSpacerItem>
+
+namespace nocturo {
+
+QMessageBox* newSheet(QWidget& window, QMessageBox::Icon icon, const QString& title,
+                      const QString& message) {
+    auto* sheet =
+        new QMessageBox(icon, QGuiApplication::applicationDisplayName(), title, {}, &window);
+    sheet->setInformativeText(message);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    return sheet;
+}
+
+void showSheet(QMessageBox& sheet) {
+    // Left to itself the box is as narrow as its title, and the explanation a column.
+    if (auto* grid = qobject_cast<QGridLayout*>(sheet.layout())) {
+        const int width = sheet.fontMetrics().averageCharWidth() * 60;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+    sheet.show();
+}
+
+} // namespace nocturo

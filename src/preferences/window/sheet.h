@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QMessageBox>
+
+namespace nocturo {
+
+/// A window-modal message, without buttons yet. It deletes itself when it is closed.
+QMessageBox* newSheet(QWidget& window, QMessageBox::Icon icon, const QString& title,
+                      const QString& message);
+
+/// Shows it once it has its buttons, wide enough for sentences to be read as such.
+void showSheet(QMessageBox& sheet);
+
+} // namespace nocturo

@@ -1,0 +1,145 @@
+// Shows one window of Nocturo on the X server, in the looks asked for, and keeps what the server
+// shows: window_pictures WINDOW FILE [dark] [rtl] [long]
+
+#include "app/app_controller.h"
+#include "app/windows/app_windows.h"
+#include "effects/color_filter_effect.h"
+#include "effects/group_effect.h"
+#include "platform/desktop/qt_run_loop.h"
+#include "platform/desktop/runtime_directory.h"
+#include "platform/displays/display_factory.h"
+#include "platform/displays/display_functions.h"
+#include "platform/notification_center.h"
+#include "platform/settings/defaults_store.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QScreen>
+#include <QStyleFactory>
+#include <QTimer>
+#include <QToolButton>
+#include <QTranslator>
+#include <QWindow>
+
+#include <cstdio>
+
+namespace {
+
+using namespace nocturo;
+
+/// Every text a third longer, as German and others are.
+struct LongTexts : QTranslator {
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* text, const char*, int) const override {
+        const QString english = QString::fromUtf8(text);
+        return english.size() < 4 ? english
+                                  : english + QString(english.size() / 3 + 1, QLatin1Char('x'));
+    }
+};
+
+QPalette darkPalette() {
+    QPalette palette(QColor(53, 53, 53), QColor(42, 42, 42));
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(48, 48, 48));
+    palette.setColor(QPalette::Window, QColor(49, 49, 49));
+    palette.setColor(QPalette::Button, QColor(60, 60, 60));
+    palette.setColor(QPalette::Highlight, QColor(61, 125, 200));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, QColor(235, 235, 235));
+        palette.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
+    }
+    return palette;
+}
+
+void show(AppWindows& windows, const QString& window) {
+    if (window == QLatin1String("about")) {
+        windows.showAboutBox();
+        return;
+    }
+    windows.showPreferences();
+    const auto press = [](const char* name) {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (auto* button = top->findChild<QAbstractButton*>(QString::fromLatin1(name))) {
+                QTimer::singleShot(0, button, [button] { button->click(); });
+            }
+        }
+    };
+    if (window == QLatin1String("keep")) {
+        NDColorFilterEffect::setVividness(1);
+        NDEffect::userDefaults().setFloat(-1, "NDDimEffectLevel");
+        press("dimScreen");
+    } else if (window == QLatin1String("no-effect")) {
+        press("dimScreen");
+        press("closeButton");
+    } else if (window == QLatin1String("save")) {
+        press("saveButton");
+    } else if (window == QLatin1String("screens")) {
+        press("affectedScreens");
+    }
+}
+
+int run(const QStringList& arguments) {
+    auto& defaults = *DefaultsStore::standardUserDefaults();
+    NotificationCenter workspace;
+    NotificationCenter distributed;
+    const NotificationCenters centers{NotificationCenter::defaultCenter(), workspace, distributed};
+    QtRunLoop runLoop;
+    NDAppController controller(defaults, centers, runLoop);
+    AppWindows windows(controller, defaults, centers);
+    const auto displays =
+        openDisplays(*parseDisplayChoice("simulated:2"), {"", *runtimeDirectory(), ""}, runLoop);
+    setDisplayServices(displays.services.get());
+    NDGroupEffect::effect();
+    if (arguments[1] == QLatin1String("preferences")) {
+        NDGroupEffect::effect().addEffect("NDInvertEffect");
+        NDGroupEffect::effect().addEffect("NDColorFilterEffect");
+        NDColorFilterEffect::setHue(35);
+        NDColorFilterEffect::setVividness(0.4F);
+    }
+    if (arguments[1] != QLatin1String("keep")) {
+        NDGroupEffect::effect().addEffect("NDDimEffect");
+    }
+    controller.applicationDidFinishLaunching();
+    show(windows, arguments[1]);
+    QTimer::singleShot(1000, [&] {
+        QRect area;
+        for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+            area |= window->isVisible() ? window->frameGeometry() : QRect();
+        }
+        area = area.marginsAdded({12, 12, 12, 12}) & QGuiApplication::primaryScreen()->geometry();
+        const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(
+            0, area.x(), area.y(), area.width(), area.height());
+        QApplication::exit(picture.save(arguments[2]) ? 0 : 1);
+    });
+    const int result = QApplication::exec();
+    controller.applicationWillTerminate();
+    setDisplayServices(nullptr);
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 3) {
+        std::fputs("Usage: window_pictures WINDOW FILE [dark] [rtl] [long]\n", stderr);
+        return 2;
+    }
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (arguments.contains(QStringLiteral("dark"))) {
+        QApplication::setPalette(darkPalette());
+    }
+    if (arguments.contains(QStringLiteral("rtl"))) {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    }
+    LongTexts texts;
+    if (arguments.contains(QStringLiteral("long"))) {
+        QApplication::installTranslator(&texts);
+    }
+    return run(arguments);
+}
