@@ -1,0 +1,203 @@
+// The preference window, on a real X server with four displays: how long users wait for it, and
+// whether it keeps up with a slider.
+
+#include "control/nocturoctl/bus_client.h"
+#include "control/nocturoctl/failure.h"
+#include "figures.h"
+#include "rig/session.h"
+#include "rig/x_keyboard.h"
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <iostream>
+#include <linux/input-event-codes.h>
+#include <stdexcept>
+#include <thread>
+#include <xcb/xcb.h>
+
+namespace nocturo {
+
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+double millisecondsSince(SteadyClock::time_point start) {
+    return std::chrono::duration<double, std::milli>(SteadyClock::now() - start).count();
+}
+
+/// Sees windows come and what they show.
+class WindowObserver {
+  public:
+    explicit WindowObserver(const std::string& display)
+        : connection_(xcb_connect(display.c_str(), nullptr), &xcb_disconnect),
+          root_(xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root) {
+        const std::uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+        xcb_change_window_attributes(connection_.get(), root_, XCB_CW_EVENT_MASK, &events);
+        xcb_flush(connection_.get());
+    }
+
+    /// Returns once a window that came after the last call shows something.
+    void waitForPaintedWindow() {
+        const xcb_window_t window = waitFor(XCB_MAP_NOTIFY);
+        const auto start = SteadyClock::now();
+        while (!isPainted(window)) {
+            if (millisecondsSince(start) > 5000) {
+                throw std::runtime_error("the window stays empty");
+            }
+        }
+    }
+
+    void waitForHiddenWindow() { waitFor(XCB_UNMAP_NOTIFY); }
+
+  private:
+    // Both events begin alike.
+    xcb_window_t waitFor(int type) {
+        while (xcb_generic_event_t* event = xcb_wait_for_event(connection_.get())) {
+            const bool awaited = (event->response_type & 0x7f) == type;
+            const xcb_window_t window = reinterpret_cast<xcb_map_notify_event_t*>(event)->window;
+            std::free(event);
+            if (awaited) {
+                return window;
+            }
+        }
+        throw std::runtime_error("the server has gone");
+    }
+
+    /// A pixel of the window's margin is no longer the server's black.
+    bool isPainted(xcb_window_t window) {
+        auto* reply = xcb_get_image_reply(
+            connection_.get(),
+            xcb_get_image(connection_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, window, 3, 3, 1, 1, ~0U),
+            nullptr);
+        const bool painted =
+            reply != nullptr &&
+            (*reinterpret_cast<std::uint32_t*>(xcb_get_image_data(reply)) & 0xffffffU) != 0;
+        std::free(reply);
+        return painted;
+    }
+
+    std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection_;
+    xcb_window_t root_;
+};
+
+void measureShowing() {
+    std::vector<double> first;
+    std::vector<double> later;
+    for (int round = 0; round < 50; ++round) {
+        rig::Session session(4);
+        const auto nocturo = session.startNocturo();
+        setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
+        BusClient client;
+        WindowObserver observer(session.server().display());
+        client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDDimEffect")});
+        const auto show = [&](std::vector<double>& samples) {
+            const auto start = SteadyClock::now();
+            client.call("ShowPreferences");
+            observer.waitForPaintedWindow();
+            samples.push_back(millisecondsSince(start));
+        };
+        show(first);
+        for (int again = 0; again < 10; ++again) {
+            session.run("xdotool", {"key", "Escape"});
+            observer.waitForHiddenWindow();
+            show(later);
+        }
+    }
+    printFigure("first `preferences` to the window painted, worst of 5", percentile(first, 1.0),
+                150, "ms");
+    printFigure("later `preferences` to the window painted, worst of 50", percentile(later, 1.0),
+                30, "ms");
+}
+
+constexpr int kSteps = 80; // from -80 to 0 %, where every screen is readable
+
+constexpr int kHalfStep =
+    327; // of an entry; the servers' own last entries lie a little below 65535
+
+/// The last entry of a dimmed ramp after a number of steps.
+int lastEntryAfter(int step) {
+    return static_cast<int>(std::lround(65535.0 * (20 + step) / 100.0));
+}
+
+/// Arrow keys at the slider of the running program, one step every millisecond, while another
+/// thread reads the last display's ramp. Adds to `lags` how long ago the step was made that each
+/// reading misses, and returns how many steps never came.
+int stepThrough(rig::Session& session, rig::XKeyboard& keyboard, std::vector<double>& lags) {
+    std::array<SteadyClock::time_point, kSteps + 1> made{};
+    std::atomic<int> last = 0; // the steps made so far
+    int shown = 0;
+    std::thread observing([&] {
+        rig::XClient observer(session.server().display());
+        const std::uint32_t crtc = observer.crtcOf("DUMMY3");
+        const auto deadline = SteadyClock::now() + std::chrono::seconds(2);
+        while (shown < kSteps && SteadyClock::now() < deadline) {
+            // The server is not to be kept busy by being asked.
+            std::this_thread::sleep_for(std::chrono::microseconds(500));
+            const int newest = last;
+            const int entry = observer.ramp(crtc)[0].back();
+            while (shown < kSteps && entry >= lastEntryAfter(shown + 1) - kHalfStep) {
+                ++shown;
+            }
+            if (newest > 0) {
+                lags.push_back(shown < newest
+                                   ? millisecondsSince(made[static_cast<std::size_t>(shown) + 1])
+                                   : 0);
+            }
+        }
+    });
+    const auto start = SteadyClock::now();
+    for (int step = 1; step <= kSteps; ++step) {
+        std::this_thread::sleep_until(start + std::chrono::milliseconds(step));
+        keyboard.press(KEY_RIGHT);
+        keyboard.release(KEY_RIGHT);
+        made[static_cast<std::size_t>(step)] = SteadyClock::now();
+        last = step;
+    }
+    observing.join();
+    return kSteps - shown;
+}
+
+void measureSlider() {
+    rig::Session session(4);
+    const auto nocturo = session.startNocturo();
+    setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
+    BusClient client;
+    WindowObserver windows(session.server().display());
+    client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDDimEffect")});
+    client.call("ShowPreferences");
+    windows.waitForPaintedWindow();
+    session.run("xdotool", {"key", "alt+l"});
+    rig::XKeyboard keyboard(session.server().display());
+    std::vector<double> lags;
+    int lost = 0;
+    for (int round = 0; round < 50; ++round) {
+        client.callSetSetting("NDDimEffectLevel", -0.8);
+        lost += stepThrough(session, keyboard, lags);
+    }
+    std::printf("slider at 1000 steps a second: median lag %.2f ms, p99 %.2f ms, %zu readings\n",
+                percentile(lags, 0.5), percentile(lags, 0.99), lags.size());
+    printFigure("slider at 1000 steps a second, four displays: steps lost", lost, 0, "");
+    printFigure("slider at 1000 steps a second, four displays: worst lag", percentile(lags, 1.0),
+                16, "ms");
+}
+
+} // namespace
+
+} // namespace nocturo
+
+int main() {
+    try {
+        nocturo::measureShowing();
+        nocturo::measureSlider();
+    } catch (const nocturo::Failure& failure) {
+        std::cerr << failure.sentence << '\n';
+        return 1;
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}
