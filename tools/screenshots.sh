@@ -1,0 +1,76 @@
+#!/usr/bin/env bash
+# Takes the pictures of the windows anew on an X server of its own: those of the README and the user
+# guide into docs/images, and with a directory as argument every look that has to be looked at,
+# right-to-left, with long texts and at 200 %, into that.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+looks=${1:-}
+program=$PWD/build/release/bin/window_pictures
+home=$(mktemp -d)
+server=
+end() {
+  [ -z "$server" ] || kill "$server"
+  rm -rf "$home"
+}
+trap end EXIT
+
+cat >"$home/xorg.conf" <<'CONFIGURATION'
+Section "ServerFlags"
+    Option "AutoAddDevices" "false"
+    Option "AutoAddGPU" "false"
+EndSection
+Section "Device"
+    Identifier "device"
+    Driver "dummy"
+    VideoRam 256000
+EndSection
+Section "Monitor"
+    Identifier "monitor"
+    HorizSync 1-1000
+    VertRefresh 1-1000
+EndSection
+Section "Screen"
+    Identifier "screen"
+    Device "device"
+    Monitor "monitor"
+    DefaultDepth 24
+    SubSection "Display"
+        Depth 24
+        Modes "2048x1536"
+        Virtual 2048 1536
+    EndSubSection
+EndSection
+CONFIGURATION
+
+xorg=/usr/lib/xorg/Xorg
+[ -x "$xorg" ] || xorg=Xorg
+mkfifo "$home/number"
+DBUS_SYSTEM_BUS_ADDRESS=unix:path=$home/no-bus "$xorg" ":$((RANDOM % 20000 + 1000))" -displayfd 9 -noreset \
+  -nolisten tcp -novtswitch -sharevts -config "$home/xorg.conf" -configdir "$home" \
+  -logfile "$home/xorg.log" 9>"$home/number" 2>/dev/null &
+server=$!
+read -r number <"$home/number"
+export DISPLAY=":$number" QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$home XDG_CONFIG_HOME=$home HOME=$home
+export QT_QPA_PLATFORMTHEME=generic
+xsetroot -solid '#6a7c8a'
+
+# take SCALE WINDOW FILE LOOK...
+take() {
+  QT_SCALE_FACTOR=$1 "$program" "${@:2}"
+}
+
+if [ -n "$looks" ]; then
+  mkdir -p "$looks"
+  for window in preferences about keep no-effect save screens; do
+    take 1 "$window" "$looks/$window.png"
+    take 1 "$window" "$looks/$window-dark.png" dark
+    take 2 "$window" "$looks/$window-200.png"
+    take 1 "$window" "$looks/$window-rtl.png" rtl
+    take 1 "$window" "$looks/$window-long.png" long
+  done
+else
+  for window in preferences about keep; do
+    take 1 "$window" "docs/images/$window.png"
+  done
+  take 1 preferences docs/images/preferences-dark.png dark
+fi
