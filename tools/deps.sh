@@ -13,6 +13,7 @@ packages=(
   qt6-base-dev              # event loop, bus, pictures
   libqt6svg6                # icons
   libplist-dev              # property lists
+  libglib2.0-dev            # desktop entries
   libxcb1-dev               # X11
   libxcb-randr0-dev         # displays
   libxcb-screensaver0-dev   # screen savers of an X server
@@ -66,7 +67,7 @@ packages=(
 
 # What other distributions must offer, whatever their packages are called.
 programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xscreensaver dbus-daemon python3)
-modules=(libplist-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
+modules=(libplist-2.0 glib-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
 install_on_debian() {

@@ -1,6 +1,6 @@
 #include "app/app_controller.h"
 
-#include "app/settings_table.h"
+#include "app/desktop_face.h"
 #include "app/user_interface.h"
 #include "display/display_gamma.h"
 #include "hotkeys/hot_key_center.h"
@@ -26,7 +26,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kReapplicationPeriod = 6000ms;
 constexpr auto kModeChangeDelay = 50ms;
-constexpr std::string_view kEffectActive = "EffectActive";
 constexpr std::string_view kToggleAction = "toggleGlobalEffect:";
 
 // The first ten online displays; empty when they cannot be listed.
@@ -68,37 +67,6 @@ void NDAppController::observe(NotificationCenter& center, std::string_view name,
     center.addObserver(this, name, [this, handler] { (this->*handler)(); });
 }
 
-void NDAppController::applicationDidFinishLaunching() {
-    initDefaults();
-    screenControllers_.emplace();
-    globalEffect_ = std::make_shared<NDGroupEffect>();
-    if (defaults_.boolForKey(kActivateAtLaunch)) {
-        setEffectActive(true, true);
-    } else if (defaults_.boolForKey(kEffectActive)) {
-        setEffectActive(true, false);
-    } else {
-        setEffectActive(false, true);
-    }
-    updateHotKey();
-    for (const auto name :
-         {NSWorkspaceDidWakeNotification, NSWorkspaceSessionDidBecomeActiveNotification,
-          NSWorkspaceDidTerminateApplicationNotification}) {
-        observe(centers_.workspace, name, &NDAppController::updateEffect);
-    }
-    observe(centers_.distributed, NSScreenColorSpaceDidChangeNotification,
-            &NDAppController::updateEffect);
-    CGDisplayRegisterReconfigurationCallback(NDDisplayReconfigurationCallback, this);
-}
-
-void NDAppController::initDefaults() {
-    defaults_.registerDefaults(registeredDefaults());
-    NotificationCenter& local = centers_.local;
-    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::defaultsDidChange);
-    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::updateApplyTimer);
-    observe(local, NSApplicationDidChangeScreenParametersNotification,
-            &NDAppController::defaultsDidChange);
-}
-
 bool NDAppController::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
     if (defaults_.boolForKey(kActivateOnClick)) {
         toggleGlobalEffect();
@@ -134,6 +102,9 @@ bool NDAppController::openFileWithoutUI(const std::string& path) {
 }
 
 void NDAppController::setEffectActive(bool active, bool saveState) {
+    if (active && globalEffect_ == nullptr) {
+        return; // asked for while the launch still waits for an answer
+    }
     if (saveState) {
         defaults_.setBool(active, kEffectActive);
     }
@@ -142,15 +113,24 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
             screenControllers_.emplace();
         }
         adjustScreenControllers();
+        setActivateItemTitles();
         observe(centers_.distributed, kScreenSaverDidStartNotification,
                 &NDAppController::screenSaverDidStart);
     } else {
         screenControllers_.reset();
         ZQDisplayRestoreColorSync();
+        setActivateItemTitles();
         centers_.distributed.removeObserver(this);
     }
     updateApplyTimer();
+    updateStatusItemImage(active);
     centers_.local.post(kEffectActivationNotification);
+}
+
+void NDAppController::setActivateItemTitles() {
+    if (desktop_ != nullptr) {
+        desktop_->setActivateItemTitles(effectActive());
+    }
 }
 
 void NDAppController::toggleGlobalEffect() {
@@ -214,6 +194,7 @@ void NDAppController::defaultsDidChange() {
         updateEffect();
     }
     updateHotKey();
+    updateStatusItem();
 }
 
 void NDAppController::updateHotKey() {

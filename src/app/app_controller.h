@@ -5,6 +5,7 @@
 #include "hotkeys/action_target.h"
 #include "platform/displays/display_services.h"
 #include "platform/notification_center.h"
+#include "platform/property_value.h"
 
 #include <cstdint>
 #include <memory>
@@ -16,6 +17,8 @@
 namespace nocturo {
 
 class DefaultsStore;
+class DesktopFace;
+class InstalledApplications;
 class RunLoop;
 class Timer;
 class UserInterface;
@@ -27,6 +30,13 @@ inline constexpr std::string_view kEffectActivationNotification =
 /// Posted on the local notification center by the 6-second timer just before it applies the effect
 /// again, while the displays still show what became of the last time.
 inline constexpr std::string_view kReapplicationNotification = "NocturoReapplicationNotification";
+
+/// Posted on the local notification center by whoever launches the application.
+inline constexpr std::string_view NSApplicationDidFinishLaunchingNotification =
+    "NSApplicationDidFinishLaunchingNotification";
+
+/// The last state of the effect that was saved.
+inline constexpr std::string_view kEffectActive = "EffectActive";
 
 /// Switches the combined effect on and off, keeps one screen controller for each affected online
 /// display while it is on, and applies it again on a timer, after every change of a setting and
@@ -44,15 +54,32 @@ class NDAppController : public ActionTarget {
     NDAppController(const NDAppController&) = delete;
     NDAppController& operator=(const NDAppController&) = delete;
 
+    // What the controller shows itself with; each may be absent and must outlive the controller.
+
+    /// Without it no window is shown and every document is refused.
+    void setUserInterface(UserInterface* userInterface) { userInterface_ = userInterface; }
+    /// Without it no question is asked and there is no menu.
+    void setDesktopFace(DesktopFace* desktop) { desktop_ = desktop; }
+    void setInstalledApplications(const InstalledApplications* applications) {
+        installedApplications_ = applications;
+    }
+
     // Launch and end
 
-    /// Registers the defaults, switches the effect as "ActivateAtLaunch" and the saved
-    /// "EffectActive" say, registers the hot key, and starts following the workspace and the
-    /// displays' colour profiles.
-    void applicationDidFinishLaunching();
+    /// Warns of f.lux, registers the defaults, switches the effect as "ActivateAtLaunch" and the
+    /// saved "EffectActive" say, warns when no effect is selected, registers the hot key, shows the
+    /// status item if it is wanted, makes the screen menus, and starts following the workspace and
+    /// the displays' colour profiles. Waits for the answers to the warnings; until the effect is
+    /// back nothing can switch it on. False when the user would rather quit: then nothing was
+    /// registered and no display touched.
+    bool applicationDidFinishLaunching();
 
     /// Registers the default settings and starts following changes of settings and screens.
     void initDefaults();
+
+    /// Tells the user, once in a run, that no effect is selected, and offers the preferences.
+    /// Nothing before the launch.
+    void warnIfNoEffects();
 
     /// The user started the application again: toggles the effect if "ActivateOnClick" is set.
     /// Always false: nothing more is to be done.
@@ -62,10 +89,23 @@ class NDAppController : public ActionTarget {
     /// and has the settings written.
     void applicationWillTerminate();
 
-    // Windows and documents. Without a user interface, which must outlive the controller, nothing
-    // is shown and every document is refused.
+    /// Puts into `coder` whether the preference window is to be seen, and opens it if a former run
+    /// put there that it was.
+    void willEncodeRestorableState(PropertyDictionary& coder) const;
+    void didDecodeRestorableState(const PropertyDictionary& coder);
 
-    void setUserInterface(UserInterface* userInterface) { userInterface_ = userInterface; }
+    // Menus, windows and documents
+
+    /// Makes the application one that lives in the status item if "ShowStatusItem" is 1, or else an
+    /// ordinary one. Nothing before the launch has come that far.
+    void updateStatusItem();
+
+    /// Nothing while there is no status item.
+    void updateStatusItemImage(bool active);
+
+    /// What the activate items do.
+    void activateEffect() { toggleGlobalEffect(); }
+
     void openPreferences();
     void openAboutBox();
 
@@ -142,11 +182,18 @@ class NDAppController : public ActionTarget {
   private:
     using Handler = void (NDAppController::*)();
     void observe(NotificationCenter& center, std::string_view name, Handler handler);
+    void restoreEffect();
+    void setActivateItemTitles();
 
     DefaultsStore& defaults_;
     NotificationCenters centers_;
     RunLoop& runLoop_;
     UserInterface* userInterface_ = nullptr;
+    DesktopFace* desktop_ = nullptr;
+    const InstalledApplications* installedApplications_ = nullptr;
+    bool didCheckForNoEffectsAtStartup_ = false;
+    bool statusItemReady_ = false;
+    bool statusItemShown_ = false;
     bool recordingHotKey_ = false;
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one

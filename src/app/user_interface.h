@@ -8,6 +8,13 @@
 
 namespace nocturo {
 
+/// Red, green and blue from 0 to 1.
+struct OpaqueColor {
+    double red;
+    double green;
+    double blue;
+};
+
 /// The application's windows, for those who know nothing of windows. Main thread only.
 class UserInterface {
   public:
@@ -16,6 +23,12 @@ class UserInterface {
     /// Shows the window and brings it to the front.
     virtual void showPreferences() = 0;
     virtual void showAboutBox() = 0;
+
+    /// The about box's from then on.
+    virtual void setAboutBoxBackgroundColor(const OpaqueColor& color) = 0;
+
+    /// Whether the preference window is loaded and shown.
+    virtual bool preferencesVisible() const = 0;
 
     /// Makes the preference window, if there is none, without showing it.
     virtual void loadPreferences() = 0;

@@ -5,6 +5,7 @@
 #include "app/app_controller.h"
 #include "platform/notification_names.h"
 #include "preferences/preview/effect_preview.h"
+#include "preferences/window/preference_panel.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -25,7 +26,6 @@ AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
                        const NotificationCenters& centers)
     : controller_(controller), defaults_(defaults), localCenter_(centers.local),
       distributedCenter_(centers.distributed) {
-    ZQSetAboutBoxBackgroundColor(QColor::fromRgbF(0.81F, 0.81F, 0.84F));
     controller_.setUserInterface(this);
 }
 
@@ -76,6 +76,17 @@ void AppWindows::showAboutBox() {
         aboutBoxController_ = std::make_unique<ZQAboutBoxController>();
     }
     aboutBoxController_->showWindow();
+}
+
+void AppWindows::setAboutBoxBackgroundColor(const OpaqueColor& color) {
+    const auto part = [](double value) { return static_cast<float>(value); };
+    ZQSetAboutBoxBackgroundColor(
+        QColor::fromRgbF(part(color.red), part(color.green), part(color.blue)));
+}
+
+bool AppWindows::preferencesVisible() const {
+    return preferenceController != nullptr && preferenceController->isWindowLoaded() &&
+           preferenceController->window()->isVisible();
 }
 
 void AppWindows::loadPreferences() {

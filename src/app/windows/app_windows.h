@@ -26,6 +26,8 @@ class AppWindows : public UserInterface {
 
     void showPreferences() override;
     void showAboutBox() override;
+    void setAboutBoxBackgroundColor(const OpaqueColor& color) override;
+    bool preferencesVisible() const override;
     void loadPreferences() override;
     bool openEffectFile(const std::string& path) override;
     bool saveEffectFile(const std::string& path) override;

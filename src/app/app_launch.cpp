@@ -1,0 +1,128 @@
+// The launch, step by step. The order is the point: f.lux is looked for before anything is
+// registered or written; the effect is back before anything can ask a question; the status item
+// waits until the state that it shows is certain.
+
+#include "app/app_controller.h"
+#include "app/desktop_face.h"
+#include "app/flux_check.h"
+#include "app/settings_table.h"
+#include "app/user_interface.h"
+#include "platform/displays/display_functions.h"
+#include "platform/notification_names.h"
+#include "platform/settings/defaults_store.h"
+#include "platform/settings/settings_keys.h"
+
+namespace nocturo {
+
+namespace {
+
+constexpr std::string_view kPreferenceWindowVisible = "PreferenceWindowVisible";
+
+} // namespace
+
+bool NDAppController::applicationDidFinishLaunching() {
+    if (userInterface_ != nullptr) {
+        userInterface_->setAboutBoxBackgroundColor({0.81, 0.81, 0.84});
+    }
+    if (installedApplications_ != nullptr && desktop_ != nullptr &&
+        NDCheckForFlux(defaults_, *installedApplications_, *desktop_) == FluxCheck::quit) {
+        return false;
+    }
+    initDefaults();
+    screenControllers_.emplace();
+    globalEffect_ = std::make_shared<NDGroupEffect>();
+    // After this pair no announcement of a launch is heard any more, the one that brought us here
+    // included.
+    centers_.local.addObserver(this, NSApplicationDidFinishLaunchingNotification,
+                               [this] { applicationDidFinishLaunching(); });
+    restoreEffect();
+    centers_.local.removeObserver(this, NSApplicationDidFinishLaunchingNotification);
+    warnIfNoEffects();
+    statusItemReady_ = true;
+    updateHotKey();
+    updateStatusItem();
+    if (desktop_ != nullptr) {
+        desktop_->makeScreenMenus();
+    }
+    for (const auto name :
+         {NSWorkspaceDidWakeNotification, NSWorkspaceSessionDidBecomeActiveNotification,
+          NSWorkspaceDidTerminateApplicationNotification}) {
+        observe(centers_.workspace, name, &NDAppController::updateEffect);
+    }
+    observe(centers_.distributed, NSScreenColorSpaceDidChangeNotification,
+            &NDAppController::updateEffect);
+    CGDisplayRegisterReconfigurationCallback(NDDisplayReconfigurationCallback, this);
+    return true;
+}
+
+void NDAppController::initDefaults() {
+    defaults_.registerDefaults(registeredDefaults());
+    NotificationCenter& local = centers_.local;
+    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::defaultsDidChange);
+    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::updateApplyTimer);
+    observe(local, NSApplicationDidChangeScreenParametersNotification,
+            &NDAppController::defaultsDidChange);
+}
+
+void NDAppController::restoreEffect() {
+    if (defaults_.boolForKey(kActivateAtLaunch)) {
+        setEffectActive(true, true);
+    } else if (defaults_.boolForKey(kEffectActive)) {
+        setEffectActive(true, false);
+    } else {
+        setEffectActive(false, true);
+    }
+}
+
+void NDAppController::warnIfNoEffects() {
+    if (globalEffect_ == nullptr || didCheckForNoEffectsAtStartup_) {
+        return;
+    }
+    // Before the alert, which is answered while everything else goes on.
+    didCheckForNoEffectsAtStartup_ = true;
+    if (globalEffect_->effectCount() != 0 || desktop_ == nullptr) {
+        return;
+    }
+    Alert alert;
+    alert.title = "No effect has been chosen.";
+    alert.message = "You should check at least one box in the preference panel relating to the "
+                    "screen effect, or Nocturo will have no visible effect on your screen.";
+    alert.defaultButton = "Open preferences...";
+    alert.alternateButton = "Cancel";
+    if (desktop_->runAlert(alert) == AlertAnswer::defaultButton) {
+        openPreferences();
+    }
+}
+
+void NDAppController::updateStatusItem() {
+    if (!statusItemReady_ || desktop_ == nullptr) {
+        return;
+    }
+    const bool wanted = defaults_.integerForKey(kShowStatusItem) == 1;
+    if (wanted == statusItemShown_) {
+        return;
+    }
+    statusItemShown_ = wanted;
+    desktop_->setStatusItemShown(wanted);
+    updateStatusItemImage(effectActive());
+}
+
+void NDAppController::updateStatusItemImage(bool active) {
+    if (statusItemShown_) {
+        desktop_->setStatusItemImage(active);
+    }
+}
+
+void NDAppController::willEncodeRestorableState(PropertyDictionary& coder) const {
+    const bool visible = userInterface_ != nullptr && userInterface_->preferencesVisible();
+    coder.insert_or_assign(std::string(kPreferenceWindowVisible), visible);
+}
+
+void NDAppController::didDecodeRestorableState(const PropertyDictionary& coder) {
+    const auto found = coder.find(kPreferenceWindowVisible);
+    if (found != coder.end() && found->second == PropertyValue(true)) {
+        openPreferences();
+    }
+}
+
+} // namespace nocturo
