@@ -22,7 +22,8 @@ std::unique_ptr<XEvents> XEvents::open(const std::string& displayName) {
         xcb_screen_next(&screens);
     }
     const xcb_window_t root = screens.data->root;
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    // Those who become managers of something announce it as if the root window had changed.
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(raw, root, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(raw);
     return std::unique_ptr<XEvents>(new XEvents(std::move(connection), root));
