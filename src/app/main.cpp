@@ -2,9 +2,11 @@
 #include "app/desktop_hot_keys.h"
 #include "app/disturbance_watch.h"
 #include "app/options.h"
+#include "app/session_claim.h"
 #include "app/wake_repeater.h"
 #include "app/windows/app_windows.h"
 #include "control/bus_face.h"
+#include "control/launcher_face.h"
 #include "platform/desktop/instance_lock.h"
 #include "platform/desktop/posix_signals.h"
 #include "platform/desktop/qt_log.h"
@@ -24,6 +26,7 @@
 #include "platform/x11/xcb_handles.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <array>
@@ -80,29 +83,13 @@ void choosePlatform() {
     }
 }
 
-/// Claims to be the one Nocturo of the session: its name on the session bus, or a lock where there
-/// is no bus.
-class SessionClaim {
-  public:
-    SessionClaim(BusFace& face, const std::filesystem::path& runtimeDirectory) {
-        if (const auto bus = connectToSessionBus()) {
-            granted_ = face.takeName(*bus);
-            return;
-        }
-        logInfo("nocturo.bus", "There is no session bus, so nocturoctl cannot reach Nocturo.");
-        lock_.emplace(runtimeDirectory);
-        granted_ = lock_->isHeld();
-        if (!granted_) {
-            lock_->askHolderToReopen();
-        }
+QStringList absolutePaths(const std::vector<std::string>& documents) {
+    QStringList paths;
+    for (const std::string& document : documents) {
+        paths.append(QFileInfo(QString::fromStdString(document)).absoluteFilePath());
     }
-
-    bool isGranted() const { return granted_; }
-
-  private:
-    bool granted_ = false;
-    std::optional<InstanceLock> lock_;
-};
+    return paths;
+}
 
 bool inEventLoop = false;
 
@@ -144,9 +131,16 @@ int run(const RunOptions& options) {
             QCoreApplication::quit();
         }
     });
-    const SessionClaim claim(face, *directory);
+    const QStringList documents = absolutePaths(options.documents);
+    const SessionClaim claim(face, *directory, documents);
     if (!claim.isGranted()) {
-        tell(stdout, "Nocturo is already running.");
+        if (!claim.problem().empty()) {
+            tell(stderr, claim.problem());
+            return kFailure;
+        }
+        if (documents.isEmpty()) {
+            tell(stdout, "Nocturo is already running.");
+        }
         return kSuccess;
     }
 
@@ -196,6 +190,10 @@ int run(const RunOptions& options) {
     const DesktopSources sources(centers, runLoop,
                                  {displaysOfX ? xDisplay : std::string(),
                                   qEnvironmentVariable("XDG_SESSION_ID").toStdString()});
+    const std::string refused = openDocuments(controller, documents);
+    if (!refused.empty()) {
+        tell(stderr, refused);
+    }
     std::atexit(endWithServer);
     inEventLoop = true;
     const int result = QApplication::exec();

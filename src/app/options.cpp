@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view kDisplayServices = "--display-services=";
 
 constexpr std::string_view kHelp =
-    R"(Usage: nocturo [--display-services=auto|randr|simulated[:N]]
+    R"(Usage: nocturo [--display-services=auto|randr|simulated[:N]] [FILE...]
 
 Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
 the HDTV range or through a colour filter. Runs until it is told to quit, and
@@ -24,14 +24,24 @@ Options:
   --help                    show this text
   --version                 show the version
 
-Starting Nocturo a second time toggles the effect of the one that runs.
+A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.
 )";
 
 } // namespace
 
 Options parseOptions(const std::vector<std::string>& arguments) {
     RunOptions options;
+    bool onlyDocuments = false;
     for (const std::string& argument : arguments) {
+        if (onlyDocuments || !argument.starts_with('-')) {
+            options.documents.push_back(argument);
+            continue;
+        }
+        if (argument == "--") {
+            onlyDocuments = true;
+            continue;
+        }
         if (argument == "--help" || argument == "-h") {
             return PrintAndExit{std::string(kHelp)};
         }

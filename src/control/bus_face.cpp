@@ -5,6 +5,7 @@
 #include "app/settings_table.h"
 #include "app/user_interface.h"
 #include "control/bus_values.h"
+#include "control/launcher_face.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "hotkeys/hot_key_center.h"
@@ -56,17 +57,13 @@ BusFace::~BusFace() {
 }
 
 bool BusFace::takeName(const QDBusConnection& bus) {
-    bus_ = bus;
-    // The object first: whoever sees the name may call at once.
-    bus_->registerObject(kObjectPath, this);
-    if (bus_->registerService(kBusName)) {
-        return true;
+    if (!bus_) {
+        bus_ = bus;
+        launcherFace_ = new LauncherFace(this, bus, controller_);
+        // The object first: whoever sees the name may call at once.
+        bus_->registerObject(kObjectPath, this);
     }
-    const QDBusMessage answer = bus_->call(
-        QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, QStringLiteral("Reopen")),
-        QDBus::Block, kReopenTimeoutMs);
-    // One that was just killed may be gone by now.
-    return answer.type() == QDBusMessage::ErrorMessage && bus_->registerService(kBusName);
+    return bus_->registerService(kBusName);
 }
 
 void BusFace::announceChanges() {
@@ -75,6 +72,9 @@ void BusFace::announceChanges() {
          {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
           NSApplicationDidChangeScreenParametersNotification, kDisturbanceNotification}) {
         localCenter_.addObserver(this, name, [this] { announce(); });
+    }
+    if (launcherFace_ != nullptr) {
+        launcherFace_->launchDidFinish();
     }
 }
 
@@ -334,6 +334,13 @@ void BusFace::refuse(const std::string& sentence) {
 
 void BusFace::fail(const QString& sentence) {
     sendErrorReply(kFailed, sentence);
+}
+
+bool reopenRunningApplication(const QDBusConnection& bus) {
+    const QDBusMessage answer = bus.call(
+        QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, QStringLiteral("Reopen")),
+        QDBus::Block, kReopenTimeoutMs);
+    return answer.type() != QDBusMessage::ErrorMessage;
 }
 
 } // namespace nocturo

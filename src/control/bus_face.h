@@ -15,6 +15,7 @@ namespace nocturo {
 class DefaultsStore;
 class DisturbanceWatch;
 class KeyboardLayout;
+class LauncherFace;
 class NDAppController;
 class NotificationCenter;
 class UserInterface;
@@ -44,14 +45,15 @@ class BusFace : public QObject, protected QDBusContext {
     ~BusFace() override;
 
     /// Puts the object on the bus and takes the application's name. False when another process has
-    /// it: then that one is asked to be re-opened. Calls wait until the event loop runs.
+    /// it; then it may be tried again. Calls wait until the event loop runs.
     bool takeName(const QDBusConnection& bus);
 
     /// Names and reads keys by this layout, which must outlive the face; null for none.
     void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
 
     /// Announces changes from now on. Call it after the launch, so that the controller, which
-    /// follows the same notifications, has acted before a change is announced.
+    /// follows the same notifications, has acted before a change is announced. Launchers' calls are
+    /// more than the launch from then on.
     void announceChanges();
 
     bool active() const;
@@ -102,8 +104,12 @@ class BusFace : public QObject, protected QDBusContext {
     const DisturbanceWatch& disturbances_;
     UserInterface& userInterface_;
     KeyboardLayout* layout_ = nullptr;
+    LauncherFace* launcherFace_ = nullptr; // a child of this object
     std::optional<QDBusConnection> bus_;
     QVariantMap announced_;
 };
+
+/// Has the application that owns its name on the bus be re-opened; false when it does not answer.
+bool reopenRunningApplication(const QDBusConnection& bus);
 
 } // namespace nocturo

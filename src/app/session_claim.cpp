@@ -1,0 +1,47 @@
+#include "app/session_claim.h"
+
+#include "control/bus_face.h"
+#include "control/launcher_face.h"
+#include "platform/desktop/session_bus.h"
+#include "platform/log.h"
+
+namespace nocturo {
+
+SessionClaim::SessionClaim(BusFace& face, const std::filesystem::path& runtimeDirectory,
+                           const QStringList& documents)
+    : bus_(connectToSessionBus()) {
+    if (!bus_) {
+        logInfo("nocturo.bus", "There is no session bus, so nocturoctl cannot reach Nocturo.");
+        askForLock(runtimeDirectory, documents);
+        return;
+    }
+    granted_ = face.takeName(*bus_);
+    if (!granted_ && !passOnOverBus(documents)) {
+        granted_ = face.takeName(*bus_); // one that was just killed may be gone by now
+    }
+}
+
+bool SessionClaim::passOnOverBus(const QStringList& documents) {
+    if (documents.isEmpty()) {
+        return reopenRunningApplication(*bus_);
+    }
+    const auto refusal = openInRunningApplication(*bus_, documents);
+    problem_ = refusal.value_or("The Nocturo that runs does not answer.");
+    return refusal.has_value();
+}
+
+void SessionClaim::askForLock(const std::filesystem::path& runtimeDirectory,
+                              const QStringList& documents) {
+    lock_.emplace(runtimeDirectory);
+    granted_ = lock_->isHeld();
+    if (granted_) {
+        return;
+    }
+    if (documents.isEmpty()) {
+        lock_->askHolderToReopen();
+    } else {
+        problem_ = "Without a session bus the Nocturo that runs cannot be given a document.";
+    }
+}
+
+} // namespace nocturo

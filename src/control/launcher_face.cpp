@@ -1,0 +1,108 @@
+#include "control/launcher_face.h"
+
+#include "app/app_controller.h"
+#include "platform/desktop/bus_call.h"
+
+#include <QCoreApplication>
+#include <QUrl>
+
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+const QString kBusName = QStringLiteral("org.nocturo.Nocturo");
+const QString kObjectPath = QStringLiteral("/org/nocturo/Nocturo");
+const QString kInterface = QStringLiteral("org.freedesktop.Application");
+const QString kFailed = QStringLiteral("org.nocturo.Error.Failed");
+
+// The one that runs may be asking its user something before it comes to open anything.
+constexpr int kOpenTimeoutMs = 5000;
+
+QString pathOf(const QString& uri) {
+    const QUrl url(uri);
+    return url.isLocalFile() ? url.toLocalFile() : uri;
+}
+
+} // namespace
+
+LauncherFace::LauncherFace(QObject* object, QDBusConnection bus, NDAppController& controller)
+    : QDBusAbstractAdaptor(object), bus_(std::move(bus)), controller_(controller) {}
+
+void LauncherFace::launchDidFinish() {
+    // The bus keeps the order: what it sent before its answer to this is here before the answer.
+    callLater(bus_,
+              QDBusMessage::createMethodCall(
+                  QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                  QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")),
+              this, [this](const QDBusMessage& /*answer*/) { launched_ = true; });
+}
+
+void LauncherFace::Activate(const QVariantMap& /*platformData*/) {
+    if (launched_) {
+        controller_.applicationShouldHandleReopen(false);
+    }
+}
+
+void LauncherFace::Open(const QStringList& uris, const QVariantMap& /*platformData*/,
+                        const QDBusMessage& message) {
+    QStringList paths;
+    for (const QString& uri : uris) {
+        paths.append(pathOf(uri));
+    }
+    const std::string refused = openDocuments(controller_, paths);
+    if (!refused.empty()) {
+        message.setDelayedReply(true);
+        bus_.send(message.createErrorReply(kFailed, QString::fromStdString(refused)));
+    }
+}
+
+void LauncherFace::ActivateAction(const QString& name, const QVariantList& /*parameter*/,
+                                  const QVariantMap& /*platformData*/) {
+    if (name == QLatin1String("toggle") && launched_) {
+        controller_.toggleGlobalEffect();
+    } else if (name == QLatin1String("preferences")) {
+        controller_.openPreferences();
+    } else if (name == QLatin1String("about")) {
+        controller_.openAboutBox();
+    } else if (name == QLatin1String("quit")) {
+        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
+    }
+}
+
+std::string openDocuments(NDAppController& controller, const QStringList& paths) {
+    QStringList refused;
+    for (const QString& path : paths) {
+        if (!controller.openFile(path.toStdString())) {
+            refused.append(u'"' + path + u'"');
+        }
+    }
+    if (refused.isEmpty()) {
+        return {};
+    }
+    const QString what = refused.size() == 1 ? QStringLiteral(" is not an effect document.")
+                                             : QStringLiteral(" are not effect documents.");
+    return (refused.join(QStringLiteral(", ")) + what).toStdString();
+}
+
+std::optional<std::string> openInRunningApplication(const QDBusConnection& bus,
+                                                    const QStringList& paths) {
+    QStringList uris;
+    for (const QString& path : paths) {
+        uris.append(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
+    }
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, QStringLiteral("Open"));
+    call << uris << QVariantMap();
+    const QDBusMessage answer = bus.call(call, QDBus::Block, kOpenTimeoutMs);
+    if (answer.type() != QDBusMessage::ErrorMessage) {
+        return std::string();
+    }
+    if (answer.errorName() == kFailed) {
+        return answer.errorMessage().toStdString();
+    }
+    return std::nullopt;
+}
+
+} // namespace nocturo
