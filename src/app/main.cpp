@@ -1,9 +1,12 @@
 #include "app/app_controller.h"
 #include "app/desktop_hot_keys.h"
 #include "app/disturbance_watch.h"
+#include "app/menus/desktop_menus.h"
 #include "app/options.h"
+#include "app/recent_documents.h"
 #include "app/session_claim.h"
 #include "app/wake_repeater.h"
+#include "app/window_restoration.h"
 #include "app/windows/app_windows.h"
 #include "control/bus_face.h"
 #include "control/launcher_face.h"
@@ -21,6 +24,7 @@
 #include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keeper.h"
+#include "platform/workspace/desktop_entries.h"
 #include "platform/workspace/desktop_sources.h"
 #include "platform/workspace/disturber_finder.h"
 #include "platform/x11/xcb_handles.h"
@@ -66,6 +70,15 @@ std::filesystem::path settingsPath() {
            "nocturo" / "settings.plist";
 }
 
+std::filesystem::path stateDirectory() {
+    std::filesystem::path directory = qEnvironmentVariable("XDG_STATE_HOME").toStdString();
+    if (!directory.is_absolute()) {
+        directory =
+            std::filesystem::path(qEnvironmentVariable("HOME").toStdString()) / ".local" / "state";
+    }
+    return directory / "nocturo";
+}
+
 /// Whether Qt, which ends the process where it finds no desktop, has one to show windows on.
 bool hasDesktop() {
     if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -89,6 +102,15 @@ QStringList absolutePaths(const std::vector<std::string>& documents) {
         paths.append(QFileInfo(QString::fromStdString(document)).absoluteFilePath());
     }
     return paths;
+}
+
+/// False when the user would rather quit.
+bool launch(NDAppController& controller, NotificationCenter& center) {
+    bool launched = false;
+    center.addObserver(&controller, NSApplicationDidFinishLaunchingNotification,
+                       [&] { launched = controller.applicationDidFinishLaunching(); });
+    center.post(NSApplicationDidFinishLaunchingNotification);
+    return launched;
 }
 
 bool inEventLoop = false;
@@ -180,20 +202,37 @@ int run(const RunOptions& options) {
 
     const auto guardWatch = whenReadable(displays.guardEndDescriptor, displays.processGuardEnd);
 
-    controller.applicationDidFinishLaunching();
-    const DesktopHotKeys hotKeys(xDisplay);
-    face.setKeyboardLayout(hotKeys.layout());
-    windows.setKeyboardLayout(hotKeys.layout());
-    controller.updateHotKey();
-    face.announceChanges();
-    const bool displaysOfX = displays.services->name() == "randr";
-    const DesktopSources sources(centers, runLoop,
-                                 {displaysOfX ? xDisplay : std::string(),
-                                  qEnvironmentVariable("XDG_SESSION_ID").toStdString()});
-    const std::string refused = openDocuments(controller, documents);
-    if (!refused.empty()) {
-        tell(stderr, refused);
-    }
+    const RecentDocuments recentDocuments(stateDirectory() / "recent-documents.plist");
+    DesktopMenus menus(controller, *defaults, centers.local, windows, recentDocuments,
+                       {connectToSessionBus(), xDisplay});
+    const DesktopEntries applications(DesktopEntries::dataDirectories());
+    controller.setInstalledApplications(&applications);
+    WindowRestoration windowRestoration(controller, stateDirectory() / "windows.plist");
+    std::optional<DesktopHotKeys> hotKeys;
+    std::optional<DesktopSources> sources;
+    // In the event loop, because it may ask the user and be told to end meanwhile.
+    callFirst([&] {
+        if (!launch(controller, centers.local)) {
+            QCoreApplication::quit();
+            return;
+        }
+        hotKeys.emplace(xDisplay);
+        face.setKeyboardLayout(hotKeys->layout());
+        windows.setKeyboardLayout(hotKeys->layout());
+        controller.updateHotKey();
+        face.announceChanges();
+        const bool displaysOfX = displays.services->name() == "randr";
+        sources.emplace(
+            centers, runLoop,
+            DesktopSources::Surroundings{displaysOfX ? xDisplay : std::string(),
+                                         qEnvironmentVariable("XDG_SESSION_ID").toStdString()});
+        const std::string refused = openDocuments(controller, documents);
+        if (!refused.empty()) {
+            tell(stderr, refused);
+        }
+        windowRestoration.restore();
+        windowRestoration.startKeeping();
+    });
     std::atexit(endWithServer);
     inEventLoop = true;
     const int result = QApplication::exec();

@@ -83,7 +83,7 @@ TEST_F(DisplayEvents, DisplaysComeAndGo) {
     ctl({"quit"});
     EXPECT_EQ(nocturo_->wait(), 0);
     EXPECT_EQ(shown(), "oooo");
-    EXPECT_EQ(nocturo_->errors(), "");
+    EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
 }
 
 // Three of four displays leave and come back at once, while another client writes ramps, its own or
@@ -109,7 +109,7 @@ void DisplayEvents::dockAndUndock(int rounds) {
     }
     ctl({"off"});
     EXPECT_EQ(shown(), "oooo");
-    EXPECT_EQ(nocturo_->errors(), "");
+    EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
 }
 
 TEST_F(DisplayEvents, ADockEndsRightWhateverOthersWriteMeanwhile) {

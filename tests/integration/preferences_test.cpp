@@ -25,9 +25,17 @@ class Preferences : public testing::Test {
         return id.substr(0, id.find('\n'));
     }
 
+    void SetUp() override {
+        session_.showWindows();
+        // With an effect selected, or the window would wait for an answer first.
+        session_.writeSettings("<key>NDGroupEffect</key><array>"
+                               "<string>NDHDTVLuminanceEffect</string></array>");
+        nocturo_ = session_.startNocturo();
+    }
+
     Session session_{2};
     XClient client_{session_.server().display()};
-    std::unique_ptr<Process> nocturo_ = session_.startNocturo();
+    std::unique_ptr<Process> nocturo_;
     std::filesystem::path file_ = session_.runtimeDirectory() / "mine.nocturo";
 };
 

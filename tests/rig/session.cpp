@@ -1,5 +1,6 @@
 #include "rig/session.h"
 
+#include <fstream>
 #include <stdexcept>
 
 namespace nocturo::rig {
@@ -20,6 +21,7 @@ Session::Session(int displays) : environment_(cleanEnvironment()) {
     environment_["DBUS_SESSION_BUS_ADDRESS"] = bus_.address();
     environment_["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=" + (home_.path() / "no-bus").string();
     environment_["XDG_SESSION_TYPE"] = "x11";
+    environment_["QT_QPA_PLATFORM"] = "offscreen";
     const std::pair<const char*, fs::path> directories[] = {
         {"XDG_CONFIG_HOME", home_.path() / "config"}, {"XDG_DATA_HOME", home_.path() / "data"},
         {"XDG_STATE_HOME", home_.path() / "state"},   {"XDG_CACHE_HOME", home_.path() / "cache"},
@@ -34,6 +36,16 @@ Session::Session(int displays) : environment_(cleanEnvironment()) {
         server_.emplace(displays);
         environment_["DISPLAY"] = server_->display();
     }
+}
+
+void Session::showWindows() {
+    environment_.erase("QT_QPA_PLATFORM");
+}
+
+void Session::writeSettings(const std::string& elements) const {
+    fs::create_directories(settingsFile().parent_path());
+    std::ofstream(settingsFile()) << "<plist version=\"1.0\"><dict>" << elements
+                                  << "</dict></plist>";
 }
 
 SessionBus& Session::systemBus() {

@@ -20,6 +20,9 @@ struct RunResult {
     std::string errors;
 };
 
+/// What Nocturo says where no effect is selected and nobody can be asked.
+inline const std::string kNoEffectSentence = "nocturo.app: No effect has been chosen.\n";
+
 /// A desktop session for a test: home, settings and runtime directories, session bus and X server,
 /// all its own. The programs that were built are found by name, others through PATH.
 class Session {
@@ -39,9 +42,18 @@ class Session {
     std::unique_ptr<Process> startMock(SessionBus& bus, const std::string& name,
                                        const std::vector<std::string>& arguments);
 
+    /// Programs started from then on show their windows on the X server. Before, they draw them
+    /// into memory, and nocturo answers its own questions.
+    void showWindows();
+
+    /// Replaces the settings of a Nocturo that does not run by the elements of a property list's
+    /// dictionary, as XML.
+    void writeSettings(const std::string& elements) const;
+
     /// What programs of this session are started with; tests may change it.
     Environment& environment() { return environment_; }
     std::filesystem::path settingsFile() const;
+    std::filesystem::path stateDirectory() const { return home_.path() / "state"; }
     std::filesystem::path runtimeDirectory() const { return home_.path() / "runtime"; }
 
     /// Runs a program to its end, which must not need input.

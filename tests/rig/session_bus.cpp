@@ -54,7 +54,8 @@ SessionBus::SessionBus() {
     const std::string directory = directory_.path();
     const std::string configuration = directory + "/bus.conf";
     std::ofstream(configuration) << "<busconfig><type>session</type><listen>unix:dir=" << directory
-                                 << "</listen><policy context=\"default\">"
+                                 << "</listen><servicedir>" << directory
+                                 << "</servicedir><policy context=\"default\">"
                                     "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
                                     "<allow eavesdrop=\"true\"/><allow own=\"*\"/>"
                                     "</policy></busconfig>";
@@ -67,6 +68,25 @@ SessionBus::SessionBus() {
         throw std::runtime_error("dbus-daemon did not start: " + process_->errors());
     }
     address_ = *line;
+}
+
+void SessionBus::offerService(const std::string& name, const std::string& program,
+                              const Environment& environment) {
+    std::ofstream(directory_.path() / (name + ".service"))
+        << "[D-BUS Service]\nName=" << name << "\nExec=" << program << "\n";
+    callWith("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+             "UpdateActivationEnvironment", [&](sd_bus_message* message) {
+                 int result = sd_bus_message_open_container(message, 'a', "{ss}");
+                 for (const auto& [variable, value] : environment) {
+                     if (result >= 0) {
+                         result = sd_bus_message_append(message, "{ss}", variable.c_str(),
+                                                        value.c_str());
+                     }
+                 }
+                 return result < 0 ? result : sd_bus_message_close_container(message);
+             });
+    call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "ReloadConfig",
+         "");
 }
 
 bool SessionBus::waitForName(const std::string& name, Process& owner) {

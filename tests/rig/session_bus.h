@@ -12,7 +12,7 @@
 namespace nocturo::rig {
 
 /// A session bus of the test's own, or what stands for the system bus: they are told apart only by
-/// the variable that names them. It starts no services by itself.
+/// the variable that names them. It starts no services but those that are offered.
 class SessionBus {
   public:
     /// Throws std::runtime_error when the bus does not start.
@@ -20,6 +20,10 @@ class SessionBus {
 
     /// For DBUS_SESSION_BUS_ADDRESS.
     const std::string& address() const { return address_; }
+
+    /// From then on the bus starts the program when somebody calls the name.
+    void offerService(const std::string& name, const std::string& program,
+                      const Environment& environment);
 
     /// Waits until somebody owns the name; false when `owner` ended before, or nobody did in time.
     bool waitForName(const std::string& name, Process& owner);

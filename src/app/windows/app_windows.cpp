@@ -8,8 +8,11 @@
 #include "preferences/window/preference_panel.h"
 
 #include <QBuffer>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QImage>
+#include <QLabel>
+#include <QMenuBar>
 #include <QPalette>
 
 #include <algorithm>
@@ -42,6 +45,12 @@ NDPreferencesController& AppWindows::preferencesController() {
             [this](CGDirectDisplayID display) { return capturedCurve(display); },
             [this](bool recording) { controller_.setRecordingHotKey(recording); }});
         preferenceController->setKeyboardLayout(layout_);
+        QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,
+                         preferenceController.get(), [this](const QString& path) {
+                             if (documentWasUsed) {
+                                 documentWasUsed(path);
+                             }
+                         });
         const auto follow = [this] { preferenceController->displaysDidChange(); };
         localCenter_.addObserver(this, kEffectActivationNotification, follow);
         localCenter_.addObserver(this, NSApplicationDidChangeScreenParametersNotification, follow);
@@ -67,8 +76,62 @@ void AppWindows::setKeyboardLayout(KeyboardLayout* layout) {
     }
 }
 
+void AppWindows::setMenuBar(QMenuBar* menuBar) {
+    menuBar_ = menuBar;
+    furnishPreferences();
+}
+
+void AppWindows::setNotice(const QString& notice) {
+    notice_ = notice;
+    furnishPreferences();
+}
+
+// The window is made when it is first needed, so what belongs to it may have to wait.
+void AppWindows::furnishPreferences() {
+    if (preferenceController == nullptr || !preferenceController->isWindowLoaded()) {
+        return;
+    }
+    QLayout* layout = preferenceController->window()->layout();
+    if (menuBar_ != nullptr && layout->menuBar() != menuBar_) {
+        layout->setMenuBar(menuBar_);
+    }
+    if (noticeLabel_ == nullptr) {
+        auto* grid = qobject_cast<QGridLayout*>(layout);
+        if (grid == nullptr) {
+            return;
+        }
+        noticeLabel_ = new QLabel(preferenceController->window());
+        noticeLabel_->setWordWrap(true);
+        grid->addWidget(noticeLabel_, grid->rowCount(), 0, 1, -1);
+    }
+    noticeLabel_->setText(notice_);
+    noticeLabel_->setVisible(!notice_.isEmpty());
+}
+
+void AppWindows::askForDocument() {
+    showPreferences();
+    preferencesController().restoreEffect();
+}
+
+void AppWindows::askWhereToSave() {
+    showPreferences();
+    preferencesController().saveEffect();
+}
+
+void AppWindows::closePreferences() {
+    if (preferencesVisible()) {
+        preferenceController->window()->close();
+    }
+}
+
 void AppWindows::showPreferences() {
+    loadPreferences();
     preferencesController().showWindow();
+}
+
+bool AppWindows::preferencesVisible() const {
+    return preferenceController != nullptr && preferenceController->isWindowLoaded() &&
+           preferenceController->window()->isVisible();
 }
 
 void AppWindows::showAboutBox() {
@@ -84,13 +147,9 @@ void AppWindows::setAboutBoxBackgroundColor(const OpaqueColor& color) {
         QColor::fromRgbF(part(color.red), part(color.green), part(color.blue)));
 }
 
-bool AppWindows::preferencesVisible() const {
-    return preferenceController != nullptr && preferenceController->isWindowLoaded() &&
-           preferenceController->window()->isVisible();
-}
-
 void AppWindows::loadPreferences() {
     preferencesController().loadWindow();
+    furnishPreferences();
 }
 
 bool AppWindows::openEffectFile(const std::string& path) {

@@ -3,6 +3,12 @@
 #include "app/user_interface.h"
 #include "preferences/window/preferences_controller.h"
 
+#include <QLabel>
+#include <QMenuBar>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
 #include <memory>
 
 namespace nocturo {
@@ -24,6 +30,20 @@ class AppWindows : public UserInterface {
     /// Must outlive the windows or be taken away with null.
     void setKeyboardLayout(KeyboardLayout* layout);
 
+    /// The menu bar of the preference window, which takes it over when it is loaded.
+    void setMenuBar(QMenuBar* menuBar);
+
+    /// One line above everything else in the preference window; none when empty.
+    void setNotice(const QString& notice);
+
+    /// Ask for a document to open or a place to save one, and go on from there.
+    void askForDocument();
+    void askWhereToSave();
+    void closePreferences();
+
+    /// Called with the path of every document that was opened, or saved at the user's wish.
+    std::function<void(const QString& path)> documentWasUsed;
+
     void showPreferences() override;
     void showAboutBox() override;
     void setAboutBoxBackgroundColor(const OpaqueColor& color) override;
@@ -35,6 +55,7 @@ class AppWindows : public UserInterface {
 
   private:
     NDPreferencesController& preferencesController();
+    void furnishPreferences();
     const ZQGammaCurve* capturedCurve(CGDirectDisplayID display) const;
 
     NDAppController& controller_;
@@ -42,6 +63,9 @@ class AppWindows : public UserInterface {
     NotificationCenter& localCenter_;
     NotificationCenter& distributedCenter_;
     KeyboardLayout* layout_ = nullptr;
+    QPointer<QMenuBar> menuBar_;
+    QString notice_;
+    QPointer<QLabel> noticeLabel_;
     std::unique_ptr<NDPreferencesController> preferenceController;
     std::unique_ptr<ZQAboutBoxController> aboutBoxController_;
 };

@@ -1,5 +1,7 @@
 #include "platform/desktop/qt_run_loop.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QTimer>
 
 #include <utility>
@@ -28,6 +30,24 @@ class QtTimer : public Timer {
     std::function<void()> action_;
 };
 
+class FirstCall : public QObject {
+  public:
+    explicit FirstCall(std::function<void()> function) : function_(std::move(function)) {}
+
+  protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::User) {
+            return QObject::event(event);
+        }
+        function_();
+        deleteLater();
+        return true;
+    }
+
+  private:
+    std::function<void()> function_;
+};
+
 } // namespace
 
 std::unique_ptr<Timer> QtRunLoop::scheduleRepeatingTimer(std::chrono::milliseconds interval,
@@ -38,6 +58,11 @@ std::unique_ptr<Timer> QtRunLoop::scheduleRepeatingTimer(std::chrono::millisecon
 std::unique_ptr<Timer> QtRunLoop::scheduleTimer(std::chrono::milliseconds delay,
                                                 std::function<void()> action) {
     return std::make_unique<QtTimer>(delay, true, std::move(action));
+}
+
+void callFirst(std::function<void()> function) {
+    QCoreApplication::postEvent(new FirstCall(std::move(function)), new QEvent(QEvent::User),
+                                Qt::HighEventPriority);
 }
 
 } // namespace nocturo

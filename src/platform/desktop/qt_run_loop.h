@@ -13,4 +13,7 @@ class QtRunLoop : public RunLoop {
                                          std::function<void()> action) override;
 };
 
+/// Calls the function from the event loop, before anything else that has arrived for it.
+void callFirst(std::function<void()> function);
+
 } // namespace nocturo

@@ -113,6 +113,10 @@ class NDPreferencesController : public QObject {
     /// Writes what the controls show, which must be loaded; false when that failed.
     bool writeEffectFile(const QString& path) const;
 
+  Q_SIGNALS:
+    /// The document at `path` was opened, or saved at the user's wish.
+    void documentWasUsed(const QString& path);
+
   private:
     void connectEffects();
     void connectSettings();

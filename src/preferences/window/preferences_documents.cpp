@@ -89,6 +89,7 @@ void NDPreferencesController::savePanelDidEnd(const QFileDialog& panel, int retu
                   localized("Could not save settings at this location."));
         return;
     }
+    Q_EMIT documentWasUsed(path);
     if (hideExtension) {
         setExtensionHidden(path.toStdString(), true);
     }
@@ -138,6 +139,7 @@ bool NDPreferencesController::openEffectFile(const QString& path) {
     if (!document) {
         return false;
     }
+    Q_EMIT documentWasUsed(path);
     if (!isWindowLoaded()) {
         return true;
     }

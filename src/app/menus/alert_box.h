@@ -1,0 +1,10 @@
+#pragma once
+
+#include "app/desktop_face.h"
+
+namespace nocturo {
+
+/// DesktopFace::runAlert with a window of Qt.
+AlertAnswer runAlertBox(const Alert& alert);
+
+} // namespace nocturo

@@ -1,0 +1,87 @@
+#include "app/menus/status_image.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace nocturo {
+
+namespace {
+
+constexpr qreal kGrid = 16;
+
+// The same shapes as the image files of the icon theme: a display, with the effect's sign in it.
+// While the effect is on the display is filled and the sign cut out of it.
+QPainterPath shape(bool active) {
+    QPainterPath screen;
+    screen.addRoundedRect(QRectF(0, 1, 16, 12), 2, 2);
+    if (!active) {
+        screen.addRect(QRectF(2, 3, 12, 8));
+    }
+    QPainterPath stand;
+    stand.addRect(QRectF(6, 13, 4, 1));
+    stand.addRect(QRectF(4, 14, 8, 1));
+    QPainterPath sign;
+    sign.addEllipse(QPointF(8, 7), 3, 3);
+    QPainterPath half; // the right one
+    half.moveTo(8, 5);
+    half.arcTo(QRectF(6, 5, 4, 4), 90, -180);
+    half.closeSubpath();
+    sign = sign.subtracted(half);
+    return (active ? screen.subtracted(sign) : screen.united(sign)).united(stand);
+}
+
+class StatusImageEngine : public QIconEngine {
+  public:
+    StatusImageEngine(bool active, const QColor& color) : active_(active), color_(color) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/,
+               QIcon::State /*state*/) override {
+        const qreal side = std::min(rect.width(), rect.height());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.x() + (rect.width() - side) / 2,
+                           rect.y() + (rect.height() - side) / 2);
+        painter->scale(side / kGrid, side / kGrid);
+        painter->fillPath(shape(active_), color_);
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        return {QSize(16, 16), QSize(22, 22), QSize(24, 24), QSize(32, 32), QSize(48, 48)};
+    }
+
+    // Panels take this name rather than pixels, where they have an image of that name.
+    QString iconName() override {
+        const QString name = active_ ? QStringLiteral("nocturo-status-active-symbolic")
+                                     : QStringLiteral("nocturo-status-symbolic");
+        return QIcon::hasThemeIcon(name) ? name : QString();
+    }
+
+    QString key() const override { return QStringLiteral("nocturo-status"); }
+    QIconEngine* clone() const override { return new StatusImageEngine(*this); }
+
+  private:
+    bool active_;
+    QColor color_;
+};
+
+} // namespace
+
+QIcon statusImage(const QString& name, const QColor& color) {
+    const bool active = name == QLatin1String(kStatusActiveTemplate);
+    if (!active && name != QLatin1String(kStatusTemplate)) {
+        return {};
+    }
+    return QIcon(new StatusImageEngine(active, color));
+}
+
+} // namespace nocturo

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QIcon>
+
+namespace nocturo {
+
+/// The status item's image while the effect is off.
+inline constexpr const char* kStatusTemplate = "NDStatusTemplate";
+
+/// The status item's image while the effect is on.
+inline constexpr const char* kStatusActiveTemplate = "NDStatusActiveTemplate";
+
+/// The template image of that name, which has no colours of its own. A panel that looks for it in
+/// the icon theme gives it the panel's; where it is drawn here it has `color`. An image without
+/// content for any other name.
+QIcon statusImage(const QString& name, const QColor& color);
+
+} // namespace nocturo

@@ -1,0 +1,56 @@
+#include "app/window_restoration.h"
+
+#include "app/app_controller.h"
+#include "platform/log.h"
+#include "platform/settings/settings_file.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QSessionManager>
+
+#include <system_error>
+#include <utility>
+
+namespace nocturo {
+
+WindowRestoration::WindowRestoration(NDAppController& controller, std::filesystem::path file)
+    : controller_(controller), file_(std::move(file)) {
+    qApp->installEventFilter(this);
+}
+
+void WindowRestoration::restore() {
+    const PropertyListFileContents contents = readPropertyListFile(file_);
+    controller_.didDecodeRestorableState(contents.dictionary);
+}
+
+void WindowRestoration::startKeeping() {
+    keeping_ = true;
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+        save();
+        // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
+        session.setRestartHint(QSessionManager::RestartNever);
+    });
+}
+
+bool WindowRestoration::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != qApp || event->type() != QEvent::Quit) {
+        return false;
+    }
+    if (keeping_) {
+        save();
+    }
+    // Qt would close the windows first, and go on running if one of them has a question.
+    QCoreApplication::exit(0);
+    return true;
+}
+
+void WindowRestoration::save() const {
+    PropertyDictionary state;
+    controller_.willEncodeRestorableState(state);
+    if (const int error = writeSettingsFile(file_, state).errorNumber) {
+        logWarning("nocturo.app", "Which windows are open cannot be kept in " + file_.string() +
+                                      ": " + std::generic_category().message(error) + ".");
+    }
+}
+
+} // namespace nocturo
