@@ -107,6 +107,12 @@ TEST_F(Application, LaunchersStartAndDriveIt) {
     }));
     activateAction("toggle");
     EXPECT_EQ(shown(), "ii");
+    // The dock's menu, whose first item switches.
+    const char* menu = "/org/nocturo/Nocturo/LauncherMenu";
+    const char* dbusmenu = "com.canonical.dbusmenu";
+    session_.bus().call(kName, menu, dbusmenu, "GetLayout", "iias", 0, -1, 0);
+    session_.bus().call(kName, menu, dbusmenu, "Event", "isvu", 1, "clicked", "s", "", 0);
+    EXPECT_TRUE(becomes("oo"));
     activateAction("preferences");
     EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
     const std::string uri = "file://" + writtenDocument();
@@ -114,6 +120,7 @@ TEST_F(Application, LaunchersStartAndDriveIt) {
     EXPECT_THROW(session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1,
                                      "file:///none.nocturo", 0),
                  std::runtime_error);
+    activateAction("toggle");
     activateAction("quit");
     EXPECT_TRUE(allOwnWithin());
     waitForTheBus();

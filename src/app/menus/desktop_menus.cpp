@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/menus/alert_box.h"
+#include "app/menus/launcher_menu.h"
 #include "app/menus/taskbar_presence.h"
 #include "app/recent_documents.h"
 #include "app/windows/app_windows.h"
@@ -22,6 +23,10 @@ struct DesktopMenus::Menus {
         : mainMenu(documents, handlers),
           statusItem(statusMenu, surroundings, [&controller] { controller.activateEffect(); }) {
         statusActivateItem = fill(statusMenu, controller);
+        if (surroundings.bus) {
+            launcherMenu.emplace(*surroundings.bus);
+            dockActivateItem = fill(launcherMenu->menu(), controller);
+        }
     }
 
     /// The activate item.
@@ -42,9 +47,12 @@ struct DesktopMenus::Menus {
     }
 
     MainMenu mainMenu;
+    std::optional<LauncherMenu> launcherMenu; // where there is a bus
     QMenu statusMenu;
+    QAction* dockActivateItem = nullptr;
     QAction* statusActivateItem = nullptr;
     std::optional<NDScreenOptionMenuManager> mainScreens;
+    std::optional<NDScreenOptionMenuManager> launcherScreens;
     std::optional<NDScreenOptionMenuManager> statusScreens;
     StatusItem statusItem;
     TaskbarPresence taskbarPresence;
@@ -104,7 +112,8 @@ AlertAnswer DesktopMenus::runAlert(const Alert& alert) {
 void DesktopMenus::setActivateItemTitles(bool active) {
     const QString title = localized(active ? "Deactivate Effect" : "Activate Effect");
     Menus& all = menus();
-    for (QAction* item : {all.mainMenu.activateItem(), all.statusActivateItem}) {
+    for (QAction* item :
+         {all.mainMenu.activateItem(), all.dockActivateItem, all.statusActivateItem}) {
         if (item != nullptr) {
             item->setText(title);
         }
@@ -126,6 +135,10 @@ void DesktopMenus::makeScreenMenus() {
         manager.emplace(defaults_, localCenter_, menu, activateItem, nullptr, false, false, indent);
     };
     make(all.mainScreens, *all.mainMenu.effectMenu(), all.mainMenu.activateItem(), 0);
+    if (all.launcherMenu) {
+        make(all.launcherScreens, all.launcherMenu->menu(), all.dockActivateItem, 1);
+        all.launcherMenu->offer();
+    }
     make(all.statusScreens, all.statusMenu, all.statusActivateItem, 1);
 }
 
