@@ -75,6 +75,31 @@ TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
     EXPECT_FALSE(isShown("Preferences"));
 }
 
+TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
+    const std::filesystem::path entries =
+        session_.environment().at("XDG_DATA_HOME") + "/applications";
+    std::filesystem::create_directories(entries);
+    std::ofstream(entries / "fluxgui.desktop") << "[Desktop Entry]\nType=Application\nName=f.lux\n";
+    selectInvert();
+    nocturo_ = session_.startNocturo();
+    ASSERT_FALSE(windowCalled("^Nocturo$").empty());
+    ctl({"toggle"});
+    EXPECT_EQ(shown(), "oo");
+    nocturo_->signal(SIGTERM); // which is no answer
+    ASSERT_EQ(nocturo_->wait(), 0);
+
+    nocturo_ = session_.startNocturo();
+    const std::string alert = windowCalled("^Nocturo$");
+    session_.run("xdotool", {"mousemove", "--window", alert, "5", "5", "key", "Return"});
+    EXPECT_TRUE(becomes("ii"));
+    ctl({"quit"});
+    ASSERT_EQ(nocturo_->wait(), 0);
+
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(becomes("ii"));
+    EXPECT_FALSE(isShown("^Nocturo$"));
+}
+
 TEST_F(Application, DocumentsGoToTheOneThatRuns) {
     selectInvert();
     nocturo_ = session_.startNocturo();
