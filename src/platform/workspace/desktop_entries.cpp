@@ -89,7 +89,10 @@ std::optional<InstalledApplication> DesktopEntries::entryNamed(const std::string
             return std::nullopt;
         }
         std::string shown = localText(entry, G_KEY_FILE_DESKTOP_KEY_NAME);
-        return InstalledApplication{shown.empty() ? name : std::move(shown),
+        if (shown.empty()) {
+            shown = name;
+        }
+        return InstalledApplication{std::move(shown),
                                     localText(entry, G_KEY_FILE_DESKTOP_KEY_ICON)};
     }
     return std::nullopt;
