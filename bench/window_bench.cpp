@@ -88,6 +88,7 @@ void measureShowing() {
     std::vector<double> later;
     for (int round = 0; round < 50; ++round) {
         rig::Session session(4);
+        session.showWindows();
         const auto nocturo = session.startNocturo();
         setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
         BusClient client;
@@ -162,6 +163,7 @@ int stepThrough(rig::Session& session, rig::XKeyboard& keyboard, std::vector<dou
 
 void measureSlider() {
     rig::Session session(4);
+    session.showWindows();
     const auto nocturo = session.startNocturo();
     setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
     BusClient client;
