@@ -11,6 +11,8 @@ packages=(
   ninja-build               # building
   pkg-config                # finding libraries
   qt6-base-dev              # event loop, bus, pictures
+  qt6-tools-dev             # texts in other languages
+  qt6-l10n-tools            # ...
   libqt6svg6                # icons
   libplist-dev              # property lists
   libglib2.0-dev            # desktop entries
@@ -110,7 +112,7 @@ list_elsewhere() {
   done
   echo "This is not Debian or a relative of it, so nothing is installed. Nocturo needs:"
   echo "  programs:  ${programs[*]}"
-  echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Widgets and DBus"
+  echo "  libraries: ${modules[*]} (as pkg-config names them), Qt 6.4 or later with Widgets, DBus and LinguistTools"
   echo "  Xorg's dummy video driver for the tests; for lint: ${linters[*]}; for fuzz: clang++"
   if [ "${#wanted[@]}" -gt 0 ]; then
     echo "Missing for make lint: ${wanted[*]}"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/desktop/bundle_information.h"
+#include "platform/desktop/localized.h"
 
 #include <QSizeF>
 #include <QString>
@@ -24,9 +25,11 @@ class ZQAboutBoxScrollView;
 /// must outlive it.
 class ZQAboutBoxController {
   public:
-    /// `creditsFile` is an HTML document; without it the box has no credits.
+    /// `creditsFile` is an HTML document, the one in the user's language unless another is given;
+    /// without it the box has no credits.
     explicit ZQAboutBoxController(BundleInformation bundle = BundleInformation::mainBundle(),
-                                  QString creditsFile = QStringLiteral(":/bundle/Credits.html"));
+                                  QString creditsFile = QStringLiteral(":/bundle/") +
+                                                        localized("Credits.html"));
     ~ZQAboutBoxController();
     ZQAboutBoxController(const ZQAboutBoxController&) = delete;
     ZQAboutBoxController& operator=(const ZQAboutBoxController&) = delete;

@@ -17,6 +17,7 @@
 #include "platform/desktop/runtime_directory.h"
 #include "platform/desktop/session_bus.h"
 #include "platform/desktop/socket_watch.h"
+#include "platform/desktop/translations.h"
 #include "platform/displays/display_functions.h"
 #include "platform/displays/guarded/guard_process.h"
 #include "platform/log.h"
@@ -265,6 +266,7 @@ int main(int argc, char* argv[]) {
     PosixSignals::block(kSignals);
     choosePlatform();
     const QApplication application(argc, argv);
+    installTranslations(*QCoreApplication::instance());
     QApplication::setApplicationName(QStringLiteral("nocturo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Nocturo"));
     QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));

@@ -7,6 +7,7 @@
 #include "effects/group_effect.h"
 #include "platform/desktop/qt_run_loop.h"
 #include "platform/desktop/runtime_directory.h"
+#include "platform/desktop/translations.h"
 #include "platform/displays/display_factory.h"
 #include "platform/displays/display_functions.h"
 #include "platform/notification_center.h"
@@ -124,6 +125,7 @@ int run(const QStringList& arguments) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    installTranslations(*QCoreApplication::instance());
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
         std::fputs("Usage: window_pictures WINDOW FILE [dark] [rtl] [long]\n", stderr);

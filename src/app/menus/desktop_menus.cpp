@@ -31,18 +31,18 @@ struct DesktopMenus::Menus {
 
     /// The activate item.
     static QAction* fill(QMenu& menu, NDAppController& controller) {
-        const auto add = [&menu](const char* english, auto action) {
-            QAction* item = menu.addAction(localized(english));
+        const auto add = [&menu](const QString& title, auto action) {
+            QAction* item = menu.addAction(title);
             QObject::connect(item, &QAction::triggered, item, action);
             return item;
         };
         QAction* activateItem =
-            add("Activate Effect", [&controller] { controller.activateEffect(); });
+            add(localized("Activate Effect"), [&controller] { controller.activateEffect(); });
         menu.addSeparator();
-        add("Preferences...", [&controller] { controller.openPreferences(); });
-        add("About Nocturo", [&controller] { controller.openAboutBox(); });
+        add(localized("Preferences..."), [&controller] { controller.openPreferences(); });
+        add(localized("About Nocturo"), [&controller] { controller.openAboutBox(); });
         menu.addSeparator();
-        add("Quit Nocturo", [] { QCoreApplication::quit(); });
+        add(localized("Quit Nocturo"), [] { QCoreApplication::quit(); });
         return activateItem;
     }
 

@@ -14,9 +14,9 @@ namespace nocturo {
 
 namespace {
 
-QAction* add(QMenu& menu, const char* english, const std::function<void()>& handler,
+QAction* add(QMenu& menu, const QString& title, const std::function<void()>& handler,
              const QKeySequence& keys = {}) {
-    QAction* item = menu.addAction(localized(english));
+    QAction* item = menu.addAction(title);
     item->setShortcut(keys);
     QObject::connect(item, &QAction::triggered, item, handler);
     return item;
@@ -39,7 +39,7 @@ void fillRecent(QMenu& menu, const RecentDocuments& documents,
     }
     const bool any = !menu.isEmpty();
     menu.addSeparator();
-    add(menu, "Clear Menu", [&documents] { documents.clear(); })->setEnabled(any);
+    add(menu, localized("Clear Menu"), [&documents] { documents.clear(); })->setEnabled(any);
 }
 
 } // namespace
@@ -57,31 +57,33 @@ MainMenu::~MainMenu() {
 
 void MainMenu::addFileMenu(const RecentDocuments& documents, const Handlers& handlers) {
     QMenu& file = *bar_->addMenu(localized("&File"));
-    showKeys(*add(file, "&Open...", handlers.openDocument), QKeySequence::Open);
+    showKeys(*add(file, localized("&Open..."), handlers.openDocument), QKeySequence::Open);
     QMenu* recent = file.addMenu(localized("Open &Recent"));
     recent->setToolTipsVisible(true);
     const auto fill = [recent, &documents, open = handlers.openRecentDocument] {
         fillRecent(*recent, documents, open);
     };
     QObject::connect(recent, &QMenu::aboutToShow, recent, fill);
-    showKeys(*add(file, "&Save...", handlers.saveDocument), QKeySequence::Save);
+    showKeys(*add(file, localized("&Save..."), handlers.saveDocument), QKeySequence::Save);
     file.addSeparator();
-    add(file, "&Preferences...", handlers.openPreferences, QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    add(file, localized("&Preferences..."), handlers.openPreferences,
+        QKeySequence(Qt::CTRL | Qt::Key_Comma));
     file.addSeparator();
-    showKeys(*add(file, "&Close", handlers.closeWindow), QKeySequence::Close);
+    showKeys(*add(file, localized("&Close"), handlers.closeWindow), QKeySequence::Close);
     add(
-        file, "&Quit Nocturo", [] { QCoreApplication::quit(); }, QKeySequence(Qt::CTRL | Qt::Key_Q))
+        file, localized("&Quit Nocturo"), [] { QCoreApplication::quit(); },
+        QKeySequence(Qt::CTRL | Qt::Key_Q))
         ->setMenuRole(QAction::QuitRole);
 }
 
 void MainMenu::addEffectMenu(const Handlers& handlers) {
     effectMenu_ = bar_->addMenu(localized("Effect"));
-    activateItem_ = add(*effectMenu_, "Activate Effect", handlers.activate);
+    activateItem_ = add(*effectMenu_, localized("Activate Effect"), handlers.activate);
 }
 
 void MainMenu::addHelpMenu(const Handlers& handlers) {
     QMenu& help = *bar_->addMenu(localized("Help"));
-    add(help, "&About Nocturo", handlers.openAboutBox)->setMenuRole(QAction::AboutRole);
+    add(help, localized("&About Nocturo"), handlers.openAboutBox)->setMenuRole(QAction::AboutRole);
 }
 
 } // namespace nocturo

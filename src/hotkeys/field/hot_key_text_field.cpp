@@ -2,6 +2,7 @@
 
 #include "hotkeys/field/hot_key_text_field_editor.h"
 #include "hotkeys/key_naming.h"
+#include "platform/desktop/localized.h"
 #include "platform/keyboard/modifier_flags.h"
 #include "platform/keyboard/virtual_key_codes.h"
 #include "platform/log.h"
@@ -52,8 +53,8 @@ HXHotKeyTextField::HXHotKeyTextField(QWidget* parent) : QLineEdit(parent) {
     setContextMenuPolicy(Qt::NoContextMenu);
     setAlignment(Qt::AlignCenter);
     setCursor(Qt::ArrowCursor);
-    setPlaceholderText(tr("Type a shortcut"));
-    setAccessibleName(tr("Hot key"));
+    setPlaceholderText(localized("Type a shortcut"));
+    setAccessibleName(localized("Hot key"));
     describe();
 }
 
@@ -152,8 +153,9 @@ void HXHotKeyTextField::didReleaseKeys() {
 
 void HXHotKeyTextField::describe() {
     // Also how a screen reader hears of the change.
-    const auto advice = recording_ ? tr("Press the new shortcut, or Escape to leave it as it was.")
-                                   : tr("Click or press Space to record another shortcut.");
+    const auto advice = recording_
+                            ? localized("Press the new shortcut, or Escape to leave it as it was.")
+                            : localized("Click or press Space to record another shortcut.");
     setToolTip(advice);
     const auto name = recording_ ? QString() : spokenName();
     setAccessibleDescription(name.isEmpty() ? advice : name + QStringLiteral(". ") + advice);
@@ -166,9 +168,10 @@ QString HXHotKeyTextField::spokenName() const {
     }
     const auto flags = hotKey_->modifierFlags();
     QStringList parts;
-    for (const auto& [mask, name] :
-         {std::pair(NSControlKeyMask, tr("Control")), std::pair(NSAlternateKeyMask, tr("Alt")),
-          std::pair(NSShiftKeyMask, tr("Shift")), std::pair(NSCommandKeyMask, tr("Super"))}) {
+    for (const auto& [mask, name] : {std::pair(NSControlKeyMask, localized("Control")),
+                                     std::pair(NSAlternateKeyMask, localized("Alt")),
+                                     std::pair(NSShiftKeyMask, localized("Shift")),
+                                     std::pair(NSCommandKeyMask, localized("Super"))}) {
         if ((flags & mask) != 0) {
             parts << name;
         }

@@ -1,0 +1,124 @@
+#!/usr/bin/env python3
+"""Brings the tables of texts in resources/translations into step with the sources.
+
+tools/texts.py              all tables
+tools/texts.py nl pt_BR     those of these languages, made anew where there is none
+
+Texts that a table lacks are added to it, marked as unfinished, and those that the program shows no
+longer are taken out. Qt Linguist does the rest.
+"""
+
+import pathlib
+import re
+import sys
+import xml.etree.ElementTree as ElementTree
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+DEFAULT_TABLE = "Localizable"
+# The functions themselves, and alerts, whose texts are found where they are set.
+HANDED_ON = {"localized.h", "localized.cpp", "alert_box.cpp"}
+
+LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
+CODE = re.compile(r'"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)+\'|(//[^\n]*|/\*.*?\*/)', re.DOTALL)
+CALL = re.compile(r"\blocalized\(")
+TEXT = re.compile(rf'\s*{LITERALS}(?:,\s*"(\w+)"\s*)?\)')
+CHOICE = re.compile(rf"[^\"();]*\?\s*{LITERALS}:\s*{LITERALS}\)")
+ALERT = re.compile(
+    rf"\bAlert (\w+)|\b(\w+)\.(table|title|message|defaultButton|alternateButton) =\s*{LITERALS};")
+
+
+def joined(literals):
+    parts = re.findall(r'"((?:[^"\\]|\\.)*)"', literals)
+    return re.sub(r"\\(.)", lambda found: {"n": "\n", "t": "\t"}.get(found[1], found[1]),
+                  "".join(parts))
+
+
+def texts_of_code(path):
+    code = CODE.sub(lambda found: " " if found[1] else found[0], path.read_text("utf-8"))
+    for call in CALL.finditer(code):
+        if path.name in HANDED_ON:
+            continue
+        text = TEXT.match(code, call.end())
+        choice = CHOICE.match(code, call.end())
+        if text:
+            yield text[2] or DEFAULT_TABLE, joined(text[1])
+        elif choice:
+            yield DEFAULT_TABLE, joined(choice[1])
+            yield DEFAULT_TABLE, joined(choice[2])
+        else:
+            line = code.count("\n", 0, call.start()) + 1
+            raise ValueError(f"{path}: localized() near line {line} takes what is no literal text, "
+                             "which cannot be found for the tables")
+    table = DEFAULT_TABLE
+    for found in ALERT.finditer(code):
+        if found[1]:
+            table = DEFAULT_TABLE
+        elif found[3] == "table":
+            table = joined(found[4])
+        else:
+            yield table, joined(found[4])
+
+
+def texts_of_form(path):
+    form = ElementTree.parse(path).getroot()
+    for text in form.iter("string"):
+        if text.text and text.get("notr") != "true":
+            yield form.findtext("class"), text.text
+
+
+def texts_of_program(root=ROOT):
+    """Every text as a pair of its table and its English, once, in the order of the sources."""
+    found = {}
+    for path in sorted((root / "resources").glob("*.ui")):
+        found.update(dict.fromkeys(texts_of_form(path)))
+    for path in sorted((root / "src").rglob("*")):
+        if path.suffix in (".cpp", ".h"):
+            found.update(dict.fromkeys(texts_of_code(path)))
+    return list(found)
+
+
+def is_for(language, english):
+    """Whether a table has to have the text; that of English only what is no English itself."""
+    return language != "en" or english.startswith("[")
+
+
+def table_path(root, language):
+    return root / "resources" / "translations" / f"nocturo_{language}.ts"
+
+
+def update(root, language):
+    path = table_path(root, language)
+    table = ElementTree.Element("TS", version="2.1", language=language, sourcelanguage="en")
+    known = {}
+    if path.exists():
+        for context in ElementTree.parse(path).getroot().iter("context"):
+            for message in context.iter("message"):
+                known[context.findtext("name"), message.findtext("source")] = message
+    contexts = {}
+    for key in texts_of_program(root):
+        name, english = key
+        if not is_for(language, english):
+            continue
+        if name not in contexts:
+            contexts[name] = ElementTree.SubElement(table, "context")
+            ElementTree.SubElement(contexts[name], "name").text = name
+        if key not in known:
+            message = known[key] = ElementTree.Element("message")
+            ElementTree.SubElement(message, "source").text = english
+            ElementTree.SubElement(message, "translation", type="unfinished")
+        contexts[name].append(known[key])
+    ElementTree.indent(table, "    ")
+    path.write_text('<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n' +
+                    ElementTree.tostring(table, encoding="unicode") + "\n", encoding="utf-8")
+
+
+def languages(root=ROOT):
+    return sorted(path.stem.removeprefix("nocturo_")
+                  for path in table_path(root, "").parent.glob("nocturo_*.ts"))
+
+
+if __name__ == "__main__":
+    if any(argument.startswith("-") for argument in sys.argv[1:]):
+        sys.exit(__doc__)
+    for chosen in sys.argv[1:] or languages():
+        update(ROOT, chosen)
