@@ -266,12 +266,15 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrder) {
                             "saveButton", "closeButton"));
 }
 
-TEST_F(PreferencesWindow, LabelsGiveTheirSlidersTheFocus) {
+TEST_F(PreferencesWindow, MnemonicsReachSlidersAndButtons) {
     NDGroupEffect::effect().addEffect("NDDimEffect");
     show();
     QTest::keyClick(controller.window(), Qt::Key_L, Qt::AltModifier);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     EXPECT_FLOAT_EQ(NDDimEffect::level(), -0.49F);
+    QTest::keyClick(controller.window(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return controller.window()->findChild<QFileDialog*>() != nullptr; }));
 }
 
 class EffectDocuments : public PreferencesWindow {

@@ -2,11 +2,11 @@
 
 #include "platform/desktop/localized.h"
 #include "platform/log.h"
+#include "preferences/window/sheet.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QIcon>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QStyle>
 
@@ -70,6 +70,7 @@ AlertAnswer runAlertBox(const Alert& alert) {
     box.setDefaultButton(first);
     auto* harmless = alert.harmless == AlertAnswer::defaultButton ? first : second;
     box.setEscapeButton(harmless);
+    widenMessage(box);
     box.exec();
     return !end.ended() && box.clickedButton() == first ? AlertAnswer::defaultButton
                                                         : AlertAnswer::alternateButton;

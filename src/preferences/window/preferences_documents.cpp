@@ -15,6 +15,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace nocturo {
 
@@ -48,8 +49,11 @@ void NDPreferencesController::connectDocuments() {
     connect(ui_->saveButton, &QAbstractButton::clicked, this, &NDPreferencesController::saveEffect);
     connect(panel_.get(), &PreferencePanel::documentDropped, this,
             &NDPreferencesController::documentWasDropped);
-    ui_->openButton->setShortcut(QKeySequence::Open);
-    ui_->saveButton->setShortcut(QKeySequence::Save);
+    // Of the window: a button's own would take its mnemonic's place.
+    connect(new QShortcut(QKeySequence::Open, panel_.get()), &QShortcut::activated, this,
+            &NDPreferencesController::restoreEffect);
+    connect(new QShortcut(QKeySequence::Save, panel_.get()), &QShortcut::activated, this,
+            &NDPreferencesController::saveEffect);
 }
 
 QString NDPreferencesController::documentFolder() const {

@@ -17,12 +17,16 @@ QMessageBox* newSheet(QWidget& window, QMessageBox::Icon icon, const QString& ti
 }
 
 void showSheet(QMessageBox& sheet) {
+    widenMessage(sheet);
+    sheet.show();
+}
+
+void widenMessage(QMessageBox& message) {
     // Left to itself the box is as narrow as its title, and the explanation a column.
-    if (auto* grid = qobject_cast<QGridLayout*>(sheet.layout())) {
-        const int width = sheet.fontMetrics().averageCharWidth() * 60;
+    if (auto* grid = qobject_cast<QGridLayout*>(message.layout())) {
+        const int width = message.fontMetrics().averageCharWidth() * 60;
         grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
-    sheet.show();
 }
 
 } // namespace nocturo

@@ -8,7 +8,10 @@ namespace nocturo {
 QMessageBox* newSheet(QWidget& window, QMessageBox::Icon icon, const QString& title,
                       const QString& message);
 
-/// Shows it once it has its buttons, wide enough for sentences to be read as such.
+/// Shows it once it has its buttons.
 void showSheet(QMessageBox& sheet);
+
+/// Makes a message, complete but for being shown, wide enough for sentences to be read as such.
+void widenMessage(QMessageBox& message);
 
 } // namespace nocturo
