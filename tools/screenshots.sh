@@ -61,7 +61,7 @@ take() {
 
 if [ -n "$looks" ]; then
   mkdir -p "$looks"
-  for window in preferences about keep no-effect save screens; do
+  for window in preferences about keep no-effect save screens status-menu; do
     take 1 "$window" "$looks/$window.png"
     take 1 "$window" "$looks/$window-dark.png" dark
     take 2 "$window" "$looks/$window-200.png"
@@ -69,7 +69,7 @@ if [ -n "$looks" ]; then
     take 1 "$window" "$looks/$window-long.png" long
   done
 else
-  for window in preferences about keep; do
+  for window in preferences about keep status-menu; do
     take 1 "$window" "docs/images/$window.png"
   done
   take 1 preferences docs/images/preferences-dark.png dark

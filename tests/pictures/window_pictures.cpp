@@ -2,6 +2,8 @@
 // shows: window_pictures WINDOW FILE [dark] [rtl] [long]
 
 #include "app/app_controller.h"
+#include "app/menus/desktop_menus.h"
+#include "app/recent_documents.h"
 #include "app/windows/app_windows.h"
 #include "effects/color_filter_effect.h"
 #include "effects/group_effect.h"
@@ -14,7 +16,7 @@
 #include "platform/settings/defaults_store.h"
 
 #include <QApplication>
-#include <QMessageBox>
+#include <QMenu>
 #include <QPixmap>
 #include <QScreen>
 #include <QStyleFactory>
@@ -60,6 +62,14 @@ void show(AppWindows& windows, const QString& window) {
         windows.showAboutBox();
         return;
     }
+    if (window == QLatin1String("status-menu")) {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->objectName() == QLatin1String("statusMenu")) {
+                static_cast<QMenu*>(top)->popup(QPoint(20, 20));
+            }
+        }
+        return;
+    }
     windows.showPreferences();
     const auto press = [](const char* name) {
         for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -100,9 +110,14 @@ int run(const QStringList& arguments) {
         NDColorFilterEffect::setHue(35);
         NDColorFilterEffect::setVividness(0.4F);
     }
-    if (arguments[1] != QLatin1String("keep")) {
+    // An effect there is always, or its absence would be asked about first.
+    if (arguments[1] == QLatin1String("keep")) {
+        NDGroupEffect::effect().addEffect("NDHDTVLuminanceEffect");
+    } else {
         NDGroupEffect::effect().addEffect("NDDimEffect");
     }
+    const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
+    const DesktopMenus menus(controller, defaults, centers.local, windows, recentDocuments, {});
     controller.applicationDidFinishLaunching();
     show(windows, arguments[1]);
     QTimer::singleShot(1000, [&] {

@@ -22,6 +22,7 @@ struct DesktopMenus::Menus {
           const RecentDocuments& documents, const MainMenu::Handlers& handlers)
         : mainMenu(documents, handlers),
           statusItem(statusMenu, surroundings, [&controller] { controller.activateEffect(); }) {
+        statusMenu.setObjectName(QStringLiteral("statusMenu"));
         statusActivateItem = fill(statusMenu, controller);
         if (surroundings.bus) {
             launcherMenu.emplace(*surroundings.bus);
