@@ -1,11 +1,9 @@
 // What Nocturo costs beside Qt programs that do nothing: its start, and its place in the tray.
 
 #include "figures.h"
-#include "platform/property_lists/property_list.h"
 #include "rig/session.h"
 
 #include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
@@ -24,10 +22,9 @@ double millisecondsSince(SteadyClock::time_point start) {
 
 /// Settings with which Nocturo inverts every screen at once, in the tray or not.
 void writeSettings(const rig::Session& session, bool inTray) {
-    std::filesystem::create_directories(session.settingsFile().parent_path());
-    std::ofstream(session.settingsFile())
-        << propertyListXml({{"NDGroupEffect", PropertyArray{std::string("NDInvertEffect")}},
-                            {"ShowStatusItem", std::int64_t{inTray}}});
+    session.writeSettings("<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>"
+                          "<key>ShowStatusItem</key><integer>" +
+                          std::to_string(static_cast<int>(inTray)) + "</integer>");
 }
 
 void waitForChange(rig::XClient& observer, std::uint32_t crtc, const rig::Channels& before) {

@@ -252,6 +252,8 @@ void measureWakeUps(const rig::Process& nocturo, BusClient& client) {
 
 void run() {
     rig::Session session(4);
+    session.showWindows();
+    session.writeSettings("<key>NDGroupEffect</key><array><string>NDDimEffect</string></array>");
     measureReapplication(session);
     measureNaming(session);
     const auto nocturo = session.startNocturo();

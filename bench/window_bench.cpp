@@ -89,11 +89,12 @@ void measureShowing() {
     for (int round = 0; round < 50; ++round) {
         rig::Session session(4);
         session.showWindows();
+        session.writeSettings(
+            "<key>NDGroupEffect</key><array><string>NDDimEffect</string></array>");
         const auto nocturo = session.startNocturo();
         setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
         BusClient client;
         WindowObserver observer(session.server().display());
-        client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDDimEffect")});
         const auto show = [&](std::vector<double>& samples) {
             const auto start = SteadyClock::now();
             client.call("ShowPreferences");
@@ -164,11 +165,11 @@ int stepThrough(rig::Session& session, rig::XKeyboard& keyboard, std::vector<dou
 void measureSlider() {
     rig::Session session(4);
     session.showWindows();
+    session.writeSettings("<key>NDGroupEffect</key><array><string>NDDimEffect</string></array>");
     const auto nocturo = session.startNocturo();
     setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
     BusClient client;
     WindowObserver windows(session.server().display());
-    client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDDimEffect")});
     client.call("ShowPreferences");
     windows.waitForPaintedWindow();
     session.run("xdotool", {"key", "alt+l"});
