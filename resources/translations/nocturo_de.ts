@@ -48,8 +48,16 @@
             <translation>Farb&amp;ton:</translation>
         </message>
         <message>
+            <source>The color that passes the filter</source>
+            <translation>Die Farbe, die der Filter durchlässt</translation>
+        </message>
+        <message>
             <source>Vivid&amp;ness:</source>
             <translation>&amp;Sättigung:</translation>
+        </message>
+        <message>
+            <source>How much of the other colors the filter takes away</source>
+            <translation>Wie viel der Filter von den anderen Farben wegnimmt</translation>
         </message>
         <message>
             <source>&amp;Dim or lighten</source>
@@ -64,12 +72,20 @@
             <translation>Stä&amp;rke:</translation>
         </message>
         <message>
+            <source>Negative values make the screen darker, positive ones lighter</source>
+            <translation>Negative Werte machen den Bildschirm dunkler, positive heller</translation>
+        </message>
+        <message>
             <source>Preview</source>
             <translation>Vorschau</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
             <translation>An&amp;zeigen:</translation>
+        </message>
+        <message>
+            <source>The screen whose curves are shown</source>
+            <translation>Der Bildschirm, dessen Kurven gezeigt werden</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -80,8 +96,16 @@
             <translation>A&amp;nwenden auf:</translation>
         </message>
         <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>Die Bildschirme, auf die der Effekt angewendet wird</translation>
+        </message>
+        <message>
             <source>Switching</source>
             <translation>Ein- und Ausschalten</translation>
+        </message>
+        <message>
+            <source>Otherwise Nocturo starts as you left it</source>
+            <translation>Sonst startet Nocturo so, wie Sie es verlassen haben</translation>
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
@@ -104,12 +128,20 @@
             <translation>Erhält den Effekt, wenn Spiele oder andere Programme die Farben zurücksetzen</translation>
         </message>
         <message>
+            <source>The screen saver then shows its own colors</source>
+            <translation>Der Bildschirmschoner zeigt dann seine eigenen Farben</translation>
+        </message>
+        <message>
             <source>P&amp;ause while the screen saver runs</source>
             <translation>Während des Bildschirmschoners &amp;pausieren</translation>
         </message>
         <message>
             <source>Hot key</source>
             <translation>Tastenkürzel</translation>
+        </message>
+        <message>
+            <source>Works in every program, when you let go of the key</source>
+            <translation>Wirkt in jedem Programm, sobald Sie die Taste loslassen</translation>
         </message>
         <message>
             <source>Switch with the hot &amp;key</source>
@@ -124,8 +156,16 @@
             <translation>Nocturo anzeigen:</translation>
         </message>
         <message>
+            <source>Nocturo then has no icon of its own in the panel</source>
+            <translation>Nocturo hat dann kein eigenes Symbol in der Leiste</translation>
+        </message>
+        <message>
             <source>As an ordinary application, in the task &amp;bar and launcher</source>
             <translation>Als &amp;gewöhnliche Anwendung in Taskleiste und Starter</translation>
+        </message>
+        <message>
+            <source>A click on the icon shows Nocturo's menu, a middle click switches the effect</source>
+            <translation>Ein Klick auf das Symbol zeigt das Menü von Nocturo, ein Mittelklick schaltet den Effekt um</translation>
         </message>
         <message>
             <source>As an icon in the panel's tra&amp;y</source>

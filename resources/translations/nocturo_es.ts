@@ -48,8 +48,16 @@
             <translation>&amp;Tono:</translation>
         </message>
         <message>
+            <source>The color that passes the filter</source>
+            <translation>El color que deja pasar el filtro</translation>
+        </message>
+        <message>
             <source>Vivid&amp;ness:</source>
             <translation>&amp;Viveza:</translation>
+        </message>
+        <message>
+            <source>How much of the other colors the filter takes away</source>
+            <translation>Cuánto quita el filtro de los demás colores</translation>
         </message>
         <message>
             <source>&amp;Dim or lighten</source>
@@ -64,12 +72,20 @@
             <translation>Nive&amp;l:</translation>
         </message>
         <message>
+            <source>Negative values make the screen darker, positive ones lighter</source>
+            <translation>Los valores negativos oscurecen la pantalla y los positivos la aclaran</translation>
+        </message>
+        <message>
             <source>Preview</source>
             <translation>Vista previa</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
             <translation>&amp;Mostrar:</translation>
+        </message>
+        <message>
+            <source>The screen whose curves are shown</source>
+            <translation>La pantalla cuyas curvas se muestran</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -80,8 +96,16 @@
             <translation>A&amp;plicar a:</translation>
         </message>
         <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>Las pantallas a las que se aplica el efecto</translation>
+        </message>
+        <message>
             <source>Switching</source>
             <translation>Activación</translation>
+        </message>
+        <message>
+            <source>Otherwise Nocturo starts as you left it</source>
+            <translation>Si no, Nocturo se inicia tal como lo dejó</translation>
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
@@ -104,12 +128,20 @@
             <translation>Mantiene el efecto cuando los juegos u otros programas restablecen los colores</translation>
         </message>
         <message>
+            <source>The screen saver then shows its own colors</source>
+            <translation>El salvapantallas muestra entonces sus propios colores</translation>
+        </message>
+        <message>
             <source>P&amp;ause while the screen saver runs</source>
             <translation>Pausar mientras se ejec&amp;uta el salvapantallas</translation>
         </message>
         <message>
             <source>Hot key</source>
             <translation>Atajo de teclado</translation>
+        </message>
+        <message>
+            <source>Works in every program, when you let go of the key</source>
+            <translation>Funciona en todos los programas, al soltar la tecla</translation>
         </message>
         <message>
             <source>Switch with the hot &amp;key</source>
@@ -124,8 +156,16 @@
             <translation>Mostrar Nocturo:</translation>
         </message>
         <message>
+            <source>Nocturo then has no icon of its own in the panel</source>
+            <translation>Nocturo no tiene entonces un icono propio en el panel</translation>
+        </message>
+        <message>
             <source>As an ordinary application, in the task &amp;bar and launcher</source>
             <translation>Como aplicación normal, en la &amp;barra de tareas y el lanzador</translation>
+        </message>
+        <message>
+            <source>A click on the icon shows Nocturo's menu, a middle click switches the effect</source>
+            <translation>Un clic en el icono muestra el menú de Nocturo; un clic central cambia el efecto</translation>
         </message>
         <message>
             <source>As an icon in the panel's tra&amp;y</source>

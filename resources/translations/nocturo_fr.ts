@@ -48,8 +48,16 @@
             <translation>&amp;Teinte :</translation>
         </message>
         <message>
+            <source>The color that passes the filter</source>
+            <translation>La couleur que le filtre laisse passer</translation>
+        </message>
+        <message>
             <source>Vivid&amp;ness:</source>
             <translation>Viv&amp;acité :</translation>
+        </message>
+        <message>
+            <source>How much of the other colors the filter takes away</source>
+            <translation>La part des autres couleurs que le filtre retire</translation>
         </message>
         <message>
             <source>&amp;Dim or lighten</source>
@@ -64,12 +72,20 @@
             <translation>&amp;Niveau :</translation>
         </message>
         <message>
+            <source>Negative values make the screen darker, positive ones lighter</source>
+            <translation>Les valeurs négatives assombrissent l’écran, les positives l’éclaircissent</translation>
+        </message>
+        <message>
             <source>Preview</source>
             <translation>Aperçu</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
             <translation>Affic&amp;her :</translation>
+        </message>
+        <message>
+            <source>The screen whose curves are shown</source>
+            <translation>L’écran dont les courbes sont affichées</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -80,8 +96,16 @@
             <translation>Appli&amp;quer à :</translation>
         </message>
         <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>Les écrans auxquels l’effet est appliqué</translation>
+        </message>
+        <message>
             <source>Switching</source>
             <translation>Activation</translation>
+        </message>
+        <message>
+            <source>Otherwise Nocturo starts as you left it</source>
+            <translation>Sinon, Nocturo démarre dans l’état où vous l’avez laissé</translation>
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
@@ -104,12 +128,20 @@
             <translation>Conserve l’effet quand des jeux ou d’autres programmes réinitialisent les couleurs</translation>
         </message>
         <message>
+            <source>The screen saver then shows its own colors</source>
+            <translation>L’économiseur d’écran montre alors ses propres couleurs</translation>
+        </message>
+        <message>
             <source>P&amp;ause while the screen saver runs</source>
             <translation>Suspendre pendant l’écono&amp;miseur d’écran</translation>
         </message>
         <message>
             <source>Hot key</source>
             <translation>Raccourci clavier</translation>
+        </message>
+        <message>
+            <source>Works in every program, when you let go of the key</source>
+            <translation>Fonctionne dans tous les programmes, quand vous relâchez la touche</translation>
         </message>
         <message>
             <source>Switch with the hot &amp;key</source>
@@ -124,8 +156,16 @@
             <translation>Afficher Nocturo :</translation>
         </message>
         <message>
+            <source>Nocturo then has no icon of its own in the panel</source>
+            <translation>Nocturo n’a alors pas d’icône dans le tableau de bord</translation>
+        </message>
+        <message>
             <source>As an ordinary application, in the task &amp;bar and launcher</source>
             <translation>Comme application ordinaire, dan&amp;s la barre des tâches et le lanceur</translation>
+        </message>
+        <message>
+            <source>A click on the icon shows Nocturo's menu, a middle click switches the effect</source>
+            <translation>Un clic sur l’icône affiche le menu de Nocturo, un clic du milieu bascule l’effet</translation>
         </message>
         <message>
             <source>As an icon in the panel's tra&amp;y</source>

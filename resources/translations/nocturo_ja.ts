@@ -48,8 +48,16 @@
             <translation>色相(&amp;U)：</translation>
         </message>
         <message>
+            <source>The color that passes the filter</source>
+            <translation>フィルターを通す色</translation>
+        </message>
+        <message>
             <source>Vivid&amp;ness:</source>
             <translation>鮮やかさ(&amp;N)：</translation>
+        </message>
+        <message>
+            <source>How much of the other colors the filter takes away</source>
+            <translation>フィルターがほかの色を取り除く度合い</translation>
         </message>
         <message>
             <source>&amp;Dim or lighten</source>
@@ -64,12 +72,20 @@
             <translation>レベル(&amp;L)：</translation>
         </message>
         <message>
+            <source>Negative values make the screen darker, positive ones lighter</source>
+            <translation>負の値で画面が暗く、正の値で明るくなります</translation>
+        </message>
+        <message>
             <source>Preview</source>
             <translation>プレビュー</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
             <translation>表示(&amp;W)：</translation>
+        </message>
+        <message>
+            <source>The screen whose curves are shown</source>
+            <translation>カーブを表示する画面</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -80,8 +96,16 @@
             <translation>適用先(&amp;P)：</translation>
         </message>
         <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>効果を適用する画面</translation>
+        </message>
+        <message>
             <source>Switching</source>
             <translation>オン／オフの切り替え</translation>
+        </message>
+        <message>
+            <source>Otherwise Nocturo starts as you left it</source>
+            <translation>オフにすると、前回終了したときの状態で起動します</translation>
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
@@ -104,12 +128,20 @@
             <translation>ゲームやほかのプログラムが色をリセットしても効果を維持します</translation>
         </message>
         <message>
+            <source>The screen saver then shows its own colors</source>
+            <translation>スクリーンセーバーは本来の色で表示されます</translation>
+        </message>
+        <message>
             <source>P&amp;ause while the screen saver runs</source>
             <translation>スクリーンセーバーの実行中は一時停止する(&amp;A)</translation>
         </message>
         <message>
             <source>Hot key</source>
             <translation>ショートカットキー</translation>
+        </message>
+        <message>
+            <source>Works in every program, when you let go of the key</source>
+            <translation>どのプログラムでも、キーを離したときに働きます</translation>
         </message>
         <message>
             <source>Switch with the hot &amp;key</source>
@@ -124,8 +156,16 @@
             <translation>Nocturo の表示方法：</translation>
         </message>
         <message>
+            <source>Nocturo then has no icon of its own in the panel</source>
+            <translation>この場合、パネルに Nocturo のアイコンは表示されません</translation>
+        </message>
+        <message>
             <source>As an ordinary application, in the task &amp;bar and launcher</source>
             <translation>通常のアプリケーションとしてタスクバーとランチャーに(&amp;B)</translation>
+        </message>
+        <message>
+            <source>A click on the icon shows Nocturo's menu, a middle click switches the effect</source>
+            <translation>アイコンをクリックすると Nocturo のメニューを表示し、中クリックすると効果を切り替えます</translation>
         </message>
         <message>
             <source>As an icon in the panel's tra&amp;y</source>

@@ -48,8 +48,16 @@
             <translation>&amp;Matiz:</translation>
         </message>
         <message>
+            <source>The color that passes the filter</source>
+            <translation>A cor que o filtro deixa passar</translation>
+        </message>
+        <message>
             <source>Vivid&amp;ness:</source>
             <translation>&amp;Vividez:</translation>
+        </message>
+        <message>
+            <source>How much of the other colors the filter takes away</source>
+            <translation>Quanto das outras cores o filtro retira</translation>
         </message>
         <message>
             <source>&amp;Dim or lighten</source>
@@ -64,12 +72,20 @@
             <translation>&amp;Nível:</translation>
         </message>
         <message>
+            <source>Negative values make the screen darker, positive ones lighter</source>
+            <translation>Valores negativos escurecem a tela, positivos a clareiam</translation>
+        </message>
+        <message>
             <source>Preview</source>
             <translation>Pré-visualização</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
             <translation>M&amp;ostrar:</translation>
+        </message>
+        <message>
+            <source>The screen whose curves are shown</source>
+            <translation>A tela cujas curvas são mostradas</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -80,8 +96,16 @@
             <translation>A&amp;plicar a:</translation>
         </message>
         <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>As telas em que o efeito é aplicado</translation>
+        </message>
+        <message>
             <source>Switching</source>
             <translation>Ativação</translation>
+        </message>
+        <message>
+            <source>Otherwise Nocturo starts as you left it</source>
+            <translation>Caso contrário, o Nocturo inicia como você o deixou</translation>
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
@@ -104,12 +128,20 @@
             <translation>Mantém o efeito quando jogos ou outros programas redefinem as cores</translation>
         </message>
         <message>
+            <source>The screen saver then shows its own colors</source>
+            <translation>O protetor de tela mostra então suas próprias cores</translation>
+        </message>
+        <message>
             <source>P&amp;ause while the screen saver runs</source>
             <translation>Pausar en&amp;quanto o protetor de tela estiver ativo</translation>
         </message>
         <message>
             <source>Hot key</source>
             <translation>Atalho de teclado</translation>
+        </message>
+        <message>
+            <source>Works in every program, when you let go of the key</source>
+            <translation>Funciona em todos os programas, quando você solta a tecla</translation>
         </message>
         <message>
             <source>Switch with the hot &amp;key</source>
@@ -124,8 +156,16 @@
             <translation>Mostrar o Nocturo:</translation>
         </message>
         <message>
+            <source>Nocturo then has no icon of its own in the panel</source>
+            <translation>O Nocturo não tem então um ícone próprio no painel</translation>
+        </message>
+        <message>
             <source>As an ordinary application, in the task &amp;bar and launcher</source>
             <translation>Como um aplicativo comum, na &amp;barra de tarefas e no lançador</translation>
+        </message>
+        <message>
+            <source>A click on the icon shows Nocturo's menu, a middle click switches the effect</source>
+            <translation>Um clique no ícone mostra o menu do Nocturo; um clique do meio alterna o efeito</translation>
         </message>
         <message>
             <source>As an icon in the panel's tra&amp;y</source>

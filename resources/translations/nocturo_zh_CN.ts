@@ -48,8 +48,16 @@
             <translation>色相(&amp;U)：</translation>
         </message>
         <message>
+            <source>The color that passes the filter</source>
+            <translation>滤镜允许通过的颜色</translation>
+        </message>
+        <message>
             <source>Vivid&amp;ness:</source>
             <translation>鲜艳度(&amp;N)：</translation>
+        </message>
+        <message>
+            <source>How much of the other colors the filter takes away</source>
+            <translation>滤镜去除其他颜色的程度</translation>
         </message>
         <message>
             <source>&amp;Dim or lighten</source>
@@ -64,12 +72,20 @@
             <translation>程度(&amp;L)：</translation>
         </message>
         <message>
+            <source>Negative values make the screen darker, positive ones lighter</source>
+            <translation>负值使屏幕变暗，正值使屏幕变亮</translation>
+        </message>
+        <message>
             <source>Preview</source>
             <translation>预览</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
             <translation>显示(&amp;W)：</translation>
+        </message>
+        <message>
+            <source>The screen whose curves are shown</source>
+            <translation>显示其曲线的屏幕</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -80,8 +96,16 @@
             <translation>应用于(&amp;P)：</translation>
         </message>
         <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>应用效果的屏幕</translation>
+        </message>
+        <message>
             <source>Switching</source>
             <translation>开关</translation>
+        </message>
+        <message>
+            <source>Otherwise Nocturo starts as you left it</source>
+            <translation>否则 Nocturo 会以上次退出时的状态启动</translation>
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
@@ -104,12 +128,20 @@
             <translation>当游戏或其他程序重置颜色时保持效果</translation>
         </message>
         <message>
+            <source>The screen saver then shows its own colors</source>
+            <translation>屏幕保护程序将显示其原本的颜色</translation>
+        </message>
+        <message>
             <source>P&amp;ause while the screen saver runs</source>
             <translation>屏幕保护程序运行时暂停(&amp;A)</translation>
         </message>
         <message>
             <source>Hot key</source>
             <translation>快捷键</translation>
+        </message>
+        <message>
+            <source>Works in every program, when you let go of the key</source>
+            <translation>在所有程序中有效，松开按键时生效</translation>
         </message>
         <message>
             <source>Switch with the hot &amp;key</source>
@@ -124,8 +156,16 @@
             <translation>Nocturo 的显示方式：</translation>
         </message>
         <message>
+            <source>Nocturo then has no icon of its own in the panel</source>
+            <translation>此时面板中没有 Nocturo 的图标</translation>
+        </message>
+        <message>
             <source>As an ordinary application, in the task &amp;bar and launcher</source>
             <translation>作为普通应用程序，在任务栏和启动器中(&amp;B)</translation>
+        </message>
+        <message>
+            <source>A click on the icon shows Nocturo's menu, a middle click switches the effect</source>
+            <translation>单击图标显示 Nocturo 的菜单，中键单击切换效果</translation>
         </message>
         <message>
             <source>As an icon in the panel's tra&amp;y</source>

@@ -249,6 +249,8 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrder) {
         while (focus->objectName().isEmpty() || focus->objectName().startsWith(u"qt_")) {
             focus = focus->parentWidget();
         }
+        EXPECT_FALSE(focus->toolTip().isEmpty() && focus->objectName() != u"closeButton")
+            << focus->objectName().toStdString();
         if (order.empty() || order.back() != focus->objectName().toStdString()) {
             order.push_back(focus->objectName().toStdString());
         }

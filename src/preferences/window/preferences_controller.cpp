@@ -78,6 +78,9 @@ void NDPreferencesController::loadWindow() {
         share->setDecimals(0);
         share->setSuffix(localized(" %"));
     }
+    for (QWidget* control : panel_->findChildren<QWidget*>()) {
+        control->setWhatsThis(control->toolTip());
+    }
     ui_->showStatusItem->setId(ui_->showInTaskBar, 0);
     ui_->showStatusItem->setId(ui_->showInTray, kStatusItemRow);
     ui_->hotKeyField->setKeyboardLayout(layout_);
