@@ -203,12 +203,4 @@ TEST_F(AboutBox, OpensWebLinksAloneOutside) {
 } // namespace
 } // namespace nocturo
 
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    return RUN_ALL_TESTS();
-}
-
 #include "about_box_test.moc"

@@ -217,10 +217,3 @@ TEST_F(HotKeyField, EndsWhenItIsDestroyed) {
 
 } // namespace
 } // namespace nocturo
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleMock(&argc, argv);
-    QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

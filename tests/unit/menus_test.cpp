@@ -100,10 +100,3 @@ TEST(StatusImages, AreTheirNamesInThePanelsColor) {
 } // namespace
 
 } // namespace nocturo
-
-int main(int argc, char** argv) {
-    testing::InitGoogleMock(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

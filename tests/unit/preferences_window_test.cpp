@@ -453,11 +453,3 @@ TEST_F(KeepColors, AnswersItselfWhenTimeIsUpAndNotOverSomebodyElse) {
 
 } // namespace
 } // namespace nocturo
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    return RUN_ALL_TESTS();
-}

@@ -184,10 +184,3 @@ TEST_F(ScreenOptionMenu, ItsItemsOutliveItAndDoNothing) {
 
 } // namespace
 } // namespace nocturo
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}
