@@ -4,6 +4,7 @@
 #include "app/disturbance_watch.h"
 #include "app/settings_table.h"
 #include "app/user_interface.h"
+#include "control/bus_names.h"
 #include "control/bus_values.h"
 #include "control/launcher_face.h"
 #include "effects/color_filter_effect.h"
@@ -31,12 +32,6 @@ namespace nocturo {
 
 namespace {
 
-const QString kBusName = QStringLiteral("org.nocturo.Nocturo");
-const QString kObjectPath = QStringLiteral("/org/nocturo/Nocturo");
-const QString kInterface = QStringLiteral("org.nocturo.Nocturo1");
-const QString kInvalidArgument = QStringLiteral("org.nocturo.Error.InvalidArgument");
-const QString kFailed = QStringLiteral("org.nocturo.Error.Failed");
-
 // Long enough for a busy first instance, short enough for the user who waits for the second.
 constexpr int kReopenTimeoutMs = 2000;
 
@@ -61,9 +56,9 @@ bool BusFace::takeName(const QDBusConnection& bus) {
         bus_ = bus;
         launcherFace_ = new LauncherFace(this, bus, controller_);
         // The object first: whoever sees the name may call at once.
-        bus_->registerObject(kObjectPath, this);
+        bus_->registerObject(QLatin1String(kObjectPath), this);
     }
-    return bus_->registerService(kBusName);
+    return bus_->registerService(QLatin1String(kBusName));
 }
 
 void BusFace::announceChanges() {
@@ -313,10 +308,10 @@ void BusFace::announce() {
         return;
     }
     announced_ = std::move(current);
-    QDBusMessage signal =
-        QDBusMessage::createSignal(kObjectPath, QStringLiteral("org.freedesktop.DBus.Properties"),
-                                   QStringLiteral("PropertiesChanged"));
-    signal << kInterface << changed << QStringList();
+    QDBusMessage signal = QDBusMessage::createSignal(
+        QLatin1String(kObjectPath), QStringLiteral("org.freedesktop.DBus.Properties"),
+        QStringLiteral("PropertiesChanged"));
+    signal << QLatin1String(kNocturoInterface) << changed << QStringList();
     bus_->send(signal);
 }
 
@@ -329,16 +324,17 @@ const Setting* BusFace::knownSetting(const QString& key) {
 }
 
 void BusFace::refuse(const std::string& sentence) {
-    sendErrorReply(kInvalidArgument, QString::fromStdString(sentence));
+    sendErrorReply(QLatin1String(kInvalidArgumentError), QString::fromStdString(sentence));
 }
 
 void BusFace::fail(const QString& sentence) {
-    sendErrorReply(kFailed, sentence);
+    sendErrorReply(QLatin1String(kFailedError), sentence);
 }
 
 bool reopenRunningApplication(const QDBusConnection& bus) {
     const QDBusMessage answer = bus.call(
-        QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, QStringLiteral("Reopen")),
+        QDBusMessage::createMethodCall(QLatin1String(kBusName), QLatin1String(kObjectPath),
+                                       QLatin1String(kNocturoInterface), QStringLiteral("Reopen")),
         QDBus::Block, kReopenTimeoutMs);
     return answer.type() != QDBusMessage::ErrorMessage;
 }

@@ -1,6 +1,7 @@
 #include "control/launcher_face.h"
 
 #include "app/app_controller.h"
+#include "control/bus_names.h"
 #include "platform/desktop/bus_call.h"
 
 #include <QCoreApplication>
@@ -12,10 +13,7 @@ namespace nocturo {
 
 namespace {
 
-const QString kBusName = QStringLiteral("org.nocturo.Nocturo");
-const QString kObjectPath = QStringLiteral("/org/nocturo/Nocturo");
-const QString kInterface = QStringLiteral("org.freedesktop.Application");
-const QString kFailed = QStringLiteral("org.nocturo.Error.Failed");
+const QString kApplicationInterface = QStringLiteral("org.freedesktop.Application");
 
 // The one that runs may be asking its user something before it comes to open anything.
 constexpr int kOpenTimeoutMs = 5000;
@@ -54,7 +52,8 @@ void LauncherFace::Open(const QStringList& uris, const QVariantMap& /*platformDa
     const std::string refused = openDocuments(controller_, paths);
     if (!refused.empty()) {
         message.setDelayedReply(true);
-        bus_.send(message.createErrorReply(kFailed, QString::fromStdString(refused)));
+        bus_.send(
+            message.createErrorReply(QLatin1String(kFailedError), QString::fromStdString(refused)));
     }
 }
 
@@ -93,13 +92,14 @@ std::optional<std::string> openInRunningApplication(const QDBusConnection& bus,
         uris.append(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
     }
     QDBusMessage call =
-        QDBusMessage::createMethodCall(kBusName, kObjectPath, kInterface, QStringLiteral("Open"));
+        QDBusMessage::createMethodCall(QLatin1String(kBusName), QLatin1String(kObjectPath),
+                                       kApplicationInterface, QStringLiteral("Open"));
     call << uris << QVariantMap();
     const QDBusMessage answer = bus.call(call, QDBus::Block, kOpenTimeoutMs);
     if (answer.type() != QDBusMessage::ErrorMessage) {
         return std::string();
     }
-    if (answer.errorName() == kFailed) {
+    if (answer.errorName() == QLatin1String(kFailedError)) {
         return answer.errorMessage().toStdString();
     }
     return std::nullopt;

@@ -1,5 +1,6 @@
 #include "control/nocturoctl/bus_client.h"
 
+#include "control/bus_names.h"
 #include "control/nocturoctl/bus_json.h"
 #include "control/nocturoctl/failure.h"
 
@@ -12,12 +13,7 @@ namespace nocturo {
 
 namespace {
 
-constexpr const char* kBusName = "org.nocturo.Nocturo";
-constexpr const char* kObjectPath = "/org/nocturo/Nocturo";
-constexpr const char* kInterface = "org.nocturo.Nocturo1";
 constexpr const char* kPropertiesInterface = "org.freedesktop.DBus.Properties";
-constexpr const char* kInvalidArgument = "org.nocturo.Error.InvalidArgument";
-constexpr const char* kNotDone = "org.nocturo.Error.Failed";
 
 [[noreturn]] void failBecauseNotRunning() {
     throw Failure{kNotRunning, "Nocturo is not running; start it with: nocturo &"};
@@ -53,7 +49,7 @@ struct Watching {
 int propertiesDidChange(sd_bus_message* message, void* context, sd_bus_error* /*error*/) {
     const char* interface = nullptr;
     if (sd_bus_message_read(message, "s", &interface) < 0 ||
-        std::string_view(interface) != kInterface) {
+        std::string_view(interface) != kNocturoInterface) {
         return 0;
     }
     static_cast<Watching*>(context)->changed(withSmallFirstLetters(readJson(message)));
@@ -86,29 +82,29 @@ void BusClient::setPatience(std::chrono::microseconds patience) {
 }
 
 void BusClient::call(const char* method) {
-    send(newCall(kInterface, method));
+    send(newCall(kNocturoInterface, method));
 }
 
 void BusClient::call(const char* method, bool argument) {
-    const Message message = newCall(kInterface, method);
+    const Message message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "b", static_cast<int>(argument)));
     send(message);
 }
 
 void BusClient::call(const char* method, std::uint32_t argument) {
-    const Message message = newCall(kInterface, method);
+    const Message message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "u", argument));
     send(message);
 }
 
 void BusClient::call(const char* method, const std::string& argument) {
-    const Message message = newCall(kInterface, method);
+    const Message message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "s", argument.c_str()));
     send(message);
 }
 
 void BusClient::call(const char* method, std::span<const std::string> argument) {
-    const Message message = newCall(kInterface, method);
+    const Message message = newCall(kNocturoInterface, method);
     check(sd_bus_message_open_container(message.get(), 'a', "s"));
     for (const std::string& text : argument) {
         check(sd_bus_message_append(message.get(), "s", text.c_str()));
@@ -118,14 +114,14 @@ void BusClient::call(const char* method, std::span<const std::string> argument) 
 }
 
 void BusClient::callSetSetting(const std::string& key, const PropertyValue& value) {
-    const Message message = newCall(kInterface, "SetSetting");
+    const Message message = newCall(kNocturoInterface, "SetSetting");
     check(sd_bus_message_append(message.get(), "s", key.c_str()));
     check(appendVariant(message.get(), value));
     send(message);
 }
 
 std::string BusClient::renderPreview(std::uint32_t display) {
-    const Message message = newCall(kInterface, "RenderPreview");
+    const Message message = newCall(kNocturoInterface, "RenderPreview");
     check(sd_bus_message_append(message.get(), "u", display));
     const Message reply = send(message);
     const void* bytes = nullptr;
@@ -136,7 +132,7 @@ std::string BusClient::renderPreview(std::uint32_t display) {
 
 Json BusClient::properties() {
     const Message message = newCall(kPropertiesInterface, "GetAll");
-    check(sd_bus_message_append(message.get(), "s", kInterface));
+    check(sd_bus_message_append(message.get(), "s", kNocturoInterface));
     return withSmallFirstLetters(readJson(send(message).get()));
 }
 
@@ -182,10 +178,10 @@ BusClient::Message BusClient::send(const Message& message) {
     if (error.is(SD_BUS_ERROR_SERVICE_UNKNOWN) || error.is(SD_BUS_ERROR_NAME_HAS_NO_OWNER)) {
         failBecauseNotRunning();
     }
-    if (error.is(kInvalidArgument)) {
+    if (error.is(kInvalidArgumentError)) {
         throw Failure{kUsage, error.sentence()};
     }
-    if (error.is(kNotDone)) {
+    if (error.is(kFailedError)) {
         throw Failure{kFailed, error.sentence()};
     }
     throw Failure{kFailed, "Nocturo did not do it: " + error.sentence()};

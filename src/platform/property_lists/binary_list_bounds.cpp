@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::size_t kHeader = 8;   // "bplist00"
 constexpr std::size_t kTrailer = 32; // five unused bytes, a sort version, two widths, three numbers
-constexpr unsigned kDeepestNesting = 64;
+constexpr unsigned kGreatestHeight = 64;
 constexpr std::uint64_t kNodeCost = 64; // about what a node takes beside its content
 constexpr std::uint64_t kHighestCost = std::uint64_t{1} << 22;
 
@@ -38,7 +38,7 @@ class Walk {
   public:
     explicit Walk(std::string_view bytes) : bytes_(bytes) {}
 
-    bool isBounded() { return readTrailer() && extentOf(root_, kDeepestNesting); }
+    bool isBounded() { return readTrailer() && extentOf(root_, kGreatestHeight); }
 
   private:
     enum class State : std::uint8_t { unseen, underWay, measured };

@@ -15,7 +15,7 @@ namespace nocturo {
 
 namespace {
 
-constexpr float kAlike = 1.0F / 256; // half a pixel in a plot of usual size
+constexpr float kSamePixel = 1.0F / 256; // half a pixel in a plot of usual size
 constexpr double kBeyond = 0.07;     // how much room there is above 1 and below 0
 constexpr int kGridCells = 4;
 
@@ -46,7 +46,7 @@ QColor lineColor(unsigned channels, const QPalette& palette) {
 
 bool isAlike(const ZQGammaTable& left, const ZQGammaTable& right, std::uint32_t count) {
     for (std::uint32_t i = 0; i < count; ++i) {
-        if (std::abs(limitedEntry(left[i]) - limitedEntry(right[i])) > kAlike) {
+        if (std::abs(limitedEntry(left[i]) - limitedEntry(right[i])) > kSamePixel) {
             return false;
         }
     }

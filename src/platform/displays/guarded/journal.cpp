@@ -67,7 +67,7 @@ class Reader {
 
 bool writeAll(int descriptor, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
         if (written > 0) {
             bytes.remove_prefix(static_cast<std::size_t>(written));
         } else if (errno != EINTR) {
