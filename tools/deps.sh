@@ -35,6 +35,7 @@ packages=(
   xdotool                   # typing into windows
   x11-utils                 # xwininfo, which finds what is in a tray
   trayer                    # a tray that embeds windows
+  lxqt-panel                # a tray that asks for items over the bus
   libglib2.0-bin            # gdbus, which speaks to menus
   xvfb                      # an X server with all-zero ramps
   x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
@@ -71,7 +72,7 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xwininfo trayer gdbus xscreensaver dbus-daemon python3)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xwininfo trayer lxqt-panel gdbus xscreensaver dbus-daemon python3)
 modules=(libplist-2.0 glib-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 
