@@ -80,6 +80,17 @@ TEST_F(DesktopSession, LoggingOutAndInBringsEverythingBack) {
     logOut(*desktop);
 }
 
+TEST_F(DesktopSession, WatchersHearOfChangesWhileTheLaunchAsks) {
+    session_.writeSettings("");
+    nocturo_ = session_.startNocturo();
+    const auto watch = session_.start("nocturoctl", {"watch"});
+    EXPECT_TRUE(waitUntil([&] { // until it listens, nothing can be heard
+        ctl({"toggle"});
+        return watch->readLine(Milliseconds(50)).has_value();
+    }));
+    EXPECT_EQ(session_.run("xdotool", {"search", "--onlyvisible", "--name", "^Nocturo$"}).exit, 0);
+}
+
 } // namespace
 
 } // namespace nocturo::rig
