@@ -26,9 +26,12 @@ class DesktopPanels : public NocturoOnX {
                                           32, 0x00ffffff);
         const XcbReply<xcb_get_image_reply_t> image(
             xcb_get_image_reply(server_.get(), cookie, nullptr));
-        const auto* pixels =
-            reinterpret_cast<const Pixel*>(image ? xcb_get_image_data(image.get()) : nullptr);
-        return image ? static_cast<int>(std::count(pixels, pixels + 100 * 32, color)) : -1;
+        if (!image) {
+            return -1;
+        }
+        const auto* pixels = reinterpret_cast<const Pixel*>(xcb_get_image_data(image.get()));
+        const auto length = static_cast<std::size_t>(xcb_get_image_data_length(image.get()));
+        return static_cast<int>(std::count(pixels, pixels + length / sizeof(Pixel), color));
     }
 
     void setTrayColor(std::uint16_t red, std::uint16_t green, std::uint16_t blue) {
