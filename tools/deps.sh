@@ -60,6 +60,7 @@ packages=(
   fish                      # ...
   systemd                   # unit
   librsvg2-bin              # icons
+  hicolor-icon-theme        # where they are looked for
   # Packaging
   dpkg-dev                  # packages
   debhelper                 # ...

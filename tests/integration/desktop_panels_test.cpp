@@ -15,6 +15,8 @@ class DesktopPanels : public NocturoOnX {
   protected:
     DesktopPanels() : NocturoOnX(2) {
         session_.showWindows();
+        // Nocturo may be installed here, and its icons with it.
+        session_.environment()["XDG_DATA_DIRS"] = session_.runtimeDirectory();
         session_.writeSettings("<key>ShowStatusItem</key><integer>1</integer><key>NDGroupEffect"
                                "</key><array><string>NDInvertEffect</string></array>");
     }
