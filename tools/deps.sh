@@ -35,7 +35,9 @@ packages=(
   xdotool                   # typing into windows
   x11-utils                 # xwininfo, which finds what is in a tray
   trayer                    # a tray that embeds windows
-  libglib2.0-bin            # gdbus, which speaks to menus
+  lxqt-panel                # a tray that asks for items over the bus
+  libglib2.0-bin            # gdbus, which speaks to menus, and gio, which opens documents
+  mate-session-manager      # a session to log out of
   xvfb                      # an X server with all-zero ramps
   x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
   locales                   # one with a comma in its numbers
@@ -44,13 +46,13 @@ packages=(
   python3                   # the tests' own calculation
   python3-dbusmock          # a login manager and screen savers for tests
   xscreensaver              # a screen saver that is like no other
+  desktop-file-utils        # desktop entries
+  shared-mime-info          # document types
   # Fuzzing
   clang                     # libFuzzer
   libclang-rt-dev           # its runtime
-  desktop-file-utils        # desktop entries
   appstream                 # metainfo
   libxml2-utils             # MIME definition
-  shared-mime-info          # its database
   man-db                    # manuals, and groff
   mandoc                    # manuals, more strictly
   bash-completion           # completions ...
@@ -58,6 +60,7 @@ packages=(
   fish                      # ...
   systemd                   # unit
   librsvg2-bin              # icons
+  hicolor-icon-theme        # where they are looked for
   # Packaging
   dpkg-dev                  # packages
   debhelper                 # ...
@@ -71,7 +74,7 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xwininfo trayer gdbus xscreensaver dbus-daemon python3)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xwininfo trayer lxqt-panel gdbus gio mate-session update-mime-database update-desktop-database xscreensaver dbus-daemon python3)
 modules=(libplist-2.0 glib-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 

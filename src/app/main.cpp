@@ -213,6 +213,7 @@ int run(const RunOptions& options) {
     std::optional<DesktopSources> sources;
     // In the event loop, because it may ask the user and be told to end meanwhile.
     callFirst([&] {
+        face.announceChanges();
         if (!launch(controller, centers.local)) {
             QCoreApplication::quit();
             return;
@@ -221,7 +222,7 @@ int run(const RunOptions& options) {
         face.setKeyboardLayout(hotKeys->layout());
         windows.setKeyboardLayout(hotKeys->layout());
         controller.updateHotKey();
-        face.announceChanges();
+        face.launchDidFinish();
         const bool displaysOfX = displays.services->name() == "randr";
         sources.emplace(
             centers, runLoop,

@@ -16,6 +16,12 @@ namespace nocturo {
 WindowRestoration::WindowRestoration(NDAppController& controller, std::filesystem::path file)
     : controller_(controller), file_(std::move(file)) {
     qApp->installEventFilter(this);
+    // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
+    const auto startNothing = [](QSessionManager& session) {
+        session.setRestartHint(QSessionManager::RestartNever);
+    };
+    connect(qGuiApp, &QGuiApplication::saveStateRequest, this, startNothing);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, startNothing);
 }
 
 void WindowRestoration::restore() {
@@ -25,11 +31,7 @@ void WindowRestoration::restore() {
 
 void WindowRestoration::startKeeping() {
     keeping_ = true;
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
-        save();
-        // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
-        session.setRestartHint(QSessionManager::RestartNever);
-    });
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { save(); });
 }
 
 bool WindowRestoration::eventFilter(QObject* watched, QEvent* event) {

@@ -27,6 +27,7 @@
 #include <QMetaProperty>
 
 #include <algorithm>
+#include <utility>
 
 namespace nocturo {
 
@@ -66,8 +67,12 @@ void BusFace::announceChanges() {
     for (const auto name :
          {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
           NSApplicationDidChangeScreenParametersNotification, kDisturbanceNotification}) {
-        localCenter_.addObserver(this, name, [this] { announce(); });
+        localCenter_.addObserver(this, name, [this] { announceSoon(); });
     }
+}
+
+void BusFace::launchDidFinish() {
+    announceSoon(); // what the launch itself changed without a word
     if (launcherFace_ != nullptr) {
         launcherFace_->launchDidFinish();
     }
@@ -293,10 +298,15 @@ QVariantMap BusFace::snapshot() const {
     return properties;
 }
 
-void BusFace::announce() {
-    if (!bus_) {
-        return;
+void BusFace::announceSoon() {
+    if (bus_ && !std::exchange(announcing_, true)) {
+        QMetaObject::invokeMethod(
+            this, [this] { announce(); }, Qt::QueuedConnection);
     }
+}
+
+void BusFace::announce() {
+    announcing_ = false;
     QVariantMap current = snapshot();
     QVariantMap changed;
     for (auto property = current.cbegin(); property != current.cend(); ++property) {

@@ -51,10 +51,12 @@ class BusFace : public QObject, protected QDBusContext {
     /// Names and reads keys by this layout, which must outlive the face; null for none.
     void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
 
-    /// Announces changes from now on. Call it after the launch, so that the controller, which
-    /// follows the same notifications, has acted before a change is announced. Launchers' calls are
-    /// more than the launch from then on.
+    /// Announces changes from now on. Each is announced from the event loop, once everybody else
+    /// who follows it has acted.
     void announceChanges();
+
+    /// Launchers' calls are more than the launch from now on.
+    void launchDidFinish();
 
     bool active() const;
     QString displayServicesName() const;
@@ -89,6 +91,7 @@ class BusFace : public QObject, protected QDBusContext {
 
   private:
     QVariantMap snapshot() const;
+    void announceSoon();
     void announce();
 
     /// The setting of that key; otherwise null, and the call is refused.
@@ -107,6 +110,7 @@ class BusFace : public QObject, protected QDBusContext {
     LauncherFace* launcherFace_ = nullptr; // a child of this object
     std::optional<QDBusConnection> bus_;
     QVariantMap announced_;
+    bool announcing_ = false; // soon
 };
 
 /// Has the application that owns its name on the bus be re-opened; false when it does not answer.

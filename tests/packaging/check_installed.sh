@@ -95,11 +95,16 @@ unit() {
 # told.
 icons() {
   need rsvg-convert
-  local icon size name
+  local icon size name directory
   for name in scalable/apps/org.nocturo.Nocturo symbolic/apps/org.nocturo.Nocturo-symbolic \
-    symbolic/status/nocturo-status{,-active}-symbolic; do
+    symbolic/apps/nocturo-status{,-active}-symbolic; do
     [ -e "$share/icons/hicolor/$name.svg" ] || fail "$name is missing"
   done
+  local index=/usr/share/icons/hicolor/index.theme
+  [ -e "$index" ] || { echo "hicolor-icon-theme is not installed"; exit 77; }
+  while read -r directory; do
+    grep -qE "^Directories=(.*,)?$directory(,|\$)" "$index" || fail "nobody looks into $directory"
+  done < <(cd "$share/icons/hicolor" && find . -type f -printf '%P\n' | xargs dirname | sort -u)
   ! grep -lrE 'clip-path|<mask|<filter' "$share/icons" || fail "Qt draws these without that"
   echo '.ColorScheme-Text, path { color: #ff0000 !important; }' >"$work/red.css"
   while read -r icon; do

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPainter>
 
 #include <gmock/gmock.h>
 
@@ -94,6 +95,37 @@ TEST(StatusImages, AreTheirNamesInThePanelsColor) {
         };
         EXPECT_NEAR(inked(kStatusTemplate), 0.5, 0.08) << side;
         EXPECT_GT(inked(kStatusActiveTemplate), inked(kStatusTemplate) + 0.15) << side;
+    }
+}
+
+/// The part of the pixels of two gray images that are clearly told apart.
+double difference(const QImage& one, const QImage& other) {
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            count += std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > 64 ? 1 : 0;
+        }
+    }
+    return static_cast<double>(count) / (one.width() * one.height());
+}
+
+TEST(StatusImages, AreSeenOnPanelsOfUnknownColor) {
+    for (const int side : {16, 22, 24, 48}) {
+        for (const int shade : {0, 0x36, 0x80, 0xff}) {
+            QImage ground(side, side, QImage::Format_Grayscale8);
+            ground.fill(QColor(shade, shade, shade));
+            const auto drawn = [&](const char* name) {
+                QImage image = ground;
+                QPainter painter(&image);
+                statusImage(QLatin1String(name), std::nullopt).paint(&painter, image.rect());
+                return image;
+            };
+            const QImage off = drawn(kStatusTemplate);
+            const QImage on = drawn(kStatusActiveTemplate);
+            EXPECT_GT(difference(off, ground), 0.15) << side << " on " << shade;
+            EXPECT_GT(difference(on, ground), 0.15) << side << " on " << shade;
+            EXPECT_GT(difference(on, off), 0.15) << side << " on " << shade;
+        }
     }
 }
 

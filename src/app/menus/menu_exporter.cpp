@@ -4,7 +4,6 @@
 #include "app/menus/menu_exporter.h"
 
 #include <QActionEvent>
-#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusVariant>
@@ -69,9 +68,18 @@ constexpr auto kIntrospection = R"xml(  <interface name="com.canonical.dbusmenu"
       <arg name="data" type="v" direction="in"/>
       <arg name="timestamp" type="u" direction="in"/>
     </method>
+    <method name="EventGroup">
+      <arg name="events" type="a(isvu)" direction="in"/>
+      <arg name="idErrors" type="ai" direction="out"/>
+    </method>
     <method name="AboutToShow">
       <arg name="id" type="i" direction="in"/>
       <arg name="needUpdate" type="b" direction="out"/>
+    </method>
+    <method name="AboutToShowGroup">
+      <arg name="ids" type="ai" direction="in"/>
+      <arg name="updatesNeeded" type="ai" direction="out"/>
+      <arg name="idErrors" type="ai" direction="out"/>
     </method>
     <signal name="LayoutUpdated">
       <arg name="revision" type="u"/>
@@ -79,6 +87,10 @@ constexpr auto kIntrospection = R"xml(  <interface name="com.canonical.dbusmenu"
     </signal>
   </interface>
 )xml";
+
+QVariantMap rootProperties() {
+    return {{QStringLiteral("children-display"), QStringLiteral("submenu")}};
+}
 
 QVariantMap menuProperties() {
     return {{QStringLiteral("Version"), 3U},
@@ -177,8 +189,15 @@ std::optional<QList<QVariant>> MenuExporter::answerTo(const QDBusMessage& messag
         handleEvent(id, name);
         return QList<QVariant>();
     }
+    if (method == QLatin1String("EventGroup")) {
+        return one(QVariant::fromValue(handleEvents(arguments.value(0).value<QDBusArgument>())));
+    }
     if (method == QLatin1String("AboutToShow")) {
         return one(false);
+    }
+    if (method == QLatin1String("AboutToShowGroup")) {
+        const QVariant none = QVariant::fromValue(QList<int>());
+        return QList<QVariant>{none, none};
     }
     return std::nullopt;
 }
@@ -189,8 +208,7 @@ QList<QVariant> MenuExporter::layout(int parent) {
         for (const QAction* item : menu_.actions()) {
             children.append(layoutOf(*item));
         }
-        const QVariantMap root = {{QStringLiteral("children-display"), QStringLiteral("submenu")}};
-        return {revision_, layoutStructure(0, root, children)};
+        return {revision_, layoutStructure(0, rootProperties(), children)};
     }
     const QAction* item = itemOf(parent);
     return {revision_, item != nullptr ? layoutOf(*item) : layoutStructure(parent, {}, {})};
@@ -198,6 +216,9 @@ QList<QVariant> MenuExporter::layout(int parent) {
 
 QVariant MenuExporter::groupProperties(const QList<int>& ids) {
     QList<ItemProperties> list;
+    if (ids.isEmpty() || ids.contains(0)) {
+        list.append({0, rootProperties()});
+    }
     for (const QAction* item : menu_.actions()) {
         const int id = idOf(item);
         if (ids.isEmpty() || ids.contains(id)) {
@@ -207,12 +228,32 @@ QVariant MenuExporter::groupProperties(const QList<int>& ids) {
     return QVariant::fromValue(list);
 }
 
-void MenuExporter::handleEvent(int id, const QString& event) {
+bool MenuExporter::handleEvent(int id, const QString& event) {
     QAction* item = itemOf(id);
     if (item != nullptr && event == QLatin1String("clicked")) {
         // Later, so that the dock has its answer first.
         QMetaObject::invokeMethod(item, &QAction::trigger, Qt::QueuedConnection);
     }
+    return id == 0 || item != nullptr;
+}
+
+QList<int> MenuExporter::handleEvents(const QDBusArgument& events) {
+    QList<int> unknown;
+    events.beginArray();
+    while (!events.atEnd()) {
+        int id = 0;
+        QString event;
+        QDBusVariant data;
+        uint time = 0;
+        events.beginStructure();
+        events >> id >> event >> data >> time;
+        events.endStructure();
+        if (!handleEvent(id, event)) {
+            unknown.append(id);
+        }
+    }
+    events.endArray();
+    return unknown;
 }
 
 int MenuExporter::idOf(const QAction* item) {

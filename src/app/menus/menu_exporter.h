@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusVirtualObject>
 #include <QHash>
@@ -31,7 +32,8 @@ class MenuExporter : public QDBusVirtualObject {
     std::optional<QList<QVariant>> answerTo(const QDBusMessage& message);
     QList<QVariant> layout(int parent);
     QVariant groupProperties(const QList<int>& ids);
-    void handleEvent(int id, const QString& event);
+    bool handleEvent(int id, const QString& event); // false for an unknown item
+    QList<int> handleEvents(const QDBusArgument& events);
     void tellLayout();
 
     QMenu& menu_;

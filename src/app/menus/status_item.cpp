@@ -3,9 +3,8 @@
 #include "app/menus/status_image.h"
 
 #include <QCursor>
-#include <QGuiApplication>
 #include <QMenu>
-#include <QPalette>
+#include <QRgba64>
 
 #include <utility>
 
@@ -21,6 +20,7 @@ void StatusItem::setShown(bool shown) {
     }
     shown_ = shown;
     icon_.reset();
+    trayColor_.reset();
     trayWatch_.reset();
     if (shown) {
         trayWatch_ = std::make_unique<TrayWatch>(surroundings_.bus, surroundings_.xDisplay,
@@ -44,6 +44,8 @@ void StatusItem::trayAppeared() {
     connect(icon_.get(), &QSystemTrayIcon::activated, this, &StatusItem::wasActivated);
     setImage();
     icon_->show();
+    trayColor_ = std::make_unique<TrayColor>(surroundings_.xDisplay, [this] { setImage(); });
+    setImage();
     if (waitingDidChange) {
         waitingDidChange();
     }
@@ -52,9 +54,18 @@ void StatusItem::trayAppeared() {
 void StatusItem::setImage() {
     if (icon_ != nullptr) {
         const auto* name = active_ ? kStatusActiveTemplate : kStatusTemplate;
-        icon_->setIcon(statusImage(QLatin1String(name),
-                                   QGuiApplication::palette().color(QPalette::WindowText)));
+        icon_->setIcon(statusImage(QLatin1String(name), imageColor()));
     }
+}
+
+// Only a tray window knows where it has the item. Beside one there may be a tray on the bus, which
+// then has the item, on a panel whose color nobody tells.
+std::optional<QColor> StatusItem::imageColor() const {
+    const auto color = trayColor_ != nullptr ? trayColor_->color() : std::nullopt;
+    if (!color || !icon_->geometry().isValid()) {
+        return std::nullopt;
+    }
+    return QColor(qRgba64((*color)[0], (*color)[1], (*color)[2], UINT16_MAX));
 }
 
 void StatusItem::wasActivated(QSystemTrayIcon::ActivationReason reason) {

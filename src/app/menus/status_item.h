@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/tray/tray_color.h"
 #include "platform/tray/tray_watch.h"
 
 #include <QSystemTrayIcon>
@@ -36,6 +37,7 @@ class StatusItem : public QObject {
   private:
     void trayAppeared();
     void setImage();
+    std::optional<QColor> imageColor() const;
     void wasActivated(QSystemTrayIcon::ActivationReason reason);
 
     QMenu& menu_;
@@ -45,6 +47,7 @@ class StatusItem : public QObject {
     bool active_ = false;
     std::unique_ptr<TrayWatch> trayWatch_;
     std::unique_ptr<QSystemTrayIcon> icon_;
+    std::unique_ptr<TrayColor> trayColor_;
 };
 
 } // namespace nocturo

@@ -44,10 +44,11 @@ xcb_atom_t XEvents::atom(std::string_view name) const {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-std::optional<std::vector<std::uint32_t>> XEvents::rootProperty(xcb_atom_t name) const {
+std::optional<std::vector<std::uint32_t>> XEvents::property(xcb_window_t window,
+                                                            xcb_atom_t name) const {
     auto* raw = connection_.get();
     const auto cookie =
-        xcb_get_property(raw, false, root_, name, XCB_GET_PROPERTY_TYPE_ANY, 0, kWholeProperty);
+        xcb_get_property(raw, false, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, kWholeProperty);
     const XcbReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(raw, cookie, nullptr));
     if (!reply || reply->type == XCB_ATOM_NONE || reply->format != 32) {
         return std::nullopt;
@@ -56,7 +57,13 @@ std::optional<std::vector<std::uint32_t>> XEvents::rootProperty(xcb_atom_t name)
     return std::vector(numbers, numbers + reply->value_len);
 }
 
-void XEvents::onRootProperty(xcb_atom_t name, std::function<void()> changed) {
+void XEvents::followProperties(xcb_window_t window) const {
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &mask);
+    xcb_flush(connection_.get());
+}
+
+void XEvents::onProperty(xcb_atom_t name, std::function<void()> changed) {
     propertyHandlers_[name] = std::move(changed);
 }
 

@@ -15,8 +15,9 @@
 
 namespace nocturo {
 
-/// A connection to an X server for what is announced on its root window. Handlers run from the
-/// event loop. When the server goes, nothing more is heard, and that is all.
+/// A connection to an X server for what is announced on its root window, and on others that are
+/// followed. Handlers run from the event loop. When the server goes, nothing more is heard, and
+/// that is all.
 class XEvents {
   public:
     using EventHandler = std::function<void(const xcb_generic_event_t& event)>;
@@ -30,11 +31,17 @@ class XEvents {
     /// The server's number for a name; 0 when the server does not answer.
     xcb_atom_t atom(std::string_view name) const;
 
-    /// The property of the root window as 32-bit numbers; nothing when it is not there.
-    std::optional<std::vector<std::uint32_t>> rootProperty(xcb_atom_t name) const;
+    /// The property of the window as 32-bit numbers; nothing when it is not there.
+    std::optional<std::vector<std::uint32_t>> property(xcb_window_t window, xcb_atom_t name) const;
+    std::optional<std::vector<std::uint32_t>> rootProperty(xcb_atom_t name) const {
+        return property(root_, name);
+    }
+
+    /// From now on the properties of that window are heard of as the root window's are.
+    void followProperties(xcb_window_t window) const;
 
     /// One handler for each property and for each type of event.
-    void onRootProperty(xcb_atom_t name, std::function<void()> changed);
+    void onProperty(xcb_atom_t name, std::function<void()> changed);
     void onEvent(std::uint8_t type, EventHandler handler);
 
     /// Hands out what has come in. The event loop does it by itself, except for what came in beside

@@ -69,7 +69,7 @@ void followXScreenSaverStatus(XEvents& events, ScreenSaverState& state) {
             state.setActive(kProperty, covers);
         }
     };
-    events.onRootProperty(property, report);
+    events.onProperty(property, report);
     events.onEvent(XCB_DESTROY_NOTIFY, [report](const auto&) { report(); });
     report();
 }

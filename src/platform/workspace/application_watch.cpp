@@ -29,13 +29,13 @@ ApplicationWatch::ApplicationWatch(XEvents* events, std::optional<QDBusConnectio
         return;
     }
     windowListAtom_ = events_->atom("_NET_CLIENT_LIST");
-    events_->onRootProperty(windowListAtom_, [this] { readWindowList(); });
+    events_->onProperty(windowListAtom_, [this] { readWindowList(); });
     readWindowList();
 }
 
 ApplicationWatch::~ApplicationWatch() {
     if (events_ != nullptr) {
-        events_->onRootProperty(windowListAtom_, [] {});
+        events_->onProperty(windowListAtom_, [] {});
     }
 }
 

@@ -1,0 +1,124 @@
+// The status item in panels that people use: that it is seen, clicked and comes back.
+
+#include "nocturo_test.h"
+#include "platform/x11/xcb_handles.h"
+
+namespace nocturo::rig {
+
+namespace {
+
+/// A color as an X server of 24 bits holds it.
+using Pixel = std::uint32_t;
+constexpr Pixel kDark = 0x363636; // of the image, where no color is asked for
+
+class DesktopPanels : public NocturoOnX {
+  protected:
+    DesktopPanels() : NocturoOnX(2) {
+        session_.showWindows();
+        // Nocturo may be installed here, and its icons with it.
+        session_.environment()["XDG_DATA_DIRS"] = session_.runtimeDirectory();
+        session_.writeSettings("<key>ShowStatusItem</key><integer>1</integer><key>NDGroupEffect"
+                               "</key><array><string>NDInvertEffect</string></array>");
+    }
+
+    /// The pixels of that color in the corner where panels stand.
+    int count(Pixel color) {
+        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server_.get())).data->root;
+        const auto cookie = xcb_get_image(server_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, root, 0, 0, 100,
+                                          32, 0x00ffffff);
+        const XcbReply<xcb_get_image_reply_t> image(
+            xcb_get_image_reply(server_.get(), cookie, nullptr));
+        if (!image) {
+            return -1;
+        }
+        const auto* pixels = reinterpret_cast<const Pixel*>(xcb_get_image_data(image.get()));
+        const auto length = static_cast<std::size_t>(xcb_get_image_data_length(image.get()));
+        return static_cast<int>(std::count(pixels, pixels + length / sizeof(Pixel), color));
+    }
+
+    void setTrayColor(std::uint16_t red, std::uint16_t green, std::uint16_t blue) {
+        const auto cookie =
+            xcb_get_selection_owner(server_.get(), client_.atom("_NET_SYSTEM_TRAY_S0"));
+        const XcbReply<xcb_get_selection_owner_reply_t> tray(
+            xcb_get_selection_owner_reply(server_.get(), cookie, nullptr));
+        const std::array<std::uint32_t, 12> colors = {red, green, blue};
+        ASSERT_NE(tray, nullptr);
+        xcb_change_property(server_.get(), XCB_PROP_MODE_REPLACE, tray->owner,
+                            client_.atom("_NET_SYSTEM_TRAY_COLORS"), XCB_ATOM_CARDINAL, 32,
+                            colors.size(), colors.data());
+        xcb_flush(server_.get());
+    }
+
+    std::unique_ptr<Process> startLxqtPanel() {
+        const std::string file = session_.runtimeDirectory() / "panel.conf";
+        std::ofstream(file) << "panels=panel1\n[panel1]\nplugins=statusnotifier\nposition=Top\n"
+                               "panelSize=32\niconSize=22\nalignment=-1\n"
+                               "[statusnotifier]\ntype=statusnotifier\n";
+        return session_.start("lxqt-panel", {"-c", file});
+    }
+
+    XcbConnection server_{xcb_connect(session_.server().display().c_str(), nullptr)};
+};
+
+TEST_F(DesktopPanels, ATrayWindowChoosesTheColorOfTheImage) {
+    const auto trayer = session_.start(
+        "trayer", {"--edge", "top", "--align", "left", "--widthtype", "pixel", "--width", "100",
+                   "--height", "32", "--transparent", "true", "--alpha", "0", "--tint", "0"});
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(waitUntil([&] { return count(kDark) > 50 && count(0xffffff) > 20; }));
+    setTrayColor(0xffff, 0, 0x8080);
+    EXPECT_TRUE(waitUntil([&] { return count(0xff0080) > 100; }));
+    EXPECT_EQ(count(kDark), 0);
+    setTrayColor(0, 0xffff, 0);
+    EXPECT_TRUE(waitUntil([&] { return count(0x00ff00) > 100; }));
+}
+
+TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
+    const auto isShown = [&] { return count(kDark) > 20; };
+    const auto click = [&](const char* button) {
+        session_.run("xdotool", {"mousemove", "15", "15", "click", button});
+    };
+    nocturo_ = session_.startNocturo();
+    ASSERT_TRUE(becomes("ii"));
+    auto panel = startLxqtPanel(); // late, as at a log-in
+    ASSERT_TRUE(waitUntil(isShown));
+    click("2");
+    EXPECT_TRUE(becomes("oo"));
+
+    panel->signal(SIGKILL);
+    panel->wait();
+    ASSERT_EQ(count(kDark), 0);
+    panel = startLxqtPanel();
+    ASSERT_TRUE(waitUntil(isShown));
+    ctl({"quit"});
+    ASSERT_EQ(nocturo_->wait(), 0);
+    EXPECT_TRUE(waitUntil([&] { return count(kDark) == 0; }));
+
+    nocturo_ = session_.startNocturo(); // after the panel
+    ASSERT_TRUE(waitUntil(isShown));
+    // The panel's own menu, of what the item tells it; its first item switches.
+    click("3");
+    EXPECT_TRUE(waitUntil([&] {
+        session_.run("xdotool", {"key", "Home", "Return"});
+        return shown() == "ii";
+    }));
+    EXPECT_EQ(nocturo_->errors(), "");
+}
+
+TEST_F(DesktopPanels, DocksTellSeveralClicksAtOnce) {
+    nocturo_ = session_.startNocturo();
+    ctl({"status"}); // answered after the launch
+    ASSERT_EQ(shown(), "ii");
+    const auto call = [&](const char* method, const char* types, auto... arguments) {
+        session_.bus().call("org.nocturo.Nocturo", "/org/nocturo/Nocturo/LauncherMenu",
+                            "com.canonical.dbusmenu", method, types, arguments...);
+    };
+    call("GetLayout", "iias", 0, -1, 0);
+    // On the menu itself, and on the first item, which switches.
+    call("EventGroup", "a(isvu)", 2, 0, "opened", "s", "", 0, 1, "clicked", "s", "", 0);
+    EXPECT_TRUE(becomes("oo"));
+}
+
+} // namespace
+
+} // namespace nocturo::rig

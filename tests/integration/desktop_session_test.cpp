@@ -1,0 +1,96 @@
+// Nocturo installed, as file managers and session managers find it.
+
+#include "nocturo_test.h"
+#include "preferences/documents/effect_document_file.h"
+
+namespace nocturo::rig {
+
+namespace {
+
+class DesktopSession : public NocturoOnX {
+  protected:
+    DesktopSession() : NocturoOnX(2) {
+        session_.showWindows();
+        succeed("cmake", {"--install", NOCTURO_BIN_DIR "/..", "--prefix", prefix_});
+        Environment& environment = session_.environment();
+        environment["PATH"] = prefix_ + "/bin:" + environment["PATH"];
+        environment["XDG_DATA_DIRS"] = prefix_ + "/share:/usr/share";
+        environment["XDG_CONFIG_DIRS"] = prefix_ + "/etc/xdg";
+        session_.writeSettings(
+            "<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>");
+    }
+
+    void succeed(const std::string& program, const std::vector<std::string>& arguments) {
+        const RunResult result = session_.run(program, arguments);
+        EXPECT_EQ(result.exit, 0) << program << ": " << result.errors;
+    }
+
+    bool preferencesAreShown(Milliseconds time = kPatience) {
+        const std::vector<std::string> search = {"search", "--onlyvisible", "--name",
+                                                 "Nocturo Preferences"};
+        return waitUntil([&] { return session_.run("xdotool", search).exit == 0; }, time);
+    }
+
+    std::string prefix_ = session_.runtimeDirectory() / "installed";
+};
+
+TEST_F(DesktopSession, FileManagersOpenDocumentsInTheOneThatRuns) {
+    const std::string document = session_.runtimeDirectory() / "mine.nocturo";
+    ASSERT_TRUE(writeEffectDocument(document, {.dim = true, .dimLevel = 0.25F}));
+    const auto effects = [&] { return status()["effects"]; };
+    const nlohmann::json expected = {"NDDimEffect"};
+    nocturo_ = session_.startNocturo();
+    ASSERT_TRUE(becomes("ii"));
+    ctl({"preferences"}); // which takes documents
+    ASSERT_TRUE(preferencesAreShown());
+    ASSERT_NE(effects(), expected);
+    succeed("gio", {"open", document});
+    EXPECT_TRUE(waitUntil([&] { return effects() == expected; })) << effects();
+    EXPECT_TRUE(nocturo_->isRunning());
+    EXPECT_EQ(nocturo_->errors(), "");
+}
+
+TEST_F(DesktopSession, LoggingOutAndInBringsEverythingBack) {
+    session_.environment()["GSETTINGS_BACKEND"] = "memory";
+    const auto logIn = [&] { return session_.start("mate-session"); };
+    const auto logOut = [&](Process& desktop) {
+        const std::string manager = "org.gnome.SessionManager";
+        succeed("gdbus", {"call", "--session", "-d", manager, "-o", "/org/gnome/SessionManager",
+                          "-m", manager + ".Logout", "1"}); // without a question
+        EXPECT_EQ(desktop.wait(), 0);
+        EXPECT_TRUE(allOwnWithin());
+        waitForTheBus();
+    };
+    auto desktop = logIn(); // starts Nocturo
+    ASSERT_TRUE(becomes("ii"));
+    EXPECT_FALSE(preferencesAreShown(Milliseconds(0)));
+    ctl({"preferences"});
+    ASSERT_TRUE(preferencesAreShown());
+    logOut(*desktop);
+
+    desktop = logIn();
+    EXPECT_TRUE(becomes("ii"));
+    EXPECT_TRUE(preferencesAreShown());
+    ctl({"set", "ActivateAtLaunch", "false"});
+    ctl({"toggle"});
+    logOut(*desktop);
+    desktop = logIn();
+    EXPECT_TRUE(preferencesAreShown());
+    EXPECT_EQ(shown(), "oo"); // as it was left
+    logOut(*desktop);
+}
+
+TEST_F(DesktopSession, WatchersHearOfChangesWhileTheLaunchAsks) {
+    session_.writeSettings("");
+    nocturo_ = session_.startNocturo();
+    const auto watch = session_.start("nocturoctl", {"watch"});
+    EXPECT_TRUE(waitUntil([&] { // until it listens, nothing can be heard
+        ctl({"toggle"});
+        return watch->readLine(Milliseconds(50)).has_value();
+    }));
+    EXPECT_EQ(session_.run("xdotool", {"search", "--onlyvisible", "--name", "^Nocturo$"}).exit, 0);
+}
+
+} // namespace
+
+} // namespace nocturo::rig
