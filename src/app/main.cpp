@@ -25,6 +25,8 @@
 #include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keeper.h"
+#include "platform/texts/translated.h"
+#include "platform/texts/users_language.h"
 #include "platform/workspace/desktop_entries.h"
 #include "platform/workspace/desktop_sources.h"
 #include "platform/workspace/disturber_finder.h"
@@ -120,7 +122,7 @@ bool inEventLoop = false;
 void endWithServer() {
     if (inEventLoop) {
         DefaultsStore::standardUserDefaults()->synchronize();
-        tell(stderr, "The display server has gone, so Nocturo ends.");
+        tell(stderr, translated("The display server has gone, so Nocturo ends."));
     }
 }
 
@@ -128,7 +130,9 @@ void endWithServer() {
 int run(const RunOptions& options) {
     const auto directory = runtimeDirectory();
     if (!directory) {
-        tell(stderr, "The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.");
+        tell(stderr,
+             translated(
+                 "The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours."));
         return kFailure;
     }
     const auto& defaults = DefaultsStore::standardUserDefaults();
@@ -162,7 +166,7 @@ int run(const RunOptions& options) {
             return kFailure;
         }
         if (documents.isEmpty()) {
-            tell(stdout, "Nocturo is already running.");
+            tell(stdout, translated("Nocturo is already running."));
         }
         return kSuccess;
     }
@@ -242,7 +246,7 @@ int run(const RunOptions& options) {
     controller.applicationWillTerminate();
     setDisplayServices(nullptr);
     if (result != kSuccess) {
-        tell(stderr, "The display server has gone, so Nocturo ends.");
+        tell(stderr, translated("The display server has gone, so Nocturo ends."));
     }
     return result;
 }
@@ -253,6 +257,7 @@ int run(const RunOptions& options) {
 
 int main(int argc, char* argv[]) {
     using namespace nocturo;
+    setLanguageOfTexts(usersLanguage());
     const Options options = parseOptions(std::vector<std::string>(argv + 1, argv + argc));
     if (const auto* text = std::get_if<PrintAndExit>(&options)) {
         std::fputs(text->text.c_str(), stdout);
