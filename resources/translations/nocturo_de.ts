@@ -52,7 +52,7 @@
             <translation>Die Farbe, die der Filter durchlässt</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>&amp;Sättigung:</translation>
         </message>
         <message>
@@ -60,7 +60,7 @@
             <translation>Wie viel der Filter von den anderen Farben wegnimmt</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
+            <source>Di&amp;m or lighten</source>
             <translation>&amp;Abdunkeln oder aufhellen</translation>
         </message>
         <message>
@@ -109,7 +109,7 @@
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
-            <translation>Beim Start von Nocturo &amp;einschalten</translation>
+            <translation>Bei&amp;m Start von Nocturo einschalten</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -172,7 +172,7 @@
             <translation>Als S&amp;ymbol im Benachrichtigungsfeld der Leiste</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>Ö&amp;ffnen …</translation>
         </message>
         <message>
@@ -243,12 +243,20 @@
             <translation>Dieser Desktop zeigt momentan kein Benachrichtigungsfeld an; Nocturo ist über das Anwendungsmenü erreichbar.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>Effekt &amp;ausschalten</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>Effekt &amp;einschalten</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Effekt ausschalten</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Liste leeren</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>Liste &amp;leeren</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>Nocturo &amp;beenden</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Effekt</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effekt</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Hilfe</translation>
+            <source>&amp;Help</source>
+            <translation>&amp;Hilfe</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -509,12 +517,12 @@
             <translation>Der Anzeigeserver ist verschwunden, daher wird Nocturo beendet.</translation>
         </message>
         <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
-        </message>
-        <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo läuft bereits.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

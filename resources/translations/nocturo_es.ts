@@ -52,7 +52,7 @@
             <translation>El color que deja pasar el filtro</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>&amp;Viveza:</translation>
         </message>
         <message>
@@ -60,7 +60,7 @@
             <translation>Cuánto quita el filtro de los demás colores</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
+            <source>Di&amp;m or lighten</source>
             <translation>&amp;Oscurecer o aclarar</translation>
         </message>
         <message>
@@ -172,7 +172,7 @@
             <translation>Como icono en la bandeja del si&amp;stema del panel</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
         <message>
@@ -243,12 +243,20 @@
             <translation>Este escritorio no muestra ninguna bandeja del sistema en este momento; puede acceder a Nocturo desde el menú de aplicaciones.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activar el efecto</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Desactivar el efecto</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Vaciar el menú</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vaciar el menú</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>&amp;Salir de Nocturo</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Efecto</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efecto</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Ayuda</translation>
+            <source>&amp;Help</source>
+            <translation>A&amp;yuda</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -509,12 +517,12 @@
             <translation>El servidor gráfico ha desaparecido, por lo que Nocturo termina.</translation>
         </message>
         <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
-        </message>
-        <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo ya se está ejecutando.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

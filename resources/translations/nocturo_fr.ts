@@ -21,7 +21,7 @@
         </message>
         <message>
             <source>&amp;Overexpose</source>
-            <translation>S&amp;urexposer</translation>
+            <translation>Sure&amp;xposer</translation>
         </message>
         <message>
             <source>Makes light tones white, so that stripes and backgrounds in light gray vanish</source>
@@ -52,7 +52,7 @@
             <translation>La couleur que le filtre laisse passer</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>Viv&amp;acité :</translation>
         </message>
         <message>
@@ -60,7 +60,7 @@
             <translation>La part des autres couleurs que le filtre retire</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
+            <source>Di&amp;m or lighten</source>
             <translation>Assom&amp;brir ou éclaircir</translation>
         </message>
         <message>
@@ -109,7 +109,7 @@
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
-            <translation>Activer au &amp;démarrage de Nocturo</translation>
+            <translation>Activer a&amp;u démarrage de Nocturo</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -172,7 +172,7 @@
             <translation>Comme icône dans la &amp;zone de notification du tableau de bord</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>&amp;Ouvrir…</translation>
         </message>
         <message>
@@ -181,7 +181,7 @@
         </message>
         <message>
             <source>&amp;Save...</source>
-            <translation>&amp;Enregistrer…</translation>
+            <translation>Enre&amp;gistrer…</translation>
         </message>
         <message>
             <source>Save the effects as a document</source>
@@ -243,12 +243,20 @@
             <translation>Ce bureau n’affiche pas de zone de notification pour le moment ; Nocturo reste accessible par le menu des applications.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activer l’effet</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Désactiver l’effet</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Vider le menu</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vider le menu</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>&amp;Quitter Nocturo</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Effet</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effet</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Aide</translation>
+            <source>&amp;Help</source>
+            <translation>Ai&amp;de</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -509,12 +517,12 @@
             <translation>Le serveur d’affichage a disparu, Nocturo se termine donc.</translation>
         </message>
         <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
-        </message>
-        <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo est déjà en cours d’exécution.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

@@ -52,16 +52,16 @@
             <translation>フィルターを通す色</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
-            <translation>鮮やかさ(&amp;N)：</translation>
+            <source>Vivi&amp;dness:</source>
+            <translation>鮮やかさ(&amp;D)：</translation>
         </message>
         <message>
             <source>How much of the other colors the filter takes away</source>
             <translation>フィルターがほかの色を取り除く度合い</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
-            <translation>暗くする・明るくする(&amp;D)</translation>
+            <source>Di&amp;m or lighten</source>
+            <translation>暗くする・明るくする(&amp;M)</translation>
         </message>
         <message>
             <source>Moves every color toward black or toward white</source>
@@ -172,8 +172,8 @@
             <translation>パネルのシステムトレイのアイコンとして(&amp;Y)</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
-            <translation>開く(&amp;E)...</translation>
+            <source>Ope&amp;n...</source>
+            <translation>開く(&amp;N)...</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -243,12 +243,20 @@
             <translation>このデスクトップには現在システムトレイがありません。Nocturo はアプリケーションメニューから操作できます。</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>効果をオフにする(&amp;D)</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>効果をオンにする(&amp;A)</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>効果をオフにする</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>履歴を消去</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>履歴を消去(&amp;C)</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>Nocturo を終了(&amp;Q)</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>効果</translation>
+            <source>&amp;Effect</source>
+            <translation>効果(&amp;E)</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>ヘルプ</translation>
+            <source>&amp;Help</source>
+            <translation>ヘルプ(&amp;H)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -509,12 +517,12 @@
             <translation>ディスプレイサーバーがなくなったため、Nocturo を終了します。</translation>
         </message>
         <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
-        </message>
-        <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo はすでに起動しています。</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
         </message>
         <message>
             <source>Usage: %@</source>

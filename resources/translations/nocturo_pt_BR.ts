@@ -21,7 +21,7 @@
         </message>
         <message>
             <source>&amp;Overexpose</source>
-            <translation>S&amp;uperexpor</translation>
+            <translation>Supere&amp;xpor</translation>
         </message>
         <message>
             <source>Makes light tones white, so that stripes and backgrounds in light gray vanish</source>
@@ -52,7 +52,7 @@
             <translation>A cor que o filtro deixa passar</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>&amp;Vividez:</translation>
         </message>
         <message>
@@ -60,8 +60,8 @@
             <translation>Quanto das outras cores o filtro retira</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
-            <translation>&amp;Escurecer ou clarear</translation>
+            <source>Di&amp;m or lighten</source>
+            <translation>Esc&amp;urecer ou clarear</translation>
         </message>
         <message>
             <source>Moves every color toward black or toward white</source>
@@ -172,7 +172,7 @@
             <translation>Como um í&amp;cone na bandeja do painel</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
         <message>
@@ -243,12 +243,20 @@
             <translation>Este ambiente de trabalho não mostra nenhuma bandeja no momento; o Nocturo pode ser acessado pelo menu de aplicativos.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Ativar o efeito</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Desativar o efeito</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Limpar menu</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Limpar menu</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>Sair do &amp;Nocturo</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Efeito</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efeito</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Ajuda</translation>
+            <source>&amp;Help</source>
+            <translation>A&amp;juda</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -509,12 +517,12 @@
             <translation>O servidor gráfico desapareceu, por isso o Nocturo será encerrado.</translation>
         </message>
         <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
-        </message>
-        <message>
             <source>Nocturo is already running.</source>
             <translation>O Nocturo já está em execução.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

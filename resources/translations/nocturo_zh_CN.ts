@@ -52,16 +52,16 @@
             <translation>滤镜允许通过的颜色</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
-            <translation>鲜艳度(&amp;N)：</translation>
+            <source>Vivi&amp;dness:</source>
+            <translation>鲜艳度(&amp;D)：</translation>
         </message>
         <message>
             <source>How much of the other colors the filter takes away</source>
             <translation>滤镜去除其他颜色的程度</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
-            <translation>调暗或调亮(&amp;D)</translation>
+            <source>Di&amp;m or lighten</source>
+            <translation>调暗或调亮(&amp;M)</translation>
         </message>
         <message>
             <source>Moves every color toward black or toward white</source>
@@ -172,8 +172,8 @@
             <translation>作为面板系统托盘中的图标(&amp;Y)</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
-            <translation>打开(&amp;E)...</translation>
+            <source>Ope&amp;n...</source>
+            <translation>打开(&amp;N)...</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -243,12 +243,20 @@
             <translation>此桌面当前没有系统托盘；可以通过应用程序菜单使用 Nocturo。</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>停用效果(&amp;D)</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>启用效果(&amp;A)</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>停用效果</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>清空列表</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>清空列表(&amp;C)</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>退出 Nocturo(&amp;Q)</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>效果</translation>
+            <source>&amp;Effect</source>
+            <translation>效果(&amp;E)</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>帮助</translation>
+            <source>&amp;Help</source>
+            <translation>帮助(&amp;H)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -509,12 +517,12 @@
             <translation>显示服务器已消失，因此 Nocturo 将退出。</translation>
         </message>
         <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
-        </message>
-        <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo 已在运行。</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
         </message>
         <message>
             <source>Usage: %@</source>

@@ -23,11 +23,14 @@ MNEMONIC = re.compile(r"&([^&\s])")
 # What is reached from one window with one press of Alt, beside the panel's own controls; a menu is
 # a window, too.
 WINDOWS = {
-    PANEL: ["&File"],
+    PANEL: ["&File", "&Effect", "&Help"],
     "question": ["&Keep", "&Go back"],
     "save panel": ["&Hide extension"],
     "file menu": ["&Open...", "Open &Recent", "&Save...", "&Preferences...", "&Close",
                   "&Quit Nocturo"],
+    "recent menu": ["&Clear Menu"],
+    "effect menu": ["&Activate Effect"],
+    "effect menu while on": ["&Deactivate Effect"],
     "help menu": ["&About Nocturo"],
 }
 

@@ -111,10 +111,11 @@ AlertAnswer DesktopMenus::runAlert(const Alert& alert) {
 }
 
 void DesktopMenus::setActivateItemTitles(bool active) {
-    const QString title = localized(active ? "Deactivate Effect" : "Activate Effect");
     Menus& all = menus();
-    for (QAction* item :
-         {all.mainMenu.activateItem(), all.dockActivateItem, all.statusActivateItem}) {
+    all.mainMenu.activateItem()->setText(
+        localized(active ? "&Deactivate Effect" : "&Activate Effect"));
+    const QString title = localized(active ? "Deactivate Effect" : "Activate Effect");
+    for (QAction* item : {all.dockActivateItem, all.statusActivateItem}) {
         if (item != nullptr) {
             item->setText(title);
         }
