@@ -351,6 +351,18 @@
             <translation>Ninguna</translation>
         </message>
         <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>V</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>A</translation>
+        </message>
+        <message>
             <source>Input</source>
             <translation>Entrada</translation>
         </message>

@@ -351,6 +351,18 @@
             <translation>なし</translation>
         </message>
         <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
+        </message>
+        <message>
             <source>Input</source>
             <translation>入力</translation>
         </message>
