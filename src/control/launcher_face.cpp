@@ -84,6 +84,8 @@ std::string openDocuments(NDAppController& controller, const QStringList& paths)
     if (refused.empty()) {
         return {};
     }
+    // Whoever opened them with a click sees no standard error, and launchers drop the answer.
+    controller.showRefusedDocuments(refused);
     if (refused.size() == 1) {
         return translated("\"%@\" is not an effect document.", {refused.front()});
     }

@@ -7,6 +7,7 @@
 #include "app/recent_documents.h"
 #include "app/windows/app_windows.h"
 #include "platform/desktop/localized.h"
+#include "preferences/documents/effect_document_file.h"
 #include "preferences/menus/screen_option_menu_manager.h"
 
 #include <QCoreApplication>
@@ -108,6 +109,15 @@ void DesktopMenus::updateStatusItemNotice() {
 
 AlertAnswer DesktopMenus::runAlert(const Alert& alert) {
     return runAlertBox(alert);
+}
+
+void DesktopMenus::showRefusedDocuments(const std::vector<std::string>& paths) {
+    QStringList sentences;
+    for (const std::string& path : paths) {
+        sentences.append(filled(localized("“%@” is not an effect document."),
+                                {QString::fromStdString(documentDisplayName(path))}));
+    }
+    refusal_ = shownMessage(localized("Opening failed"), sentences.join(u'\n'));
 }
 
 void DesktopMenus::setActivateItemTitles(bool active) {
