@@ -178,7 +178,7 @@ void measureHotKey(rig::Session& session, BusClient& client) {
 void measureReapplication(rig::Session& session) {
     auto opening = RandrHardware::open(session.server().display());
     if (opening.hardware == nullptr) {
-        throw std::runtime_error(opening.reason);
+        throw std::runtime_error("the X server cannot be used");
     }
     RampDisplayServices services(std::move(opening.hardware));
     setDisplayServices(&services);

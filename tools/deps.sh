@@ -13,6 +13,7 @@ packages=(
   qt6-base-dev              # event loop, bus, pictures
   qt6-tools-dev             # texts in other languages
   qt6-l10n-tools            # ...
+  python3                   # texts of the command line, the tests' own calculation
   libqt6svg6                # icons
   libplist-dev              # property lists
   libglib2.0-dev            # desktop entries
@@ -43,7 +44,6 @@ packages=(
   locales                   # one with a comma in its numbers
   dbus-daemon               # buses of the tests' own
   colord                    # the tests' color manager
-  python3                   # the tests' own calculation
   python3-dbusmock          # a login manager and screen savers for tests
   xscreensaver              # a screen saver that is like no other
   desktop-file-utils        # desktop entries

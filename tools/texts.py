@@ -15,13 +15,15 @@ import xml.etree.ElementTree as ElementTree
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 DEFAULT_TABLE = "Localizable"
+PRINTED_TABLE = "CommandLine"
 # The functions themselves, and alerts, whose texts are found where they are set.
-HANDED_ON = {"localized.h", "localized.cpp", "alert_box.cpp"}
+HANDED_ON = {"localized.h", "localized.cpp", "translated.h", "translated.cpp", "alert_box.cpp"}
 
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 CODE = re.compile(r'"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)+\'|(//[^\n]*|/\*.*?\*/)', re.DOTALL)
-CALL = re.compile(r"\blocalized\(")
+CALL = re.compile(r"\blocalized\(|(?<![.\w])(translated\(|ListedText\((?!\)))")
 TEXT = re.compile(rf'\s*{LITERALS}(?:,\s*"(\w+)"\s*)?\)')
+PRINTED = re.compile(rf"\s*{LITERALS}(?:\)|,\s*\{{)")
 CHOICE = re.compile(rf"[^\"();]*\?\s*{LITERALS}:\s*{LITERALS}\)")
 ALERT = re.compile(
     rf"\bAlert (\w+)|\b(\w+)\.(table|title|message|defaultButton|alternateButton) =\s*{LITERALS};")
@@ -38,17 +40,20 @@ def texts_of_code(path):
     for call in CALL.finditer(code):
         if path.name in HANDED_ON:
             continue
-        text = TEXT.match(code, call.end())
+        printed = call[1] and PRINTED.match(code, call.end())
+        text = not call[1] and TEXT.match(code, call.end())
         choice = CHOICE.match(code, call.end())
-        if text:
+        if printed:
+            yield PRINTED_TABLE, joined(printed[1])
+        elif text:
             yield text[2] or DEFAULT_TABLE, joined(text[1])
-        elif choice:
+        elif choice and not call[1]:
             yield DEFAULT_TABLE, joined(choice[1])
             yield DEFAULT_TABLE, joined(choice[2])
         else:
             line = code.count("\n", 0, call.start()) + 1
-            raise ValueError(f"{path}: localized() near line {line} takes what is no literal text, "
-                             "which cannot be found for the tables")
+            raise ValueError(f"{path}: {call[0]}...) near line {line} takes what is no literal "
+                             "text, which cannot be found for the tables")
     table = DEFAULT_TABLE
     for found in ALERT.finditer(code):
         if found[1]:

@@ -52,7 +52,7 @@
             <translation>Die Farbe, die der Filter durchlässt</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>&amp;Sättigung:</translation>
         </message>
         <message>
@@ -60,7 +60,7 @@
             <translation>Wie viel der Filter von den anderen Farben wegnimmt</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
+            <source>Di&amp;m or lighten</source>
             <translation>&amp;Abdunkeln oder aufhellen</translation>
         </message>
         <message>
@@ -109,7 +109,7 @@
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
-            <translation>Beim Start von Nocturo &amp;einschalten</translation>
+            <translation>Bei&amp;m Start von Nocturo einschalten</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -172,7 +172,7 @@
             <translation>Als S&amp;ymbol im Benachrichtigungsfeld der Leiste</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>Ö&amp;ffnen …</translation>
         </message>
         <message>
@@ -243,12 +243,20 @@
             <translation>Dieser Desktop zeigt momentan kein Benachrichtigungsfeld an; Nocturo ist über das Anwendungsmenü erreichbar.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>Effekt &amp;ausschalten</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>Effekt &amp;einschalten</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Effekt ausschalten</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Liste leeren</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>Liste &amp;leeren</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>Nocturo &amp;beenden</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Effekt</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effekt</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Hilfe</translation>
+            <source>&amp;Help</source>
+            <translation>&amp;Hilfe</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -341,6 +349,18 @@
         <message>
             <source>None</source>
             <translation>Keine</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
         </message>
         <message>
             <source>Input</source>
@@ -500,6 +520,595 @@
         <message>
             <source>Quit</source>
             <translation>Beenden</translation>
+        </message>
+    </context>
+    <context>
+        <name>CommandLine</name>
+        <message>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>Der Anzeigeserver ist verschwunden, daher wird Nocturo beendet.</translation>
+        </message>
+        <message>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo läuft bereits.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
+        </message>
+        <message>
+            <source>Usage: %@</source>
+            <translation>Aufruf: %@</translation>
+        </message>
+        <message>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Verändert, wie ganze Bildschirme aussehen: invertiert, überbelichtet, abgedunkelt
+oder aufgehellt, im HDTV-Bereich oder durch einen Farbfilter. Läuft bis zum Beenden
+und gibt dann jedem Bildschirm seine Farben zurück. Gesteuert wird es mit nocturoctl.</translation>
+        </message>
+        <message>
+            <source>Options:</source>
+            <translation>Optionen:</translation>
+        </message>
+        <message>
+            <source>where the displays come from:</source>
+            <translation>woher die Bildschirme kommen:</translation>
+        </message>
+        <message>
+            <source>what this session offers (default)</source>
+            <translation>was diese Sitzung bietet (Vorgabe)</translation>
+        </message>
+        <message>
+            <source>an X server</source>
+            <translation>ein X-Server</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N Bildschirme, 1 bis 16 (Vorgabe: 2),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>im Speicher, in Bilder gezeichnet</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>diesen Text zeigen</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>die Version zeigen</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>Eine Datei (FILE) ist ein Effektdokument (.nocturo); das laufende Nocturo öffnet es,
+wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt um.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>Eine Option „%@“ gibt es nicht; siehe nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services nimmt auto, randr, simulated oder simulated:N mit N von 1 bis 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>Das laufende Nocturo antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Ohne Sitzungsbus kann dem laufenden Nocturo kein Dokument übergeben werden.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>die gewählten Effekte</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>den Effekt bei jedem Start einschalten</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>erneutes Starten von Nocturo schaltet den Effekt um</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>solange eingeschaltet, alle 6 Sekunden erneut anwenden</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>pausieren, während der Bildschirmschoner läuft</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>mit dem globalen Tastenkürzel umschalten</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: als Symbol im Benachrichtigungsfeld laufen</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>virtueller Tastencode des Tastenkürzels</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>Zusatztasten des Tastenkürzels, als Bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>ob der Effekt zuletzt eingeschaltet war</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>die betroffenen Bildschirme; keiner heißt alle</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>der zuletzt gewählte Bildschirm; 0 heißt alle</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>Abdunkeln: -1 schwarz, 0 unverändert, 1 weiß</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>Farbfilter: Farbton in Grad</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>Farbfilter: Stärke, 0 bis 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>die Warnung vor f.lux wurde beantwortet</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>„%@“ nimmt eine Liste von Effekten.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>„%@“ nimmt eine Liste von Effektnamen.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>„%1$@“ nimmt nur Effekte, und einen Effekt „%2$@“ gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>„%@“ nimmt true oder false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>„%@“ nimmt eine ganze Zahl.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>„%@“ nimmt eine endliche Zahl.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>„%@“ nimmt eine Liste von Bildschirmkennungen.</translation>
+        </message>
+        <message>
+            <source>No setting takes a value of this type.</source>
+            <translation>Keine Einstellung nimmt einen Wert dieser Art.</translation>
+        </message>
+        <message>
+            <source>"%@" is not an effect document.</source>
+            <translation>„%@“ ist kein Effektdokument.</translation>
+        </message>
+        <message>
+            <source>Could not save settings at "%@".</source>
+            <translation>Die Einstellungen konnten nicht in „%@“ gespeichert werden.</translation>
+        </message>
+        <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>Einen Bildschirm mit der Kennung %d gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@".</source>
+            <translation>Eine Einstellung „%@“ gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Dies sind keine Effektdokumente: %@</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running; start it with: nocturo &amp;</source>
+            <translation>Nocturo läuft nicht; starten Sie es mit: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The session bus failed: %@.</source>
+            <translation>Der Sitzungsbus hat versagt: %@.</translation>
+        </message>
+        <message>
+            <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
+            <translation>Es gibt keinen Sitzungsbus, über den Nocturo zu erreichen wäre; starten Sie es innerhalb einer Desktopsitzung mit: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>Nocturo did not do it: %@</source>
+            <translation>Nocturo hat es nicht ausgeführt: %@</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
+            <translation>Eine Einstellung „%@“ gibt es nicht; nocturoctl status nennt alle.</translation>
+        </message>
+        <message>
+            <source>No hot key is chosen.</source>
+            <translation>Es ist kein Tastenkürzel gewählt.</translation>
+        </message>
+        <message>
+            <source>%@  (not enabled; nocturoctl hotkey enable)</source>
+            <translation>%@  (nicht aktiviert; nocturoctl hotkey enable)</translation>
+        </message>
+        <message>
+            <source>%@  (not in force: another program holds it, or the desktop offers no hot keys)</source>
+            <translation>%@  (nicht wirksam: Ein anderes Programm belegt es, oder der Desktop bietet keine Tastenkürzel)</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>Einen Bildschirm „%@“ gibt es nicht; nocturoctl screens nennt ihre Nummern, Namen und Kennungen.</translation>
+        </message>
+        <message>
+            <source>Name a file.</source>
+            <translation>Nennen Sie eine Datei.</translation>
+        </message>
+        <message>
+            <source>No display is online.</source>
+            <translation>Kein Bildschirm ist angeschlossen.</translation>
+        </message>
+        <message>
+            <source>The file "%@" cannot be written.</source>
+            <translation>Die Datei „%@“ kann nicht geschrieben werden.</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo wurde beendet.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on</source>
+            <translation>Den Effekt einschalten</translation>
+        </message>
+        <message>
+            <source>Switch the effect off</source>
+            <translation>Den Effekt ausschalten</translation>
+        </message>
+        <message>
+            <source>Every display gets its own colors back.</source>
+            <translation>Jeder Bildschirm erhält seine eigenen Farben zurück.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on or off</source>
+            <translation>Den Effekt ein- oder ausschalten</translation>
+        </message>
+        <message>
+            <source>Bind this to a key.</source>
+            <translation>Legen Sie dies auf eine Taste.</translation>
+        </message>
+        <message>
+            <source>Show the state of everything</source>
+            <translation>Den Zustand von allem zeigen</translation>
+        </message>
+        <message>
+            <source>With --json, one object for programs.</source>
+            <translation>Mit --json als ein Objekt für Programme.</translation>
+        </message>
+        <message>
+            <source>List or choose the effects</source>
+            <translation>Die Effekte auflisten oder wählen</translation>
+        </message>
+        <message>
+            <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
+name. add and remove change the selection, only replaces it.</source>
+            <translation>NAME ist invert, overexposure, dim, color-filter oder hdtv-luminance oder der Name
+einer Klasse. add und remove ändern die Auswahl, only ersetzt sie.</translation>
+        </message>
+        <message>
+            <source>Show a setting</source>
+            <translation>Eine Einstellung zeigen</translation>
+        </message>
+        <message>
+            <source>nocturoctl status lists the keys.</source>
+            <translation>nocturoctl status nennt die Schlüssel.</translation>
+        </message>
+        <message>
+            <source>Change a setting</source>
+            <translation>Eine Einstellung ändern</translation>
+        </message>
+        <message>
+            <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
+For example: nocturoctl set NDDimEffectLevel -0.3</source>
+            <translation>VALUE ist true oder false, eine Zahl oder eine Liste mit Kommas, je nach Einstellung.
+Zum Beispiel: nocturoctl set NDDimEffectLevel -0.3</translation>
+        </message>
+        <message>
+            <source>Give a setting its default value again</source>
+            <translation>Eine Einstellung auf ihre Vorgabe zurücksetzen</translation>
+        </message>
+        <message>
+            <source>List or choose the affected displays</source>
+            <translation>Die betroffenen Bildschirme auflisten oder wählen</translation>
+        </message>
+        <message>
+            <source>toggle puts a display into the set of affected displays or takes it out. An empty
+set means all displays, which is also what all chooses.</source>
+            <translation>toggle nimmt einen Bildschirm in die Menge der betroffenen auf oder aus ihr heraus.
+Eine leere Menge heißt alle Bildschirme; das wählt auch all.</translation>
+        </message>
+        <message>
+            <source>Show or choose the global hot key</source>
+            <translation>Das globale Tastenkürzel zeigen oder wählen</translation>
+        </message>
+        <message>
+            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
+hot key toggles the effect while it is enabled.</source>
+            <translation>KEYS ist eine Taste mit beliebigen Zusatztasten, etwa 'ctrl+super+F5' oder
+'alt+shift+k'. Das Tastenkürzel schaltet den Effekt um, solange es aktiviert ist.</translation>
+        </message>
+        <message>
+            <source>Take the effects from a document</source>
+            <translation>Die Effekte aus einem Dokument übernehmen</translation>
+        </message>
+        <message>
+            <source>Save the effects as a document</source>
+            <translation>Die Effekte als Dokument speichern</translation>
+        </message>
+        <message>
+            <source>Draw what the effects do</source>
+            <translation>Zeichnen, was die Effekte bewirken</translation>
+        </message>
+        <message>
+            <source>The curves of a display, of the main one unless told otherwise, and a scene seen
+through them, as a PNG picture. N is its number, name or identifier.</source>
+            <translation>Die Kurven eines Bildschirms, ohne Angabe des Hauptbildschirms, und eine Szene durch
+sie gesehen, als PNG-Bild. N ist seine Nummer, sein Name oder seine Kennung.</translation>
+        </message>
+        <message>
+            <source>Show the preference window</source>
+            <translation>Das Einstellungsfenster zeigen</translation>
+        </message>
+        <message>
+            <source>Show the about box</source>
+            <translation>Das Fenster „Über Nocturo“ zeigen</translation>
+        </message>
+        <message>
+            <source>Print every change as it happens</source>
+            <translation>Jede Änderung ausgeben, sobald sie geschieht</translation>
+        </message>
+        <message>
+            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
+            <translation>Ein JSON-Objekt je Zeile mit dem, was sich geändert hat. Endet mit Nocturo.</translation>
+        </message>
+        <message>
+            <source>Give every display its own colors back</source>
+            <translation>Jedem Bildschirm seine eigenen Farben zurückgeben</translation>
+        </message>
+        <message>
+            <source>Whether Nocturo runs, answers or was killed, and without a session bus as well. Where
+nothing is known of a display's own colors it gets plain ones.</source>
+            <translation>Ob Nocturo läuft, antwortet oder abgeschossen wurde, und auch ohne Sitzungsbus. Ist
+von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</translation>
+        </message>
+        <message>
+            <source>Give the displays back and end Nocturo</source>
+            <translation>Die Bildschirme zurückgeben und Nocturo beenden</translation>
+        </message>
+        <message>
+            <source>Drives the Nocturo that runs in this session.</source>
+            <translation>Steuert das Nocturo, das in dieser Sitzung läuft.</translation>
+        </message>
+        <message>
+            <source>nocturoctl VERB --help tells more.</source>
+            <translation>nocturoctl VERB --help sagt mehr.</translation>
+        </message>
+        <message>
+            <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
+            <translation>Rückgabewert: 0 erledigt, 1 fehlgeschlagen, 2 nicht verstanden, 3 Nocturo läuft nicht.</translation>
+        </message>
+        <message>
+            <source>Say what to do; nocturoctl --help lists the verbs.</source>
+            <translation>Sagen Sie, was zu tun ist; nocturoctl --help nennt die Verben.</translation>
+        </message>
+        <message>
+            <source>There is no verb "%@"; nocturoctl --help lists them.</source>
+            <translation>Ein Verb „%@“ gibt es nicht; nocturoctl --help nennt alle.</translation>
+        </message>
+        <message>
+            <source>yes</source>
+            <translation>ja</translation>
+        </message>
+        <message>
+            <source>no</source>
+            <translation>nein</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(keine)</translation>
+        </message>
+        <message>
+            <source>%@ (not enabled)</source>
+            <translation>%@ (nicht aktiviert)</translation>
+        </message>
+        <message>
+            <source>%@ (not in force)</source>
+            <translation>%@ (nicht wirksam)</translation>
+        </message>
+        <message>
+            <source>Another program</source>
+            <translation>Ein anderes Programm</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found once since Nocturo was started.</source>
+            <translation>%@ ändert die Farben ebenfalls: einmal bemerkt, seit Nocturo gestartet wurde.</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found %d times since Nocturo was started.</source>
+            <translation>%@ ändert die Farben ebenfalls: %d-mal bemerkt, seit Nocturo gestartet wurde.</translation>
+        </message>
+        <message>
+            <source>effect</source>
+            <translation>Effekt</translation>
+        </message>
+        <message>
+            <source>on</source>
+            <translation>ein</translation>
+        </message>
+        <message>
+            <source>off</source>
+            <translation>aus</translation>
+        </message>
+        <message>
+            <source>selected</source>
+            <translation>gewählt</translation>
+        </message>
+        <message>
+            <source>dim level</source>
+            <translation>Abdunkeln, Stärke</translation>
+        </message>
+        <message>
+            <source>color filter hue</source>
+            <translation>Farbfilter, Farbton</translation>
+        </message>
+        <message>
+            <source>color filter vividness</source>
+            <translation>Farbfilter, Sättigung</translation>
+        </message>
+        <message>
+            <source>hot key</source>
+            <translation>Tastenkürzel</translation>
+        </message>
+        <message>
+            <source>display services</source>
+            <translation>Bildschirme kommen von</translation>
+        </message>
+        <message>
+            <source>Displays</source>
+            <translation>Bildschirme</translation>
+        </message>
+        <message>
+            <source>Settings</source>
+            <translation>Einstellungen</translation>
+        </message>
+        <message>
+            <source>no.</source>
+            <translation>Nr.</translation>
+        </message>
+        <message>
+            <source>name</source>
+            <translation>Name</translation>
+        </message>
+        <message>
+            <source>identifier</source>
+            <translation>Kennung</translation>
+        </message>
+        <message>
+            <source>ramp</source>
+            <translation>Rampe</translation>
+        </message>
+        <message>
+            <source>applied</source>
+            <translation>angewendet</translation>
+        </message>
+        <message>
+            <source>none</source>
+            <translation>keine</translation>
+        </message>
+        <message>
+            <source>main</source>
+            <translation>Hauptbildschirm</translation>
+        </message>
+        <message>
+            <source>Nocturo has switched its effect off and given the displays back.</source>
+            <translation>Nocturo hat seinen Effekt ausgeschaltet und die Bildschirme zurückgegeben.</translation>
+        </message>
+        <message>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>Es gibt keinen X-Server, dessen Bildschirme zurückgegeben werden könnten, denn DISPLAY ist nicht gesetzt.</translation>
+        </message>
+        <message>
+            <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
+            <translation>Die Bildschirme haben ihre eigenen Farben zurück, wie sie waren, bevor Nocturo sie änderte.</translation>
+        </message>
+        <message>
+            <source>The displays have plain colors now, or those of their color profiles.</source>
+            <translation>Die Bildschirme haben jetzt neutrale Farben oder die ihrer Farbprofile.</translation>
+        </message>
+        <message>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>Die Bildschirme wurden zurückgegeben, aber ein Nocturo, das nicht antwortet, läuft noch und kann sie wieder verändern.</translation>
+        </message>
+        <message>
+            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
+            <translation>Nocturo hatte keinen Bildschirm verändert zurückgelassen; die Bildschirme haben jetzt neutrale Farben oder die ihrer Farbprofile.</translation>
+        </message>
+        <message>
+            <source>There is no effect "%@"; the effects are %@.</source>
+            <translation>Einen Effekt „%@“ gibt es nicht; die Effekte sind %@.</translation>
+        </message>
+        <message>
+            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
+            <translation>Ein Tastenkürzel ist eine Taste mit beliebigen der Zusatztasten ctrl, alt (oder option), shift und super (oder command), verbunden mit +, etwa ctrl+super+F5. Tasten sind f1 bis f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 bis keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear oder das Zeichen, das eine Taste schreibt.</translation>
+        </message>
+        <message>
+            <source>No hot key was given.</source>
+            <translation>Es wurde kein Tastenkürzel angegeben.</translation>
+        </message>
+        <message>
+            <source>"%@" has a plus sign with nothing before or after it.</source>
+            <translation>„%@“ enthält ein Pluszeichen, vor oder nach dem nichts steht.</translation>
+        </message>
+        <message>
+            <source>"%@" and "%@" are both keys, but a hot key has only one.</source>
+            <translation>„%@“ und „%@“ sind beides Tasten, ein Tastenkürzel hat aber nur eine.</translation>
+        </message>
+        <message>
+            <source>"%@" has no key besides its modifiers.</source>
+            <translation>„%@“ hat außer Zusatztasten keine Taste.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and no key of the current keyboard layout types it.</source>
+            <translation>„%@“ ist kein Tastenname, und keine Taste der aktuellen Tastaturbelegung schreibt es.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and the keyboard layout that could tell which key types it cannot be read.</source>
+            <translation>„%@“ ist kein Tastenname, und die Tastaturbelegung, die sagen könnte, welche Taste es schreibt, ist nicht lesbar.</translation>
+        </message>
+        <message>
+            <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
+            <translation>„%@“ braucht eine Zusatztaste: Nur Funktions-, Pfeil- und Navigationstasten können allein Tastenkürzel sein.</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Um zu sehen, was die Effekte bewirken, starten Sie es mit --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>Es gibt keinen X-Server, denn DISPLAY ist nicht gesetzt.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Ein anderes Nocturo steuert die Bildschirme des X-Servers %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>Die Bildschirme sind simuliert; ihre Bilder liegen in %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>Der X-Server %@ ist nur Gast einer Wayland-Sitzung und kann deren Farben nicht ändern; Bildschirme unter Wayland folgen in einer späteren Version.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>Der X-Server %@ hat kein RandR 1.3 oder neuer.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>Der X-Server %@ ist nicht erreichbar.</translation>
         </message>
     </context>
 </TS>

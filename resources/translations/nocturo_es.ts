@@ -52,7 +52,7 @@
             <translation>El color que deja pasar el filtro</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>&amp;Viveza:</translation>
         </message>
         <message>
@@ -60,7 +60,7 @@
             <translation>Cuánto quita el filtro de los demás colores</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
+            <source>Di&amp;m or lighten</source>
             <translation>&amp;Oscurecer o aclarar</translation>
         </message>
         <message>
@@ -172,7 +172,7 @@
             <translation>Como icono en la bandeja del si&amp;stema del panel</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
         <message>
@@ -243,12 +243,20 @@
             <translation>Este escritorio no muestra ninguna bandeja del sistema en este momento; puede acceder a Nocturo desde el menú de aplicaciones.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activar el efecto</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Desactivar el efecto</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Vaciar el menú</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vaciar el menú</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>&amp;Salir de Nocturo</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Efecto</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efecto</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Ayuda</translation>
+            <source>&amp;Help</source>
+            <translation>A&amp;yuda</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -341,6 +349,18 @@
         <message>
             <source>None</source>
             <translation>Ninguna</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>V</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>A</translation>
         </message>
         <message>
             <source>Input</source>
@@ -500,6 +520,595 @@
         <message>
             <source>Quit</source>
             <translation>Salir</translation>
+        </message>
+    </context>
+    <context>
+        <name>CommandLine</name>
+        <message>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>El servidor gráfico ha desaparecido, por lo que Nocturo termina.</translation>
+        </message>
+        <message>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo ya se está ejecutando.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
+        </message>
+        <message>
+            <source>Usage: %@</source>
+            <translation>Uso: %@</translation>
+        </message>
+        <message>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Cambia el aspecto de pantallas enteras: invertidas, sobreexpuestas, oscurecidas o
+aclaradas, en el rango HDTV o a través de un filtro de color. Se ejecuta hasta que
+se le pide salir, y entonces devuelve cada pantalla. Se maneja con nocturoctl.</translation>
+        </message>
+        <message>
+            <source>Options:</source>
+            <translation>Opciones:</translation>
+        </message>
+        <message>
+            <source>where the displays come from:</source>
+            <translation>de dónde vienen las pantallas:</translation>
+        </message>
+        <message>
+            <source>what this session offers (default)</source>
+            <translation>lo que ofrezca esta sesión (predeterminado)</translation>
+        </message>
+        <message>
+            <source>an X server</source>
+            <translation>un servidor X</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N pantallas, de 1 a 16 (2 si no se indica),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>en memoria, dibujadas en imágenes</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>mostrar este texto</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>mostrar la versión</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE es un documento de efecto (.nocturo) para abrir; lo abre el Nocturo que se esté
+ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>No existe la opción «%@»; vea nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services admite auto, randr, simulated o simulated:N con N de 1 a 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>El Nocturo en ejecución no responde.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Sin un bus de sesión no se puede pasar un documento al Nocturo en ejecución.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>los efectos elegidos</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>activar el efecto en cada inicio</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>volver a iniciar Nocturo conmuta el efecto</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>mientras esté activado, volver a aplicar cada 6 segundos</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>pausar mientras se ejecuta el salvapantallas</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>conmutar con el atajo global</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: ejecutarse como icono de la bandeja</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>código de tecla virtual del atajo</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>teclas modificadoras del atajo, como bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>si el efecto quedó activado la última vez</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>las pantallas afectadas; ninguna significa todas</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>la última pantalla elegida; 0 significa todas</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>oscurecer: -1 negro, 0 sin cambios, 1 blanco</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>filtro de color: tono en grados</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>filtro de color: intensidad, de 0 a 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>se respondió a la advertencia sobre f.lux</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>«%@» admite una lista de efectos.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>«%@» admite una lista de nombres de efectos.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>«%1$@» solo admite efectos, y no existe el efecto «%2$@».</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>«%@» admite true o false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>«%@» admite un número entero.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>«%@» admite un número finito.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>«%@» admite una lista de identificadores de pantalla.</translation>
+        </message>
+        <message>
+            <source>No setting takes a value of this type.</source>
+            <translation>Ningún ajuste admite un valor de este tipo.</translation>
+        </message>
+        <message>
+            <source>"%@" is not an effect document.</source>
+            <translation>«%@» no es un documento de efecto.</translation>
+        </message>
+        <message>
+            <source>Could not save settings at "%@".</source>
+            <translation>No se pudieron guardar los ajustes en «%@».</translation>
+        </message>
+        <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>No hay ninguna pantalla con el identificador %d.</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@".</source>
+            <translation>No existe el ajuste «%@».</translation>
+        </message>
+        <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Estos no son documentos de efecto: %@</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running; start it with: nocturo &amp;</source>
+            <translation>Nocturo no se está ejecutando; inícielo con: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The session bus failed: %@.</source>
+            <translation>Falló el bus de sesión: %@.</translation>
+        </message>
+        <message>
+            <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
+            <translation>No hay ningún bus de sesión por el que llegar a Nocturo; inícielo dentro de una sesión de escritorio con: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>Nocturo did not do it: %@</source>
+            <translation>Nocturo no lo hizo: %@</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
+            <translation>No existe el ajuste «%@»; nocturoctl status los enumera todos.</translation>
+        </message>
+        <message>
+            <source>No hot key is chosen.</source>
+            <translation>No se ha elegido ningún atajo.</translation>
+        </message>
+        <message>
+            <source>%@  (not enabled; nocturoctl hotkey enable)</source>
+            <translation>%@  (no habilitado; nocturoctl hotkey enable)</translation>
+        </message>
+        <message>
+            <source>%@  (not in force: another program holds it, or the desktop offers no hot keys)</source>
+            <translation>%@  (sin efecto: otro programa lo usa, o el escritorio no ofrece atajos)</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>No existe la pantalla «%@»; nocturoctl screens muestra sus números, nombres e identificadores.</translation>
+        </message>
+        <message>
+            <source>Name a file.</source>
+            <translation>Indique un archivo.</translation>
+        </message>
+        <message>
+            <source>No display is online.</source>
+            <translation>No hay ninguna pantalla conectada.</translation>
+        </message>
+        <message>
+            <source>The file "%@" cannot be written.</source>
+            <translation>No se puede escribir el archivo «%@».</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo ha terminado.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on</source>
+            <translation>Activar el efecto</translation>
+        </message>
+        <message>
+            <source>Switch the effect off</source>
+            <translation>Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>Every display gets its own colors back.</source>
+            <translation>Cada pantalla recupera sus propios colores.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on or off</source>
+            <translation>Activar o desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>Bind this to a key.</source>
+            <translation>Asígnelo a una tecla.</translation>
+        </message>
+        <message>
+            <source>Show the state of everything</source>
+            <translation>Mostrar el estado de todo</translation>
+        </message>
+        <message>
+            <source>With --json, one object for programs.</source>
+            <translation>Con --json, un objeto para programas.</translation>
+        </message>
+        <message>
+            <source>List or choose the effects</source>
+            <translation>Enumerar o elegir los efectos</translation>
+        </message>
+        <message>
+            <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
+name. add and remove change the selection, only replaces it.</source>
+            <translation>NAME es invert, overexposure, dim, color-filter o hdtv-luminance, o el nombre de una
+clase. add y remove modifican la selección, only la sustituye.</translation>
+        </message>
+        <message>
+            <source>Show a setting</source>
+            <translation>Mostrar un ajuste</translation>
+        </message>
+        <message>
+            <source>nocturoctl status lists the keys.</source>
+            <translation>nocturoctl status enumera las claves.</translation>
+        </message>
+        <message>
+            <source>Change a setting</source>
+            <translation>Cambiar un ajuste</translation>
+        </message>
+        <message>
+            <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
+For example: nocturoctl set NDDimEffectLevel -0.3</source>
+            <translation>VALUE es true o false, un número o una lista con comas, según el ajuste.
+Por ejemplo: nocturoctl set NDDimEffectLevel -0.3</translation>
+        </message>
+        <message>
+            <source>Give a setting its default value again</source>
+            <translation>Devolver a un ajuste su valor predeterminado</translation>
+        </message>
+        <message>
+            <source>List or choose the affected displays</source>
+            <translation>Enumerar o elegir las pantallas afectadas</translation>
+        </message>
+        <message>
+            <source>toggle puts a display into the set of affected displays or takes it out. An empty
+set means all displays, which is also what all chooses.</source>
+            <translation>toggle pone una pantalla en el conjunto de las afectadas o la quita de él. Un
+conjunto vacío significa todas las pantallas, que es también lo que elige all.</translation>
+        </message>
+        <message>
+            <source>Show or choose the global hot key</source>
+            <translation>Mostrar o elegir el atajo global</translation>
+        </message>
+        <message>
+            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
+hot key toggles the effect while it is enabled.</source>
+            <translation>KEYS es una tecla con cualesquiera modificadoras, como 'ctrl+super+F5' o
+'alt+shift+k'. El atajo conmuta el efecto mientras esté habilitado.</translation>
+        </message>
+        <message>
+            <source>Take the effects from a document</source>
+            <translation>Tomar los efectos de un documento</translation>
+        </message>
+        <message>
+            <source>Save the effects as a document</source>
+            <translation>Guardar los efectos como documento</translation>
+        </message>
+        <message>
+            <source>Draw what the effects do</source>
+            <translation>Dibujar lo que hacen los efectos</translation>
+        </message>
+        <message>
+            <source>The curves of a display, of the main one unless told otherwise, and a scene seen
+through them, as a PNG picture. N is its number, name or identifier.</source>
+            <translation>Las curvas de una pantalla, la principal si no se indica otra, y una escena vista a
+través de ellas, como imagen PNG. N es su número, nombre o identificador.</translation>
+        </message>
+        <message>
+            <source>Show the preference window</source>
+            <translation>Mostrar la ventana de preferencias</translation>
+        </message>
+        <message>
+            <source>Show the about box</source>
+            <translation>Mostrar la ventana Acerca de</translation>
+        </message>
+        <message>
+            <source>Print every change as it happens</source>
+            <translation>Escribir cada cambio cuando ocurre</translation>
+        </message>
+        <message>
+            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
+            <translation>Un objeto JSON por línea, con lo que cambió. Termina cuando termina Nocturo.</translation>
+        </message>
+        <message>
+            <source>Give every display its own colors back</source>
+            <translation>Devolver a cada pantalla sus propios colores</translation>
+        </message>
+        <message>
+            <source>Whether Nocturo runs, answers or was killed, and without a session bus as well. Where
+nothing is known of a display's own colors it gets plain ones.</source>
+            <translation>Tanto si Nocturo se ejecuta o responde como si se le mató, e incluso sin bus de
+sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</translation>
+        </message>
+        <message>
+            <source>Give the displays back and end Nocturo</source>
+            <translation>Devolver las pantallas y terminar Nocturo</translation>
+        </message>
+        <message>
+            <source>Drives the Nocturo that runs in this session.</source>
+            <translation>Maneja el Nocturo que se ejecuta en esta sesión.</translation>
+        </message>
+        <message>
+            <source>nocturoctl VERB --help tells more.</source>
+            <translation>nocturoctl VERB --help dice más.</translation>
+        </message>
+        <message>
+            <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
+            <translation>Estado de salida: 0 hecho, 1 fallo, 2 no entendido, 3 Nocturo no se está ejecutando.</translation>
+        </message>
+        <message>
+            <source>Say what to do; nocturoctl --help lists the verbs.</source>
+            <translation>Diga qué hacer; nocturoctl --help enumera los verbos.</translation>
+        </message>
+        <message>
+            <source>There is no verb "%@"; nocturoctl --help lists them.</source>
+            <translation>No existe el verbo «%@»; nocturoctl --help los enumera.</translation>
+        </message>
+        <message>
+            <source>yes</source>
+            <translation>sí</translation>
+        </message>
+        <message>
+            <source>no</source>
+            <translation>no</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(ninguno)</translation>
+        </message>
+        <message>
+            <source>%@ (not enabled)</source>
+            <translation>%@ (no habilitado)</translation>
+        </message>
+        <message>
+            <source>%@ (not in force)</source>
+            <translation>%@ (sin efecto)</translation>
+        </message>
+        <message>
+            <source>Another program</source>
+            <translation>Otro programa</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found once since Nocturo was started.</source>
+            <translation>%@ también cambia los colores: detectado una vez desde que se inició Nocturo.</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found %d times since Nocturo was started.</source>
+            <translation>%@ también cambia los colores: detectado %d veces desde que se inició Nocturo.</translation>
+        </message>
+        <message>
+            <source>effect</source>
+            <translation>efecto</translation>
+        </message>
+        <message>
+            <source>on</source>
+            <translation>activado</translation>
+        </message>
+        <message>
+            <source>off</source>
+            <translation>desactivado</translation>
+        </message>
+        <message>
+            <source>selected</source>
+            <translation>elegidos</translation>
+        </message>
+        <message>
+            <source>dim level</source>
+            <translation>nivel de oscurecimiento</translation>
+        </message>
+        <message>
+            <source>color filter hue</source>
+            <translation>tono del filtro de color</translation>
+        </message>
+        <message>
+            <source>color filter vividness</source>
+            <translation>viveza del filtro de color</translation>
+        </message>
+        <message>
+            <source>hot key</source>
+            <translation>atajo de teclado</translation>
+        </message>
+        <message>
+            <source>display services</source>
+            <translation>origen de las pantallas</translation>
+        </message>
+        <message>
+            <source>Displays</source>
+            <translation>Pantallas</translation>
+        </message>
+        <message>
+            <source>Settings</source>
+            <translation>Ajustes</translation>
+        </message>
+        <message>
+            <source>no.</source>
+            <translation>n.º</translation>
+        </message>
+        <message>
+            <source>name</source>
+            <translation>nombre</translation>
+        </message>
+        <message>
+            <source>identifier</source>
+            <translation>identificador</translation>
+        </message>
+        <message>
+            <source>ramp</source>
+            <translation>rampa</translation>
+        </message>
+        <message>
+            <source>applied</source>
+            <translation>aplicado</translation>
+        </message>
+        <message>
+            <source>none</source>
+            <translation>ninguna</translation>
+        </message>
+        <message>
+            <source>main</source>
+            <translation>principal</translation>
+        </message>
+        <message>
+            <source>Nocturo has switched its effect off and given the displays back.</source>
+            <translation>Nocturo ha desactivado su efecto y devuelto las pantallas.</translation>
+        </message>
+        <message>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>No hay ningún servidor X cuyas pantallas se puedan devolver, porque DISPLAY no está definida.</translation>
+        </message>
+        <message>
+            <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
+            <translation>Las pantallas han recuperado sus propios colores, como estaban antes de que Nocturo los cambiara.</translation>
+        </message>
+        <message>
+            <source>The displays have plain colors now, or those of their color profiles.</source>
+            <translation>Las pantallas tienen ahora colores neutros, o los de sus perfiles de color.</translation>
+        </message>
+        <message>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>Las pantallas se han devuelto, pero un Nocturo que no responde sigue en ejecución y puede volver a cambiarlas.</translation>
+        </message>
+        <message>
+            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
+            <translation>Nocturo no había dejado ninguna pantalla cambiada; las pantallas tienen ahora colores neutros, o los de sus perfiles de color.</translation>
+        </message>
+        <message>
+            <source>There is no effect "%@"; the effects are %@.</source>
+            <translation>No existe el efecto «%@»; los efectos son %@.</translation>
+        </message>
+        <message>
+            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
+            <translation>Un atajo es una tecla con cualesquiera de ctrl, alt (u option), shift y super (o command), unidas por +, como ctrl+super+F5. Las teclas son f1 a f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, o el carácter que escribe una tecla.</translation>
+        </message>
+        <message>
+            <source>No hot key was given.</source>
+            <translation>No se indicó ningún atajo.</translation>
+        </message>
+        <message>
+            <source>"%@" has a plus sign with nothing before or after it.</source>
+            <translation>«%@» tiene un signo más sin nada antes o después.</translation>
+        </message>
+        <message>
+            <source>"%@" and "%@" are both keys, but a hot key has only one.</source>
+            <translation>«%@» y «%@» son ambas teclas, pero un atajo solo tiene una.</translation>
+        </message>
+        <message>
+            <source>"%@" has no key besides its modifiers.</source>
+            <translation>«%@» no tiene ninguna tecla además de las modificadoras.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and no key of the current keyboard layout types it.</source>
+            <translation>«%@» no es el nombre de una tecla, y ninguna tecla de la distribución actual lo escribe.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and the keyboard layout that could tell which key types it cannot be read.</source>
+            <translation>«%@» no es el nombre de una tecla, y no se puede leer la distribución de teclado que diría qué tecla lo escribe.</translation>
+        </message>
+        <message>
+            <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
+            <translation>«%@» necesita una modificadora: solo las teclas de función, de flecha y de navegación pueden ser atajos por sí solas.</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Para ver qué hacen los efectos, inícielo con --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>No hay ningún servidor X que usar, porque DISPLAY no está definida.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Otro Nocturo maneja las pantallas del servidor X %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>Las pantallas son simuladas; sus imágenes están en %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>El servidor X %@ es solo un invitado de una sesión Wayland y no puede cambiar sus colores; las pantallas en Wayland llegarán en una versión posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>El servidor X %@ no tiene RandR 1.3 o posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>No se puede acceder al servidor X %@.</translation>
         </message>
     </context>
 </TS>

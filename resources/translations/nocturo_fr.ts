@@ -21,7 +21,7 @@
         </message>
         <message>
             <source>&amp;Overexpose</source>
-            <translation>S&amp;urexposer</translation>
+            <translation>Sure&amp;xposer</translation>
         </message>
         <message>
             <source>Makes light tones white, so that stripes and backgrounds in light gray vanish</source>
@@ -52,7 +52,7 @@
             <translation>La couleur que le filtre laisse passer</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>Viv&amp;acité :</translation>
         </message>
         <message>
@@ -60,7 +60,7 @@
             <translation>La part des autres couleurs que le filtre retire</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
+            <source>Di&amp;m or lighten</source>
             <translation>Assom&amp;brir ou éclaircir</translation>
         </message>
         <message>
@@ -109,7 +109,7 @@
         </message>
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
-            <translation>Activer au &amp;démarrage de Nocturo</translation>
+            <translation>Activer a&amp;u démarrage de Nocturo</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -172,7 +172,7 @@
             <translation>Comme icône dans la &amp;zone de notification du tableau de bord</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>&amp;Ouvrir…</translation>
         </message>
         <message>
@@ -181,7 +181,7 @@
         </message>
         <message>
             <source>&amp;Save...</source>
-            <translation>&amp;Enregistrer…</translation>
+            <translation>Enre&amp;gistrer…</translation>
         </message>
         <message>
             <source>Save the effects as a document</source>
@@ -243,12 +243,20 @@
             <translation>Ce bureau n’affiche pas de zone de notification pour le moment ; Nocturo reste accessible par le menu des applications.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activer l’effet</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Désactiver l’effet</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Vider le menu</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vider le menu</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>&amp;Quitter Nocturo</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Effet</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effet</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Aide</translation>
+            <source>&amp;Help</source>
+            <translation>Ai&amp;de</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -341,6 +349,18 @@
         <message>
             <source>None</source>
             <translation>Aucun</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>V</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
         </message>
         <message>
             <source>Input</source>
@@ -500,6 +520,595 @@
         <message>
             <source>Quit</source>
             <translation>Quitter</translation>
+        </message>
+    </context>
+    <context>
+        <name>CommandLine</name>
+        <message>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>Le serveur d’affichage a disparu, Nocturo se termine donc.</translation>
+        </message>
+        <message>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo est déjà en cours d’exécution.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
+        </message>
+        <message>
+            <source>Usage: %@</source>
+            <translation>Utilisation : %@</translation>
+        </message>
+        <message>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Change l’aspect d’écrans entiers : inversés, surexposés, assombris ou éclaircis,
+dans la plage HDTV ou à travers un filtre coloré. Tourne jusqu’à ce qu’on le quitte
+et rend alors à chaque écran ses couleurs. Se commande avec nocturoctl.</translation>
+        </message>
+        <message>
+            <source>Options:</source>
+            <translation>Options :</translation>
+        </message>
+        <message>
+            <source>where the displays come from:</source>
+            <translation>d’où viennent les écrans :</translation>
+        </message>
+        <message>
+            <source>what this session offers (default)</source>
+            <translation>ce qu’offre cette session (par défaut)</translation>
+        </message>
+        <message>
+            <source>an X server</source>
+            <translation>un serveur X</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N écrans, de 1 à 16 (2 par défaut),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>en mémoire, dessinés dans des images</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>afficher ce texte</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>afficher la version</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE est un document d’effet (.nocturo) à ouvrir, par le Nocturo en cours
+d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effet.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>L’option « %@ » n’existe pas ; voir nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services accepte auto, randr, simulated ou simulated:N avec N de 1 à 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>Le Nocturo en cours d’exécution ne répond pas.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Sans bus de session, aucun document ne peut être transmis au Nocturo en cours d’exécution.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>les effets choisis</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>activer l’effet à chaque démarrage</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>relancer Nocturo bascule l’effet</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>tant qu’il est activé, réappliquer toutes les 6 secondes</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>suspendre pendant l’économiseur d’écran</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>basculer avec le raccourci global</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1 : tourner comme icône de la zone de notification</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>code de touche virtuel du raccourci</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>touches de modification du raccourci, en bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>si l’effet était activé en dernier lieu</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>les écrans concernés ; aucun signifie tous</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>le dernier écran choisi ; 0 signifie tous</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>assombrir : -1 noir, 0 inchangé, 1 blanc</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>filtre coloré : teinte en degrés</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>filtre coloré : intensité, de 0 à 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>l’avertissement sur f.lux a reçu une réponse</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>« %@ » attend une liste d’effets.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>« %@ » attend une liste de noms d’effets.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>« %1$@ » n’accepte que des effets, et l’effet « %2$@ » n’existe pas.</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>« %@ » attend true ou false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>« %@ » attend un nombre entier.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>« %@ » attend un nombre fini.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>« %@ » attend une liste d’identifiants d’écrans.</translation>
+        </message>
+        <message>
+            <source>No setting takes a value of this type.</source>
+            <translation>Aucun réglage n’accepte une valeur de ce type.</translation>
+        </message>
+        <message>
+            <source>"%@" is not an effect document.</source>
+            <translation>« %@ » n’est pas un document d’effet.</translation>
+        </message>
+        <message>
+            <source>Could not save settings at "%@".</source>
+            <translation>Impossible d’enregistrer les réglages dans « %@ ».</translation>
+        </message>
+        <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>Aucun écran n’a l’identifiant %d.</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@".</source>
+            <translation>Le réglage « %@ » n’existe pas.</translation>
+        </message>
+        <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Ce ne sont pas des documents d’effet : %@</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running; start it with: nocturo &amp;</source>
+            <translation>Nocturo n’est pas en cours d’exécution ; lancez-le avec : nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The session bus failed: %@.</source>
+            <translation>Le bus de session a échoué : %@.</translation>
+        </message>
+        <message>
+            <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
+            <translation>Aucun bus de session ne permet de joindre Nocturo ; lancez-le dans une session de bureau avec : nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>Nocturo did not do it: %@</source>
+            <translation>Nocturo ne l’a pas fait : %@</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
+            <translation>Le réglage « %@ » n’existe pas ; nocturoctl status les énumère tous.</translation>
+        </message>
+        <message>
+            <source>No hot key is chosen.</source>
+            <translation>Aucun raccourci n’est choisi.</translation>
+        </message>
+        <message>
+            <source>%@  (not enabled; nocturoctl hotkey enable)</source>
+            <translation>%@  (non activé ; nocturoctl hotkey enable)</translation>
+        </message>
+        <message>
+            <source>%@  (not in force: another program holds it, or the desktop offers no hot keys)</source>
+            <translation>%@  (sans effet : un autre programme l’utilise, ou le bureau n’offre pas de raccourcis)</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>L’écran « %@ » n’existe pas ; nocturoctl screens donne leurs numéros, noms et identifiants.</translation>
+        </message>
+        <message>
+            <source>Name a file.</source>
+            <translation>Indiquez un fichier.</translation>
+        </message>
+        <message>
+            <source>No display is online.</source>
+            <translation>Aucun écran n’est connecté.</translation>
+        </message>
+        <message>
+            <source>The file "%@" cannot be written.</source>
+            <translation>Impossible d’écrire le fichier « %@ ».</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo s’est terminé.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on</source>
+            <translation>Activer l’effet</translation>
+        </message>
+        <message>
+            <source>Switch the effect off</source>
+            <translation>Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>Every display gets its own colors back.</source>
+            <translation>Chaque écran retrouve ses propres couleurs.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on or off</source>
+            <translation>Activer ou désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>Bind this to a key.</source>
+            <translation>À associer à une touche.</translation>
+        </message>
+        <message>
+            <source>Show the state of everything</source>
+            <translation>Afficher l’état de tout</translation>
+        </message>
+        <message>
+            <source>With --json, one object for programs.</source>
+            <translation>Avec --json, un objet pour les programmes.</translation>
+        </message>
+        <message>
+            <source>List or choose the effects</source>
+            <translation>Énumérer ou choisir les effets</translation>
+        </message>
+        <message>
+            <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
+name. add and remove change the selection, only replaces it.</source>
+            <translation>NAME est invert, overexposure, dim, color-filter ou hdtv-luminance, ou un nom de
+classe. add et remove modifient le choix, only le remplace.</translation>
+        </message>
+        <message>
+            <source>Show a setting</source>
+            <translation>Afficher un réglage</translation>
+        </message>
+        <message>
+            <source>nocturoctl status lists the keys.</source>
+            <translation>nocturoctl status énumère les clés.</translation>
+        </message>
+        <message>
+            <source>Change a setting</source>
+            <translation>Modifier un réglage</translation>
+        </message>
+        <message>
+            <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
+For example: nocturoctl set NDDimEffectLevel -0.3</source>
+            <translation>VALUE est true ou false, un nombre ou une liste à virgules, selon le réglage.
+Par exemple : nocturoctl set NDDimEffectLevel -0.3</translation>
+        </message>
+        <message>
+            <source>Give a setting its default value again</source>
+            <translation>Rendre à un réglage sa valeur par défaut</translation>
+        </message>
+        <message>
+            <source>List or choose the affected displays</source>
+            <translation>Énumérer ou choisir les écrans concernés</translation>
+        </message>
+        <message>
+            <source>toggle puts a display into the set of affected displays or takes it out. An empty
+set means all displays, which is also what all chooses.</source>
+            <translation>toggle met un écran dans l’ensemble des écrans concernés ou l’en retire. Un
+ensemble vide signifie tous les écrans, ce que choisit aussi all.</translation>
+        </message>
+        <message>
+            <source>Show or choose the global hot key</source>
+            <translation>Afficher ou choisir le raccourci global</translation>
+        </message>
+        <message>
+            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
+hot key toggles the effect while it is enabled.</source>
+            <translation>KEYS est une touche avec des touches de modification, comme 'ctrl+super+F5' ou
+'alt+shift+k'. Le raccourci bascule l’effet tant qu’il est activé.</translation>
+        </message>
+        <message>
+            <source>Take the effects from a document</source>
+            <translation>Reprendre les effets d’un document</translation>
+        </message>
+        <message>
+            <source>Save the effects as a document</source>
+            <translation>Enregistrer les effets dans un document</translation>
+        </message>
+        <message>
+            <source>Draw what the effects do</source>
+            <translation>Dessiner ce que font les effets</translation>
+        </message>
+        <message>
+            <source>The curves of a display, of the main one unless told otherwise, and a scene seen
+through them, as a PNG picture. N is its number, name or identifier.</source>
+            <translation>Les courbes d’un écran, l’écran principal sauf indication contraire, et une scène
+vue à travers elles, en image PNG. N est son numéro, son nom ou son identifiant.</translation>
+        </message>
+        <message>
+            <source>Show the preference window</source>
+            <translation>Afficher la fenêtre des préférences</translation>
+        </message>
+        <message>
+            <source>Show the about box</source>
+            <translation>Afficher la fenêtre À propos</translation>
+        </message>
+        <message>
+            <source>Print every change as it happens</source>
+            <translation>Écrire chaque changement dès qu’il se produit</translation>
+        </message>
+        <message>
+            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
+            <translation>Un objet JSON par ligne, avec ce qui a changé. S’arrête en même temps que Nocturo.</translation>
+        </message>
+        <message>
+            <source>Give every display its own colors back</source>
+            <translation>Rendre à chaque écran ses propres couleurs</translation>
+        </message>
+        <message>
+            <source>Whether Nocturo runs, answers or was killed, and without a session bus as well. Where
+nothing is known of a display's own colors it gets plain ones.</source>
+            <translation>Que Nocturo tourne, réponde ou ait été tué, et même sans bus de session. Un écran
+dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</translation>
+        </message>
+        <message>
+            <source>Give the displays back and end Nocturo</source>
+            <translation>Rendre les écrans et quitter Nocturo</translation>
+        </message>
+        <message>
+            <source>Drives the Nocturo that runs in this session.</source>
+            <translation>Commande le Nocturo qui tourne dans cette session.</translation>
+        </message>
+        <message>
+            <source>nocturoctl VERB --help tells more.</source>
+            <translation>nocturoctl VERB --help en dit plus.</translation>
+        </message>
+        <message>
+            <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
+            <translation>Code de retour : 0 fait, 1 échec, 2 non compris, 3 Nocturo ne tourne pas.</translation>
+        </message>
+        <message>
+            <source>Say what to do; nocturoctl --help lists the verbs.</source>
+            <translation>Dites quoi faire ; nocturoctl --help énumère les verbes.</translation>
+        </message>
+        <message>
+            <source>There is no verb "%@"; nocturoctl --help lists them.</source>
+            <translation>Le verbe « %@ » n’existe pas ; nocturoctl --help les énumère.</translation>
+        </message>
+        <message>
+            <source>yes</source>
+            <translation>oui</translation>
+        </message>
+        <message>
+            <source>no</source>
+            <translation>non</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(aucun)</translation>
+        </message>
+        <message>
+            <source>%@ (not enabled)</source>
+            <translation>%@ (non activé)</translation>
+        </message>
+        <message>
+            <source>%@ (not in force)</source>
+            <translation>%@ (sans effet)</translation>
+        </message>
+        <message>
+            <source>Another program</source>
+            <translation>Un autre programme</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found once since Nocturo was started.</source>
+            <translation>%@ change aussi les couleurs : constaté une fois depuis le démarrage de Nocturo.</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found %d times since Nocturo was started.</source>
+            <translation>%@ change aussi les couleurs : constaté %d fois depuis le démarrage de Nocturo.</translation>
+        </message>
+        <message>
+            <source>effect</source>
+            <translation>effet</translation>
+        </message>
+        <message>
+            <source>on</source>
+            <translation>activé</translation>
+        </message>
+        <message>
+            <source>off</source>
+            <translation>désactivé</translation>
+        </message>
+        <message>
+            <source>selected</source>
+            <translation>choisis</translation>
+        </message>
+        <message>
+            <source>dim level</source>
+            <translation>niveau d’assombrissement</translation>
+        </message>
+        <message>
+            <source>color filter hue</source>
+            <translation>teinte du filtre coloré</translation>
+        </message>
+        <message>
+            <source>color filter vividness</source>
+            <translation>vivacité du filtre coloré</translation>
+        </message>
+        <message>
+            <source>hot key</source>
+            <translation>raccourci clavier</translation>
+        </message>
+        <message>
+            <source>display services</source>
+            <translation>source des écrans</translation>
+        </message>
+        <message>
+            <source>Displays</source>
+            <translation>Écrans</translation>
+        </message>
+        <message>
+            <source>Settings</source>
+            <translation>Réglages</translation>
+        </message>
+        <message>
+            <source>no.</source>
+            <translation>nº</translation>
+        </message>
+        <message>
+            <source>name</source>
+            <translation>nom</translation>
+        </message>
+        <message>
+            <source>identifier</source>
+            <translation>identifiant</translation>
+        </message>
+        <message>
+            <source>ramp</source>
+            <translation>rampe</translation>
+        </message>
+        <message>
+            <source>applied</source>
+            <translation>appliqué</translation>
+        </message>
+        <message>
+            <source>none</source>
+            <translation>aucune</translation>
+        </message>
+        <message>
+            <source>main</source>
+            <translation>principal</translation>
+        </message>
+        <message>
+            <source>Nocturo has switched its effect off and given the displays back.</source>
+            <translation>Nocturo a désactivé son effet et rendu les écrans.</translation>
+        </message>
+        <message>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>Il n’y a pas de serveur X dont les écrans pourraient être rendus, car DISPLAY n’est pas défini.</translation>
+        </message>
+        <message>
+            <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
+            <translation>Les écrans ont retrouvé leurs propres couleurs, telles qu’avant que Nocturo ne les change.</translation>
+        </message>
+        <message>
+            <source>The displays have plain colors now, or those of their color profiles.</source>
+            <translation>Les écrans ont maintenant des couleurs neutres, ou celles de leurs profils de couleurs.</translation>
+        </message>
+        <message>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>Les écrans ont été rendus, mais un Nocturo qui ne répond pas tourne encore et peut les changer de nouveau.</translation>
+        </message>
+        <message>
+            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
+            <translation>Nocturo n’avait laissé aucun écran modifié ; les écrans ont maintenant des couleurs neutres, ou celles de leurs profils de couleurs.</translation>
+        </message>
+        <message>
+            <source>There is no effect "%@"; the effects are %@.</source>
+            <translation>L’effet « %@ » n’existe pas ; les effets sont %@.</translation>
+        </message>
+        <message>
+            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
+            <translation>Un raccourci est une touche avec n’importe lesquelles de ctrl, alt (ou option), shift et super (ou command), jointes par +, comme ctrl+super+F5. Les touches sont f1 à f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 à keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, ou le caractère que tape une touche.</translation>
+        </message>
+        <message>
+            <source>No hot key was given.</source>
+            <translation>Aucun raccourci n’a été indiqué.</translation>
+        </message>
+        <message>
+            <source>"%@" has a plus sign with nothing before or after it.</source>
+            <translation>« %@ » contient un signe plus sans rien avant ou après.</translation>
+        </message>
+        <message>
+            <source>"%@" and "%@" are both keys, but a hot key has only one.</source>
+            <translation>« %@ » et « %@ » sont deux touches, mais un raccourci n’en a qu’une.</translation>
+        </message>
+        <message>
+            <source>"%@" has no key besides its modifiers.</source>
+            <translation>« %@ » n’a pas de touche hormis les touches de modification.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and no key of the current keyboard layout types it.</source>
+            <translation>« %@ » n’est pas un nom de touche, et aucune touche de la disposition actuelle ne le tape.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and the keyboard layout that could tell which key types it cannot be read.</source>
+            <translation>« %@ » n’est pas un nom de touche, et la disposition du clavier qui dirait quelle touche le tape est illisible.</translation>
+        </message>
+        <message>
+            <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
+            <translation>« %@ » exige une touche de modification : seules les touches de fonction, fléchées et de navigation peuvent servir seules de raccourci.</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Pour voir ce que font les effets, lancez-le avec --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>Il n’y a pas de serveur X à utiliser, car DISPLAY n’est pas défini.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Un autre Nocturo commande les écrans du serveur X %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>Les écrans sont simulés ; leurs images sont dans %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>Le serveur X %@ n’est qu’un invité d’une session Wayland et ne peut pas en changer les couleurs ; les écrans sous Wayland viendront dans une version ultérieure.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>Le serveur X %@ n’a pas RandR 1.3 ou plus récent.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>Le serveur X %@ est injoignable.</translation>
         </message>
     </context>
 </TS>

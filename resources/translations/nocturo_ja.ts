@@ -52,16 +52,16 @@
             <translation>フィルターを通す色</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
-            <translation>鮮やかさ(&amp;N)：</translation>
+            <source>Vivi&amp;dness:</source>
+            <translation>鮮やかさ(&amp;D)：</translation>
         </message>
         <message>
             <source>How much of the other colors the filter takes away</source>
             <translation>フィルターがほかの色を取り除く度合い</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
-            <translation>暗くする・明るくする(&amp;D)</translation>
+            <source>Di&amp;m or lighten</source>
+            <translation>暗くする・明るくする(&amp;M)</translation>
         </message>
         <message>
             <source>Moves every color toward black or toward white</source>
@@ -172,8 +172,8 @@
             <translation>パネルのシステムトレイのアイコンとして(&amp;Y)</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
-            <translation>開く(&amp;E)...</translation>
+            <source>Ope&amp;n...</source>
+            <translation>開く(&amp;N)...</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -243,12 +243,20 @@
             <translation>このデスクトップには現在システムトレイがありません。Nocturo はアプリケーションメニューから操作できます。</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>効果をオフにする(&amp;D)</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>効果をオンにする(&amp;A)</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>効果をオフにする</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>履歴を消去</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>履歴を消去(&amp;C)</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>Nocturo を終了(&amp;Q)</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>効果</translation>
+            <source>&amp;Effect</source>
+            <translation>効果(&amp;E)</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>ヘルプ</translation>
+            <source>&amp;Help</source>
+            <translation>ヘルプ(&amp;H)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -341,6 +349,18 @@
         <message>
             <source>None</source>
             <translation>なし</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
         </message>
         <message>
             <source>Input</source>
@@ -500,6 +520,595 @@
         <message>
             <source>Quit</source>
             <translation>終了</translation>
+        </message>
+    </context>
+    <context>
+        <name>CommandLine</name>
+        <message>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>ディスプレイサーバーがなくなったため、Nocturo を終了します。</translation>
+        </message>
+        <message>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo はすでに起動しています。</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
+        </message>
+        <message>
+            <source>Usage: %@</source>
+            <translation>使い方: %@</translation>
+        </message>
+        <message>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>画面全体の見え方を変えます: 反転、露出オーバー、暗くする・明るくする、HDTV の
+範囲、カラーフィルター。終了するまで動作し、終了時にすべての画面を元に戻します。
+nocturoctl で操作します。</translation>
+        </message>
+        <message>
+            <source>Options:</source>
+            <translation>オプション:</translation>
+        </message>
+        <message>
+            <source>where the displays come from:</source>
+            <translation>画面の取得元:</translation>
+        </message>
+        <message>
+            <source>what this session offers (default)</source>
+            <translation>このセッションで使えるもの (既定)</translation>
+        </message>
+        <message>
+            <source>an X server</source>
+            <translation>X サーバー</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N 個の画面、1～16 (既定は 2)、</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>メモリ上で、画像に描画</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>この説明を表示</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>バージョンを表示</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE は開く効果ドキュメント (.nocturo) です。Nocturo がすでに起動していれば、
+そちらで開きます。FILE なしで再び起動すると、効果のオン／オフを切り替えます。</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>「%@」というオプションはありません。nocturo --help を参照してください。</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services に指定できるのは auto、randr、simulated、simulated:N (N は 1～16) です。</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>起動中の Nocturo が応答しません。</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>セッションバスがないため、起動中の Nocturo にドキュメントを渡せません。</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>選択された効果</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>起動のたびに効果をオンにする</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>Nocturo を再び起動すると効果を切り替える</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>オンの間、6 秒ごとに再適用する</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>スクリーンセーバーの実行中は一時停止する</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>グローバルショートカットキーで切り替える</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: システムトレイのアイコンとして動作</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>ショートカットキーの仮想キーコード</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>ショートカットキーの修飾キー (ビット)</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>最後に効果がオンだったかどうか</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>対象の画面。なしはすべてを意味する</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>最後に選んだ画面。0 はすべてを意味する</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>暗くする: -1 は黒、0 は変更なし、1 は白</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>カラーフィルター: 色相 (度)</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>カラーフィルター: 強さ、0～1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>f.lux についての警告に回答済み</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>「%@」には効果のリストを指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>「%@」には効果の名前のリストを指定します。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>「%1$@」には効果だけを指定できますが、「%2$@」という効果はありません。</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>「%@」には true か false を指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>「%@」には整数を指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>「%@」には有限の数を指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>「%@」には画面の識別子のリストを指定します。</translation>
+        </message>
+        <message>
+            <source>No setting takes a value of this type.</source>
+            <translation>この種類の値を受け付ける設定はありません。</translation>
+        </message>
+        <message>
+            <source>"%@" is not an effect document.</source>
+            <translation>「%@」は効果のドキュメントではありません。</translation>
+        </message>
+        <message>
+            <source>Could not save settings at "%@".</source>
+            <translation>「%@」に設定を保存できませんでした。</translation>
+        </message>
+        <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>識別子 %d の画面はありません。</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@".</source>
+            <translation>「%@」という設定はありません。</translation>
+        </message>
+        <message>
+            <source>These are not effect documents: %@</source>
+            <translation>効果のドキュメントではありません: %@</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running; start it with: nocturo &amp;</source>
+            <translation>Nocturo は起動していません。次のように起動してください: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The session bus failed: %@.</source>
+            <translation>セッションバスでエラーが発生しました: %@。</translation>
+        </message>
+        <message>
+            <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
+            <translation>Nocturo と通信するためのセッションバスがありません。デスクトップセッションの中で次のように起動してください: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>Nocturo did not do it: %@</source>
+            <translation>Nocturo は実行できませんでした: %@</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
+            <translation>「%@」という設定はありません。nocturoctl status ですべて表示できます。</translation>
+        </message>
+        <message>
+            <source>No hot key is chosen.</source>
+            <translation>ショートカットキーは選択されていません。</translation>
+        </message>
+        <message>
+            <source>%@  (not enabled; nocturoctl hotkey enable)</source>
+            <translation>%@  (無効。有効にするには nocturoctl hotkey enable)</translation>
+        </message>
+        <message>
+            <source>%@  (not in force: another program holds it, or the desktop offers no hot keys)</source>
+            <translation>%@  (機能していません: ほかのプログラムが使用中か、デスクトップがショートカットキーに対応していません)</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>「%@」という画面はありません。番号、名前、識別子は nocturoctl screens で表示できます。</translation>
+        </message>
+        <message>
+            <source>Name a file.</source>
+            <translation>ファイルを指定してください。</translation>
+        </message>
+        <message>
+            <source>No display is online.</source>
+            <translation>接続されている画面がありません。</translation>
+        </message>
+        <message>
+            <source>The file "%@" cannot be written.</source>
+            <translation>ファイル「%@」に書き込めません。</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo が終了しました。</translation>
+        </message>
+        <message>
+            <source>Switch the effect on</source>
+            <translation>効果をオンにする</translation>
+        </message>
+        <message>
+            <source>Switch the effect off</source>
+            <translation>効果をオフにする</translation>
+        </message>
+        <message>
+            <source>Every display gets its own colors back.</source>
+            <translation>すべての画面が元の色に戻ります。</translation>
+        </message>
+        <message>
+            <source>Switch the effect on or off</source>
+            <translation>効果のオン／オフを切り替える</translation>
+        </message>
+        <message>
+            <source>Bind this to a key.</source>
+            <translation>これをキーに割り当ててください。</translation>
+        </message>
+        <message>
+            <source>Show the state of everything</source>
+            <translation>すべての状態を表示する</translation>
+        </message>
+        <message>
+            <source>With --json, one object for programs.</source>
+            <translation>--json を付けると、プログラム向けの 1 つのオブジェクトになります。</translation>
+        </message>
+        <message>
+            <source>List or choose the effects</source>
+            <translation>効果を一覧表示または選択する</translation>
+        </message>
+        <message>
+            <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
+name. add and remove change the selection, only replaces it.</source>
+            <translation>NAME は invert、overexposure、dim、color-filter、hdtv-luminance、またはクラス名です。
+add と remove は選択に加除し、only は選択を置き換えます。</translation>
+        </message>
+        <message>
+            <source>Show a setting</source>
+            <translation>設定を表示する</translation>
+        </message>
+        <message>
+            <source>nocturoctl status lists the keys.</source>
+            <translation>キーは nocturoctl status で表示できます。</translation>
+        </message>
+        <message>
+            <source>Change a setting</source>
+            <translation>設定を変更する</translation>
+        </message>
+        <message>
+            <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
+For example: nocturoctl set NDDimEffectLevel -0.3</source>
+            <translation>VALUE は設定に応じて、true か false、数値、またはコンマ区切りのリストです。
+例: nocturoctl set NDDimEffectLevel -0.3</translation>
+        </message>
+        <message>
+            <source>Give a setting its default value again</source>
+            <translation>設定を既定値に戻す</translation>
+        </message>
+        <message>
+            <source>List or choose the affected displays</source>
+            <translation>対象の画面を一覧表示または選択する</translation>
+        </message>
+        <message>
+            <source>toggle puts a display into the set of affected displays or takes it out. An empty
+set means all displays, which is also what all chooses.</source>
+            <translation>toggle は画面を対象に加えたり、対象から外したりします。対象が空のときは
+すべての画面を意味し、all を選んだときも同じです。</translation>
+        </message>
+        <message>
+            <source>Show or choose the global hot key</source>
+            <translation>グローバルショートカットキーを表示または選択する</translation>
+        </message>
+        <message>
+            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
+hot key toggles the effect while it is enabled.</source>
+            <translation>KEYS は 1 つのキーと任意の修飾キーです。例: 'ctrl+super+F5'、'alt+shift+k'。
+ショートカットキーは、有効な間、効果を切り替えます。</translation>
+        </message>
+        <message>
+            <source>Take the effects from a document</source>
+            <translation>ドキュメントから効果を読み込む</translation>
+        </message>
+        <message>
+            <source>Save the effects as a document</source>
+            <translation>効果をドキュメントとして保存する</translation>
+        </message>
+        <message>
+            <source>Draw what the effects do</source>
+            <translation>効果の働きを図に描く</translation>
+        </message>
+        <message>
+            <source>The curves of a display, of the main one unless told otherwise, and a scene seen
+through them, as a PNG picture. N is its number, name or identifier.</source>
+            <translation>画面 (指定がなければメイン画面) のカーブと、それを通して見た光景を PNG 画像に
+します。N は画面の番号、名前、または識別子です。</translation>
+        </message>
+        <message>
+            <source>Show the preference window</source>
+            <translation>設定ウィンドウを表示する</translation>
+        </message>
+        <message>
+            <source>Show the about box</source>
+            <translation>Nocturo についての画面を表示する</translation>
+        </message>
+        <message>
+            <source>Print every change as it happens</source>
+            <translation>変更があるたびに出力する</translation>
+        </message>
+        <message>
+            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
+            <translation>変更内容を 1 行に 1 つの JSON オブジェクトで出力し、Nocturo とともに終了します。</translation>
+        </message>
+        <message>
+            <source>Give every display its own colors back</source>
+            <translation>すべての画面を元の色に戻す</translation>
+        </message>
+        <message>
+            <source>Whether Nocturo runs, answers or was killed, and without a session bus as well. Where
+nothing is known of a display's own colors it gets plain ones.</source>
+            <translation>Nocturo が動作中でも、応答しなくても、強制終了された後でも、セッションバスが
+なくても働きます。元の色が分からない画面は標準の色になります。</translation>
+        </message>
+        <message>
+            <source>Give the displays back and end Nocturo</source>
+            <translation>画面を元に戻して Nocturo を終了する</translation>
+        </message>
+        <message>
+            <source>Drives the Nocturo that runs in this session.</source>
+            <translation>このセッションで動作している Nocturo を操作します。</translation>
+        </message>
+        <message>
+            <source>nocturoctl VERB --help tells more.</source>
+            <translation>詳しくは nocturoctl VERB --help を参照してください。</translation>
+        </message>
+        <message>
+            <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
+            <translation>終了コード: 0 成功、1 失敗、2 コマンドの誤り、3 Nocturo が起動していない。</translation>
+        </message>
+        <message>
+            <source>Say what to do; nocturoctl --help lists the verbs.</source>
+            <translation>何をするかを指定してください。nocturoctl --help で一覧を表示できます。</translation>
+        </message>
+        <message>
+            <source>There is no verb "%@"; nocturoctl --help lists them.</source>
+            <translation>「%@」という動詞はありません。nocturoctl --help で一覧を表示できます。</translation>
+        </message>
+        <message>
+            <source>yes</source>
+            <translation>はい</translation>
+        </message>
+        <message>
+            <source>no</source>
+            <translation>いいえ</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(なし)</translation>
+        </message>
+        <message>
+            <source>%@ (not enabled)</source>
+            <translation>%@ (無効)</translation>
+        </message>
+        <message>
+            <source>%@ (not in force)</source>
+            <translation>%@ (機能していません)</translation>
+        </message>
+        <message>
+            <source>Another program</source>
+            <translation>ほかのプログラム</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found once since Nocturo was started.</source>
+            <translation>%@も色を変更しています: Nocturo の起動後に 1 回検出しました。</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found %d times since Nocturo was started.</source>
+            <translation>%@も色を変更しています: Nocturo の起動後に %d 回検出しました。</translation>
+        </message>
+        <message>
+            <source>effect</source>
+            <translation>効果</translation>
+        </message>
+        <message>
+            <source>on</source>
+            <translation>オン</translation>
+        </message>
+        <message>
+            <source>off</source>
+            <translation>オフ</translation>
+        </message>
+        <message>
+            <source>selected</source>
+            <translation>選択中</translation>
+        </message>
+        <message>
+            <source>dim level</source>
+            <translation>暗さのレベル</translation>
+        </message>
+        <message>
+            <source>color filter hue</source>
+            <translation>カラーフィルターの色相</translation>
+        </message>
+        <message>
+            <source>color filter vividness</source>
+            <translation>カラーフィルターの鮮やかさ</translation>
+        </message>
+        <message>
+            <source>hot key</source>
+            <translation>ショートカットキー</translation>
+        </message>
+        <message>
+            <source>display services</source>
+            <translation>画面の取得元</translation>
+        </message>
+        <message>
+            <source>Displays</source>
+            <translation>画面</translation>
+        </message>
+        <message>
+            <source>Settings</source>
+            <translation>設定</translation>
+        </message>
+        <message>
+            <source>no.</source>
+            <translation>番号</translation>
+        </message>
+        <message>
+            <source>name</source>
+            <translation>名前</translation>
+        </message>
+        <message>
+            <source>identifier</source>
+            <translation>識別子</translation>
+        </message>
+        <message>
+            <source>ramp</source>
+            <translation>ランプ</translation>
+        </message>
+        <message>
+            <source>applied</source>
+            <translation>適用</translation>
+        </message>
+        <message>
+            <source>none</source>
+            <translation>なし</translation>
+        </message>
+        <message>
+            <source>main</source>
+            <translation>メイン</translation>
+        </message>
+        <message>
+            <source>Nocturo has switched its effect off and given the displays back.</source>
+            <translation>Nocturo は効果をオフにし、画面を元に戻しました。</translation>
+        </message>
+        <message>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>DISPLAY が設定されていないため、画面を元に戻す X サーバーがありません。</translation>
+        </message>
+        <message>
+            <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
+            <translation>画面の色は、Nocturo が変更する前の状態に戻りました。</translation>
+        </message>
+        <message>
+            <source>The displays have plain colors now, or those of their color profiles.</source>
+            <translation>画面は標準の色、またはカラープロファイルの色になりました。</translation>
+        </message>
+        <message>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>画面を元に戻しましたが、応答しない Nocturo がまだ動作しており、再び変更する可能性があります。</translation>
+        </message>
+        <message>
+            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
+            <translation>Nocturo が変更したままの画面はありませんでした。画面は標準の色、またはカラープロファイルの色になりました。</translation>
+        </message>
+        <message>
+            <source>There is no effect "%@"; the effects are %@.</source>
+            <translation>「%@」という効果はありません。使える効果: %@。</translation>
+        </message>
+        <message>
+            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
+            <translation>ショートカットキーは、1 つのキーと任意の ctrl、alt (または option)、shift、super (または command) を + でつないだものです (例: ctrl+super+F5)。キーは f1～f20、left、right、up、down、home、end、pageup、pagedown、insert、delete、backspace、tab、space、return、escape、menu、volumeup、volumedown、mute、eisu、kana、keypad0～keypad9、keypadplus、keypadminus、keypadmultiply、keypaddivide、keypaddecimal、keypadcomma、keypadequals、keypadenter、keypadclear、またはキーで入力される文字です。</translation>
+        </message>
+        <message>
+            <source>No hot key was given.</source>
+            <translation>ショートカットキーが指定されていません。</translation>
+        </message>
+        <message>
+            <source>"%@" has a plus sign with nothing before or after it.</source>
+            <translation>「%@」には、前か後ろに何もないプラス記号があります。</translation>
+        </message>
+        <message>
+            <source>"%@" and "%@" are both keys, but a hot key has only one.</source>
+            <translation>「%@」と「%@」はどちらもキーですが、ショートカットキーに使えるキーは 1 つだけです。</translation>
+        </message>
+        <message>
+            <source>"%@" has no key besides its modifiers.</source>
+            <translation>「%@」には修飾キー以外のキーがありません。</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and no key of the current keyboard layout types it.</source>
+            <translation>「%@」はキーの名前ではなく、現在のキーボード配列で入力できるキーもありません。</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and the keyboard layout that could tell which key types it cannot be read.</source>
+            <translation>「%@」はキーの名前ではありません。どのキーで入力されるかを示すキーボード配列も読み取れません。</translation>
+        </message>
+        <message>
+            <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
+            <translation>「%@」には修飾キーが必要です。単独で使えるのはファンクションキー、矢印キー、ナビゲーションキーだけです。</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>効果の働きを見るには --display-services=simulated を付けて起動してください。</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>DISPLAY が設定されていないため、使用できる X サーバーがありません。</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>別の Nocturo が X サーバー %@ の画面を制御しています。</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>画面はシミュレーションです。画像は %@ にあります。</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>X サーバー %@ は Wayland セッションのゲストにすぎず、色を変更できません。Wayland の画面には今後のバージョンで対応します。</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>X サーバー %@ には RandR 1.3 以降がありません。</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>X サーバー %@ に接続できません。</translation>
         </message>
     </context>
 </TS>

@@ -21,7 +21,7 @@
         </message>
         <message>
             <source>&amp;Overexpose</source>
-            <translation>S&amp;uperexpor</translation>
+            <translation>Supere&amp;xpor</translation>
         </message>
         <message>
             <source>Makes light tones white, so that stripes and backgrounds in light gray vanish</source>
@@ -52,7 +52,7 @@
             <translation>A cor que o filtro deixa passar</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
+            <source>Vivi&amp;dness:</source>
             <translation>&amp;Vividez:</translation>
         </message>
         <message>
@@ -60,8 +60,8 @@
             <translation>Quanto das outras cores o filtro retira</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
-            <translation>&amp;Escurecer ou clarear</translation>
+            <source>Di&amp;m or lighten</source>
+            <translation>Esc&amp;urecer ou clarear</translation>
         </message>
         <message>
             <source>Moves every color toward black or toward white</source>
@@ -172,7 +172,7 @@
             <translation>Como um í&amp;cone na bandeja do painel</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
+            <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
         <message>
@@ -243,12 +243,20 @@
             <translation>Este ambiente de trabalho não mostra nenhuma bandeja no momento; o Nocturo pode ser acessado pelo menu de aplicativos.</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Ativar o efeito</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Desativar o efeito</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>Limpar menu</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Limpar menu</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>Sair do &amp;Nocturo</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>Efeito</translation>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efeito</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>Ajuda</translation>
+            <source>&amp;Help</source>
+            <translation>A&amp;juda</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -341,6 +349,18 @@
         <message>
             <source>None</source>
             <translation>Nenhuma</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
         </message>
         <message>
             <source>Input</source>
@@ -500,6 +520,595 @@
         <message>
             <source>Quit</source>
             <translation>Sair</translation>
+        </message>
+    </context>
+    <context>
+        <name>CommandLine</name>
+        <message>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>O servidor gráfico desapareceu, por isso o Nocturo será encerrado.</translation>
+        </message>
+        <message>
+            <source>Nocturo is already running.</source>
+            <translation>O Nocturo já está em execução.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
+        </message>
+        <message>
+            <source>Usage: %@</source>
+            <translation>Uso: %@</translation>
+        </message>
+        <message>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Muda a aparência de telas inteiras: invertidas, superexpostas, escurecidas ou
+clareadas, na faixa HDTV ou através de um filtro de cor. Executa até que se peça
+para sair e então devolve cada tela. É controlado com o nocturoctl.</translation>
+        </message>
+        <message>
+            <source>Options:</source>
+            <translation>Opções:</translation>
+        </message>
+        <message>
+            <source>where the displays come from:</source>
+            <translation>de onde vêm as telas:</translation>
+        </message>
+        <message>
+            <source>what this session offers (default)</source>
+            <translation>o que esta sessão oferecer (padrão)</translation>
+        </message>
+        <message>
+            <source>an X server</source>
+            <translation>um servidor X</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N telas, de 1 a 16 (padrão: 2),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>na memória, desenhadas em imagens</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>mostrar este texto</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>mostrar a versão</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE é um documento de efeito (.nocturo) a abrir, pelo Nocturo em execução se
+houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>Não existe a opção “%@”; veja nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services aceita auto, randr, simulated ou simulated:N com N de 1 a 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>O Nocturo em execução não responde.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Sem um barramento de sessão, não é possível passar um documento ao Nocturo em execução.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>os efeitos escolhidos</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>ativar o efeito a cada início</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>iniciar o Nocturo novamente alterna o efeito</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>enquanto ativado, reaplicar a cada 6 segundos</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>pausar enquanto o protetor de tela estiver ativo</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>alternar com o atalho global</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: executar como ícone da bandeja</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>código de tecla virtual do atalho</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>teclas modificadoras do atalho, como bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>se o efeito ficou ativado da última vez</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>as telas afetadas; nenhuma significa todas</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>a última tela escolhida; 0 significa todas</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>escurecer: -1 preto, 0 inalterado, 1 branco</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>filtro de cor: matiz em graus</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>filtro de cor: intensidade, de 0 a 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>o aviso sobre o f.lux foi respondido</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>“%@” aceita uma lista de efeitos.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>“%@” aceita uma lista de nomes de efeitos.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>“%1$@” só aceita efeitos, e não existe o efeito “%2$@”.</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>“%@” aceita true ou false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>“%@” aceita um número inteiro.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>“%@” aceita um número finito.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>“%@” aceita uma lista de identificadores de telas.</translation>
+        </message>
+        <message>
+            <source>No setting takes a value of this type.</source>
+            <translation>Nenhuma configuração aceita um valor deste tipo.</translation>
+        </message>
+        <message>
+            <source>"%@" is not an effect document.</source>
+            <translation>“%@” não é um documento de efeito.</translation>
+        </message>
+        <message>
+            <source>Could not save settings at "%@".</source>
+            <translation>Não foi possível salvar as configurações em “%@”.</translation>
+        </message>
+        <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>Não há tela com o identificador %d.</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@".</source>
+            <translation>Não existe a configuração “%@”.</translation>
+        </message>
+        <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Estes não são documentos de efeito: %@</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running; start it with: nocturo &amp;</source>
+            <translation>O Nocturo não está em execução; inicie-o com: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The session bus failed: %@.</source>
+            <translation>O barramento de sessão falhou: %@.</translation>
+        </message>
+        <message>
+            <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
+            <translation>Não há barramento de sessão pelo qual alcançar o Nocturo; inicie-o dentro de uma sessão gráfica com: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>Nocturo did not do it: %@</source>
+            <translation>O Nocturo não fez isso: %@</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
+            <translation>Não existe a configuração “%@”; nocturoctl status lista todas.</translation>
+        </message>
+        <message>
+            <source>No hot key is chosen.</source>
+            <translation>Nenhum atalho foi escolhido.</translation>
+        </message>
+        <message>
+            <source>%@  (not enabled; nocturoctl hotkey enable)</source>
+            <translation>%@  (não habilitado; nocturoctl hotkey enable)</translation>
+        </message>
+        <message>
+            <source>%@  (not in force: another program holds it, or the desktop offers no hot keys)</source>
+            <translation>%@  (sem efeito: outro programa o usa, ou o ambiente não oferece atalhos)</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>Não existe a tela “%@”; nocturoctl screens lista números, nomes e identificadores.</translation>
+        </message>
+        <message>
+            <source>Name a file.</source>
+            <translation>Indique um arquivo.</translation>
+        </message>
+        <message>
+            <source>No display is online.</source>
+            <translation>Nenhuma tela está conectada.</translation>
+        </message>
+        <message>
+            <source>The file "%@" cannot be written.</source>
+            <translation>Não é possível gravar o arquivo “%@”.</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>O Nocturo foi encerrado.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on</source>
+            <translation>Ativar o efeito</translation>
+        </message>
+        <message>
+            <source>Switch the effect off</source>
+            <translation>Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>Every display gets its own colors back.</source>
+            <translation>Cada tela recupera suas próprias cores.</translation>
+        </message>
+        <message>
+            <source>Switch the effect on or off</source>
+            <translation>Ativar ou desativar o efeito</translation>
+        </message>
+        <message>
+            <source>Bind this to a key.</source>
+            <translation>Associe isto a uma tecla.</translation>
+        </message>
+        <message>
+            <source>Show the state of everything</source>
+            <translation>Mostrar o estado de tudo</translation>
+        </message>
+        <message>
+            <source>With --json, one object for programs.</source>
+            <translation>Com --json, um objeto para programas.</translation>
+        </message>
+        <message>
+            <source>List or choose the effects</source>
+            <translation>Listar ou escolher os efeitos</translation>
+        </message>
+        <message>
+            <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
+name. add and remove change the selection, only replaces it.</source>
+            <translation>NAME é invert, overexposure, dim, color-filter ou hdtv-luminance, ou o nome de uma
+classe. add e remove alteram a seleção, only a substitui.</translation>
+        </message>
+        <message>
+            <source>Show a setting</source>
+            <translation>Mostrar uma configuração</translation>
+        </message>
+        <message>
+            <source>nocturoctl status lists the keys.</source>
+            <translation>nocturoctl status lista as chaves.</translation>
+        </message>
+        <message>
+            <source>Change a setting</source>
+            <translation>Alterar uma configuração</translation>
+        </message>
+        <message>
+            <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
+For example: nocturoctl set NDDimEffectLevel -0.3</source>
+            <translation>VALUE é true ou false, um número ou uma lista com vírgulas, conforme a configuração.
+Por exemplo: nocturoctl set NDDimEffectLevel -0.3</translation>
+        </message>
+        <message>
+            <source>Give a setting its default value again</source>
+            <translation>Devolver a uma configuração o valor padrão</translation>
+        </message>
+        <message>
+            <source>List or choose the affected displays</source>
+            <translation>Listar ou escolher as telas afetadas</translation>
+        </message>
+        <message>
+            <source>toggle puts a display into the set of affected displays or takes it out. An empty
+set means all displays, which is also what all chooses.</source>
+            <translation>toggle põe uma tela no conjunto das telas afetadas ou a retira dele. Um conjunto
+vazio significa todas as telas, que é também o que all escolhe.</translation>
+        </message>
+        <message>
+            <source>Show or choose the global hot key</source>
+            <translation>Mostrar ou escolher o atalho global</translation>
+        </message>
+        <message>
+            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
+hot key toggles the effect while it is enabled.</source>
+            <translation>KEYS é uma tecla com quaisquer modificadoras, como 'ctrl+super+F5' ou
+'alt+shift+k'. O atalho alterna o efeito enquanto estiver habilitado.</translation>
+        </message>
+        <message>
+            <source>Take the effects from a document</source>
+            <translation>Obter os efeitos de um documento</translation>
+        </message>
+        <message>
+            <source>Save the effects as a document</source>
+            <translation>Salvar os efeitos como documento</translation>
+        </message>
+        <message>
+            <source>Draw what the effects do</source>
+            <translation>Desenhar o que os efeitos fazem</translation>
+        </message>
+        <message>
+            <source>The curves of a display, of the main one unless told otherwise, and a scene seen
+through them, as a PNG picture. N is its number, name or identifier.</source>
+            <translation>As curvas de uma tela, a principal se nada for indicado, e uma cena vista através
+delas, como imagem PNG. N é seu número, nome ou identificador.</translation>
+        </message>
+        <message>
+            <source>Show the preference window</source>
+            <translation>Mostrar a janela de preferências</translation>
+        </message>
+        <message>
+            <source>Show the about box</source>
+            <translation>Mostrar a janela Sobre</translation>
+        </message>
+        <message>
+            <source>Print every change as it happens</source>
+            <translation>Mostrar cada mudança quando acontece</translation>
+        </message>
+        <message>
+            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
+            <translation>Um objeto JSON por linha, com o que mudou. Termina junto com o Nocturo.</translation>
+        </message>
+        <message>
+            <source>Give every display its own colors back</source>
+            <translation>Devolver a cada tela suas próprias cores</translation>
+        </message>
+        <message>
+            <source>Whether Nocturo runs, answers or was killed, and without a session bus as well. Where
+nothing is known of a display's own colors it gets plain ones.</source>
+            <translation>Quer o Nocturo esteja em execução, responda ou tenha sido morto, e mesmo sem
+barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutras.</translation>
+        </message>
+        <message>
+            <source>Give the displays back and end Nocturo</source>
+            <translation>Devolver as telas e encerrar o Nocturo</translation>
+        </message>
+        <message>
+            <source>Drives the Nocturo that runs in this session.</source>
+            <translation>Controla o Nocturo em execução nesta sessão.</translation>
+        </message>
+        <message>
+            <source>nocturoctl VERB --help tells more.</source>
+            <translation>nocturoctl VERB --help diz mais.</translation>
+        </message>
+        <message>
+            <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
+            <translation>Código de saída: 0 feito, 1 falha, 2 não entendido, 3 o Nocturo não está em execução.</translation>
+        </message>
+        <message>
+            <source>Say what to do; nocturoctl --help lists the verbs.</source>
+            <translation>Diga o que fazer; nocturoctl --help lista os verbos.</translation>
+        </message>
+        <message>
+            <source>There is no verb "%@"; nocturoctl --help lists them.</source>
+            <translation>Não existe o verbo “%@”; nocturoctl --help os lista.</translation>
+        </message>
+        <message>
+            <source>yes</source>
+            <translation>sim</translation>
+        </message>
+        <message>
+            <source>no</source>
+            <translation>não</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>(nenhum)</translation>
+        </message>
+        <message>
+            <source>%@ (not enabled)</source>
+            <translation>%@ (não habilitado)</translation>
+        </message>
+        <message>
+            <source>%@ (not in force)</source>
+            <translation>%@ (sem efeito)</translation>
+        </message>
+        <message>
+            <source>Another program</source>
+            <translation>Outro programa</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found once since Nocturo was started.</source>
+            <translation>%@ também altera as cores: detectado uma vez desde o início do Nocturo.</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found %d times since Nocturo was started.</source>
+            <translation>%@ também altera as cores: detectado %d vezes desde o início do Nocturo.</translation>
+        </message>
+        <message>
+            <source>effect</source>
+            <translation>efeito</translation>
+        </message>
+        <message>
+            <source>on</source>
+            <translation>ativado</translation>
+        </message>
+        <message>
+            <source>off</source>
+            <translation>desativado</translation>
+        </message>
+        <message>
+            <source>selected</source>
+            <translation>escolhidos</translation>
+        </message>
+        <message>
+            <source>dim level</source>
+            <translation>nível de escurecimento</translation>
+        </message>
+        <message>
+            <source>color filter hue</source>
+            <translation>matiz do filtro de cor</translation>
+        </message>
+        <message>
+            <source>color filter vividness</source>
+            <translation>vividez do filtro de cor</translation>
+        </message>
+        <message>
+            <source>hot key</source>
+            <translation>atalho de teclado</translation>
+        </message>
+        <message>
+            <source>display services</source>
+            <translation>origem das telas</translation>
+        </message>
+        <message>
+            <source>Displays</source>
+            <translation>Telas</translation>
+        </message>
+        <message>
+            <source>Settings</source>
+            <translation>Configurações</translation>
+        </message>
+        <message>
+            <source>no.</source>
+            <translation>nº</translation>
+        </message>
+        <message>
+            <source>name</source>
+            <translation>nome</translation>
+        </message>
+        <message>
+            <source>identifier</source>
+            <translation>identificador</translation>
+        </message>
+        <message>
+            <source>ramp</source>
+            <translation>rampa</translation>
+        </message>
+        <message>
+            <source>applied</source>
+            <translation>aplicado</translation>
+        </message>
+        <message>
+            <source>none</source>
+            <translation>nenhuma</translation>
+        </message>
+        <message>
+            <source>main</source>
+            <translation>principal</translation>
+        </message>
+        <message>
+            <source>Nocturo has switched its effect off and given the displays back.</source>
+            <translation>O Nocturo desativou seu efeito e devolveu as telas.</translation>
+        </message>
+        <message>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>Não há servidor X cujas telas possam ser devolvidas, porque DISPLAY não está definida.</translation>
+        </message>
+        <message>
+            <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
+            <translation>As telas recuperaram suas próprias cores, como estavam antes de o Nocturo alterá-las.</translation>
+        </message>
+        <message>
+            <source>The displays have plain colors now, or those of their color profiles.</source>
+            <translation>As telas têm agora cores neutras, ou as de seus perfis de cores.</translation>
+        </message>
+        <message>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>As telas foram devolvidas, mas um Nocturo que não responde ainda está em execução e pode alterá-las de novo.</translation>
+        </message>
+        <message>
+            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
+            <translation>O Nocturo não havia deixado nenhuma tela alterada; as telas têm agora cores neutras, ou as de seus perfis de cores.</translation>
+        </message>
+        <message>
+            <source>There is no effect "%@"; the effects are %@.</source>
+            <translation>Não existe o efeito “%@”; os efeitos são %@.</translation>
+        </message>
+        <message>
+            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
+            <translation>Um atalho é uma tecla com quaisquer de ctrl, alt (ou option), shift e super (ou command), unidas por +, como ctrl+super+F5. As teclas são f1 a f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, ou o caractere que uma tecla digita.</translation>
+        </message>
+        <message>
+            <source>No hot key was given.</source>
+            <translation>Nenhum atalho foi indicado.</translation>
+        </message>
+        <message>
+            <source>"%@" has a plus sign with nothing before or after it.</source>
+            <translation>“%@” tem um sinal de mais sem nada antes ou depois.</translation>
+        </message>
+        <message>
+            <source>"%@" and "%@" are both keys, but a hot key has only one.</source>
+            <translation>“%@” e “%@” são ambas teclas, mas um atalho só tem uma.</translation>
+        </message>
+        <message>
+            <source>"%@" has no key besides its modifiers.</source>
+            <translation>“%@” não tem nenhuma tecla além das modificadoras.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and no key of the current keyboard layout types it.</source>
+            <translation>“%@” não é nome de tecla, e nenhuma tecla do layout atual o digita.</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and the keyboard layout that could tell which key types it cannot be read.</source>
+            <translation>“%@” não é nome de tecla, e o layout de teclado que diria qual tecla o digita não pode ser lido.</translation>
+        </message>
+        <message>
+            <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
+            <translation>“%@” precisa de uma modificadora: só teclas de função, de seta e de navegação podem ser atalhos sozinhas.</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Para ver o que os efeitos fazem, inicie-o com --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>Não há servidor X para usar, porque DISPLAY não está definida.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Outro Nocturo controla as telas do servidor X %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>As telas são simuladas; suas imagens estão em %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>O servidor X %@ é apenas um convidado de uma sessão Wayland e não pode alterar suas cores; as telas no Wayland virão em uma versão posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>O servidor X %@ não tem RandR 1.3 ou posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>Não é possível acessar o servidor X %@.</translation>
         </message>
     </context>
 </TS>

@@ -52,16 +52,16 @@
             <translation>滤镜允许通过的颜色</translation>
         </message>
         <message>
-            <source>Vivid&amp;ness:</source>
-            <translation>鲜艳度(&amp;N)：</translation>
+            <source>Vivi&amp;dness:</source>
+            <translation>鲜艳度(&amp;D)：</translation>
         </message>
         <message>
             <source>How much of the other colors the filter takes away</source>
             <translation>滤镜去除其他颜色的程度</translation>
         </message>
         <message>
-            <source>&amp;Dim or lighten</source>
-            <translation>调暗或调亮(&amp;D)</translation>
+            <source>Di&amp;m or lighten</source>
+            <translation>调暗或调亮(&amp;M)</translation>
         </message>
         <message>
             <source>Moves every color toward black or toward white</source>
@@ -172,8 +172,8 @@
             <translation>作为面板系统托盘中的图标(&amp;Y)</translation>
         </message>
         <message>
-            <source>Op&amp;en...</source>
-            <translation>打开(&amp;E)...</translation>
+            <source>Ope&amp;n...</source>
+            <translation>打开(&amp;N)...</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -243,12 +243,20 @@
             <translation>此桌面当前没有系统托盘；可以通过应用程序菜单使用 Nocturo。</translation>
         </message>
         <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>停用效果(&amp;D)</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>启用效果(&amp;A)</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>停用效果</translation>
         </message>
         <message>
-            <source>Clear Menu</source>
-            <translation>清空列表</translation>
+            <source>&amp;Clear Menu</source>
+            <translation>清空列表(&amp;C)</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -279,12 +287,12 @@
             <translation>退出 Nocturo(&amp;Q)</translation>
         </message>
         <message>
-            <source>Effect</source>
-            <translation>效果</translation>
+            <source>&amp;Effect</source>
+            <translation>效果(&amp;E)</translation>
         </message>
         <message>
-            <source>Help</source>
-            <translation>帮助</translation>
+            <source>&amp;Help</source>
+            <translation>帮助(&amp;H)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
@@ -341,6 +349,18 @@
         <message>
             <source>None</source>
             <translation>无</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
         </message>
         <message>
             <source>Input</source>
@@ -500,6 +520,594 @@
         <message>
             <source>Quit</source>
             <translation>退出</translation>
+        </message>
+    </context>
+    <context>
+        <name>CommandLine</name>
+        <message>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>显示服务器已消失，因此 Nocturo 将退出。</translation>
+        </message>
+        <message>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo 已在运行。</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
+        </message>
+        <message>
+            <source>Usage: %@</source>
+            <translation>用法：%@</translation>
+        </message>
+        <message>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>改变整个屏幕的外观：反转、过曝、调暗或调亮、HDTV 范围，或颜色滤镜。
+一直运行到被要求退出为止，届时恢复每个屏幕。可用 nocturoctl 控制。</translation>
+        </message>
+        <message>
+            <source>Options:</source>
+            <translation>选项：</translation>
+        </message>
+        <message>
+            <source>where the displays come from:</source>
+            <translation>屏幕的来源：</translation>
+        </message>
+        <message>
+            <source>what this session offers (default)</source>
+            <translation>此会话所提供的（默认）</translation>
+        </message>
+        <message>
+            <source>an X server</source>
+            <translation>X 服务器</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N 个屏幕，1 到 16（默认为 2），</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>位于内存中，绘制到图片里</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>显示此文本</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>显示版本</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE 是要打开的效果文档（.nocturo）；如果已有 Nocturo 在运行，则由它打开。
+不带文档再次启动 Nocturo 会切换效果。</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>没有选项“%@”；请参阅 nocturo --help。</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services 可取 auto、randr、simulated 或 simulated:N，其中 N 为 1 到 16。</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>正在运行的 Nocturo 没有响应。</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>没有会话总线，无法将文档交给正在运行的 Nocturo。</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>所选的效果</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>每次启动时启用效果</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>再次启动 Nocturo 会切换效果</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>启用期间每 6 秒重新应用一次</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>屏幕保护程序运行时暂停</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>用全局快捷键切换</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1：作为托盘图标运行</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>快捷键的虚拟键码</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>快捷键的修饰键标志</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>效果上次是否处于启用状态</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>受影响的屏幕；空表示全部</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>最近选择的屏幕；0 表示全部</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>调暗：-1 为黑，0 为不变，1 为白</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>颜色滤镜：色相（度）</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>颜色滤镜：强度，0 到 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>已回应关于 f.lux 的警告</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>“%@”的值应为效果列表。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>“%@”的值应为效果名称列表。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>“%1$@”只接受效果，而没有名为“%2$@”的效果。</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>“%@”的值应为 true 或 false。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>“%@”的值应为整数。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>“%@”的值应为有限的数。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>“%@”的值应为屏幕标识符列表。</translation>
+        </message>
+        <message>
+            <source>No setting takes a value of this type.</source>
+            <translation>没有设置接受此类型的值。</translation>
+        </message>
+        <message>
+            <source>"%@" is not an effect document.</source>
+            <translation>“%@”不是效果文档。</translation>
+        </message>
+        <message>
+            <source>Could not save settings at "%@".</source>
+            <translation>无法将设置保存到“%@”。</translation>
+        </message>
+        <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>没有标识符为 %d 的屏幕。</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@".</source>
+            <translation>没有设置“%@”。</translation>
+        </message>
+        <message>
+            <source>These are not effect documents: %@</source>
+            <translation>以下不是效果文档：%@</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running; start it with: nocturo &amp;</source>
+            <translation>Nocturo 未在运行；请用此命令启动：nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The session bus failed: %@.</source>
+            <translation>会话总线出错：%@。</translation>
+        </message>
+        <message>
+            <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
+            <translation>没有可用来联系 Nocturo 的会话总线；请在桌面会话中用此命令启动：nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>Nocturo did not do it: %@</source>
+            <translation>Nocturo 未能执行：%@</translation>
+        </message>
+        <message>
+            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
+            <translation>没有设置“%@”；nocturoctl status 会列出全部设置。</translation>
+        </message>
+        <message>
+            <source>No hot key is chosen.</source>
+            <translation>尚未选择快捷键。</translation>
+        </message>
+        <message>
+            <source>%@  (not enabled; nocturoctl hotkey enable)</source>
+            <translation>%@  （未启用；nocturoctl hotkey enable）</translation>
+        </message>
+        <message>
+            <source>%@  (not in force: another program holds it, or the desktop offers no hot keys)</source>
+            <translation>%@  （未生效：被其他程序占用，或桌面不提供快捷键）</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>没有屏幕“%@”；nocturoctl screens 会列出它们的编号、名称和标识符。</translation>
+        </message>
+        <message>
+            <source>Name a file.</source>
+            <translation>请指定一个文件。</translation>
+        </message>
+        <message>
+            <source>No display is online.</source>
+            <translation>没有已连接的屏幕。</translation>
+        </message>
+        <message>
+            <source>The file "%@" cannot be written.</source>
+            <translation>无法写入文件“%@”。</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo 已退出。</translation>
+        </message>
+        <message>
+            <source>Switch the effect on</source>
+            <translation>启用效果</translation>
+        </message>
+        <message>
+            <source>Switch the effect off</source>
+            <translation>停用效果</translation>
+        </message>
+        <message>
+            <source>Every display gets its own colors back.</source>
+            <translation>每个屏幕恢复其原本的颜色。</translation>
+        </message>
+        <message>
+            <source>Switch the effect on or off</source>
+            <translation>启用或停用效果</translation>
+        </message>
+        <message>
+            <source>Bind this to a key.</source>
+            <translation>可将它绑定到一个按键。</translation>
+        </message>
+        <message>
+            <source>Show the state of everything</source>
+            <translation>显示所有状态</translation>
+        </message>
+        <message>
+            <source>With --json, one object for programs.</source>
+            <translation>使用 --json 时，输出一个供程序使用的对象。</translation>
+        </message>
+        <message>
+            <source>List or choose the effects</source>
+            <translation>列出或选择效果</translation>
+        </message>
+        <message>
+            <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
+name. add and remove change the selection, only replaces it.</source>
+            <translation>NAME 是 invert、overexposure、dim、color-filter 或 hdtv-luminance，或类名。
+add 和 remove 更改选择，only 替换选择。</translation>
+        </message>
+        <message>
+            <source>Show a setting</source>
+            <translation>显示一项设置</translation>
+        </message>
+        <message>
+            <source>nocturoctl status lists the keys.</source>
+            <translation>nocturoctl status 会列出各个键。</translation>
+        </message>
+        <message>
+            <source>Change a setting</source>
+            <translation>更改一项设置</translation>
+        </message>
+        <message>
+            <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
+For example: nocturoctl set NDDimEffectLevel -0.3</source>
+            <translation>VALUE 视设置而定，为 true 或 false、数字，或以逗号分隔的列表。
+例如：nocturoctl set NDDimEffectLevel -0.3</translation>
+        </message>
+        <message>
+            <source>Give a setting its default value again</source>
+            <translation>将一项设置恢复为默认值</translation>
+        </message>
+        <message>
+            <source>List or choose the affected displays</source>
+            <translation>列出或选择受影响的屏幕</translation>
+        </message>
+        <message>
+            <source>toggle puts a display into the set of affected displays or takes it out. An empty
+set means all displays, which is also what all chooses.</source>
+            <translation>toggle 将一个屏幕加入受影响的屏幕集合或从中移除。
+空集合表示所有屏幕，这也是 all 的选择。</translation>
+        </message>
+        <message>
+            <source>Show or choose the global hot key</source>
+            <translation>显示或选择全局快捷键</translation>
+        </message>
+        <message>
+            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
+hot key toggles the effect while it is enabled.</source>
+            <translation>KEYS 是一个按键加任意修饰键，例如 'ctrl+super+F5' 或 'alt+shift+k'。
+快捷键启用时会切换效果。</translation>
+        </message>
+        <message>
+            <source>Take the effects from a document</source>
+            <translation>从文档中读取效果</translation>
+        </message>
+        <message>
+            <source>Save the effects as a document</source>
+            <translation>将效果保存为文档</translation>
+        </message>
+        <message>
+            <source>Draw what the effects do</source>
+            <translation>绘制效果的作用</translation>
+        </message>
+        <message>
+            <source>The curves of a display, of the main one unless told otherwise, and a scene seen
+through them, as a PNG picture. N is its number, name or identifier.</source>
+            <translation>以 PNG 图片绘制一个屏幕（默认为主屏幕）的曲线，以及透过曲线看到的场景。
+N 是屏幕的编号、名称或标识符。</translation>
+        </message>
+        <message>
+            <source>Show the preference window</source>
+            <translation>显示首选项窗口</translation>
+        </message>
+        <message>
+            <source>Show the about box</source>
+            <translation>显示“关于”窗口</translation>
+        </message>
+        <message>
+            <source>Print every change as it happens</source>
+            <translation>实时输出每次更改</translation>
+        </message>
+        <message>
+            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
+            <translation>每行一个 JSON 对象，包含更改的内容。随 Nocturo 一同结束。</translation>
+        </message>
+        <message>
+            <source>Give every display its own colors back</source>
+            <translation>恢复每个屏幕原本的颜色</translation>
+        </message>
+        <message>
+            <source>Whether Nocturo runs, answers or was killed, and without a session bus as well. Where
+nothing is known of a display's own colors it gets plain ones.</source>
+            <translation>无论 Nocturo 正在运行、没有响应还是已被杀死，也无需会话总线。
+若不知道某屏幕原本的颜色，则使用中性的颜色。</translation>
+        </message>
+        <message>
+            <source>Give the displays back and end Nocturo</source>
+            <translation>恢复屏幕并退出 Nocturo</translation>
+        </message>
+        <message>
+            <source>Drives the Nocturo that runs in this session.</source>
+            <translation>控制在此会话中运行的 Nocturo。</translation>
+        </message>
+        <message>
+            <source>nocturoctl VERB --help tells more.</source>
+            <translation>nocturoctl VERB --help 提供更多说明。</translation>
+        </message>
+        <message>
+            <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
+            <translation>退出状态：0 完成，1 失败，2 无法理解，3 Nocturo 未在运行。</translation>
+        </message>
+        <message>
+            <source>Say what to do; nocturoctl --help lists the verbs.</source>
+            <translation>请指明要做什么；nocturoctl --help 会列出各个动词。</translation>
+        </message>
+        <message>
+            <source>There is no verb "%@"; nocturoctl --help lists them.</source>
+            <translation>没有动词“%@”；nocturoctl --help 会列出全部动词。</translation>
+        </message>
+        <message>
+            <source>yes</source>
+            <translation>是</translation>
+        </message>
+        <message>
+            <source>no</source>
+            <translation>否</translation>
+        </message>
+        <message>
+            <source>(none)</source>
+            <translation>（无）</translation>
+        </message>
+        <message>
+            <source>%@ (not enabled)</source>
+            <translation>%@（未启用）</translation>
+        </message>
+        <message>
+            <source>%@ (not in force)</source>
+            <translation>%@（未生效）</translation>
+        </message>
+        <message>
+            <source>Another program</source>
+            <translation>其他程序</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found once since Nocturo was started.</source>
+            <translation>%@也在更改颜色：自 Nocturo 启动以来发现一次。</translation>
+        </message>
+        <message>
+            <source>%@ changes the colors too: found %d times since Nocturo was started.</source>
+            <translation>%@也在更改颜色：自 Nocturo 启动以来发现 %d 次。</translation>
+        </message>
+        <message>
+            <source>effect</source>
+            <translation>效果</translation>
+        </message>
+        <message>
+            <source>on</source>
+            <translation>已启用</translation>
+        </message>
+        <message>
+            <source>off</source>
+            <translation>已停用</translation>
+        </message>
+        <message>
+            <source>selected</source>
+            <translation>所选</translation>
+        </message>
+        <message>
+            <source>dim level</source>
+            <translation>调暗程度</translation>
+        </message>
+        <message>
+            <source>color filter hue</source>
+            <translation>颜色滤镜的色相</translation>
+        </message>
+        <message>
+            <source>color filter vividness</source>
+            <translation>颜色滤镜的鲜艳度</translation>
+        </message>
+        <message>
+            <source>hot key</source>
+            <translation>快捷键</translation>
+        </message>
+        <message>
+            <source>display services</source>
+            <translation>屏幕来源</translation>
+        </message>
+        <message>
+            <source>Displays</source>
+            <translation>屏幕</translation>
+        </message>
+        <message>
+            <source>Settings</source>
+            <translation>设置</translation>
+        </message>
+        <message>
+            <source>no.</source>
+            <translation>编号</translation>
+        </message>
+        <message>
+            <source>name</source>
+            <translation>名称</translation>
+        </message>
+        <message>
+            <source>identifier</source>
+            <translation>标识符</translation>
+        </message>
+        <message>
+            <source>ramp</source>
+            <translation>色阶</translation>
+        </message>
+        <message>
+            <source>applied</source>
+            <translation>已应用</translation>
+        </message>
+        <message>
+            <source>none</source>
+            <translation>无</translation>
+        </message>
+        <message>
+            <source>main</source>
+            <translation>主屏幕</translation>
+        </message>
+        <message>
+            <source>Nocturo has switched its effect off and given the displays back.</source>
+            <translation>Nocturo 已停用效果并恢复了屏幕。</translation>
+        </message>
+        <message>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>未设置 DISPLAY，因此没有可恢复屏幕的 X 服务器。</translation>
+        </message>
+        <message>
+            <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
+            <translation>屏幕已恢复为 Nocturo 更改之前其原本的颜色。</translation>
+        </message>
+        <message>
+            <source>The displays have plain colors now, or those of their color profiles.</source>
+            <translation>屏幕现在使用中性的颜色，或其颜色配置文件的颜色。</translation>
+        </message>
+        <message>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>屏幕已恢复，但仍有一个没有响应的 Nocturo 在运行，可能会再次更改它们。</translation>
+        </message>
+        <message>
+            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
+            <translation>Nocturo 没有留下被更改的屏幕；屏幕现在使用中性的颜色，或其颜色配置文件的颜色。</translation>
+        </message>
+        <message>
+            <source>There is no effect "%@"; the effects are %@.</source>
+            <translation>没有效果“%@”；可用的效果为 %@。</translation>
+        </message>
+        <message>
+            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
+            <translation>快捷键是一个按键加任意的 ctrl、alt（或 option）、shift 和 super（或 command），以 + 连接，例如 ctrl+super+F5。按键为 f1到f20、left、right、up、down、home、end、pageup、pagedown、insert、delete、backspace、tab、space、return、escape、menu、volumeup、volumedown、mute、eisu、kana、keypad0到keypad9、keypadplus、keypadminus、keypadmultiply、keypaddivide、keypaddecimal、keypadcomma、keypadequals、keypadenter、keypadclear，或按键所输入的字符。</translation>
+        </message>
+        <message>
+            <source>No hot key was given.</source>
+            <translation>没有给出快捷键。</translation>
+        </message>
+        <message>
+            <source>"%@" has a plus sign with nothing before or after it.</source>
+            <translation>“%@”中有一个加号，其前面或后面没有内容。</translation>
+        </message>
+        <message>
+            <source>"%@" and "%@" are both keys, but a hot key has only one.</source>
+            <translation>“%@”和“%@”都是按键，但快捷键只能有一个按键。</translation>
+        </message>
+        <message>
+            <source>"%@" has no key besides its modifiers.</source>
+            <translation>“%@”除了修饰键之外没有按键。</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and no key of the current keyboard layout types it.</source>
+            <translation>“%@”不是按键名称，当前键盘布局中也没有输入它的按键。</translation>
+        </message>
+        <message>
+            <source>"%@" is not a key's name, and the keyboard layout that could tell which key types it cannot be read.</source>
+            <translation>“%@”不是按键名称，而可以说明由哪个按键输入它的键盘布局无法读取。</translation>
+        </message>
+        <message>
+            <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
+            <translation>“%@”需要修饰键：只有功能键、方向键和导航键可以单独作为快捷键。</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>要查看效果的作用，请使用 --display-services=simulated 启动。</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>未设置 DISPLAY，因此没有可用的 X 服务器。</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>另一个 Nocturo 正在控制 X 服务器 %@ 的屏幕。</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>屏幕是模拟的；其图片位于 %@。</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>X 服务器 %@ 只是 Wayland 会话中的客体，无法更改其颜色；后续版本将支持 Wayland 下的屏幕。</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>X 服务器 %@ 没有 RandR 1.3 或更高版本。</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>无法连接 X 服务器 %@。</translation>
         </message>
     </context>
 </TS>

@@ -101,6 +101,12 @@ bool NDAppController::openFileWithoutUI(const std::string& path) {
     return openFile(path);
 }
 
+void NDAppController::showRefusedDocuments(const std::vector<std::string>& paths) {
+    if (desktop_ != nullptr) {
+        desktop_->showRefusedDocuments(paths);
+    }
+}
+
 void NDAppController::setEffectActive(bool active, bool saveState) {
     if (active && globalEffect_ == nullptr) {
         return; // asked for while the launch still waits for an answer

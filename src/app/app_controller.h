@@ -114,6 +114,9 @@ class NDAppController : public ActionTarget {
     bool openFile(const std::string& path);
     bool openFileWithoutUI(const std::string& path);
 
+    /// Shows the user which of the documents from outside were refused, if anybody can see it.
+    void showRefusedDocuments(const std::vector<std::string>& paths);
+
     // Activation
 
     /// The only way the effect is switched; `saveState` also writes "EffectActive". Switching to

@@ -32,6 +32,10 @@ class DesktopFace {
     /// the application is told to end meanwhile, the answer is the alternate button.
     virtual AlertAnswer runAlert(const Alert& alert) = 0;
 
+    /// Says, in a window that holds nothing up, that these files are no effect documents. Does
+    /// nothing where nobody can see it.
+    virtual void showRefusedDocuments(const std::vector<std::string>& paths) = 0;
+
     /// Gives the activate items of the main menu, the launcher's menu and the status menu the
     /// title for an effect that is on or off.
     virtual void setActivateItemTitles(bool active) = 0;

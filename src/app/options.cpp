@@ -1,5 +1,8 @@
 #include "app/options.h"
 
+#include "platform/texts/translated.h"
+
+#include <cstddef>
 #include <string_view>
 
 namespace nocturo {
@@ -8,25 +11,37 @@ namespace {
 
 constexpr std::string_view kDisplayServices = "--display-services=";
 
-constexpr std::string_view kHelp =
-    R"(Usage: nocturo [--display-services=auto|randr|simulated[:N]] [FILE...]
+std::string line(std::string left, std::size_t column, const std::string& text) {
+    left.resize(column, ' ');
+    return left + text + '\n';
+}
 
-Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
-the HDTV range or through a colour filter. Runs until it is told to quit, and
-gives every display back then. Drive it with nocturoctl.
-
-Options:
-  --display-services=WHICH  where the displays come from:
-                              auto           what this session offers (default)
-                              randr          an X server
-                              simulated[:N]  N displays (1 to 16, default 2) in
-                                             memory, drawn into pictures
-  --help                    show this text
-  --version                 show the version
-
-A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
-there is one. Starting Nocturo a second time without one toggles the effect.
-)";
+std::string helpText() {
+    constexpr std::size_t kMeaning = 28;
+    constexpr std::size_t kMeaningOfChoice = 45;
+    const std::string indent(kMeaning + 2, ' ');
+    return translated("Usage: %@",
+                      {"nocturo [--display-services=auto|randr|simulated[:N]] [FILE...]"}) +
+           "\n\n" +
+           translated("Changes how whole screens look: inverted, overexposed, dimmed or lightened, "
+                      "in\nthe HDTV range or through a color filter. Runs until it is told to "
+                      "quit, and\ngives every display back then. Drive it with nocturoctl.") +
+           "\n\n" + translated("Options:") + '\n' +
+           line("  --display-services=WHICH", kMeaning,
+                translated("where the displays come from:")) +
+           line(indent + "auto", kMeaningOfChoice,
+                translated("what this session offers (default)")) +
+           line(indent + "randr", kMeaningOfChoice, translated("an X server")) +
+           line(indent + "simulated[:N]", kMeaningOfChoice,
+                translated("N displays, 1 to 16 (default 2),")) +
+           line("", kMeaningOfChoice, translated("in memory, drawn into pictures")) +
+           line("  --help", kMeaning, translated("show this text")) +
+           line("  --version", kMeaning, translated("show the version")) + '\n' +
+           translated("A FILE is an effect document (.nocturo) to open, by the Nocturo that runs "
+                      "if\nthere is one. Starting Nocturo a second time without one toggles the "
+                      "effect.") +
+           '\n';
+}
 
 } // namespace
 
@@ -43,19 +58,20 @@ Options parseOptions(const std::vector<std::string>& arguments) {
             continue;
         }
         if (argument == "--help" || argument == "-h") {
-            return PrintAndExit{std::string(kHelp)};
+            return PrintAndExit{helpText()};
         }
         if (argument == "--version") {
             return PrintAndExit{"nocturo " NOCTURO_VERSION "\n"};
         }
         if (!argument.starts_with(kDisplayServices)) {
-            return UsageError{"There is no option \"" + argument + "\"; see nocturo --help."};
+            return UsageError{
+                translated("There is no option \"%@\"; see nocturo --help.", {argument})};
         }
         const auto choice =
             parseDisplayChoice(std::string_view(argument).substr(kDisplayServices.size()));
         if (!choice) {
-            return UsageError{"--display-services takes auto, randr, simulated or simulated:N with "
-                              "N from 1 to 16."};
+            return UsageError{translated("--display-services takes auto, randr, simulated or "
+                                         "simulated:N with N from 1 to 16.")};
         }
         options.displays = *choice;
     }

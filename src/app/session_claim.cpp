@@ -4,6 +4,7 @@
 #include "control/launcher_face.h"
 #include "platform/desktop/session_bus.h"
 #include "platform/log.h"
+#include "platform/texts/translated.h"
 
 namespace nocturo {
 
@@ -26,7 +27,7 @@ bool SessionClaim::passOnOverBus(const QStringList& documents) {
         return reopenRunningApplication(*bus_);
     }
     const auto refusal = openInRunningApplication(*bus_, documents);
-    problem_ = refusal.value_or("The Nocturo that runs does not answer.");
+    problem_ = refusal.value_or(translated("The Nocturo that runs does not answer."));
     return refusal.has_value();
 }
 
@@ -40,7 +41,8 @@ void SessionClaim::askForLock(const std::filesystem::path& runtimeDirectory,
     if (documents.isEmpty()) {
         lock_->askHolderToReopen();
     } else {
-        problem_ = "Without a session bus the Nocturo that runs cannot be given a document.";
+        problem_ =
+            translated("Without a session bus the Nocturo that runs cannot be given a document.");
     }
 }
 

@@ -20,84 +20,69 @@ constexpr std::int64_t kZero = 0; // an exact type: a plain 0 could become any o
 const std::array<Setting, 16>& rows() {
     using enum SettingType;
     static const std::array<Setting, 16> table = {{
-        {NDGroupEffect::kName, effectNames, PropertyArray(), true, "the selected effects"},
-        {kActivateAtLaunch, boolean, true, true, "switch the effect on at every start"},
-        {kActivateOnClick, boolean, true, true, "starting Nocturo again toggles the effect"},
-        {kContinuouslyApply, boolean, true, true, "while on, apply again every 6 seconds"},
-        {kDeactivateForScreenSaver, boolean, true, true, "pause while the screen saver runs"},
-        {kUseHotKey, boolean, false, true, "toggle with the global hot key"},
-        {kShowStatusItem, integer, kZero, true, "1: run as a tray item"},
-        {kHotKeyCode, integer, kZero, false, "virtual key code of the hot key"},
-        {kHotKeyModifiers, integer, kZero, false, "modifier flags of the hot key"},
-        {"EffectActive", boolean, false, false, "whether the effect was last switched on"},
+        {NDGroupEffect::kName, effectNames, PropertyArray(), true,
+         ListedText("the selected effects")},
+        {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
+        {kActivateOnClick, boolean, true, true,
+         ListedText("starting Nocturo again toggles the effect")},
+        {kContinuouslyApply, boolean, true, true,
+         ListedText("while on, apply again every 6 seconds")},
+        {kDeactivateForScreenSaver, boolean, true, true,
+         ListedText("pause while the screen saver runs")},
+        {kUseHotKey, boolean, false, true, ListedText("toggle with the global hot key")},
+        {kShowStatusItem, integer, kZero, true, ListedText("1: run as a tray item")},
+        {kHotKeyCode, integer, kZero, false, ListedText("virtual key code of the hot key")},
+        {kHotKeyModifiers, integer, kZero, false, ListedText("modifier flags of the hot key")},
+        {"EffectActive", boolean, false, false,
+         ListedText("whether the effect was last switched on")},
         {kAffectedScreenSet, displayNumbers, PropertyArray(), false,
-         "the affected displays; none means all"},
-        {kAffectedScreens, integer, kZero, false, "the display last picked; 0 means all"},
-        {"NDDimEffectLevel", real, -0.5, false, "dim: -1 black, 0 unchanged, 1 white"},
-        {"NDColorFilterEffectHue", real, 0.0, false, "color filter: hue in degrees"},
-        {"NDColorFilterEffectVividness", real, 1.0, false, "color filter: strength, 0 to 1"},
-        {"ZQFluxWarned", boolean, false, false, "the f.lux warning was answered"},
+         ListedText("the affected displays; none means all")},
+        {kAffectedScreens, integer, kZero, false,
+         ListedText("the display last picked; 0 means all")},
+        {"NDDimEffectLevel", real, -0.5, false, ListedText("dim: -1 black, 0 unchanged, 1 white")},
+        {"NDColorFilterEffectHue", real, 0.0, false, ListedText("color filter: hue in degrees")},
+        {"NDColorFilterEffectVividness", real, 1.0, false,
+         ListedText("color filter: strength, 0 to 1")},
+        {"ZQFluxWarned", boolean, false, false, ListedText("the f.lux warning was answered")},
     }};
     return table;
 }
 
-std::optional<std::string> problemWithNames(const PropertyValue& value) {
+using Problem = std::optional<std::string>;
+
+Problem problemWithNames(const std::string& key, const PropertyValue& value) {
     const auto* array = value.as<PropertyArray>();
     if (array == nullptr) {
-        return "takes a list of effects";
+        return translated("\"%@\" takes a list of effects.", {key});
     }
     for (const PropertyValue& element : *array) {
         const auto* name = element.as<std::string>();
         if (name == nullptr) {
-            return "takes a list of effect names";
+            return translated("\"%@\" takes a list of effect names.", {key});
         }
         const auto effects = selectableEffects();
         if (std::none_of(effects.begin(), effects.end(),
                          [&](const auto& effect) { return effect.className == *name; })) {
-            return "takes effects only, and there is no effect \"" + *name + "\"";
+            return translated("\"%1$@\" takes effects only, and there is no effect \"%2$@\".",
+                              {key, *name});
         }
     }
     return std::nullopt;
 }
 
-std::optional<std::string> problemWithDisplays(const PropertyValue& value) {
+bool isListOfDisplays(const PropertyValue& value) {
     const auto* array = value.as<PropertyArray>();
-    const auto isDisplay = [](const PropertyValue& element) {
-        const auto* number = element.as<std::int64_t>();
-        return number != nullptr && *number >= std::numeric_limits<std::int32_t>::min() &&
-               *number <= std::numeric_limits<std::int32_t>::max();
-    };
-    if (array == nullptr || !std::all_of(array->begin(), array->end(), isDisplay)) {
-        return "takes a list of display identifiers";
-    }
-    return std::nullopt;
+    return array != nullptr &&
+           std::all_of(array->begin(), array->end(), [](const PropertyValue& element) {
+               const auto* number = element.as<std::int64_t>();
+               return number != nullptr && *number >= std::numeric_limits<std::int32_t>::min() &&
+                      *number <= std::numeric_limits<std::int32_t>::max();
+           });
 }
 
-std::optional<std::string> problemWithReal(const PropertyValue& value) {
+bool isFiniteSingle(const PropertyValue& value) {
     const auto* number = value.as<double>();
-    if (number == nullptr || !std::isfinite(static_cast<float>(*number))) {
-        return "takes a finite number";
-    }
-    return std::nullopt;
-}
-
-std::optional<std::string> complaint(SettingType type, const PropertyValue& value) {
-    switch (type) {
-    case SettingType::boolean:
-        return value.as<bool>() != nullptr ? std::nullopt
-                                           : std::optional<std::string>("takes true or false");
-    case SettingType::integer:
-        return value.as<std::int64_t>() != nullptr
-                   ? std::nullopt
-                   : std::optional<std::string>("takes a whole number");
-    case SettingType::real:
-        return problemWithReal(value);
-    case SettingType::effectNames:
-        return problemWithNames(value);
-    case SettingType::displayNumbers:
-        return problemWithDisplays(value);
-    }
-    return "cannot be set";
+    return number != nullptr && std::isfinite(static_cast<float>(*number));
 }
 
 PropertyArray numbersAsValues(const std::vector<double>& numbers) {
@@ -153,8 +138,24 @@ PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setti
 }
 
 std::optional<std::string> problemWith(const Setting& setting, const PropertyValue& value) {
-    if (auto reason = complaint(setting.type, value)) {
-        return "\"" + std::string(setting.key) + "\" " + *reason + ".";
+    const std::string key(setting.key);
+    const auto unless = [](bool fits, const std::string& problem) {
+        return fits ? Problem() : Problem(problem);
+    };
+    switch (setting.type) {
+    case SettingType::boolean:
+        return unless(value.as<bool>() != nullptr,
+                      translated("\"%@\" takes true or false.", {key}));
+    case SettingType::integer:
+        return unless(value.as<std::int64_t>() != nullptr,
+                      translated("\"%@\" takes a whole number.", {key}));
+    case SettingType::real:
+        return unless(isFiniteSingle(value), translated("\"%@\" takes a finite number.", {key}));
+    case SettingType::effectNames:
+        return problemWithNames(key, value);
+    case SettingType::displayNumbers:
+        return unless(isListOfDisplays(value),
+                      translated("\"%@\" takes a list of display identifiers.", {key}));
     }
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/property_value.h"
+#include "platform/texts/translated.h"
 
 #include <optional>
 #include <span>
@@ -19,7 +20,7 @@ struct Setting {
     SettingType type;
     PropertyValue whenAbsent; // what readers use while the user has no value
     bool registered;          // whether `whenAbsent` is registered as a default at launch
-    std::string_view meaning; // for people, one line
+    ListedText meaning;       // one line
 };
 
 /// Every setting, in the order in which they are shown.
@@ -34,7 +35,8 @@ PropertyDictionary registeredDefaults();
 /// What readers make of the store's present value, whatever its type; reals are singles.
 PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setting);
 
-/// One sentence that says why the value cannot be stored under the setting; nothing when it can.
+/// One sentence, in the user's language, that says why the value cannot be stored under the
+/// setting; nothing when it can.
 std::optional<std::string> problemWith(const Setting& setting, const PropertyValue& value);
 
 } // namespace nocturo

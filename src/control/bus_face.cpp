@@ -19,6 +19,7 @@
 #include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
 #include "platform/settings/settings_keys.h"
+#include "platform/texts/translated.h"
 #include "preferences/affected_screen_set.h"
 
 #include <QCoreApplication>
@@ -208,7 +209,7 @@ void BusFace::SetSetting(const QString& key, const QDBusVariant& value) {
     }
     auto stored = propertyValue(value.variant());
     if (!stored) {
-        refuse("No setting takes a value of this type.");
+        refuse(translated("No setting takes a value of this type."));
         return;
     }
     if (const auto problem = problemWith(*setting, *stored)) {
@@ -237,7 +238,7 @@ void BusFace::SetHotKey(const QString& text) {
     if (!text.isEmpty()) {
         const HotKeyTextResult result = parseHotKeyText(text.toStdString(), layout_);
         if (!result.combination) {
-            refuse(result.error + " " + std::string(kHotKeyTextSyntax));
+            refuse(result.error + " " + hotKeyTextSyntax());
             return;
         }
         combination = *result.combination;
@@ -249,13 +250,13 @@ void BusFace::SetHotKey(const QString& text) {
 void BusFace::OpenFile(const QString& path) {
     userInterface_.loadPreferences();
     if (!controller_.openFile(path.toStdString())) {
-        fail(QStringLiteral("\"%1\" is not an effect document.").arg(path));
+        fail(translated("\"%@\" is not an effect document.", {path.toStdString()}));
     }
 }
 
 void BusFace::SaveFile(const QString& path) {
     if (!userInterface_.saveEffectFile(path.toStdString())) {
-        fail(QStringLiteral("Could not save settings at \"%1\".").arg(path));
+        fail(translated("Could not save settings at \"%@\".", {path.toStdString()}));
     }
 }
 
@@ -272,7 +273,7 @@ QByteArray BusFace::RenderPreview(uint id) {
     if (std::none_of(online.begin(), online.end(), [&](const QVariantMap& display) {
             return display.value(QStringLiteral("id")).toUInt() == id;
         })) {
-        refuse("There is no display with the identifier " + std::to_string(id) + ".");
+        refuse(translated("There is no display with the identifier %d.", {std::to_string(id)}));
         return {};
     }
     const std::vector<std::uint8_t> picture = userInterface_.previewPicture(id);
@@ -328,7 +329,7 @@ void BusFace::announce() {
 const Setting* BusFace::knownSetting(const QString& key) {
     const Setting* setting = settingNamed(key.toStdString());
     if (setting == nullptr) {
-        refuse("There is no setting \"" + key.toStdString() + "\".");
+        refuse(translated("There is no setting \"%@\".", {key.toStdString()}));
     }
     return setting;
 }
@@ -337,8 +338,8 @@ void BusFace::refuse(const std::string& sentence) {
     sendErrorReply(QLatin1String(kInvalidArgumentError), QString::fromStdString(sentence));
 }
 
-void BusFace::fail(const QString& sentence) {
-    sendErrorReply(QLatin1String(kFailedError), sentence);
+void BusFace::fail(const std::string& sentence) {
+    sendErrorReply(QLatin1String(kFailedError), QString::fromStdString(sentence));
 }
 
 bool reopenRunningApplication(const QDBusConnection& bus) {

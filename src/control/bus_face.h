@@ -99,7 +99,7 @@ class BusFace : public QObject, protected QDBusContext {
 
     // Answer the call being handled with an error.
     void refuse(const std::string& sentence);
-    void fail(const QString& sentence);
+    void fail(const std::string& sentence);
 
     NDAppController& controller_;
     DefaultsStore& defaults_;

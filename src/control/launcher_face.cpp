@@ -3,11 +3,14 @@
 #include "app/app_controller.h"
 #include "control/bus_names.h"
 #include "platform/desktop/bus_call.h"
+#include "platform/texts/translated.h"
 
 #include <QCoreApplication>
 #include <QUrl>
 
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace nocturo {
 
@@ -71,18 +74,25 @@ void LauncherFace::ActivateAction(const QString& name, const QVariantList& /*par
 }
 
 std::string openDocuments(NDAppController& controller, const QStringList& paths) {
-    QStringList refused;
+    std::vector<std::string> refused;
     for (const QString& path : paths) {
         if (!controller.openFile(path.toStdString())) {
-            refused.append(u'"' + path + u'"');
+            refused.push_back(path.toStdString());
         }
     }
-    if (refused.isEmpty()) {
+    if (refused.empty()) {
         return {};
     }
-    const QString what = refused.size() == 1 ? QStringLiteral(" is not an effect document.")
-                                             : QStringLiteral(" are not effect documents.");
-    return (refused.join(QStringLiteral(", ")) + what).toStdString();
+    // Whoever opened them with a click sees no standard error, and launchers drop the answer.
+    controller.showRefusedDocuments(refused);
+    if (refused.size() == 1) {
+        return translated("\"%@\" is not an effect document.", {refused.front()});
+    }
+    std::string names;
+    for (const std::string& path : refused) {
+        names += (names.empty() ? "" : ", ") + path;
+    }
+    return translated("These are not effect documents: %@", {names});
 }
 
 std::optional<std::string> openInRunningApplication(const QDBusConnection& bus,

@@ -33,8 +33,8 @@ class LauncherFace : public QDBusAbstractAdaptor {
     /// The user starts the application: what starting it a second time does.
     void Activate(const QVariantMap& platformData);
 
-    /// Opens effect documents and shows no window. Those that are refused are named in one sentence
-    /// (org.nocturo.Error.Failed); the others are opened nevertheless.
+    /// Opens effect documents and shows no window for them. Those that are refused are named in one
+    /// sentence (org.nocturo.Error.Failed) and a message; the others are opened nevertheless.
     void Open(const QStringList& uris, const QVariantMap& platformData,
               const QDBusMessage& message);
 
@@ -49,7 +49,7 @@ class LauncherFace : public QDBusAbstractAdaptor {
 };
 
 /// Opens the documents at these paths; names those that were refused in one sentence, which is
-/// empty when there are none.
+/// empty when there are none, and shows them to the user.
 std::string openDocuments(NDAppController& controller, const QStringList& paths);
 
 /// Has the application that owns its name on the bus open the documents at these absolute paths; a

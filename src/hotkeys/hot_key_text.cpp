@@ -3,6 +3,7 @@
 #include "platform/keyboard/keyboard_layout.h"
 #include "platform/keyboard/modifier_flags.h"
 #include "platform/keyboard/virtual_key_codes.h"
+#include "platform/texts/translated.h"
 
 #include <array>
 #include <cwchar>
@@ -106,53 +107,65 @@ std::optional<std::uint16_t> keyCodeTyping(std::string_view text, KeyboardLayout
     return std::nullopt;
 }
 
-std::string quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
 HotKeyTextResult failure(std::string sentence) {
     return {std::nullopt, std::move(sentence)};
 }
 
 } // namespace
 
+std::string hotKeyTextSyntax() {
+    return translated(
+        "A hot key is one key and any of ctrl, alt (or option), shift and super (or command), "
+        "joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, "
+        "pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, "
+        "volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, "
+        "keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, "
+        "keypadclear, or the character that a key types.");
+}
+
 HotKeyTextResult parseHotKeyText(std::string_view text, KeyboardLayout* layout) {
     if (trimmed(text).empty()) {
-        return failure("No hot key was given.");
+        return failure(translated("No hot key was given."));
     }
     HotKeyCombination combination;
     std::string_view key;
     for (const std::string_view part : partsOf(text)) {
         if (part.empty()) {
-            return failure(quoted(text) + " has a plus sign with nothing before or after it.");
+            return failure(translated("\"%@\" has a plus sign with nothing before or after it.",
+                                      {std::string(text)}));
         }
         if (const std::uint64_t flag = modifierNamed(part); flag != 0) {
             combination.modifierFlags |= flag;
         } else if (key.empty()) {
             key = part;
         } else {
-            return failure(quoted(key) + " and " + quoted(part) +
-                           " are both keys, but a hot key has only one.");
+            return failure(
+                translated("\"%@\" and \"%@\" are both keys, but a hot key has only one.",
+                           {std::string(key), std::string(part)}));
         }
     }
     if (key.empty()) {
-        return failure(quoted(text) + " has no key besides its modifiers.");
+        return failure(translated("\"%@\" has no key besides its modifiers.", {std::string(text)}));
     }
 
     auto keyCode = virtualKeyCodeNamed(key);
     if (!keyCode && layout != nullptr) {
         keyCode = keyCodeTyping(key, *layout);
     }
+    if (!keyCode && layout != nullptr) {
+        return failure(translated("\"%@\" is not a key's name, and no key of the current keyboard "
+                                  "layout types it.",
+                                  {std::string(key)}));
+    }
     if (!keyCode) {
-        return failure(quoted(key) + (layout != nullptr
-                                          ? " is not a key's name, and no key of the current "
-                                            "keyboard layout types it."
-                                          : " is not a key's name, and the keyboard layout that "
-                                            "could tell which key types it cannot be read."));
+        return failure(translated("\"%@\" is not a key's name, and the keyboard layout that could "
+                                  "tell which key types it cannot be read.",
+                                  {std::string(key)}));
     }
     if (combination.modifierFlags == 0 && !isFunctionKeyCode(*keyCode)) {
-        return failure(quoted(key) + " needs a modifier: only function, arrow and navigation keys "
-                                     "can be hot keys alone.");
+        return failure(translated("\"%@\" needs a modifier: only function, arrow and navigation "
+                                  "keys can be hot keys alone.",
+                                  {std::string(key)}));
     }
     combination.keyCode = *keyCode;
     return {combination, {}};

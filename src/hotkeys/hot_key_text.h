@@ -22,13 +22,7 @@ struct HotKeyTextResult {
 };
 
 /// What the user may write, for help texts.
-inline constexpr std::string_view kHotKeyTextSyntax =
-    "A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined "
-    "by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, "
-    "pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, "
-    "mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, "
-    "keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a "
-    "key types.";
+std::string hotKeyTextSyntax();
 
 /// Reads a hot key as a user writes it: parts in any order and any letter case, joined by "+", with
 /// spaces around them if wanted. The one part that names no modifier is the key: a key name, or

@@ -110,12 +110,28 @@ TEST_F(Application, DocumentsGoToTheOneThatRuns) {
     const RunResult refused = session_.run("nocturo", {good, bad});
     EXPECT_EQ(refused.exit, 1);
     EXPECT_EQ(refused.errors, "nocturo: \"" + bad + "\" is not an effect document.\n");
+    // Whoever opened it with a click sees no standard error.
+    const std::string message = windowCalled("^Nocturo$");
+    session_.run("xdotool", {"mousemove", "--window", message, "5", "5", "key", "Return"});
+    EXPECT_TRUE(waitUntil([&] { return !isShown("^Nocturo$"); }));
     // Neither loads the window nor switches.
     EXPECT_EQ(shown(), "ii");
     EXPECT_FALSE(isShown("Preferences"));
     EXPECT_EQ(session_.run("nocturo").exit, 0); // what a start without a document does
     EXPECT_EQ(shown(), "oo");
     EXPECT_EQ(nocturo_->errors(), "");
+}
+
+TEST_F(Application, ARefusedDocumentOfTheFirstStartIsShownAndHoldsNothingUp) {
+    selectInvert();
+    const std::string bad = session_.settingsFile();
+    nocturo_ = session_.startNocturo({bad});
+    EXPECT_FALSE(windowCalled("^Nocturo$").empty());
+    ctl({"toggle"});
+    EXPECT_EQ(shown(), "oo");
+    ctl({"quit"});
+    EXPECT_EQ(nocturo_->wait(), 0);
+    EXPECT_EQ(nocturo_->errors(), "nocturo: \"" + bad + "\" is not an effect document.\n");
 }
 
 TEST_F(Application, LaunchersStartAndDriveIt) {

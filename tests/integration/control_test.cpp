@@ -77,6 +77,9 @@ TEST_F(Control, WithoutDisplaysOrNocturoItSaysWhatToDo) {
     }
     EXPECT_EQ(session_.run("nocturo", {"--help"}).exit, 0);
     EXPECT_EQ(session_.run("nocturo", {"--version"}).output, "nocturo " NOCTURO_VERSION "\n");
+    session_.environment()["LANGUAGE"] = "de";
+    EXPECT_EQ(session_.run("nocturo", {"--help"}).output.find("Aufruf: nocturo "), 0U);
+    EXPECT_EQ(session_.run("nocturoctl", {"restore"}).errors.find("nocturoctl: Der X-Server"), 0U);
 }
 
 TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
@@ -113,6 +116,15 @@ TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
                                    "/org/nocturo/Nocturo", "org.nocturo.Nocturo1.SetSetting",
                                    "string:UseHotKey", "variant:double:1"});
     EXPECT_NE(direct.errors.find("org.nocturo.Error.InvalidArgument"), std::string::npos);
+}
+
+TEST_F(ControlOfRunning, SpeaksTheUsersLanguageInAlignedColumns) {
+    const Json before = status();
+    session_.environment()["LANGUAGE"] = "ja";
+    const std::string screens = ctl({"screens"}).output;
+    EXPECT_EQ(screens.find("       番号  名前   識別子"), 0U) << screens;
+    EXPECT_NE(screens.find("\n  [x]  1     SIM-1  "), std::string::npos) << screens;
+    EXPECT_EQ(status(), before) << "programs read this, not people";
 }
 
 TEST_F(ControlOfRunning, WatchTellsEachChange) {

@@ -18,7 +18,7 @@ using rig::XServer;
 
 std::unique_ptr<RandrHardware> openHardware(const std::string& display) {
     RandrOpening opening = RandrHardware::open(display);
-    EXPECT_EQ(opening.reason, "");
+    EXPECT_EQ(opening.result, RandrOpening::Result::opened);
     return std::move(opening.hardware);
 }
 
@@ -193,7 +193,6 @@ TEST(RandrHardware, noticesThatTheServerIsGone) {
 
     const RandrOpening opening = RandrHardware::open(server.display());
     EXPECT_EQ(opening.result, RandrOpening::Result::unreachable);
-    EXPECT_NE(opening.reason.find(server.display()), std::string::npos);
     EXPECT_EQ(RandrHardware::open("").result, RandrOpening::Result::unreachable);
 }
 

@@ -23,11 +23,14 @@ MNEMONIC = re.compile(r"&([^&\s])")
 # What is reached from one window with one press of Alt, beside the panel's own controls; a menu is
 # a window, too.
 WINDOWS = {
-    PANEL: ["&File"],
+    PANEL: ["&File", "&Effect", "&Help"],
     "question": ["&Keep", "&Go back"],
     "save panel": ["&Hide extension"],
     "file menu": ["&Open...", "Open &Recent", "&Save...", "&Preferences...", "&Close",
                   "&Quit Nocturo"],
+    "recent menu": ["&Clear Menu"],
+    "effect menu": ["&Activate Effect"],
+    "effect menu while on": ["&Deactivate Effect"],
     "help menu": ["&About Nocturo"],
 }
 
@@ -145,17 +148,20 @@ class Faults(unittest.TestCase):
             '// localized("None at all")\n'
             'b(localized(on ? "Three" : "Four"));\n'
             'Alert alert; alert.table = "ZQFluxCheck"; alert.title = "Five"; Alert other;\n'
-            'other.message = "Si"\n "x";\n')
+            'other.message = "Si"\n "x";\n'
+            'c(translated("Seven %@", {name}), ListedText("Eight"), text.translated());\n')
         missing = {text for text in faults(self.root) if text.startswith("fr") and "missing" in text}
         wanted = {(PANEL, "Shut"), ("Localizable", "One text"), ("ZQFluxCheck", "Two"),
                   ("Localizable", "Three"), ("Localizable", "Four"), ("ZQFluxCheck", "Five"),
-                  ("Localizable", "Six")}
+                  ("Localizable", "Six"), ("CommandLine", "Seven %@"), ("CommandLine", "Eight")}
         self.assertEqual({f"fr: {key} is missing" for key in wanted}, missing)
 
     def test_texts_that_cannot_be_found_are_refused(self):
-        (self.root / "src/new.cpp").write_text("a(localized(english));\n")
-        with self.assertRaises(ValueError):
-            list(faults(self.root))
+        for code in ("localized(english)", "translated(english, {name})"):
+            with self.subTest(code):
+                (self.root / "src/new.cpp").write_text(f"a({code});\n")
+                with self.assertRaises(ValueError):
+                    list(faults(self.root))
 
 
 if __name__ == "__main__":

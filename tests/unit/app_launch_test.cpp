@@ -51,6 +51,9 @@ struct RecordingDesktop : DesktopFace {
         whileAsking();
         return answer;
     }
+    void showRefusedDocuments(const std::vector<std::string>& paths) override {
+        log_.push_back("refused " + paths.front());
+    }
     void setActivateItemTitles(bool active) override { log_.emplace_back(active ? "on" : "off"); }
     void setStatusItemShown(bool shown) override { log_.emplace_back(shown ? "item" : "no item"); }
     void setStatusItemImage(bool active) override {

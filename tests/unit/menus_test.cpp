@@ -50,6 +50,16 @@ TEST_F(RecentlyOpened, TheLatestComesFirstAndWhatIsGoneIsLeftOut) {
     EXPECT_TRUE(documents_.paths().empty());
 }
 
+TEST_F(RecentlyOpened, EveryItemOfTheMainMenuCanBeTyped) {
+    const MainMenu menu(documents_, {});
+    const auto items = menu.bar()->findChildren<QAction*>();
+    EXPECT_GE(items.size(), 10);
+    for (const QAction* item : items) {
+        EXPECT_TRUE(item->isSeparator() || item->text().contains(u'&'))
+            << item->text().toStdString();
+    }
+}
+
 TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     QString opened;
     MainMenu::Handlers handlers;

@@ -1,5 +1,7 @@
 #include "platform/desktop/localized.h"
 #include "platform/desktop/translations.h"
+#include "platform/texts/translated.h"
+#include "platform/texts/users_language.h"
 
 #include <QGuiApplication>
 
@@ -11,21 +13,51 @@
 namespace nocturo {
 namespace {
 
-TEST(LanguageOfTexts, IsThatOfTheFirstLanguageThatThereAreTextsFor) {
+TEST(UsersLanguage, IsTheFirstThatThereAreTextsFor) {
     const auto chosen = [](const char* wanted) {
-        return languageOfTexts(QString::fromLatin1(wanted).split(u':')).toStdString();
+        qputenv("LANGUAGE", wanted);
+        return usersLanguage();
     };
+    qputenv("LC_ALL", "");
+    qputenv("LC_MESSAGES", "");
+    qputenv("LANG", "");
     EXPECT_EQ(chosen("de"), "de");
     EXPECT_EQ(chosen("de-AT"), "de");
     EXPECT_EQ(chosen("fr-Latn-CA"), "fr");
     EXPECT_EQ(chosen("pt-BR"), "pt_BR");
     EXPECT_EQ(chosen("pt-PT"), "pt_BR");
     EXPECT_EQ(chosen("zh-SG"), "zh_CN");
-    EXPECT_EQ(chosen("zh-TW"), "") << "written in another script";
-    EXPECT_EQ(chosen("fi-FI:fi:sv:ja:de"), "ja");
+    EXPECT_EQ(chosen("zh_Hans_HK"), "zh_CN");
+    EXPECT_EQ(chosen("zh_TW"), "") << "written in another script";
+    EXPECT_EQ(chosen("fi-FI:fi:sv::ja:de"), "ja");
     EXPECT_EQ(chosen("fi:en-GB:de"), "") << "who reads English gets it before German";
     EXPECT_EQ(chosen("C:de"), "");
     EXPECT_EQ(chosen("ar"), "");
+    EXPECT_EQ(chosen(""), "");
+
+    qputenv("LANG", "es_MX.UTF-8");
+    EXPECT_EQ(chosen(""), "es");
+    qputenv("LC_MESSAGES", "de_DE@euro");
+    EXPECT_EQ(chosen(""), "de");
+    EXPECT_EQ(chosen("ja"), "ja");
+    qputenv("LC_ALL", "C.UTF-8");
+    EXPECT_EQ(chosen(""), "");
+    EXPECT_EQ(chosen("ja"), "ja");
+    qputenv("LC_ALL", "C");
+    EXPECT_EQ(chosen("ja"), "") << "scripts count on it";
+}
+
+TEST(Translated, SaysTextsInTheLanguageWithTheirArguments) {
+    const auto sentence = [] {
+        return translated("There is no verb \"%@\"; nocturoctl --help lists them.", {"a%d"});
+    };
+    EXPECT_EQ(sentence(), "There is no verb \"a%d\"; nocturoctl --help lists them.");
+    setLanguageOfTexts("de");
+    EXPECT_EQ(sentence(), "Ein Verb „a%d“ gibt es nicht; nocturoctl --help nennt alle.");
+    EXPECT_EQ(translated("No text of %2$@ %1$@, %@", {"ours", "not"}), "No text of not ours, ours");
+    EXPECT_EQ(translated("%@ and %@", {"one"}), "one and (null)");
+    setLanguageOfTexts("fi");
+    EXPECT_EQ(sentence(), "There is no verb \"a%d\"; nocturoctl --help lists them.");
 }
 
 TEST(InstalledTranslations, AreThoseOfTheEnvironment) {

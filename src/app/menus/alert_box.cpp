@@ -38,6 +38,10 @@ class EndWatch : public QObject {
     bool ended_ = false;
 };
 
+bool canBeSeen() {
+    return QGuiApplication::platformName() != QLatin1String("offscreen");
+}
+
 void setIcon(QMessageBox& box, const Alert& alert) {
     box.setIcon(alert.critical ? QMessageBox::Critical : QMessageBox::Information);
     const QString name = QString::fromStdString(alert.icon);
@@ -53,7 +57,7 @@ void setIcon(QMessageBox& box, const Alert& alert) {
 
 AlertAnswer runAlertBox(const Alert& alert) {
     const QString title = text(alert, alert.title, alert.titleArguments);
-    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+    if (!canBeSeen()) {
         logWarning("nocturo.app", title.toStdString());
         return alert.harmless;
     }
@@ -74,6 +78,19 @@ AlertAnswer runAlertBox(const Alert& alert) {
     box.exec();
     return !end.ended() && box.clickedButton() == first ? AlertAnswer::defaultButton
                                                         : AlertAnswer::alternateButton;
+}
+
+std::unique_ptr<QMessageBox> shownMessage(const QString& title, const QString& message) {
+    if (!canBeSeen()) {
+        return nullptr;
+    }
+    auto box = std::make_unique<QMessageBox>(QMessageBox::Warning,
+                                             QGuiApplication::applicationDisplayName(), title);
+    box->setInformativeText(message);
+    box->setDefaultButton(box->addButton(localized("OK"), QMessageBox::AcceptRole));
+    widenMessage(*box);
+    box->show();
+    return box;
 }
 
 } // namespace nocturo

@@ -7,6 +7,7 @@
 #include "app/recent_documents.h"
 #include "app/windows/app_windows.h"
 #include "platform/desktop/localized.h"
+#include "preferences/documents/effect_document_file.h"
 #include "preferences/menus/screen_option_menu_manager.h"
 
 #include <QCoreApplication>
@@ -110,11 +111,21 @@ AlertAnswer DesktopMenus::runAlert(const Alert& alert) {
     return runAlertBox(alert);
 }
 
+void DesktopMenus::showRefusedDocuments(const std::vector<std::string>& paths) {
+    QStringList sentences;
+    for (const std::string& path : paths) {
+        sentences.append(filled(localized("“%@” is not an effect document."),
+                                {QString::fromStdString(documentDisplayName(path))}));
+    }
+    refusal_ = shownMessage(localized("Opening failed"), sentences.join(u'\n'));
+}
+
 void DesktopMenus::setActivateItemTitles(bool active) {
-    const QString title = localized(active ? "Deactivate Effect" : "Activate Effect");
     Menus& all = menus();
-    for (QAction* item :
-         {all.mainMenu.activateItem(), all.dockActivateItem, all.statusActivateItem}) {
+    all.mainMenu.activateItem()->setText(
+        localized(active ? "&Deactivate Effect" : "&Activate Effect"));
+    const QString title = localized(active ? "Deactivate Effect" : "Activate Effect");
+    for (QAction* item : {all.dockActivateItem, all.statusActivateItem}) {
         if (item != nullptr) {
             item->setText(title);
         }

@@ -5,6 +5,10 @@
 #include "app/menus/status_item.h"
 
 #include <memory>
+#include <string>
+#include <vector>
+
+class QMessageBox;
 
 namespace nocturo {
 
@@ -25,6 +29,7 @@ class DesktopMenus : public DesktopFace {
     ~DesktopMenus() override;
 
     AlertAnswer runAlert(const Alert& alert) override;
+    void showRefusedDocuments(const std::vector<std::string>& paths) override;
     void setActivateItemTitles(bool active) override;
     void setStatusItemShown(bool shown) override;
     void setStatusItemImage(bool active) override;
@@ -43,6 +48,7 @@ class DesktopMenus : public DesktopFace {
     const RecentDocuments& recentDocuments_;
     StatusItem::Surroundings surroundings_;
     std::unique_ptr<Menus> menus_;
+    std::unique_ptr<QMessageBox> refusal_; // the last one, which may have been closed
 };
 
 } // namespace nocturo

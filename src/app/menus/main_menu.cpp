@@ -39,7 +39,7 @@ void fillRecent(QMenu& menu, const RecentDocuments& documents,
     }
     const bool any = !menu.isEmpty();
     menu.addSeparator();
-    add(menu, localized("Clear Menu"), [&documents] { documents.clear(); })->setEnabled(any);
+    add(menu, localized("&Clear Menu"), [&documents] { documents.clear(); })->setEnabled(any);
 }
 
 } // namespace
@@ -77,12 +77,12 @@ void MainMenu::addFileMenu(const RecentDocuments& documents, const Handlers& han
 }
 
 void MainMenu::addEffectMenu(const Handlers& handlers) {
-    effectMenu_ = bar_->addMenu(localized("Effect"));
-    activateItem_ = add(*effectMenu_, localized("Activate Effect"), handlers.activate);
+    effectMenu_ = bar_->addMenu(localized("&Effect"));
+    activateItem_ = add(*effectMenu_, localized("&Activate Effect"), handlers.activate);
 }
 
 void MainMenu::addHelpMenu(const Handlers& handlers) {
-    QMenu& help = *bar_->addMenu(localized("Help"));
+    QMenu& help = *bar_->addMenu(localized("&Help"));
     add(help, localized("&About Nocturo"), handlers.openAboutBox)->setMenuRole(QAction::AboutRole);
 }
 

@@ -3,6 +3,7 @@
 #include "control/bus_names.h"
 #include "control/nocturoctl/bus_json.h"
 #include "control/nocturoctl/failure.h"
+#include "platform/texts/translated.h"
 
 #include <cstring>
 #include <string_view>
@@ -16,13 +17,12 @@ namespace {
 constexpr const char* kPropertiesInterface = "org.freedesktop.DBus.Properties";
 
 [[noreturn]] void failBecauseNotRunning() {
-    throw Failure{kNotRunning, "Nocturo is not running; start it with: nocturo &"};
+    throw Failure{kNotRunning, translated("Nocturo is not running; start it with: nocturo &")};
 }
 
 void check(int result) {
     if (result < 0) {
-        throw Failure{kFailed,
-                      std::string("The session bus failed: ") + std::strerror(-result) + "."};
+        throw Failure{kFailed, translated("The session bus failed: %@.", {std::strerror(-result)})};
     }
 }
 
@@ -71,8 +71,9 @@ int nameOwnerDidChange(sd_bus_message* message, void* context, sd_bus_error* /*e
 BusClient::BusClient() {
     sd_bus* bus = nullptr;
     if (sd_bus_open_user(&bus) < 0) {
-        throw Failure{kNotRunning, "There is no session bus over which Nocturo could be reached; "
-                                   "start it inside a desktop session with: nocturo &"};
+        throw Failure{kNotRunning,
+                      translated("There is no session bus over which Nocturo could be reached; "
+                                 "start it inside a desktop session with: nocturo &")};
     }
     bus_.reset(bus);
 }
@@ -184,7 +185,7 @@ BusClient::Message BusClient::send(const Message& message) {
     if (error.is(kFailedError)) {
         throw Failure{kFailed, error.sentence()};
     }
-    throw Failure{kFailed, "Nocturo did not do it: " + error.sentence()};
+    throw Failure{kFailed, translated("Nocturo did not do it: %@", {error.sentence()})};
 }
 
 } // namespace nocturo

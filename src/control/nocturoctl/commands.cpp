@@ -91,8 +91,9 @@ void runEffects(Arguments arguments) {
 const Setting& settingFromName(const std::string& key) {
     const Setting* setting = settingNamed(key);
     if (setting == nullptr) {
-        throw Failure{kUsage,
-                      "There is no setting \"" + key + "\"; nocturoctl status lists them all."};
+        throw Failure{
+            kUsage,
+            translated("There is no setting \"%@\"; nocturoctl status lists them all.", {key})};
     }
     return *setting;
 }
@@ -118,15 +119,18 @@ void runReset(Arguments arguments) {
 // Tells what stands in the way of a chosen hot key.
 void printHotKey(const Json& hotKey) {
     if (hotKey.empty()) {
-        std::cout << "No hot key is chosen.\n";
+        std::cout << translated("No hot key is chosen.") << '\n';
         return;
     }
-    std::cout << hotKey["text"].get<std::string>();
+    const auto text = hotKey["text"].get<std::string>();
     if (!hotKey["enabled"].get<bool>()) {
-        std::cout << "  (not enabled; nocturoctl hotkey enable)";
+        std::cout << translated("%@  (not enabled; nocturoctl hotkey enable)", {text});
     } else if (!hotKey["registered"].get<bool>()) {
-        std::cout
-            << "  (not in force: another program holds it, or the desktop offers no hot keys)";
+        std::cout << translated("%@  (not in force: another program holds it, or the desktop "
+                                "offers no hot keys)",
+                                {text});
+    } else {
+        std::cout << text;
     }
     std::cout << '\n';
 }
@@ -136,7 +140,7 @@ void runHotKey(Arguments arguments) {
     const std::string how = arguments.empty() ? "" : arguments[0];
     if (how == "set" && arguments.size() == 2) {
         if (arguments[1].empty()) {
-            throw Failure{kUsage, std::string(kHotKeyTextSyntax)};
+            throw Failure{kUsage, hotKeyTextSyntax()};
         }
         client.call("SetHotKey", arguments[1]);
     } else if (how == "none" && arguments.size() == 1) {
@@ -175,8 +179,9 @@ std::uint32_t displayFromText(const Json& properties, const std::string& text) {
         std::find(chosen.begin(), chosen.end(), *number) != chosen.end()) {
         return *number;
     }
-    throw Failure{kUsage, "There is no display \"" + text +
-                              "\"; nocturoctl screens lists their numbers, names and identifiers."};
+    throw Failure{kUsage, translated("There is no display \"%@\"; nocturoctl screens lists their "
+                                     "numbers, names and identifiers.",
+                                     {text})};
 }
 
 void runScreens(Arguments arguments) {
@@ -195,7 +200,7 @@ std::string absolutePath(const std::string& path) {
     std::error_code error;
     const auto absolute = std::filesystem::absolute(path, error);
     if (path.empty() || error) {
-        throw Failure{kUsage, "Name a file."};
+        throw Failure{kUsage, translated("Name a file.")};
     }
     return absolute;
 }
@@ -226,7 +231,7 @@ std::uint32_t mainDisplay(const Json& properties) {
             return display["id"].get<std::uint32_t>();
         }
     }
-    throw Failure{kFailed, "No display is online."};
+    throw Failure{kFailed, translated("No display is online.")};
 }
 
 void runPreview(Arguments arguments) {
@@ -243,7 +248,7 @@ void runPreview(Arguments arguments) {
     const std::string picture = client.renderPreview(
         display.empty() ? mainDisplay(properties) : displayFromText(properties, display));
     if (!(std::ofstream(file, std::ios::binary) << picture << std::flush)) {
-        throw Failure{kFailed, "The file \"" + file + "\" cannot be written."};
+        throw Failure{kFailed, translated("The file \"%@\" cannot be written.", {file})};
     }
 }
 
@@ -270,49 +275,55 @@ void runWatch(Arguments arguments) {
     Json known;
     BusClient().watch([&](const Json& properties) { known = properties; },
                       [&](const Json& properties) { printChanges(known, properties); });
-    std::cerr << "nocturoctl: Nocturo has ended.\n";
+    std::cerr << "nocturoctl: " << translated("Nocturo has ended.") << '\n';
 }
 
 constexpr std::array kCommands = std::to_array<Command>({
-    {"on", "", "switch the effect on", "", runSwitch<true>},
-    {"off", "", "switch the effect off", "Every display gets its own colors back.",
-     runSwitch<false>},
-    {"toggle", "", "switch the effect on or off", "Bind this to a key.", runToggle},
-    {"status", "[--json]", "show the state of everything", "With --json, one object for programs.",
-     runStatus},
-    {"effects", "[add|remove|only NAME...]", "list or choose the effects",
-     "NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
-     "name. add and remove change the selection, only replaces it.",
+    {"on", "", ListedText("Switch the effect on"), ListedText(), runSwitch<true>},
+    {"off", "", ListedText("Switch the effect off"),
+     ListedText("Every display gets its own colors back."), runSwitch<false>},
+    {"toggle", "", ListedText("Switch the effect on or off"), ListedText("Bind this to a key."),
+     runToggle},
+    {"status", "[--json]", ListedText("Show the state of everything"),
+     ListedText("With --json, one object for programs."), runStatus},
+    {"effects", "[add|remove|only NAME...]", ListedText("List or choose the effects"),
+     ListedText("NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
+                "name. add and remove change the selection, only replaces it."),
      runEffects},
-    {"get", "KEY", "show a setting", "nocturoctl status lists the keys.", runGet},
-    {"set", "KEY VALUE", "change a setting",
-     "VALUE is true or false, a number, or a list with commas, as the setting takes it.\n"
-     "For example: nocturoctl set NDDimEffectLevel -0.3",
+    {"get", "KEY", ListedText("Show a setting"), ListedText("nocturoctl status lists the keys."),
+     runGet},
+    {"set", "KEY VALUE", ListedText("Change a setting"),
+     ListedText(
+         "VALUE is true or false, a number, or a list with commas, as the setting takes it.\n"
+         "For example: nocturoctl set NDDimEffectLevel -0.3"),
      runSet},
-    {"reset", "KEY", "give a setting its default value again", "", runReset},
-    {"screens", "[all | toggle NUMBER|NAME|ID]", "list or choose the affected displays",
-     "toggle puts a display into the set of affected displays or takes it out. An empty\n"
-     "set means all displays, which is also what all chooses.",
+    {"reset", "KEY", ListedText("Give a setting its default value again"), ListedText(), runReset},
+    {"screens", "[all | toggle NUMBER|NAME|ID]", ListedText("List or choose the affected displays"),
+     ListedText(
+         "toggle puts a display into the set of affected displays or takes it out. An empty\n"
+         "set means all displays, which is also what all chooses."),
      runScreens},
-    {"hotkey", "[set KEYS | none | enable | disable]", "show or choose the global hot key",
-     "KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The\n"
-     "hot key toggles the effect while it is enabled.",
+    {"hotkey", "[set KEYS | none | enable | disable]",
+     ListedText("Show or choose the global hot key"),
+     ListedText("KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The\n"
+                "hot key toggles the effect while it is enabled."),
      runHotKey},
-    {"open", "FILE", "take the effects from a document", "", runOpen},
-    {"save", "FILE", "save the effects as a document", "", runSave},
-    {"preview", "--png FILE [--display N]", "draw what the effects do",
-     "The curves of a display, of the main one unless told otherwise, and a scene seen\n"
-     "through them, as a PNG picture. N is its number, name or identifier.",
+    {"open", "FILE", ListedText("Take the effects from a document"), ListedText(), runOpen},
+    {"save", "FILE", ListedText("Save the effects as a document"), ListedText(), runSave},
+    {"preview", "--png FILE [--display N]", ListedText("Draw what the effects do"),
+     ListedText("The curves of a display, of the main one unless told otherwise, and a scene seen\n"
+                "through them, as a PNG picture. N is its number, name or identifier."),
      runPreview},
-    {"preferences", "", "show the preference window", "", runPreferences},
-    {"about", "", "show the about box", "", runAbout},
-    {"watch", "", "print every change as it happens",
-     "One JSON object a line, with what changed. Ends when Nocturo does.", runWatch},
-    {"restore", "", "give every display its own colors back",
-     "Whether Nocturo runs, answers or was killed, and without a session bus as well. Where\n"
-     "nothing is known of a display's own colors it gets plain ones.",
+    {"preferences", "", ListedText("Show the preference window"), ListedText(), runPreferences},
+    {"about", "", ListedText("Show the about box"), ListedText(), runAbout},
+    {"watch", "", ListedText("Print every change as it happens"),
+     ListedText("One JSON object a line, with what changed. Ends when Nocturo does."), runWatch},
+    {"restore", "", ListedText("Give every display its own colors back"),
+     ListedText(
+         "Whether Nocturo runs, answers or was killed, and without a session bus as well. Where\n"
+         "nothing is known of a display's own colors it gets plain ones."),
      runRestore},
-    {"quit", "", "give the displays back and end Nocturo", "", runQuit},
+    {"quit", "", ListedText("Give the displays back and end Nocturo"), ListedText(), runQuit},
 });
 
 } // namespace

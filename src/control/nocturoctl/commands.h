@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/texts/translated.h"
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -11,9 +13,9 @@ using Arguments = std::span<const std::string>;
 /// One verb of the command line.
 struct Command {
     std::string_view verb;
-    std::string_view usage;   // what follows the verb, "[--json]"
-    std::string_view summary; // one line
-    std::string_view details; // more for `nocturoctl VERB --help`; may be empty
+    std::string_view usage; // what follows the verb, "[--json]"
+    ListedText summary;     // one line
+    ListedText details;     // more for `nocturoctl VERB --help`; may be empty
 
     /// Runs the verb with what follows it. Throws Failure; a Failure without a sentence means that
     /// the arguments do not fit the usage.

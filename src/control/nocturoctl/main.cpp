@@ -1,5 +1,7 @@
 #include "control/nocturoctl/commands.h"
 #include "control/nocturoctl/failure.h"
+#include "platform/texts/translated.h"
+#include "platform/texts/users_language.h"
 
 #include <algorithm>
 #include <exception>
@@ -19,23 +21,28 @@ std::string call(const Command& command) {
 }
 
 void printHelp() {
-    std::cout << "Usage: nocturoctl VERB [ARGUMENT...]\n\n"
-                 "Drives the Nocturo that runs in this session.\n\n";
+    std::cout << translated("Usage: %@", {"nocturoctl VERB [ARGUMENT...]"}) << "\n\n"
+              << translated("Drives the Nocturo that runs in this session.") << "\n\n";
     for (const Command& command : commands()) {
         std::string line = "  " + call(command);
         line.resize(std::max(line.size() + 2, kUsageColumn), ' ');
-        std::cout << line << command.summary << '\n';
+        std::cout << line << command.summary.translated() << '\n';
     }
-    std::cout << "\nnocturoctl VERB --help tells more.\n\n"
-                 "Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.\n";
+    std::cout << '\n'
+              << translated("nocturoctl VERB --help tells more.") << "\n\n"
+              << translated("Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not "
+                            "running.")
+              << '\n';
+}
+
+std::string usage(const Command& command) {
+    return translated("Usage: %@", {"nocturoctl " + call(command)});
 }
 
 void printHelp(const Command& command) {
-    std::string summary(command.summary);
-    summary.front() = static_cast<char>(summary.front() - 'a' + 'A');
-    std::cout << "Usage: nocturoctl " << call(command) << "\n\n" << summary << ".\n";
-    if (!command.details.empty()) {
-        std::cout << command.details << '\n';
+    std::cout << usage(command) << "\n\n" << command.summary.translated() << '\n';
+    if (!command.details.isEmpty()) {
+        std::cout << '\n' << command.details.translated() << '\n';
     }
 }
 
@@ -46,7 +53,7 @@ int tell(const Failure& failure) {
 
 int run(const std::vector<std::string>& arguments) {
     if (arguments.empty()) {
-        return tell({kUsage, "Say what to do; nocturoctl --help lists the verbs."});
+        return tell({kUsage, translated("Say what to do; nocturoctl --help lists the verbs.")});
     }
     if (arguments[0] == "--help" || arguments[0] == "-h") {
         printHelp();
@@ -60,8 +67,8 @@ int run(const std::vector<std::string>& arguments) {
     const auto command = std::find_if(
         all.begin(), all.end(), [&](const Command& each) { return each.verb == arguments[0]; });
     if (command == all.end()) {
-        return tell(
-            {kUsage, "There is no verb \"" + arguments[0] + "\"; nocturoctl --help lists them."});
+        return tell({kUsage, translated("There is no verb \"%@\"; nocturoctl --help lists them.",
+                                        {arguments[0]})});
     }
     const Arguments rest = Arguments(arguments).subspan(1);
     if (std::find(rest.begin(), rest.end(), "--help") != rest.end()) {
@@ -71,8 +78,7 @@ int run(const std::vector<std::string>& arguments) {
     try {
         command->run(rest);
     } catch (const Failure& failure) {
-        return failure.sentence.empty() ? tell({kUsage, "Usage: nocturoctl " + call(*command)})
-                                        : tell(failure);
+        return failure.sentence.empty() ? tell({kUsage, usage(*command)}) : tell(failure);
     }
     return kSuccess;
 }
@@ -83,6 +89,7 @@ int run(const std::vector<std::string>& arguments) {
 
 int main(int argc, char* argv[]) {
     try {
+        nocturo::setLanguageOfTexts(nocturo::usersLanguage());
         return nocturo::run(std::vector<std::string>(argv + 1, argv + argc));
     } catch (const std::exception& unexpected) {
         std::cerr << "nocturoctl: " << unexpected.what() << '\n';

@@ -2,7 +2,9 @@
 
 #include "app/settings_table.h"
 #include "control/nocturoctl/setting_text.h"
+#include "control/nocturoctl/text_columns.h"
 #include "effects/effect_registry.h"
+#include "platform/texts/translated.h"
 
 #include <algorithm>
 #include <array>
@@ -42,14 +44,14 @@ std::string table(const std::vector<Row>& rows) {
     for (const Row& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t i = 0; i < row.size(); ++i) {
-            widths[i] = std::max(widths[i], row[i].size());
+            widths[i] = std::max(widths[i], columnsOf(row[i]));
         }
     }
     std::string text;
     for (const Row& row : rows) {
         std::string line;
         for (std::size_t i = 0; i < row.size(); ++i) {
-            line += "  " + row[i] + std::string(widths[i] - row[i].size(), ' ');
+            line += "  " + row[i] + std::string(widths[i] - columnsOf(row[i]), ' ');
         }
         text += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
     }
@@ -57,7 +59,7 @@ std::string table(const std::vector<Row>& rows) {
 }
 
 std::string yesOrNo(const Json& value) {
-    return value.get<bool>() ? "yes" : "no";
+    return value.get<bool>() ? translated("yes") : translated("no");
 }
 
 std::string plain(const Json& value) {
@@ -71,7 +73,7 @@ std::string plain(const Json& value) {
     for (const Json& element : value) {
         list += (list.empty() ? "" : ", ") + plain(element);
     }
-    return list.empty() ? "(none)" : list;
+    return list.empty() ? translated("(none)") : list;
 }
 
 std::string selectedEffects(const Json& properties) {
@@ -80,22 +82,18 @@ std::string selectedEffects(const Json& properties) {
         list += (list.empty() ? "" : ", ") +
                 std::string(shortEffectName(name.get_ref<const std::string&>()));
     }
-    return list.empty() ? "(none)" : list;
+    return list.empty() ? translated("(none)") : list;
 }
 
 std::string hotKeyText(const Json& hotKey) {
     if (hotKey.empty()) {
-        return "(none)";
+        return translated("(none)");
     }
-    const char* state = !hotKey["enabled"].get<bool>()     ? " (not enabled)"
-                        : hotKey["registered"].get<bool>() ? ""
-                                                           : " (not in force)";
-    return hotKey["text"].get<std::string>() + state;
-}
-
-// The row of a parameter that matters only while its effect is selected.
-Row parameterRow(const Json& properties, const char* title, const char* name) {
-    return {title, plain(properties[name])};
+    const auto text = hotKey["text"].get<std::string>();
+    if (!hotKey["enabled"].get<bool>()) {
+        return translated("%@ (not enabled)", {text});
+    }
+    return hotKey["registered"].get<bool>() ? text : translated("%@ (not in force)", {text});
 }
 
 // Nothing as long as nobody disturbs.
@@ -104,30 +102,38 @@ std::string disturbanceReport(const Json& properties) {
     if (count == 0) {
         return {};
     }
-    const std::string name = plain(properties["disturber"]);
-    return (name.empty() ? "Another program" : name) + " changes the colors too: found " +
-           std::to_string(count) + (count == 1 ? " time" : " times") +
-           " since Nocturo was started.\n";
+    std::string name = plain(properties["disturber"]);
+    if (name.empty()) {
+        name = translated("Another program");
+    }
+    return (count == 1
+                ? translated("%@ changes the colors too: found once since Nocturo was started.",
+                             {name})
+                : translated("%@ changes the colors too: found %d times since Nocturo was started.",
+                             {name, std::to_string(count)})) +
+           '\n';
 }
 
 } // namespace
 
 std::string statusReport(const Json& properties) {
     std::string text = "Nocturo\n";
-    text += table({{"effect", properties["active"].get<bool>() ? "on" : "off"},
-                   {"selected", selectedEffects(properties)},
-                   parameterRow(properties, "dim level", "dimLevel"),
-                   parameterRow(properties, "color filter hue", "colorFilterHue"),
-                   parameterRow(properties, "color filter vividness", "colorFilterVividness"),
-                   {"hot key", hotKeyText(properties["hotKey"])},
-                   {"display services", plain(properties["displayServices"])}});
     text +=
-        "\nDisplays\n" + screensReport(properties) + disturbanceReport(properties) + "\nSettings\n";
+        table({{translated("effect"),
+                properties["active"].get<bool>() ? translated("on") : translated("off")},
+               {translated("selected"), selectedEffects(properties)},
+               {translated("dim level"), plain(properties["dimLevel"])},
+               {translated("color filter hue"), plain(properties["colorFilterHue"])},
+               {translated("color filter vividness"), plain(properties["colorFilterVividness"])},
+               {translated("hot key"), hotKeyText(properties["hotKey"])},
+               {translated("display services"), plain(properties["displayServices"])}});
+    text += '\n' + translated("Displays") + '\n' + screensReport(properties) +
+            disturbanceReport(properties) + '\n' + translated("Settings") + '\n';
     std::vector<Row> rows;
     for (const Setting& setting : settingsTable()) {
         const std::string key(setting.key);
         if (properties["settings"].contains(key)) {
-            rows.push_back({key, plain(properties["settings"][key]), std::string(setting.meaning)});
+            rows.push_back({key, plain(properties["settings"][key]), setting.meaning.translated()});
         }
     }
     return text + table(rows);
@@ -148,15 +154,17 @@ std::string effectsReport(const Json& properties) {
 }
 
 std::string screensReport(const Json& properties) {
-    std::vector<Row> rows = {{"", "no.", "name", "identifier", "ramp", "applied", ""}};
+    std::vector<Row> rows = {{"", translated("no."), translated("name"), translated("identifier"),
+                              translated("ramp"), translated("applied"), ""}};
     for (const Json& display : properties["displays"]) {
         const bool hasRamp = display["rampSize"].get<unsigned>() != 0;
         rows.push_back({display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
                         plain(display["name"]), plain(display["id"]),
-                        hasRamp ? plain(display["rampSize"]) : "none", yesOrNo(display["applied"]),
-                        display["main"].get<bool>() ? "main" : ""});
+                        hasRamp ? plain(display["rampSize"]) : translated("none"),
+                        yesOrNo(display["applied"]),
+                        display["main"].get<bool>() ? translated("main") : ""});
     }
-    return rows.size() > 1 ? table(rows) : "  (none)\n";
+    return rows.size() > 1 ? table(rows) : "  " + translated("(none)") + '\n';
 }
 
 Json statusObject(const Json& properties) {

@@ -7,7 +7,8 @@
 #include "platform/displays/guarded/guard_process.h"
 #include "platform/displays/guarded/journal.h"
 #include "platform/displays/profiles/profile_calibrations.h"
-#include "platform/displays/randr/randr_hardware.h"
+#include "platform/displays/randr/opening_problem.h"
+#include "platform/texts/translated.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -20,8 +21,8 @@ namespace {
 // Somebody sits in front of screens that cannot be read.
 constexpr std::chrono::seconds kPatience{1};
 
-constexpr const char* kSwitchedOff =
-    "Nocturo has switched its effect off and given the displays back.";
+constexpr ListedText kSwitchedOff =
+    ListedText("Nocturo has switched its effect off and given the displays back.");
 
 bool switchOffOverTheBus() {
     try {
@@ -47,20 +48,21 @@ std::string environmentVariable(const char* name, const char* otherwise = "") {
     return value != nullptr ? value : otherwise;
 }
 
-const char* restoreByHand() {
+ListedText restoreByHand() {
     const std::string display = environmentVariable("DISPLAY");
     const auto directory = runtimeDirectory();
     if (display.empty()) {
-        throw Failure{kFailed, "There is no X server whose displays could be given back, because "
-                               "DISPLAY is not set."};
+        throw Failure{kFailed,
+                      translated("There is no X server whose displays could be given back, "
+                                 "because DISPLAY is not set.")};
     }
     if (!directory) {
-        throw Failure{kFailed, "The runtime directory cannot be used; set XDG_RUNTIME_DIR to one "
-                               "of yours."};
+        throw Failure{kFailed, translated("The runtime directory cannot be used; set "
+                                          "XDG_RUNTIME_DIR to one of yours.")};
     }
     const RandrOpening opening = RandrHardware::open(display);
     if (opening.hardware == nullptr) {
-        throw Failure{kFailed, "The displays cannot be given back: " + opening.reason + "."};
+        throw Failure{kFailed, openingProblem(opening.result, display)};
     }
     RandrHardware& hardware = *opening.hardware;
     const auto journal = journalFile(*directory, display);
@@ -72,25 +74,29 @@ const char* restoreByHand() {
         environmentVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket"));
     switch (repairDisplays(hardware, journal, calibrations)) {
     case Repair::ownRamps:
-        return "The displays have their own colors back, as they were before Nocturo changed them.";
+        return ListedText(
+            "The displays have their own colors back, as they were before Nocturo changed them.");
     case Repair::plainRamps:
-        return "The displays have plain colors now, or those of their color profiles.";
+        return ListedText("The displays have plain colors now, or those of their color profiles.");
     case Repair::inUse:
         overwriteDisplays(hardware, journal, calibrations);
-        return "The displays have been given back, but a Nocturo that does not answer still runs "
-               "and may change them again.";
+        return ListedText(
+            "The displays have been given back, but a Nocturo that does not answer still "
+            "runs and may change them again.");
     case Repair::notNeeded:
         break;
     }
     writePlainRamps(hardware, calibrations);
-    return "Nocturo had left no display changed; the displays have plain colors now, or those of "
-           "their color profiles.";
+    return ListedText(
+        "Nocturo had left no display changed; the displays have plain colors now, or those "
+        "of their color profiles.");
 }
 
 } // namespace
 
 void restoreDisplays() {
-    std::cout << (switchOffOverTheBus() ? kSwitchedOff : restoreByHand()) << '\n';
+    const ListedText done = switchOffOverTheBus() ? kSwitchedOff : restoreByHand();
+    std::cout << done.translated() << '\n';
 }
 
 } // namespace nocturo

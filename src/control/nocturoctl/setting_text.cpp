@@ -2,6 +2,7 @@
 
 #include "control/nocturoctl/failure.h"
 #include "effects/effect_registry.h"
+#include "platform/texts/translated.h"
 
 #include <algorithm>
 #include <charconv>
@@ -80,11 +81,12 @@ std::string effectFromText(std::string_view text) {
     if (found != effects.end()) {
         return std::string(found->className);
     }
-    std::string sentence = "There is no effect \"" + std::string(text) + "\"; the effects are";
+    std::string names;
     for (const SelectableEffect& effect : effects) {
-        sentence += (&effect == &effects.front() ? " " : ", ") + std::string(effect.shortName);
+        names += (names.empty() ? "" : ", ") + std::string(effect.shortName);
     }
-    throw Failure{kUsage, sentence + "."};
+    throw Failure{kUsage, translated("There is no effect \"%@\"; the effects are %@.",
+                                     {std::string(text), names})};
 }
 
 std::string_view shortEffectName(std::string_view className) {

@@ -1,6 +1,7 @@
 #include "platform/desktop/translations.h"
 
-#include <QDir>
+#include "platform/texts/users_language.h"
+
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -20,18 +21,6 @@ namespace {
 
 const QString kTexts = QStringLiteral(":/translations");
 
-QStringList languagesWithTexts() {
-    QStringList languages;
-    for (const QString& file : QDir(kTexts).entryList({QStringLiteral("nocturo_*.qm")})) {
-        languages << file.section(u'_', 1).chopped(3);
-    }
-    return languages;
-}
-
-bool isEnglish(const QLocale& locale) {
-    return locale.language() == QLocale::English || locale.language() == QLocale::C;
-}
-
 void install(QCoreApplication& application, const QString& file, const QString& directory) {
     auto translator = std::make_unique<QTranslator>(&application);
     // Qt's own texts come in a package that need not be there.
@@ -42,36 +31,11 @@ void install(QCoreApplication& application, const QString& file, const QString& 
 
 } // namespace
 
-QString languageOfTexts(const QStringList& wanted) {
-    keepResources();
-    const QStringList languages = languagesWithTexts();
-    for (const QString& name : wanted) {
-        const QLocale reader(name);
-        if (isEnglish(reader)) {
-            break;
-        }
-        QString found;
-        for (const QString& language : languages) {
-            const QLocale texts(language);
-            if (texts.language() != reader.language() || texts.script() != reader.script()) {
-                continue;
-            }
-            if (found.isEmpty() || texts.territory() == reader.territory()) {
-                found = language;
-            }
-        }
-        if (!found.isEmpty()) {
-            return found;
-        }
-    }
-    return {};
-}
-
 void installTranslations(QCoreApplication& application) {
     keepResources();
     // What is installed last is asked first.
     install(application, QStringLiteral("nocturo_en"), kTexts);
-    const QString language = languageOfTexts(QLocale::system().uiLanguages());
+    const QString language = QString::fromStdString(usersLanguage());
     if (language.isEmpty()) {
         return;
     }

@@ -5,9 +5,11 @@
 #include "platform/displays/guarded/journal.h"
 #include "platform/displays/profiles/profile_calibrations.h"
 #include "platform/displays/ramp_display_services.h"
+#include "platform/displays/randr/opening_problem.h"
 #include "platform/displays/randr/randr_hardware.h"
 #include "platform/displays/simulated/simulated_hardware.h"
 #include "platform/log.h"
+#include "platform/texts/translated.h"
 
 #include <charconv>
 #include <utility>
@@ -17,8 +19,6 @@ namespace nocturo {
 namespace {
 
 constexpr std::string_view kCategory = "nocturo.displays";
-constexpr std::string_view kTrySimulated =
-    " To see what the effects do, start it with --display-services=simulated.";
 
 OpenedDisplays failed(std::string problem) {
     OpenedDisplays opened;
@@ -26,28 +26,28 @@ OpenedDisplays failed(std::string problem) {
     return opened;
 }
 
+OpenedDisplays failedForNow(const std::string& problem) {
+    return failed(problem + ' ' +
+                  translated("To see what the effects do, start it with "
+                             "--display-services=simulated."));
+}
+
 OpenedDisplays openRandr(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
     const std::string& xDisplay = surroundings.xDisplay;
     if (xDisplay.empty()) {
-        return failed("There is no X server to work with, because DISPLAY is not set." +
-                      std::string(kTrySimulated));
+        return failedForNow(
+            translated("There is no X server to work with, because DISPLAY is not set."));
     }
     RandrOpening opening = RandrHardware::open(xDisplay);
-    if (opening.result == RandrOpening::Result::waylandGuest) {
-        return failed("The X server " + xDisplay +
-                      " is only a guest of a Wayland session and cannot change its colors; "
-                      "displays under Wayland come with a later version." +
-                      std::string(kTrySimulated));
-    }
     if (opening.hardware == nullptr) {
-        return failed("The X server " + xDisplay + " cannot be used: " + opening.reason + "." +
-                      std::string(kTrySimulated));
+        return failedForNow(openingProblem(opening.result, xDisplay));
     }
     // Before anything is captured, so that no effect is ever taken for a display's own colours.
     const auto journal = journalFile(surroundings.runtimeDirectory, xDisplay);
     auto profiles = std::make_unique<ProfileCalibrations>(xDisplay, surroundings.systemBusAddress);
     if (repairDisplays(*opening.hardware, journal, *profiles) == Repair::inUse) {
-        return failed("Another Nocturo drives the displays of the X server " + xDisplay + ".");
+        return failed(
+            translated("Another Nocturo drives the displays of the X server %@.", {xDisplay}));
     }
     auto guarded =
         std::make_unique<GuardedHardware>(std::move(opening.hardware), xDisplay, journal);
@@ -70,8 +70,8 @@ OpenedDisplays openSimulated(unsigned count, const std::filesystem::path& pictur
     OpenedDisplays opened;
     opened.services = std::make_unique<RampDisplayServices>(
         std::make_unique<SimulatedHardware>(count, pictureDirectory));
-    opened.notice =
-        "Displays are simulated; their pictures are in " + pictureDirectory.string() + ".";
+    opened.notice = translated("Displays are simulated; their pictures are in %@.",
+                               {pictureDirectory.string()});
     return opened;
 }
 

@@ -7,6 +7,7 @@
 #include <QPolygonF>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
 #include <vector>
@@ -180,7 +181,21 @@ void paintLines(QPainter& painter, const Plot& plot, const PreviewCurves& curves
     painter.restore();
 }
 
-/// R, G and B at the ends of their lines, pushed apart where these are close.
+/// The channels that a line stands for, each bit one, by their initials.
+QString lettersOf(unsigned channels) {
+    const std::array letters{localized("R"), localized("G"), localized("B")};
+    QString shared;
+    unsigned bit = 1;
+    for (const QString& letter : letters) {
+        if ((channels & bit) != 0) {
+            shared += letter;
+        }
+        bit <<= 1U;
+    }
+    return shared;
+}
+
+/// Their letters at the ends of their lines, pushed apart where these are close.
 void paintLetters(QPainter& painter, const Plot& plot, const ZQGammaCurve& curve,
                   const QPalette& palette) {
     const std::uint32_t last = curve.sampleCount - 1;
@@ -196,16 +211,9 @@ void paintLetters(QPainter& painter, const Plot& plot, const ZQGammaCurve& curve
     double next = plot.frame.top() + height / 2;
     for (const Line& line : lines) {
         const double y = std::min(std::max(heightOf(line), next), lowest);
-        QString letters;
-        for (const auto& [bit, letter] :
-             {std::pair(1U, 'R'), std::pair(2U, 'G'), std::pair(4U, 'B')}) {
-            if ((line.channels & bit) != 0) {
-                letters += QLatin1Char(letter);
-            }
-        }
         painter.setPen(lineColor(line.channels, palette));
         painter.drawText(QRectF(plot.frame.right() + 4, y - height, 100, 2 * height),
-                         Qt::AlignLeft | Qt::AlignVCenter, letters);
+                         Qt::AlignLeft | Qt::AlignVCenter, lettersOf(line.channels));
         next = y + height;
         lowest += height;
     }
@@ -236,7 +244,7 @@ void makeFontSmall(QPainter& painter) {
 Plot plotIn(const QPainter& painter, const QRectF& area) {
     const QFontMetricsF metrics(painter.font());
     const double text = metrics.height() + 2;
-    const double letters = metrics.horizontalAdvance(QStringLiteral("RGB")) + 6;
+    const double letters = metrics.horizontalAdvance(lettersOf(7)) + 6;
     Plot plot;
     plot.frame = area.adjusted(text, 0.5, -letters, -text);
     const double beyond = plot.frame.height() * kBeyond / (1 + 2 * kBeyond);

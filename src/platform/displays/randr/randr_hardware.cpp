@@ -23,8 +23,8 @@ constexpr std::string_view kCategory = "nocturo.displays";
 // 256 blocks of 128 bytes is the longest EDID there can be; counted in units of four bytes.
 constexpr std::uint32_t kLongestEdid = 256 * 128 / 4;
 
-RandrOpening refused(RandrOpening::Result result, std::string reason) {
-    return {result, nullptr, std::move(reason)};
+RandrOpening refused(RandrOpening::Result result) {
+    return {result, nullptr};
 }
 
 std::vector<std::uint8_t> edidBytes(const xcb_randr_get_output_property_reply_t* reply) {
@@ -49,13 +49,13 @@ void makeConnectorUnique(const std::vector<Head>& others, std::string& connector
 RandrOpening RandrHardware::open(const std::string& displayName) {
     using Result = RandrOpening::Result;
     if (displayName.empty()) {
-        return refused(Result::unreachable, "no X server is named");
+        return refused(Result::unreachable);
     }
     int preferredScreen = 0;
     XcbConnection connection(xcb_connect(displayName.c_str(), &preferredScreen));
     auto* raw = connection.get();
     if (xcb_connection_has_error(raw)) {
-        return refused(Result::unreachable, "the X server " + displayName + " cannot be reached");
+        return refused(Result::unreachable);
     }
 
     xcb_prefetch_maximum_request_length(raw);
@@ -67,22 +67,20 @@ RandrOpening RandrHardware::open(const std::string& displayName) {
     const XcbReply<xcb_intern_atom_reply_t> edid(xcb_intern_atom_reply(raw, edidCookie, nullptr));
 
     const auto* extension = xcb_get_extension_data(raw, &xcb_randr_id);
-    const std::string noRandr = "the X server " + displayName + " has no RandR 1.3 or later";
     if (!extension || !extension->present) {
-        return refused(Result::noRandr, noRandr);
+        return refused(Result::noRandr);
     }
     const XcbReply<xcb_randr_query_version_reply_t> version(
         xcb_randr_query_version_reply(raw, xcb_randr_query_version(raw, 1, 5), nullptr));
     const auto revision = [](auto major, auto minor) { return std::pair(major, minor); };
     if (!version || revision(version->major_version, version->minor_version) < revision(1u, 3u)) {
-        return refused(Result::noRandr, noRandr);
+        return refused(Result::noRandr);
     }
 
     std::unique_ptr<RandrHardware> hardware(
         new RandrHardware(std::move(connection), preferredScreen));
     if ((guest && guest->present) || isWaylandGuest(raw, hardware->roots_.front())) {
-        return refused(Result::waylandGuest,
-                       "the X server " + displayName + " is a guest of a Wayland session");
+        return refused(Result::waylandGuest);
     }
     if (edid) {
         hardware->edidAtom_ = edid->atom;
@@ -91,7 +89,7 @@ RandrOpening RandrHardware::open(const std::string& displayName) {
     hardware->maximumRequestLength_ = xcb_get_maximum_request_length(raw);
     hardware->subscribe(revision(version->major_version, version->minor_version) >=
                         revision(1u, 4u));
-    return {Result::opened, std::move(hardware), {}};
+    return {Result::opened, std::move(hardware)};
 }
 
 RandrHardware::RandrHardware(XcbConnection connection, int preferredScreen)

@@ -75,7 +75,7 @@ class RandrHardware final : public GammaHardware {
     bool lossCounted_ = false;
 };
 
-/// What came of opening a display.
+/// What came of opening a display; openingProblem() says it to users.
 struct RandrOpening {
     enum class Result {
         opened,
@@ -86,7 +86,6 @@ struct RandrOpening {
 
     Result result = Result::opened;
     std::unique_ptr<RandrHardware> hardware; // null unless opened
-    std::string reason; // why not: a clause without a full stop; empty when opened
 };
 
 } // namespace nocturo

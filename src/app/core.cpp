@@ -1,0 +1,37 @@
+#include "app/core.h"
+
+#include "platform/desktop/instance_lock.h"
+#include "platform/displays/guarded/guard_process.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+#include <utility>
+
+namespace nocturo {
+
+std::array<int, 5> Core::signalNumbers() {
+    return {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal, kSwitchOffSignal};
+}
+
+Core::Core(DefaultsStore& store)
+    : defaults(store), centers{NotificationCenter::defaultCenter(), workspaceCenter,
+                               distributedCenter},
+      controller(defaults, centers, runLoop), wakeRepeater(controller, centers, runLoop),
+      disturbances(controller, centers.local,
+                   [this](auto answer) { disturberFinder.find(std::move(answer)); }),
+      windows(controller, defaults, centers),
+      face(controller, defaults, centers.local, disturbances, windows),
+      signals(signalNumbers(), [this](int number) { signalWasSent(number); }) {}
+
+void Core::signalWasSent(int number) {
+    if (number == InstanceLock::kReopenSignal) {
+        controller.applicationShouldHandleReopen(false);
+    } else if (number == kSwitchOffSignal) {
+        controller.setEffectActive(false, true);
+    } else {
+        QCoreApplication::quit();
+    }
+}
+
+} // namespace nocturo

@@ -1,0 +1,66 @@
+#include "app/desktop_session.h"
+
+#include "app/connected_displays.h"
+#include "app/core.h"
+#include "app/surroundings.h"
+#include "control/launcher_face.h"
+#include "platform/desktop/session_bus.h"
+#include "platform/notification_names.h"
+
+#include <QCoreApplication>
+
+namespace nocturo {
+
+DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays)
+    : core_(core), displays_(displays),
+      recentDocuments_(stateDirectory() / "recent-documents.plist"),
+      menus_(core.controller, core.defaults, core.centers.local, core.windows, recentDocuments_,
+             {connectToSessionBus(), xDisplayName()}),
+      applications_(DesktopEntries::dataDirectories()),
+      windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
+    core.controller.setInstalledApplications(&applications_);
+}
+
+DesktopSession::~DesktopSession() {
+    core_.windows.setKeyboardLayout(nullptr);
+}
+
+void DesktopSession::launch(const QStringList& documents,
+                            const std::function<void(const std::string&)>& refused) {
+    core_.face.announceChanges();
+    if (!launchController()) {
+        QCoreApplication::quit();
+        return;
+    }
+    listen();
+    const std::string problem = openDocuments(core_.controller, documents);
+    if (!problem.empty()) {
+        refused(problem);
+    }
+    windowRestoration_.restore();
+    windowRestoration_.startKeeping();
+}
+
+/// False when the user would rather quit.
+bool DesktopSession::launchController() {
+    bool launched = false;
+    core_.centers.local.addObserver(
+        &core_.controller, NSApplicationDidFinishLaunchingNotification,
+        [&] { launched = core_.controller.applicationDidFinishLaunching(); });
+    core_.centers.local.post(NSApplicationDidFinishLaunchingNotification);
+    return launched;
+}
+
+void DesktopSession::listen() {
+    hotKeys_.emplace(xDisplayName());
+    core_.face.setKeyboardLayout(hotKeys_->layout());
+    core_.windows.setKeyboardLayout(hotKeys_->layout());
+    core_.controller.updateHotKey();
+    core_.face.launchDidFinish();
+    sources_.emplace(
+        core_.centers, core_.runLoop,
+        DesktopSources::Surroundings{displays_.areOfXServer() ? xDisplayName() : std::string(),
+                                     loginSession()});
+}
+
+} // namespace nocturo

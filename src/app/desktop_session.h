@@ -1,0 +1,50 @@
+#pragma once
+
+#include "app/desktop_hot_keys.h"
+#include "app/menus/desktop_menus.h"
+#include "app/recent_documents.h"
+#include "app/window_restoration.h"
+#include "platform/workspace/desktop_entries.h"
+#include "platform/workspace/desktop_sources.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace nocturo {
+
+class ConnectedDisplays;
+struct Core;
+
+/// What Nocturo shows on the desktop and hears from it.
+class DesktopSession {
+  public:
+    /// Both must outlive the session.
+    DesktopSession(Core& core, const ConnectedDisplays& displays);
+    ~DesktopSession();
+    DesktopSession(const DesktopSession&) = delete;
+    DesktopSession& operator=(const DesktopSession&) = delete;
+
+    /// The launch, which may ask the user and be told to end meanwhile: to be called in the event
+    /// loop. Ends the loop when the user would rather quit. `refused` is given a sentence where
+    /// some of the documents, absolute paths, could not be opened.
+    void launch(const QStringList& documents,
+                const std::function<void(const std::string&)>& refused);
+
+  private:
+    bool launchController();
+    void listen();
+
+    Core& core_;
+    const ConnectedDisplays& displays_;
+    const RecentDocuments recentDocuments_;
+    DesktopMenus menus_;
+    const DesktopEntries applications_;
+    WindowRestoration windowRestoration_;
+    std::optional<DesktopHotKeys> hotKeys_;
+    std::optional<DesktopSources> sources_;
+};
+
+} // namespace nocturo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QStringList>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace nocturo {
+
+// What the process finds around itself. Everything else is handed what it needs of it.
+
+/// Lets Qt draw into memory where there is no desktop to show windows on. To be called before the
+/// application is made.
+void choosePlatform();
+
+/// The X server's name; empty where there is none.
+std::string xDisplayName();
+
+std::string systemBusAddress();
+
+/// The identifier of the login session; empty where it is not known.
+std::string loginSession();
+
+std::filesystem::path settingsPath();
+
+/// Where what is no setting outlives a run. Need not exist.
+std::filesystem::path stateDirectory();
+
+QStringList absolutePaths(const std::vector<std::string>& paths);
+
+} // namespace nocturo

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace nocturo {
+
+// Texts that are printed, in the user's language. They are compiled in from the table "CommandLine"
+// of resources/translations and need no Qt: nocturoctl is bound to keys, and loading Qt would take
+// as long as all else that it does.
+
+/// Has all texts read in that language from now on, "pt_BR" for instance. English, which they are
+/// in until then, where there are none in it.
+void setLanguageOfTexts(std::string_view language);
+
+/// The text in the user's language; English where it has no other. "%@" and "%d" take the arguments
+/// in order, "%1$@" and "%2$@" the one of that number. A missing argument reads "(null)".
+std::string translated(const char* english, std::initializer_list<std::string> arguments = {});
+
+/// A text that is listed before it is said. Made of literals alone, so that all can be found for
+/// the tables.
+class ListedText {
+  public:
+    constexpr ListedText() = default;
+    explicit consteval ListedText(const char* english) : english_(english) {}
+
+    bool isEmpty() const { return *english_ == '\0'; }
+    std::string translated() const { return nocturo::translated(english_); }
+
+  private:
+    const char* english_ = "";
+};
+
+} // namespace nocturo

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace nocturo {
+
+/// The language of our texts for whoever runs this process: that of the first of the languages of
+/// LANGUAGE, or else of the locale that LC_ALL, LC_MESSAGES or LANG names, for which there are
+/// texts, "pt_BR" for instance. A variety of another country will do unless it is written in
+/// another script. Empty when the texts are to be in English, which is also where English comes
+/// first, and where the locale is "C" or "POSIX", as scripts ask for.
+std::string usersLanguage();
+
+} // namespace nocturo
