@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <string>
 
 namespace nocturo {
-
 namespace {
 
 class Center : public testing::Test {
@@ -37,19 +35,14 @@ TEST_F(Center, TellsInOrderAndAsOftenAsRegistered) {
     add(&second_, "a", "2");
     add(&first_, "a", "1");
     add(&first_, "b", "b");
-    EXPECT_EQ(toldOf("a"), "121");
-    EXPECT_EQ(toldOf("b"), "b");
-    EXPECT_EQ(toldOf("c"), "");
+    EXPECT_EQ(toldOf("a") + toldOf("b") + toldOf("c"), "121b");
     center_.removeObserver(&first_, "a");
-    EXPECT_EQ(toldOf("a"), "2");
-    EXPECT_EQ(toldOf("b"), "b");
-    add(&first_, "a", "1");
+    EXPECT_EQ(toldOf("a") + toldOf("b"), "2b");
     center_.removeObserver(&first_);
-    EXPECT_EQ(toldOf("a"), "2");
-    EXPECT_EQ(toldOf("b"), "");
+    EXPECT_EQ(toldOf("a") + toldOf("b"), "2");
 }
 
-TEST_F(Center, ObserversMayComeAndGoDuringDelivery) {
+TEST_F(Center, ObserversMayComeAndGoAndPostsMayNest) {
     add(&first_, "a", "1", [&] {
         center_.removeObserver(&second_);
         center_.removeObserver(&first_, "a"); // the one that runs, too
@@ -59,17 +52,13 @@ TEST_F(Center, ObserversMayComeAndGoDuringDelivery) {
     add(&second_, "a", "2");
     EXPECT_EQ(toldOf("a"), "1");
     EXPECT_EQ(toldOf("a"), "new");
-}
 
-TEST_F(Center, PostsMayNest) {
     add(&first_, "outer", "(", [&] { center_.post("inner"); });
     add(&first_, "inner", "i", [&] { center_.removeObserver(&second_, "outer"); });
     add(&second_, "outer", "gone");
     add(&first_, "outer", ")");
     EXPECT_EQ(toldOf("outer"), "(i)");
-    EXPECT_EQ(toldOf("outer"), "(i)");
 }
 
 } // namespace
-
 } // namespace nocturo
