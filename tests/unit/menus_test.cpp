@@ -1,102 +1,71 @@
-// The main menu, the documents that it remembers and the status item's images, drawn into memory.
+// The main menu and the documents that it remembers.
 
 #include "app/menus/main_menu.h"
-#include "app/menus/status_image.h"
 #include "app/recent_documents.h"
 #include "temporary_directory.h"
 
 #include <QApplication>
-#include <QImage>
 
 #include <gmock/gmock.h>
 
-#include <fstream>
-
 namespace nocturo {
-
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class RecentlyOpened : public testing::Test {
   protected:
     std::string document(const std::string& name) {
-        const auto path = directory_.path() / name;
-        std::ofstream(path) << "anything";
-        return path;
+        writeText(directory / name, "anything");
+        return directory / name;
     }
 
-    TemporaryDirectory directory_;
-    RecentDocuments documents_{directory_.path() / "state" / "recent.plist"};
+    TemporaryDirectory directory;
+    RecentDocuments documents{directory / "state/recent.plist"};
 };
 
 TEST_F(RecentlyOpened, TheLatestComesFirstAndWhatIsGoneIsLeftOut) {
-    EXPECT_TRUE(documents_.paths().empty());
+    EXPECT_THAT(documents.paths(), IsEmpty());
     const std::string a = document("a");
     const std::string b = document("b");
     for (const std::string& path : {a, b, a}) {
-        documents_.note(path);
+        documents.note(path);
     }
-    EXPECT_THAT(documents_.paths(), ElementsAre(a, b));
+    EXPECT_THAT(documents.paths(), ElementsAre(a, b));
     std::filesystem::remove(a);
-    EXPECT_THAT(documents_.paths(), ElementsAre(b));
+    EXPECT_THAT(documents.paths(), ElementsAre(b));
     for (int i = 0; i < 12; ++i) {
-        documents_.note(document(std::to_string(i)));
+        documents.note(document(std::to_string(i)));
     }
-    EXPECT_EQ(documents_.paths().size(), 10U);
-    EXPECT_EQ(documents_.paths()[0], (directory_.path() / "11").string());
-    std::ofstream(directory_.path() / "state" / "recent.plist") << "damaged";
-    EXPECT_TRUE(documents_.paths().empty());
+    EXPECT_EQ(documents.paths().size(), 10U);
+    EXPECT_EQ(documents.paths()[0], directory / "11");
+    writeText(directory / "state/recent.plist", "damaged");
+    EXPECT_THAT(documents.paths(), IsEmpty());
 }
 
 TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     QString opened;
     MainMenu::Handlers handlers;
     handlers.openRecentDocument = [&](const QString& path) { opened = path; };
-    const MainMenu menu(documents_, handlers);
-    QMenu* recent = nullptr;
-    for (QMenu* each : menu.bar()->findChildren<QMenu*>()) {
-        if (each->title().contains(QStringLiteral("Recent"))) {
-            recent = each;
-        }
-    }
-    ASSERT_NE(recent, nullptr);
-    const std::string path = document("R&D.nocturo");
-    documents_.note(path);
+    const MainMenu menu(documents, handlers);
+    const auto menus = menu.bar()->findChildren<QMenu*>();
+    const auto found = std::find_if(menus.begin(), menus.end(), [](const QMenu* each) {
+        return each->title().contains("Recent");
+    });
+    ASSERT_NE(found, menus.end());
+    QMenu* recent = *found;
+    documents.note(document("R&D.nocturo"));
     Q_EMIT recent->aboutToShow();
     ASSERT_EQ(recent->actions().size(), 3); // the document, a separator, Clear Menu
-    EXPECT_EQ(recent->actions()[0]->text(), QStringLiteral("R&&D.nocturo"));
+    EXPECT_EQ(recent->actions()[0]->text(), "R&&D.nocturo");
     recent->actions()[0]->trigger();
-    EXPECT_EQ(opened.toStdString(), path);
+    EXPECT_EQ(opened.toStdString(), directory / "R&D.nocturo");
     recent->actions()[2]->trigger();
-    EXPECT_TRUE(documents_.paths().empty());
+    EXPECT_THAT(documents.paths(), IsEmpty());
     Q_EMIT recent->aboutToShow();
     EXPECT_FALSE(recent->actions().last()->isEnabled());
 }
 
-TEST(StatusImages, AreTheirNamesInThePanelsColor) {
-    EXPECT_TRUE(statusImage(QStringLiteral("NDOther"), Qt::black).isNull());
-    for (const int side : {16, 22, 48}) {
-        const auto inked = [&](const char* name) {
-            const QImage image = statusImage(QLatin1String(name), Qt::red)
-                                     .pixmap(side)
-                                     .toImage()
-                                     .convertToFormat(QImage::Format_ARGB32);
-            int count = 0;
-            for (int y = 0; y < side; ++y) {
-                for (int x = 0; x < side; ++x) {
-                    const QColor color = image.pixelColor(x, y);
-                    EXPECT_TRUE(color.alpha() == 0 || color.rgb() == QColor(Qt::red).rgb());
-                    count += color.alpha() > 127 ? 1 : 0;
-                }
-            }
-            return static_cast<double>(count) / (side * side);
-        };
-        EXPECT_NEAR(inked(kStatusTemplate), 0.5, 0.08) << side;
-        EXPECT_GT(inked(kStatusActiveTemplate), inked(kStatusTemplate) + 0.15) << side;
-    }
-}
-
 } // namespace
-
 } // namespace nocturo

@@ -3,29 +3,27 @@
 
 #include <QGuiApplication>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <array>
-#include <string>
 
 namespace nocturo {
 namespace {
 
 TEST(LanguageOfTexts, IsThatOfTheFirstLanguageThatThereAreTextsFor) {
-    const auto chosen = [](const char* wanted) {
-        return languageOfTexts(QString::fromLatin1(wanted).split(u':')).toStdString();
-    };
-    EXPECT_EQ(chosen("de"), "de");
-    EXPECT_EQ(chosen("de-AT"), "de");
-    EXPECT_EQ(chosen("fr-Latn-CA"), "fr");
-    EXPECT_EQ(chosen("pt-BR"), "pt_BR");
-    EXPECT_EQ(chosen("pt-PT"), "pt_BR");
-    EXPECT_EQ(chosen("zh-SG"), "zh_CN");
-    EXPECT_EQ(chosen("zh-TW"), "") << "written in another script";
-    EXPECT_EQ(chosen("fi-FI:fi:sv:ja:de"), "ja");
-    EXPECT_EQ(chosen("fi:en-GB:de"), "") << "who reads English gets it before German";
-    EXPECT_EQ(chosen("C:de"), "");
-    EXPECT_EQ(chosen("ar"), "");
+    for (const auto& [wanted, chosen] : {
+             std::pair("de-AT", "de"),
+             std::pair("fr-Latn-CA", "fr"),
+             std::pair("pt-PT", "pt_BR"),
+             std::pair("zh-SG", "zh_CN"),
+             std::pair("zh-TW", ""), // written in another script
+             std::pair("fi-FI:fi:sv:ja:de", "ja"),
+             std::pair("fi:en-GB:de", ""), // who reads English gets it before German
+             std::pair("C:de", ""),
+             std::pair("ar", ""),
+         }) {
+        EXPECT_EQ(languageOfTexts(QString(wanted).split(':')), QString(chosen)) << wanted;
+    }
 }
 
 TEST(InstalledTranslations, AreThoseOfTheEnvironment) {
@@ -37,8 +35,8 @@ TEST(InstalledTranslations, AreThoseOfTheEnvironment) {
     int count = 1;
     QGuiApplication application(count, arguments.data());
     installTranslations(application);
-    EXPECT_EQ(localized("Cancel"), QStringLiteral("Abbrechen"));
-    EXPECT_EQ(localized("No text of ours"), QStringLiteral("No text of ours"));
+    EXPECT_EQ(localized("Cancel"), "Abbrechen");
+    EXPECT_EQ(localized("No text of ours"), "No text of ours");
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight)
         << "texts in German are not to be mirrored because Arabic was wished for first";
 }
