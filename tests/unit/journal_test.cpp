@@ -3,12 +3,9 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
-#include <limits>
 #include <numeric>
 
 namespace nocturo {
-
 namespace {
 
 Ramp countingRamp(std::uint32_t size, std::uint16_t first) {
@@ -53,30 +50,22 @@ TEST(Journal, SizesBeyondTheDataAreRefused) {
     EXPECT_FALSE(journalFromBytes(journalBytes(uneven)));
 }
 
-TEST(Journal, AFileIsReplacedAndReadBack) {
+TEST(Journal, AFileIsReplacedAndReadBackUnlessItIsNoPlainFile) {
     const TemporaryDirectory directory;
     const auto file = directory / "ramps";
     EXPECT_FALSE(readJournal(file).exists);
     EXPECT_EQ(writeJournal(file, Journal{}), 0);
     EXPECT_EQ(writeJournal(file, someJournal()), 0);
     EXPECT_TRUE(readJournal(file).journal == someJournal());
-    EXPECT_EQ(std::filesystem::status(file).permissions(),
-              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(file).permissions(), perms::owner_read | perms::owner_write);
     EXPECT_EQ(writeJournal(directory / "none/ramps", Journal{}), ENOENT);
 
-    std::ofstream(file) << "something else";
-    EXPECT_TRUE(readJournal(file).exists);
-    EXPECT_FALSE(readJournal(file).journal);
-}
-
-TEST(Journal, WhatIsNotAPlainFileCountsAsDamaged) {
-    const TemporaryDirectory directory;
-    writeJournal(directory / "real", someJournal());
-    std::filesystem::create_symlink(directory / "real", directory / "link");
-    std::filesystem::create_directory(directory / "directory");
-    for (const char* name : {"link", "directory"}) {
-        const JournalReading reading = readJournal(directory / name);
-        EXPECT_TRUE(reading.exists && !reading.journal) << name;
+    std::filesystem::create_symlink(file, directory / "link");
+    writeText(directory / "other", "something else");
+    for (const auto& damaged : {directory / "link", directory / "other", directory.path()}) {
+        EXPECT_TRUE(readJournal(damaged).exists) << damaged;
+        EXPECT_FALSE(readJournal(damaged).journal) << damaged;
     }
 }
 
@@ -89,5 +78,4 @@ TEST(Journal, OneFileForAllScreensOfAServer) {
 }
 
 } // namespace
-
 } // namespace nocturo
