@@ -4,11 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QDesktopServices>
 #include <QDialog>
-#include <QScrollBar>
-#include <QTest>
 #include <QTextBlock>
 
 namespace nocturo {
@@ -21,15 +18,10 @@ BundleInformation bundle(PropertyDictionary values) {
 class AboutBox : public testing::Test {
   protected:
     AboutBox() {
-        std::string html =
-            "<meta charset='iso-8859-1'><p style='font-family:Lucida Grande'>Caf\xe9</p>"
-            "<p>App <a href='https://a/'>link</a><img src='/etc/hostname'></p>";
-        for (int line = 0; line < 60; ++line) {
-            html += "<p>more</p>";
-        }
-        writeText(directory / "Credits.html", html);
+        writeText(directory / "Credits.html",
+                  "<meta charset='iso-8859-1'><p style='font-family:Lucida Grande'>Caf\xe9</p>"
+                  "<p>App <a href='https://a/'>link</a><img src='/etc/hostname'></p>");
         about.showWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(about.window()));
     }
     std::string text(int number) const { return block(number).text().toStdString(); }
     QFont font(int number) const { return block(number).begin().fragment().charFormat().font(); }
@@ -46,17 +38,12 @@ class AboutBox : public testing::Test {
 };
 
 TEST(BundleTexts, NameAndVersion) {
-    EXPECT_EQ(applicationName(bundle({{"CFBundleName", std::int64_t{1}}})), "moon");
-    for (const auto& [values, text] :
-         {std::pair(PropertyDictionary{{"CFBundleShortVersionString", std::string("4.0")},
-                                       {"CFBundleVersion", std::string("4.0")}},
-                    "4.0"),
-          std::pair(PropertyDictionary{{"CFBundleShortVersionString", 4.5},
-                                       {"CFBundleVersion", std::string("300")}},
-                    "4.5 (300)"),
-          std::pair(PropertyDictionary{{"CFBundleVersion", std::string("300")}}, "(null) (300)")}) {
-        EXPECT_EQ(versionText(bundle(values)), text);
-    }
+    EXPECT_EQ(applicationName(bundle({})), "moon");
+    const std::string four = "4.0";
+    EXPECT_EQ(
+        versionText(bundle({{"CFBundleShortVersionString", four}, {"CFBundleVersion", four}})),
+        "4.0");
+    EXPECT_EQ(versionText(bundle({{"CFBundleVersion", four}})), "(null) (4.0)");
     EXPECT_EQ(applicationName(BundleInformation::mainBundle()), "Nocturo");
     EXPECT_EQ(versionText(BundleInformation::mainBundle()), NOCTURO_VERSION);
     EXPECT_FALSE(applicationIcon().pixmap(48).isNull());
@@ -79,19 +66,6 @@ TEST_F(AboutBox, FillsTheTemplateEachTimeAnew) {
     ZQAboutBoxController bare(bundle({}), "/nowhere/Credits.html");
     bare.showWindow();
     EXPECT_EQ(bare.textView()->toPlainText(), "moon\nVersion (null) ((null))\n\n");
-}
-
-TEST_F(AboutBox, KeepsItsPlaceUntilItIsClosed) {
-    const QScrollBar& bar = *about.textView()->verticalScrollBar();
-    QTest::keyClick(about.textView(), Qt::Key_PageDown);
-    const int place = bar.value();
-    EXPECT_GT(place, 0);
-    about.showWindow();
-    EXPECT_EQ(bar.value(), place);
-    QTest::keyClick(about.textView(), Qt::Key_Escape);
-    EXPECT_FALSE(about.window()->isVisible());
-    about.showWindow();
-    EXPECT_EQ(bar.value(), 0);
 }
 
 struct LinkRecorder : QObject {

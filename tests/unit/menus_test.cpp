@@ -1,12 +1,21 @@
-// The main menu and the documents that it remembers.
+// The main menu with the documents that it remembers, and the run of screens in other menus.
 
 #include "app/menus/main_menu.h"
 #include "app/recent_documents.h"
+#include "display_services_fixture.h"
+#include "platform/notification_center.h"
+#include "platform/notification_names.h"
+#include "platform/settings/defaults_store.h"
+#include "preferences/menus/screen_option_menu_manager.h"
 #include "temporary_directory.h"
 
 #include <QApplication>
+#include <QMenu>
+#include <QTest>
 
 #include <gmock/gmock.h>
+
+#include <optional>
 
 namespace nocturo {
 namespace {
@@ -50,21 +59,124 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     handlers.openRecentDocument = [&](const QString& path) { opened = path; };
     const MainMenu menu(documents, handlers);
     const auto menus = menu.bar()->findChildren<QMenu*>();
-    const auto found = std::find_if(menus.begin(), menus.end(), [](const QMenu* each) {
+    QMenu& recent = **std::find_if(menus.begin(), menus.end(), [](const QMenu* each) {
         return each->title().contains("Recent");
     });
-    ASSERT_NE(found, menus.end());
-    QMenu* recent = *found;
     documents.note(document("R&D.nocturo"));
-    Q_EMIT recent->aboutToShow();
-    ASSERT_EQ(recent->actions().size(), 3); // the document, a separator, Clear Menu
-    EXPECT_EQ(recent->actions()[0]->text(), "R&&D.nocturo");
-    recent->actions()[0]->trigger();
+    Q_EMIT recent.aboutToShow();
+    ASSERT_EQ(recent.actions().size(), 3); // the document, a separator, Clear Menu
+    EXPECT_EQ(recent.actions()[0]->text(), "R&&D.nocturo");
+    recent.actions()[0]->trigger();
     EXPECT_EQ(opened.toStdString(), directory / "R&D.nocturo");
-    recent->actions()[2]->trigger();
+    recent.actions()[2]->trigger();
     EXPECT_THAT(documents.paths(), IsEmpty());
-    Q_EMIT recent->aboutToShow();
-    EXPECT_FALSE(recent->actions().last()->isEnabled());
+}
+
+class ScreenOptionMenu : public DisplayServicesFixture {
+  protected:
+    ScreenOptionMenu() {
+        for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
+            hardware_.add("D" + std::to_string(crtc), crtc);
+        }
+        start();
+        menu.addAction("above");
+        menu.addAction("below");
+    }
+
+    void make(bool separator = false, bool hideSingular = false) {
+        QAction* above = menu.actions().front();
+        manager.emplace(store, center, menu, above, &title, separator, hideSingular, 0);
+    }
+    std::int64_t number(std::size_t index) { return id(index); }
+    void removeDisplay(const char* name) {
+        hardware_.remove(name);
+        center.post(NSApplicationDidChangeScreenParametersNotification);
+    }
+    /// The menu's texts with checked ones in brackets, separators as a line.
+    std::string shown() const {
+        QStringList texts;
+        for (const QAction* item : menu.actions()) {
+            texts << (item->isSeparator() ? "-"
+                      : item->isChecked() ? "[" + item->text() + "]"
+                                          : item->text());
+        }
+        return texts.join(" ").toStdString();
+    }
+    QAction* item(qsizetype index) const { return menu.actions().at(index); }
+    void click(qsizetype index) {
+        menu.popup({});
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(item(index)).center());
+    }
+
+    NotificationCenter center;
+    DefaultsStore store{center};
+    QMenu menu;
+    QAction title;
+    std::optional<NDScreenOptionMenuManager> manager;
+};
+
+TEST_F(ScreenOptionMenu, FollowsTheSetAndSumsItUp) {
+    make();
+    for (const auto& [set, run, summary] :
+         {std::tuple(PropertyArray{number(1)}, "All Screens Screen 1 [Screen 2] Screen 3",
+                     "Screen 2"),
+          std::tuple(PropertyArray{number(2), 7LL, number(0)},
+                     "All Screens [Screen 1] Screen 2 [Screen 3]", "Screen 1, 3"),
+          std::tuple(PropertyArray{7LL}, "All Screens Screen 1 Screen 2 Screen 3", "None"),
+          std::tuple(PropertyArray{}, "[All Screens] Screen 1 Screen 2 Screen 3", "All Screens")}) {
+        store.setObject(set, "AffectedScreenSet");
+        EXPECT_EQ(shown(), std::string("above ") + run + " below");
+        EXPECT_EQ(title.text(), summary);
+    }
+    EXPECT_EQ(item(3)->toolTip(), "D2");
+}
+
+TEST_F(ScreenOptionMenu, FollowsTheArrangement) {
+    make();
+    store.setObject(PropertyArray{number(2)}, "AffectedScreenSet");
+    removeDisplay("D1");
+    EXPECT_EQ(shown(), "above All Screens Screen 1 [Screen 2] below");
+    EXPECT_EQ(item(3)->toolTip(), "D3");
+    for (std::uint32_t crtc = 4; crtc <= 13; ++crtc) {
+        hardware_.add("D" + std::to_string(crtc), crtc);
+    }
+    removeDisplay("D2");
+    EXPECT_EQ(menu.actions().size(), 2 + 1 + 10); // an eleventh display is not offered
+    hardware_.lists = false;
+    removeDisplay("D3");
+    EXPECT_EQ(shown(), "above All Screens below");
+    EXPECT_EQ(title.text(), "None");
+}
+
+TEST_F(ScreenOptionMenu, HidesTheRunOfASingleDisplayAlsoWhileThatIsPicked) {
+    make(true, true);
+    removeDisplay("D1");
+    EXPECT_EQ(shown(), "above [All Screens] - Screen 1 Screen 2 below");
+    QObject::connect(item(3), &QAction::triggered, &menu, [&] { removeDisplay("D2"); });
+    click(3);
+    EXPECT_EQ(shown(), "above below");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(menu.findChildren<QAction*>("", Qt::FindDirectChildrenOnly).size(), 3); // menuAction
+}
+
+TEST_F(ScreenOptionMenu, PicksToggleAndAllScreensResets) {
+    make();
+    store.setInteger(number(2), "AffectedScreens"); // as the older key alone says it
+    EXPECT_EQ(shown(), "above All Screens Screen 1 Screen 2 [Screen 3] below");
+    for (const auto& [index, run, last] :
+         {std::tuple(2, "All Screens [Screen 1] Screen 2 [Screen 3]", number(0)),
+          std::tuple(4, "All Screens [Screen 1] Screen 2 Screen 3", number(2)),
+          std::tuple(2, "[All Screens] Screen 1 Screen 2 Screen 3", number(0)),
+          std::tuple(3, "All Screens Screen 1 [Screen 2] Screen 3", number(1)),
+          std::tuple(1, "[All Screens] Screen 1 Screen 2 Screen 3", std::int64_t{0}),
+          std::tuple(1, "[All Screens] Screen 1 Screen 2 Screen 3", std::int64_t{0})}) {
+        click(index);
+        EXPECT_EQ(shown(), std::string("above ") + run + " below");
+        EXPECT_EQ(store.integerForKey("AffectedScreens"), last);
+    }
+    manager.reset();
+    click(2); // its items outlive it and do nothing
+    EXPECT_EQ(store.integerForKey("AffectedScreens"), 0);
 }
 
 } // namespace

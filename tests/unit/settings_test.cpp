@@ -23,12 +23,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using Keys = PropertyDictionary;
 
-struct CountingPersistence final : DefaultsPersistence {
-    void userDomainDidChange() override { ++changes; }
-    bool synchronize() override { return false; }
-    int changes = 0;
-};
-
 class DefaultsStoreTest : public testing::Test {
   protected:
     NotificationCenter center;
@@ -72,20 +66,20 @@ TEST_F(DefaultsStoreTest, ARegisteredDefaultHoldsWhereTheUserSaidNothing) {
 }
 
 TEST_F(DefaultsStoreTest, NotifiesAfterEveryWriteAndKeepsOnlyTrueChanges) {
-    CountingPersistence persistence;
-    store.setPersistence(&persistence);
     std::vector<float> seen;
     center.addObserver(this, NSUserDefaultsDidChangeNotification,
                        [&] { seen.push_back(store.floatForKey("level")); });
     store.setFloat(0.5F, "level");
+    store.markKept();
     store.setFloat(0.5F, "level");
     store.removeObjectForKey("absent");
-    store.removeObjectForKey("level");
-    EXPECT_THAT(seen, ElementsAre(0.5F, 0.5F, 0.5F, 0.0F));
-    EXPECT_EQ(persistence.changes, 2);
+    EXPECT_THAT(store.changedKeys(), IsEmpty());
     store.setInteger(1, "type");
-    store.setBool(true, "type");
-    EXPECT_EQ(persistence.changes, 4) << "true is not the integer 1";
+    store.markKept();
+    store.setBool(true, "type"); // which is not the integer 1
+    store.removeObjectForKey("level");
+    EXPECT_THAT(store.changedKeys(), ElementsAre("level", "type"));
+    EXPECT_THAT(seen, ElementsAre(0.5F, 0.5F, 0.5F, 0.5F, 0.5F, 0.0F));
 }
 
 class SettingsKeeperTest : public DefaultsStoreTest {
@@ -133,15 +127,13 @@ class SettingsKeeperTest : public DefaultsStoreTest {
 };
 
 TEST_F(SettingsKeeperTest, MakesAPrivateFileInADirectoryOfItsOwn) {
-    path = home / "config/nocturo/settings.plist";
-    EXPECT_EQ(writeSettingsFile(path, {{"a", true}}).errorNumber, 0);
     using std::filesystem::perms;
-    const auto permissions = [](const std::filesystem::path& of) {
-        return std::filesystem::status(of).permissions();
-    };
-    EXPECT_EQ(permissions(path), perms::owner_read | perms::owner_write);
-    EXPECT_EQ(permissions(home / "config/nocturo"), perms::owner_all);
-    EXPECT_EQ(permissions(home / "config"), perms::owner_all);
+    EXPECT_EQ(writeSettingsFile(home / "config/nocturo/file", {{"a", true}}).errorNumber, 0);
+    for (const auto& [name, permissions] :
+         {std::pair("config/nocturo/file", perms{0600}), std::pair("config/nocturo", perms{0700}),
+          std::pair("config", perms{0700})}) {
+        EXPECT_EQ(std::filesystem::status(home / name).permissions(), permissions) << name;
+    }
 }
 
 TEST_F(SettingsKeeperTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {
@@ -171,27 +163,19 @@ TEST_F(SettingsKeeperTest, ABurstOfChangesIsOneWriteWithinASecond) {
     }
     EXPECT_GE(writes, 2) << "saved on the way";
     EXPECT_LE(writes, 4);
-    runLoop.advance(1000);
+    EXPECT_TRUE(store.synchronize()); // at once
     EXPECT_EQ(onDisk(), (Keys{{"level", std::int64_t{30}}}));
+    last = fileStamp(path);
     store.setInteger(30, "level"); // an equal value is no change
     EXPECT_EQ(runLoop.pendingTimers(), 0U) << "nothing ticks when nothing changes";
-}
-
-TEST_F(SettingsKeeperTest, SynchronizeWritesAtOnceAndItsOwnWriteIsNoNews) {
-    start();
-    store.setBool(true, "a");
     EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(runLoop.pendingTimers(), 0U);
+    EXPECT_EQ(fileStamp(path), last);
+
     EXPECT_TRUE(eventPending());
     notifications = 0;
     keeper->processFileEvents();
-    EXPECT_EQ(notifications, 0);
+    EXPECT_EQ(notifications, 0) << "its own writes are no news";
     EXPECT_FALSE(eventPending());
-
-    const auto written = fileStamp(path);
-    EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(fileStamp(path), written) << "nothing to write";
-    EXPECT_EQ(onDisk(), (Keys{{"a", true}}));
 }
 
 TEST_F(SettingsKeeperTest, FollowsEditsOnceTheyAreComplete) {
@@ -212,8 +196,6 @@ TEST_F(SettingsKeeperTest, FollowsEditsOnceTheyAreComplete) {
     EXPECT_EQ(notifications, 1);
 
     writeText(directory / "new", propertyListXml({{"a", std::int64_t{3}}}));
-    keeper->processFileEvents();
-    EXPECT_EQ(store.integerForKey("a"), 2) << "another file";
     std::filesystem::rename(directory / "new", path);
     keeper->processFileEvents();
     EXPECT_EQ(store.integerForKey("a"), 3);
@@ -263,31 +245,28 @@ TEST_F(SettingsKeeperTest, AnEditMadeElsewhereBeforeAWriteIsNotLost) {
     EXPECT_THAT(store.userDomain(), IsEmpty());
 }
 
-TEST_F(SettingsKeeperTest, ADamagedFileIsSetAsideAtStartAndTheDefaultsHold) {
+TEST_F(SettingsKeeperTest, ADamagedFileIsSetAsideAndTheSettingsInUseAreSavedAnew) {
     writeText(path, "<plist><dict><key>a");
     start();
     EXPECT_THAT(store.userDomain(), IsEmpty());
     EXPECT_EQ(setAsideFiles(), 1);
     EXPECT_THAT(warnings, ElementsAre(HasSubstr("settings.plist.damaged-")));
-}
 
-TEST_F(SettingsKeeperTest, AFileDamagedWhileRunningIsSetAsideAndTheSettingsAreSavedAnew) {
-    start();
     store.setBool(true, "a");
     runLoop.advance(1000);
     keeper->processFileEvents();
     writeText(path, "damaged, then noticed");
     keeper->processFileEvents();
     runLoop.advance(500 + 1000);
-    EXPECT_EQ(setAsideFiles(), 1);
+    EXPECT_EQ(setAsideFiles(), 2);
     EXPECT_EQ(onDisk(), (Keys{{"a", true}}));
 
     writeText(path, "damaged, then found by the next write");
     store.setBool(true, "b");
     runLoop.advance(800 + 500 + 800);
-    EXPECT_EQ(setAsideFiles(), 2);
+    EXPECT_EQ(setAsideFiles(), 3);
     EXPECT_EQ(onDisk(), (Keys{{"a", true}, {"b", true}}));
-    EXPECT_EQ(warnings.size(), 2U);
+    EXPECT_EQ(warnings.size(), 3U);
 }
 
 TEST_F(SettingsKeeperTest, AFileThatIsBeingWrittenInItsPlaceIsWaitedFor) {
