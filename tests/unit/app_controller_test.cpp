@@ -111,7 +111,10 @@ class Launch : public AppController {
 TEST_F(Launch, GoesStepByStep) {
     controller_.setInstalledApplications(&around_);
     around_.answer = AlertAnswer::defaultButton; // continue, and open the preferences
-    around_.whileAsking = [&] { controller_.warnIfNoEffects(); }; // not a second time
+    around_.whileAsking = [&] {
+        controller_.updateStatusItem(); // not yet
+        controller_.warnIfNoEffects();  // not a second time
+    };
     store_->setObject(PropertyArray{}, "NDGroupEffect");
     store_->setInteger(1, "ShowStatusItem");
     center_.addObserver(this, NSUserDefaultsDidChangeNotification, [&] {
