@@ -14,9 +14,7 @@
 #include "platform/installed_applications.h"
 #include "platform/notification_names.h"
 #include "platform/settings/defaults_store.h"
-#include "platform/workspace/desktop_entries.h"
 #include "preferences/affected_screen_set.h"
-#include "temporary_directory.h"
 
 #include <gmock/gmock.h>
 
@@ -152,21 +150,6 @@ TEST_F(Launch, TouchesNothingBeforeTheUserContinuesWithFlux) {
     EXPECT_EQ(NDCheckForFlux(*store_, around_, around_), FluxCheck::nothingShown);
 }
 
-TEST(DesktopEntries, StandForProgramsUnlessHiddenOrWithoutThem) {
-    const TemporaryDirectory directory;
-    std::filesystem::create_directory(directory / "applications");
-    const auto isFound = [&](const std::string& more) {
-        writeText(directory / "applications/fluxgui.desktop",
-                  "[Desktop Entry]\nType=Application\nName=f.lux\n" + more);
-        const DesktopEntries entries({directory / "none", directory.path()});
-        return entries.applicationWithBundleIdentifier("org.herf.Flux").has_value();
-    };
-    EXPECT_TRUE(isFound(""));
-    EXPECT_TRUE(isFound("TryExec=sh\n"));
-    EXPECT_FALSE(isFound("TryExec=no-such-program\n"));
-    EXPECT_FALSE(isFound("Hidden=true\n"));
-}
-
 TEST_F(AppController, LaunchSwitchesAsTheSettingsSay) {
     struct Case {
         bool atLaunch;
@@ -223,14 +206,6 @@ TEST_F(AppController, AffectedScreenSetReadsEitherKey) {
     EXPECT_EQ(read(PropertyArray{1LL, true}, 5), Set{5});
     EXPECT_EQ(read(noArray, std::int64_t{1} << 32), Set{});
     EXPECT_EQ(read(noArray, 0xFFFFFFFF), Set{-1}); // signed storage: never equals a display
-
-    // A first choice carries the older key's display over into the set.
-    EXPECT_EQ(read(noArray, 5), Set{5});
-    chooseAffectedScreen(*store_, 4);
-    EXPECT_EQ(*store_->arrayForKey("AffectedScreenSet"), (PropertyArray{4LL, 5LL}));
-    EXPECT_EQ(store_->integerForKey("AffectedScreens"), 4);
-    chooseAffectedScreen(*store_, 5);
-    EXPECT_EQ(*store_->arrayForKey("AffectedScreenSet"), (PropertyArray{4LL}));
 }
 
 TEST_F(AppController, SettingsHaveDefaultsAndRefuseWhatTheyCannotHold) {

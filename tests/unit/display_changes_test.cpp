@@ -94,8 +94,13 @@ TEST_F(DisplayChangesTest, EachKindIsToldAndNothingElse) {
 
 TEST_F(DisplayChangesTest, ABurstIsToldOnceWithinAQuarterOfASecond) {
     start();
-    for (const char* connector : {"A", "B", "A"}) {
-        hardware_.setMode(connector);
+    hardware_.setMode("B");
+    services_->lookForChanges();
+    EXPECT_THAT(toldAfter(49), IsEmpty());
+    EXPECT_EQ(toldAfter(1).size(), 1U);
+    hardware_.setMode("B");
+    for (int i = 0; i < 6; ++i) {
+        hardware_.setMode("A");
         services_->lookForChanges();
         EXPECT_THAT(toldAfter(40), IsEmpty());
     }
@@ -103,13 +108,6 @@ TEST_F(DisplayChangesTest, ABurstIsToldOnceWithinAQuarterOfASecond) {
     const auto told = toldAfter(1);
     ASSERT_EQ(told.size(), 1U);
     EXPECT_THAT(told[0].modeChanged, UnorderedElementsAre(a_, b_));
-
-    for (int i = 0; i < 50; ++i) { // endless
-        hardware_.setMode("A");
-        services_->lookForChanges();
-        runLoop_.advance(10);
-    }
-    EXPECT_EQ(toldAfter(0).size(), 2U);
 }
 
 TEST_F(DisplayChangesTest, AProfileThatChangesWhileOffCountsAtTheNextCapture) {

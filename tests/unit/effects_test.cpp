@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 
 namespace nocturo {
@@ -33,30 +34,25 @@ class Effects : public testing::Test {
     NDGroupEffect group_;
 };
 
-std::array<ZQGammaTable*, 3> tablesOf(ZQGammaCurve& curve) {
-    return {&curve.redTable, &curve.greenTable, &curve.blueTable};
-}
-
-ZQGammaCurve curveFrom(const expected::Curve& expectedCurve) {
+ZQGammaCurve curveFrom(const expected::Curve& bits) {
     ZQGammaCurve curve;
     curve.sampleCount = 256;
+    const std::array tables{&curve.redTable, &curve.greenTable, &curve.blueTable};
     for (std::size_t channel = 0; channel < 3; ++channel) {
-        for (std::size_t i = 0; i < 256; ++i) {
-            (*tablesOf(curve)[channel])[i] =
-                std::bit_cast<float>(expectedCurve.singles[channel][i]);
-        }
+        std::transform(bits.singles[channel].begin(), bits.singles[channel].end(),
+                       tables[channel]->begin(),
+                       [](std::uint32_t single) { return std::bit_cast<float>(single); });
     }
     return curve;
 }
 
-void expectBits(ZQGammaCurve& curve, const expected::Curve& expectedCurve) {
-    for (std::size_t channel = 0; channel < 3; ++channel) {
-        for (std::size_t i = 0; i < 256; ++i) {
-            const float entry = (*tablesOf(curve)[channel])[i];
-            const float wanted = std::bit_cast<float>(expectedCurve.singles[channel][i]);
-            // Equal as numbers: the calculation in rationals knows no negative zero.
-            ASSERT_EQ(entry, wanted) << "channel " << channel << " entry " << i;
-        }
+// Equal as numbers: the calculation in rationals knows no negative zero.
+void expectBits(const ZQGammaCurve& curve, const expected::Curve& bits) {
+    const ZQGammaCurve wanted = curveFrom(bits);
+    for (std::size_t i = 0; i < 256; ++i) {
+        ASSERT_EQ(curve.redTable[i], wanted.redTable[i]) << "entry " << i;
+        ASSERT_EQ(curve.greenTable[i], wanted.greenTable[i]) << "entry " << i;
+        ASSERT_EQ(curve.blueTable[i], wanted.blueTable[i]) << "entry " << i;
     }
 }
 
