@@ -328,7 +328,7 @@ TEST_F(DesktopEvents, OverwrittenRampsAreCounted) {
 }
 
 TEST_F(DesktopEvents, HardwareThatKeepsFewerBitsIsNoDisturbance) {
-    hardware_.keptBits = 10;
+    hardware_.keptBits = 0xFFC0;
     const DisturbanceWatch watch(controller_, center_, [](const auto&) {});
     store_->setObject(PropertyArray{std::string("NDDimEffect")}, "NDGroupEffect");
     controller_.applicationDidFinishLaunching();

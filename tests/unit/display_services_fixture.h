@@ -37,20 +37,9 @@ inline Ramp reversed(Ramp ramp) {
     return ramp;
 }
 
-/// What a test sees and changes of hardware in memory.
-struct FakeGammaHardwareState {
-    std::vector<Head> heads;
-    std::map<std::uint32_t, Ramp> ramps;                // by CRTC
-    std::vector<std::pair<std::uint32_t, Ramp>> writes; // of every ramp to its CRTC
-    std::map<std::uint32_t, Ramp> kept;                 // what each CRTC is to be given back
-    int writesNotProvidedFor = 0;                       // before it was said what to give back
-    std::uint64_t generation = 1;
-    std::uint64_t modes = 0;         // set so far
-    std::function<void()> afterRead; // once, when set
-    bool lists = true;
-    bool reads = true;
-    int keptBits = 16; // of every entry that is written
-
+/// Hardware whose heads and ramps a test changes at will, and which records every write.
+class FakeGammaHardware : public GammaHardware {
+  public:
     /// Adds a head with a ramp of that size; the CRTC keeps a ramp that it has.
     void add(const std::string& connector, std::uint32_t crtc, std::uint32_t size = 256) {
         Head head;
@@ -78,43 +67,46 @@ struct FakeGammaHardwareState {
         std::erase_if(heads, [&](const Head& head) { return head.connector == connector; });
         ++generation;
     }
-};
-
-class FakeGammaHardware : public GammaHardware {
-  public:
-    explicit FakeGammaHardware(FakeGammaHardwareState& state) : state_(state) {}
 
     std::string_view name() const override { return "fake"; }
-    std::uint64_t topologyGeneration() override { return state_.generation; }
-    bool listHeads(std::vector<Head>& heads) override {
-        heads = state_.heads;
-        return state_.lists;
+    std::uint64_t topologyGeneration() override { return generation; }
+    bool listHeads(std::vector<Head>& listed) override {
+        listed = heads;
+        return lists;
     }
     bool readRamp(std::uint32_t crtc, Ramp& ramp) override {
-        if (state_.reads) {
-            ramp = state_.ramps.at(crtc);
+        if (reads) {
+            ramp = ramps.at(crtc);
         }
-        if (const auto then = std::exchange(state_.afterRead, nullptr)) {
+        if (const auto then = std::exchange(afterRead, nullptr)) {
             then();
         }
-        return state_.reads;
+        return reads;
     }
     bool writeRamp(std::uint32_t crtc, const Ramp& ramp) override {
-        Ramp& shown = state_.ramps[crtc] = ramp;
-        const auto mask = static_cast<std::uint16_t>(0xFFFF0000U >> state_.keptBits);
+        Ramp& shown = ramps[crtc] = ramp;
         for (auto* channel : {&shown.red, &shown.green, &shown.blue}) {
             for (std::uint16_t& entry : *channel) {
-                entry &= mask;
+                entry &= keptBits;
             }
         }
-        state_.writes.emplace_back(crtc, ramp);
-        state_.writesNotProvidedFor += state_.kept.count(crtc) == 0 ? 1 : 0;
+        writes.emplace_back(crtc, ramp);
+        writesNotProvidedFor += kept.count(crtc) == 0 ? 1 : 0;
         return true;
     }
-    void keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) override { state_.kept[crtc] = ramp; }
+    void keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) override { kept[crtc] = ramp; }
 
-  private:
-    FakeGammaHardwareState& state_;
+    std::vector<Head> heads;
+    std::map<std::uint32_t, Ramp> ramps; // by CRTC
+    std::vector<std::pair<std::uint32_t, Ramp>> writes;
+    std::map<std::uint32_t, Ramp> kept; // what each CRTC is to be given back
+    int writesNotProvidedFor = 0;       // before it was said what to give back
+    std::uint64_t generation = 1;
+    std::uint64_t modes = 0;         // set so far
+    std::function<void()> afterRead; // once, when set
+    bool lists = true;
+    bool reads = true;
+    std::uint16_t keptBits = 0xFFFF; // of every entry that is written
 };
 
 /// Display services over hardware in memory.
@@ -125,8 +117,8 @@ class DisplayServicesFixture : public testing::Test {
     /// Starts the services on what the hardware shows now.
     void start(std::unique_ptr<CalibrationSource> calibrations = nullptr,
                RunLoop* runLoop = nullptr) {
-        services_ = std::make_unique<RampDisplayServices>(
-            std::make_unique<FakeGammaHardware>(hardware_), std::move(calibrations), runLoop);
+        services_ = std::make_unique<RampDisplayServices>(std::move(ownedHardware_),
+                                                          std::move(calibrations), runLoop);
         setDisplayServices(services_.get());
     }
     void add(const std::string& connector, std::uint32_t crtc, const Ramp& ramp) {
@@ -145,7 +137,8 @@ class DisplayServicesFixture : public testing::Test {
                                                               display);
     }
 
-    FakeGammaHardwareState hardware_;
+    std::unique_ptr<FakeGammaHardware> ownedHardware_ = std::make_unique<FakeGammaHardware>();
+    FakeGammaHardware& hardware_ = *ownedHardware_;
     std::unique_ptr<RampDisplayServices> services_;
 };
 
