@@ -171,6 +171,15 @@ TEST_F(AppController, LaunchSwitchesAsTheSettingsSay) {
     }
 }
 
+TEST_F(AppController, DisplaysEnterAndLeaveTheAffectedSetWhileOn) {
+    controller_.applicationDidFinishLaunching();
+    for (const auto& [choice, shows] :
+         {std::pair(id(1), "oio"), std::pair(id(2), "oii"), std::pair(0U, "iii")}) {
+        chooseAffectedScreen(*store_, static_cast<std::int32_t>(choice));
+        EXPECT_EQ(shown(), shows);
+    }
+}
+
 TEST_F(AppController, AppliesAgainEverySixSecondsWhileAskedTo) {
     controller_.applicationDidFinishLaunching();
     hardware_.ramps[1] = identityRamp(256);

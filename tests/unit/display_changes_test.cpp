@@ -102,9 +102,9 @@ TEST_F(DisplayChangesTest, ABurstIsToldOnceWithinAQuarterOfASecond) {
     for (int i = 0; i < 6; ++i) {
         hardware_.setMode("A");
         services_->lookForChanges();
-        EXPECT_THAT(toldAfter(40), IsEmpty());
+        EXPECT_THAT(toldAfter(41), IsEmpty());
     }
-    EXPECT_THAT(toldAfter(9), IsEmpty());
+    EXPECT_THAT(toldAfter(3), IsEmpty());
     const auto told = toldAfter(1);
     ASSERT_EQ(told.size(), 1U);
     EXPECT_THAT(told[0].modeChanged, UnorderedElementsAre(a_, b_));
