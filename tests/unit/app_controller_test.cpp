@@ -1,19 +1,154 @@
+// What the application does at its launch, with its settings and when the desktop tells it
+// something.
+
 #include "app/app_controller.h"
 
+#include "app/desktop_face.h"
+#include "app/disturbance_watch.h"
+#include "app/flux_check.h"
 #include "app/settings_table.h"
-#include "app_controller_fixture.h"
+#include "app/user_interface.h"
+#include "app/wake_repeater.h"
+#include "display_services_fixture.h"
+#include "fake_run_loop.h"
+#include "platform/installed_applications.h"
 #include "platform/notification_names.h"
+#include "platform/settings/defaults_store.h"
 #include "preferences/affected_screen_set.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <limits>
 
 namespace nocturo {
-
 namespace {
 
-class AppController : public AppControllerFixture {};
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// An application controller over three displays in memory, with the invert effect selected.
+class AppController : public DisplayServicesFixture {
+  protected:
+    void SetUp() override {
+        for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
+            hardware_.add("D" + std::to_string(crtc), crtc);
+        }
+        start();
+        NDEffect::setUserDefaults(store_);
+        store_->setObject(PropertyArray{std::string("NDInvertEffect")}, "NDGroupEffect");
+    }
+    void TearDown() override { NDEffect::setUserDefaults(nullptr); }
+
+    /// One letter per CRTC: i inverted, o its own ramp.
+    std::string shown() const {
+        std::string letters;
+        for (const auto& [crtc, ramp] : hardware_.ramps) {
+            letters += ramp.red.front() > ramp.red.back() ? 'i' : 'o';
+        }
+        return letters;
+    }
+
+    NotificationCenter center_;
+    NotificationCenter workspace_;
+    NotificationCenter distributed_;
+    NotificationCenters centers_{center_, workspace_, distributed_};
+    std::shared_ptr<DefaultsStore> store_ = std::make_shared<DefaultsStore>(center_);
+    FakeRunLoop runLoop_;
+    NDAppController controller_{*store_, centers_, runLoop_};
+};
+
+/// Everything that the launch has to do with: windows, alerts and what is installed.
+struct Surroundings : UserInterface, DesktopFace, InstalledApplications {
+    void showPreferences() override { log.emplace_back("preferences"); }
+    void showAboutBox() override { log.emplace_back("about"); }
+    void setAboutBoxBackgroundColor(const OpaqueColor& color) override {
+        log.emplace_back(color.blue == 0.84 ? "about color" : "another color");
+    }
+    bool preferencesVisible() const override { return false; }
+    void loadPreferences() override { log.emplace_back("load"); }
+    bool openEffectFile(const std::string& /*path*/) override { return false; }
+    bool saveEffectFile(const std::string& /*path*/) override { return false; }
+    std::vector<std::uint8_t> previewPicture(CGDirectDisplayID /*display*/) override { return {}; }
+
+    AlertAnswer runAlert(const Alert& alert) override {
+        alerts.push_back(alert);
+        log.push_back(std::string("alert ") + alert.alternateButton);
+        whileAsking();
+        return answer;
+    }
+    void setActivateItemTitles(bool active) override { log.emplace_back(active ? "on" : "off"); }
+    void setStatusItemShown(bool shown) override { log.emplace_back(shown ? "item" : "no item"); }
+    void setStatusItemImage(bool active) override {
+        log.emplace_back(active ? "image on" : "image off");
+    }
+    void makeScreenMenus() override { log.emplace_back("screen menus"); }
+
+    std::optional<InstalledApplication>
+    applicationWithBundleIdentifier(std::string_view identifier) const override {
+        return identifier == "org.herf.Flux"
+                   ? std::optional(InstalledApplication{"f.lux applet", "fluxgui"})
+                   : std::nullopt;
+    }
+
+    AlertAnswer answer = AlertAnswer::alternateButton;
+    std::function<void()> whileAsking = [] {};
+    std::vector<Alert> alerts;
+    std::vector<std::string> log;
+};
+
+class Launch : public AppController {
+  protected:
+    Launch() {
+        controller_.setUserInterface(&around_);
+        controller_.setDesktopFace(&around_);
+    }
+
+    Surroundings around_;
+};
+
+TEST_F(Launch, GoesStepByStep) {
+    controller_.setInstalledApplications(&around_);
+    around_.answer = AlertAnswer::defaultButton; // continue, and open the preferences
+    around_.whileAsking = [&] {
+        controller_.updateStatusItem(); // not yet
+        controller_.warnIfNoEffects();  // not a second time
+    };
+    store_->setObject(PropertyArray{}, "NDGroupEffect");
+    store_->setInteger(1, "ShowStatusItem");
+    center_.addObserver(this, NSUserDefaultsDidChangeNotification, [&] {
+        around_.log.emplace_back(store_->boolForKey("EffectActive") ? "saved on" : "saved");
+    });
+    EXPECT_TRUE(controller_.applicationDidFinishLaunching());
+    // A write while the launch goes on makes no status item yet.
+    EXPECT_THAT(around_.log,
+                ElementsAre("about color", "alert Quit", "saved", "saved on", "on", "alert Cancel",
+                            "preferences", "item", "image on", "screen menus"));
+    center_.removeObserver(this);
+    around_.log.clear();
+    center_.post(NSApplicationDidFinishLaunchingNotification); // heard no more
+    EXPECT_THAT(around_.log, IsEmpty());
+
+    for (const std::int64_t value : {1, 0}) {
+        store_->setInteger(value, "ShowStatusItem");
+        controller_.activateEffect();
+    }
+    EXPECT_THAT(around_.log, ElementsAre("off", "image off", "no item", "on"));
+}
+
+TEST_F(Launch, TouchesNothingBeforeTheUserContinuesWithFlux) {
+    controller_.setInstalledApplications(&around_);
+    const PropertyDictionary before = store_->userDomain();
+    around_.whileAsking = [&] { controller_.toggleGlobalEffect(); }; // too early
+    EXPECT_FALSE(controller_.applicationDidFinishLaunching());
+    EXPECT_EQ(store_->userDomain(), before);
+    EXPECT_FALSE(store_->boolForKey("ActivateAtLaunch")); // nothing is registered either
+    EXPECT_THAT(hardware_.writes, IsEmpty());
+    EXPECT_THAT(around_.alerts.at(0).messageArguments, ElementsAre("Nocturo", "f.lux applet"));
+
+    around_.answer = AlertAnswer::defaultButton;
+    EXPECT_EQ(NDCheckForFlux(*store_, around_, around_), FluxCheck::continued);
+    EXPECT_EQ(NDCheckForFlux(*store_, around_, around_), FluxCheck::nothingShown);
+}
 
 TEST_F(AppController, LaunchSwitchesAsTheSettingsSay) {
     struct Case {
@@ -30,91 +165,19 @@ TEST_F(AppController, LaunchSwitchesAsTheSettingsSay) {
         fresh.applicationDidFinishLaunching();
         EXPECT_EQ(fresh.effectActive(), each.on);
         EXPECT_EQ(shown(), each.on ? "iii" : "ooo");
-        EXPECT_EQ(store_->boolForKey("EffectActive"), each.savedAfter);
         fresh.applicationWillTerminate();
         EXPECT_EQ(shown(), "ooo");
         EXPECT_EQ(store_->boolForKey("EffectActive"), each.savedAfter);
     }
 }
 
-TEST_F(AppController, AFreshUserSeesTheDefaults) {
-    store_->removeObjectForKey("NDGroupEffect");
-    controller_.initDefaults();
-    for (const char* key : {"ActivateAtLaunch", "ActivateOnClick", "ContinuouslyApply",
-                            "NDDeactivateForScreenSaver"}) {
-        EXPECT_TRUE(store_->boolForKey(key)) << key;
-    }
-    EXPECT_FALSE(store_->boolForKey("UseHotKey"));
-    ASSERT_NE(store_->arrayForKey("NDGroupEffect"), nullptr);
-    EXPECT_EQ(store_->objectForKey("NDDimEffectLevel"), nullptr);
-    EXPECT_EQ(effectiveValue(*store_, *settingNamed("NDDimEffectLevel")), PropertyValue(-0.5));
-    EXPECT_TRUE(store_->userDomain().empty());
-    EXPECT_EQ(registeredDefaults().size(), 7U);
-}
-
 TEST_F(AppController, DisplaysEnterAndLeaveTheAffectedSetWhileOn) {
     controller_.applicationDidFinishLaunching();
-    chooseAffectedScreen(*store_, static_cast<std::int32_t>(id(1)));
-    EXPECT_EQ(shown(), "oio");
-    hardware_.writes.clear();
-    chooseAffectedScreen(*store_, static_cast<std::int32_t>(id(2)));
-    EXPECT_EQ(shown(), "oii");
-    for (const auto& [crtc, ramp] : hardware_.writes) {
-        EXPECT_NE(crtc, 1U);
+    for (const auto& [choice, shows] :
+         {std::pair(id(1), "oio"), std::pair(id(2), "oii"), std::pair(0U, "iii")}) {
+        chooseAffectedScreen(*store_, static_cast<std::int32_t>(choice));
+        EXPECT_EQ(shown(), shows);
     }
-    chooseAffectedScreen(*store_, 0);
-    EXPECT_EQ(shown(), "iii");
-    EXPECT_EQ(controller_.screenControllers()->size(), 3U);
-
-    // Without any display listed, and after a failed query, all stay as they are.
-    hardware_.lists = false;
-    ++hardware_.generation;
-    controller_.adjustScreenControllers();
-    EXPECT_EQ(controller_.screenControllers()->size(), 3U);
-}
-
-TEST_F(AppController, AnUnpluggedDisplayKeepsItsControllerUntilOff) {
-    controller_.applicationDidFinishLaunching();
-    hardware_.remove("D2");
-    center_.post(NSApplicationDidChangeScreenParametersNotification);
-    EXPECT_EQ(controller_.screenControllers()->size(), 3U);
-    hardware_.ramps[2] = identityRamp(256); // the driver resets it
-    hardware_.add("D2", 2);
-    center_.post(NSApplicationDidChangeScreenParametersNotification);
-    EXPECT_EQ(shown(), "iii");
-    controller_.toggleGlobalEffect();
-    EXPECT_EQ(shown(), "ooo");
-    controller_.updateEffect();
-    controller_.adjustScreenControllers();
-    controller_.setScreenControllerActive(true, id(0));
-    EXPECT_EQ(shown(), "ooo");
-}
-
-TEST_F(AppController, AModeChangeAppliesAtOnceAndOnceMore) {
-    controller_.applicationDidFinishLaunching();
-    store_->setBool(false, "ContinuouslyApply");
-    const auto reset = [&] { hardware_.ramps[1] = identityRamp(256); };
-    reset();
-    NDDisplayReconfigurationCallback(id(0), 0xFFFFFFF7, &controller_);
-    EXPECT_EQ(shown(), "oii");
-    callReconfigurationCallbacks({{id(0), id(1)}, false, {}});
-    EXPECT_EQ(shown(), "iii");
-    reset();
-    runLoop_.advance(49);
-    EXPECT_EQ(shown(), "oii");
-    runLoop_.advance(1);
-    EXPECT_EQ(shown(), "iii");
-    reset();
-    runLoop_.advance(10000);
-    EXPECT_EQ(shown(), "oii");
-    callReconfigurationCallbacks({{}, true, {id(0)}});
-    EXPECT_EQ(shown(), "oii");
-
-    callReconfigurationCallbacks({{id(0)}, false, {}});
-    controller_.setEffectActive(false, false);
-    hardware_.writes.clear();
-    runLoop_.advance(50);
-    EXPECT_TRUE(hardware_.writes.empty());
 }
 
 TEST_F(AppController, AppliesAgainEverySixSecondsWhileAskedTo) {
@@ -136,79 +199,151 @@ TEST_F(AppController, AppliesAgainEverySixSecondsWhileAskedTo) {
     EXPECT_EQ(runLoop_.pendingTimers(), 0U);
 }
 
-TEST_F(AppController, ReopeningTogglesIfTheUserWantsThat) {
-    controller_.applicationDidFinishLaunching();
-    EXPECT_FALSE(controller_.applicationShouldHandleReopen(true));
-    EXPECT_FALSE(controller_.effectActive());
-    EXPECT_FALSE(store_->boolForKey("EffectActive"));
-    store_->setBool(false, "ActivateOnClick");
-    controller_.applicationShouldHandleReopen(false);
-    EXPECT_FALSE(controller_.effectActive());
-}
-
-TEST_F(AppController, TheOlderSingleDisplayIsResetUnlessOnline) {
-    store_->setInteger((std::int64_t{1} << 32) + id(1), "AffectedScreens");
-    EXPECT_EQ(controller_.validatedDisplayID(), id(1));
-    store_->setInteger(77, "AffectedScreens");
-    EXPECT_EQ(controller_.validatedDisplayID(), 0U);
-    EXPECT_EQ(store_->integerForKey("AffectedScreens"), 0);
-}
-
 TEST_F(AppController, AffectedScreenSetReadsEitherKey) {
-    const auto ints = [](std::initializer_list<std::int64_t> numbers) {
-        PropertyArray array;
-        array.assign(numbers.begin(), numbers.end());
-        return array;
-    };
-    const auto read = [&] { return affectedScreenSet(*store_); };
     using Set = std::vector<double>;
-    EXPECT_EQ(read(), Set{});
-    store_->setInteger(5, "AffectedScreens");
-    EXPECT_EQ(read(), Set{5});
-    store_->setObject(ints({3, 1, 3}), "AffectedScreenSet");
-    EXPECT_EQ(read(), (Set{1, 3, 3}));
-    store_->setObject(ints({}), "AffectedScreenSet");
-    EXPECT_EQ(read(), Set{});
-    for (const PropertyValue& bad : {PropertyValue(std::string("x")), PropertyValue(true)}) {
-        store_->setObject(PropertyArray{std::int64_t{1}, bad}, "AffectedScreenSet");
-        EXPECT_EQ(read(), Set{5});
-    }
-    store_->setInteger(std::int64_t{1} << 32, "AffectedScreens");
-    EXPECT_EQ(read(), Set{});
-    store_->setInteger(0xFFFFFFFF, "AffectedScreens");
-    EXPECT_EQ(read(), Set{-1}); // signed storage: never equals a display
-
-    // A first choice carries the older key's display over into the set.
-    store_->removeObjectForKey("AffectedScreenSet");
-    store_->setInteger(5, "AffectedScreens");
-    chooseAffectedScreen(*store_, 4);
-    EXPECT_EQ(*store_->arrayForKey("AffectedScreenSet"), ints({4, 5}));
-    EXPECT_EQ(store_->integerForKey("AffectedScreens"), 4);
-    chooseAffectedScreen(*store_, 5);
-    EXPECT_EQ(*store_->arrayForKey("AffectedScreenSet"), ints({4}));
-    EXPECT_EQ(store_->integerForKey("AffectedScreens"), 5);
+    const auto read = [&](const PropertyValue& set, std::int64_t older) {
+        store_->setObject(set, "AffectedScreenSet");
+        store_->setInteger(older, "AffectedScreens");
+        return affectedScreenSet(*store_);
+    };
+    const PropertyValue noArray = false;
+    EXPECT_EQ(read(noArray, 0), Set{});
+    EXPECT_EQ(read(noArray, 5), Set{5});
+    EXPECT_EQ(read(PropertyArray{3LL, 1LL, 3LL}, 5), (Set{1, 3, 3}));
+    EXPECT_EQ(read(PropertyArray{}, 5), Set{});
+    EXPECT_EQ(read(PropertyArray{1LL, std::string("x")}, 5), Set{5});
+    EXPECT_EQ(read(PropertyArray{1LL, true}, 5), Set{5});
+    EXPECT_EQ(read(noArray, std::int64_t{1} << 32), Set{});
+    EXPECT_EQ(read(noArray, 0xFFFFFFFF), Set{-1}); // signed storage: never equals a display
 }
 
-TEST_F(AppController, SettingsRefuseWhatTheyCannotHold) {
+TEST_F(AppController, SettingsHaveDefaultsAndRefuseWhatTheyCannotHold) {
+    controller_.initDefaults();
+    EXPECT_TRUE(store_->boolForKey("ContinuouslyApply"));
+    EXPECT_FALSE(store_->boolForKey("UseHotKey"));
+    EXPECT_EQ(store_->objectForKey("NDDimEffectLevel"), nullptr);
+    EXPECT_EQ(effectiveValue(*store_, *settingNamed("NDDimEffectLevel")), PropertyValue(-0.5));
+
     const auto accepts = [](const char* key, const PropertyValue& value) {
         return !problemWith(*settingNamed(key), value);
     };
-    const std::int64_t one = 1;
     EXPECT_TRUE(accepts("UseHotKey", true));
-    EXPECT_FALSE(accepts("UseHotKey", one));
-    EXPECT_TRUE(accepts("HotKeyCode", one));
+    EXPECT_FALSE(accepts("UseHotKey", 1LL));
     EXPECT_FALSE(accepts("HotKeyCode", 1.0));
     EXPECT_TRUE(accepts("NDDimEffectLevel", -3.5));
-    EXPECT_FALSE(accepts("NDDimEffectLevel", one));
     EXPECT_FALSE(accepts("NDDimEffectLevel", std::numeric_limits<double>::quiet_NaN()));
     EXPECT_FALSE(accepts("NDDimEffectLevel", 1e300)); // no finite single
-    EXPECT_TRUE(accepts("NDGroupEffect", PropertyArray{std::string("NDDimEffect")}));
     EXPECT_FALSE(accepts("NDGroupEffect", PropertyArray{std::string("NDGroupEffect")}));
-    EXPECT_TRUE(accepts("AffectedScreenSet", PropertyArray{one}));
+    EXPECT_TRUE(accepts("AffectedScreenSet", PropertyArray{1LL}));
     EXPECT_FALSE(accepts("AffectedScreenSet", PropertyArray{std::int64_t{1} << 31}));
-    EXPECT_EQ(settingNamed("NoSuchKey"), nullptr);
+}
+
+class DesktopEvents : public AppController {
+  protected:
+    /// The displays lose the effect, as after a driver's reset.
+    void resetRamps() {
+        for (auto& [crtc, ramp] : hardware_.ramps) {
+            ramp = identityRamp(256);
+        }
+    }
+    std::string afterSaver(const char* what) {
+        distributed_.post(std::string("com.apple.screensaver.did") + what);
+        return shown();
+    }
+    bool saved() const { return store_->boolForKey("EffectActive"); }
+};
+
+TEST_F(DesktopEvents, TheScreenSaverPausesTheEffectAndTheUserHasTheLastWord) {
+    controller_.applicationDidFinishLaunching();
+    EXPECT_EQ(afterSaver("stop"), "iii"); // of one that nobody saw start
+    for (int round = 0; round < 2; ++round) {
+        controller_.setEffectActive(true, false); // a second registration
+        EXPECT_EQ(afterSaver("start"), "ooo");
+        EXPECT_TRUE(saved());
+        EXPECT_EQ(afterSaver("stop"), "iii");
+        EXPECT_TRUE(saved());
+    }
+    afterSaver("start");
+    controller_.toggleGlobalEffect();
+    EXPECT_EQ(shown(), "iii");
+    EXPECT_EQ(afterSaver("stop"), "iii");
+
+    afterSaver("start");
+    controller_.toggleGlobalEffect();
+    controller_.toggleGlobalEffect();
+    EXPECT_FALSE(saved());
+    EXPECT_EQ(afterSaver("stop"), "ooo");
+    EXPECT_EQ(afterSaver("start") + afterSaver("stop"), "oooooo"); // nothing to resume
+}
+
+TEST_F(DesktopEvents, ColorProfilesAreFollowedUntilTheFirstSwitchOff) {
+    controller_.applicationDidFinishLaunching();
+    resetRamps();
+    distributed_.post("NSScreenColorSpaceDidChangeNotification");
+    EXPECT_EQ(shown(), "iii");
+    controller_.setEffectActive(false, false);
+    controller_.setEffectActive(true, false);
+    resetRamps();
+    distributed_.post("NSScreenColorSpaceDidChangeNotification");
+    EXPECT_EQ(shown(), "ooo");
+}
+
+TEST_F(DesktopEvents, AWakeIsFollowedByAFewLateReapplications) {
+    store_->setBool(false, "ContinuouslyApply");
+    controller_.applicationDidFinishLaunching();
+    const WakeRepeater repeater(controller_, centers_, runLoop_);
+    workspace_.post("NSWorkspaceDidWakeNotification");
+    std::vector<int> times;
+    for (int second = 1; second <= 60; ++second) {
+        resetRamps();
+        runLoop_.advance(1000);
+        if (shown() == "iii") {
+            times.push_back(second);
+        }
+    }
+    EXPECT_THAT(times, ElementsAre(1, 3, 8, 15, 30));
+    workspace_.post("NSWorkspaceDidWakeNotification");
+    controller_.setEffectActive(false, false);
+    EXPECT_EQ(runLoop_.pendingTimers(), 0U);
+}
+
+TEST_F(DesktopEvents, OverwrittenRampsAreCounted) {
+    std::function<void(const std::string&)> answer;
+    DisturbanceWatch watch(controller_, center_, [&](auto reply) { answer = std::move(reply); });
+    controller_.applicationDidFinishLaunching();
+    runLoop_.advance(12000);
+    EXPECT_EQ(watch.count(), 0U);
+    EXPECT_FALSE(answer); // nobody is looked for in vain
+
+    hardware_.ramps[2] = identityRamp(256);
+    hardware_.ramps[3].green[7] ^= 1;
+    runLoop_.advance(6000);
+    EXPECT_EQ(shown(), "iii");
+    EXPECT_EQ(watch.count(), 2U);
+    ASSERT_TRUE(answer);
+    answer("redshift");
+    EXPECT_EQ(watch.disturber(), "redshift");
+
+    // What is done between the ticks by ourselves, or to a display that is not there or not
+    // affected, disturbs nobody.
+    store_->setObject(PropertyArray{std::string("NDDimEffect")}, "NDGroupEffect");
+    hardware_.remove("D2");
+    hardware_.ramps[2] = Ramp(256);
+    chooseAffectedScreen(*store_, static_cast<std::int32_t>(id(0)));
+    const Ramp another = hardware_.ramps[3] = colors(5);
+    runLoop_.advance(6000);
+    EXPECT_EQ(watch.count(), 2U);
+    EXPECT_EQ(hardware_.ramps[3], another);
+}
+
+TEST_F(DesktopEvents, HardwareThatKeepsFewerBitsIsNoDisturbance) {
+    hardware_.keptBits = 0xFFC0;
+    const DisturbanceWatch watch(controller_, center_, [](const auto&) {});
+    store_->setObject(PropertyArray{std::string("NDDimEffect")}, "NDGroupEffect");
+    controller_.applicationDidFinishLaunching();
+    runLoop_.advance(60000);
+    EXPECT_EQ(watch.count(), 0U);
 }
 
 } // namespace
-
 } // namespace nocturo

@@ -2,18 +2,33 @@
 
 #include "display/screen_controller.h"
 #include "effects/invert_effect.h"
-#include "fake_gamma_hardware.h"
 #include "platform/displays/display_functions.h"
 #include "platform/displays/ramp_display_services.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace nocturo {
+
+/// A ramp that is no straight line, so that resampling it there and back would show, and another
+/// one for every number.
+inline Ramp colors(std::uint32_t number, std::uint32_t size = 256) {
+    Ramp ramp(size);
+    for (std::uint32_t i = 0; i < size; ++i) {
+        const std::uint32_t value = number * 2654435761U * (i + 1);
+        ramp.red[i] = static_cast<std::uint16_t>(value >> 16);
+        ramp.green[i] = static_cast<std::uint16_t>(value >> 8);
+        ramp.blue[i] = static_cast<std::uint16_t>(value);
+    }
+    return ramp;
+}
 
 inline Ramp reversed(Ramp ramp) {
     for (auto* channel : {&ramp.red, &ramp.green, &ramp.blue}) {
@@ -21,6 +36,78 @@ inline Ramp reversed(Ramp ramp) {
     }
     return ramp;
 }
+
+/// Hardware whose heads and ramps a test changes at will, and which records every write.
+class FakeGammaHardware : public GammaHardware {
+  public:
+    /// Adds a head with a ramp of that size; the CRTC keeps a ramp that it has.
+    void add(const std::string& connector, std::uint32_t crtc, std::uint32_t size = 256) {
+        Head head;
+        head.connector = connector;
+        head.crtc = crtc;
+        head.rampSize = size;
+        head.bounds = {100.0 * static_cast<double>(heads.size()), 0, 100, 100};
+        head.modeGeneration = ++modes;
+        heads.push_back(head);
+        if (isUsableRampSize(size)) {
+            ramps.try_emplace(crtc, identityRamp(size));
+        }
+        ++generation;
+    }
+    /// Sets the same mode again.
+    void setMode(const std::string& connector) {
+        for (Head& head : heads) {
+            if (head.connector == connector) {
+                head.modeGeneration = ++modes;
+            }
+        }
+        ++generation;
+    }
+    void remove(const std::string& connector) {
+        std::erase_if(heads, [&](const Head& head) { return head.connector == connector; });
+        ++generation;
+    }
+
+    std::string_view name() const override { return "fake"; }
+    std::uint64_t topologyGeneration() override { return generation; }
+    bool listHeads(std::vector<Head>& listed) override {
+        listed = heads;
+        return lists;
+    }
+    bool readRamp(std::uint32_t crtc, Ramp& ramp) override {
+        if (reads) {
+            ramp = ramps.at(crtc);
+        }
+        if (const auto then = std::exchange(afterRead, nullptr)) {
+            then();
+        }
+        return reads;
+    }
+    bool writeRamp(std::uint32_t crtc, const Ramp& ramp) override {
+        Ramp& shown = ramps[crtc] = ramp;
+        for (auto* channel : {&shown.red, &shown.green, &shown.blue}) {
+            for (std::uint16_t& entry : *channel) {
+                entry &= keptBits;
+            }
+        }
+        writes.emplace_back(crtc, ramp);
+        writesNotProvidedFor += kept.count(crtc) == 0 ? 1 : 0;
+        return true;
+    }
+    void keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) override { kept[crtc] = ramp; }
+
+    std::vector<Head> heads;
+    std::map<std::uint32_t, Ramp> ramps; // by CRTC
+    std::vector<std::pair<std::uint32_t, Ramp>> writes;
+    std::map<std::uint32_t, Ramp> kept; // what each CRTC is to be given back
+    int writesNotProvidedFor = 0;       // before it was said what to give back
+    std::uint64_t generation = 1;
+    std::uint64_t modes = 0;         // set so far
+    std::function<void()> afterRead; // once, when set
+    bool lists = true;
+    bool reads = true;
+    std::uint16_t keptBits = 0xFFFF; // of every entry that is written
+};
 
 /// Display services over hardware in memory.
 class DisplayServicesFixture : public testing::Test {
@@ -30,25 +117,28 @@ class DisplayServicesFixture : public testing::Test {
     /// Starts the services on what the hardware shows now.
     void start(std::unique_ptr<CalibrationSource> calibrations = nullptr,
                RunLoop* runLoop = nullptr) {
-        services_ = std::make_unique<RampDisplayServices>(
-            std::make_unique<FakeGammaHardware>(hardware_), std::move(calibrations), runLoop);
+        services_ = std::make_unique<RampDisplayServices>(std::move(ownedHardware_),
+                                                          std::move(calibrations), runLoop);
         setDisplayServices(services_.get());
+    }
+    void add(const std::string& connector, std::uint32_t crtc, const Ramp& ramp) {
+        hardware_.add(connector, crtc, static_cast<std::uint32_t>(ramp.size()));
+        hardware_.ramps[crtc] = ramp;
     }
     CGDirectDisplayID id(std::size_t index) { return services_->onlineDisplays()->at(index).id; }
     CGDirectDisplayID id(const std::string& connector) {
-        for (const DisplayInfo& info : *services_->onlineDisplays()) {
-            if (info.name == connector) {
-                return info.id;
-            }
-        }
-        return 0;
+        const auto& all = *services_->onlineDisplays();
+        return std::find_if(all.begin(), all.end(),
+                            [&](const auto& each) { return each.name == connector; })
+            ->id;
     }
     static std::unique_ptr<NDScreenController> inverting(CGDirectDisplayID display) {
         return NDScreenController::screenControllerWithEffect(std::make_shared<NDInvertEffect>(),
                                                               display);
     }
 
-    FakeGammaHardwareState hardware_;
+    std::unique_ptr<FakeGammaHardware> ownedHardware_ = std::make_unique<FakeGammaHardware>();
+    FakeGammaHardware& hardware_ = *ownedHardware_;
     std::unique_ptr<RampDisplayServices> services_;
 };
 

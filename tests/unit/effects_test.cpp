@@ -1,6 +1,5 @@
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
-#include "effects/effect_registry.h"
 #include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
@@ -11,13 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
-#include <chrono>
-#include <cmath>
-#include <functional>
 
 namespace nocturo {
-
 namespace {
 
 class Effects : public testing::Test {
@@ -38,41 +34,50 @@ class Effects : public testing::Test {
     NDGroupEffect group_;
 };
 
-std::array<ZQGammaTable*, 3> tablesOf(ZQGammaCurve& curve) {
-    return {&curve.redTable, &curve.greenTable, &curve.blueTable};
-}
-
-ZQGammaCurve curveFrom(const expected::Curve& expectedCurve) {
+ZQGammaCurve curveFrom(const expected::Curve& bits) {
     ZQGammaCurve curve;
     curve.sampleCount = 256;
+    const std::array tables{&curve.redTable, &curve.greenTable, &curve.blueTable};
     for (std::size_t channel = 0; channel < 3; ++channel) {
-        for (std::size_t i = 0; i < 256; ++i) {
-            (*tablesOf(curve)[channel])[i] =
-                std::bit_cast<float>(expectedCurve.singles[channel][i]);
-        }
+        std::transform(bits.singles[channel].begin(), bits.singles[channel].end(),
+                       tables[channel]->begin(),
+                       [](std::uint32_t single) { return std::bit_cast<float>(single); });
     }
     return curve;
 }
 
-void expectBits(ZQGammaCurve& curve, const expected::Curve& expectedCurve) {
-    for (std::size_t channel = 0; channel < 3; ++channel) {
-        for (std::size_t i = 0; i < 256; ++i) {
-            const float entry = (*tablesOf(curve)[channel])[i];
-            const float wanted = std::bit_cast<float>(expectedCurve.singles[channel][i]);
-            // Equal as numbers: the calculation in rationals knows no negative zero.
-            ASSERT_EQ(entry, wanted) << "channel " << channel << " entry " << i;
-        }
+// Equal as numbers: the calculation in rationals knows no negative zero.
+void expectBits(const ZQGammaCurve& curve, const expected::Curve& bits) {
+    const ZQGammaCurve wanted = curveFrom(bits);
+    for (std::size_t i = 0; i < 256; ++i) {
+        ASSERT_EQ(curve.redTable[i], wanted.redTable[i]) << "entry " << i;
+        ASSERT_EQ(curve.greenTable[i], wanted.greenTable[i]) << "entry " << i;
+        ASSERT_EQ(curve.blueTable[i], wanted.blueTable[i]) << "entry " << i;
     }
 }
 
+TEST(GammaCurve, EachChannelHasItsTargetAndWeightButBlueTheRangeOfGreen) {
+    ZQGammaCurve curve;
+    curve.sampleCount = 1;
+    curve.redTable[0] = curve.greenTable[0] = curve.blueTable[0] = 0.25F;
+    ZQGammaCurveBlend(&curve, {0.9F, 0.5F, 0.7F}, {0.0F, 1.0F, 0.5F});
+    EXPECT_EQ(curve.redTable[0], 0.25F);
+    EXPECT_EQ(curve.greenTable[0], 0.5F);
+    EXPECT_FLOAT_EQ(curve.blueTable[0], 0.475F);
+    ZQGammaCurveMapRange(&curve, {0.5F, 0.5F, 0.0F}, {1.5F, 2.5F, 9.0F});
+    EXPECT_FLOAT_EQ(curve.redTable[0], 0.75F);
+    EXPECT_FLOAT_EQ(curve.greenTable[0], 1.5F);
+    EXPECT_FLOAT_EQ(curve.blueTable[0], 1.45F);
+}
+
+void check(NDEffect&& effect, const expected::Curve& before, const expected::Curve& after) {
+    SCOPED_TRACE(std::string(effect.name()));
+    ZQGammaCurve curve = curveFrom(before);
+    effect.applyEffectOnGammaCurve(&curve, -1.0);
+    expectBits(curve, after);
+}
+
 TEST_F(Effects, EveryEffectIsExactToTheLastBit) {
-    const auto check = [](NDEffect&& effect, const expected::Curve& before,
-                          const expected::Curve& after) {
-        SCOPED_TRACE(std::string(effect.name()));
-        ZQGammaCurve curve = curveFrom(before);
-        effect.applyEffectOnGammaCurve(&curve, -1.0);
-        expectBits(curve, after);
-    };
     using namespace expected;
     check(NDInvertEffect::effect(), plain, inverted);
     check(NDHideStripesEffect::effect(), plain, overexposed);
@@ -90,111 +95,35 @@ TEST_F(Effects, AGroupAppliesItsEffectsByPriorityWhateverTheirOrder) {
     NDDimEffect::setLevel(-0.3F);
     NDColorFilterEffect::setHue(200.5F);
     NDColorFilterEffect::setVividness(0.7F);
-    select({"NDHDTVLuminanceEffect", "NDColorFilterEffect", "NDDimEffect", "NDHideStripesEffect",
-            "NDInvertEffect"});
+    // Names without an effect and the group itself are passed over.
+    select({"NDHDTVLuminanceEffect", "NDColorFilterEffect", "NDNoSuchEffect", "NDDimEffect",
+            "NDGroupEffect", "NDHideStripesEffect", "NDInvertEffect"});
+    check(NDGroupEffect(), expected::plain, expected::allFive);
     ZQGammaCurve curve = curveFrom(expected::plain);
-    group_.applyEffectOnGammaCurve(&curve, 0.0);
-    expectBits(curve, expected::allFive);
-
-    curve = curveFrom(expected::plain);
     group_.applyEffectOnGammaCurve(&curve); // the form without a time does nothing
-    expectBits(curve, expected::plain);
-}
-
-TEST_F(Effects, OverexposureKeepsTheOrderOfEveryLengthAndItsNegatives) {
-    for (const std::uint32_t count : {0U, 1U, 2U, 3U, 4U, 255U, 256U}) {
-        ZQGammaCurve curve;
-        curve.sampleCount = count;
-        for (std::uint32_t i = 0; i < count; ++i) {
-            const float falling = 1.0F - static_cast<float>(i) / 256.0F;
-            curve.redTable[i] = curve.greenTable[i] = curve.blueTable[i] = falling;
-        }
-        curve.redTable[0] = std::nanf(""); // a start that is no number counts as bright
-        NDHideStripesEffect::effect().applyEffectOnGammaCurve(&curve);
-        for (std::uint32_t i = 1; i < count; ++i) {
-            ASSERT_NEAR(curve.greenTable[i], 1.0 - 1.1 * i / 256.0, 1e-6) << count << " " << i;
-        }
-    }
-}
-
-TEST_F(Effects, ColorFilterPassesWhatLiesNearItsHue) {
-    const NDColorFilterEffect filter;
-    constexpr float kGreen = 1.0F / 3.0F;
-    EXPECT_EQ(filter.colorAmmountForHue(60, 0), 1.0F);
-    EXPECT_NEAR(filter.colorAmmountForHue(60, kGreen), 1.0, 1e-6);
-    EXPECT_NEAR(filter.colorAmmountForHue(90, 0), 0.5, 1e-6);
-    EXPECT_NEAR(filter.colorAmmountForHue(120, 0), 0.0, 1e-6);
-    EXPECT_EQ(filter.colorAmmountForHue(180, 0), 0.0F);
-    EXPECT_EQ(filter.colorAmmountForHue(360, 0), 1.0F);
-    NDColorFilterEffect::setVividness(0.0F);
-    NDColorFilterEffect::setHue(200.0F);
-    ZQGammaCurve curve = curveFrom(expected::plain);
-    NDColorFilterEffect::effect().applyEffectOnGammaCurve(&curve);
     expectBits(curve, expected::plain);
 }
 
 TEST_F(Effects, TheSelectionLivesInTheStore) {
     NDGroupEffect::initialize();
-    NDGroupEffect other;
     EXPECT_EQ(group_.effectCount(), 0U);
     group_.setContains(true, "NDDimEffect");
     group_.addEffect("NDDimEffect");
-    group_.addEffect("NDNoSuchEffect");
-    EXPECT_EQ(other.effectCount(), 2U);
-    EXPECT_TRUE(other.containsEffect("NDDimEffect"));
-    EXPECT_GT(other.animationTimeInterval(), 0.0);
-
-    // Names without an effect and the group itself are passed over.
-    select({"NDNoSuchEffect", "NDGroupEffect", "NDInvertEffect"});
-    ZQGammaCurve curve = curveFrom(expected::plain);
-    group_.applyEffectOnGammaCurve(&curve, 0.0);
-    expectBits(curve, expected::inverted);
-
-    int writes = 0;
-    center_.addObserver(this, NSUserDefaultsDidChangeNotification, [&] { ++writes; });
-    other.removeEffect("NDDimEffect"); // not in it: nothing is written
-    EXPECT_EQ(writes, 0);
-    other.setContains(false, "NDNoSuchEffect");
-    EXPECT_EQ(writes, 1);
-    EXPECT_FALSE(group_.containsEffect("NDNoSuchEffect"));
-    center_.removeObserver(this);
+    EXPECT_EQ(NDGroupEffect().effectCount(), 1U);
+    group_.removeEffect("NDInvertEffect"); // not in it
+    group_.setContains(false, "NDDimEffect");
+    EXPECT_EQ(group_.effectCount(), 0U);
 
     // A duplicate can only come from an edited file; the entry behind a removed one is skipped.
     select({"NDDimEffect", "NDDimEffect", "NDInvertEffect"});
     group_.removeEffect("NDDimEffect");
     EXPECT_EQ(group_.effectCount(), 2U);
     EXPECT_TRUE(group_.containsEffect("NDDimEffect"));
-
     store_->setBool(true, "NDGroupEffect"); // not an array: nothing to add to
     group_.addEffect("NDDimEffect");
     EXPECT_EQ(group_.effectCount(), 0U);
     EXPECT_NE(store_->arrayForKey("NDGroupEffect"), nullptr);
 }
 
-TEST_F(Effects, NamesPrioritiesAndIntervals) {
-    const std::pair<const char*, int> all[] = {
-        {"NDInvertEffect", 10},      {"NDHideStripesEffect", 13},   {"NDDimEffect", 20},
-        {"NDColorFilterEffect", 30}, {"NDHDTVLuminanceEffect", 40}, {"NDGroupEffect", 0}};
-    std::pmr::monotonic_buffer_resource memory;
-    for (const auto& [name, priority] : all) {
-        const NDEffect* effect = effectNamed(name, memory);
-        ASSERT_NE(effect, nullptr) << name;
-        EXPECT_EQ(effect->name(), name);
-        EXPECT_EQ(effect->priority(), priority);
-    }
-    EXPECT_EQ(effectNamed("NDEffect", memory), nullptr);
-    using enum NSComparisonResult;
-    const NDInvertEffect invert;
-    EXPECT_EQ(invert.priorityCompare(NDDimEffect()), NSOrderedAscending);
-    EXPECT_EQ(invert.priorityCompare(group_), NSOrderedDescending);
-    EXPECT_EQ(invert.priorityCompare(invert), NSOrderedSame);
-    // 1 January 4001 is 64092211200 seconds after the epoch.
-    const double now =
-        std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
-    EXPECT_NEAR(invert.animationTimeInterval(), 64092211200.0 - now, 5.0);
-    EXPECT_NEAR(group_.animationTimeInterval(), (64092211200.0 - now) / 2, 5.0);
-}
-
 } // namespace
-
 } // namespace nocturo

@@ -7,9 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace nocturo {
 
@@ -18,12 +18,11 @@ class FakeRunLoop final : public RunLoop {
   public:
     std::unique_ptr<Timer> scheduleRepeatingTimer(std::chrono::milliseconds interval,
                                                   std::function<void()> action) override {
-        return schedule(interval, interval, std::move(action));
+        return schedule({interval, interval, std::move(action)});
     }
-
     std::unique_ptr<Timer> scheduleTimer(std::chrono::milliseconds delay,
                                          std::function<void()> action) override {
-        return schedule(delay, {}, std::move(action));
+        return schedule({delay, std::chrono::milliseconds(0), std::move(action)});
     }
 
     /// Lets time pass and fires what falls due, in the order of due times and then of scheduling.
@@ -31,59 +30,54 @@ class FakeRunLoop final : public RunLoop {
     void advance(std::int64_t milliseconds) {
         const std::chrono::milliseconds end = now_ + std::chrono::milliseconds(milliseconds);
         for (;;) {
-            const auto next = std::min_element(
-                entries_->begin(), entries_->end(),
-                [](const auto& a, const auto& b) { return a.second.due < b.second.due; });
-            if (next == entries_->end() || next->second.due > end) {
+            const auto timers = pending();
+            const auto next =
+                std::min_element(timers.begin(), timers.end(),
+                                 [](const auto& a, const auto& b) { return a->due < b->due; });
+            if (next == timers.end() || (*next)->due > end) {
                 break;
             }
-            now_ = next->second.due;
-            const std::function<void()> action = next->second.action;
-            if (next->second.interval.count() > 0) {
-                next->second.due += next->second.interval;
-            } else {
-                entries_->erase(next);
-            }
-            action();
+            Entry& entry = **next;
+            now_ = entry.due;
+            entry.due += entry.interval;
+            entry.isPending = entry.interval.count() > 0;
+            entry.action();
         }
         now_ = end;
     }
 
     /// Timers that have yet to fire.
-    std::size_t pendingTimers() const { return entries_->size(); }
-
-    /// Since the loop was made.
-    std::chrono::milliseconds now() const { return now_; }
+    std::size_t pendingTimers() const { return pending().size(); }
 
   private:
     struct Entry {
         std::chrono::milliseconds due;
         std::chrono::milliseconds interval; // 0 for a single shot
         std::function<void()> action;
+        bool isPending = true;
     };
-    using Entries = std::map<std::uint64_t, Entry>; // by order of scheduling
-
     struct FakeTimer final : Timer {
-        FakeTimer(std::shared_ptr<Entries> allEntries, std::uint64_t ownNumber)
-            : entries(std::move(allEntries)), number(ownNumber) {}
-        ~FakeTimer() override { entries->erase(number); }
-        FakeTimer(const FakeTimer&) = delete;
-        FakeTimer& operator=(const FakeTimer&) = delete;
-
-        std::shared_ptr<Entries> entries; // timers may outlive the loop
-        std::uint64_t number;
+        explicit FakeTimer(std::shared_ptr<Entry> own) : entry(std::move(own)) {}
+        std::shared_ptr<Entry> entry; // gone with the timer
     };
 
-    std::unique_ptr<Timer> schedule(std::chrono::milliseconds delay,
-                                    std::chrono::milliseconds interval,
-                                    std::function<void()> action) {
-        const std::uint64_t number = ++lastNumber_;
-        entries_->emplace(number, Entry{now_ + delay, interval, std::move(action)});
-        return std::make_unique<FakeTimer>(entries_, number);
+    std::unique_ptr<Timer> schedule(Entry entry) {
+        entry.due += now_;
+        auto timer = std::make_unique<FakeTimer>(std::make_shared<Entry>(std::move(entry)));
+        entries_.push_back(timer->entry);
+        return timer;
+    }
+    std::vector<std::shared_ptr<Entry>> pending() const {
+        std::vector<std::shared_ptr<Entry>> found;
+        for (const auto& each : entries_) {
+            if (auto entry = each.lock(); entry != nullptr && entry->isPending) {
+                found.push_back(std::move(entry));
+            }
+        }
+        return found;
     }
 
-    std::shared_ptr<Entries> entries_ = std::make_shared<Entries>();
-    std::uint64_t lastNumber_ = 0;
+    std::vector<std::weak_ptr<Entry>> entries_; // in the order of scheduling
     std::chrono::milliseconds now_{0};
 };
 

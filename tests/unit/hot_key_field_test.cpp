@@ -25,7 +25,6 @@ struct Key {
 };
 constexpr Key kK{Qt::Key_K, 45, "k"};
 constexpr Key kF5{Qt::Key_F5, 71};
-constexpr Key kTab{Qt::Key_Tab, 23, "\t"};
 constexpr Key kReturn{Qt::Key_Return, 36, "\r"};
 constexpr Key kEscape{Qt::Key_Escape, 9, "\x1b"};
 
@@ -50,20 +49,13 @@ class HotKeyField : public testing::Test {
         before.setFocus();
     }
     static void send(QEvent::Type type, const Key& key, Qt::KeyboardModifiers modifiers = {},
-                     quint32 native = 0, bool repeat = false) {
-        QKeyEvent event(type, key.qtKey, modifiers, key.scanCode, 0, native, key.text, repeat);
+                     bool repeat = false) {
+        QKeyEvent event(type, key.qtKey, modifiers, key.scanCode, 0, 0, key.text, repeat);
         QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
-    static void press(const Key& key, Qt::KeyboardModifiers modifiers = {}, quint32 native = 0) {
-        send(QEvent::KeyPress, key, modifiers, native);
-    }
-    static void type(const Key& key, Qt::KeyboardModifiers modifiers = {}, quint32 native = 0) {
-        press(key, modifiers, native);
-        send(QEvent::KeyRelease, key, modifiers, native);
-    }
-
-    static void click(QWidget& widget, QPoint position = {}) {
-        QTest::mouseClick(&widget, Qt::LeftButton, {}, position);
+    static void type(const Key& key, Qt::KeyboardModifiers modifiers = {}) {
+        send(QEvent::KeyPress, key, modifiers);
+        send(QEvent::KeyRelease, key, modifiers);
     }
 
     std::string said;
@@ -79,40 +71,38 @@ TEST_F(HotKeyField, RecordsKeysWithAModifierAndFunctionKeysAlone) {
     struct Case {
         Key key;
         Qt::KeyboardModifiers modifiers;
-        quint32 native;
-        int keyCode; // -1: nothing is recorded and the recording goes on
+        int keyCode;
         std::uint64_t flags;
         const char* text;
     };
     const Qt::KeyboardModifiers none;
-    for (const auto& [key, modifiers, native, keyCode, flags, text] : {
-             Case{kK, Qt::ShiftModifier | Qt::MetaModifier, 0, 40, 0x120000, "⇧⌘K"},
-             Case{kK, Qt::ControlModifier | Qt::AltModifier, 2, 40, 0xD0000, "⌃⌥K"},
-             Case{kK, none, 0, -1, 0, ""}, Case{kK, Qt::KeypadModifier, 2, -1, 0, ""},
-             Case{kF5, none, 0, 96, 0x800000, "F5"},
-             Case{{Qt::Key_Left, 113}, Qt::KeypadModifier, 0, 123, 0x800000, "←"},
-             Case{{Qt::Key_Delete, 119, "\x7f"}, none, 0, 117, 0x800000, "⌦"},
-             Case{{Qt::Key_Backspace, 22, "\b"}, none, 0, -1, 0, ""},
-             Case{kReturn, Qt::ControlModifier, 0, 36, 0x40000, "⌃↩"},
-             Case{kEscape, Qt::MetaModifier, 0, 53, 0x100000, "⌘⎋"},
-             Case{{Qt::Key_ssharp, 20, "ß"}, Qt::AltModifier, 0, 27, 0x80000, "⌥SS"},
-             Case{{Qt::Key_Dead_Acute, 21}, Qt::AltModifier, 0, 24, 0x80000, "⌥"},
-             Case{{Qt::Key_Shift, 50}, Qt::ShiftModifier | Qt::ControlModifier, 0, -1, 0, ""},
-             Case{{Qt::Key_unknown, 66}, Qt::ShiftModifier, 0, -1, 0, ""}, // a level 5 shift
-             Case{{Qt::Key_K, 0, "k"}, Qt::MetaModifier, 0, -1, 0, ""},    // no key position
+    for (const auto& [key, modifiers, keyCode, flags, text] : {
+             Case{kK, Qt::ShiftModifier | Qt::MetaModifier, 40, 0x120000, "⇧⌘K"},
+             Case{kK, Qt::ControlModifier | Qt::AltModifier, 40, 0xC0000, "⌃⌥K"},
+             Case{kF5, none, 96, 0x800000, "F5"},
+             Case{{Qt::Key_Left, 113}, Qt::KeypadModifier, 123, 0x800000, "←"},
+             Case{{Qt::Key_Delete, 119, "\x7f"}, none, 117, 0x800000, "⌦"},
+             Case{kReturn, Qt::ControlModifier, 36, 0x40000, "⌃↩"},
+             Case{kEscape, Qt::MetaModifier, 53, 0x100000, "⌘⎋"},
+             Case{{Qt::Key_ssharp, 20, "ß"}, Qt::AltModifier, 27, 0x80000, "⌥SS"},
+             Case{{Qt::Key_Dead_Acute, 21}, Qt::AltModifier, 24, 0x80000, "⌥"},
          }) {
         field->startRecording();
-        const auto old = field->hotKey();
-        type(key, modifiers, native);
-        EXPECT_EQ(field->isRecording(), keyCode < 0) << key.scanCode;
-        if (keyCode < 0) {
-            EXPECT_EQ(field->hotKey(), old);
-            continue;
-        }
+        type(key, modifiers);
+        EXPECT_FALSE(field->isRecording()) << text;
         EXPECT_EQ(field->hotKey()->keyCode(), keyCode);
-        EXPECT_EQ(field->hotKey()->modifierFlags(), flags) << key.scanCode;
+        EXPECT_EQ(field->hotKey()->modifierFlags(), flags) << text;
         EXPECT_EQ(field->text().toStdString(), text);
     }
+    const auto old = field->hotKey();
+    field->startRecording();
+    type(kK);
+    type({Qt::Key_Backspace, 22, "\b"});
+    type({Qt::Key_Shift, 50}, Qt::ShiftModifier | Qt::ControlModifier);
+    type({Qt::Key_unknown, 66}, Qt::ShiftModifier); // a level 5 shift
+    type({Qt::Key_K, 0, "k"}, Qt::MetaModifier);    // no key position
+    EXPECT_TRUE(field->isRecording());
+    EXPECT_EQ(field->hotKey(), old);
 }
 
 TEST_F(HotKeyField, ReturnKeepsAndEscapePutsBack) {
@@ -132,62 +122,27 @@ TEST_F(HotKeyField, ReturnKeepsAndEscapePutsBack) {
     }
     type(kReturn); // starts again; what is recorded does what the old one did
     type(kF5, Qt::MetaModifier);
-    EXPECT_TRUE(field->accessibleDescription().startsWith("Super+F5."));
     ASSERT_NE(field->hotKey(), first);
     field->hotKey()->invokeWithEvent({});
     EXPECT_EQ(runs, 1);
-
-    field->setHotKey(nullptr);
-    field->startRecording();
-    type({Qt::Key_Escape, 66, "\x1b"}); // a layout with Escape in the place of caps lock
-    EXPECT_EQ(field->text(), "A");
-    EXPECT_EQ(field->hotKey(), nullptr);
-    before.setFocus();
-    field->setFocus(Qt::ActiveWindowFocusReason);
-    EXPECT_FALSE(field->isRecording()) << "the user only came back to the window";
-}
-
-// What the application's shortcuts and buttons get is seen where a real server sends the keys.
-TEST_F(HotKeyField, TabPassesThroughUntilAnotherKeyIsPressed) {
-    for (const auto& [key, modifiers, next] :
-         {std::tuple(Qt::Key_Tab, Qt::NoModifier, &after),
-          std::tuple(Qt::Key_Backtab, Qt::ShiftModifier, &before)}) {
-        for (const bool recording : {true, false}) {
-            QTest::keyClick(window.windowHandle(), key, modifiers);
-            EXPECT_EQ(field->isRecording(), recording);
-        }
-        EXPECT_TRUE(next->hasFocus());
-    }
-    EXPECT_EQ(field->hotKey(), nullptr);
-    QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
-    type(kK);
-    type(kTab, Qt::ShiftModifier);
-    EXPECT_EQ(field->text(), "⇧⇥");
 }
 
 TEST_F(HotKeyField, ReturnsTheKeysWhenTheLastOneIsUp) {
-    for (const Key& ending : {kK, kReturn}) {
-        said.clear();
-        field->startRecording();
-        press(ending, ending.qtKey == Qt::Key_K ? Qt::MetaModifier : Qt::NoModifier);
-        for (const auto event : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            send(event, ending, {}, 0, true); // how Qt reports that a key repeats
-        }
-        EXPECT_EQ(said, "started edited ") << "a repeat may fire the new hot key or start again";
-        EXPECT_FALSE(field->isRecording());
-        send(QEvent::KeyRelease, ending);
-        EXPECT_EQ(said, "started edited ended ");
-    }
-    said.clear();
     field->startRecording();
-    press(kF5);
-    press(kK); // F5 was released elsewhere
+    send(QEvent::KeyPress, kK, Qt::MetaModifier);
+    for (const auto event : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        send(event, kK, {}, true); // how Qt reports that a key repeats
+    }
+    EXPECT_EQ(said, "started edited ") << "a repeat may fire the new hot key or start again";
+    EXPECT_FALSE(field->isRecording());
+    send(QEvent::KeyRelease, kK);
     EXPECT_EQ(said, "started edited ended ");
 }
 
 TEST_F(HotKeyField, EndsHoweverTheFieldIsLeft) {
     for (const auto& leave : std::initializer_list<std::function<void()>>{
-             [&] { click(after); }, [&] { click(window, QPoint(1, window.height() - 1)); },
+             [&] { QTest::mouseClick(&after, Qt::LeftButton); },
+             [&] { QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint(1, 1)); },
              [&] { field->setEnabled(false); }, [&] { field->hide(); },
              [&] { other.startRecording(); }}) {
         field->setEnabled(true);
@@ -200,19 +155,11 @@ TEST_F(HotKeyField, EndsHoweverTheFieldIsLeft) {
         EXPECT_EQ(said, "edited ended ");
     }
     EXPECT_TRUE(other.isRecording());
-}
-
-TEST_F(HotKeyField, EndsWhenItIsDestroyedBeforeTheKeyIsUp) {
     field->startRecording();
-    press(kF5);
-    delete field;
-    EXPECT_EQ(said, "started edited ended ");
-}
-
-TEST_F(HotKeyField, EndsWhenItIsDestroyed) {
-    field->startRecording();
-    delete field;
-    EXPECT_EQ(said, "started ended ");
+    said.clear();
+    send(QEvent::KeyPress, kF5);
+    delete field; // before the key is up
+    EXPECT_EQ(said, "edited ended ");
 }
 
 } // namespace

@@ -1,57 +1,62 @@
-// The main menu, the documents that it remembers and the status item's images, drawn into memory.
+// The main menu with the documents that it remembers, and the run of screens in other menus.
 
 #include "app/menus/main_menu.h"
-#include "app/menus/status_image.h"
 #include "app/recent_documents.h"
+#include "display_services_fixture.h"
+#include "platform/notification_center.h"
+#include "platform/notification_names.h"
+#include "platform/settings/defaults_store.h"
+#include "preferences/menus/screen_option_menu_manager.h"
 #include "temporary_directory.h"
 
 #include <QApplication>
 #include <QImage>
+#include <QMenu>
 #include <QPainter>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
-#include <fstream>
+#include <optional>
 
 namespace nocturo {
-
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class RecentlyOpened : public testing::Test {
   protected:
     std::string document(const std::string& name) {
-        const auto path = directory_.path() / name;
-        std::ofstream(path) << "anything";
-        return path;
+        writeText(directory / name, "anything");
+        return directory / name;
     }
 
-    TemporaryDirectory directory_;
-    RecentDocuments documents_{directory_.path() / "state" / "recent.plist"};
+    TemporaryDirectory directory;
+    RecentDocuments documents{directory / "state/recent.plist"};
 };
 
 TEST_F(RecentlyOpened, TheLatestComesFirstAndWhatIsGoneIsLeftOut) {
-    EXPECT_TRUE(documents_.paths().empty());
+    EXPECT_THAT(documents.paths(), IsEmpty());
     const std::string a = document("a");
     const std::string b = document("b");
     for (const std::string& path : {a, b, a}) {
-        documents_.note(path);
+        documents.note(path);
     }
-    EXPECT_THAT(documents_.paths(), ElementsAre(a, b));
+    EXPECT_THAT(documents.paths(), ElementsAre(a, b));
     std::filesystem::remove(a);
-    EXPECT_THAT(documents_.paths(), ElementsAre(b));
+    EXPECT_THAT(documents.paths(), ElementsAre(b));
     for (int i = 0; i < 12; ++i) {
-        documents_.note(document(std::to_string(i)));
+        documents.note(document(std::to_string(i)));
     }
-    EXPECT_EQ(documents_.paths().size(), 10U);
-    EXPECT_EQ(documents_.paths()[0], (directory_.path() / "11").string());
-    std::ofstream(directory_.path() / "state" / "recent.plist") << "damaged";
-    EXPECT_TRUE(documents_.paths().empty());
+    EXPECT_EQ(documents.paths().size(), 10U);
+    EXPECT_EQ(documents.paths()[0], directory / "11");
+    writeText(directory / "state/recent.plist", "damaged");
+    EXPECT_THAT(documents.paths(), IsEmpty());
 }
 
 TEST_F(RecentlyOpened, EveryItemOfTheMainMenuCanBeTyped) {
-    const MainMenu menu(documents_, {});
+    const MainMenu menu(documents, {});
     const auto items = menu.bar()->findChildren<QAction*>();
     EXPECT_GE(items.size(), 10);
     for (const QAction* item : items) {
@@ -64,48 +69,126 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     QString opened;
     MainMenu::Handlers handlers;
     handlers.openRecentDocument = [&](const QString& path) { opened = path; };
-    const MainMenu menu(documents_, handlers);
-    QMenu* recent = nullptr;
-    for (QMenu* each : menu.bar()->findChildren<QMenu*>()) {
-        if (each->title().contains(QStringLiteral("Recent"))) {
-            recent = each;
-        }
-    }
-    ASSERT_NE(recent, nullptr);
-    const std::string path = document("R&D.nocturo");
-    documents_.note(path);
-    Q_EMIT recent->aboutToShow();
-    ASSERT_EQ(recent->actions().size(), 3); // the document, a separator, Clear Menu
-    EXPECT_EQ(recent->actions()[0]->text(), QStringLiteral("R&&D.nocturo"));
-    recent->actions()[0]->trigger();
-    EXPECT_EQ(opened.toStdString(), path);
-    recent->actions()[2]->trigger();
-    EXPECT_TRUE(documents_.paths().empty());
-    Q_EMIT recent->aboutToShow();
-    EXPECT_FALSE(recent->actions().last()->isEnabled());
+    const MainMenu menu(documents, handlers);
+    const auto menus = menu.bar()->findChildren<QMenu*>();
+    QMenu& recent = **std::find_if(menus.begin(), menus.end(), [](const QMenu* each) {
+        return each->title().contains("Recent");
+    });
+    documents.note(document("R&D.nocturo"));
+    Q_EMIT recent.aboutToShow();
+    ASSERT_EQ(recent.actions().size(), 3); // the document, a separator, Clear Menu
+    EXPECT_EQ(recent.actions()[0]->text(), "R&&D.nocturo");
+    recent.actions()[0]->trigger();
+    EXPECT_EQ(opened.toStdString(), directory / "R&D.nocturo");
+    recent.actions()[2]->trigger();
+    EXPECT_THAT(documents.paths(), IsEmpty());
 }
 
-TEST(StatusImages, AreTheirNamesInThePanelsColor) {
-    EXPECT_TRUE(statusImage(QStringLiteral("NDOther"), Qt::black).isNull());
-    for (const int side : {16, 22, 48}) {
-        const auto inked = [&](const char* name) {
-            const QImage image = statusImage(QLatin1String(name), Qt::red)
-                                     .pixmap(side)
-                                     .toImage()
-                                     .convertToFormat(QImage::Format_ARGB32);
-            int count = 0;
-            for (int y = 0; y < side; ++y) {
-                for (int x = 0; x < side; ++x) {
-                    const QColor color = image.pixelColor(x, y);
-                    EXPECT_TRUE(color.alpha() == 0 || color.rgb() == QColor(Qt::red).rgb());
-                    count += color.alpha() > 127 ? 1 : 0;
-                }
-            }
-            return static_cast<double>(count) / (side * side);
-        };
-        EXPECT_NEAR(inked(kStatusTemplate), 0.5, 0.08) << side;
-        EXPECT_GT(inked(kStatusActiveTemplate), inked(kStatusTemplate) + 0.15) << side;
+class ScreenOptionMenu : public DisplayServicesFixture {
+  protected:
+    ScreenOptionMenu() {
+        for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
+            hardware_.add("D" + std::to_string(crtc), crtc);
+        }
+        start();
+        menu.addAction("above");
+        menu.addAction("below");
     }
+
+    void make(bool separator = false, bool hideSingular = false) {
+        QAction* above = menu.actions().front();
+        manager.emplace(store, center, menu, above, &title, separator, hideSingular, 0);
+    }
+    std::int64_t number(std::size_t index) { return id(index); }
+    void removeDisplay(const char* name) {
+        hardware_.remove(name);
+        center.post(NSApplicationDidChangeScreenParametersNotification);
+    }
+    /// The menu's texts with checked ones in brackets, separators as a line.
+    std::string shown() const {
+        QStringList texts;
+        for (const QAction* item : menu.actions()) {
+            texts << (item->isSeparator() ? "-"
+                      : item->isChecked() ? "[" + item->text() + "]"
+                                          : item->text());
+        }
+        return texts.join(" ").toStdString();
+    }
+    QAction* item(qsizetype index) const { return menu.actions().at(index); }
+    void click(qsizetype index) {
+        menu.popup({});
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(item(index)).center());
+    }
+
+    NotificationCenter center;
+    DefaultsStore store{center};
+    QMenu menu;
+    QAction title;
+    std::optional<NDScreenOptionMenuManager> manager;
+};
+
+TEST_F(ScreenOptionMenu, FollowsTheSetAndSumsItUp) {
+    make();
+    for (const auto& [set, run, summary] :
+         {std::tuple(PropertyArray{number(1)}, "All Screens Screen 1 [Screen 2] Screen 3",
+                     "Screen 2"),
+          std::tuple(PropertyArray{number(2), 7LL, number(0)},
+                     "All Screens [Screen 1] Screen 2 [Screen 3]", "Screen 1, 3"),
+          std::tuple(PropertyArray{7LL}, "All Screens Screen 1 Screen 2 Screen 3", "None"),
+          std::tuple(PropertyArray{}, "[All Screens] Screen 1 Screen 2 Screen 3", "All Screens")}) {
+        store.setObject(set, "AffectedScreenSet");
+        EXPECT_EQ(shown(), std::string("above ") + run + " below");
+        EXPECT_EQ(title.text(), summary);
+    }
+    EXPECT_EQ(item(3)->toolTip(), "D2");
+}
+
+TEST_F(ScreenOptionMenu, FollowsTheArrangement) {
+    make();
+    store.setObject(PropertyArray{number(2)}, "AffectedScreenSet");
+    removeDisplay("D1");
+    EXPECT_EQ(shown(), "above All Screens Screen 1 [Screen 2] below");
+    EXPECT_EQ(item(3)->toolTip(), "D3");
+    for (std::uint32_t crtc = 4; crtc <= 13; ++crtc) {
+        hardware_.add("D" + std::to_string(crtc), crtc);
+    }
+    removeDisplay("D2");
+    EXPECT_EQ(menu.actions().size(), 2 + 1 + 10); // an eleventh display is not offered
+    hardware_.lists = false;
+    removeDisplay("D3");
+    EXPECT_EQ(shown(), "above All Screens below");
+    EXPECT_EQ(title.text(), "None");
+}
+
+TEST_F(ScreenOptionMenu, HidesTheRunOfASingleDisplayAlsoWhileThatIsPicked) {
+    make(true, true);
+    removeDisplay("D1");
+    EXPECT_EQ(shown(), "above [All Screens] - Screen 1 Screen 2 below");
+    QObject::connect(item(3), &QAction::triggered, &menu, [&] { removeDisplay("D2"); });
+    click(3);
+    EXPECT_EQ(shown(), "above below");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(menu.findChildren<QAction*>("", Qt::FindDirectChildrenOnly).size(), 3); // menuAction
+}
+
+TEST_F(ScreenOptionMenu, PicksToggleAndAllScreensResets) {
+    make();
+    store.setInteger(number(2), "AffectedScreens"); // as the older key alone says it
+    EXPECT_EQ(shown(), "above All Screens Screen 1 Screen 2 [Screen 3] below");
+    for (const auto& [index, run, last] :
+         {std::tuple(2, "All Screens [Screen 1] Screen 2 [Screen 3]", number(0)),
+          std::tuple(4, "All Screens [Screen 1] Screen 2 Screen 3", number(2)),
+          std::tuple(2, "[All Screens] Screen 1 Screen 2 Screen 3", number(0)),
+          std::tuple(3, "All Screens Screen 1 [Screen 2] Screen 3", number(1)),
+          std::tuple(1, "[All Screens] Screen 1 Screen 2 Screen 3", std::int64_t{0}),
+          std::tuple(1, "[All Screens] Screen 1 Screen 2 Screen 3", std::int64_t{0})}) {
+        click(index);
+        EXPECT_EQ(shown(), std::string("above ") + run + " below");
+        EXPECT_EQ(store.integerForKey("AffectedScreens"), last);
+    }
+    manager.reset();
+    click(2); // its items outlive it and do nothing
+    EXPECT_EQ(store.integerForKey("AffectedScreens"), 0);
 }
 
 /// The part of the pixels of two gray images that are clearly told apart.
@@ -140,5 +223,4 @@ TEST(StatusImages, AreSeenOnPanelsOfUnknownColor) {
 }
 
 } // namespace
-
 } // namespace nocturo

