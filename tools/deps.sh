@@ -37,7 +37,7 @@ packages=(
   trayer                    # a tray that embeds windows
   libglib2.0-bin            # gdbus, which speaks to menus
   xvfb                      # an X server with all-zero ramps
-  x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
+  x11-xserver-utils         # xrandr lights displays, xset starts screen savers, xmodmap moves keys
   locales                   # one with a comma in its numbers
   dbus-daemon               # buses of the tests' own
   colord                    # the tests' color manager
@@ -71,7 +71,7 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xwininfo trayer gdbus xscreensaver dbus-daemon python3)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr xset xmodmap setxkbmap xdotool xwininfo trayer gdbus xscreensaver dbus-daemon python3)
 modules=(libplist-2.0 glib-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 

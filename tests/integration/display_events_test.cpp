@@ -27,8 +27,6 @@ class DisplayEvents : public NocturoOnX {
         for (int display = 0; display < kDisplays; ++display) {
             setOwn(display);
         }
-    }
-    void SetUp() override {
         nocturo_ = session_.startNocturo();
         ctl({"set", "ContinuouslyApply", "false"});
         ctl({"effects", "only", "invert"});
@@ -36,48 +34,31 @@ class DisplayEvents : public NocturoOnX {
     }
     void setOwn(int display) { NocturoOnX::setOwn(display, ownRamp(display)); }
     void dockAndUndock(int rounds);
+
+    XServer& server_ = session_.server();
 };
 
-TEST_F(DisplayEvents, AModeChangeAppliesAtOnceAndOnceMore) {
-    const auto setMode = [&](std::uint32_t mode) {
-        client_.switchOn(client_.outputs()[1], mode, XServer::kWidth, 0);
-        setOwn(1); // as drivers do
-    };
-    // The second time is 0.05 seconds after the first; a busy machine may be late to look.
-    bool seen = false;
-    for (int attempt = 0; attempt < 5 && !seen; ++attempt) {
-        setMode(client_.createMode(320 + attempt, 200));
-        EXPECT_TRUE(becomes("iiii"));
-        setOwn(1);
-        seen = becomes("iiii", Milliseconds(1000));
-        setOwn(1);
-        EXPECT_FALSE(becomes("iiii", Milliseconds(200))) << "a third";
-    }
-    EXPECT_TRUE(seen);
-    ctl({"off"});
-    setMode(client_.createMode(300, 200));
-    EXPECT_FALSE(waitUntil([&] { return shown() != "oooo"; }, Milliseconds(200)));
-}
-
-TEST_F(DisplayEvents, DisplaysComeAndGo) {
-    auto& server = session_.server();
-    server.switchOff(2);
+TEST_F(DisplayEvents, DisplaysChangeComeAndGo) {
+    server_.run("xrandr", {"--fb", "5120x480", "--output", "DUMMY1", "--mode", "640x400"});
+    setOwn(1); // as drivers do
+    EXPECT_TRUE(becomes("iiii"));
+    server_.switchOff(2);
     setOwn(2);
-    server.switchOn(2);
+    server_.switchOn(2);
     EXPECT_TRUE(becomes("iiii"));
 
-    server.switchOff(1);
-    server.switchOff(3);
+    server_.switchOff(1);
+    server_.switchOff(3);
     ctl({"off"});
     EXPECT_EQ(shown(), "oooo");
     ctl({"on"});
     EXPECT_EQ(shown(), "ioio");
-    server.switchOn(1);
-    server.switchOn(3);
+    server_.switchOn(1);
+    server_.switchOn(3);
     EXPECT_TRUE(becomes("iiii"));
 
     const Channels own = ownRamp(100);
-    server.switchOn(6); // never seen before
+    server_.switchOn(6); // never seen before
     client_.setRamp(output(6), own);
     EXPECT_TRUE(waitUntil([&] { return client_.ramp(output(6))[0][0] == own[0][255]; }));
     ctl({"quit"});
@@ -89,7 +70,6 @@ TEST_F(DisplayEvents, DisplaysComeAndGo) {
 // Three of four displays leave and come back at once, while another client writes ramps, its own or
 // nonsense, to those that are there and those that are not.
 void DisplayEvents::dockAndUndock(int rounds) {
-    auto& server = session_.server();
     std::mt19937 random(4);
     const auto overwrite = [&] {
         const int display = static_cast<int>(random() % kDisplays);
@@ -97,12 +77,12 @@ void DisplayEvents::dockAndUndock(int rounds) {
     };
     for (int round = 0; round < rounds; ++round) {
         for (int display = 1; display < kDisplays; ++display) {
-            server.switchOff(display);
+            server_.switchOff(display);
             overwrite();
         }
         for (int display = 1; display < kDisplays; ++display) {
             overwrite();
-            server.switchOn(display);
+            server_.switchOn(display);
             setOwn(display); // as drivers do
         }
         ASSERT_TRUE(becomes("iiii")) << round << ": " << shown();

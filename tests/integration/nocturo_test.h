@@ -30,6 +30,18 @@ class NocturoTest : public testing::Test {
     }
     nlohmann::json status() { return nlohmann::json::parse(ctl({"status", "--json"}).output); }
 
+    /// xdotool's number of the first window with that in its title, once one is shown.
+    std::string windowCalled(const std::string& name) {
+        const auto ids = xdotool({"search", "--sync", "--onlyvisible", "--name", name});
+        return ids.substr(0, ids.find('\n'));
+    }
+    bool isShown(const std::string& name) {
+        return !xdotool({"search", "--onlyvisible", "--name", name}).empty();
+    }
+    std::string xdotool(const std::vector<std::string>& words) {
+        return session_.run("xdotool", words).output;
+    }
+
     Session session_;
     std::unique_ptr<Process> nocturo_;
 };

@@ -5,11 +5,8 @@
 
 #include <filesystem>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
-
-struct sd_bus;
 
 namespace nocturo::rig {
 
@@ -28,18 +25,9 @@ class ColorManager {
     void remove(const std::string& connector);
 
   private:
-    struct Close {
-        void operator()(sd_bus* bus) const;
-    };
-
-    std::string create(const char* method, const std::string& id,
-                       const std::map<std::string, std::string>& properties);
-
     SessionBus bus_;
     std::optional<Process> process_;
-    std::unique_ptr<sd_bus, Close> client_;      // displays and profiles are gone with it
     std::map<std::string, std::string> devices_; // object paths by connector
-    int profiles_ = 0;
 };
 
 } // namespace nocturo::rig

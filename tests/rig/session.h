@@ -2,6 +2,7 @@
 
 #include "rig/process.h"
 #include "rig/session_bus.h"
+#include "rig/x_client.h"
 #include "rig/x_server.h"
 #include "unit/temporary_directory.h"
 

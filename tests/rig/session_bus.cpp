@@ -36,18 +36,6 @@ Bus connectTo(const std::string& address) {
     return bus;
 }
 
-bool hasOwner(sd_bus* bus, const std::string& name) {
-    sd_bus_message* raw = nullptr;
-    check(sd_bus_call_method(bus, "org.freedesktop.DBus", "/org/freedesktop/DBus",
-                             "org.freedesktop.DBus", "NameHasOwner", nullptr, &raw, "s",
-                             name.c_str()),
-          "NameHasOwner");
-    const Message reply(raw);
-    int owned = 0;
-    check(sd_bus_message_read(raw, "b", &owned), "NameHasOwner");
-    return owned != 0;
-}
-
 } // namespace
 
 SessionBus::SessionBus() {
@@ -72,19 +60,16 @@ SessionBus::SessionBus() {
 
 void SessionBus::offerService(const std::string& name, const std::string& program,
                               const Environment& environment) {
-    std::ofstream(directory_.path() / (name + ".service"))
-        << "[D-BUS Service]\nName=" << name << "\nExec=" << program << "\n";
-    callWith("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-             "UpdateActivationEnvironment", [&](sd_bus_message* message) {
-                 int result = sd_bus_message_open_container(message, 'a', "{ss}");
-                 for (const auto& [variable, value] : environment) {
-                     if (result >= 0) {
-                         result = sd_bus_message_append(message, "{ss}", variable.c_str(),
-                                                        value.c_str());
-                     }
-                 }
-                 return result < 0 ? result : sd_bus_message_close_container(message);
-             });
+    std::ofstream service(directory_ / (name + ".service"));
+    service << "[D-BUS Service]\nName=" << name << "\nExec=/usr/bin/env";
+    const auto inherited = cleanEnvironment();
+    for (const auto& [variable, value] : environment) {
+        const auto same = inherited.find(variable);
+        if (same == inherited.end() || same->second != value) {
+            service << " '" << variable << '=' << value << '\'';
+        }
+    }
+    service << ' ' << program << '\n' << std::flush;
     call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "ReloadConfig",
          "");
 }
@@ -92,12 +77,18 @@ void SessionBus::offerService(const std::string& name, const std::string& progra
 bool SessionBus::waitForName(const std::string& name, Process& owner) {
     const Bus bus = connectTo(address_);
     bool owned = false;
-    waitUntil([&] { return (owned = hasOwner(bus.get(), name)) || !owner.isRunning(); });
+    waitUntil([&] {
+        sd_bus_creds* creds = nullptr;
+        owned = sd_bus_get_name_creds(bus.get(), name.c_str(), 0, &creds) >= 0;
+        sd_bus_creds_unref(creds);
+        return owned || !owner.isRunning();
+    });
     return owned;
 }
 
-void SessionBus::callWith(const char* service, const char* path, const char* interface,
-                          const char* method, const std::function<int(sd_bus_message*)>& append) {
+std::string SessionBus::callWith(const char* service, const char* path, const char* interface,
+                                 const char* method,
+                                 const std::function<int(sd_bus_message*)>& append) {
     const Bus bus = connectTo(address_);
     sd_bus_message* raw = nullptr;
     check(sd_bus_message_new_method_call(bus.get(), &raw, service, path, interface, method),
@@ -105,10 +96,14 @@ void SessionBus::callWith(const char* service, const char* path, const char* int
     const Message call(raw);
     check(append(raw), method);
     sd_bus_error error = SD_BUS_ERROR_NULL;
-    const int result = sd_bus_call(bus.get(), raw, 0, &error, nullptr);
+    sd_bus_message* answer = nullptr;
+    const int result = sd_bus_call(bus.get(), raw, 0, &error, &answer);
+    const Message reply(answer);
     const std::string reason = error.message != nullptr ? error.message : "no reason given";
     sd_bus_error_free(&error);
     check(result, (std::string(method) + ": " + reason).c_str());
+    const char* object = nullptr;
+    return sd_bus_message_read(answer, "o", &object) > 0 ? object : "";
 }
 
 } // namespace nocturo::rig

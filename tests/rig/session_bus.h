@@ -28,19 +28,20 @@ class SessionBus {
     /// Waits until somebody owns the name; false when `owner` ended before, or nobody did in time.
     bool waitForName(const std::string& name, Process& owner);
 
-    /// Calls a method and waits for the answer, which is dropped; `types` and what follows as
-    /// sd_bus_message_append takes them. Throws std::runtime_error when it fails.
+    /// Calls a method and waits for the answer; `types` and what follows as sd_bus_message_append
+    /// takes them. The object path that is the answer, or nothing. Throws std::runtime_error when
+    /// it fails.
     template <class... Arguments>
-    void call(const char* service, const char* path, const char* interface, const char* method,
-              const char* types, Arguments... arguments) {
-        callWith(service, path, interface, method, [&](sd_bus_message* message) {
+    std::string call(const char* service, const char* path, const char* interface,
+                     const char* method, const char* types, Arguments... arguments) {
+        return callWith(service, path, interface, method, [&](sd_bus_message* message) {
             return sd_bus_message_append(message, types, arguments...);
         });
     }
 
   private:
-    void callWith(const char* service, const char* path, const char* interface, const char* method,
-                  const std::function<int(sd_bus_message*)>& append);
+    std::string callWith(const char* service, const char* path, const char* interface,
+                         const char* method, const std::function<int(sd_bus_message*)>& append);
 
     TemporaryDirectory directory_;
     std::optional<Process> process_;
