@@ -11,6 +11,7 @@ namespace {
 constexpr const char* kName = "org.nocturo.Nocturo";
 constexpr const char* kPath = "/org/nocturo/Nocturo";
 constexpr const char* kApplication = "org.freedesktop.Application";
+constexpr const char* kAlert = "^Nocturo$";
 
 class Application : public NocturoOnX {
   protected:
@@ -20,13 +21,14 @@ class Application : public NocturoOnX {
         session_.writeSettings(
             "<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>");
     }
-    std::string windowCalled(const std::string& name) {
-        const std::string ids =
-            session_.run("xdotool", {"search", "--sync", "--onlyvisible", "--name", name}).output;
-        return ids.substr(0, ids.find('\n'));
+    /// Ends it, which is no answer to what it asks.
+    void end() {
+        nocturo_->signal(SIGTERM);
+        EXPECT_EQ(nocturo_->wait(), 0);
+        EXPECT_EQ(shown(), "oo");
     }
-    bool isShown(const std::string& name) {
-        return !session_.run("xdotool", {"search", "--onlyvisible", "--name", name}).output.empty();
+    void accept(const std::string& alert) {
+        xdotool({"mousemove", "--window", alert, "5", "5", "key", "Return"});
     }
     std::string writtenDocument() {
         const std::string file = session_.runtimeDirectory() / "mine.nocturo";
@@ -38,37 +40,29 @@ class Application : public NocturoOnX {
     }
 };
 
-TEST_F(Application, AQuestionAtTheLaunchHoldsUpNothing) {
+TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
     nocturo_ = session_.startNocturo();
-    const std::string alert = windowCalled("^Nocturo$");
-    ASSERT_FALSE(alert.empty());
+    ASSERT_FALSE(windowCalled(kAlert).empty());
     ctl({"effects", "only", "invert"});
-    EXPECT_EQ(shown(), "ii"); // the effect is on already
+    EXPECT_EQ(shown(), "ii"); // the question holds up nothing
     ctl({"restore"});
     EXPECT_EQ(shown(), "oo");
     ctl({"toggle"});
-    nocturo_->signal(SIGTERM);
-    EXPECT_EQ(nocturo_->wait(), 0);
-    EXPECT_EQ(shown(), "oo");
+    end();
     EXPECT_EQ(nocturo_->errors(), "");
-}
 
-TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
+    session_.writeSettings("");
     nocturo_ = session_.startNocturo();
-    const std::string alert = windowCalled("^Nocturo$");
-    ASSERT_FALSE(alert.empty());
-    session_.run("xdotool", {"mousemove", "--window", alert, "5", "5", "key", "Return"});
+    accept(windowCalled(kAlert));
     EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
-    nocturo_->signal(SIGTERM); // the window, with its own question about no effect, is not asked
-    ASSERT_EQ(nocturo_->wait(), 0);
+    end(); // the window, with its own question about no effect, is not asked
 
     selectInvert();
     nocturo_ = session_.startNocturo();
     const std::string window = windowCalled("Nocturo Preferences");
-    session_.run("xdotool", {"windowfocus", "--sync", window, "key", "ctrl+w"});
+    xdotool({"windowfocus", "--sync", window, "key", "ctrl+w"});
     ASSERT_TRUE(waitUntil([&] { return !isShown("Preferences"); }));
-    nocturo_->signal(SIGTERM);
-    ASSERT_EQ(nocturo_->wait(), 0);
+    end();
 
     nocturo_ = session_.startNocturo();
     activateAction("about"); // answered after the launch, and so after what came back
@@ -79,46 +73,25 @@ TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
     const std::filesystem::path entries =
         session_.environment().at("XDG_DATA_HOME") + "/applications";
     std::filesystem::create_directories(entries);
-    std::ofstream(entries / "fluxgui.desktop") << "[Desktop Entry]\nType=Application\nName=f.lux\n";
+    writeText(entries / "fluxgui.desktop", "[Desktop Entry]\nType=Application\nName=f.lux\n");
     selectInvert();
     nocturo_ = session_.startNocturo();
-    ASSERT_FALSE(windowCalled("^Nocturo$").empty());
+    ASSERT_FALSE(windowCalled(kAlert).empty());
     ctl({"toggle"});
     EXPECT_EQ(shown(), "oo");
-    nocturo_->signal(SIGTERM); // which is no answer
-    ASSERT_EQ(nocturo_->wait(), 0);
+    end();
 
     nocturo_ = session_.startNocturo();
-    const std::string alert = windowCalled("^Nocturo$");
-    session_.run("xdotool", {"mousemove", "--window", alert, "5", "5", "key", "Return"});
+    accept(windowCalled(kAlert));
     EXPECT_TRUE(becomes("ii"));
-    ctl({"quit"});
-    ASSERT_EQ(nocturo_->wait(), 0);
+    end();
 
     nocturo_ = session_.startNocturo();
     EXPECT_TRUE(becomes("ii"));
-    EXPECT_FALSE(isShown("^Nocturo$"));
+    EXPECT_FALSE(isShown(kAlert));
 }
 
-TEST_F(Application, DocumentsGoToTheOneThatRuns) {
-    selectInvert();
-    nocturo_ = session_.startNocturo();
-    ASSERT_TRUE(becomes("ii"));
-    const std::string good = writtenDocument();
-    EXPECT_EQ(session_.run("nocturo", {good}).exit, 0);
-    const std::string bad = session_.settingsFile();
-    const RunResult refused = session_.run("nocturo", {good, bad});
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_EQ(refused.errors, "nocturo: \"" + bad + "\" is not an effect document.\n");
-    // Neither loads the window nor switches.
-    EXPECT_EQ(shown(), "ii");
-    EXPECT_FALSE(isShown("Preferences"));
-    EXPECT_EQ(session_.run("nocturo").exit, 0); // what a start without a document does
-    EXPECT_EQ(shown(), "oo");
-    EXPECT_EQ(nocturo_->errors(), "");
-}
-
-TEST_F(Application, LaunchersStartAndDriveIt) {
+TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     selectInvert();
     session_.bus().offerService(kName, NOCTURO_BIN_DIR "/nocturo", session_.environment());
     const auto activate = [&] {
@@ -138,14 +111,26 @@ TEST_F(Application, LaunchersStartAndDriveIt) {
     session_.bus().call(kName, menu, dbusmenu, "GetLayout", "iias", 0, -1, 0);
     session_.bus().call(kName, menu, dbusmenu, "Event", "isvu", 1, "clicked", "s", "", 0);
     EXPECT_TRUE(becomes("oo"));
+
+    const std::string good = writtenDocument();
+    const std::string bad = session_.settingsFile();
+    const auto open = [&](const std::string& uri) {
+        session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1, uri.c_str(), 0);
+    };
+    open("file://" + good);
+    EXPECT_THROW(open("file:///none.nocturo"), std::runtime_error);
+    EXPECT_EQ(session_.run("nocturo", {good}).exit, 0);
+    const RunResult refused = session_.run("nocturo", {good, bad});
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_EQ(refused.errors, "nocturo: \"" + bad + "\" is not an effect document.\n");
+    // None of these loads the window or switches, as a start without a document does.
+    EXPECT_EQ(shown(), "oo");
+    EXPECT_FALSE(isShown("Preferences"));
+    EXPECT_EQ(session_.run("nocturo").exit, 0);
+    EXPECT_EQ(shown(), "ii");
+
     activateAction("preferences");
     EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
-    const std::string uri = "file://" + writtenDocument();
-    session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1, uri.c_str(), 0);
-    EXPECT_THROW(session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1,
-                                     "file:///none.nocturo", 0),
-                 std::runtime_error);
-    activateAction("toggle");
     activateAction("quit");
     EXPECT_TRUE(allOwnWithin());
     waitForTheBus();
