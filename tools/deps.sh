@@ -36,7 +36,6 @@ packages=(
   x11-utils                 # xwininfo, which finds what is in a tray
   trayer                    # a tray that embeds windows
   libglib2.0-bin            # gdbus, which speaks to menus
-  xvfb                      # an X server with all-zero ramps
   x11-xserver-utils         # xrandr lights displays, xset starts screen savers, xmodmap moves keys
   locales                   # one with a comma in its numbers
   dbus-daemon               # buses of the tests' own

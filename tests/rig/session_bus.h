@@ -3,7 +3,7 @@
 #include "rig/process.h"
 #include "unit/temporary_directory.h"
 
-#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -34,14 +34,23 @@ class SessionBus {
     template <class... Arguments>
     std::string call(const char* service, const char* path, const char* interface,
                      const char* method, const char* types, Arguments... arguments) {
-        return callWith(service, path, interface, method, [&](sd_bus_message* message) {
-            return sd_bus_message_append(message, types, arguments...);
-        });
+        const Bus bus = connect();
+        sd_bus_error error = SD_BUS_ERROR_NULL;
+        sd_bus_message* reply = nullptr;
+        sd_bus_call_method(bus.get(), service, path, interface, method, &error, &reply, types,
+                           arguments...);
+        return objectIn(reply, error, method);
     }
 
   private:
-    std::string callWith(const char* service, const char* path, const char* interface,
-                         const char* method, const std::function<int(sd_bus_message*)>& append);
+    struct Close {
+        void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
+    };
+    using Bus = std::unique_ptr<sd_bus, Close>;
+
+    Bus connect() const;
+    static std::string objectIn(sd_bus_message* reply, sd_bus_error& error,
+                                const std::string& method);
 
     TemporaryDirectory directory_;
     std::optional<Process> process_;
