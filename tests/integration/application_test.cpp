@@ -1,5 +1,5 @@
-// The program as an application of the desktop: first launch, documents, launchers, windows that
-// come back.
+// The program as an application of the desktop, under mouse and keyboard: first launch, launchers,
+// the preference window, documents.
 
 #include "nocturo_test.h"
 #include "preferences/documents/effect_document_file.h"
@@ -17,10 +17,19 @@ class Application : public NocturoOnX {
   protected:
     Application() : NocturoOnX(2) { session_.showWindows(); }
 
-    void selectInvert() {
-        session_.writeSettings(
-            "<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>");
+    /// Selects the effect for a Nocturo that does not run; with none it would ask.
+    void select(const std::string& effect) {
+        session_.writeSettings("<key>NDGroupEffect</key><array><string>" + effect +
+                               "</string></array>");
     }
+    bool isInverted() {
+        const auto red = client_.ramp(output(1))[0];
+        return red.front() > red.back();
+    }
+    bool turns(bool inverted) {
+        return waitUntil([&] { return isInverted() == inverted; });
+    }
+    void press(const std::string& keys) { xdotool({"key", keys}); }
     /// Ends it, which is no answer to what it asks.
     void end() {
         nocturo_->signal(SIGTERM);
@@ -57,7 +66,7 @@ TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
     EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
     end(); // the window, with its own question about no effect, is not asked
 
-    selectInvert();
+    select("NDInvertEffect");
     nocturo_ = session_.startNocturo();
     const std::string window = windowCalled("Nocturo Preferences");
     xdotool({"windowfocus", "--sync", window, "key", "ctrl+w"});
@@ -74,15 +83,12 @@ TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
         session_.environment().at("XDG_DATA_HOME") + "/applications";
     std::filesystem::create_directories(entries);
     writeText(entries / "fluxgui.desktop", "[Desktop Entry]\nType=Application\nName=f.lux\n");
-    selectInvert();
+    select("NDInvertEffect");
     nocturo_ = session_.startNocturo();
-    ASSERT_FALSE(windowCalled(kAlert).empty());
+    const std::string alert = windowCalled(kAlert);
     ctl({"toggle"});
     EXPECT_EQ(shown(), "oo");
-    end();
-
-    nocturo_ = session_.startNocturo();
-    accept(windowCalled(kAlert));
+    accept(alert);
     EXPECT_TRUE(becomes("ii"));
     end();
 
@@ -92,7 +98,7 @@ TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
 }
 
 TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
-    selectInvert();
+    select("NDInvertEffect");
     session_.bus().offerService(kName, NOCTURO_BIN_DIR "/nocturo", session_.environment());
     const auto activate = [&] {
         session_.bus().call(kName, kPath, kApplication, "Activate", "a{sv}", 0);
@@ -134,6 +140,77 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     activateAction("quit");
     EXPECT_TRUE(allOwnWithin());
     waitForTheBus();
+}
+
+TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
+    session_.server().setLayout("us");
+    select("NDHDTVLuminanceEffect");
+    nocturo_ = session_.startNocturo();
+    ctl({"preferences"});
+    const std::string window = windowCalled("Nocturo Preferences");
+    // The first box is somewhere below the title of its group, whatever the fonts.
+    const auto clickAt = [&](int y) {
+        xdotool({"mousemove", "--window", window, "32", std::to_string(y), "click", "1"});
+        return waitUntil([&] { return isInverted(); }, Milliseconds(300));
+    };
+    EXPECT_TRUE(clickAt(36) || clickAt(44) || clickAt(52) || clickAt(60));
+    press("alt+i");
+    EXPECT_TRUE(turns(false));
+
+    const auto hotKeyBecomes = [&](const char* text) {
+        return waitUntil([&] {
+            const auto hotKey = status()["hotKey"];
+            return hotKey.is_object() && hotKey["text"] == text;
+        });
+    };
+    press("alt+k"); // the box of the hot key, whose field waits for one then
+    ASSERT_TRUE(waitUntil([&] { return status()["settings"]["UseHotKey"] == true; }));
+    for (const char* key : {"k", "Tab", "space"}) { // neither hot keys nor ways out of the field
+        press(key);
+    }
+    press("alt+i"); // otherwise the mnemonic of a box
+    EXPECT_TRUE(hotKeyBecomes("⌥I"));
+    EXPECT_FALSE(isInverted());
+    press("Return"); // once more
+    press("ctrl+w"); // otherwise closes the window
+    EXPECT_TRUE(hotKeyBecomes("⌃W"));
+    EXPECT_TRUE(isShown("Preferences"));
+    press("alt+i");
+    EXPECT_TRUE(turns(true));
+    press("ctrl+w"); // what is registered now is nobody else's
+    EXPECT_TRUE(turns(false));
+    EXPECT_TRUE(isShown("Preferences"));
+    press("Escape");
+    EXPECT_TRUE(waitUntil([&] { return !isShown("Preferences"); }));
+}
+
+TEST_F(Application, DocumentsAndPreviewsNeedNoWindow) {
+    select("NDHDTVLuminanceEffect");
+    nocturo_ = session_.startNocturo();
+    const auto file = session_.runtimeDirectory() / "mine.nocturo";
+    ASSERT_TRUE(writeEffectDocument(file, {.invertScreen = true, .dimLevel = 0.25F}));
+    ctl({"open", file});
+    EXPECT_TRUE(isInverted());
+    const auto saved = session_.runtimeDirectory() / "saved.nocturo";
+    ctl({"save", saved});
+    EXPECT_EQ(readEffectDocument(saved), readEffectDocument(file));
+    EXPECT_EQ(session_.run("nocturoctl", {"save", "/proc/no.nocturo"}).exit, 1);
+
+    writeText(file, "no document");
+    const RunResult refused = session_.run("nocturoctl", {"open", file});
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_EQ(refused.errors, "nocturoctl: \"" + file.string() + "\" is not an effect document.\n");
+    EXPECT_TRUE(isInverted());
+
+    const auto picture = [&] {
+        ctl({"preview", "--png", file, "--display", "2"});
+        return readText(file);
+    };
+    const std::string inverted = picture();
+    EXPECT_EQ(inverted.substr(1, 3), "PNG");
+    ctl({"effects", "only", "dim"});
+    EXPECT_NE(picture(), inverted);
+    EXPECT_EQ(session_.run("nocturoctl", {"preview", "--png", file, "--display", "7"}).exit, 2);
 }
 
 } // namespace

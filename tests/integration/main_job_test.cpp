@@ -1,7 +1,10 @@
-// The whole job on a real X server: what nocturoctl asks for is what the server's ramps hold.
+// The whole job on a real X server: what nocturoctl asks for is what the server's ramps hold, also
+// when displays come and go.
 
 #include "expected/expected_curves.h"
 #include "nocturo_test.h"
+
+#include <random>
 
 namespace nocturo::rig {
 
@@ -17,24 +20,35 @@ Channels channelsOf(const expected::Curve& curve) {
     return channels;
 }
 
+/// Every display has its own: the first is the one that the expected curves start from.
+Channels ownRamp(int display) {
+    Channels own = channelsOf(expected::plain);
+    own[0][255] = static_cast<std::uint16_t>(own[0][255] + display);
+    return own;
+}
+
 class MainJob : public NocturoOnX {
   protected:
-    MainJob() : NocturoOnX(4) {
-        for (int i = 0; i < 4; ++i) {
-            // Every display its own: the first is the one the expected curves start from.
-            Channels own = channelsOf(expected::plain);
-            own[0][255] = static_cast<std::uint16_t>(own[0][255] + i);
-            setOwn(i, own);
+    static constexpr int kDisplays = 4;
+
+    MainJob() : NocturoOnX(kDisplays) {
+        for (int display = 0; display < kDisplays; ++display) {
+            reset(display);
         }
         nocturo_ = session_.startNocturo();
         ctl({"effects", "only", "invert"});
     }
 
+    /// As a driver does when a display is switched on.
+    void reset(int display) { setOwn(display, ownRamp(display)); }
     void end(int signal) {
         nocturo_->signal(signal);
         EXPECT_EQ(nocturo_->wait(), 0);
         EXPECT_EQ(shown(), "oooo");
     }
+    void dockAndUndock(int rounds);
+
+    XServer& server_ = session_.server();
 };
 
 TEST_F(MainJob, InvertsTheAffectedScreensAndGivesThemBack) {
@@ -74,6 +88,69 @@ TEST_F(MainJob, EveryEffectIsExactToTheLastOfSixteenBits) {
     ctl({"set", "NDColorFilterEffectHue", "200.5"});
     ctl({"set", "NDColorFilterEffectVividness", "0.7"});
     EXPECT_EQ(client_.ramp(output(0)), channelsOf(expected::allFive));
+}
+
+// Re-application every 6 seconds is off, so whatever is put right was put right because the server
+// told.
+TEST_F(MainJob, FollowsDisplaysThatChangeComeAndGo) {
+    ctl({"set", "ContinuouslyApply", "false"});
+    server_.run("xrandr", {"--fb", "5120x480", "--output", "DUMMY1", "--mode", "640x400"});
+    reset(1);
+    EXPECT_TRUE(becomes("iiii"));
+    server_.switchOff(2);
+    reset(2);
+    server_.switchOn(2);
+    EXPECT_TRUE(becomes("iiii"));
+
+    server_.switchOff(1);
+    server_.switchOff(3);
+    ctl({"off"});
+    EXPECT_EQ(shown(), "oooo");
+    ctl({"on"});
+    EXPECT_EQ(shown(), "ioio");
+    server_.switchOn(1);
+    server_.switchOn(3);
+    EXPECT_TRUE(becomes("iiii"));
+
+    const Channels own = ownRamp(100);
+    server_.switchOn(6); // never seen before
+    client_.setRamp(output(6), own);
+    EXPECT_TRUE(waitUntil([&] { return client_.ramp(output(6)) == reversed(own); }));
+    end(SIGTERM);
+    EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
+}
+
+// Three of four displays leave and come back at once, while another client writes ramps, its own or
+// nonsense, to those that are there and those that are not.
+void MainJob::dockAndUndock(int rounds) {
+    ctl({"set", "ContinuouslyApply", "false"});
+    std::mt19937 random(4);
+    const auto overwrite = [&] {
+        const int display = static_cast<int>(random() % kDisplays);
+        client_.setRamp(output(display), ownRamp(static_cast<int>(random() % 200)));
+    };
+    for (int round = 0; round < rounds; ++round) {
+        for (int display = 1; display < kDisplays; ++display) {
+            server_.switchOff(display);
+            overwrite();
+        }
+        for (int display = 1; display < kDisplays; ++display) {
+            overwrite();
+            server_.switchOn(display);
+            reset(display);
+        }
+        ASSERT_TRUE(becomes("iiii")) << round << ": " << shown();
+    }
+    end(SIGTERM);
+    EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
+}
+
+TEST_F(MainJob, ADockEndsRightWhateverOthersWriteMeanwhile) {
+    dockAndUndock(5);
+}
+
+TEST_F(MainJob, SoakADockEndsRightTwoHundredTimes) {
+    dockAndUndock(200);
 }
 
 TEST_F(MainJob, EndsCleanlyOnSignalsStartsAsItWasLeftAndOnlyOnce) {

@@ -6,6 +6,7 @@
 
 #include <QDeadlineTimer>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -13,16 +14,13 @@
 namespace nocturo::rig {
 
 Environment cleanEnvironment() {
+    static const QRegularExpression leadsToTheUser(
+        QStringLiteral("^(DISPLAY|XAUTHORITY|HOME|(WAYLAND|DBUS|XDG|QT|NOTIFY)_.*)$"));
     Environment environment;
     const auto ours = QProcessEnvironment::systemEnvironment();
-    for (const QString& variable : ours.keys()) {
-        const std::string name = variable.toStdString();
-        const bool leadsToTheUser = name == "DISPLAY" || name == "XAUTHORITY" || name == "HOME" ||
-                                    name.starts_with("WAYLAND_") || name.starts_with("DBUS_") ||
-                                    name.starts_with("XDG_") || name.starts_with("QT_") ||
-                                    name.starts_with("NOTIFY_");
-        if (!leadsToTheUser) {
-            environment[name] = ours.value(variable).toStdString();
+    for (const QString& name : ours.keys()) {
+        if (!leadsToTheUser.match(name).hasMatch()) {
+            environment[name.toStdString()] = ours.value(name).toStdString();
         }
     }
     environment["LANGUAGE"] = "en"; // tests look for windows and texts by name

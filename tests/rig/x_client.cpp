@@ -50,7 +50,7 @@ XClient::XClient(const std::string& display) : connection_(xcb_connect(display.c
     answer(raw, xcb_randr_query_version(raw, 1, 5), xcb_randr_query_version_reply);
 }
 
-std::uint32_t XClient::outputCalled(const std::string& name) {
+XClient::Output XClient::outputCalled(const std::string& name) {
     auto* raw = connection_.get();
     const auto resources = answer(raw, xcb_randr_get_screen_resources_current(raw, root_),
                                   xcb_randr_get_screen_resources_current_reply);
@@ -60,18 +60,10 @@ std::uint32_t XClient::outputCalled(const std::string& name) {
                                  xcb_randr_get_output_info_reply);
         const auto* itsName = xcb_randr_get_output_info_name(info.get());
         if (std::string(itsName, itsName + info->name_len) == name) {
-            return outputs[i];
+            return {outputs[i], *xcb_randr_get_output_info_crtcs(info.get())};
         }
     }
     throw std::runtime_error("no output " + name);
-}
-
-std::uint32_t XClient::crtcOf(const std::string& output) {
-    auto* raw = connection_.get();
-    const auto info =
-        answer(raw, xcb_randr_get_output_info(raw, outputCalled(output), XCB_CURRENT_TIME),
-               xcb_randr_get_output_info_reply);
-    return info->crtc != 0 ? info->crtc : *xcb_randr_get_output_info_crtcs(info.get());
 }
 
 Channels XClient::ramp(std::uint32_t crtc) {
@@ -114,8 +106,8 @@ void XClient::setEdid(const std::string& output, const std::vector<std::uint8_t>
     auto* raw = connection_.get();
     check(raw,
           xcb_randr_change_output_property_checked(
-              raw, outputCalled(output), atom("EDID"), XCB_ATOM_INTEGER, 8, XCB_PROP_MODE_REPLACE,
-              static_cast<std::uint32_t>(edid.size()), edid.data()),
+              raw, outputCalled(output).id, atom("EDID"), XCB_ATOM_INTEGER, 8,
+              XCB_PROP_MODE_REPLACE, static_cast<std::uint32_t>(edid.size()), edid.data()),
           "EDID");
 }
 

@@ -20,7 +20,7 @@ class XClient {
     explicit XClient(const std::string& display);
 
     /// The CRTC that drives the output, or would if it were on.
-    std::uint32_t crtcOf(const std::string& output);
+    std::uint32_t crtcOf(const std::string& output) { return outputCalled(output).crtc; }
 
     Channels ramp(std::uint32_t crtc);
     Channels ramp(const std::string& output) { return ramp(crtcOf(output)); }
@@ -50,10 +50,15 @@ class XClient {
     void ungrab(int key, int modifiers);
 
   private:
+    struct Output {
+        std::uint32_t id = 0;
+        std::uint32_t crtc = 0; // each has only one that could drive it
+    };
+
     void fake(std::uint8_t event, int key);
     void setRootProperty(const std::string& name, std::uint8_t format, std::size_t count,
                          const void* data);
-    std::uint32_t outputCalled(const std::string& name);
+    Output outputCalled(const std::string& name);
 
     XcbConnection connection_;
     std::uint32_t root_ = 0;

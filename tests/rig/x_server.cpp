@@ -14,35 +14,6 @@ namespace fs = std::filesystem;
 constexpr const char* kMode = "rig"; // of every display
 // As large as the screen may become, so that nothing but the outputs changes.
 constexpr const char* kScreen = "5120x480";
-// Wide blanking brings the small picture above the slowest clock that the driver accepts.
-constexpr const char* kConfiguration = R"(
-Section "ServerFlags"
-    Option "AutoAddDevices" "false"
-    Option "AutoAddGPU" "false"
-EndSection
-Section "Device"
-    Identifier "device"
-    Driver "dummy"
-    VideoRam 256000
-EndSection
-Section "Monitor"
-    Identifier "monitor"
-    HorizSync 1-1000
-    VertRefresh 1-1000
-    Modeline "rig" 16.73 320 420 520 820 240 250 260 340
-EndSection
-Section "Screen"
-    Identifier "screen"
-    Device "device"
-    Monitor "monitor"
-    DefaultDepth 24
-    SubSection "Display"
-        Depth 24
-        Modes "rig"
-        Virtual 5120 640
-    EndSubSection
-EndSection
-)";
 
 // The server itself where distributions keep it: "Xorg" may be a wrapper that lets only users on a
 // console in and refuses configurations by absolute path.
@@ -86,7 +57,6 @@ std::string freeDisplay() {
 }
 
 XServer::XServer(int displays) {
-    writeText(directory_ / "xorg.conf", kConfiguration);
     // Another server may take the number between the choice and the start.
     for (int attempt = 0; !start(freeDisplay()); ++attempt) {
         if (attempt == 4) {
@@ -116,7 +86,7 @@ bool XServer::start(const std::string& display) {
     process_.emplace(serverProgram(),
                      std::vector<std::string>{display, "-displayfd", "1", "-noreset", "-nolisten",
                                               "tcp", "-novtswitch", "-sharevts", "-config",
-                                              directory + "/xorg.conf", "-configdir", directory,
+                                              NOCTURO_XORG_CONFIGURATION, "-configdir", directory,
                                               "-logfile", directory + "/xorg.log"},
                      environment);
     if (!process_->readLine()) {
