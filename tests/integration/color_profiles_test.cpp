@@ -5,8 +5,6 @@
 #include "platform/displays/profiles/profile_calibrations.h"
 #include "rig/color_profile.h"
 
-#include <sys/stat.h>
-
 namespace nocturo::rig {
 
 namespace {
@@ -32,6 +30,43 @@ class ColorProfiles : public NocturoOnX {
         return shows(0, calibration(first)) && shows(1, calibration(second));
     }
 };
+
+TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
+    setProperty("_ICC_PROFILE", 1);
+    setProperty("_ICC_PROFILE_1", 2);
+    start();
+    EXPECT_TRUE(calibrated(1, 2));
+    ctl({"on"});
+    EXPECT_TRUE(inverted(1, 2));
+    setProperty("_ICC_PROFILE_1", 3);
+    ctl({"effects", "add", "invert"}); // updates
+    EXPECT_TRUE(shows(1, reversed(calibration(2))));
+    ctl({"off"});
+    EXPECT_TRUE(calibrated(1, 3));
+    setProperty("_ICC_PROFILE", 4);
+    ctl({"on"});
+    EXPECT_TRUE(shows(0, reversed(calibration(4))));
+    ctl({"quit"});
+    EXPECT_EQ(nocturo_->wait(), 0);
+    EXPECT_TRUE(calibrated(4, 3));
+}
+
+TEST_F(ColorProfiles, CostNothingWhenTheSystemBusIsSilent) {
+    const auto bus = session_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+    const std::string address = bus->readLine().value_or("");
+    bus->signal(SIGSTOP); // the kernel still takes connections for it
+    const auto before = std::chrono::steady_clock::now();
+    ProfileCalibrations profiles("", address);
+    EXPECT_FALSE(profiles.calibration("DUMMY0", 256).settled);
+    EXPECT_LT(std::chrono::steady_clock::now() - before, Milliseconds(200));
+    EXPECT_FALSE(profiles.waitForAnswers(Milliseconds(10)));
+
+    session_.environment()["DBUS_SYSTEM_BUS_ADDRESS"] = address;
+    setProperty("_ICC_PROFILE", 1);
+    setProperty("_ICC_PROFILE_1", 2);
+    start();
+    EXPECT_TRUE(calibrated(1, 2));
+}
 
 constexpr const char* kColord = "org.freedesktop.ColorManager";
 constexpr const char* kColordPath = "/org/freedesktop/ColorManager";
@@ -90,26 +125,6 @@ class ColorProfilesOfColord : public ColorProfiles {
     std::unique_ptr<Process> colord_;
     std::map<std::string, std::string> devices_; // object paths by connector
 };
-
-TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
-    setProperty("_ICC_PROFILE", 1);
-    setProperty("_ICC_PROFILE_1", 2);
-    start();
-    EXPECT_TRUE(calibrated(1, 2));
-    ctl({"on"});
-    EXPECT_TRUE(inverted(1, 2));
-    setProperty("_ICC_PROFILE_1", 3);
-    ctl({"effects", "add", "invert"}); // updates
-    EXPECT_TRUE(shows(1, reversed(calibration(2))));
-    ctl({"off"});
-    EXPECT_TRUE(calibrated(1, 3));
-    setProperty("_ICC_PROFILE", 4);
-    ctl({"on"});
-    EXPECT_TRUE(shows(0, reversed(calibration(4))));
-    ctl({"quit"});
-    EXPECT_EQ(nocturo_->wait(), 0);
-    EXPECT_TRUE(calibrated(4, 3));
-}
 
 TEST_F(ColorProfilesOfColord, HoldWhenNocturoIsKilled) {
     setProperty("_ICC_PROFILE", 1);
@@ -180,34 +195,9 @@ TEST_F(ColorProfilesOfColord, ThatAreBrokenAreRefusedWithASentence) {
     ctl({"off"});
     EXPECT_TRUE(shows(0, own_[0]));
     EXPECT_TRUE(shows(1, calibration(2)));
-
-    std::filesystem::remove(path);
-    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
-    setProperty("_ICC_PROFILE_1", 3); // has everything looked at again
-    ctl({"off"});
-    EXPECT_TRUE(shows(0, own_[0]));
-    EXPECT_TRUE(shows(1, calibration(3)));
     const std::string& said = nocturo_->errors();
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 3) << said; // and no effect
     EXPECT_NE(said.find("_ICC_PROFILE is not used"), std::string::npos) << said;
-}
-
-TEST_F(ColorProfiles, CostNothingWhenTheSystemBusIsSilent) {
-    const auto bus = session_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-    const std::string address = bus->readLine().value_or("");
-    bus->signal(SIGSTOP); // the kernel still takes connections for it
-    setProperty("_ICC_PROFILE", 1);
-    setProperty("_ICC_PROFILE_1", 2);
-
-    const auto before = std::chrono::steady_clock::now();
-    ProfileCalibrations profiles("", address);
-    EXPECT_FALSE(profiles.calibration("DUMMY0", 256).settled);
-    EXPECT_LT(std::chrono::steady_clock::now() - before, Milliseconds(200));
-    EXPECT_FALSE(profiles.waitForAnswers(Milliseconds(10)));
-
-    session_.environment()["DBUS_SYSTEM_BUS_ADDRESS"] = address;
-    start();
-    EXPECT_TRUE(calibrated(1, 2));
 }
 
 } // namespace

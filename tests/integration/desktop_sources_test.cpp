@@ -19,8 +19,7 @@ class DesktopSources : public NocturoOnX {
 
     /// Leaves the effect on, inverting, with nothing that applies it again by itself.
     void start() {
-        session_.writeSettings("<key>NDGroupEffect</key><array><string>NDInvertEffect</string>"
-                               "</array><key>ContinuouslyApply</key><false/>");
+        select("NDInvertEffect", "<key>ContinuouslyApply</key><false/>");
         nocturo_ = session_.startNocturo();
         status(); // answered once everything is being followed
     }

@@ -43,11 +43,6 @@ class Guard : public NocturoOnX {
         ctl({"on"});
         ASSERT_EQ(shown(), kAllChanged);
     }
-    void quit() {
-        ctl({"quit"});
-        EXPECT_EQ(nocturo_->wait(), 0);
-    }
-
     bool allArePlain() {
         for (int i = 0; i < kDisplays; ++i) {
             const Channels ramp = client_.ramp(output(i));
@@ -68,7 +63,7 @@ void Guard::killAtRandomMoments(int rounds, int together) {
     std::uniform_int_distribution<int> moment(0, 60);
     int late = 0;
     startChanging();
-    quit();
+    end();
     for (int round = 0; round < rounds; ++round) {
         SCOPED_TRACE("round " + std::to_string(round));
         const int activity = round % 4;
@@ -90,7 +85,7 @@ void Guard::killAtRandomMoments(int rounds, int together) {
         EXPECT_TRUE(allOwnWithin()) << shown();
         if (guardToo) {
             ctl({"on"});
-            quit();
+            end();
         }
         reapGuards();
         waitForTheBus();
@@ -120,7 +115,7 @@ TEST_F(Guard, IsThereWhileADisplayIsChangedAndIsReplacedWhenItIsKilled) {
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         ::kill(guard, number);
     }
-    quit();
+    end();
     EXPECT_EQ(waitForChild(guard), 0);
     EXPECT_FALSE(fs::exists(journal()));
     EXPECT_EQ(shown(), kAllOwn);
@@ -192,7 +187,7 @@ TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
     ctl({"off"});
     EXPECT_TRUE(allArePlain());
     EXPECT_TRUE(fs::exists(journal().native() + ".damaged"));
-    quit();
+    end();
 
     for (int i = 0; i < kDisplays; ++i) {
         Channels other = own_[static_cast<std::size_t>(i)];
@@ -253,8 +248,7 @@ TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
     fs::create_directories(elsewhere / "bin");
     fs::create_directories(elsewhere / "libexec");
     fs::copy_file(built / "nocturo", elsewhere / "bin/nocturo");
-    session_.writeSettings(
-        "<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>");
+    select("NDInvertEffect");
     const auto start = [&] {
         nocturo_ = session_.start(elsewhere / "bin/nocturo");
         ASSERT_TRUE(session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_));
@@ -263,8 +257,7 @@ TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
     start(); // there is none
     ctl({"off"});
     ctl({"on"});
-    nocturo_->signal(SIGTERM);
-    EXPECT_EQ(nocturo_->wait(), 0);
+    end();
     EXPECT_EQ(shown(), kAllOwn);
     const std::string& errors = nocturo_->errors();
     EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
@@ -279,7 +272,7 @@ TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
     fs::copy_file("/bin/false", elsewhere / "bin" / kGuard); // one that does not stay alive
     start();
     EXPECT_TRUE(nocturo_->waitForError("it does not stay alive"));
-    quit();
+    end();
     EXPECT_EQ(shown(), kAllOwn);
 
     fs::remove(elsewhere / "bin" / kGuard);

@@ -41,11 +41,6 @@ class MainJob : public NocturoOnX {
 
     /// As a driver does when a display is switched on.
     void reset(int display) { setOwn(display, ownRamp(display)); }
-    void end(int signal) {
-        nocturo_->signal(signal);
-        EXPECT_EQ(nocturo_->wait(), 0);
-        EXPECT_EQ(shown(), "oooo");
-    }
     void dockAndUndock(int rounds);
 
     XServer& server_ = session_.server();
@@ -116,7 +111,8 @@ TEST_F(MainJob, FollowsDisplaysThatChangeComeAndGo) {
     server_.switchOn(6); // never seen before
     client_.setRamp(output(6), own);
     EXPECT_TRUE(waitUntil([&] { return client_.ramp(output(6)) == reversed(own); }));
-    end(SIGTERM);
+    end();
+    EXPECT_EQ(shown(), "oooo");
     EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
 }
 
@@ -141,7 +137,8 @@ void MainJob::dockAndUndock(int rounds) {
         }
         ASSERT_TRUE(becomes("iiii")) << round << ": " << shown();
     }
-    end(SIGTERM);
+    end();
+    EXPECT_EQ(shown(), "oooo");
     EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
 }
 
@@ -158,6 +155,7 @@ TEST_F(MainJob, EndsCleanlyOnSignalsStartsAsItWasLeftAndOnlyOnce) {
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         EXPECT_EQ(shown(), "iiii");
         end(number);
+        EXPECT_EQ(shown(), "oooo");
         nocturo_ = session_.startNocturo();
         EXPECT_TRUE(status()["active"]);
     }
@@ -165,7 +163,7 @@ TEST_F(MainJob, EndsCleanlyOnSignalsStartsAsItWasLeftAndOnlyOnce) {
     EXPECT_EQ(second.exit, 0);
     EXPECT_EQ(second.output, "nocturo: Nocturo is already running.\n");
     EXPECT_FALSE(status()["active"]);
-    end(SIGTERM);
+    end();
     nocturo_ = session_.startNocturo();
     EXPECT_FALSE(status()["active"]);
     ctl({"set", "ActivateOnClick", "false"});
@@ -174,7 +172,7 @@ TEST_F(MainJob, EndsCleanlyOnSignalsStartsAsItWasLeftAndOnlyOnce) {
 }
 
 TEST_F(MainJob, WithoutASessionBusALockHoldsTheSameRule) {
-    end(SIGTERM);
+    end();
     session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
     nocturo_ = session_.start("nocturo");
     ASSERT_TRUE(becomes("iiii"));
@@ -194,9 +192,8 @@ TEST_F(MainJob, FollowsItsSettingsFileAndWritesItInTime) {
     ctl({"off"});
     EXPECT_TRUE(waitUntil([&] { return contains("<key>EffectActive</key>\n\t<false/>"); },
                           Milliseconds(1000)));
-    session_.writeSettings("<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>"
-                           "<key>Somebody's</key><real>0.25</real>"
-                           "<key>EffectActive</key><true/>");
+    select("NDInvertEffect", "<key>Somebody's</key><real>0.25</real>"
+                             "<key>EffectActive</key><true/>");
     ASSERT_TRUE(waitUntil([&] { return status()["settings"]["EffectActive"] == true; }))
         << nocturo_->errors() << readText(session_.settingsFile());
     ctl({"set", "ShowStatusItem", "7"});

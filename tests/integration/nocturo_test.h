@@ -30,6 +30,18 @@ class NocturoTest : public testing::Test {
     }
     nlohmann::json status() { return nlohmann::json::parse(ctl({"status", "--json"}).output); }
 
+    /// Selects an effect for a Nocturo that does not run, which would ask without one; with more
+    /// settings as XML.
+    void select(const std::string& effect, const std::string& more = "") {
+        session_.writeSettings("<key>NDGroupEffect</key><array><string>" + effect +
+                               "</string></array>" + more);
+    }
+    /// Ends it as the end of a session does.
+    void end(int signal = SIGTERM) {
+        nocturo_->signal(signal);
+        EXPECT_EQ(nocturo_->wait(), 0);
+    }
+
     /// xdotool's number of the first window with that in its title, once one is shown.
     std::string windowCalled(const std::string& name) {
         const auto ids = xdotool({"search", "--sync", "--onlyvisible", "--name", name});

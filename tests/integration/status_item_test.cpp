@@ -13,8 +13,7 @@ class StatusItem : public NocturoOnX {
   protected:
     StatusItem() : NocturoOnX(2) {
         session_.showWindows();
-        session_.writeSettings("<key>ShowStatusItem</key><integer>1</integer><key>NDGroupEffect"
-                               "</key><array><string>NDInvertEffect</string></array>");
+        select("NDInvertEffect", "<key>ShowStatusItem</key><integer>1</integer>");
         nocturo_ = session_.startNocturo();
     }
 
