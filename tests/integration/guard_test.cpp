@@ -82,7 +82,7 @@ void Guard::killAtRandomMoments(int rounds, int together) {
             ctl({"off"});
         }
         late += allOwnWithin(kWithin) ? 0 : 1;
-        EXPECT_TRUE(allOwnWithin()) << shown();
+        ASSERT_TRUE(allOwnWithin()) << shown();
         if (guardToo) {
             ctl({"on"});
             end();

@@ -15,6 +15,7 @@ class StatusItem : public NocturoOnX {
         session_.showWindows();
         select("NDInvertEffect", "<key>ShowStatusItem</key><integer>1</integer>");
         nocturo_ = session_.startNocturo();
+        status(); // answered once it has looked for a tray in vain
     }
 
     std::unique_ptr<Process> startTrayer() {
@@ -78,6 +79,7 @@ TEST_F(StatusItem, IsEmbeddedWheneverThereIsATray) {
 TEST_F(StatusItem, ItsMenuWorksOverTheBus) {
     auto host = session_.start("tray_host");
     const std::string item = host->readLine().value_or("");
+    ASSERT_FALSE(item.empty());
     press(item, "Deactivate Effect");
     EXPECT_TRUE(becomes("oo"));
     press(item, "Activate Effect");
