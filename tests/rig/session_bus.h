@@ -35,7 +35,7 @@ class SessionBus {
     std::string call(const char* service, const char* path, const char* interface,
                      const char* method, const char* types, Arguments... arguments) {
         const Bus bus = connect();
-        sd_bus_error error = SD_BUS_ERROR_NULL;
+        sd_bus_error error{};
         sd_bus_message* reply = nullptr;
         sd_bus_call_method(bus.get(), service, path, interface, method, &error, &reply, types,
                            arguments...);

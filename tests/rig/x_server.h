@@ -16,7 +16,6 @@ std::string freeDisplay();
 /// only in memory. It listens on local sockets only and takes no input device.
 class XServer {
   public:
-    static constexpr int kMaximumDisplays = 16;
     static constexpr int kWidth = 320; // of every display
     static constexpr int kHeight = 240;
 
