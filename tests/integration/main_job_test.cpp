@@ -190,8 +190,8 @@ TEST_F(MainJob, FollowsItsSettingsFileAndWritesItInTime) {
         return readText(session_.settingsFile()).find(part) != std::string::npos;
     };
     ctl({"off"});
-    EXPECT_TRUE(waitUntil([&] { return contains("<key>EffectActive</key>\n\t<false/>"); },
-                          Milliseconds(1000)));
+    ASSERT_TRUE(waitUntil([&] { return contains("<key>EffectActive</key>\n\t<false/>"); },
+                          Milliseconds(3000)));
     select("NDInvertEffect", "<key>Somebody's</key><real>0.25</real>"
                              "<key>EffectActive</key><true/>");
     ASSERT_TRUE(waitUntil([&] { return status()["settings"]["EffectActive"] == true; }))

@@ -96,8 +96,15 @@ class NocturoOnX : public NocturoTest {
         return becomes(std::string(own_.size(), 'o'), time);
     }
 
+    /// -1 when there is none. Waits a little: a new process has its parent's name for a moment.
     pid_t guardProcess() {
-        const auto guards = childrenNamed(nocturo_->id(), "nocturo-guard");
+        std::vector<pid_t> guards;
+        waitUntil(
+            [&] {
+                guards = childrenNamed(nocturo_->id(), "nocturo-guard");
+                return !guards.empty();
+            },
+            Milliseconds(500));
         return guards.size() == 1 ? guards.front() : -1;
     }
     void kill(bool guardToo) {
