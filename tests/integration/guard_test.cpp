@@ -159,7 +159,7 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
     EXPECT_TRUE(
         nocturo_->errors().ends_with("nocturo: The display server has gone, so Nocturo ends.\n"))
         << nocturo_->errors();
-    reapGuards();
+    reapGuards(true);
     rusage used{};
     getrusage(RUSAGE_CHILDREN, &used);
     EXPECT_EQ(childrenNamed(getpid(), kGuard).size(), 0U);
@@ -171,7 +171,7 @@ TEST_F(Guard, KilledWithTheServerItEndsToo) {
     nocturo_->signal(SIGKILL);
     session_.server().kill();
     nocturo_->wait();
-    reapGuards();
+    reapGuards(true);
 }
 
 TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
