@@ -62,8 +62,12 @@ class Measurement {
                 [&] { return ownFrom(0) == 0 && observer_.ramp(crtcs_.back()) != own_.back(); })) {
             throw std::runtime_error("nocturo did not change the displays");
         }
-        const auto guards = childrenNamed(nocturo->id(), "nocturo-guard");
-        if (guards.size() != 1) {
+        std::vector<pid_t> guards;
+        const bool isGuarded = waitUntil([&] { // it has its parent's name for a moment
+            guards = childrenNamed(nocturo->id(), "nocturo-guard");
+            return guards.size() == 1;
+        });
+        if (!isGuarded) {
             throw std::runtime_error("there is no guard");
         }
         resident_ = std::max(resident_, residentKilobytes(guards.front(), "Rss:"));

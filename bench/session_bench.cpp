@@ -18,7 +18,6 @@
 #include "platform/run_loop.h"
 #include "platform/settings/defaults_store.h"
 #include "rig/session.h"
-#include "rig/x_keyboard.h"
 
 #include <chrono>
 #include <ctime>
@@ -115,7 +114,7 @@ void measureOwnPartOfHotKey(rig::Session& session) {
     HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(service.get());
     NDEffect::userDefaults().setObject(allEffects(), "NDGroupEffect");
     chooseHotKey(NDEffect::userDefaults());
-    rig::XKeyboard keyboard(session.server().display());
+    rig::XClient keyboard(session.server().display());
     std::vector<double> samples;
     pollfd source{service->descriptor(), POLLIN, 0};
     for (int i = 0; i < 1000; ++i) {
@@ -155,7 +154,7 @@ void measureNaming(rig::Session& session) {
 /// From the release at the server to the last display's ramp seen changed by another program.
 void measureHotKey(rig::Session& session, BusClient& client) {
     rig::XClient observer(session.server().display());
-    rig::XKeyboard keyboard(session.server().display());
+    rig::XClient keyboard(session.server().display());
     const std::uint32_t last = observer.crtcOf("DUMMY3");
     client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDInvertEffect")});
     client.call("SetHotKey", std::string("super+F5"));
@@ -252,6 +251,7 @@ void measureWakeUps(const rig::Process& nocturo, BusClient& client) {
 
 void run() {
     rig::Session session(4);
+    session.server().setLayout("us");
     session.showWindows();
     session.writeSettings("<key>NDGroupEffect</key><array><string>NDDimEffect</string></array>");
     measureReapplication(session);

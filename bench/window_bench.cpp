@@ -5,7 +5,6 @@
 #include "control/nocturoctl/failure.h"
 #include "figures.h"
 #include "rig/session.h"
-#include "rig/x_keyboard.h"
 
 #include <array>
 #include <atomic>
@@ -127,7 +126,7 @@ int lastEntryAfter(int step) {
 /// Arrow keys at the slider of the running program, one step every millisecond, while another
 /// thread reads the last display's ramp. Adds to `lags` how long ago the step was made that each
 /// reading misses, and returns how many steps never came.
-int stepThrough(rig::Session& session, rig::XKeyboard& keyboard, std::vector<double>& lags) {
+int stepThrough(rig::Session& session, rig::XClient& keyboard, std::vector<double>& lags) {
     std::array<SteadyClock::time_point, kSteps + 1> made{};
     std::atomic<int> last = 0; // the steps made so far
     int shown = 0;
@@ -164,6 +163,7 @@ int stepThrough(rig::Session& session, rig::XKeyboard& keyboard, std::vector<dou
 
 void measureSlider() {
     rig::Session session(4);
+    session.server().setLayout("us");
     session.showWindows();
     session.writeSettings("<key>NDGroupEffect</key><array><string>NDDimEffect</string></array>");
     const auto nocturo = session.startNocturo();
@@ -173,7 +173,7 @@ void measureSlider() {
     client.call("ShowPreferences");
     windows.waitForPaintedWindow();
     session.run("xdotool", {"key", "alt+l"});
-    rig::XKeyboard keyboard(session.server().display());
+    rig::XClient keyboard(session.server().display());
     std::vector<double> lags;
     int lost = 0;
     for (int round = 0; round < 50; ++round) {

@@ -39,8 +39,7 @@ packages=(
   lxqt-panel                # a tray that asks for items over the bus
   libglib2.0-bin            # gdbus, which speaks to menus, and gio, which opens documents
   mate-session-manager      # a session to log out of
-  xvfb                      # an X server with all-zero ramps
-  x11-xserver-utils         # xrandr, which lights displays, and xset, which starts screen savers
+  x11-xserver-utils         # xrandr lights displays, xset starts screen savers, xmodmap moves keys
   locales                   # one with a comma in its numbers
   dbus-daemon               # buses of the tests' own
   colord                    # the tests' color manager
@@ -74,7 +73,7 @@ packages=(
 )
 
 # What other distributions must offer, whatever their packages are called.
-programs=(g++ make cmake ninja pkg-config Xorg xrandr xset setxkbmap xdotool xwininfo trayer lxqt-panel gdbus gio mate-session update-mime-database update-desktop-database xscreensaver dbus-daemon python3)
+programs=(g++ make cmake ninja pkg-config Xorg xrandr xset xmodmap setxkbmap xdotool xwininfo trayer lxqt-panel gdbus gio mate-session update-mime-database update-desktop-database xscreensaver dbus-daemon python3)
 modules=(libplist-2.0 glib-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xcb-xtest xkbcommon-x11 lcms2 libsystemd Qt6Core nlohmann_json gtest gmock benchmark)
 linters=(git clang-format clang-tidy shellcheck)
 

@@ -14,33 +14,8 @@ end() {
 }
 trap end EXIT
 
-cat >"$home/xorg.conf" <<'CONFIGURATION'
-Section "ServerFlags"
-    Option "AutoAddDevices" "false"
-    Option "AutoAddGPU" "false"
-EndSection
-Section "Device"
-    Identifier "device"
-    Driver "dummy"
-    VideoRam 256000
-EndSection
-Section "Monitor"
-    Identifier "monitor"
-    HorizSync 1-1000
-    VertRefresh 1-1000
-EndSection
-Section "Screen"
-    Identifier "screen"
-    Device "device"
-    Monitor "monitor"
-    DefaultDepth 24
-    SubSection "Display"
-        Depth 24
-        Modes "2048x1536"
-        Virtual 2048 1536
-    EndSubSection
-EndSection
-CONFIGURATION
+# That of the tests, with one display that is large enough.
+sed 's/Modes .*/Modes "2048x1536"/; s/Virtual .*/Virtual 2048 1536/' tests/rig/xorg.conf >"$home/xorg.conf"
 
 xorg=/usr/lib/xorg/Xorg
 [ -x "$xorg" ] || xorg=Xorg

@@ -1,5 +1,5 @@
-// The program as an application of the desktop: first launch, documents, launchers, windows that
-// come back.
+// The program as an application of the desktop, under mouse and keyboard: first launch, launchers,
+// the preference window, documents.
 
 #include "nocturo_test.h"
 #include "preferences/documents/effect_document_file.h"
@@ -11,22 +11,22 @@ namespace {
 constexpr const char* kName = "org.nocturo.Nocturo";
 constexpr const char* kPath = "/org/nocturo/Nocturo";
 constexpr const char* kApplication = "org.freedesktop.Application";
+constexpr const char* kAlert = "^Nocturo$";
 
 class Application : public NocturoOnX {
   protected:
     Application() : NocturoOnX(2) { session_.showWindows(); }
 
-    void selectInvert() {
-        session_.writeSettings(
-            "<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>");
+    bool isInverted() {
+        const auto red = client_.ramp(output(1))[0];
+        return red.front() > red.back();
     }
-    std::string windowCalled(const std::string& name) {
-        const std::string ids =
-            session_.run("xdotool", {"search", "--sync", "--onlyvisible", "--name", name}).output;
-        return ids.substr(0, ids.find('\n'));
+    bool turns(bool inverted) {
+        return waitUntil([&] { return isInverted() == inverted; });
     }
-    bool isShown(const std::string& name) {
-        return !session_.run("xdotool", {"search", "--onlyvisible", "--name", name}).output.empty();
+    void press(const std::string& keys) { xdotool({"key", keys}); }
+    void accept(const std::string& alert) {
+        xdotool({"mousemove", "--window", alert, "5", "5", "key", "Return"});
     }
     std::string writtenDocument() {
         const std::string file = session_.runtimeDirectory() / "mine.nocturo";
@@ -38,37 +38,30 @@ class Application : public NocturoOnX {
     }
 };
 
-TEST_F(Application, AQuestionAtTheLaunchHoldsUpNothing) {
+TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
     nocturo_ = session_.startNocturo();
-    const std::string alert = windowCalled("^Nocturo$");
-    ASSERT_FALSE(alert.empty());
+    ASSERT_FALSE(windowCalled(kAlert).empty());
     ctl({"effects", "only", "invert"});
-    EXPECT_EQ(shown(), "ii"); // the effect is on already
+    EXPECT_EQ(shown(), "ii"); // the question holds up nothing
     ctl({"restore"});
     EXPECT_EQ(shown(), "oo");
     ctl({"toggle"});
-    nocturo_->signal(SIGTERM);
-    EXPECT_EQ(nocturo_->wait(), 0);
+    end(); // which is no answer
     EXPECT_EQ(shown(), "oo");
     EXPECT_EQ(nocturo_->errors(), "");
-}
 
-TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
+    session_.writeSettings("");
     nocturo_ = session_.startNocturo();
-    const std::string alert = windowCalled("^Nocturo$");
-    ASSERT_FALSE(alert.empty());
-    session_.run("xdotool", {"mousemove", "--window", alert, "5", "5", "key", "Return"});
+    accept(windowCalled(kAlert));
     EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
-    nocturo_->signal(SIGTERM); // the window, with its own question about no effect, is not asked
-    ASSERT_EQ(nocturo_->wait(), 0);
+    end(); // the window, with its own question about no effect, is not asked
 
-    selectInvert();
+    select("NDInvertEffect");
     nocturo_ = session_.startNocturo();
     const std::string window = windowCalled("Nocturo Preferences");
-    session_.run("xdotool", {"windowfocus", "--sync", window, "key", "ctrl+w"});
+    xdotool({"windowfocus", "--sync", window, "key", "ctrl+w"});
     ASSERT_TRUE(waitUntil([&] { return !isShown("Preferences"); }));
-    nocturo_->signal(SIGTERM);
-    ASSERT_EQ(nocturo_->wait(), 0);
+    end();
 
     nocturo_ = session_.startNocturo();
     activateAction("about"); // answered after the launch, and so after what came back
@@ -79,63 +72,34 @@ TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
     const std::filesystem::path entries =
         session_.environment().at("XDG_DATA_HOME") + "/applications";
     std::filesystem::create_directories(entries);
-    std::ofstream(entries / "fluxgui.desktop") << "[Desktop Entry]\nType=Application\nName=f.lux\n";
-    selectInvert();
+    writeText(entries / "fluxgui.desktop", "[Desktop Entry]\nType=Application\nName=f.lux\n");
+    select("NDInvertEffect");
     nocturo_ = session_.startNocturo();
-    ASSERT_FALSE(windowCalled("^Nocturo$").empty());
+    const std::string alert = windowCalled(kAlert);
     ctl({"toggle"});
     EXPECT_EQ(shown(), "oo");
-    nocturo_->signal(SIGTERM); // which is no answer
-    ASSERT_EQ(nocturo_->wait(), 0);
-
-    nocturo_ = session_.startNocturo();
-    const std::string alert = windowCalled("^Nocturo$");
-    session_.run("xdotool", {"mousemove", "--window", alert, "5", "5", "key", "Return"});
+    accept(alert);
     EXPECT_TRUE(becomes("ii"));
-    ctl({"quit"});
-    ASSERT_EQ(nocturo_->wait(), 0);
+    end();
 
     nocturo_ = session_.startNocturo();
     EXPECT_TRUE(becomes("ii"));
-    EXPECT_FALSE(isShown("^Nocturo$"));
-}
-
-TEST_F(Application, DocumentsGoToTheOneThatRuns) {
-    selectInvert();
-    nocturo_ = session_.startNocturo();
-    ASSERT_TRUE(becomes("ii"));
-    const std::string good = writtenDocument();
-    EXPECT_EQ(session_.run("nocturo", {good}).exit, 0);
-    const std::string bad = session_.settingsFile();
-    const RunResult refused = session_.run("nocturo", {good, bad});
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_EQ(refused.errors, "nocturo: \"" + bad + "\" is not an effect document.\n");
-    // Whoever opened it with a click sees no standard error.
-    const std::string message = windowCalled("^Nocturo$");
-    session_.run("xdotool", {"mousemove", "--window", message, "5", "5", "key", "Return"});
-    EXPECT_TRUE(waitUntil([&] { return !isShown("^Nocturo$"); }));
-    // Neither loads the window nor switches.
-    EXPECT_EQ(shown(), "ii");
-    EXPECT_FALSE(isShown("Preferences"));
-    EXPECT_EQ(session_.run("nocturo").exit, 0); // what a start without a document does
-    EXPECT_EQ(shown(), "oo");
-    EXPECT_EQ(nocturo_->errors(), "");
+    EXPECT_FALSE(isShown(kAlert));
 }
 
 TEST_F(Application, ARefusedDocumentOfTheFirstStartIsShownAndHoldsNothingUp) {
-    selectInvert();
+    select("NDInvertEffect");
     const std::string bad = session_.settingsFile();
     nocturo_ = session_.startNocturo({bad});
-    EXPECT_FALSE(windowCalled("^Nocturo$").empty());
+    EXPECT_FALSE(windowCalled(kAlert).empty());
     ctl({"toggle"});
     EXPECT_EQ(shown(), "oo");
-    ctl({"quit"});
-    EXPECT_EQ(nocturo_->wait(), 0);
+    end();
     EXPECT_EQ(nocturo_->errors(), "nocturo: \"" + bad + "\" is not an effect document.\n");
 }
 
-TEST_F(Application, LaunchersStartAndDriveIt) {
-    selectInvert();
+TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
+    select("NDInvertEffect");
     session_.bus().offerService(kName, NOCTURO_BIN_DIR "/nocturo", session_.environment());
     const auto activate = [&] {
         session_.bus().call(kName, kPath, kApplication, "Activate", "a{sv}", 0);
@@ -154,17 +118,101 @@ TEST_F(Application, LaunchersStartAndDriveIt) {
     session_.bus().call(kName, menu, dbusmenu, "GetLayout", "iias", 0, -1, 0);
     session_.bus().call(kName, menu, dbusmenu, "Event", "isvu", 1, "clicked", "s", "", 0);
     EXPECT_TRUE(becomes("oo"));
+
+    const std::string good = writtenDocument();
+    const std::string bad = session_.settingsFile();
+    const auto open = [&](const std::string& uri) {
+        session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1, uri.c_str(), 0);
+    };
+    open("file://" + good);
+    EXPECT_THROW(open("file:///none.nocturo"), std::runtime_error);
+    EXPECT_EQ(session_.run("nocturo", {good}).exit, 0);
+    const RunResult refused = session_.run("nocturo", {good, bad});
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_EQ(refused.errors, "nocturo: \"" + bad + "\" is not an effect document.\n");
+    EXPECT_FALSE(windowCalled(kAlert).empty()) << "whoever opened it with a click sees no stderr";
+    // None of these loads the window or switches, as a start without a document does.
+    EXPECT_EQ(shown(), "oo");
+    EXPECT_FALSE(isShown("Preferences"));
+    EXPECT_EQ(session_.run("nocturo").exit, 0);
+    EXPECT_EQ(shown(), "ii");
+
     activateAction("preferences");
     EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
-    const std::string uri = "file://" + writtenDocument();
-    session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1, uri.c_str(), 0);
-    EXPECT_THROW(session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1,
-                                     "file:///none.nocturo", 0),
-                 std::runtime_error);
-    activateAction("toggle");
     activateAction("quit");
     EXPECT_TRUE(allOwnWithin());
     waitForTheBus();
+}
+
+TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
+    session_.server().setLayout("us");
+    select("NDHDTVLuminanceEffect");
+    nocturo_ = session_.startNocturo();
+    ctl({"preferences"});
+    const std::string window = windowCalled("Nocturo Preferences");
+    // The first box is somewhere below the title of its group, whatever the fonts.
+    const auto clickAt = [&](int y) {
+        xdotool({"mousemove", "--window", window, "32", std::to_string(y), "click", "1"});
+        return waitUntil([&] { return isInverted(); }, Milliseconds(300));
+    };
+    EXPECT_TRUE(clickAt(36) || clickAt(44) || clickAt(52) || clickAt(60));
+    press("alt+i");
+    EXPECT_TRUE(turns(false));
+
+    const auto hotKeyBecomes = [&](const char* text) {
+        return waitUntil([&] {
+            const auto hotKey = status()["hotKey"];
+            return hotKey.is_object() && hotKey["text"] == text;
+        });
+    };
+    press("alt+k"); // the box of the hot key, whose field waits for one then
+    ASSERT_TRUE(waitUntil([&] { return status()["settings"]["UseHotKey"] == true; }));
+    for (const char* key : {"k", "Tab", "space"}) { // neither hot keys nor ways out of the field
+        press(key);
+    }
+    press("alt+i"); // otherwise the mnemonic of a box
+    EXPECT_TRUE(hotKeyBecomes("⌥I"));
+    EXPECT_FALSE(isInverted());
+    press("Return"); // once more
+    press("ctrl+w"); // otherwise closes the window
+    EXPECT_TRUE(hotKeyBecomes("⌃W"));
+    EXPECT_TRUE(isShown("Preferences"));
+    press("alt+i");
+    EXPECT_TRUE(turns(true));
+    press("ctrl+w"); // what is registered now is nobody else's
+    EXPECT_TRUE(turns(false));
+    EXPECT_TRUE(isShown("Preferences"));
+    press("Escape");
+    EXPECT_TRUE(waitUntil([&] { return !isShown("Preferences"); }));
+}
+
+TEST_F(Application, DocumentsAndPreviewsNeedNoWindow) {
+    select("NDHDTVLuminanceEffect");
+    nocturo_ = session_.startNocturo();
+    const auto file = session_.runtimeDirectory() / "mine.nocturo";
+    ASSERT_TRUE(writeEffectDocument(file, {.invertScreen = true, .dimLevel = 0.25F}));
+    ctl({"open", file});
+    EXPECT_TRUE(isInverted());
+    const auto saved = session_.runtimeDirectory() / "saved.nocturo";
+    ctl({"save", saved});
+    EXPECT_EQ(readEffectDocument(saved), readEffectDocument(file));
+    EXPECT_EQ(session_.run("nocturoctl", {"save", "/proc/no.nocturo"}).exit, 1);
+
+    writeText(file, "no document");
+    const RunResult refused = session_.run("nocturoctl", {"open", file});
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_EQ(refused.errors, "nocturoctl: \"" + file.string() + "\" is not an effect document.\n");
+    EXPECT_TRUE(isInverted());
+
+    const auto picture = [&] {
+        ctl({"preview", "--png", file, "--display", "2"});
+        return readText(file);
+    };
+    const std::string inverted = picture();
+    EXPECT_EQ(inverted.substr(1, 3), "PNG");
+    ctl({"effects", "only", "dim"});
+    EXPECT_NE(picture(), inverted);
+    EXPECT_EQ(session_.run("nocturoctl", {"preview", "--png", file, "--display", "7"}).exit, 2);
 }
 
 } // namespace

@@ -2,6 +2,9 @@
 
 #include "nocturo_test.h"
 
+#include <iterator>
+#include <sstream>
+
 namespace nocturo::rig {
 
 namespace {
@@ -20,32 +23,34 @@ class ControlOfRunning : public Control {
 };
 
 TEST_F(Control, WrongCommandLinesAreUsageErrors) {
-    const std::pair<const char*, Arguments> lines[] = {
-        {"nocturo", {"--display-services=nonsense"}},
-        {"nocturo", {"--display-services=simulated:0"}},
-        {"nocturo", {"--display-services=simulated:17"}},
-        {"nocturo", {"--display-services=simulated:"}},
-        {"nocturo", {"--display-services"}},
-        {"nocturo", {"--nonsense"}},
-        {"nocturoctl", {}},
-        {"nocturoctl", {"nonsense"}},
-        {"nocturoctl", {"on", "now"}},
-        {"nocturoctl", {"status", "--xml"}},
-        {"nocturoctl", {"effects", "add"}},
-        {"nocturoctl", {"effects", "only", "nonsense"}},
-        {"nocturoctl", {"get", "Nonsense"}},
-        {"nocturoctl", {"set", "Nonsense", "1"}},
-        {"nocturoctl", {"set", "UseHotKey", "1"}},
-        {"nocturoctl", {"set", "HotKeyCode", "1.5"}},
-        {"nocturoctl", {"set", "NDDimEffectLevel", "nan"}},
-        {"nocturoctl", {"set", "NDDimEffectLevel", "1e99"}},
-        {"nocturoctl", {"set", "NDDimEffectLevel", "-0,5"}},
-        {"nocturoctl", {"set", "AffectedScreenSet", "1,x"}},
-        {"nocturoctl", {"reset", "Nonsense"}},
-    };
-    for (const auto& [program, arguments] : lines) {
-        const RunResult result = session_.run(program, arguments);
-        SCOPED_TRACE(program + Json(arguments).dump());
+    const char* lines[] = {"nocturo --display-services=nonsense",
+                           "nocturo --display-services=simulated:0",
+                           "nocturo --display-services=simulated:17",
+                           "nocturo --display-services=simulated:",
+                           "nocturo --display-services",
+                           "nocturo --nonsense",
+                           "nocturoctl",
+                           "nocturoctl nonsense",
+                           "nocturoctl on now",
+                           "nocturoctl status --xml",
+                           "nocturoctl effects add",
+                           "nocturoctl effects only nonsense",
+                           "nocturoctl get Nonsense",
+                           "nocturoctl set Nonsense 1",
+                           "nocturoctl set UseHotKey 1",
+                           "nocturoctl set HotKeyCode 1.5",
+                           "nocturoctl set NDDimEffectLevel nan",
+                           "nocturoctl set NDDimEffectLevel 1e99",
+                           "nocturoctl set NDDimEffectLevel -0,5",
+                           "nocturoctl set AffectedScreenSet 1,x",
+                           "nocturoctl reset Nonsense"};
+    for (const char* line : lines) {
+        SCOPED_TRACE(line);
+        std::istringstream words(line);
+        std::string program;
+        words >> program;
+        const RunResult result =
+            session_.run(program, {std::istream_iterator<std::string>(words), {}});
         EXPECT_EQ(result.exit, 2);
         EXPECT_EQ(result.output, "");
         EXPECT_EQ(std::count(result.errors.begin(), result.errors.end(), '\n'), 1) << result.errors;
@@ -53,62 +58,67 @@ TEST_F(Control, WrongCommandLinesAreUsageErrors) {
 }
 
 TEST_F(Control, WithoutDisplaysOrNocturoItSaysWhatToDo) {
-    const RunResult noServer = session_.run("nocturo");
-    EXPECT_EQ(noServer.exit, 1);
-    EXPECT_NE(noServer.errors.find("--display-services=simulated"), std::string::npos);
-    session_.environment()["DISPLAY"] = freeDisplay();
-    const RunResult deadServer = session_.run("nocturo", {"--display-services=randr"});
-    EXPECT_EQ(deadServer.exit, 1);
-    EXPECT_NE(deadServer.errors.find(session_.environment()["DISPLAY"]), std::string::npos);
-
+    const auto says = [&](const char* program, const Arguments& arguments, int exit,
+                          const std::string& part) {
+        const RunResult result = session_.run(program, arguments);
+        EXPECT_EQ(result.exit, exit) << Json(arguments);
+        EXPECT_NE((result.output + result.errors).find(part), std::string::npos)
+            << Json(arguments) << result.output << result.errors;
+    };
+    says("nocturo", {}, 1, "--display-services=simulated");
+    const std::string dead = session_.environment()["DISPLAY"] = freeDisplay();
+    says("nocturo", {"--display-services=randr"}, 1, dead);
+    says("nocturo", {"--help"}, 0, "Usage: nocturo");
+    says("nocturo", {"--version"}, 0, "nocturo " NOCTURO_VERSION "\n");
     for (const Arguments& verb : {Arguments{"on"}, {"quit"}, {"watch"}, {"screens", "all"}}) {
-        const RunResult result = session_.run("nocturoctl", verb);
-        EXPECT_EQ(result.exit, 3) << verb.front();
-        EXPECT_NE(result.errors.find("start it with"), std::string::npos);
+        says("nocturoctl", verb, 3, "start it with");
     }
-    const RunResult status = session_.run("nocturoctl", {"status", "--json"});
-    EXPECT_EQ(status.exit, 3);
-    EXPECT_EQ(Json::parse(status.output), Json({{"running", false}}));
-    for (const char* verb : {"on", "off", "toggle", "status", "effects", "get", "set", "reset",
-                             "screens", "watch", "quit"}) {
-        const RunResult help = session_.run("nocturoctl", {verb, "--help"});
-        EXPECT_EQ(help.exit, 0);
-        EXPECT_EQ(help.output.find(std::string("Usage: nocturoctl ") + verb), 0U);
+    says("nocturoctl", {"status", "--json"}, 3, "\"running\":false");
+    for (const std::string verb : {"on", "off", "toggle", "status", "effects", "get", "set",
+                                   "reset", "screens", "watch", "quit"}) {
+        says("nocturoctl", {verb, "--help"}, 0, "Usage: nocturoctl " + verb);
     }
-    EXPECT_EQ(session_.run("nocturo", {"--help"}).exit, 0);
-    EXPECT_EQ(session_.run("nocturo", {"--version"}).output, "nocturo " NOCTURO_VERSION "\n");
     session_.environment()["LANGUAGE"] = "de";
-    EXPECT_EQ(session_.run("nocturo", {"--help"}).output.find("Aufruf: nocturo "), 0U);
-    EXPECT_EQ(session_.run("nocturoctl", {"restore"}).errors.find("nocturoctl: Der X-Server"), 0U);
+    says("nocturo", {"--help"}, 0, "Aufruf: nocturo ");
+    says("nocturoctl", {"restore"}, 1, "nocturoctl: Der X-Server");
 }
 
 TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
+    const auto directory = session_.runtimeDirectory() / "nocturo";
+    EXPECT_EQ(nocturo_->readLine(),
+              "nocturo: Displays are simulated; their pictures are in " + directory.string() + ".");
     const Json before = status();
     EXPECT_EQ(before["displayServices"], "simulated");
     EXPECT_EQ(before["displays"].size(), 3U);
     EXPECT_EQ(before["settings"].size(), 16U);
-    const std::pair<std::string, std::string> values[] = {
-        {"NDDimEffectLevel", "-0.3"},
-        {"NDColorFilterEffectHue", "359.5"},
-        {"ShowStatusItem", "1"},
-        {"ActivateOnClick", "false"},
-        {"NDGroupEffect", R"(["NDDimEffect","NDInvertEffect"])"},
-        {"AffectedScreenSet", "[1,7]"},
+    const struct {
+        const char* key;
+        const char* typed;
+        std::string kept;
+    } settings[] = {
+        {"NDDimEffectLevel", "-0.3", "-0.3"},
+        {"NDColorFilterEffectHue", "359.5", "359.5"},
+        {"ShowStatusItem", "1", "1"},
+        {"ActivateOnClick", "no", "false"},
+        {"NDGroupEffect", "dim,NDInvertEffect", R"(["NDDimEffect","NDInvertEffect"])"},
+        {"AffectedScreenSet", "7,1", "[1,7]"},
     };
-    ctl({"set", "NDDimEffectLevel", "-0.3"});
-    ctl({"set", "NDColorFilterEffectHue", "359.5"});
-    ctl({"set", "ShowStatusItem", "1"});
-    ctl({"set", "ActivateOnClick", "no"});
-    ctl({"set", "NDGroupEffect", "dim,NDInvertEffect"});
-    ctl({"set", "AffectedScreenSet", "7,1"});
-    for (const auto& [key, value] : values) {
-        EXPECT_EQ(ctl({"get", key}).output, value + "\n");
-        EXPECT_EQ(status()["settings"][key].dump(), value);
+    for (const auto& [key, typed, kept] : settings) {
+        ctl({"set", key, typed});
+        EXPECT_EQ(ctl({"get", key}).output, kept + "\n");
+        EXPECT_EQ(status()["settings"][key].dump(), kept);
         ctl({"reset", key});
     }
     EXPECT_EQ(status(), before);
     EXPECT_NE(ctl({"status"}).output.find("SIM-3"), std::string::npos);
     EXPECT_NE(ctl({"effects"}).output.find("[ ]  dim"), std::string::npos);
+
+    const auto pictureSize = [&] {
+        return std::filesystem::file_size(directory / "display-2.png");
+    };
+    const auto plain = pictureSize();
+    ctl({"effects", "only", "color-filter"});
+    EXPECT_NE(pictureSize(), plain);
 
     // What nocturoctl would not let through is refused by Nocturo itself.
     const RunResult direct =
@@ -144,19 +154,6 @@ TEST_F(ControlOfRunning, WatchTellsEachChange) {
     ctl({"quit"});
     EXPECT_EQ(watch->wait(), 0);
     EXPECT_EQ(nocturo_->wait(), 0);
-}
-
-TEST_F(ControlOfRunning, SimulatedDisplaysDrawWhatTheyShow) {
-    const auto directory = session_.runtimeDirectory() / "nocturo";
-    const auto picture = directory / "display-2.png";
-    EXPECT_EQ(nocturo_->readLine(),
-              "nocturo: Displays are simulated; their pictures are in " + directory.string() + ".");
-    ctl({"off"});
-    ASSERT_TRUE(std::filesystem::exists(picture));
-    const auto plainSize = std::filesystem::file_size(picture);
-    ctl({"effects", "only", "color-filter"});
-    ctl({"on"});
-    EXPECT_NE(std::filesystem::file_size(picture), plainSize);
 }
 
 } // namespace

@@ -7,53 +7,27 @@ namespace nocturo::rig {
 
 namespace {
 
-using Json = nlohmann::json;
-
 constexpr const char* kMock = "org.freedesktop.DBus.Mock";
 constexpr const char* kLogin = "org.freedesktop.login1";
+constexpr const char* kLoginPath = "/org/freedesktop/login1";
 constexpr const char* kLoginSession = "/org/freedesktop/login1/session/c1";
+constexpr const char* kGnome = "org.gnome.ScreenSaver";
 
-/// A session on an X server, or in simulation, whose desktop tells of things.
-template <class Base>
-class DesktopSources : public Base {
+class DesktopSources : public NocturoOnX {
   protected:
-    using Base::Base;
-    using Base::ctl;
-    using Base::session_;
-    using Base::status;
-
-    bool isOn() { return status()["active"]; }
-    bool isSavedOn() { return status()["settings"]["EffectActive"]; }
-    bool turns(bool on) {
-        return waitUntil([&] { return isOn() == on; });
-    }
-
-    /// A login manager that knows the session c1, which is locked or not from the start.
-    std::unique_ptr<Process> startLoginManager() {
-        auto mock =
-            session_.startMock(session_.systemBus(), kLogin, {"--system", "--template", "logind"});
-        session_.systemBus().call(kLogin, "/org/freedesktop/login1", kMock, "AddSession", "ssusb",
-                                  "c1", "seat0", 0U, "somebody", 1);
-        return mock;
-    }
-    void setSessionProperty(const char* name, bool value) {
-        session_.systemBus().call(kLogin, kLoginSession, kMock, "UpdateProperties", "sa{sv}",
-                                  "org.freedesktop.login1.Session", 1, name, "b", int{value});
-    }
-};
-
-class OnX : public DesktopSources<NocturoOnX> {
-  protected:
-    OnX() : DesktopSources(2) {}
+    DesktopSources() : NocturoOnX(2) {}
 
     /// Leaves the effect on, inverting, with nothing that applies it again by itself.
     void start() {
+        select("NDInvertEffect", "<key>ContinuouslyApply</key><false/>");
         nocturo_ = session_.startNocturo();
-        ctl({"set", "ContinuouslyApply", "false"});
-        ctl({"effects", "only", "invert"});
-        ctl({"on"});
-        ASSERT_EQ(shown(), "ii");
+        status(); // answered once everything is being followed
     }
+
+    bool isOn() { return status()["active"]; }
+    /// The effect pauses, or goes on, while the user's own choice stays.
+    bool pauses() { return becomes("oo") && status()["settings"]["EffectActive"]; }
+    bool goesOn() { return becomes("ii") && isOn(); }
 
     /// What another program, or a driver that wakes up, does.
     void overwrite(const char* output = "DUMMY1") {
@@ -70,79 +44,79 @@ class OnX : public DesktopSources<NocturoOnX> {
             return shown() == "ii";
         }));
     }
-};
 
-class Simulated : public DesktopSources<NocturoTest> {
-  protected:
-    Simulated() : DesktopSources(0) {}
-    /// Returns when the first call is answered, which is once everything is being followed.
-    void start() {
-        nocturo_ = session_.startNocturo({"--display-services=simulated:1"});
-        status();
+    /// A login manager that knows the session c1, which is locked or not from the start.
+    std::unique_ptr<Process> startLoginManager() {
+        auto mock =
+            session_.startMock(session_.systemBus(), kLogin, {"--system", "--template", "logind"});
+        session_.systemBus().call(kLogin, kLoginPath, kMock, "AddSession", "ssusb", "c1", "seat0",
+                                  0U, "somebody", 1);
+        return mock;
+    }
+    void setSessionProperty(const char* name, bool value) {
+        session_.systemBus().call(kLogin, kLoginSession, kMock, "UpdateProperties", "sa{sv}",
+                                  "org.freedesktop.login1.Session", 1, name, "b", int{value});
+    }
+    std::unique_ptr<Process> startGnomeSaver(bool active) {
+        auto saver =
+            session_.startMock(session_.bus(), kGnome, {"--template", "gnome_screensaver"});
+        setGnomeActive(active);
+        return saver;
+    }
+    void setGnomeActive(bool active) {
+        session_.bus().call(kGnome, "/org/gnome/ScreenSaver", kGnome, "SetActive", "b",
+                            int{active});
     }
 };
 
-TEST_F(OnX, TheServersScreenSaverPausesTheEffect) {
-    start();
+TEST_F(DesktopSources, TheServersScreenSaverPausesTheEffect) {
     session_.run("xset", {"s", "activate"});
-    EXPECT_TRUE(becomes("oo"));
-    EXPECT_FALSE(isOn());
-    EXPECT_TRUE(isSavedOn());
-    session_.run("xset", {"s", "reset"});
-    EXPECT_TRUE(becomes("ii"));
-    EXPECT_TRUE(isSavedOn());
-
-    ctl({"set", "NDDeactivateForScreenSaver", "false"});
-    session_.run("xset", {"s", "activate"});
-    letNocturoCatchUp();
-    EXPECT_TRUE(isOn());
-    EXPECT_EQ(shown(), "ii");
-}
-
-TEST_F(OnX, AScreenSaverThatRunsAtTheStartCounts) {
-    start();
-    ctl({"quit"});
-    nocturo_->wait();
-    session_.run("xset", {"s", "activate"});
-    nocturo_ = session_.startNocturo();
-    EXPECT_TRUE(becomes("oo"));
-    EXPECT_TRUE(isSavedOn());
+    start(); // it runs already
+    EXPECT_TRUE(pauses());
     ctl({"on"}); // the user's word holds
     EXPECT_EQ(shown(), "ii");
     session_.run("xset", {"s", "reset"});
     letNocturoCatchUp();
     EXPECT_TRUE(isOn());
-}
+    session_.run("xset", {"s", "activate"});
+    EXPECT_TRUE(pauses());
+    session_.run("xset", {"s", "reset"});
+    EXPECT_TRUE(goesOn());
 
-TEST_F(OnX, XScreenSaverPausesTheEffect) {
-    start();
-    std::ofstream(std::filesystem::path(session_.environment()["HOME"]) / ".xscreensaver")
-        << "mode: blank\nlock: False\nfade: False\n";
-    const auto saver = session_.start("xscreensaver", {"-no-splash"});
-    const auto command = [&](const char* word) {
-        return session_.run("xscreensaver-command", {word}).exit == 0;
-    };
-    ASSERT_TRUE(waitUntil([&] { return command("-time"); })) << saver->errors();
-    ASSERT_TRUE(waitUntil([&] { return command("-activate"); })) << saver->errors();
-    EXPECT_TRUE(becomes("oo"));
-    EXPECT_TRUE(isSavedOn());
-    command("-deactivate");
-    EXPECT_TRUE(becomes("ii"));
-
-    const char* property = "_SCREENSAVER_STATUS";
-    client_.setRootProperty(property, {client_.atom("LOCK"), 1, 2});
-    EXPECT_TRUE(becomes("oo"));
-    saver->signal(SIGKILL); // its property stays
-    EXPECT_TRUE(becomes("ii"));
-    ctl({"quit"});
-    nocturo_->wait();
-    nocturo_ = session_.startNocturo();
-    EXPECT_TRUE(becomes("ii"));
+    ctl({"set", "NDDeactivateForScreenSaver", "false"});
+    session_.run("xset", {"s", "activate"});
     letNocturoCatchUp();
     EXPECT_TRUE(isOn());
 }
 
-TEST_F(OnX, AnApplicationThatQuitsHasTheEffectAppliedAgain) {
+TEST_F(DesktopSources, XScreenSaverPausesTheEffect) {
+    start();
+    writeText(session_.environment()["HOME"] + "/.xscreensaver",
+              "mode: blank\nlock: False\nfade: False\n");
+    const auto saver = session_.start("xscreensaver", {"-no-splash"});
+    const auto does = [&](const char* command) {
+        return waitUntil([&] { return session_.run("xscreensaver-command", {command}).exit == 0; });
+    };
+    ASSERT_TRUE(does("-time") && does("-activate")) << saver->errors();
+    EXPECT_TRUE(pauses());
+    EXPECT_TRUE(does("-deactivate"));
+    EXPECT_TRUE(goesOn());
+
+    client_.setRootProperty("_SCREENSAVER_STATUS", {client_.atom("LOCK"), 1, 2});
+    EXPECT_TRUE(pauses());
+    saver->signal(SIGKILL); // its property stays
+    EXPECT_TRUE(goesOn());
+    ctl({"quit"});
+    nocturo_->wait();
+    start();
+    EXPECT_TRUE(goesOn());
+    letNocturoCatchUp();
+    EXPECT_TRUE(isOn());
+}
+
+TEST_F(DesktopSources, TheEndOfAnApplicationAndWakingUpHaveTheEffectAppliedAgain) {
+    const auto login = startLoginManager();
+    session_.environment()["XDG_SESSION_ID"] = "c1";
     start();
     // Without a window manager, names on the session bus tell.
     const std::vector<std::string> someName = {"org.example.Player", "/", "org.example.Player"};
@@ -151,38 +125,31 @@ TEST_F(OnX, AnApplicationThatQuitsHasTheEffectAppliedAgain) {
     player.reset();
     EXPECT_TRUE(becomes("ii"));
     letNocturoCatchUp();
-}
 
-TEST_F(OnX, WakingUpAndComingToTheFrontHaveTheEffectAppliedAgain) {
-    const auto login = startLoginManager();
-    session_.environment()["XDG_SESSION_ID"] = "c1";
-    start();
     setSessionProperty("Active", false);
     overwrite();
     setSessionProperty("Active", true);
     EXPECT_TRUE(becomes("ii"));
-
     overwrite();
-    session_.systemBus().call(kLogin, "/org/freedesktop/login1", kMock, "EmitSignal", "sssav",
+    session_.systemBus().call(kLogin, kLoginPath, kMock, "EmitSignal", "sssav",
                               "org.freedesktop.login1.Manager", "PrepareForSleep", "b", 1, "b", 0);
     EXPECT_TRUE(becomes("ii"));
     overwrite(); // the driver comes late
     EXPECT_TRUE(becomes("ii", Milliseconds(3100)));
 }
 
-TEST_F(OnX, AProgramThatFightsIsCountedAndNamed) {
+TEST_F(DesktopSources, AProgramThatFightsIsCountedAndNamed) {
+    const Milliseconds tick(6500);
     start();
     EXPECT_EQ(status()["disturbances"], 0);
     EXPECT_EQ(ctl({"status"}).output.find("changes the colors"), std::string::npos);
     const char* name = "org.gnome.SettingsDaemon.Color";
-    const auto nightLight =
-        session_.startMock(session_.bus(), name, {name, "/org/gnome/SettingsDaemon/Color", name});
-    session_.bus().call(name, "/org/gnome/SettingsDaemon/Color", kMock, "AddProperty", "ssv", name,
-                        "NightLightActive", "b", 1);
+    const char* path = "/org/gnome/SettingsDaemon/Color";
+    const auto nightLight = session_.startMock(session_.bus(), name, {name, path, name});
+    session_.bus().call(name, path, kMock, "AddProperty", "ssv", name, "NightLightActive", "b", 1);
     ctl({"set", "ContinuouslyApply", "true"});
     overwrite("DUMMY0");
     overwrite("DUMMY1");
-    const Milliseconds tick(6500);
     EXPECT_TRUE(waitUntil([&] { return status()["disturber"] == "Night Light"; }, tick));
     EXPECT_EQ(status()["disturbances"], 2);
     EXPECT_EQ(shown(), "ii");
@@ -192,80 +159,70 @@ TEST_F(OnX, AProgramThatFightsIsCountedAndNamed) {
     const auto fighter = session_.start(redshift, {"60"});
     overwrite();
     EXPECT_TRUE(waitUntil([&] { return status()["disturber"] == "redshift"; }, tick));
-    EXPECT_EQ(status()["disturbances"], 3);
-    EXPECT_NE(ctl({"status"})
-                  .output.find(
-                      "redshift changes the colors too: found 3 times since Nocturo was started."),
+    const std::string said = ctl({"status"}).output;
+    EXPECT_NE(said.find("redshift changes the colors too: found 3 times since Nocturo was started"),
               std::string::npos);
 }
 
-TEST_F(Simulated, ScreenSaversOfTheSessionBusPauseTheEffect) {
-    const char* gnome = "org.gnome.ScreenSaver";
-    const auto setActive = [&](bool active) {
-        session_.bus().call(gnome, "/org/gnome/ScreenSaver", gnome, "SetActive", "b", int{active});
-    };
-    auto saver = session_.startMock(session_.bus(), gnome, {"--template", "gnome_screensaver"});
-    setActive(true);
-    start();
-    EXPECT_TRUE(turns(false)); // it was active already
-    EXPECT_TRUE(isSavedOn());
-    setActive(false);
-    EXPECT_TRUE(turns(true));
-    setActive(true);
-    EXPECT_TRUE(turns(false));
+TEST_F(DesktopSources, ScreenSaversOfTheSessionBusPauseTheEffect) {
+    auto saver = startGnomeSaver(true);
+    start(); // it was active already
+    EXPECT_TRUE(pauses());
+    setGnomeActive(false);
+    EXPECT_TRUE(goesOn());
+    setGnomeActive(true);
+    EXPECT_TRUE(pauses());
     saver.reset(); // a saver that is gone covers nothing
-    EXPECT_TRUE(turns(true));
-    saver = session_.startMock(session_.bus(), gnome, {"--template", "gnome_screensaver"});
-    setActive(true);
-    EXPECT_TRUE(turns(false));
-}
+    EXPECT_TRUE(goesOn());
+    saver = startGnomeSaver(true);
+    EXPECT_TRUE(pauses());
+    saver.reset();
+    EXPECT_TRUE(goesOn());
 
-TEST_F(Simulated, ASaverThatSpeaksFromTwoPathsIsCountedOnce) {
+    // One that speaks from two paths is counted once.
     const char* kde = "org.freedesktop.ScreenSaver";
-    const auto saver = session_.startMock(session_.bus(), kde, {kde, "/ScreenSaver", kde});
-    session_.bus().call(kde, "/ScreenSaver", kMock, "AddObject", "ssa{sv}a(ssss)",
-                        "/org/freedesktop/ScreenSaver", kde, 0, 0);
+    const char* other = "/org/freedesktop/ScreenSaver";
+    saver = session_.startMock(session_.bus(), kde, {kde, "/ScreenSaver", kde});
+    session_.bus().call(kde, "/ScreenSaver", kMock, "AddObject", "ssa{sv}a(ssss)", other, kde, 0,
+                        0);
     const auto activeChanged = [&](const char* path, bool active) {
         session_.bus().call(kde, path, kMock, "EmitSignal", "sssav", kde, "ActiveChanged", "b", 1,
                             "b", int{active});
     };
-    start();
     activeChanged("/ScreenSaver", true);
-    EXPECT_TRUE(turns(false));
+    EXPECT_TRUE(pauses());
     ctl({"on"});
-    activeChanged("/org/freedesktop/ScreenSaver", true);
+    activeChanged(other, true);
     EXPECT_TRUE(isOn());
     activeChanged("/ScreenSaver", false);
-    activeChanged("/org/freedesktop/ScreenSaver", false);
+    activeChanged(other, false);
     EXPECT_TRUE(isOn());
-    activeChanged("/org/freedesktop/ScreenSaver", true);
-    EXPECT_TRUE(turns(false));
+    activeChanged(other, true);
+    EXPECT_TRUE(pauses());
 }
 
-TEST_F(Simulated, ALockedSessionPausesWhereNothingElseTells) {
+TEST_F(DesktopSources, ALockedSessionPausesWhereNothingElseTells) {
+    // The server's own screen saver would tell, too.
+    session_.environment().erase("DISPLAY");
+    const auto turns = [&](bool on) { return waitUntil([&] { return isOn() == on; }); };
     auto login = startLoginManager();
     // This process belongs to no session, so the user's graphical one is meant.
-    session_.systemBus().call(kLogin, "/org/freedesktop/login1", kMock, "AddObject",
-                              "ssa{sv}a(ssss)", "/org/freedesktop/login1/user/self",
-                              "org.freedesktop.login1.User", 1, "Display", "(so)", "c1",
-                              kLoginSession, 0);
+    session_.systemBus().call(kLogin, kLoginPath, kMock, "AddObject", "ssa{sv}a(ssss)",
+                              "/org/freedesktop/login1/user/self", "org.freedesktop.login1.User", 1,
+                              "Display", "(so)", "c1", kLoginSession, 0);
     setSessionProperty("LockedHint", true);
-    start();
+    nocturo_ = session_.startNocturo({"--display-services=simulated:1"});
     EXPECT_TRUE(turns(false)); // it was locked already
     setSessionProperty("LockedHint", false);
     EXPECT_TRUE(turns(true));
 
-    const char* gnome = "org.gnome.ScreenSaver";
-    const auto saver =
-        session_.startMock(session_.bus(), gnome, {"--template", "gnome_screensaver"});
-    session_.bus().call(gnome, "/org/gnome/ScreenSaver", gnome, "SetActive", "b", 1);
+    const auto saver = startGnomeSaver(true);
     EXPECT_TRUE(turns(false));
-    session_.bus().call(gnome, "/org/gnome/ScreenSaver", gnome, "SetActive", "b", 0);
+    setGnomeActive(false);
     EXPECT_TRUE(turns(true));
     setSessionProperty("LockedHint", true);
-    // Comes after the lock on the same bus.
-    setSessionProperty("Active", false);
-    session_.bus().call(gnome, "/org/gnome/ScreenSaver", gnome, "SetActive", "b", 0);
+    setSessionProperty("Active", false); // comes after the lock on the same bus
+    setGnomeActive(false);
     EXPECT_TRUE(isOn());
 }
 

@@ -43,14 +43,14 @@ class Guard : public NocturoOnX {
         ctl({"on"});
         ASSERT_EQ(shown(), kAllChanged);
     }
-
-    int plain() {
-        int count = 0;
+    bool allArePlain() {
         for (int i = 0; i < kDisplays; ++i) {
             const Channels ramp = client_.ramp(output(i));
-            count += ramp[0] == ramp[1] && ramp[0][1] == 257 && ramp[0][255] == 65535 ? 1 : 0;
+            if (ramp[0] != ramp[1] || ramp[0][1] != 257 || ramp[0][255] != 65535) {
+                return false;
+            }
         }
-        return count;
+        return true;
     }
 
     void killAtRandomMoments(int rounds, int together);
@@ -58,30 +58,22 @@ class Guard : public NocturoOnX {
 
 // What it is doing changes from round to round: starting, toggling, following a slider, nothing.
 void Guard::killAtRandomMoments(int rounds, int together) {
+    const std::vector<std::string> drivers[] = {{}, {"100000"}, {"100000", "drag"}, {}};
     std::mt19937 random(std::random_device{}());
-    const auto moment = [&] {
-        return Milliseconds(std::uniform_int_distribution<int>(0, 60)(random));
-    };
+    std::uniform_int_distribution<int> moment(0, 60);
     int late = 0;
     startChanging();
-    ctl({"quit"});
-    nocturo_->wait();
+    end();
     for (int round = 0; round < rounds; ++round) {
         SCOPED_TRACE("round " + std::to_string(round));
         const int activity = round % 4;
-        std::unique_ptr<Process> driver;
-        if (activity == 0) {
-            nocturo_ = session_.start("nocturo");
-        } else {
-            nocturo_ = session_.startNocturo();
+        nocturo_ = activity == 0 ? session_.start("nocturo") : session_.startNocturo();
+        if (activity != 0) {
             ctl({"on"});
         }
-        if (activity == 1) {
-            driver = session_.start("toggle_loop", {"100000"});
-        } else if (activity == 2) {
-            driver = session_.start("toggle_loop", {"100000", "drag"});
-        }
-        ASSERT_EQ(nocturo_->wait(moment()), std::nullopt) << nocturo_->errors();
+        const auto driver =
+            drivers[activity].empty() ? nullptr : session_.start("toggle_loop", drivers[activity]);
+        ASSERT_EQ(nocturo_->wait(Milliseconds(moment(random))), std::nullopt) << nocturo_->errors();
         const bool guardToo = round * together / rounds != (round + 1) * together / rounds;
         kill(guardToo);
         if (guardToo) {
@@ -90,11 +82,10 @@ void Guard::killAtRandomMoments(int rounds, int together) {
             ctl({"off"});
         }
         late += allOwnWithin(kWithin) ? 0 : 1;
-        EXPECT_TRUE(allOwnWithin()) << shown();
+        ASSERT_TRUE(allOwnWithin()) << shown();
         if (guardToo) {
             ctl({"on"});
-            ctl({"quit"});
-            nocturo_->wait();
+            end();
         }
         reapGuards();
         waitForTheBus();
@@ -113,7 +104,7 @@ TEST_F(Guard, SoakKilledAtTwoHundredRandomMoments) {
     killAtRandomMoments(200, 20);
 }
 
-TEST_F(Guard, IsThereBeforeTheFirstChangeAndOnlyThen) {
+TEST_F(Guard, IsThereWhileADisplayIsChangedAndIsReplacedWhenItIsKilled) {
     nocturo_ = session_.startNocturo();
     EXPECT_EQ(guardProcess(), -1); // no effect is chosen: every display keeps its own ramp
     ctl({"effects", "only", "invert"});
@@ -124,24 +115,11 @@ TEST_F(Guard, IsThereBeforeTheFirstChangeAndOnlyThen) {
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         ::kill(guard, number);
     }
-    ctl({"quit"});
-    EXPECT_EQ(nocturo_->wait(), 0);
+    end();
     EXPECT_EQ(waitForChild(guard), 0);
     EXPECT_FALSE(fs::exists(journal()));
     EXPECT_EQ(shown(), kAllOwn);
-}
 
-TEST_F(Guard, WritesNothingWhereTheDisplaysWereGivenBack) {
-    startChanging();
-    ctl({"off"});
-    const Channels anothers = client_.ramp(output(1));
-    client_.setRamp(output(0), anothers);
-    kill(false);
-    reapGuards();
-    EXPECT_EQ(client_.ramp(output(0)), anothers);
-}
-
-TEST_F(Guard, AnotherTakesOverWhenItIsKilled) {
     startChanging();
     for (int i = 0; i < 3; ++i) {
         const pid_t before = guardProcess();
@@ -154,6 +132,15 @@ TEST_F(Guard, AnotherTakesOverWhenItIsKilled) {
     }
     kill(false);
     EXPECT_TRUE(allOwnWithin());
+
+    waitForTheBus();
+    startChanging();
+    ctl({"off"});
+    const Channels anothers = client_.ramp(output(1));
+    client_.setRamp(output(0), anothers);
+    kill(false);
+    reapGuards();
+    EXPECT_EQ(client_.ramp(output(0)), anothers) << "the displays had been given back";
 }
 
 TEST_F(Guard, WithTheServerEverythingEndsByItself) {
@@ -163,10 +150,8 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
     nocturo_->signal(SIGSTOP); // the guard has to notice the server's end by itself
     session_.server().kill();
     EXPECT_TRUE(waitUntil([&] {
-        std::ifstream stat("/proc/" + std::to_string(guard) + "/stat");
-        std::string text;
-        std::getline(stat, text);
-        return text.find(") Z ") != std::string::npos; // its parent is stopped
+        const std::string stat = readText("/proc/" + std::to_string(guard) + "/stat");
+        return stat.find(") Z ") != std::string::npos; // its parent is stopped
     }));
     nocturo_->signal(SIGCONT);
     EXPECT_EQ(nocturo_->wait(), 1);
@@ -174,7 +159,7 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
     EXPECT_TRUE(
         nocturo_->errors().ends_with("nocturo: The display server has gone, so Nocturo ends.\n"))
         << nocturo_->errors();
-    reapGuards();
+    reapGuards(true);
     rusage used{};
     getrusage(RUSAGE_CHILDREN, &used);
     EXPECT_EQ(childrenNamed(getpid(), kGuard).size(), 0U);
@@ -186,11 +171,13 @@ TEST_F(Guard, KilledWithTheServerItEndsToo) {
     nocturo_->signal(SIGKILL);
     session_.server().kill();
     nocturo_->wait();
-    reapGuards();
+    reapGuards(true);
 }
 
-TEST_F(Guard, ADamagedJournalGivesPlainColors) {
+TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
     startChanging();
+    const fs::path old = session_.runtimeDirectory() / "old";
+    fs::copy_file(journal(), old);
     kill(true);
     waitForTheBus();
     damageJournal();
@@ -198,18 +185,12 @@ TEST_F(Guard, ADamagedJournalGivesPlainColors) {
     EXPECT_TRUE(nocturo_->waitForError("is missing or damaged, so they get plain ones."));
     session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_);
     ctl({"off"});
-    EXPECT_EQ(plain(), kDisplays);
+    EXPECT_TRUE(allArePlain());
     EXPECT_TRUE(fs::exists(journal().native() + ".damaged"));
-}
+    end();
 
-TEST_F(Guard, AJournalOfAnotherRunIsNotBelieved) {
-    startChanging();
-    const fs::path old = session_.runtimeDirectory() / "old";
-    fs::copy_file(journal(), old);
-    ctl({"quit"});
-    nocturo_->wait();
     for (int i = 0; i < kDisplays; ++i) {
-        Channels other = client_.ramp(output(i));
+        Channels other = own_[static_cast<std::size_t>(i)];
         std::swap(other[0], other[1]);
         setOwn(i, other);
     }
@@ -220,103 +201,85 @@ TEST_F(Guard, AJournalOfAnotherRunIsNotBelieved) {
     fs::copy_file(old, journal(), fs::copy_options::overwrite_existing);
     nocturo_ = session_.startNocturo();
     ctl({"off"});
-    EXPECT_EQ(plain(), kDisplays);
-}
-
-TEST_F(Guard, RestoreByHandWorksWhileNocturoHangs) {
-    startChanging();
-    EXPECT_TRUE(becomes(kAllChanged));
-    nocturo_->signal(SIGSTOP);
-    const RunResult restored = session_.run("nocturoctl", {"restore"});
-    EXPECT_EQ(restored.exit, 0) << restored.errors;
-    EXPECT_NE(restored.output.find("does not answer"), std::string::npos) << restored.output;
-    EXPECT_EQ(shown(), kAllOwn);
+    EXPECT_TRUE(allArePlain());
 }
 
 TEST_F(Guard, RestoreByHandWorksInEverySituation) {
-    const auto restore = [&] {
+    const auto says = [&](const char* part) {
         const RunResult result = session_.run("nocturoctl", {"restore"});
         EXPECT_EQ(result.exit, 0) << result.errors;
+        EXPECT_NE(result.output.find(part), std::string::npos) << result.output;
         EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 1);
-        return result.output;
     };
     startChanging();
-    EXPECT_NE(restore().find("switched its effect off"), std::string::npos);
+    says("switched its effect off");
     EXPECT_EQ(shown(), kAllOwn);
 
     ctl({"on"});
-    const std::string address = session_.environment()["DBUS_SESSION_BUS_ADDRESS"];
+    const auto environment = session_.environment();
     session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
-    EXPECT_NE(restore().find("switched its effect off"), std::string::npos);
+    says("switched its effect off");
     EXPECT_EQ(shown(), kAllOwn);
-    session_.environment()["DBUS_SESSION_BUS_ADDRESS"] = address;
+    session_.environment() = environment;
 
     ctl({"on"});
-    // A server drops what a killed program sent and it has not read yet.
+    // A server drops what a stopped or killed program sent and it has not read yet.
+    EXPECT_TRUE(becomes(kAllChanged));
+    nocturo_->signal(SIGSTOP);
+    says("does not answer");
+    EXPECT_EQ(shown(), kAllOwn);
+
+    nocturo_->signal(SIGCONT);
+    ctl({"on"});
     EXPECT_TRUE(becomes(kAllChanged));
     kill(true);
     EXPECT_EQ(shown(), kAllChanged);
-    EXPECT_NE(restore().find("own colors back"), std::string::npos);
+    says("own colors back");
     EXPECT_EQ(shown(), kAllOwn);
 
-    EXPECT_NE(restore().find("plain colors now"), std::string::npos);
-    EXPECT_EQ(plain(), kDisplays);
+    says("plain colors now");
+    EXPECT_TRUE(allArePlain());
 }
 
-/// Nocturo copied elsewhere, with whatever stands for the guard.
-class GuardElsewhere : public Guard {
-  protected:
-    GuardElsewhere() {
-        fs::create_directories(bin());
-        fs::create_directories(bin() / "../libexec");
-        fs::copy_file(built() / "nocturo", bin() / "nocturo");
-        // The saved effect is what it starts with.
-        nocturo_ = session_.startNocturo();
-        ctl({"effects", "only", "invert"});
-        ctl({"quit"});
-        nocturo_->wait();
-    }
-    static fs::path built() { return NOCTURO_BIN_DIR; }
-    fs::path bin() const { return session_.runtimeDirectory() / "elsewhere" / "bin"; }
-
-    void startFromThere() {
-        nocturo_ = session_.start(bin() / "nocturo");
+// Nocturo copied elsewhere, with whatever stands for the guard.
+TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
+    const fs::path elsewhere = session_.runtimeDirectory() / "elsewhere";
+    const fs::path built = NOCTURO_BIN_DIR;
+    fs::create_directories(elsewhere / "bin");
+    fs::create_directories(elsewhere / "libexec");
+    fs::copy_file(built / "nocturo", elsewhere / "bin/nocturo");
+    select("NDInvertEffect");
+    const auto start = [&] {
+        nocturo_ = session_.start(elsewhere / "bin/nocturo");
         ASSERT_TRUE(session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_));
         ASSERT_TRUE(becomes("iiii"));
-    }
-};
-
-TEST_F(GuardElsewhere, IsFoundWhereItIsInstalled) {
-    fs::copy_file(built() / kGuard, bin() / "../libexec" / kGuard);
-    startFromThere();
-    kill(false);
-    EXPECT_TRUE(allOwnWithin());
-}
-
-TEST_F(GuardElsewhere, MissingItIsToldOnceAndDoneWithout) {
-    startFromThere();
+    };
+    start(); // there is none
     ctl({"off"});
     ctl({"on"});
-    nocturo_->signal(SIGTERM);
-    EXPECT_EQ(nocturo_->wait(), 0);
+    end();
     EXPECT_EQ(shown(), kAllOwn);
     const std::string& errors = nocturo_->errors();
     EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
     EXPECT_NE(errors.find("cannot be had (No such file or directory)"), std::string::npos);
-
-    startFromThere();
+    start();
     kill(false);
     EXPECT_EQ(shown(), "iiii");
     ctl({"restore"});
     EXPECT_EQ(shown(), kAllOwn);
-}
 
-TEST_F(GuardElsewhere, OneThatDoesNotStayAliveIsGivenUp) {
-    fs::copy_file("/bin/false", bin() / kGuard);
-    startFromThere();
+    waitForTheBus();
+    fs::copy_file("/bin/false", elsewhere / "bin" / kGuard); // one that does not stay alive
+    start();
     EXPECT_TRUE(nocturo_->waitForError("it does not stay alive"));
-    ctl({"off"});
+    end();
     EXPECT_EQ(shown(), kAllOwn);
+
+    fs::remove(elsewhere / "bin" / kGuard);
+    fs::copy_file(built / kGuard, elsewhere / "libexec" / kGuard);
+    start();
+    kill(false);
+    EXPECT_TRUE(allOwnWithin());
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // The hot key of the settings on a real X server, pressed by XTEST: what it does to the ramps.
 
 #include "nocturo_test.h"
-#include "rig/x_keyboard.h"
 
 #include <linux/input-event-codes.h>
 
@@ -11,58 +10,64 @@ namespace {
 
 using Json = nlohmann::json;
 
+constexpr int kControl = XCB_MOD_MASK_CONTROL;
+constexpr int kCapsOn = XCB_MOD_MASK_LOCK;
+constexpr int kNumOn = XCB_MOD_MASK_2;
+
 class HotKeyToggle : public NocturoOnX {
   protected:
     HotKeyToggle() : NocturoOnX(1) {
+        session_.server().setLayout("us");
         nocturo_ = session_.startNocturo();
         ctl({"effects", "only", "invert"});
         ctl({"off"});
     }
 
     Json hotKey() { return status()["hotKey"]; }
+    std::string enable() { return ctl({"hotkey", "enable"}).output; }
 
-    /// The modifiers are let go first: the key itself is released with none held.
-    void press(std::initializer_list<std::uint16_t> keys) {
-        for (const auto key : keys) {
-            keyboard_.press(key);
-        }
-        for (const auto key : keys) {
-            keyboard_.release(key);
-        }
+    /// Whether another program can, soon, claim the key with exactly these modifiers. What is given
+    /// back is only sent off: the server may hear others first.
+    bool becomesFree(int key, int modifiers) {
+        const bool isFree = waitUntil([&] { return client_.grab(key, modifiers); });
+        client_.ungrab(key, modifiers);
+        return isFree;
     }
-
-    XKeyboard keyboard_{session_.server().display()};
+    /// That every press of the keys toggles once.
+    void expectToggles(const std::vector<int>& keys) {
+        const std::string before = shown();
+        client_.type(keys);
+        EXPECT_TRUE(becomes(before == "i" ? "o" : "i"));
+        client_.type(keys);
+        EXPECT_TRUE(becomes(before));
+    }
 };
 
 TEST_F(HotKeyToggle, TogglesOnReleaseAndFollowsTheChosenCombination) {
     EXPECT_EQ(ctl({"hotkey"}).output, "No hot key is chosen.\n");
     ctl({"hotkey", "set", "shift+Super+f5"});
-    ctl({"hotkey", "enable"});
+    enable();
     EXPECT_EQ(hotKey(), Json({{"text", "⇧⌘F5"},
                               {"keyCode", 96},
                               {"modifierFlags", 0x120000},
                               {"enabled", true},
                               {"registered", true}}));
-    keyboard_.press(KEY_LEFTMETA);
-    keyboard_.press(KEY_LEFTSHIFT);
-    keyboard_.press(KEY_F5);
+    for (const int key : {KEY_LEFTMETA, KEY_LEFTSHIFT, KEY_F5}) {
+        client_.press(key);
+    }
     ctl({"status"}); // the press has arrived by now
     EXPECT_EQ(shown(), "o");
-    keyboard_.release(KEY_F5);
+    for (const int key : {KEY_LEFTMETA, KEY_LEFTSHIFT, KEY_F5}) {
+        client_.release(key); // the modifiers first
+    }
     EXPECT_TRUE(becomes("i"));
-    keyboard_.release(KEY_LEFTSHIFT);
-    keyboard_.release(KEY_LEFTMETA);
 
     ctl({"hotkey", "set", "ctrl+k"});
-    press({KEY_LEFTMETA, KEY_LEFTSHIFT, KEY_F5});
-    press({KEY_LEFTCTRL, KEY_K});
+    client_.type({KEY_LEFTMETA, KEY_LEFTSHIFT, KEY_F5});
+    client_.type({KEY_LEFTCTRL, KEY_K});
     EXPECT_TRUE(becomes("o")); // toggled once: the old combination is silent
-    ctl({"hotkey", "disable"});
-    EXPECT_FALSE(hotKey()["registered"]);
-    EXPECT_TRUE(keyboard_.grab(KEY_K, XCB_MOD_MASK_CONTROL)); // it is free again
     ctl({"hotkey", "none"});
     EXPECT_TRUE(hotKey().is_null());
-
     const RunResult wrong = session_.run("nocturoctl", {"hotkey", "set", "ctrl+nokey"});
     EXPECT_EQ(wrong.exit, 2);
     EXPECT_NE(wrong.errors.find("ctrl+super+F5"), std::string::npos) << wrong.errors;
@@ -70,31 +75,62 @@ TEST_F(HotKeyToggle, TogglesOnReleaseAndFollowsTheChosenCombination) {
 }
 
 TEST_F(HotKeyToggle, WhatAnotherProgramHoldsIsRegisteredOnceItIsFree) {
-    ASSERT_TRUE(keyboard_.grab(KEY_K, XCB_MOD_MASK_CONTROL));
+    // Of the four grabs that a combination takes only one is held: the others must be given back.
+    ASSERT_TRUE(client_.grab(KEY_K, kControl | kNumOn));
     ctl({"hotkey", "set", "ctrl+k"});
-    EXPECT_NE(ctl({"hotkey", "enable"}).output.find("another program holds it"), std::string::npos);
+    EXPECT_NE(enable().find("another program holds it"), std::string::npos);
     EXPECT_EQ(hotKey()["registered"], false);
-    keyboard_.ungrab(KEY_K, XCB_MOD_MASK_CONTROL);
-    for (int i = 0; i < 200; ++i) { // any change tries again, and none claims it twice
-        ctl({"set", "NDDimEffectLevel", "-0." + std::to_string(i + 1)});
+    for (const int locks : {0, kCapsOn, kCapsOn | kNumOn}) {
+        EXPECT_TRUE(becomesFree(KEY_K, kControl | locks)) << locks;
     }
-    for (const char* letter : {"i", "o"}) {
-        press({KEY_LEFTCTRL, KEY_K});
-        EXPECT_TRUE(becomes(letter));
+    client_.ungrab(KEY_K, kControl | kNumOn);
+    for (const char* level :
+         {"-0.1", "-0.2", "-0.3"}) { // any change tries again, none claims twice
+        ctl({"set", "NDDimEffectLevel", level});
     }
-    ctl({"hotkey", "none"});
-    EXPECT_TRUE(keyboard_.grab(KEY_K, XCB_MOD_MASK_CONTROL)); // and none is left behind
+    expectToggles({KEY_LEFTCTRL, KEY_K});
+    EXPECT_FALSE(client_.grab(KEY_K, kControl | kNumOn | kCapsOn));
+    ctl({"hotkey", "disable"});
+    EXPECT_FALSE(hotKey()["registered"]);
+    EXPECT_TRUE(becomesFree(KEY_K, kControl | kNumOn));
+}
+
+TEST_F(HotKeyToggle, WorksWhateverIsLockedAndWhereverTheModifiersAre) {
+    ctl({"hotkey", "set", "super+f5"});
+    enable();
+    expectToggles({KEY_RIGHTMETA, KEY_F5});
+    const std::pair<int, int> locks[] = {
+        {KEY_NUMLOCK, kNumOn}, {KEY_CAPSLOCK, kNumOn | kCapsOn}, {KEY_NUMLOCK, kCapsOn}};
+    for (const auto& [lock, state] : locks) {
+        client_.type({lock});
+        ASSERT_EQ(client_.modifiers(), state);
+        client_.type({KEY_LEFTMETA, KEY_LEFTCTRL, KEY_F5}); // not chosen
+        expectToggles({KEY_LEFTMETA, KEY_F5});
+    }
+    client_.type({KEY_CAPSLOCK});
+
+    session_.server().run("xmodmap", {"-e", "clear mod2", "-e", "clear mod4", "-e",
+                                      "add mod4 = Num_Lock", "-e", "add mod3 = Super_L Super_R"});
+    // With everything moved Num Lock's modifier is claimed for another program to see.
+    EXPECT_TRUE(waitUntil([&] {
+        const bool isFree = client_.grab(KEY_F5, XCB_MOD_MASK_3 | XCB_MOD_MASK_4);
+        client_.ungrab(KEY_F5, XCB_MOD_MASK_3 | XCB_MOD_MASK_4);
+        return !isFree;
+    }));
+    EXPECT_TRUE(becomesFree(KEY_F5, XCB_MOD_MASK_4));
+    client_.type({KEY_NUMLOCK});
+    ASSERT_EQ(client_.modifiers(), XCB_MOD_MASK_4);
+    expectToggles({KEY_LEFTMETA, KEY_F5});
 }
 
 TEST_F(HotKeyToggle, IsNamedAsTheLayoutInForceEngravesIt) {
-    keyboard_.setLayout("fr,ru");
+    session_.server().setLayout("fr,ru");
     ctl({"hotkey", "set", "ctrl+a"});
     EXPECT_EQ(hotKey()["keyCode"], 12); // where a US board has Q
-    keyboard_.lockGroup(1);
+    client_.type({KEY_COMPOSE});        // the menu key: the other layout
     EXPECT_EQ(hotKey()["text"], "⌃Й");
-    ctl({"hotkey", "enable"});
-    press({KEY_LEFTCTRL, KEY_Q});
-    EXPECT_TRUE(becomes("i")); // the group does not matter to the key itself
+    enable();
+    expectToggles({KEY_LEFTCTRL, KEY_Q}); // the group does not matter to the key itself
 }
 
 } // namespace

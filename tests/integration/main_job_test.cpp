@@ -1,9 +1,10 @@
-// The whole job on a real X server: what nocturoctl asks for is what the server's ramps hold.
+// The whole job on a real X server: what nocturoctl asks for is what the server's ramps hold, also
+// when displays come and go.
 
 #include "expected/expected_curves.h"
 #include "nocturo_test.h"
 
-#include <sstream>
+#include <random>
 
 namespace nocturo::rig {
 
@@ -19,63 +20,37 @@ Channels channelsOf(const expected::Curve& curve) {
     return channels;
 }
 
+/// Every display has its own: the first is the one that the expected curves start from.
+Channels ownRamp(int display) {
+    Channels own = channelsOf(expected::plain);
+    own[0][255] = static_cast<std::uint16_t>(own[0][255] + display);
+    return own;
+}
+
 class MainJob : public NocturoOnX {
   protected:
-    explicit MainJob(int displays = 4) : NocturoOnX(displays) {
-        for (int i = 0; i < displays; ++i) {
-            // Every display its own: the first is the one the expected curves start from.
-            Channels own = channelsOf(expected::plain);
-            own[0][255] = static_cast<std::uint16_t>(own[0][255] + i);
-            setOwn(i, own);
+    static constexpr int kDisplays = 4;
+
+    MainJob() : NocturoOnX(kDisplays) {
+        for (int display = 0; display < kDisplays; ++display) {
+            reset(display);
         }
-    }
-    void SetUp() override {
         nocturo_ = session_.startNocturo();
-        ctl({"off"});
+        ctl({"effects", "only", "invert"});
     }
+
+    /// As a driver does when a display is switched on.
+    void reset(int display) { setOwn(display, ownRamp(display)); }
+    void dockAndUndock(int rounds);
+
+    XServer& server_ = session_.server();
 };
 
-class TwelveDisplays : public MainJob {
-  protected:
-    TwelveDisplays() : MainJob(12) {}
-};
-
-TEST_F(MainJob, InvertsEveryDisplayAndGivesItBack) {
-    EXPECT_EQ(shown(), "oooo");
-    ctl({"effects", "only", "invert"});
-    ctl({"on"});
+TEST_F(MainJob, InvertsTheAffectedScreensAndGivesThemBack) {
     EXPECT_EQ(shown(), "iiii");
-    EXPECT_TRUE(status()["active"]);
     ctl({"toggle"});
     EXPECT_EQ(shown(), "oooo");
     ctl({"toggle"});
-    ctl({"quit"});
-    EXPECT_EQ(nocturo_->wait(), 0);
-    EXPECT_EQ(shown(), "oooo");
-}
-
-TEST_F(MainJob, EveryEffectIsExactToTheLastOfSixteenBits) {
-    const auto first = [&] { return client_.ramp(output(0)); };
-    ctl({"on"});
-    EXPECT_EQ(first(), own_[0]);
-    ctl({"effects", "only", "dim"});
-    EXPECT_EQ(first(), channelsOf(expected::dimmedByDefault));
-    EXPECT_EQ(first()[0][254], own_[0][0][254] / 2);
-    ctl({"effects", "only", "color-filter"});
-    EXPECT_EQ(first(), channelsOf(expected::redFilter));
-    EXPECT_EQ(first()[1], std::vector<std::uint16_t>(256, 0));
-    ctl({"effects", "only", "overexposure"});
-    EXPECT_EQ(first(), channelsOf(expected::overexposed));
-    ctl({"effects", "add", "invert", "dim", "NDColorFilterEffect", "hdtv-luminance"});
-    ctl({"set", "NDDimEffectLevel", "-0.3"});
-    ctl({"set", "NDColorFilterEffectHue", "200.5"});
-    ctl({"set", "NDColorFilterEffectVividness", "0.7"});
-    EXPECT_EQ(first(), channelsOf(expected::allFive));
-}
-
-TEST_F(MainJob, FollowsTheAffectedScreens) {
-    ctl({"effects", "only", "invert"});
-    ctl({"on"});
     ctl({"screens", "toggle", "2"});
     EXPECT_EQ(shown(), "oioo");
     ctl({"screens", "toggle", "DUMMY3"});
@@ -88,53 +63,116 @@ TEST_F(MainJob, FollowsTheAffectedScreens) {
     EXPECT_EQ(shown(), "iiii");
     EXPECT_EQ(status()["affectedScreenSet"], Json::array());
     EXPECT_EQ(session_.run("nocturoctl", {"screens", "toggle", "DUMMY9"}).exit, 2);
+    ctl({"quit"});
+    EXPECT_EQ(nocturo_->wait(), 0);
+    EXPECT_EQ(shown(), "oooo");
 }
 
-TEST_F(TwelveDisplays, TheFirstTenAreDrivenAndTheOthersNeverTouched) {
-    ctl({"effects", "only", "invert"});
-    ctl({"on"});
-    EXPECT_EQ(shown(), "iiiiiiiiiioo");
-    const Channels another = channelsOf(expected::videoRange);
-    client_.setRamp(output(11), another);
+TEST_F(MainJob, EveryEffectIsExactToTheLastOfSixteenBits) {
+    const std::pair<const char*, const expected::Curve*> effects[] = {
+        {"dim", &expected::dimmedByDefault},
+        {"color-filter", &expected::redFilter},
+        {"hdtv-luminance", &expected::videoRange},
+        {"overexposure", &expected::overexposed}};
+    for (const auto& [effect, curve] : effects) {
+        ctl({"effects", "only", effect});
+        EXPECT_EQ(client_.ramp(output(0)), channelsOf(*curve)) << effect;
+    }
+    ctl({"effects", "add", "invert", "dim", "NDColorFilterEffect", "hdtv-luminance"});
+    ctl({"set", "NDDimEffectLevel", "-0.3"});
+    ctl({"set", "NDColorFilterEffectHue", "200.5"});
+    ctl({"set", "NDColorFilterEffectVividness", "0.7"});
+    EXPECT_EQ(client_.ramp(output(0)), channelsOf(expected::allFive));
+}
+
+// Re-application every 6 seconds is off, so whatever is put right was put right because the server
+// told.
+TEST_F(MainJob, FollowsDisplaysThatChangeComeAndGo) {
+    ctl({"set", "ContinuouslyApply", "false"});
+    server_.run("xrandr", {"--fb", "5120x480", "--output", "DUMMY1", "--mode", "640x400"});
+    reset(1);
+    EXPECT_TRUE(becomes("iiii"));
+    server_.switchOff(2);
+    reset(2);
+    server_.switchOn(2);
+    EXPECT_TRUE(becomes("iiii"));
+
+    server_.switchOff(1);
+    server_.switchOff(3);
     ctl({"off"});
-    EXPECT_EQ(shown(), "ooooooooooo?");
-    EXPECT_EQ(client_.ramp(output(11)), another);
-    EXPECT_EQ(status()["displays"].size(), 10U);
+    EXPECT_EQ(shown(), "oooo");
+    ctl({"on"});
+    EXPECT_EQ(shown(), "ioio");
+    server_.switchOn(1);
+    server_.switchOn(3);
+    EXPECT_TRUE(becomes("iiii"));
+
+    const Channels own = ownRamp(100);
+    server_.switchOn(6); // never seen before
+    client_.setRamp(output(6), own);
+    EXPECT_TRUE(waitUntil([&] { return client_.ramp(output(6)) == reversed(own); }));
+    end();
+    EXPECT_EQ(shown(), "oooo");
+    EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
 }
 
-TEST_F(MainJob, EndsCleanlyOnSignalsAndRestoresTheSavedStateAtTheNextStart) {
-    ctl({"effects", "only", "invert"});
+// Three of four displays leave and come back at once, while another client writes ramps, its own or
+// nonsense, to those that are there and those that are not.
+void MainJob::dockAndUndock(int rounds) {
+    ctl({"set", "ContinuouslyApply", "false"});
+    std::mt19937 random(4);
+    const auto overwrite = [&] {
+        const int display = static_cast<int>(random() % kDisplays);
+        client_.setRamp(output(display), ownRamp(static_cast<int>(random() % 200)));
+    };
+    for (int round = 0; round < rounds; ++round) {
+        for (int display = 1; display < kDisplays; ++display) {
+            server_.switchOff(display);
+            overwrite();
+        }
+        for (int display = 1; display < kDisplays; ++display) {
+            overwrite();
+            server_.switchOn(display);
+            reset(display);
+        }
+        ASSERT_TRUE(becomes("iiii")) << round << ": " << shown();
+    }
+    end();
+    EXPECT_EQ(shown(), "oooo");
+    EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
+}
+
+TEST_F(MainJob, ADockEndsRightWhateverOthersWriteMeanwhile) {
+    dockAndUndock(5);
+}
+
+TEST_F(MainJob, SoakADockEndsRightTwoHundredTimes) {
+    dockAndUndock(200);
+}
+
+TEST_F(MainJob, EndsCleanlyOnSignalsStartsAsItWasLeftAndOnlyOnce) {
     ctl({"set", "ActivateAtLaunch", "false"});
-    ctl({"on"});
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         EXPECT_EQ(shown(), "iiii");
-        nocturo_->signal(number);
-        EXPECT_EQ(nocturo_->wait(), 0);
+        end(number);
         EXPECT_EQ(shown(), "oooo");
         nocturo_ = session_.startNocturo();
         EXPECT_TRUE(status()["active"]);
     }
-    ctl({"off"});
-    nocturo_->signal(SIGTERM);
-    nocturo_->wait();
+    const RunResult second = session_.run("nocturo"); // re-opens the first: toggled
+    EXPECT_EQ(second.exit, 0);
+    EXPECT_EQ(second.output, "nocturo: Nocturo is already running.\n");
+    EXPECT_FALSE(status()["active"]);
+    end();
     nocturo_ = session_.startNocturo();
+    EXPECT_FALSE(status()["active"]);
+    ctl({"set", "ActivateOnClick", "false"});
+    session_.run("nocturo");
     EXPECT_FALSE(status()["active"]);
 }
 
-TEST_F(MainJob, ASecondStartReopensTheFirst) {
-    const RunResult second = session_.run("nocturo");
-    EXPECT_EQ(second.exit, 0);
-    EXPECT_EQ(second.output, "nocturo: Nocturo is already running.\n");
-    EXPECT_TRUE(status()["active"]);
-    ctl({"set", "ActivateOnClick", "false"});
-    session_.run("nocturo");
-    EXPECT_TRUE(status()["active"]);
-}
-
 TEST_F(MainJob, WithoutASessionBusALockHoldsTheSameRule) {
-    ctl({"effects", "only", "invert"});
-    ctl({"quit"});
-    nocturo_->wait();
+    end();
     session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
     nocturo_ = session_.start("nocturo");
     ASSERT_TRUE(becomes("iiii"));
@@ -144,63 +182,49 @@ TEST_F(MainJob, WithoutASessionBusALockHoldsTheSameRule) {
     nocturo_->signal(SIGKILL);
     nocturo_->wait();
     nocturo_ = session_.start("nocturo"); // a lock does not outlive its holder
-    EXPECT_TRUE(becomes("iiii")) << shown() << nocturo_->isRunning() << nocturo_->errors()
-                                 << nocturo_->output();
+    EXPECT_TRUE(becomes("iiii")) << nocturo_->errors();
 }
 
 TEST_F(MainJob, FollowsItsSettingsFileAndWritesItInTime) {
-    ctl({"effects", "only", "invert"});
-    const auto text = [&] {
-        std::ostringstream all;
-        all << std::ifstream(session_.settingsFile()).rdbuf();
-        return all.str();
+    const auto contains = [&](const char* part) {
+        return readText(session_.settingsFile()).find(part) != std::string::npos;
     };
-    const auto contains = [&](const char* part) { return text().find(part) != std::string::npos; };
-    EXPECT_TRUE(waitUntil([&] { return contains("NDInvertEffect"); }, Milliseconds(1000)));
-    std::ofstream(session_.settingsFile()) << R"(<plist version="1.0"><dict>
-        <key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>
-        <key>Somebody's</key><real>0.25</real>
-        <key>EffectActive</key><true/></dict></plist>)";
+    ctl({"off"});
+    ASSERT_TRUE(waitUntil([&] { return contains("<key>EffectActive</key>\n\t<false/>"); },
+                          Milliseconds(3000)));
+    select("NDInvertEffect", "<key>Somebody's</key><real>0.25</real>"
+                             "<key>EffectActive</key><true/>");
     ASSERT_TRUE(waitUntil([&] { return status()["settings"]["EffectActive"] == true; }))
-        << nocturo_->errors() << text();
+        << nocturo_->errors() << readText(session_.settingsFile());
     ctl({"set", "ShowStatusItem", "7"});
     ctl({"quit"});
     nocturo_->wait();
-    EXPECT_TRUE(contains("Somebody's"));
-    EXPECT_TRUE(contains("<key>EffectActive</key>\n\t<true/>"));
-    EXPECT_TRUE(contains("<integer>7</integer>"));
+    for (const char* part :
+         {"Somebody's", "<key>EffectActive</key>\n\t<true/>", "<integer>7</integer>"}) {
+        EXPECT_TRUE(contains(part)) << part;
+    }
 }
 
 TEST_F(MainJob, TenThousandTogglesLeaveNoTrace) {
-    ctl({"effects", "only", "invert"});
-    const auto privateKilobytes = [&] {
-        std::ifstream rollup("/proc/" + std::to_string(nocturo_->id()) + "/smaps_rollup");
-        long sum = 0;
-        for (std::string word; rollup >> word;) {
-            if (word == "Private_Dirty:") {
-                rollup >> sum;
-            }
-        }
-        return sum;
-    };
-    const auto toggle = [&](int times) {
+    const auto grownBy = [&](int toggles) {
+        const auto privateKilobytes = [&] {
+            const auto rollup =
+                readText("/proc/" + std::to_string(nocturo_->id()) + "/smaps_rollup");
+            const std::string name = "Private_Dirty:";
+            return std::stol(rollup.substr(rollup.find(name) + name.size()));
+        };
+        const long before = privateKilobytes();
         const RunResult result =
-            session_.run("toggle_loop", {std::to_string(times)}, Milliseconds(100000));
-        ASSERT_EQ(result.exit, 0) << result.errors;
+            session_.run("toggle_loop", {std::to_string(toggles)}, Milliseconds(100000));
+        EXPECT_EQ(result.exit, 0) << result.errors;
+        return privateKilobytes() - before;
     };
-    toggle(500); // caches fill
-    const long before = privateKilobytes();
-    ASSERT_GT(before, 0);
-    toggle(10000);
-    long grown = privateKilobytes() - before;
-    if (grown > 1024) { // a queue grows once on a busy machine; what leaks grows again
-        toggle(10000);
-        grown = privateKilobytes() - before - grown;
-    }
-    EXPECT_LE(grown, 1024);
-    EXPECT_EQ(shown(), "oooo");
-    ctl({"on"});
+    grownBy(500); // caches fill
+    // A queue grows once on a busy machine; what leaks grows again.
+    EXPECT_TRUE(grownBy(10000) <= 1024 || grownBy(10000) <= 1024);
     EXPECT_EQ(shown(), "iiii");
+    ctl({"off"});
+    EXPECT_EQ(shown(), "oooo");
 }
 
 } // namespace

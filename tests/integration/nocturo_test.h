@@ -30,6 +30,30 @@ class NocturoTest : public testing::Test {
     }
     nlohmann::json status() { return nlohmann::json::parse(ctl({"status", "--json"}).output); }
 
+    /// Selects an effect for a Nocturo that does not run, which would ask without one; with more
+    /// settings as XML.
+    void select(const std::string& effect, const std::string& more = "") {
+        session_.writeSettings("<key>NDGroupEffect</key><array><string>" + effect +
+                               "</string></array>" + more);
+    }
+    /// Ends it as the end of a session does.
+    void end(int signal = SIGTERM) {
+        nocturo_->signal(signal);
+        EXPECT_EQ(nocturo_->wait(), 0);
+    }
+
+    /// xdotool's number of the first window with that in its title, once one is shown.
+    std::string windowCalled(const std::string& name) {
+        const auto ids = xdotool({"search", "--sync", "--onlyvisible", "--name", name});
+        return ids.substr(0, ids.find('\n'));
+    }
+    bool isShown(const std::string& name) {
+        return !xdotool({"search", "--onlyvisible", "--name", name}).empty();
+    }
+    std::string xdotool(const std::vector<std::string>& words) {
+        return session_.run("xdotool", words).output;
+    }
+
     Session session_;
     std::unique_ptr<Process> nocturo_;
 };
@@ -72,8 +96,15 @@ class NocturoOnX : public NocturoTest {
         return becomes(std::string(own_.size(), 'o'), time);
     }
 
+    /// -1 when there is none. Waits a little: a new process has its parent's name for a moment.
     pid_t guardProcess() {
-        const auto guards = childrenNamed(nocturo_->id(), "nocturo-guard");
+        std::vector<pid_t> guards;
+        waitUntil(
+            [&] {
+                guards = childrenNamed(nocturo_->id(), "nocturo-guard");
+                return !guards.empty();
+            },
+            Milliseconds(500));
         return guards.size() == 1 ? guards.front() : -1;
     }
     void kill(bool guardToo) {
@@ -85,11 +116,13 @@ class NocturoOnX : public NocturoTest {
         nocturo_->signal(SIGKILL);
         nocturo_->wait();
     }
-    /// Waits for the guards that killed applications left to end as they should.
-    void reapGuards() {
+    /// Waits for the guards that killed applications left to end as they should. Without its server
+    /// one that was still about to connect fails.
+    void reapGuards(bool serverIsGone = false) {
         for (const pid_t guard : childrenNamed(getpid(), "nocturo-guard")) {
             const auto exit = waitForChild(guard);
-            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL) << exit.value_or(-1);
+            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL || (serverIsGone && exit == 1))
+                << exit.value_or(-1);
         }
     }
     /// The next start would find a Nocturo running that the bus has not missed yet.

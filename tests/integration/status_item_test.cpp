@@ -1,23 +1,21 @@
 // The status item in real trays: one that embeds windows, and one that asks for the item over the
 // bus. The desktop shows them before, after and again.
 
-#include "rig/session.h"
+#include "nocturo_test.h"
 
-#include <gtest/gtest.h>
-
-#include <csignal>
 #include <regex>
 
 namespace nocturo::rig {
 
 namespace {
 
-class StatusItem : public testing::Test {
+class StatusItem : public NocturoOnX {
   protected:
-    void SetUp() override {
+    StatusItem() : NocturoOnX(2) {
         session_.showWindows();
-        session_.writeSettings("<key>ShowStatusItem</key><integer>1</integer><key>NDGroupEffect"
-                               "</key><array><string>NDInvertEffect</string></array>");
+        select("NDInvertEffect", "<key>ShowStatusItem</key><integer>1</integer>");
+        nocturo_ = session_.startNocturo();
+        status(); // answered once it has looked for a tray in vain
     }
 
     std::unique_ptr<Process> startTrayer() {
@@ -25,38 +23,28 @@ class StatusItem : public testing::Test {
                                          "--width", "100", "--height", "32"});
     }
 
-    /// Whether a window of Nocturo is embedded in trayer's panel.
-    bool isEmbedded() {
-        const RunResult tree = session_.run("xwininfo", {"-name", "panel", "-tree"});
-        return tree.output.find("\"Nocturo\"") != std::string::npos;
-    }
-
-    bool effectIsOn() {
-        const std::string status = session_.run("nocturoctl", {"status"}).output;
-        return status.find("effect                  on") != std::string::npos;
-    }
-    bool effectBecomes(bool on) {
-        return waitUntil([&] { return effectIsOn() == on; });
+    /// Whether a window of Nocturo is, or soon is not, embedded in trayer's panel.
+    bool embeddedBecomes(bool embedded) {
+        return waitUntil([&] {
+            const RunResult tree = session_.run("xwininfo", {"-name", "panel", "-tree"});
+            return (tree.output.find("\"Nocturo\"") != std::string::npos) == embedded;
+        });
     }
 
     std::string ask(const std::string& service, const std::string& path, const std::string& method,
                     const std::vector<std::string>& arguments) {
-        std::vector<std::string> words = {
-            "call", "--address", session_.bus().address(), "-d", service, "-o", path, "-m", method};
+        std::vector<std::string> words = {"call", "--session", "-d", service,
+                                          "-o",   path,        "-m", method};
         words.insert(words.end(), arguments.begin(), arguments.end());
         const RunResult result = session_.run("gdbus", words);
         EXPECT_EQ(result.exit, 0) << method << ": " << result.errors;
         return result.output;
     }
 
-    /// The status menu as the bus shows it.
-    std::string menu(const std::string& item) {
-        return ask(item, "/MenuBar", "com.canonical.dbusmenu.GetLayout", {"0", "--", "-1", "[]"});
-    }
-
-    /// Presses the item of the menu whose label ends with these words.
+    /// Presses the item of the status menu whose label ends with these words.
     void press(const std::string& item, const std::string& label) {
-        const std::string layout = menu(item);
+        const std::string layout =
+            ask(item, "/MenuBar", "com.canonical.dbusmenu.GetLayout", {"0", "--", "-1", "[]"});
         std::smatch found;
         ASSERT_TRUE(std::regex_search(
             layout, found, std::regex("<\\((\\d+), \\{[^}]*'label': <'[^']*" + label + "'>")))
@@ -64,63 +52,48 @@ class StatusItem : public testing::Test {
         ask(item, "/MenuBar", "com.canonical.dbusmenu.Event",
             {found[1].str(), "clicked", "<''>", "0"});
     }
-
-    Session session_{2};
 };
 
 TEST_F(StatusItem, IsEmbeddedWheneverThereIsATray) {
-    const auto nocturo = session_.startNocturo();
     auto trayer = startTrayer(); // the panel is late
-    ASSERT_TRUE(waitUntil([&] { return isEmbedded(); }));
-    trayer->signal(SIGTERM);
-    trayer->wait();
+    ASSERT_TRUE(embeddedBecomes(true));
+    trayer.reset();
     trayer = startTrayer();
-    ASSERT_TRUE(waitUntil([&] { return isEmbedded(); }));
-
-    EXPECT_TRUE(effectBecomes(true));
-    session_.run("xdotool", {"mousemove", "12", "16", "click", "2"});
-    EXPECT_TRUE(effectBecomes(false));
-    session_.run("xdotool", {"click", "1"});
+    ASSERT_TRUE(embeddedBecomes(true));
+    EXPECT_TRUE(becomes("ii"));
+    xdotool({"mousemove", "12", "16", "click", "2"});
+    EXPECT_TRUE(becomes("oo"));
+    xdotool({"click", "1"});
     // The menu takes the keyboard; its first item switches.
     EXPECT_TRUE(waitUntil([&] {
-        session_.run("xdotool", {"key", "Home", "Return"});
-        return effectIsOn();
+        xdotool({"key", "Home", "Return"});
+        return shown() == "ii";
     }));
-
-    session_.run("nocturoctl", {"set", "ShowStatusItem", "0"});
-    EXPECT_TRUE(waitUntil([&] { return !isEmbedded(); }));
-    session_.run("nocturoctl", {"set", "ShowStatusItem", "1"});
-    EXPECT_TRUE(waitUntil([&] { return isEmbedded(); }));
-    EXPECT_EQ(nocturo->errors(), "");
+    for (const bool isItemShown : {false, true}) {
+        ctl({"set", "ShowStatusItem", isItemShown ? "1" : "0"});
+        EXPECT_TRUE(embeddedBecomes(isItemShown));
+    }
+    EXPECT_EQ(nocturo_->errors(), "");
 }
 
 TEST_F(StatusItem, ItsMenuWorksOverTheBus) {
-    const auto nocturo = session_.startNocturo();
-    const auto start = [&] { return session_.start("tray_host"); };
-    auto host = start();
-    std::string item = host->readLine().value_or("");
+    auto host = session_.start("tray_host");
+    const std::string item = host->readLine().value_or("");
     ASSERT_FALSE(item.empty());
-    EXPECT_NE(menu(item).find("Deactivate Effect"), std::string::npos);
     press(item, "Deactivate Effect");
-    EXPECT_TRUE(effectBecomes(false));
+    EXPECT_TRUE(becomes("oo"));
     press(item, "Activate Effect");
-    EXPECT_TRUE(effectBecomes(true));
-    ask(item, "/StatusNotifierItem", "org.kde.StatusNotifierItem.SecondaryActivate", {"0", "0"});
-    EXPECT_TRUE(effectBecomes(false));
+    EXPECT_TRUE(becomes("ii"));
     press(item, "Screen 2");
-    EXPECT_TRUE(waitUntil([&] {
-        const std::string status = session_.run("nocturoctl", {"status"}).output;
-        return status.find("[ ]  1") != std::string::npos;
-    }));
+    EXPECT_TRUE(becomes("oi")); // now the only one
+    ask(item, "/StatusNotifierItem", "org.kde.StatusNotifierItem.SecondaryActivate", {"0", "0"});
+    EXPECT_TRUE(becomes("oo"));
 
-    host->signal(SIGKILL);
-    host->wait();
-    host = start(); // the panel starts again
-    item = host->readLine().value_or("");
-    ASSERT_FALSE(item.empty());
-    press(item, "Quit Nocturo");
-    EXPECT_EQ(nocturo->wait(), 0);
-    EXPECT_EQ(nocturo->errors(), "");
+    host.reset();
+    host = session_.start("tray_host"); // the panel starts again
+    press(host->readLine().value_or(""), "Quit Nocturo");
+    EXPECT_EQ(nocturo_->wait(), 0);
+    EXPECT_EQ(nocturo_->errors(), "");
 }
 
 } // namespace

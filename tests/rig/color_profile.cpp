@@ -1,6 +1,6 @@
 #include "rig/color_profile.h"
 
-#include <array>
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
@@ -10,33 +10,9 @@ namespace nocturo::rig {
 
 namespace {
 
-struct CloseProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-struct FreeCurve {
-    void operator()(cmsToneCurve* curve) const { cmsFreeToneCurve(curve); }
-};
-using Curve = std::unique_ptr<cmsToneCurve, FreeCurve>;
+using Profile = std::unique_ptr<void, decltype(&cmsCloseProfile)>;
 
-std::vector<std::uint8_t> profileWith(const Channels* calibration) {
-    const cmsCIExyY white{0.3127, 0.3290, 1.0};
-    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1.0}, {0.30, 0.60, 1.0}, {0.15, 0.06, 1.0}};
-    const Curve gamma(cmsBuildGamma(nullptr, 2.2));
-    const std::array<cmsToneCurve*, 3> gammas{gamma.get(), gamma.get(), gamma.get()};
-    const std::unique_ptr<void, CloseProfile> profile(
-        cmsCreateRGBProfile(&white, &primaries, gammas.data()));
-    if (calibration != nullptr) {
-        std::array<Curve, 3> curves;
-        for (std::size_t i = 0; i < curves.size(); ++i) {
-            const auto& channel = calibration->at(i);
-            curves[i].reset(cmsBuildTabulatedToneCurve16(
-                nullptr, static_cast<cmsUInt32Number>(channel.size()), channel.data()));
-        }
-        const std::array<cmsToneCurve*, 3> raw{curves[0].get(), curves[1].get(), curves[2].get()};
-        if (!cmsWriteTag(profile.get(), cmsSigVcgtTag, raw.data())) {
-            throw std::runtime_error("no calibration can be put into a profile");
-        }
-    }
+std::vector<std::uint8_t> bytesOf(const Profile& profile) {
     cmsUInt32Number size = 0;
     cmsSaveProfileToMem(profile.get(), nullptr, &size);
     std::vector<std::uint8_t> bytes(size);
@@ -48,12 +24,23 @@ std::vector<std::uint8_t> profileWith(const Channels* calibration) {
 
 } // namespace
 
-std::vector<std::uint8_t> colorProfile(const Channels& calibration) {
-    return profileWith(&calibration);
+std::vector<std::uint8_t> plainColorProfile() {
+    return bytesOf(Profile(cmsCreate_sRGBProfile(), cmsCloseProfile));
 }
 
-std::vector<std::uint8_t> plainColorProfile() {
-    return profileWith(nullptr);
+std::vector<std::uint8_t> colorProfile(const Channels& calibration) {
+    const Profile profile(cmsCreate_sRGBProfile(), cmsCloseProfile);
+    std::array<cmsToneCurve*, 3> curves{};
+    std::transform(calibration.begin(), calibration.end(), curves.begin(), [](const auto& channel) {
+        const auto size = static_cast<cmsUInt32Number>(channel.size());
+        return cmsBuildTabulatedToneCurve16(nullptr, size, channel.data());
+    });
+    const bool isWritten = cmsWriteTag(profile.get(), cmsSigVcgtTag, curves.data());
+    cmsFreeToneCurveTriple(curves.data());
+    if (!isWritten) {
+        throw std::runtime_error("no calibration can be put into a profile");
+    }
+    return bytesOf(profile);
 }
 
 Channels calibration(unsigned number) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/file_descriptor.h"
 #include "rig/wait.h"
 
 #include <map>
@@ -9,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include <QProcess>
 #include <sys/types.h>
 
 namespace nocturo::rig {
@@ -24,8 +24,7 @@ Environment cleanEnvironment();
 /// thread. Its output is taken in while something is waited for and by output() and errors().
 class Process {
   public:
-    /// Standard input is empty. Throws std::system_error when no process can be made; a program
-    /// that cannot be run exits with 127 and says so in errors().
+    /// Standard input is empty. Throws std::runtime_error when the program cannot be run.
     Process(const std::string& program, const std::vector<std::string>& arguments,
             const Environment& environment);
     ~Process();
@@ -50,27 +49,15 @@ class Process {
     const std::string& output();
     const std::string& errors();
 
-    /// Readable when the process has ended.
-    int endDescriptor() const { return end_.get(); }
-
   private:
-    struct Stream {
-        FileDescriptor pipe; // closed at its end
-        std::string text;
-    };
-
     template <class Condition>
-    bool takeInUntil(Condition condition, Milliseconds timeout);
-    void takeIn();
-    static void takeIn(Stream& stream);
-    void reap(bool block);
+    bool takeInUntil(QProcess::ProcessChannel channel, Condition condition, Milliseconds timeout);
 
+    QProcess process_;
     pid_t id_ = -1;
-    FileDescriptor end_;
-    Stream output_;
-    Stream errors_;
+    std::string output_;
+    std::string errors_;
     std::size_t linesRead_ = 0; // where the next line begins
-    std::optional<int> exitCode_;
 };
 
 /// The processes of that name (at most 15 bytes count) that `parent` started or inherited.

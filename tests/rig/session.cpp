@@ -1,6 +1,5 @@
 #include "rig/session.h"
 
-#include <fstream>
 #include <stdexcept>
 
 namespace nocturo::rig {
@@ -19,18 +18,14 @@ std::string programPath(const std::string& program) {
 Session::Session(int displays) : environment_(cleanEnvironment()) {
     environment_["HOME"] = home_.path();
     environment_["DBUS_SESSION_BUS_ADDRESS"] = bus_.address();
-    environment_["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=" + (home_.path() / "no-bus").string();
+    environment_["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=" + (home_ / "no-bus").string();
     environment_["XDG_SESSION_TYPE"] = "x11";
     environment_["QT_QPA_PLATFORM"] = "offscreen";
-    const std::pair<const char*, fs::path> directories[] = {
-        {"XDG_CONFIG_HOME", home_.path() / "config"}, {"XDG_DATA_HOME", home_.path() / "data"},
-        {"XDG_STATE_HOME", home_.path() / "state"},   {"XDG_CACHE_HOME", home_.path() / "cache"},
-        {"XDG_RUNTIME_DIR", runtimeDirectory()},
-    };
-    for (const auto& [name, path] : directories) {
+    for (const std::string name : {"CONFIG", "DATA", "STATE", "CACHE", "RUNTIME"}) {
+        const fs::path path = home_ / name;
         fs::create_directory(path);
         fs::permissions(path, fs::perms::owner_all);
-        environment_[name] = path;
+        environment_["XDG_" + name + (name == "RUNTIME" ? "_DIR" : "_HOME")] = path;
     }
     if (displays > 0) {
         server_.emplace(displays);
@@ -44,8 +39,7 @@ void Session::showWindows() {
 
 void Session::writeSettings(const std::string& elements) const {
     fs::create_directories(settingsFile().parent_path());
-    std::ofstream(settingsFile()) << "<plist version=\"1.0\"><dict>" << elements
-                                  << "</dict></plist>";
+    writeText(settingsFile(), "<plist version=\"1.0\"><dict>" + elements + "</dict></plist>");
 }
 
 SessionBus& Session::systemBus() {
@@ -56,22 +50,8 @@ SessionBus& Session::systemBus() {
     return *systemBus_;
 }
 
-// The distribution's own interpreter, which its packages of modules are for.
-std::unique_ptr<Process> Session::startMock(SessionBus& bus, const std::string& name,
-                                            const std::vector<std::string>& arguments) {
-    std::vector<std::string> words = {"-m", "dbusmock"};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    auto mock = start("/usr/bin/python3", words);
-    if (!bus.waitForName(name, *mock)) {
-        mock->signal(9);
-        mock->wait();
-        throw std::runtime_error("dbusmock did not come up: " + mock->errors());
-    }
-    return mock;
-}
-
 fs::path Session::settingsFile() const {
-    return home_.path() / "config" / "nocturo" / "settings.plist";
+    return home_ / "CONFIG/nocturo/settings.plist";
 }
 
 std::unique_ptr<Process> Session::start(const std::string& program,
@@ -86,14 +66,25 @@ RunResult Session::run(const std::string& program, const std::vector<std::string
     return {exit, process->output(), process->errors()};
 }
 
-std::unique_ptr<Process> Session::startNocturo(const std::vector<std::string>& arguments) {
-    auto nocturo = start("nocturo", arguments);
-    if (!bus_.waitForName("org.nocturo.Nocturo", *nocturo)) {
-        nocturo->signal(9);
-        nocturo->wait();
-        throw std::runtime_error("nocturo did not come up: " + nocturo->errors());
+std::unique_ptr<Process> Session::startOwner(SessionBus& bus, const std::string& name,
+                                             const std::string& program,
+                                             const std::vector<std::string>& arguments) {
+    auto owner = start(program, arguments);
+    if (!bus.waitForName(name, *owner)) {
+        throw std::runtime_error(name + " did not come up: " + owner->errors());
     }
-    return nocturo;
+    return owner;
+}
+
+std::unique_ptr<Process> Session::startNocturo(const std::vector<std::string>& arguments) {
+    return startOwner(bus_, "org.nocturo.Nocturo", "nocturo", arguments);
+}
+
+// By the distribution's own interpreter, which its packages of modules are for.
+std::unique_ptr<Process> Session::startMock(SessionBus& bus, const std::string& name,
+                                            std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"-m", "dbusmock"});
+    return startOwner(bus, name, "/usr/bin/python3", arguments);
 }
 
 } // namespace nocturo::rig

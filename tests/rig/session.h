@@ -2,6 +2,7 @@
 
 #include "rig/process.h"
 #include "rig/session_bus.h"
+#include "rig/x_client.h"
 #include "rig/x_server.h"
 #include "unit/temporary_directory.h"
 
@@ -40,7 +41,7 @@ class Session {
     /// Starts a stand-in for services of the desktop (python3-dbusmock) with its arguments, and
     /// waits until it owns `name` on the bus.
     std::unique_ptr<Process> startMock(SessionBus& bus, const std::string& name,
-                                       const std::vector<std::string>& arguments);
+                                       std::vector<std::string> arguments);
 
     /// Programs started from then on show their windows on the X server. Before, they draw them
     /// into memory, and nocturo answers its own questions.
@@ -53,8 +54,7 @@ class Session {
     /// What programs of this session are started with; tests may change it.
     Environment& environment() { return environment_; }
     std::filesystem::path settingsFile() const;
-    std::filesystem::path stateDirectory() const { return home_.path() / "state"; }
-    std::filesystem::path runtimeDirectory() const { return home_.path() / "runtime"; }
+    std::filesystem::path runtimeDirectory() const { return home_ / "RUNTIME"; }
 
     /// Runs a program to its end, which must not need input.
     RunResult run(const std::string& program, const std::vector<std::string>& arguments = {},
@@ -69,6 +69,10 @@ class Session {
     std::unique_ptr<Process> startNocturo(const std::vector<std::string>& arguments = {});
 
   private:
+    std::unique_ptr<Process> startOwner(SessionBus& bus, const std::string& name,
+                                        const std::string& program,
+                                        const std::vector<std::string>& arguments);
+
     TemporaryDirectory home_;
     SessionBus bus_;
     std::optional<SessionBus> systemBus_;

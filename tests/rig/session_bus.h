@@ -3,7 +3,7 @@
 #include "rig/process.h"
 #include "unit/temporary_directory.h"
 
-#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -28,19 +28,29 @@ class SessionBus {
     /// Waits until somebody owns the name; false when `owner` ended before, or nobody did in time.
     bool waitForName(const std::string& name, Process& owner);
 
-    /// Calls a method and waits for the answer, which is dropped; `types` and what follows as
-    /// sd_bus_message_append takes them. Throws std::runtime_error when it fails.
+    /// Calls a method and waits for the answer; `types` and what follows as sd_bus_message_append
+    /// takes them. The object path that is the answer, or nothing. Throws std::runtime_error when
+    /// it fails.
     template <class... Arguments>
-    void call(const char* service, const char* path, const char* interface, const char* method,
-              const char* types, Arguments... arguments) {
-        callWith(service, path, interface, method, [&](sd_bus_message* message) {
-            return sd_bus_message_append(message, types, arguments...);
-        });
+    std::string call(const char* service, const char* path, const char* interface,
+                     const char* method, const char* types, Arguments... arguments) {
+        const Bus bus = connect();
+        sd_bus_error error{};
+        sd_bus_message* reply = nullptr;
+        sd_bus_call_method(bus.get(), service, path, interface, method, &error, &reply, types,
+                           arguments...);
+        return objectIn(reply, error, method);
     }
 
   private:
-    void callWith(const char* service, const char* path, const char* interface, const char* method,
-                  const std::function<int(sd_bus_message*)>& append);
+    struct Close {
+        void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
+    };
+    using Bus = std::unique_ptr<sd_bus, Close>;
+
+    Bus connect() const;
+    static std::string objectIn(sd_bus_message* reply, sd_bus_error& error,
+                                const std::string& method);
 
     TemporaryDirectory directory_;
     std::optional<Process> process_;

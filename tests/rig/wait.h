@@ -6,26 +6,15 @@
 namespace nocturo::rig {
 
 using Milliseconds = std::chrono::milliseconds;
-using SteadyTime = std::chrono::steady_clock::time_point;
 
 /// Long enough for a loaded machine: it is only waited out by a test that fails.
 inline constexpr Milliseconds kPatience{10000};
-
-inline SteadyTime timeAfter(Milliseconds duration) {
-    return std::chrono::steady_clock::now() + duration;
-}
-
-/// What is left until `deadline`, rounded up, never negative; for poll().
-inline int millisecondsUntil(SteadyTime deadline) {
-    const auto left = std::chrono::ceil<Milliseconds>(deadline - std::chrono::steady_clock::now());
-    return left.count() > 0 ? static_cast<int>(left.count()) : 0;
-}
 
 /// Asks every 2 ms until `condition` holds; false when it never did. Only for what sends no event,
 /// such as a ramp being written.
 template <class Condition>
 bool waitUntil(Condition condition, Milliseconds timeout = kPatience) {
-    const auto deadline = timeAfter(timeout);
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     while (!condition()) {
         if (std::chrono::steady_clock::now() >= deadline) {
             return false;

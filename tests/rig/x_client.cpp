@@ -1,81 +1,75 @@
 #include "rig/x_client.h"
 
+#include "platform/keyboard/virtual_key_codes.h"
+
+#include <algorithm>
 #include <stdexcept>
 
 #include <xcb/randr.h>
+#include <xcb/xtest.h>
 
 namespace nocturo::rig {
 
 namespace {
 
-template <class T>
-XcbReply<T> needed(T* reply, const char* what) {
+/// What the server said to a request that has an answer.
+template <class Reply, class Cookie>
+XcbReply<Reply> answer(xcb_connection_t* connection, Cookie cookie,
+                       Reply* (*take)(xcb_connection_t*, Cookie, xcb_generic_error_t**)) {
+    XcbReply<Reply> reply(take(connection, cookie, nullptr));
     if (!reply) {
-        throw std::runtime_error(std::string("the X server did not answer: ") + what);
+        throw std::runtime_error("the X server did not answer");
     }
-    return XcbReply<T>(reply);
+    return reply;
+}
+
+bool isRefused(xcb_connection_t* connection, xcb_void_cookie_t cookie) {
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(connection, cookie));
+    return error || xcb_connection_has_error(connection);
+}
+
+void check(xcb_connection_t* connection, xcb_void_cookie_t cookie, const char* what) {
+    if (isRefused(connection, cookie)) {
+        throw std::runtime_error(std::string("the X server refused: ") + what);
+    }
+}
+
+std::uint8_t serverKey(int key) {
+    return static_cast<std::uint8_t>(key + kEvdevToX11Offset);
 }
 
 } // namespace
 
 XClient::XClient(const std::string& display) : connection_(xcb_connect(display.c_str(), nullptr)) {
-    if (xcb_connection_has_error(connection_.get())) {
+    auto* raw = connection_.get();
+    if (xcb_connection_has_error(raw)) {
         throw std::runtime_error("no X server at " + display);
     }
-    root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root;
+    root_ = xcb_setup_roots_iterator(xcb_get_setup(raw)).data->root;
     // Newer requests than the version asked for are refused.
-    auto* raw = connection_.get();
-    needed(xcb_randr_query_version_reply(raw, xcb_randr_query_version(raw, 1, 5), nullptr),
-           "RandR version");
+    answer(raw, xcb_randr_query_version(raw, 1, 5), xcb_randr_query_version_reply);
 }
 
-void XClient::check(xcb_void_cookie_t cookie, const char* what) {
-    const XcbReply<xcb_generic_error_t> error(xcb_request_check(connection_.get(), cookie));
-    if (error || xcb_connection_has_error(connection_.get())) {
-        throw std::runtime_error(std::string("the X server refused: ") + what);
-    }
-}
-
-std::vector<Output> XClient::outputs() {
+XClient::Output XClient::outputCalled(const std::string& name) {
     auto* raw = connection_.get();
-    const auto resources =
-        needed(xcb_randr_get_screen_resources_current_reply(
-                   raw, xcb_randr_get_screen_resources_current(raw, root_), nullptr),
-               "resources");
-    const auto* ids = xcb_randr_get_screen_resources_current_outputs(resources.get());
-    std::vector<Output> outputs;
+    const auto resources = answer(raw, xcb_randr_get_screen_resources_current(raw, root_),
+                                  xcb_randr_get_screen_resources_current_reply);
+    const auto* outputs = xcb_randr_get_screen_resources_current_outputs(resources.get());
     for (int i = 0; i < resources->num_outputs; ++i) {
-        const auto cookie = xcb_randr_get_output_info(raw, ids[i], resources->config_timestamp);
-        const auto info = needed(xcb_randr_get_output_info_reply(raw, cookie, nullptr), "output");
-        const auto* name =
-            reinterpret_cast<const char*>(xcb_randr_get_output_info_name(info.get()));
-        outputs.push_back({ids[i], std::string(name, info->name_len), info->crtc,
-                           info->num_crtcs ? *xcb_randr_get_output_info_crtcs(info.get()) : 0});
-    }
-    return outputs;
-}
-
-std::uint32_t XClient::crtcOf(const std::string& name) {
-    for (const auto& output : outputs()) {
-        if (output.name == name) {
-            return output.crtc != 0 ? output.crtc : output.possibleCrtc;
+        const auto info = answer(raw, xcb_randr_get_output_info(raw, outputs[i], XCB_CURRENT_TIME),
+                                 xcb_randr_get_output_info_reply);
+        const auto* itsName = xcb_randr_get_output_info_name(info.get());
+        if (std::string(itsName, itsName + info->name_len) == name) {
+            return {outputs[i], *xcb_randr_get_output_info_crtcs(info.get())};
         }
     }
     throw std::runtime_error("no output " + name);
 }
 
-std::size_t XClient::rampSize(std::uint32_t crtc) {
-    auto* raw = connection_.get();
-    return needed(xcb_randr_get_crtc_gamma_size_reply(raw, xcb_randr_get_crtc_gamma_size(raw, crtc),
-                                                      nullptr),
-                  "ramp size")
-        ->size;
-}
-
 Channels XClient::ramp(std::uint32_t crtc) {
     auto* raw = connection_.get();
-    const auto reply = needed(
-        xcb_randr_get_crtc_gamma_reply(raw, xcb_randr_get_crtc_gamma(raw, crtc), nullptr), "ramp");
+    const auto reply =
+        answer(raw, xcb_randr_get_crtc_gamma(raw, crtc), xcb_randr_get_crtc_gamma_reply);
     const auto* red = xcb_randr_get_crtc_gamma_red(reply.get());
     const auto* green = xcb_randr_get_crtc_gamma_green(reply.get());
     const auto* blue = xcb_randr_get_crtc_gamma_blue(reply.get());
@@ -84,81 +78,70 @@ Channels XClient::ramp(std::uint32_t crtc) {
 }
 
 void XClient::setRamp(std::uint32_t crtc, const Channels& ramp) {
-    check(xcb_randr_set_crtc_gamma_checked(connection_.get(), crtc,
-                                           static_cast<std::uint16_t>(ramp[0].size()),
+    auto* raw = connection_.get();
+    check(raw,
+          xcb_randr_set_crtc_gamma_checked(raw, crtc, static_cast<std::uint16_t>(ramp[0].size()),
                                            ramp[0].data(), ramp[1].data(), ramp[2].data()),
           "ramp");
 }
 
-void XClient::setScreenSize(int width, int height) {
-    check(xcb_randr_set_screen_size_checked(connection_.get(), root_,
-                                            static_cast<std::uint16_t>(width),
-                                            static_cast<std::uint16_t>(height), 1000, 300),
-          "screen size");
-}
-
-std::uint32_t XClient::createMode(int width, int height) {
-    auto* raw = connection_.get();
-    const std::string name = std::to_string(width) + "x" + std::to_string(height) + "-rig";
-    // Wide blanking brings a small picture above the slowest clock that drivers accept.
-    xcb_randr_mode_info_t mode{};
-    mode.width = static_cast<std::uint16_t>(width);
-    mode.height = static_cast<std::uint16_t>(height);
-    mode.hsync_start = static_cast<std::uint16_t>(width + 100);
-    mode.hsync_end = static_cast<std::uint16_t>(width + 200);
-    mode.htotal = static_cast<std::uint16_t>(width + 500);
-    mode.vsync_start = static_cast<std::uint16_t>(height + 10);
-    mode.vsync_end = static_cast<std::uint16_t>(height + 20);
-    mode.vtotal = static_cast<std::uint16_t>(height + 100);
-    mode.dot_clock = 60u * mode.htotal * mode.vtotal;
-    mode.name_len = static_cast<std::uint16_t>(name.size());
-    const auto cookie = xcb_randr_create_mode(raw, root_, mode,
-                                              static_cast<std::uint32_t>(name.size()), name.data());
-    return needed(xcb_randr_create_mode_reply(raw, cookie, nullptr), "new mode")->mode;
-}
-
-void XClient::switchOn(const Output& output, std::uint32_t mode, int x, int y) {
-    auto* raw = connection_.get();
-    check(xcb_randr_add_output_mode_checked(raw, output.id, mode), "mode of an output");
-    const auto crtc = output.crtc != 0 ? output.crtc : output.possibleCrtc;
-    const auto cookie = xcb_randr_set_crtc_config(
-        raw, crtc, XCB_CURRENT_TIME, XCB_CURRENT_TIME, static_cast<std::int16_t>(x),
-        static_cast<std::int16_t>(y), mode, XCB_RANDR_ROTATION_ROTATE_0, 1, &output.id);
-    if (needed(xcb_randr_set_crtc_config_reply(raw, cookie, nullptr), "output on")->status != 0) {
-        throw std::runtime_error("the X server refused: output on");
-    }
-}
-
-void XClient::switchOff(const Output& output) {
-    auto* raw = connection_.get();
-    const auto cookie =
-        xcb_randr_set_crtc_config(raw, output.crtc, XCB_CURRENT_TIME, XCB_CURRENT_TIME, 0, 0,
-                                  XCB_NONE, XCB_RANDR_ROTATION_ROTATE_0, 0, nullptr);
-    if (needed(xcb_randr_set_crtc_config_reply(raw, cookie, nullptr), "output off")->status != 0) {
-        throw std::runtime_error("the X server refused: output off");
-    }
-}
-
 std::uint32_t XClient::atom(const std::string& name) {
     auto* raw = connection_.get();
-    const auto cookie =
-        xcb_intern_atom(raw, false, static_cast<std::uint16_t>(name.size()), name.data());
-    return needed(xcb_intern_atom_reply(raw, cookie, nullptr), "atom")->atom;
+    const auto length = static_cast<std::uint16_t>(name.size());
+    return answer(raw, xcb_intern_atom(raw, false, length, name.data()), xcb_intern_atom_reply)
+        ->atom;
 }
 
 void XClient::setRootProperty(const std::string& name, std::uint8_t format, std::size_t count,
                               const void* data) {
-    check(xcb_change_property_checked(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(name),
+    auto* raw = connection_.get();
+    check(raw,
+          xcb_change_property_checked(raw, XCB_PROP_MODE_REPLACE, root_, atom(name),
                                       XCB_ATOM_CARDINAL, format, static_cast<std::uint32_t>(count),
                                       data),
           "property");
 }
 
-void XClient::setEdid(const Output& output, const std::vector<std::uint8_t>& edid) {
-    check(xcb_randr_change_output_property_checked(
-              connection_.get(), output.id, atom("EDID"), XCB_ATOM_INTEGER, 8,
+void XClient::setEdid(const std::string& output, const std::vector<std::uint8_t>& edid) {
+    auto* raw = connection_.get();
+    check(raw,
+          xcb_randr_change_output_property_checked(
+              raw, outputCalled(output).id, atom("EDID"), XCB_ATOM_INTEGER, 8,
               XCB_PROP_MODE_REPLACE, static_cast<std::uint32_t>(edid.size()), edid.data()),
           "EDID");
+}
+
+void XClient::fake(std::uint8_t event, int key) {
+    auto* raw = connection_.get();
+    check(raw,
+          xcb_test_fake_input_checked(raw, event, serverKey(key), XCB_CURRENT_TIME, XCB_NONE, 0, 0,
+                                      0),
+          "key");
+}
+
+void XClient::type(const std::vector<int>& keys) {
+    std::for_each(keys.begin(), keys.end(), [this](auto key) { press(key); });
+    std::for_each(keys.rbegin(), keys.rend(), [this](auto key) { release(key); });
+}
+
+int XClient::modifiers() {
+    auto* raw = connection_.get();
+    const auto state = answer(raw, xcb_query_pointer(raw, root_), xcb_query_pointer_reply)->mask;
+    return state & 0xff; // the others are buttons
+}
+
+bool XClient::grab(int key, int modifiers) {
+    auto* raw = connection_.get();
+    return !isRefused(
+        raw, xcb_grab_key_checked(raw, false, root_, static_cast<std::uint16_t>(modifiers),
+                                  serverKey(key), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+}
+
+void XClient::ungrab(int key, int modifiers) {
+    auto* raw = connection_.get();
+    check(raw,
+          xcb_ungrab_key_checked(raw, serverKey(key), root_, static_cast<std::uint16_t>(modifiers)),
+          "giving a key back");
 }
 
 } // namespace nocturo::rig

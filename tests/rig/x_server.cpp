@@ -1,11 +1,8 @@
 #include "rig/x_server.h"
 
-#include <algorithm>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 #include <stdexcept>
 
 namespace nocturo::rig {
@@ -14,33 +11,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kConfiguration = R"(
-Section "ServerFlags"
-    Option "AutoAddDevices" "false"
-    Option "AutoAddGPU" "false"
-EndSection
-Section "Device"
-    Identifier "device"
-    Driver "dummy"
-    VideoRam 256000
-EndSection
-Section "Monitor"
-    Identifier "monitor"
-    HorizSync 1-1000
-    VertRefresh 1-1000
-EndSection
-Section "Screen"
-    Identifier "screen"
-    Device "device"
-    Monitor "monitor"
-    DefaultDepth 24
-    SubSection "Display"
-        Depth 24
-        Modes "640x480"
-        Virtual 5120 640
-    EndSubSection
-EndSection
-)";
+constexpr const char* kMode = "rig"; // of every display
+// As large as the screen may become, so that nothing but the outputs changes.
+constexpr const char* kScreen = "5120x480";
 
 // The server itself where distributions keep it: "Xorg" may be a wrapper that lets only users on a
 // console in and refuses configurations by absolute path.
@@ -56,6 +29,17 @@ std::string serverProgram() {
 std::string socketPath(const std::string& display) {
     return "/tmp/.X11-unix/X" + display.substr(1);
 }
+std::string lockPath(const std::string& display) {
+    return "/tmp/.X" + display.substr(1) + "-lock";
+}
+std::string outputCalled(int number) {
+    return "DUMMY" + std::to_string(number);
+}
+/// What xrandr is told to light the output there.
+std::vector<std::string> placed(int output, int x, int y) {
+    return {"--fb",   kScreen, "--output", outputCalled(output),
+            "--mode", kMode,   "--pos",    std::to_string(x) + "x" + std::to_string(y)};
+}
 
 } // namespace
 
@@ -66,30 +50,31 @@ std::string freeDisplay() {
     std::uniform_int_distribution number(1000, 29999);
     while (true) {
         std::string display = ":" + std::to_string(number(random));
-        if (!fs::exists(socketPath(display)) &&
-            !fs::exists("/tmp/.X" + display.substr(1) + "-lock")) {
+        if (!fs::exists(socketPath(display)) && !fs::exists(lockPath(display))) {
             return display;
         }
     }
 }
 
 XServer::XServer(int displays) {
-    std::ofstream(directory_.path() / "xorg.conf") << kConfiguration;
     // Another server may take the number between the choice and the start.
-    for (int attempt = 0; attempt < 5 && !client_; ++attempt) {
-        start(freeDisplay());
+    for (int attempt = 0; !start(freeDisplay()); ++attempt) {
+        if (attempt == 4) {
+            throw std::runtime_error("Xorg did not start: " + process_->errors() +
+                                     readText(directory_ / "xorg.log"));
+        }
     }
-    if (!client_) {
-        std::ostringstream log;
-        log << std::ifstream(directory_.path() / "xorg.log").rdbuf();
-        throw std::runtime_error("Xorg did not start: " + process_->errors() + log.str());
+    std::vector<std::string> modes;
+    for (int output = 1; output < 16; ++output) {
+        modes.insert(modes.end(), {"--addmode", outputCalled(output), kMode});
     }
-    mode_ = client_->createMode(kWidth, kHeight);
-    switchOn(0);
-    client_->setScreenSize(kMaximumDisplays * kWidth, 2 * kHeight);
-    for (int output = 1; output < std::min(displays, kMaximumDisplays); ++output) {
-        switchOn(output);
+    run("xrandr", modes);
+    std::vector<std::string> places;
+    for (int output = 0; output < displays; ++output) {
+        const auto place = placed(output, output * kWidth, 0);
+        places.insert(places.end(), place.begin(), place.end());
     }
+    run("xrandr", places);
 }
 
 bool XServer::start(const std::string& display) {
@@ -101,19 +86,17 @@ bool XServer::start(const std::string& display) {
     process_.emplace(serverProgram(),
                      std::vector<std::string>{display, "-displayfd", "1", "-noreset", "-nolisten",
                                               "tcp", "-novtswitch", "-sharevts", "-config",
-                                              directory + "/xorg.conf", "-configdir", directory,
+                                              NOCTURO_XORG_CONFIGURATION, "-configdir", directory,
                                               "-logfile", directory + "/xorg.log"},
                      environment);
     if (!process_->readLine()) {
         return false;
     }
     display_ = display;
-    client_.emplace(display);
     return true;
 }
 
 XServer::~XServer() {
-    client_.reset();
     process_->signal(SIGTERM);
     if (!process_->wait(Milliseconds(2000))) {
         kill();
@@ -123,17 +106,17 @@ XServer::~XServer() {
 void XServer::kill() {
     process_->signal(SIGKILL);
     process_->wait();
-    removeSocket();
-}
-
-void XServer::removeSocket() const {
     std::error_code ignored;
     fs::remove(socketPath(display_), ignored);
-    fs::remove("/tmp/.X" + display_.substr(1) + "-lock", ignored);
+    fs::remove(lockPath(display_), ignored);
 }
 
-Output XServer::outputNumber(int number) {
-    return client_->outputs().at(static_cast<std::size_t>(number));
+void XServer::run(const std::string& program, std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"-display", display_});
+    Process tool(program, arguments, cleanEnvironment());
+    if (tool.wait() != 0) {
+        throw std::runtime_error(program + ": " + tool.errors());
+    }
 }
 
 void XServer::switchOn(int output) {
@@ -141,15 +124,16 @@ void XServer::switchOn(int output) {
 }
 
 void XServer::switchOn(int output, int x, int y) {
-    client_->switchOn(outputNumber(output), mode_, x, y);
+    run("xrandr", placed(output, x, y));
 }
 
 void XServer::switchOff(int output) {
-    client_->switchOff(outputNumber(output));
+    run("xrandr", {"--fb", kScreen, "--output", outputCalled(output), "--off"});
 }
 
-void XServer::setEdid(int output, const std::vector<std::uint8_t>& edid) {
-    client_->setEdid(outputNumber(output), edid);
+void XServer::setLayout(const std::string& layouts, const std::string& variants) {
+    run("setxkbmap", {"-rules", "evdev", "-model", "pc105", "-layout", layouts, "-variant",
+                      variants, "-option", "", "-option", "grp:menu_toggle"});
 }
 
 } // namespace nocturo::rig

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "rig/process.h"
-#include "rig/x_client.h"
 #include "unit/temporary_directory.h"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace nocturo::rig {
 
@@ -16,7 +16,6 @@ std::string freeDisplay();
 /// only in memory. It listens on local sockets only and takes no input device.
 class XServer {
   public:
-    static constexpr int kMaximumDisplays = 16;
     static constexpr int kWidth = 320; // of every display
     static constexpr int kHeight = 240;
 
@@ -33,21 +32,20 @@ class XServer {
     void switchOn(int output, int x, int y);
     /// What unplugging looks like to a client.
     void switchOff(int output);
-    void setEdid(int output, const std::vector<std::uint8_t>& edid);
+    /// Runs one of the server's tools, such as xrandr, to its end, which must be success.
+    void run(const std::string& program, std::vector<std::string> arguments);
+    /// As setxkbmap takes them: "us,ru", "dvorak,". The menu key goes from one to the next.
+    void setLayout(const std::string& layouts, const std::string& variants = {});
 
     /// Ends the server as a crash would.
     void kill();
 
   private:
     bool start(const std::string& display);
-    void removeSocket() const;
-    Output outputNumber(int number);
 
     TemporaryDirectory directory_;
     std::string display_;
     std::optional<Process> process_;
-    std::optional<XClient> client_;
-    std::uint32_t mode_ = 0;
 };
 
 } // namespace nocturo::rig

@@ -82,6 +82,7 @@ struct Surroundings : UserInterface, DesktopFace, InstalledApplications {
         log.emplace_back(active ? "image on" : "image off");
     }
     void makeScreenMenus() override { log.emplace_back("screen menus"); }
+    void showRefusedDocuments(const std::vector<std::string>& /*paths*/) override {}
 
     std::optional<InstalledApplication>
     applicationWithBundleIdentifier(std::string_view identifier) const override {

@@ -1,6 +1,7 @@
 // The main menu with the documents that it remembers, and the run of screens in other menus.
 
 #include "app/menus/main_menu.h"
+#include "app/menus/status_image.h"
 #include "app/recent_documents.h"
 #include "display_services_fixture.h"
 #include "platform/notification_center.h"

@@ -1,0 +1,88 @@
+// Re-application runs for as long as the effect is on, so it must not allocate.
+
+#include "display/screen_controller.h"
+#include "effects/effect_registry.h"
+#include "effects/group_effect.h"
+#include "platform/displays/display_functions.h"
+#include "platform/displays/ramp_display_services.h"
+#include "platform/notification_center.h"
+#include "platform/settings/defaults_store.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+long allocations = 0;
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+namespace nocturo {
+
+namespace {
+
+class OneDisplay : public GammaHardware {
+  public:
+    explicit OneDisplay(std::uint32_t size) : size_(size) {}
+    std::string_view name() const override { return "one"; }
+    std::uint64_t topologyGeneration() override { return 1; }
+    bool listHeads(std::vector<Head>& heads) override {
+        heads.resize(1);
+        heads[0].rampSize = size_;
+        return true;
+    }
+    bool readRamp(std::uint32_t, Ramp& ramp) override {
+        ramp = identityRamp(size_);
+        return true;
+    }
+    bool writeRamp(std::uint32_t, const Ramp&) override { return true; }
+
+  private:
+    std::uint32_t size_;
+};
+
+TEST(Allocation, UpdateEffectAllocatesNothing) {
+    NotificationCenter center;
+    NDEffect::setUserDefaults(std::make_shared<DefaultsStore>(center));
+    const auto group = std::make_shared<NDGroupEffect>();
+    for (const std::uint32_t size : {256U, 1024U}) {
+        RampDisplayServices services(std::make_unique<OneDisplay>(size));
+        setDisplayServices(&services);
+        NDScreenController controller(group, services.onlineDisplays()->front().id);
+        const long before = allocations;
+        controller.updateEffect(); // nothing selected: the ramp that was read is written back
+        EXPECT_EQ(allocations, before);
+        for (const SelectableEffect& effect : selectableEffects()) {
+            group->addEffect(effect.className);
+        }
+        ASSERT_EQ(group->effectCount(), 5U);
+        const long withEffects = allocations;
+        controller.updateEffect();
+        EXPECT_EQ(allocations, withEffects);
+        for (const SelectableEffect& effect : selectableEffects()) {
+            group->removeEffect(effect.className);
+        }
+    }
+    setDisplayServices(nullptr);
+    NDEffect::setUserDefaults(nullptr);
+}
+
+} // namespace
+
+} // namespace nocturo
