@@ -53,8 +53,8 @@ screenshots: build ## takes the pictures of the windows anew; with LOOKS=dir all
 lint-text:
 	@tools/lint.sh text
 
-lint: lint-text ## checks layout, scripts and code
-	@tools/lint.sh code $(JOBS)
+lint: lint-text build ## checks layout, scripts and code
+	@tools/lint.sh code $(release) $(JOBS)
 
 format: ## lays the code out
 	git ls-files --cached --others --exclude-standard -- '*.cpp' '*.h' | xargs clang-format -i

@@ -32,7 +32,7 @@ DesktopHotKeys::DesktopHotKeys(const std::string& xDisplay) {
         serviceWatch_ = watch(*service_, serviceWatch_);
         HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(service_.get());
     } else {
-        logInfo("nocturo.hotkeys", "There is no X server that could offer a global hot key.");
+        logInfo(kLogHotKeys, "There is no X server that could offer a global hot key.");
     }
     if (layout_ != nullptr) {
         layoutWatch_ = watch(*layout_, layoutWatch_);

@@ -34,7 +34,7 @@ void DisturbanceWatch::lookAtDisplays() {
         return;
     }
     if (count_ == 0) {
-        logInfo("nocturo.displays", "Another program changes the colors of the displays too.");
+        logInfo(kLogDisplays, "Another program changes the colors of the displays too.");
     }
     count_ += found;
     localCenter_.post(kDisturbanceNotification);

@@ -12,7 +12,7 @@ SessionClaim::SessionClaim(BusFace& face, const std::filesystem::path& runtimeDi
                            const QStringList& documents)
     : bus_(connectToSessionBus()) {
     if (!bus_) {
-        logInfo("nocturo.bus", "There is no session bus, so nocturoctl cannot reach Nocturo.");
+        logInfo(kLogBus, "There is no session bus, so nocturoctl cannot reach Nocturo.");
         askForLock(runtimeDirectory, documents);
         return;
     }

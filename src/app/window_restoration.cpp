@@ -50,8 +50,8 @@ void WindowRestoration::save() const {
     PropertyDictionary state;
     controller_.willEncodeRestorableState(state);
     if (const int error = writeSettingsFile(file_, state).errorNumber) {
-        logWarning("nocturo.app", "Which windows are open cannot be kept in " + file_.string() +
-                                      ": " + std::generic_category().message(error) + ".");
+        logWarning(kLogApp, "Which windows are open cannot be kept in " + file_.string() + ": " +
+                                std::generic_category().message(error) + ".");
     }
 }
 

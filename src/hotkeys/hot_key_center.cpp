@@ -22,7 +22,7 @@ void dispatch(const HotKeyServiceEvent& event, void (HXHotKey::*invoke)(const Ke
     const HotKeySet hotKeys = HXHotKeyCenter::sharedHotKeyCenter().hotKeysMatchingPredicate(
         [&](const HXHotKey& hotKey) { return hotKey.hotKeyID() == event.hotKeyID.id; });
     if (hotKeys.size() > 1) {
-        logWarning("nocturo.hotkeys", "ERROR!");
+        logWarning(kLogHotKeys, "ERROR!");
     }
     if (hotKeys.empty()) {
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <utility>
 
 #include <unistd.h>
@@ -29,5 +30,8 @@ class FileDescriptor {
   private:
     int descriptor_ = -1;
 };
+
+/// Writes all of it, however often that takes; 0, or the errno of what went wrong on the way.
+int writeAll(int descriptor, std::string_view bytes);
 
 } // namespace nocturo

@@ -8,8 +8,15 @@ namespace nocturo {
 
 enum class LogLevel { info, warning };
 
-/// Receives every log line: its level, its category ("nocturo.displays", "nocturo.settings", ...)
-/// and one plain sentence.
+/// What a log line is about, by which users choose what they want to see.
+inline constexpr std::string_view kLogApp = "nocturo.app";
+inline constexpr std::string_view kLogBus = "nocturo.bus";
+inline constexpr std::string_view kLogDisplays = "nocturo.displays";
+inline constexpr std::string_view kLogHotKeys = "nocturo.hotkeys";
+inline constexpr std::string_view kLogSettings = "nocturo.settings";
+inline constexpr std::string_view kLogWorkspace = "nocturo.workspace";
+
+/// Receives every log line: its level, its category and one plain sentence.
 using LogSink = std::function<void(LogLevel, std::string_view category, std::string_view sentence)>;
 
 /// Replaces the sink. The one in force at start writes warnings to standard error and drops the

@@ -58,7 +58,7 @@ void setIcon(QMessageBox& box, const Alert& alert) {
 AlertAnswer runAlertBox(const Alert& alert) {
     const QString title = text(alert, alert.title, alert.titleArguments);
     if (!canBeSeen()) {
-        logWarning("nocturo.app", title.toStdString());
+        logWarning(kLogApp, title.toStdString());
         return alert.harmless;
     }
     const EndWatch end;

@@ -19,8 +19,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr const char* kCategory = "nocturo.hotkeys";
-
 /// How much of the highlight colour lies over the field while it records: enough to be seen beside
 /// another field, and text stays readable on light and dark palettes.
 constexpr float kTint = 0.18F;
@@ -95,14 +93,14 @@ void HXHotKeyTextField::showNameOf(const HXHotKey* hotKey) {
 }
 
 void HXHotKeyTextField::setStringValue(const QString& stringValue) {
-    logWarning(kCategory, "-[HXHotKeyTextField setStringValue:] is not what you want. "
-                          "Use -[HXHotKeyTextField setHotKey:] instead.");
+    logWarning(kLogHotKeys, "-[HXHotKeyTextField setStringValue:] is not what you want. "
+                            "Use -[HXHotKeyTextField setHotKey:] instead.");
     setText(stringValue);
 }
 
 QString HXHotKeyTextField::stringValue() const {
-    logWarning(kCategory, "-[HXHotKeyTextField stringValue] is not what you want. "
-                          "Use -[HXHotKeyTextField hotKey] instead.");
+    logWarning(kLogHotKeys, "-[HXHotKeyTextField stringValue] is not what you want. "
+                            "Use -[HXHotKeyTextField hotKey] instead.");
     return text();
 }
 

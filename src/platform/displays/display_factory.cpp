@@ -18,8 +18,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::string_view kCategory = "nocturo.displays";
-
 OpenedDisplays failed(std::string problem) {
     OpenedDisplays opened;
     opened.problem = std::move(problem);
@@ -62,7 +60,7 @@ OpenedDisplays openRandr(const DisplaySurroundings& surroundings, RunLoop& runLo
     opened.guardEndDescriptor = hardware->guardEndDescriptor();
     opened.processGuardEnd = [hardware] { hardware->processGuardEnd(); };
     opened.services = std::move(services);
-    logInfo(kCategory, "Displays are those of the X server " + xDisplay + ".");
+    logInfo(kLogDisplays, "Displays are those of the X server " + xDisplay + ".");
     return opened;
 }
 

@@ -49,18 +49,6 @@ int readAll(int descriptor, std::string& content) {
     return 0;
 }
 
-int writeAll(int descriptor, std::string_view content) {
-    while (!content.empty()) {
-        const ssize_t written = ::write(descriptor, content.data(), content.size());
-        if (written >= 0) {
-            content.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno != EINTR) {
-            return errno;
-        }
-    }
-    return 0;
-}
-
 /// Makes a file of a name of its own, which `name` becomes, in the directory of `target`. mkstemp
 /// would not do: what it makes is the user's alone, and a process cannot look its umask up.
 int createBeside(const std::filesystem::path& target, mode_t mode, std::string& name) {

@@ -86,9 +86,9 @@ void FileWatch::explainOnce(int errorNumber) {
     if (std::exchange(explained_, true)) {
         return;
     }
-    logInfo("nocturo.settings", "Edits of " + file_.string() +
-                                    " are noticed only at the next start or save (" +
-                                    std::generic_category().message(errorNumber) + ").");
+    logInfo(kLogSettings, "Edits of " + file_.string() +
+                              " are noticed only at the next start or save (" +
+                              std::generic_category().message(errorNumber) + ").");
 }
 
 } // namespace nocturo

@@ -11,8 +11,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::string_view kCategory = "nocturo.settings";
-
 // Not restarted by further changes, so that a slider dragged for minutes is saved meanwhile.
 constexpr std::chrono::milliseconds kWriteDelay{800};
 
@@ -61,10 +59,10 @@ bool SettingsKeeper::write(Reason reason) {
     const PropertyListFileWrite written = writeSettingsFile(path_, store_.userDomain());
     if (written.errorNumber != 0) {
         if (!std::exchange(toldUnwritable_, true)) {
-            logWarning(kCategory, "The settings cannot be saved to " + path_.string() + " (" +
-                                      errorText(written.errorNumber) +
-                                      "); they hold until Nocturo quits, and saving is tried "
-                                      "again with the next change.");
+            logWarning(kLogSettings, "The settings cannot be saved to " + path_.string() + " (" +
+                                         errorText(written.errorNumber) +
+                                         "); they hold until Nocturo quits, and saving is tried "
+                                         "again with the next change.");
         }
         return false;
     }
@@ -152,10 +150,10 @@ bool SettingsKeeper::setAside(Reason reason) {
     }
     toldUnreadable_ = false;
     const bool atStart = reason == Reason::start;
-    logWarning(kCategory, "The settings file " + path_.string() + " is damaged; it is kept as " +
-                              aside.path.filename().string() +
-                              (atStart ? ", and the default settings hold."
-                                       : ", and the settings in use are saved anew."));
+    logWarning(kLogSettings, "The settings file " + path_.string() + " is damaged; it is kept as " +
+                                 aside.path.filename().string() +
+                                 (atStart ? ", and the default settings hold."
+                                          : ", and the settings in use are saved anew."));
     if (!atStart) {
         lostFile_ = true;
         if (reason == Reason::secondLook) {
@@ -167,7 +165,7 @@ bool SettingsKeeper::setAside(Reason reason) {
 
 void SettingsKeeper::tellUnreadable(const std::string& what) {
     if (!std::exchange(toldUnreadable_, true)) {
-        logWarning(kCategory, "The settings file " + path_.string() + " " + what);
+        logWarning(kLogSettings, "The settings file " + path_.string() + " " + what);
     }
 }
 

@@ -53,8 +53,8 @@ DesktopSources::DesktopSources(const NotificationCenters& centers, RunLoop& runL
                 poster(NSWorkspaceSessionDidBecomeActiveNotification),
                 [&parts](bool locked) { parts.screenSaver.setSessionLocked(locked); }});
     } else {
-        logInfo("nocturo.workspace", "There is no system bus, so Nocturo is not told when the "
-                                     "computer wakes up.");
+        logInfo(kLogWorkspace, "There is no system bus, so Nocturo is not told when the "
+                               "computer wakes up.");
     }
     if (parts.xEvents != nullptr) {
         parts.xEvents->processEvents();

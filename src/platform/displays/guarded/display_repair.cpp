@@ -22,7 +22,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::string_view kCategory = "nocturo.displays";
 constexpr auto kPatience = 2s;
 constexpr auto kGivingBack = 500ms;
 constexpr auto kWaitForCalibrations = 500ms;
@@ -84,8 +83,8 @@ void write(RandrHardware& hardware, const std::vector<Journal::Entry>& ramps) {
 
 Repair writeBack(RandrHardware& hardware, const std::filesystem::path& file, const Known& known) {
     if (known.repair == Repair::plainRamps) {
-        logWarning(kCategory, "What was kept of the displays' own colors in " + file.string() +
-                                  " is missing or damaged, so they get plain ones.");
+        logWarning(kLogDisplays, "What was kept of the displays' own colors in " + file.string() +
+                                     " is missing or damaged, so they get plain ones.");
         setDamagedAside(file);
     }
     write(hardware, known.ramps);

@@ -13,8 +13,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::string_view kCategory = "nocturo.displays";
-
 // For as long as displays are changed: a guard that cannot live is not tried for ever.
 constexpr int kMostStarts = 5;
 
@@ -113,10 +111,10 @@ void GuardedHardware::startGuard() {
     }
     if (!guardFailureLogged_) {
         guardFailureLogged_ = true;
-        logWarning(kCategory, "The guard program " + guardProgram().string() + " cannot be had (" +
-                                  reason +
-                                  "): if Nocturo is killed, the displays get their own colors back "
-                                  "only when it starts again or with nocturoctl restore.");
+        logWarning(kLogDisplays,
+                   "The guard program " + guardProgram().string() + " cannot be had (" + reason +
+                       "): if Nocturo is killed, the displays get their own colors back "
+                       "only when it starts again or with nocturoctl restore.");
     }
 }
 
@@ -129,9 +127,9 @@ void GuardedHardware::storeJournal() {
     journalIsStale_ = error != 0;
     if (error != 0 && !journalFailureLogged_) {
         journalFailureLogged_ = true;
-        logWarning(kCategory, "The displays' own colors cannot be kept in " +
-                                  journalFile_.string() + " (" + std::strerror(error) +
-                                  "): if Nocturo is killed, the displays get plain ones.");
+        logWarning(kLogDisplays, "The displays' own colors cannot be kept in " +
+                                     journalFile_.string() + " (" + std::strerror(error) +
+                                     "): if Nocturo is killed, the displays get plain ones.");
     }
 }
 

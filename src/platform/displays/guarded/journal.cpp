@@ -65,18 +65,6 @@ class Reader {
     bool failed_ = false;
 };
 
-bool writeAll(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-        if (written > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno != EINTR) {
-            return false;
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 std::string journalBytes(const Journal& journal) {
@@ -140,7 +128,8 @@ int writeJournal(const std::filesystem::path& file, const Journal& journal) {
     const FileDescriptor descriptor(open(temporary.c_str(),
                                          O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW,
                                          S_IRUSR | S_IWUSR));
-    const bool done = descriptor.get() >= 0 && writeAll(descriptor.get(), journalBytes(journal)) &&
+    const bool done = descriptor.get() >= 0 &&
+                      writeAll(descriptor.get(), journalBytes(journal)) == 0 &&
                       std::rename(temporary.c_str(), file.c_str()) == 0;
     return done ? 0 : errno;
 }

@@ -76,7 +76,7 @@ bool ProfileCalibrations::waitForAnswers(std::chrono::milliseconds patience) {
 
 void ProfileCalibrations::refuse(const std::string& what, const std::string& problem) {
     if (refused_.insert(what).second) {
-        logWarning("nocturo.displays",
+        logWarning(kLogDisplays,
                    "The color profile " + what + " is not used, because " + problem + ".");
     }
 }

@@ -18,8 +18,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::string_view kCategory = "nocturo.displays";
-
 // 256 blocks of 128 bytes is the longest EDID there can be; counted in units of four bytes.
 constexpr std::uint32_t kLongestEdid = 256 * 128 / 4;
 
@@ -140,7 +138,7 @@ void RandrHardware::handle(const xcb_generic_event_t& event) {
     if (type == 0) {
         const auto& error = reinterpret_cast<const xcb_generic_error_t&>(event);
         if (!refusalLogged_) {
-            logWarning(kCategory,
+            logWarning(kLogDisplays,
                        "The X server refused to change the colours of a display (X error " +
                            std::to_string(error.error_code) + ").");
         }

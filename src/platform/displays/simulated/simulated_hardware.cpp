@@ -69,9 +69,8 @@ bool SimulatedHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
 void SimulatedHardware::draw(std::uint32_t crtc) {
     const auto picture = pictureDirectory_ / ("display-" + std::to_string(crtc + 1) + ".png");
     if (!writeTestCard(ramps_[crtc], picture) && !std::exchange(drawingFailureSaid_, true)) {
-        logWarning("nocturo.displays",
-                   "The pictures of the simulated displays cannot be written to " +
-                       pictureDirectory_.string() + "; the displays still work.");
+        logWarning(kLogDisplays, "The pictures of the simulated displays cannot be written to " +
+                                     pictureDirectory_.string() + "; the displays still work.");
     }
 }
 

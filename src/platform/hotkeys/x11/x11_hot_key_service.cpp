@@ -251,8 +251,8 @@ void X11HotKeyService::followMapping() {
     }
     xcb_flush(connection_.get());
     if (!allClaimed && !connectionLost()) {
-        logWarning("nocturo.hotkeys", "Since the keyboard's modifier keys were changed, another "
-                                      "program holds the hot key; choose another one.");
+        logWarning(kLogHotKeys, "Since the keyboard's modifier keys were changed, another "
+                                "program holds the hot key; choose another one.");
     }
 }
 
