@@ -17,7 +17,7 @@ namespace nocturo {
 namespace {
 
 constexpr float kSamePixel = 1.0F / 256; // half a pixel in a plot of usual size
-constexpr double kBeyond = 0.07;     // how much room there is above 1 and below 0
+constexpr double kBeyond = 0.07;         // how much room there is above 1 and below 0
 constexpr int kGridCells = 4;
 
 bool isDark(const QPalette& palette) {
