@@ -1,4 +1,4 @@
-#include "app/connected_displays.h"
+#include "program/connected_displays.h"
 
 #include "platform/desktop/socket_watch.h"
 #include "platform/displays/display_functions.h"

@@ -1,4 +1,4 @@
-#include "app/core.h"
+#include "program/core.h"
 
 #include "platform/desktop/instance_lock.h"
 #include "platform/displays/guarded/guard_process.h"

@@ -1,4 +1,4 @@
-#include "app/options.h"
+#include "program/options.h"
 
 #include "platform/texts/translated.h"
 

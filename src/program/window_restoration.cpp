@@ -1,4 +1,4 @@
-#include "app/window_restoration.h"
+#include "program/window_restoration.h"
 
 #include "app/app_controller.h"
 #include "platform/log.h"

@@ -1,4 +1,4 @@
-#include "app/desktop_hot_keys.h"
+#include "program/desktop_hot_keys.h"
 
 #include "hotkeys/hot_key_center.h"
 #include "platform/desktop/socket_watch.h"

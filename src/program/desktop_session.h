@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/desktop_hot_keys.h"
 #include "app/menus/desktop_menus.h"
 #include "app/recent_documents.h"
-#include "app/window_restoration.h"
 #include "platform/workspace/desktop_entries.h"
 #include "platform/workspace/desktop_sources.h"
+#include "program/desktop_hot_keys.h"
+#include "program/window_restoration.h"
 
 #include <QStringList>
 

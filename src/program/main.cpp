@@ -1,9 +1,3 @@
-#include "app/connected_displays.h"
-#include "app/core.h"
-#include "app/desktop_session.h"
-#include "app/options.h"
-#include "app/session_claim.h"
-#include "app/surroundings.h"
 #include "platform/desktop/qt_log.h"
 #include "platform/desktop/runtime_directory.h"
 #include "platform/desktop/socket_watch.h"
@@ -12,6 +6,12 @@
 #include "platform/settings/settings_keeper.h"
 #include "platform/texts/translated.h"
 #include "platform/texts/users_language.h"
+#include "program/connected_displays.h"
+#include "program/core.h"
+#include "program/desktop_session.h"
+#include "program/options.h"
+#include "program/session_claim.h"
+#include "program/surroundings.h"
 
 #include <QApplication>
 

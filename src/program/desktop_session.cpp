@@ -1,11 +1,11 @@
-#include "app/desktop_session.h"
+#include "program/desktop_session.h"
 
-#include "app/connected_displays.h"
-#include "app/core.h"
-#include "app/surroundings.h"
 #include "control/launcher_face.h"
 #include "platform/desktop/session_bus.h"
 #include "platform/notification_names.h"
+#include "program/connected_displays.h"
+#include "program/core.h"
+#include "program/surroundings.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "app/session_claim.h"
+#include "program/session_claim.h"
 
 #include "control/bus_face.h"
 #include "control/launcher_face.h"

@@ -1,4 +1,4 @@
-#include "app/surroundings.h"
+#include "program/surroundings.h"
 
 #include "platform/x11/xcb_handles.h"
 
