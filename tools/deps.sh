@@ -61,7 +61,7 @@ packages=(
   librsvg2-bin              # icons
   hicolor-icon-theme        # where they are looked for
   # Packaging
-  dpkg-dev                  # packages
+  build-essential           # packages, which take it for granted
   debhelper                 # ...
   lintian                   # their rules
   debootstrap               # a fresh system to install them in
