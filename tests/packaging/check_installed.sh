@@ -86,7 +86,7 @@ unit() {
   grep -qx "SystemdService=nocturo.service" "$service" || fail "the bus does not know the unit"
   local said
   said=$(XDG_RUNTIME_DIR=$work systemd-analyze verify --user --man=no \
-    "$prefix/lib/systemd/user/nocturo.service" 2>&1)
+    "$prefix/lib/systemd/user/nocturo.service" 2>&1) || fail "$said"
   # It names other units' faults too, and forgives unknown words.
   [[ $said != *nocturo.service* ]] || fail "$said"
 }
