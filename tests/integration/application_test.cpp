@@ -42,9 +42,9 @@ TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
     nocturo_ = session_.startNocturo();
     ASSERT_FALSE(windowCalled(kAlert).empty());
     ctl({"effects", "only", "invert"});
-    EXPECT_EQ(shown(), "ii"); // the question holds up nothing
+    EXPECT_TRUE(becomes("ii")) << shown(); // the question holds up nothing
     ctl({"restore"});
-    EXPECT_EQ(shown(), "oo");
+    EXPECT_TRUE(becomes("oo")) << shown();
     ctl({"toggle"});
     end(); // which is no answer
     EXPECT_EQ(shown(), "oo");
@@ -77,7 +77,7 @@ TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
     nocturo_ = session_.startNocturo();
     const std::string alert = windowCalled(kAlert);
     ctl({"toggle"});
-    EXPECT_EQ(shown(), "oo");
+    EXPECT_TRUE(becomes("oo")) << shown();
     accept(alert);
     EXPECT_TRUE(becomes("ii"));
     end();
@@ -93,7 +93,7 @@ TEST_F(Application, ARefusedDocumentOfTheFirstStartIsShownAndHoldsNothingUp) {
     nocturo_ = session_.startNocturo({bad});
     EXPECT_FALSE(windowCalled(kAlert).empty());
     ctl({"toggle"});
-    EXPECT_EQ(shown(), "oo");
+    EXPECT_TRUE(becomes("oo")) << shown();
     end();
     EXPECT_EQ(nocturo_->errors(), "nocturo: \"" + bad + "\" is not an effect document.\n");
 }
@@ -105,13 +105,13 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
         session_.bus().call(kName, kPath, kApplication, "Activate", "a{sv}", 0);
     };
     activate(); // starts it, and toggles nothing
-    EXPECT_EQ(shown(), "ii");
+    EXPECT_TRUE(becomes("ii")) << shown();
     EXPECT_TRUE(waitUntil([&] { // once the bus has told that the launch is over
         activate();
         return shown() == "oo";
     }));
     activateAction("toggle");
-    EXPECT_EQ(shown(), "ii");
+    EXPECT_TRUE(becomes("ii")) << shown();
     // The dock's menu, whose first item switches.
     const char* menu = "/org/nocturo/Nocturo/LauncherMenu";
     const char* dbusmenu = "com.canonical.dbusmenu";
@@ -135,7 +135,7 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     EXPECT_EQ(shown(), "oo");
     EXPECT_FALSE(isShown("Preferences"));
     EXPECT_EQ(session_.run("nocturo").exit, 0);
-    EXPECT_EQ(shown(), "ii");
+    EXPECT_TRUE(becomes("ii")) << shown();
 
     activateAction("preferences");
     EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());

@@ -35,17 +35,17 @@ TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
     setProperty("_ICC_PROFILE", 1);
     setProperty("_ICC_PROFILE_1", 2);
     start();
-    EXPECT_TRUE(calibrated(1, 2));
+    EXPECT_TRUE(waitUntil([&] { return calibrated(1, 2); }));
     ctl({"on"});
-    EXPECT_TRUE(inverted(1, 2));
+    EXPECT_TRUE(waitUntil([&] { return inverted(1, 2); }));
     setProperty("_ICC_PROFILE_1", 3);
     ctl({"effects", "add", "invert"}); // updates
-    EXPECT_TRUE(shows(1, reversed(calibration(2))));
+    EXPECT_TRUE(waitUntil([&] { return shows(1, reversed(calibration(2))); }));
     ctl({"off"});
-    EXPECT_TRUE(calibrated(1, 3));
+    EXPECT_TRUE(waitUntil([&] { return calibrated(1, 3); }));
     setProperty("_ICC_PROFILE", 4);
     ctl({"on"});
-    EXPECT_TRUE(shows(0, reversed(calibration(4))));
+    EXPECT_TRUE(waitUntil([&] { return shows(0, reversed(calibration(4))); }));
     ctl({"quit"});
     EXPECT_EQ(nocturo_->wait(), 0);
     EXPECT_TRUE(calibrated(4, 3));
@@ -65,7 +65,7 @@ TEST_F(ColorProfiles, CostNothingWhenTheSystemBusIsSilent) {
     setProperty("_ICC_PROFILE", 1);
     setProperty("_ICC_PROFILE_1", 2);
     start();
-    EXPECT_TRUE(calibrated(1, 2));
+    EXPECT_TRUE(waitUntil([&] { return calibrated(1, 2); }));
 }
 
 constexpr const char* kColord = "org.freedesktop.ColorManager";
@@ -139,7 +139,7 @@ TEST_F(ColorProfilesOfColord, HoldWhenNocturoIsKilled) {
         nocturo_ = session_.startNocturo();
         ctl({"effects", "only", "invert"}); // a killed one may have left the choice unwritten
         ctl({"on"});
-        EXPECT_TRUE(inverted(1, 2)); // of what it found
+        EXPECT_TRUE(waitUntil([&] { return inverted(1, 2); })); // of what it found
     };
     const auto loseTheJournal = [&] {
         waitForTheBus();
@@ -155,7 +155,7 @@ TEST_F(ColorProfilesOfColord, HoldWhenNocturoIsKilled) {
     switchOn();
     EXPECT_TRUE(nocturo_->waitForError("is missing or damaged"));
     ctl({"off"});
-    EXPECT_TRUE(calibrated(1, 2));
+    EXPECT_TRUE(waitUntil([&] { return calibrated(1, 2); }));
 }
 
 TEST_F(ColorProfilesOfColord, ComeFirst) {
@@ -168,7 +168,7 @@ TEST_F(ColorProfilesOfColord, ComeFirst) {
     assign("DUMMY1", 3);
     EXPECT_TRUE(offEndsCalibrated(1, 3));
     ctl({"on"});
-    EXPECT_TRUE(inverted(1, 3));
+    EXPECT_TRUE(waitUntil([&] { return inverted(1, 3); }));
     assign("DUMMY0", 5);
     EXPECT_TRUE(shows(0, reversed(calibration(1)))) << "a running effect keeps its curve";
     EXPECT_TRUE(offEndsCalibrated(5, 3));
@@ -193,8 +193,8 @@ TEST_F(ColorProfilesOfColord, ThatAreBrokenAreRefusedWithASentence) {
     ASSERT_TRUE(nocturo_->waitForError("1.icc is not used"));
     ctl({"on"});
     ctl({"off"});
-    EXPECT_TRUE(shows(0, own_[0]));
-    EXPECT_TRUE(shows(1, calibration(2)));
+    EXPECT_TRUE(waitUntil([&] { return shows(0, own_[0]); }));
+    EXPECT_TRUE(waitUntil([&] { return shows(1, calibration(2)); }));
     const std::string& said = nocturo_->errors();
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 3) << said; // and no effect
     EXPECT_NE(said.find("_ICC_PROFILE is not used"), std::string::npos) << said;

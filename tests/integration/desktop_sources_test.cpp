@@ -74,7 +74,7 @@ TEST_F(DesktopSources, TheServersScreenSaverPausesTheEffect) {
     start(); // it runs already
     EXPECT_TRUE(pauses());
     ctl({"on"}); // the user's word holds
-    EXPECT_EQ(shown(), "ii");
+    EXPECT_TRUE(becomes("ii")) << shown();
     session_.run("xset", {"s", "reset"});
     letNocturoCatchUp();
     EXPECT_TRUE(isOn());

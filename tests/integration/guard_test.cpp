@@ -41,7 +41,7 @@ class Guard : public NocturoOnX {
         nocturo_ = session_.startNocturo();
         ctl({"effects", "only", "invert", "dim"});
         ctl({"on"});
-        ASSERT_EQ(shown(), kAllChanged);
+        ASSERT_TRUE(becomes(kAllChanged)) << shown();
     }
     bool allArePlain() {
         for (int i = 0; i < kDisplays; ++i) {
@@ -266,7 +266,7 @@ TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
     kill(false);
     EXPECT_EQ(shown(), "iiii");
     ctl({"restore"});
-    EXPECT_EQ(shown(), kAllOwn);
+    EXPECT_TRUE(becomes(kAllOwn)) << shown();
 
     waitForTheBus();
     fs::copy_file("/bin/false", elsewhere / "bin" / kGuard); // one that does not stay alive

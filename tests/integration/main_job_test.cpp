@@ -47,20 +47,20 @@ class MainJob : public NocturoOnX {
 };
 
 TEST_F(MainJob, InvertsTheAffectedScreensAndGivesThemBack) {
-    EXPECT_EQ(shown(), "iiii");
+    EXPECT_TRUE(becomes("iiii")) << shown();
     ctl({"toggle"});
-    EXPECT_EQ(shown(), "oooo");
+    EXPECT_TRUE(becomes("oooo")) << shown();
     ctl({"toggle"});
     ctl({"screens", "toggle", "2"});
-    EXPECT_EQ(shown(), "oioo");
+    EXPECT_TRUE(becomes("oioo")) << shown();
     ctl({"screens", "toggle", "DUMMY3"});
-    EXPECT_EQ(shown(), "oioi");
+    EXPECT_TRUE(becomes("oioi")) << shown();
     const Json display = status()["displays"][1];
     EXPECT_TRUE(display["affected"] && display["applied"] && !display["main"]);
     ctl({"screens", "toggle", std::to_string(display["id"].get<unsigned>())});
-    EXPECT_EQ(shown(), "oooi");
+    EXPECT_TRUE(becomes("oooi")) << shown();
     ctl({"screens", "all"});
-    EXPECT_EQ(shown(), "iiii");
+    EXPECT_TRUE(becomes("iiii")) << shown();
     EXPECT_EQ(status()["affectedScreenSet"], Json::array());
     EXPECT_EQ(session_.run("nocturoctl", {"screens", "toggle", "DUMMY9"}).exit, 2);
     ctl({"quit"});
@@ -100,9 +100,9 @@ TEST_F(MainJob, FollowsDisplaysThatChangeComeAndGo) {
     server_.switchOff(1);
     server_.switchOff(3);
     ctl({"off"});
-    EXPECT_EQ(shown(), "oooo");
+    EXPECT_TRUE(becomes("oooo")) << shown();
     ctl({"on"});
-    EXPECT_EQ(shown(), "ioio");
+    EXPECT_TRUE(becomes("ioio")) << shown();
     server_.switchOn(1);
     server_.switchOn(3);
     EXPECT_TRUE(becomes("iiii"));
@@ -153,7 +153,7 @@ TEST_F(MainJob, SoakADockEndsRightTwoHundredTimes) {
 TEST_F(MainJob, EndsCleanlyOnSignalsStartsAsItWasLeftAndOnlyOnce) {
     ctl({"set", "ActivateAtLaunch", "false"});
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-        EXPECT_EQ(shown(), "iiii");
+        EXPECT_TRUE(becomes("iiii")) << shown();
         end(number);
         EXPECT_EQ(shown(), "oooo");
         nocturo_ = session_.startNocturo();
@@ -222,9 +222,9 @@ TEST_F(MainJob, TenThousandTogglesLeaveNoTrace) {
     grownBy(500); // caches fill
     // A queue grows once on a busy machine; what leaks grows again.
     EXPECT_TRUE(grownBy(10000) <= 1024 || grownBy(10000) <= 1024);
-    EXPECT_EQ(shown(), "iiii");
+    EXPECT_TRUE(becomes("iiii")) << shown();
     ctl({"off"});
-    EXPECT_EQ(shown(), "oooo");
+    EXPECT_TRUE(becomes("oooo")) << shown();
 }
 
 } // namespace

@@ -80,7 +80,8 @@ class NocturoOnX : public NocturoTest {
         own_.at(static_cast<std::size_t>(display)) = std::move(ramp);
     }
 
-    /// One letter a display: i inverted, o its own ramp, to the last bit, ? anything else.
+    /// One letter a display: i inverted, o its own ramp, to the last bit, ? anything else. What
+    /// Nocturo has sent off the server may, when busy, hear after this.
     std::string shown() {
         std::string letters;
         for (std::size_t display = 0; display < own_.size(); ++display) {
