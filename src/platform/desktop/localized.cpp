@@ -1,7 +1,11 @@
 #include "platform/desktop/localized.h"
 
+#include "platform/texts/translated.h"
+
 #include <QCoreApplication>
-#include <QRegularExpression>
+
+#include <string>
+#include <vector>
 
 namespace nocturo {
 
@@ -10,23 +14,11 @@ QString localized(const char* english, const char* table) {
 }
 
 QString filled(const QString& format, const QStringList& arguments) {
-    static const QRegularExpression kPlaceholder(QStringLiteral("%(?:%|(?:([1-9])\\$)?[@d])"));
-    QString result;
-    qsizetype copied = 0;
-    qsizetype next = 0;
-    for (auto matches = kPlaceholder.globalMatch(format); matches.hasNext();) {
-        const auto match = matches.next();
-        result += QStringView(format).mid(copied, match.capturedStart() - copied);
-        copied = match.capturedEnd();
-        if (match.capturedView() == u"%%") {
-            result += u'%';
-            continue;
-        }
-        const qsizetype index = match.hasCaptured(1) ? match.capturedView(1).toInt() - 1 : next++;
-        result += arguments.value(index, QStringLiteral("(null)"));
+    std::vector<std::string> texts;
+    for (const QString& argument : arguments) {
+        texts.push_back(argument.toStdString());
     }
-    result += QStringView(format).mid(copied);
-    return result;
+    return QString::fromStdString(filledText(format.toStdString(), texts));
 }
 
 } // namespace nocturo

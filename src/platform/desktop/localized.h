@@ -9,8 +9,7 @@ namespace nocturo {
 /// other. `table` names the table of texts ("Localizable" unless they have one of their own).
 QString localized(const char* english, const char* table = "Localizable");
 
-/// A format with its arguments filled in. "%@" and "%d" take the arguments in order, "%1$@" and
-/// "%2$@" the one of that number, and "%%" is a per cent sign. A missing argument reads "(null)".
+/// A format with its arguments filled in, as by filledText() of what is printed.
 QString filled(const QString& format, const QStringList& arguments);
 
 } // namespace nocturo

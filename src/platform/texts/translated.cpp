@@ -33,24 +33,29 @@ void setLanguageOfTexts(std::string_view language) {
     }
 }
 
-std::string translated(const char* english, std::initializer_list<std::string> arguments) {
-    std::string_view rest = lookedUp(english);
+std::string filledText(std::string_view format, std::span<const std::string> arguments) {
     std::string text;
     std::size_t next = 0;
-    for (auto percent = rest.find('%'); percent != rest.npos; percent = rest.find('%')) {
-        text += rest.substr(0, percent);
-        rest.remove_prefix(percent + 1);
-        std::size_t index = next;
-        if (rest.size() > 2 && rest[1] == '$') {
-            index = static_cast<std::size_t>(rest[0] - '1');
-            rest.remove_prefix(2);
+    for (std::size_t at = 0; at < format.size();) {
+        const std::string_view rest = format.substr(at);
+        const bool isNumbered =
+            rest.size() > 3 && rest[1] >= '1' && rest[1] <= '9' && rest[2] == '$';
+        const std::size_t kindAt = isNumbered ? 3 : 1;
+        const char kind = rest[0] == '%' && rest.size() > kindAt ? rest[kindAt] : '\0';
+        if (kind == '@' || kind == 'd') {
+            const std::size_t index = isNumbered ? static_cast<std::size_t>(rest[1] - '1') : next++;
+            text += index < arguments.size() ? arguments[index] : "(null)";
+            at += kindAt + 1;
         } else {
-            ++next;
+            text += rest[0];
+            at += kind == '%' && !isNumbered ? 2 : 1;
         }
-        text += index < arguments.size() ? arguments.begin()[index] : "(null)";
-        rest.remove_prefix(std::min<std::size_t>(1, rest.size()));
     }
-    return text.append(rest);
+    return text;
+}
+
+std::string translated(const char* english, std::initializer_list<std::string> arguments) {
+    return filledText(lookedUp(english), {arguments.begin(), arguments.size()});
 }
 
 } // namespace nocturo

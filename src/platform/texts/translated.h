@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,11 @@ namespace nocturo {
 /// in until then, where there are none in it.
 void setLanguageOfTexts(std::string_view language);
 
-/// The text in the user's language; English where it has no other. "%@" and "%d" take the arguments
-/// in order, "%1$@" and "%2$@" the one of that number. A missing argument reads "(null)".
+/// A format with its arguments filled in. "%@" and "%d" take the arguments in order, "%1$@" and
+/// "%2$@" the one of that number, and "%%" is a per cent sign. A missing argument reads "(null)".
+std::string filledText(std::string_view format, std::span<const std::string> arguments);
+
+/// The text in the user's language, filled; English where it has no other.
 std::string translated(const char* english, std::initializer_list<std::string> arguments = {});
 
 /// A text that is listed before it is said. Made of literals alone, so that all can be found for
