@@ -1,10 +1,10 @@
 // The effects on one curve, and the plain copy of a curve that they are measured against.
 
+#include "base/notification_center.h"
 #include "effects/effect_registry.h"
 #include "effects/group_effect.h"
 #include "figures.h"
-#include "platform/notification_center.h"
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,22 +2,22 @@
 // and a session bus.
 
 #include "app/app_controller.h"
-#include "control/nocturoctl/bus_client.h"
-#include "control/nocturoctl/failure.h"
+#include "base/notification_center.h"
+#include "base/run_loop.h"
+#include "ctl/bus_client.h"
+#include "ctl/failure.h"
+#include "displays/display_functions.h"
+#include "displays/ramp_display_services.h"
+#include "displays/x11/randr_hardware.h"
 #include "effects/effect_registry.h"
 #include "figures.h"
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/key_naming.h"
-#include "platform/displays/display_functions.h"
-#include "platform/displays/ramp_display_services.h"
-#include "platform/displays/randr/randr_hardware.h"
-#include "platform/hotkeys/x11/x11_hot_key_service.h"
-#include "platform/keyboard/modifier_flags.h"
-#include "platform/keyboard/xkb/xkb_keyboard_layout.h"
-#include "platform/notification_center.h"
-#include "platform/run_loop.h"
-#include "platform/settings/defaults_store.h"
+#include "hotkeys/keyboard/modifier_flags.h"
+#include "hotkeys/keyboard/xkb_keyboard_layout.h"
+#include "hotkeys/x11/x11_hot_key_service.h"
 #include "rig/session.h"
+#include "settings/defaults_store.h"
 
 #include <chrono>
 #include <ctime>
@@ -90,6 +90,10 @@ class NoRunLoop : public RunLoop {
                                          std::function<void()>) override {
         return nullptr;
     }
+    std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/) override {
+        return nullptr;
+    }
+    void callSoon(std::function<void()> /*action*/) override {}
 };
 
 double processorMicroseconds() {

@@ -1,8 +1,8 @@
 // The preference window, on a real X server with four displays: how long users wait for it, and
 // whether it keeps up with a slider.
 
-#include "control/nocturoctl/bus_client.h"
-#include "control/nocturoctl/failure.h"
+#include "ctl/bus_client.h"
+#include "ctl/failure.h"
 #include "figures.h"
 #include "rig/session.h"
 

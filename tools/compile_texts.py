@@ -24,7 +24,7 @@ def literal(text):
 
 
 def source_of(tables):
-    yield '#include "platform/texts/text_tables.h"\n\nnamespace nocturo {\n\nnamespace {\n'
+    yield '#include "base/texts/text_tables.h"\n\nnamespace nocturo {\n\nnamespace {\n'
     for language, texts in tables.items():
         yield f"constexpr Translation k_{language}[] = {{"
         for english in sorted(texts, key=str.encode):

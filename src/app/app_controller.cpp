@@ -2,15 +2,15 @@
 
 #include "app/desktop_face.h"
 #include "app/user_interface.h"
-#include "display/display_gamma.h"
+#include "base/notification_names.h"
+#include "base/run_loop.h"
+#include "displays/affected_screen_set.h"
+#include "displays/display_functions.h"
+#include "displays/display_gamma.h"
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/saved_hot_key.h"
-#include "platform/displays/display_functions.h"
-#include "platform/notification_names.h"
-#include "platform/run_loop.h"
-#include "platform/settings/defaults_store.h"
-#include "platform/settings/settings_keys.h"
-#include "preferences/affected_screen_set.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "display/screen_controller.h"
+#include "base/notification_center.h"
+#include "base/property_value.h"
+#include "displays/display_services.h"
+#include "displays/screen_controller.h"
 #include "effects/group_effect.h"
 #include "hotkeys/action_target.h"
-#include "platform/displays/display_services.h"
-#include "platform/notification_center.h"
-#include "platform/property_value.h"
 
 #include <cstdint>
 #include <memory>

@@ -5,12 +5,12 @@
 #include "app/app_controller.h"
 #include "app/desktop_face.h"
 #include "app/flux_check.h"
-#include "app/settings_table.h"
 #include "app/user_interface.h"
-#include "platform/displays/display_functions.h"
-#include "platform/notification_names.h"
-#include "platform/settings/defaults_store.h"
-#include "platform/settings/settings_keys.h"
+#include "base/notification_names.h"
+#include "displays/display_functions.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_table.h"
 
 namespace nocturo {
 

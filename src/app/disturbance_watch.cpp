@@ -1,8 +1,8 @@
 #include "app/disturbance_watch.h"
 
 #include "app/app_controller.h"
-#include "platform/displays/display_functions.h"
-#include "platform/log.h"
+#include "base/log.h"
+#include "displays/display_functions.h"
 
 #include <utility>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "app/flux_check.h"
 
 #include "app/desktop_face.h"
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 namespace nocturo {
 

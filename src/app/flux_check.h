@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/installed_applications.h"
+#include "session/installed_applications.h"
 
 namespace nocturo {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/displays/display_services.h"
+#include "displays/display_services.h"
 
 #include <cstdint>
 #include <string>

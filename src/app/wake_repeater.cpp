@@ -1,8 +1,8 @@
 #include "app/wake_repeater.h"
 
 #include "app/app_controller.h"
-#include "platform/notification_names.h"
-#include "platform/run_loop.h"
+#include "base/notification_names.h"
+#include "base/run_loop.h"
 
 #include <chrono>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/notification_center.h"
+#include "base/notification_center.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "effects/color_filter_effect.h"
 
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <algorithm>
 #include <cmath>

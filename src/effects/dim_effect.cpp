@@ -1,6 +1,6 @@
 #include "effects/dim_effect.h"
 
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 namespace nocturo {
 

@@ -1,6 +1,6 @@
 #include "effects/effect.h"
 
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <chrono>
 #include <utility>

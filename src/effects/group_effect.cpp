@@ -1,7 +1,7 @@
 #include "effects/group_effect.h"
 
 #include "effects/effect_registry.h"
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "hotkeys/hot_key.h"
 
 #include "hotkeys/hot_key_center.h"
-#include "platform/keyboard/modifier_flags.h"
+#include "hotkeys/keyboard/modifier_flags.h"
 
 #include <sstream>
 #include <string_view>

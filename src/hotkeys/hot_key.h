@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hotkeys/action_target.h"
-#include "platform/hotkeys/hot_key_service.h"
+#include "hotkeys/hot_key_service.h"
 
 #include <cstdint>
 #include <functional>

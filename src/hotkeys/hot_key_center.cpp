@@ -1,8 +1,8 @@
 #include "hotkeys/hot_key_center.h"
 
+#include "base/log.h"
 #include "hotkeys/key_event.h"
 #include "hotkeys/key_naming.h"
-#include "platform/log.h"
 
 #include <utility>
 

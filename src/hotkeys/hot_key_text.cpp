@@ -1,9 +1,9 @@
 #include "hotkeys/hot_key_text.h"
 
-#include "platform/keyboard/keyboard_layout.h"
-#include "platform/keyboard/modifier_flags.h"
-#include "platform/keyboard/virtual_key_codes.h"
-#include "platform/texts/translated.h"
+#include "base/texts/translated.h"
+#include "hotkeys/keyboard/keyboard_layout.h"
+#include "hotkeys/keyboard/modifier_flags.h"
+#include "hotkeys/keyboard/virtual_key_codes.h"
 
 #include <array>
 #include <cwchar>

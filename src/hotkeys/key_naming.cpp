@@ -1,7 +1,7 @@
 #include "hotkeys/key_naming.h"
 
-#include "platform/keyboard/keyboard_layout.h"
-#include "platform/keyboard/modifier_flags.h"
+#include "hotkeys/keyboard/keyboard_layout.h"
+#include "hotkeys/keyboard/modifier_flags.h"
 
 #include <algorithm>
 

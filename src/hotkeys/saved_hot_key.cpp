@@ -1,8 +1,8 @@
 #include "hotkeys/saved_hot_key.h"
 
 #include "hotkeys/hot_key.h"
-#include "platform/settings/defaults_store.h"
-#include "platform/settings/settings_keys.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 #include <cstdint>
 

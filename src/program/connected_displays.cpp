@@ -1,9 +1,9 @@
 #include "program/connected_displays.h"
 
-#include "platform/desktop/socket_watch.h"
-#include "platform/displays/display_functions.h"
-#include "platform/notification_center.h"
-#include "platform/notification_names.h"
+#include "base/notification_center.h"
+#include "base/notification_names.h"
+#include "desktop/qt/socket_watch.h"
+#include "displays/display_functions.h"
 
 #include <QCoreApplication>
 

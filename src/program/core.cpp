@@ -1,7 +1,7 @@
 #include "program/core.h"
 
-#include "platform/desktop/instance_lock.h"
-#include "platform/displays/guarded/guard_process.h"
+#include "displays/guard/guard_process.h"
+#include "program/instance_lock.h"
 
 #include <QCoreApplication>
 

@@ -3,12 +3,12 @@
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
 #include "app/wake_repeater.h"
-#include "app/windows/app_windows.h"
-#include "control/bus_face.h"
-#include "platform/desktop/posix_signals.h"
-#include "platform/desktop/qt_run_loop.h"
-#include "platform/notification_center.h"
-#include "platform/workspace/disturber_finder.h"
+#include "base/notification_center.h"
+#include "bus/bus_face.h"
+#include "desktop/app_windows.h"
+#include "desktop/qt/qt_run_loop.h"
+#include "program/posix_signals.h"
+#include "session/disturber_finder.h"
 
 #include <array>
 

@@ -1,10 +1,10 @@
 #include "program/desktop_hot_keys.h"
 
+#include "base/log.h"
+#include "desktop/qt/socket_watch.h"
 #include "hotkeys/hot_key_center.h"
-#include "platform/desktop/socket_watch.h"
-#include "platform/hotkeys/x11/x11_hot_key_service.h"
-#include "platform/keyboard/xkb/xkb_keyboard_layout.h"
-#include "platform/log.h"
+#include "hotkeys/keyboard/xkb_keyboard_layout.h"
+#include "hotkeys/x11/x11_hot_key_service.h"
 
 namespace nocturo {
 

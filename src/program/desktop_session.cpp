@@ -1,8 +1,8 @@
 #include "program/desktop_session.h"
 
-#include "control/launcher_face.h"
-#include "platform/desktop/session_bus.h"
-#include "platform/notification_names.h"
+#include "base/notification_names.h"
+#include "bus/launcher_face.h"
+#include "desktop/qt/session_bus.h"
 #include "program/connected_displays.h"
 #include "program/core.h"
 #include "program/surroundings.h"

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/menus/desktop_menus.h"
-#include "app/recent_documents.h"
-#include "platform/workspace/desktop_entries.h"
-#include "platform/workspace/desktop_sources.h"
+#include "desktop/menus/desktop_menus.h"
+#include "documents/recent_documents.h"
 #include "program/desktop_hot_keys.h"
 #include "program/window_restoration.h"
+#include "session/desktop_entries.h"
+#include "session/desktop_sources.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #include "program/options.h"
 
-#include "platform/texts/translated.h"
+#include "base/texts/translated.h"
 
 #include <cstddef>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/displays/display_factory.h"
+#include "displays/display_factory.h"
 
 #include <string>
 #include <variant>

@@ -1,10 +1,10 @@
 #include "program/session_claim.h"
 
-#include "control/bus_face.h"
-#include "control/launcher_face.h"
-#include "platform/desktop/session_bus.h"
-#include "platform/log.h"
-#include "platform/texts/translated.h"
+#include "base/log.h"
+#include "base/texts/translated.h"
+#include "bus/bus_face.h"
+#include "bus/launcher_face.h"
+#include "desktop/qt/session_bus.h"
 
 namespace nocturo {
 

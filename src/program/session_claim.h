@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/instance_lock.h"
+#include "program/instance_lock.h"
 
 #include <QDBusConnection>
 #include <QStringList>

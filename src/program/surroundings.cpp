@@ -1,6 +1,6 @@
 #include "program/surroundings.h"
 
-#include "platform/x11/xcb_handles.h"
+#include "x11/xcb_handles.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>

@@ -1,8 +1,8 @@
 #include "program/window_restoration.h"
 
 #include "app/app_controller.h"
-#include "platform/log.h"
-#include "platform/settings/settings_file.h"
+#include "base/log.h"
+#include "settings/settings_file.h"
 
 #include <QEvent>
 #include <QGuiApplication>

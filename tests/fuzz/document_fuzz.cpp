@@ -1,5 +1,5 @@
-#include "platform/property_lists/property_list.h"
-#include "preferences/effect_document.h"
+#include "documents/effect_document.h"
+#include "settings/property_lists/property_list.h"
 
 #include <cmath>
 #include <cstddef>

@@ -1,10 +1,10 @@
+#include "displays/affected_screen_set.h"
 #include "effects/gamma_curve.h"
 #include "effects/group_effect.h"
 #include "hotkeys/hot_key.h"
 #include "hotkeys/saved_hot_key.h"
-#include "platform/property_lists/property_list.h"
-#include "platform/settings/defaults_store.h"
-#include "preferences/affected_screen_set.h"
+#include "settings/defaults_store.h"
+#include "settings/property_lists/property_list.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // The program as an application of the desktop, under mouse and keyboard: first launch, launchers,
 // the preference window, documents.
 
+#include "documents/effect_document_file.h"
 #include "nocturo_test.h"
-#include "preferences/documents/effect_document_file.h"
 
 namespace nocturo::rig {
 

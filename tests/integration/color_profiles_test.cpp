@@ -1,8 +1,8 @@
 // Displays with colour profiles, assigned as desktops do: on the root window, and through a real
 // colord. Switching off and ending leave each display at its calibration, to the last bit.
 
+#include "displays/calibration/profile_calibrations.h"
 #include "nocturo_test.h"
-#include "platform/displays/profiles/profile_calibrations.h"
 #include "rig/color_profile.h"
 
 namespace nocturo::rig {

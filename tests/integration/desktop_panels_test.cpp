@@ -1,7 +1,7 @@
 // The status item in panels that people use: that it is seen, clicked and comes back.
 
 #include "nocturo_test.h"
-#include "platform/x11/xcb_handles.h"
+#include "x11/xcb_handles.h"
 
 namespace nocturo::rig {
 

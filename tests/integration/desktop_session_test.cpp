@@ -1,7 +1,7 @@
 // Nocturo installed, as file managers and session managers find it.
 
+#include "documents/effect_document_file.h"
 #include "nocturo_test.h"
-#include "preferences/documents/effect_document_file.h"
 
 namespace nocturo::rig {
 

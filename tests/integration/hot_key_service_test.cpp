@@ -1,9 +1,9 @@
 // What an application with one hot key cannot show: several at once, changes while a key is held,
 // and events that arrive along with an answer.
 
-#include "platform/hotkeys/x11/x11_hot_key_service.h"
-#include "platform/keyboard/modifier_flags.h"
-#include "platform/keyboard/xkb/xkb_keyboard_layout.h"
+#include "hotkeys/keyboard/modifier_flags.h"
+#include "hotkeys/keyboard/xkb_keyboard_layout.h"
+#include "hotkeys/x11/x11_hot_key_service.h"
 #include "rig/wait.h"
 #include "rig/x_client.h"
 #include "rig/x_server.h"

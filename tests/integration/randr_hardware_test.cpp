@@ -1,5 +1,5 @@
-#include "platform/displays/randr/randr_hardware.h"
-#include "platform/log.h"
+#include "base/log.h"
+#include "displays/x11/randr_hardware.h"
 #include "rig/wait.h"
 #include "rig/x_client.h"
 #include "rig/x_server.h"

@@ -1,8 +1,8 @@
 // Toggles the running Nocturo as often as asked, over one connection. With "drag" it moves a
 // setting to and fro instead, as a slider does.
 
-#include "control/nocturoctl/bus_client.h"
-#include "control/nocturoctl/failure.h"
+#include "ctl/bus_client.h"
+#include "ctl/failure.h"
 
 #include <cstdlib>
 #include <cstring>

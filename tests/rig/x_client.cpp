@@ -1,6 +1,6 @@
 #include "rig/x_client.h"
 
-#include "platform/keyboard/virtual_key_codes.h"
+#include "hotkeys/keyboard/virtual_key_codes.h"
 
 #include <algorithm>
 #include <stdexcept>

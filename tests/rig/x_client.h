@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/x11/xcb_handles.h"
+#include "x11/xcb_handles.h"
 
 #include <array>
 #include <cstdint>

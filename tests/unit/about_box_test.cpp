@@ -1,5 +1,5 @@
-#include "about/about_box_controller.h"
-#include "about/about_box_views.h"
+#include "desktop/about/about_box_controller.h"
+#include "desktop/about/about_box_views.h"
 #include "temporary_directory.h"
 
 #include <gtest/gtest.h>

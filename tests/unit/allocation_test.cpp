@@ -1,12 +1,12 @@
 // Re-application runs for as long as the effect is on, so it must not allocate.
 
-#include "display/screen_controller.h"
+#include "base/notification_center.h"
+#include "displays/display_functions.h"
+#include "displays/ramp_display_services.h"
+#include "displays/screen_controller.h"
 #include "effects/effect_registry.h"
 #include "effects/group_effect.h"
-#include "platform/displays/display_functions.h"
-#include "platform/displays/ramp_display_services.h"
-#include "platform/notification_center.h"
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <gtest/gtest.h>
 

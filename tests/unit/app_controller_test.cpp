@@ -6,15 +6,15 @@
 #include "app/desktop_face.h"
 #include "app/disturbance_watch.h"
 #include "app/flux_check.h"
-#include "app/settings_table.h"
 #include "app/user_interface.h"
 #include "app/wake_repeater.h"
+#include "base/notification_names.h"
 #include "display_services_fixture.h"
+#include "displays/affected_screen_set.h"
 #include "fake_run_loop.h"
-#include "platform/installed_applications.h"
-#include "platform/notification_names.h"
-#include "platform/settings/defaults_store.h"
-#include "preferences/affected_screen_set.h"
+#include "session/installed_applications.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_table.h"
 
 #include <gmock/gmock.h>
 

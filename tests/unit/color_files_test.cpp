@@ -1,8 +1,8 @@
 // The files that displays' colours come from, which anybody may have made or damaged.
 
-#include "platform/displays/guarded/journal.h"
-#include "platform/displays/profiles/calibration_profile.h"
-#include "platform/displays/profiles/profile_file.h"
+#include "displays/calibration/calibration_profile.h"
+#include "displays/calibration/profile_file.h"
+#include "displays/guard/journal.h"
 #include "rig/color_profile.h"
 #include "temporary_directory.h"
 

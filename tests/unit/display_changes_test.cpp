@@ -1,7 +1,7 @@
 // What the display services tell of changes, and the system colours that displays go back to.
 
-#include "display/display_gamma.h"
 #include "display_services_fixture.h"
+#include "displays/display_gamma.h"
 #include "fake_run_loop.h"
 
 #include <gmock/gmock.h>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "display/screen_controller.h"
+#include "displays/display_functions.h"
+#include "displays/ramp_display_services.h"
+#include "displays/screen_controller.h"
 #include "effects/invert_effect.h"
-#include "platform/displays/display_functions.h"
-#include "platform/displays/ramp_display_services.h"
 
 #include <gtest/gtest.h>
 

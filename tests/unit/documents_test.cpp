@@ -1,8 +1,8 @@
 // Property lists and the documents that are made of them. Both may come from anybody.
 
-#include "platform/property_lists/property_list.h"
+#include "settings/property_lists/property_list.h"
 
-#include "preferences/documents/effect_document_file.h"
+#include "documents/effect_document_file.h"
 #include "temporary_directory.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+#include "base/notification_center.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "effects/group_effect.h"
@@ -5,8 +6,7 @@
 #include "effects/hide_stripes_effect.h"
 #include "effects/invert_effect.h"
 #include "expected/expected_curves.h"
-#include "platform/notification_center.h"
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <gtest/gtest.h>
 

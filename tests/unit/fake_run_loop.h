@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/run_loop.h"
+#include "base/run_loop.h"
 
 #include <algorithm>
 #include <chrono>
@@ -24,12 +24,21 @@ class FakeRunLoop final : public RunLoop {
                                          std::function<void()> action) override {
         return schedule({delay, std::chrono::milliseconds(0), std::move(action)});
     }
+    /// Nothing becomes readable here.
+    std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/) override {
+        return std::make_unique<Watch>();
+    }
+    /// Called at the next advance(), before time passes.
+    void callSoon(std::function<void()> action) override { soon_.push_back(std::move(action)); }
 
     /// Lets time pass and fires what falls due, in the order of due times and then of scheduling.
     /// Timers may be scheduled and destroyed meanwhile.
     void advance(std::int64_t milliseconds) {
         const std::chrono::milliseconds end = now_ + std::chrono::milliseconds(milliseconds);
         for (;;) {
+            for (const auto& action : std::exchange(soon_, {})) {
+                action();
+            }
             const auto timers = pending();
             const auto next =
                 std::min_element(timers.begin(), timers.end(),
@@ -78,6 +87,7 @@ class FakeRunLoop final : public RunLoop {
     }
 
     std::vector<std::weak_ptr<Entry>> entries_; // in the order of scheduling
+    std::vector<std::function<void()>> soon_;
     std::chrono::milliseconds now_{0};
 };
 

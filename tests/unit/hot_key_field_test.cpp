@@ -1,6 +1,6 @@
-#include "hotkeys/field/hot_key_text_field.h"
+#include "desktop/hotkey_field/hot_key_text_field.h"
 #include "hotkeys/key_event.h"
-#include "platform/keyboard/keyboard_layout.h"
+#include "hotkeys/keyboard/keyboard_layout.h"
 
 #include <gmock/gmock.h>
 

@@ -1,12 +1,12 @@
+#include "base/notification_center.h"
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/hot_key_text.h"
 #include "hotkeys/key_event.h"
 #include "hotkeys/key_naming.h"
+#include "hotkeys/keyboard/keyboard_layout.h"
+#include "hotkeys/keyboard/virtual_key_codes.h"
 #include "hotkeys/saved_hot_key.h"
-#include "platform/keyboard/keyboard_layout.h"
-#include "platform/keyboard/virtual_key_codes.h"
-#include "platform/notification_center.h"
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <gmock/gmock.h>
 

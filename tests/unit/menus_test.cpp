@@ -1,13 +1,13 @@
 // The main menu with the documents that it remembers, and the run of screens in other menus.
 
-#include "app/menus/main_menu.h"
-#include "app/menus/status_image.h"
-#include "app/recent_documents.h"
+#include "base/notification_center.h"
+#include "base/notification_names.h"
+#include "desktop/menus/main_menu.h"
+#include "desktop/menus/screen_option_menu_manager.h"
+#include "desktop/menus/status_image.h"
 #include "display_services_fixture.h"
-#include "platform/notification_center.h"
-#include "platform/notification_names.h"
-#include "platform/settings/defaults_store.h"
-#include "preferences/menus/screen_option_menu_manager.h"
+#include "documents/recent_documents.h"
+#include "settings/defaults_store.h"
 #include "temporary_directory.h"
 
 #include <QApplication>

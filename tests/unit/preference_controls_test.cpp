@@ -1,8 +1,8 @@
 // What the preference window is made of: its sliders, and what it tells of a curve.
 
-#include "preferences/controls/parameter_slider.h"
-#include "preferences/preview/effect_preview.h"
-#include "preferences/readability.h"
+#include "desktop/controls/parameter_slider.h"
+#include "desktop/preview/effect_preview.h"
+#include "displays/readability.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
-#include "platform/displays/ramp_display_services.h"
+#include "displays/ramp_display_services.h"
 
-#include "display/display_gamma.h"
 #include "display_services_fixture.h"
+#include "displays/display_gamma.h"
 
 #include <cmath>
 #include <limits>

@@ -1,11 +1,11 @@
 // The settings in memory, in their file and between the two.
 
-#include "platform/settings/settings_keeper.h"
+#include "settings/settings_keeper.h"
 
+#include "base/log.h"
+#include "base/notification_center.h"
 #include "fake_run_loop.h"
-#include "platform/log.h"
-#include "platform/notification_center.h"
-#include "platform/property_lists/property_list.h"
+#include "settings/property_lists/property_list.h"
 #include "temporary_directory.h"
 
 #include <gmock/gmock.h>

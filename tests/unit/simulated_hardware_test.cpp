@@ -1,4 +1,4 @@
-#include "platform/displays/simulated/simulated_hardware.h"
+#include "displays/simulated/simulated_hardware.h"
 
 #include "temporary_directory.h"
 

@@ -1,7 +1,7 @@
-#include "platform/desktop/localized.h"
-#include "platform/desktop/translations.h"
-#include "platform/texts/translated.h"
-#include "platform/texts/users_language.h"
+#include "base/texts/translated.h"
+#include "base/texts/users_language.h"
+#include "desktop/qt/localized.h"
+#include "desktop/qt/translations.h"
 
 #include <QGuiApplication>
 

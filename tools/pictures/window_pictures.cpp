@@ -2,18 +2,18 @@
 // shows: window_pictures WINDOW FILE [dark] [rtl] [long]
 
 #include "app/app_controller.h"
-#include "app/menus/desktop_menus.h"
-#include "app/recent_documents.h"
-#include "app/windows/app_windows.h"
+#include "base/notification_center.h"
+#include "base/runtime_directory.h"
+#include "desktop/app_windows.h"
+#include "desktop/menus/desktop_menus.h"
+#include "desktop/qt/qt_run_loop.h"
+#include "desktop/qt/translations.h"
+#include "displays/display_factory.h"
+#include "displays/display_functions.h"
+#include "documents/recent_documents.h"
 #include "effects/color_filter_effect.h"
 #include "effects/group_effect.h"
-#include "platform/desktop/qt_run_loop.h"
-#include "platform/desktop/runtime_directory.h"
-#include "platform/desktop/translations.h"
-#include "platform/displays/display_factory.h"
-#include "platform/displays/display_functions.h"
-#include "platform/notification_center.h"
-#include "platform/settings/defaults_store.h"
+#include "settings/defaults_store.h"
 
 #include <QApplication>
 #include <QMenu>

@@ -1,0 +1,163 @@
+#include "base/bus.h"
+
+#include "base/event_loop.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+constexpr const char* kBusService = "org.freedesktop.DBus";
+constexpr const char* kBusPath = "/org/freedesktop/DBus";
+constexpr const char* kDefaultSystemBus = "unix:path=/run/dbus/system_bus_socket";
+constexpr std::uint64_t kMicrosecondsInMs = 1000;
+
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+// Shared, because it may be destroyed while it runs.
+using Handler = std::shared_ptr<std::function<void(sd_bus_message*)>>;
+
+class HandledSlot : public BusSlot {
+  public:
+    explicit HandledSlot(std::function<void(sd_bus_message*)> function)
+        : handler(std::make_shared<std::function<void(sd_bus_message*)>>(std::move(function))) {}
+
+    static int handle(sd_bus_message* message, void* self, sd_bus_error* /*error*/) {
+        const Handler running = static_cast<HandledSlot*>(self)->handler;
+        (*running)(message);
+        return 0;
+    }
+
+    Handler handler;
+    std::unique_ptr<sd_bus_slot, BusRelease> slot;
+};
+
+struct FollowedOwner : BusSlot {
+    std::unique_ptr<BusSlot> changes;
+    std::unique_ptr<BusSlot> question;
+};
+
+} // namespace
+
+std::string sessionBusAddress() {
+    std::string address = environment("DBUS_SESSION_BUS_ADDRESS");
+    if (address.empty()) {
+        const std::string directory = environment("XDG_RUNTIME_DIR");
+        std::error_code error;
+        if (!directory.empty() && std::filesystem::exists(directory + "/bus", error)) {
+            address = "unix:path=" + directory + "/bus";
+        }
+    }
+    return address;
+}
+
+std::string systemBusAddress() {
+    const std::string address = environment("DBUS_SYSTEM_BUS_ADDRESS");
+    return address.empty() ? kDefaultSystemBus : address;
+}
+
+std::unique_ptr<Bus> Bus::connect(const std::string& address, EventLoop& loop) {
+    sd_bus* created = nullptr;
+    if (address.empty() || sd_bus_new(&created) < 0) {
+        return nullptr;
+    }
+    BusHandle bus(created);
+    if (sd_bus_set_address(created, address.c_str()) < 0 || sd_bus_set_bus_client(created, 1) < 0 ||
+        sd_bus_start(created) < 0 ||
+        sd_bus_attach_event(created, loop.handle(), EventLoop::kBus) < 0) {
+        return nullptr;
+    }
+    return std::unique_ptr<Bus>(new Bus(std::move(bus)));
+}
+
+Bus::~Bus() {
+    sd_bus_flush(bus_.get());
+}
+
+bool Bus::claimName(const char* name, int patienceMs) {
+    constexpr std::uint32_t kDoNotQueue = 4;
+    constexpr std::uint32_t kOwned = 1;
+    constexpr std::uint32_t kOwnedAlready = 4;
+    const BusMessage request = newCall(kBusService, kBusPath, kBusService, "RequestName");
+    sd_bus_message_append(request.get(), "su", name, kDoNotQueue);
+    const BusMessage answer = callAndWait(request, patienceMs, nullptr);
+    std::uint32_t result = 0;
+    return answer != nullptr && sd_bus_message_read(answer.get(), "u", &result) > 0 &&
+           (result == kOwned || result == kOwnedAlready);
+}
+
+BusMessage Bus::newCall(const char* service, const char* path, const char* interface,
+                        const char* method) const {
+    sd_bus_message* message = nullptr;
+    sd_bus_message_new_method_call(bus_.get(), &message, service, path, interface, method);
+    if (message != nullptr) {
+        sd_bus_message_set_auto_start(message, 0);
+    }
+    return BusMessage(message);
+}
+
+std::unique_ptr<BusSlot> Bus::call(const BusMessage& call,
+                                   std::function<void(sd_bus_message* answer)> answered) const {
+    auto pending = std::make_unique<HandledSlot>(std::move(answered));
+    sd_bus_slot* slot = nullptr;
+    sd_bus_call_async(bus_.get(), &slot, call.get(), HandledSlot::handle, pending.get(), 0);
+    pending->slot.reset(slot);
+    return pending;
+}
+
+BusMessage Bus::callAndWait(const BusMessage& call, int patienceMs, sd_bus_error* error) const {
+    sd_bus_message* answer = nullptr;
+    sd_bus_call(bus_.get(), call.get(), static_cast<std::uint64_t>(patienceMs) * kMicrosecondsInMs,
+                error, &answer);
+    return BusMessage(answer);
+}
+
+std::unique_ptr<BusSlot> Bus::onSignal(const char* sender, const char* path, const char* interface,
+                                       const char* member,
+                                       std::function<void(sd_bus_message* signal)> handler) const {
+    auto match = std::make_unique<HandledSlot>(std::move(handler));
+    sd_bus_slot* slot = nullptr;
+    sd_bus_match_signal_async(bus_.get(), &slot, sender, path, interface, member,
+                              HandledSlot::handle, nullptr, match.get());
+    match->slot.reset(slot);
+    return match;
+}
+
+std::unique_ptr<BusSlot>
+Bus::followOwner(const std::string& service,
+                 std::function<void(const std::string& owner)> changed) const {
+    auto followed = std::make_unique<FollowedOwner>();
+    const std::string rule = "type='signal',sender='" + std::string(kBusService) +
+                             "',member='NameOwnerChanged',arg0='" + service + "'";
+    auto match = std::make_unique<HandledSlot>([changed](sd_bus_message* signal) {
+        const char* owner = "";
+        if (sd_bus_message_read(signal, "sss", nullptr, nullptr, &owner) > 0) {
+            changed(owner);
+        }
+    });
+    sd_bus_slot* slot = nullptr;
+    sd_bus_add_match_async(bus_.get(), &slot, rule.c_str(), HandledSlot::handle, nullptr,
+                           match.get());
+    match->slot.reset(slot);
+    followed->changes = std::move(match);
+    const BusMessage question = newCall(kBusService, kBusPath, kBusService, "GetNameOwner");
+    sd_bus_message_append(question.get(), "s", service.c_str());
+    followed->question = call(question, [changed](sd_bus_message* answer) {
+        const char* owner = "";
+        if (sd_bus_message_is_method_error(answer, nullptr) == 0) {
+            sd_bus_message_read(answer, "s", &owner);
+        }
+        changed(owner);
+    });
+    return followed;
+}
+
+} // namespace nocturo

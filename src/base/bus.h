@@ -1,0 +1,80 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include <systemd/sd-bus.h>
+
+namespace nocturo {
+
+class EventLoop;
+
+/// Releases the handles of sd-bus; a bus is closed at once, without sending what still waits.
+struct BusRelease {
+    void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
+    void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
+    void operator()(sd_bus_slot* slot) const { sd_bus_slot_unref(slot); }
+};
+using BusHandle = std::unique_ptr<sd_bus, BusRelease>;
+using BusMessage = std::unique_ptr<sd_bus_message, BusRelease>;
+
+/// The D-Bus address of the session bus that the environment names, or of the one at its usual
+/// place in the runtime directory; empty when there is none. Nothing here ever starts a bus.
+std::string sessionBusAddress();
+std::string systemBusAddress();
+
+/// A call, a match or an object on a bus. It ends when this is destroyed: then its handler is not
+/// called any more. Its own handler may destroy it.
+class BusSlot {
+  public:
+    virtual ~BusSlot() = default;
+};
+
+/// A connection to a message bus in the event loop. Only claimName() and callAndWait() wait; a bus
+/// that is silent or goes away is the same as one where nobody answers. Main thread only.
+class Bus {
+  public:
+    /// Null when nothing listens at the address. The loop must outlive the bus.
+    static std::unique_ptr<Bus> connect(const std::string& address, EventLoop& loop);
+    ~Bus();
+    Bus(const Bus&) = delete;
+    Bus& operator=(const Bus&) = delete;
+
+    /// For building messages and adding objects by sd-bus itself.
+    sd_bus* handle() const { return bus_.get(); }
+
+    /// Takes the name for this connection; false when another has it, or when the bus does not
+    /// answer within `patienceMs`.
+    bool claimName(const char* name, int patienceMs);
+
+    BusMessage newCall(const char* service, const char* path, const char* interface,
+                       const char* method) const;
+
+    /// Sends a call without waiting and without starting the service that it goes to. `answered` is
+    /// given the reply or the error (sd_bus_message_is_method_error) from the loop.
+    [[nodiscard]] std::unique_ptr<BusSlot>
+    call(const BusMessage& call, std::function<void(sd_bus_message* answer)> answered) const;
+
+    /// Sends a call and waits for its reply; null where there was none. `error` may be null.
+    BusMessage callAndWait(const BusMessage& call, int patienceMs, sd_bus_error* error) const;
+
+    /// Calls `handler` with every signal of that kind. Sender and path may be null for all.
+    [[nodiscard]] std::unique_ptr<BusSlot>
+    onSignal(const char* sender, const char* path, const char* interface, const char* member,
+             std::function<void(sd_bus_message* signal)> handler) const;
+
+    /// Calls `changed` with the unique name of who owns the service, empty for nobody: first with
+    /// who does now, then at every change. Never starts the service.
+    [[nodiscard]] std::unique_ptr<BusSlot>
+    followOwner(const std::string& service,
+                std::function<void(const std::string& owner)> changed) const;
+
+  private:
+    explicit Bus(BusHandle bus) : bus_(std::move(bus)) {}
+
+    BusHandle bus_;
+};
+
+} // namespace nocturo

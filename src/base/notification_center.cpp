@@ -1,0 +1,59 @@
+#include "base/notification_center.h"
+
+#include <utility>
+
+namespace nocturo {
+
+NotificationCenter& NotificationCenter::defaultCenter() {
+    static NotificationCenter center;
+    return center;
+}
+
+void NotificationCenter::addObserver(const void* observer, std::string_view name, Handler handler) {
+    registrations_.push_back({observer, std::string(name), std::move(handler)});
+}
+
+void NotificationCenter::removeObserver(const void* observer, std::string_view name) {
+    removeMatching([&](const Registration& registration) {
+        return registration.observer == observer && registration.name == name;
+    });
+}
+
+void NotificationCenter::removeObserver(const void* observer) {
+    removeMatching(
+        [&](const Registration& registration) { return registration.observer == observer; });
+}
+
+void NotificationCenter::post(std::string_view name) {
+    // Handlers may add and remove registrations, their own included: list nodes stay where they
+    // are, removed ones are only marked until the outermost delivery ends, and additions lie
+    // beyond the count taken here.
+    ++deliveriesRunning_;
+    auto registration = registrations_.begin();
+    for (auto left = registrations_.size(); left > 0; --left, ++registration) {
+        if (registration->observer != nullptr && registration->name == name) {
+            registration->handler();
+        }
+    }
+    --deliveriesRunning_;
+    sweep();
+}
+
+template <typename Predicate>
+void NotificationCenter::removeMatching(Predicate matches) {
+    for (Registration& registration : registrations_) {
+        if (matches(registration)) {
+            registration.observer = nullptr;
+        }
+    }
+    sweep();
+}
+
+void NotificationCenter::sweep() {
+    if (deliveriesRunning_ == 0) {
+        registrations_.remove_if(
+            [](const Registration& registration) { return registration.observer == nullptr; });
+    }
+}
+
+} // namespace nocturo

@@ -1,0 +1,134 @@
+#include "ctl/bus_json.h"
+
+#include <cctype>
+#include <string>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+template <typename Value>
+Json readBasic(sd_bus_message* message, char type) {
+    Value value{};
+    if (sd_bus_message_read_basic(message, type, &value) <= 0) {
+        return nullptr;
+    }
+    return Json(value);
+}
+
+Json readBoolean(sd_bus_message* message) {
+    const Json number = readBasic<int>(message, 'b');
+    return number.is_null() ? number : Json(number.get<int>() != 0);
+}
+
+Json readObject(sd_bus_message* message) {
+    Json object = Json::object();
+    while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, nullptr) > 0) {
+        const Json key = readJson(message);
+        object[key.is_string() ? key.get<std::string>() : key.dump()] = readJson(message);
+        sd_bus_message_exit_container(message);
+    }
+    return object;
+}
+
+Json readArray(sd_bus_message* message) {
+    Json array = Json::array();
+    while (sd_bus_message_at_end(message, 0) == 0) {
+        array.push_back(readJson(message));
+    }
+    return array;
+}
+
+Json readContainer(sd_bus_message* message, char type, const char* contents) {
+    if (sd_bus_message_enter_container(message, type, contents) <= 0) {
+        return nullptr;
+    }
+    Json value;
+    if (type == SD_BUS_TYPE_VARIANT) {
+        value = readJson(message);
+    } else if (contents[0] == SD_BUS_TYPE_DICT_ENTRY_BEGIN) {
+        value = readObject(message);
+    } else {
+        value = readArray(message);
+    }
+    sd_bus_message_exit_container(message);
+    return value;
+}
+
+template <typename Element>
+int appendArray(sd_bus_message* message, const PropertyArray& array, const char* type) {
+    const std::string arrayType = std::string("a") + type;
+    int result = sd_bus_message_open_container(message, 'v', arrayType.c_str());
+    result = result < 0 ? result : sd_bus_message_open_container(message, 'a', type);
+    for (const PropertyValue& element : array) {
+        if (const auto* value = element.as<Element>(); value != nullptr && result >= 0) {
+            if constexpr (std::is_same_v<Element, std::string>) {
+                result = sd_bus_message_append(message, type, value->c_str());
+            } else {
+                result = sd_bus_message_append(message, type, *value);
+            }
+        }
+    }
+    result = result < 0 ? result : sd_bus_message_close_container(message);
+    return result < 0 ? result : sd_bus_message_close_container(message);
+}
+
+} // namespace
+
+Json readJson(sd_bus_message* message) {
+    char type = 0;
+    const char* contents = nullptr;
+    if (sd_bus_message_peek_type(message, &type, &contents) <= 0) {
+        return nullptr;
+    }
+    switch (type) {
+    case SD_BUS_TYPE_BOOLEAN:
+        return readBoolean(message);
+    case SD_BUS_TYPE_INT32:
+        return readBasic<std::int32_t>(message, type);
+    case SD_BUS_TYPE_UINT32:
+        return readBasic<std::uint32_t>(message, type);
+    case SD_BUS_TYPE_INT64:
+        return readBasic<std::int64_t>(message, type);
+    case SD_BUS_TYPE_DOUBLE:
+        return readBasic<double>(message, type);
+    case SD_BUS_TYPE_STRING:
+        return readBasic<const char*>(message, type);
+    case SD_BUS_TYPE_VARIANT:
+    case SD_BUS_TYPE_ARRAY:
+        return readContainer(message, type, contents);
+    default:
+        sd_bus_message_skip(message, nullptr);
+        return nullptr;
+    }
+}
+
+Json withSmallFirstLetters(const Json& object) {
+    Json result = Json::object();
+    for (const auto& [key, value] : object.items()) {
+        std::string name = key;
+        name.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(name.front())));
+        result[name] = value;
+    }
+    return result;
+}
+
+int appendVariant(sd_bus_message* message, const PropertyValue& value) {
+    if (const auto* boolean = value.as<bool>()) {
+        return sd_bus_message_append(message, "v", "b", static_cast<int>(*boolean));
+    }
+    if (const auto* integer = value.as<std::int64_t>()) {
+        return sd_bus_message_append(message, "v", "x", *integer);
+    }
+    if (const auto* real = value.as<double>()) {
+        return sd_bus_message_append(message, "v", "d", *real);
+    }
+    const auto* array = value.as<PropertyArray>();
+    const PropertyArray& elements = array != nullptr ? *array : PropertyArray();
+    const bool areNumbers = !elements.empty() && elements.front().as<std::int64_t>() != nullptr;
+    return areNumbers ? appendArray<std::int64_t>(message, elements, "x")
+                      : appendArray<std::string>(message, elements, "s");
+}
+
+} // namespace nocturo

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "base/texts/translated.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace nocturo {
+
+using Arguments = std::span<const std::string>;
+
+/// One verb of the command line.
+struct Command {
+    std::string_view verb;
+    std::string_view usage; // what follows the verb, "[--json]"
+    ListedText summary;     // one line
+    ListedText details;     // more for `nocturoctl VERB --help`; may be empty
+
+    /// Runs the verb with what follows it. Throws Failure; a Failure without a sentence means that
+    /// the arguments do not fit the usage.
+    void (*run)(Arguments arguments);
+};
+
+std::span<const Command> commands();
+
+} // namespace nocturo

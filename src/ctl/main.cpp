@@ -1,0 +1,98 @@
+#include "base/texts/translated.h"
+#include "base/texts/users_language.h"
+#include "ctl/commands.h"
+#include "ctl/failure.h"
+
+#include <algorithm>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace nocturo {
+
+namespace {
+
+constexpr std::size_t kUsageColumn = 42;
+
+std::string call(const Command& command) {
+    return std::string(command.verb) + (command.usage.empty() ? "" : " ") +
+           std::string(command.usage);
+}
+
+void printHelp() {
+    std::cout << translated("Usage: %@", {"nocturoctl VERB [ARGUMENT...]"}) << "\n\n"
+              << translated("Drives the Nocturo that runs in this session.") << "\n\n";
+    for (const Command& command : commands()) {
+        std::string line = "  " + call(command);
+        line.resize(std::max(line.size() + 2, kUsageColumn), ' ');
+        std::cout << line << command.summary.translated() << '\n';
+    }
+    std::cout << '\n'
+              << translated("nocturoctl VERB --help tells more.") << "\n\n"
+              << translated("Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not "
+                            "running.")
+              << '\n';
+}
+
+std::string usage(const Command& command) {
+    return translated("Usage: %@", {"nocturoctl " + call(command)});
+}
+
+void printHelp(const Command& command) {
+    std::cout << usage(command) << "\n\n" << command.summary.translated() << '\n';
+    if (!command.details.isEmpty()) {
+        std::cout << '\n' << command.details.translated() << '\n';
+    }
+}
+
+int tell(const Failure& failure) {
+    std::cerr << "nocturoctl: " << failure.sentence << '\n';
+    return failure.exitStatus;
+}
+
+int run(const std::vector<std::string>& arguments) {
+    if (arguments.empty()) {
+        return tell({kUsage, translated("Say what to do; nocturoctl --help lists the verbs.")});
+    }
+    if (arguments[0] == "--help" || arguments[0] == "-h") {
+        printHelp();
+        return kSuccess;
+    }
+    if (arguments[0] == "--version") {
+        std::cout << "nocturoctl " NOCTURO_VERSION "\n";
+        return kSuccess;
+    }
+    const auto all = commands();
+    const auto command = std::find_if(
+        all.begin(), all.end(), [&](const Command& each) { return each.verb == arguments[0]; });
+    if (command == all.end()) {
+        return tell({kUsage, translated("There is no verb \"%@\"; nocturoctl --help lists them.",
+                                        {arguments[0]})});
+    }
+    const Arguments rest = Arguments(arguments).subspan(1);
+    if (std::find(rest.begin(), rest.end(), "--help") != rest.end()) {
+        printHelp(*command);
+        return kSuccess;
+    }
+    try {
+        command->run(rest);
+    } catch (const Failure& failure) {
+        return failure.sentence.empty() ? tell({kUsage, usage(*command)}) : tell(failure);
+    }
+    return kSuccess;
+}
+
+} // namespace
+
+} // namespace nocturo
+
+int main(int argc, char* argv[]) {
+    try {
+        nocturo::setLanguageOfTexts(nocturo::usersLanguage());
+        return nocturo::run(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (const std::exception& unexpected) {
+        std::cerr << "nocturoctl: " << unexpected.what() << '\n';
+        return nocturo::kFailed;
+    }
+}

@@ -1,0 +1,201 @@
+#include "ctl/report.h"
+
+#include "base/texts/translated.h"
+#include "ctl/setting_text.h"
+#include "ctl/text_columns.h"
+#include "effects/effect_registry.h"
+#include "settings/settings_table.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace nocturo {
+
+namespace {
+
+constexpr std::array<const char*, 11> kStatusOrder = {
+    "active",         "displayServices",      "displays",          "effects", "dimLevel",
+    "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "hotKey",  "disturbances",
+    "disturber"};
+constexpr std::array<const char*, 7> kDisplayOrder = {"number",   "id",       "name",   "main",
+                                                      "rampSize", "affected", "applied"};
+
+// The named members in that order, then whatever else there is.
+Json ordered(const Json& object, std::span<const char* const> order) {
+    Json result = Json::object();
+    for (const char* name : order) {
+        if (object.contains(name)) {
+            result[name] = object[name];
+        }
+    }
+    result.update(object);
+    return result;
+}
+
+using Row = std::vector<std::string>;
+
+// Left-aligned columns, two spaces apart.
+std::string table(const std::vector<Row>& rows) {
+    std::vector<std::size_t> widths;
+    for (const Row& row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            widths[i] = std::max(widths[i], columnsOf(row[i]));
+        }
+    }
+    std::string text;
+    for (const Row& row : rows) {
+        std::string line;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            line += "  " + row[i] + std::string(widths[i] - columnsOf(row[i]), ' ');
+        }
+        text += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
+    }
+    return text;
+}
+
+std::string yesOrNo(const Json& value) {
+    return value.get<bool>() ? translated("yes") : translated("no");
+}
+
+std::string plain(const Json& value) {
+    if (value.is_string()) {
+        return value.get<std::string>();
+    }
+    if (!value.is_array()) {
+        return value.dump();
+    }
+    std::string list;
+    for (const Json& element : value) {
+        list += (list.empty() ? "" : ", ") + plain(element);
+    }
+    return list.empty() ? translated("(none)") : list;
+}
+
+std::string selectedEffects(const Json& properties) {
+    std::string list;
+    for (const Json& name : properties["effects"]) {
+        list += (list.empty() ? "" : ", ") +
+                std::string(shortEffectName(name.get_ref<const std::string&>()));
+    }
+    return list.empty() ? translated("(none)") : list;
+}
+
+std::string hotKeyText(const Json& hotKey) {
+    if (hotKey.empty()) {
+        return translated("(none)");
+    }
+    const auto text = hotKey["text"].get<std::string>();
+    if (!hotKey["enabled"].get<bool>()) {
+        return translated("%@ (not enabled)", {text});
+    }
+    return hotKey["registered"].get<bool>() ? text : translated("%@ (not in force)", {text});
+}
+
+// Nothing as long as nobody disturbs.
+std::string disturbanceReport(const Json& properties) {
+    const auto count = properties["disturbances"].get<unsigned>();
+    if (count == 0) {
+        return {};
+    }
+    std::string name = plain(properties["disturber"]);
+    if (name.empty()) {
+        name = translated("Another program");
+    }
+    return (count == 1
+                ? translated("%@ changes the colors too: found once since Nocturo was started.",
+                             {name})
+                : translated("%@ changes the colors too: found %d times since Nocturo was started.",
+                             {name, std::to_string(count)})) +
+           '\n';
+}
+
+} // namespace
+
+std::string statusReport(const Json& properties) {
+    std::string text = "Nocturo\n";
+    text +=
+        table({{translated("effect"),
+                properties["active"].get<bool>() ? translated("on") : translated("off")},
+               {translated("selected"), selectedEffects(properties)},
+               {translated("dim level"), plain(properties["dimLevel"])},
+               {translated("color filter hue"), plain(properties["colorFilterHue"])},
+               {translated("color filter vividness"), plain(properties["colorFilterVividness"])},
+               {translated("hot key"), hotKeyText(properties["hotKey"])},
+               {translated("display services"), plain(properties["displayServices"])}});
+    text += '\n' + translated("Displays") + '\n' + screensReport(properties) +
+            disturbanceReport(properties) + '\n' + translated("Settings") + '\n';
+    std::vector<Row> rows;
+    for (const Setting& setting : settingsTable()) {
+        const std::string key(setting.key);
+        if (properties["settings"].contains(key)) {
+            rows.push_back({key, plain(properties["settings"][key]), setting.meaning.translated()});
+        }
+    }
+    return text + table(rows);
+}
+
+std::string effectsReport(const Json& properties) {
+    std::vector<std::string> names;
+    for (const SelectableEffect& effect : selectableEffects()) {
+        names.emplace_back(effect.className);
+    }
+    const auto selected = properties["effects"].get<std::vector<std::string>>();
+    std::vector<Row> rows;
+    for (const std::string& name : names) {
+        const bool isSelected = std::find(selected.begin(), selected.end(), name) != selected.end();
+        rows.push_back({isSelected ? "[x]" : "[ ]", std::string(shortEffectName(name)), name});
+    }
+    return table(rows);
+}
+
+std::string screensReport(const Json& properties) {
+    std::vector<Row> rows = {{"", translated("no."), translated("name"), translated("identifier"),
+                              translated("ramp"), translated("applied"), ""}};
+    for (const Json& display : properties["displays"]) {
+        const bool hasRamp = display["rampSize"].get<unsigned>() != 0;
+        rows.push_back({display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
+                        plain(display["name"]), plain(display["id"]),
+                        hasRamp ? plain(display["rampSize"]) : translated("none"),
+                        yesOrNo(display["applied"]),
+                        display["main"].get<bool>() ? translated("main") : ""});
+    }
+    return rows.size() > 1 ? table(rows) : "  " + translated("(none)") + '\n';
+}
+
+Json statusObject(const Json& properties) {
+    Json status = {{"running", true}};
+    status.update(changeObject(properties));
+    Json settings = Json::object();
+    for (const Setting& setting : settingsTable()) {
+        const std::string key(setting.key);
+        if (status["settings"].contains(key)) {
+            settings[key] = status["settings"][key];
+        }
+    }
+    status["settings"] = settings;
+    return status;
+}
+
+Json changeObject(const Json& properties) {
+    Json change = ordered(properties, kStatusOrder);
+    if (change.contains("displays")) {
+        for (Json& display : change["displays"]) {
+            display = ordered(display, kDisplayOrder);
+        }
+    }
+    if (change.contains("hotKey") && change["hotKey"].empty()) {
+        change["hotKey"] = nullptr;
+    }
+    return change;
+}
+
+Json notRunningObject() {
+    return {{"running", false}};
+}
+
+} // namespace nocturo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "base/property_value.h"
+#include "settings/settings_table.h"
+
+#include <string>
+#include <string_view>
+
+namespace nocturo {
+
+/// Reads what a user typed as a value of the setting: true/yes/on and false/no/off, whole numbers,
+/// finite numbers with a point, and lists with commas, where effects go by their class names or
+/// their short ones. Throws Failure (a usage error) with what the setting takes.
+PropertyValue settingFromText(const Setting& setting, std::string_view text);
+
+/// The class name of an effect given by its class name or its short one. Throws Failure.
+std::string effectFromText(std::string_view text);
+
+/// The short name of an effect class; the class's own where it has none.
+std::string_view shortEffectName(std::string_view className);
+
+} // namespace nocturo

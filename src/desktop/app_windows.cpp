@@ -1,0 +1,175 @@
+#include "desktop/app_windows.h"
+
+#include "app/app_controller.h"
+#include "base/notification_names.h"
+#include "desktop/about/about_box_controller.h"
+#include "desktop/about/about_box_views.h"
+#include "desktop/preferences/preference_panel.h"
+#include "desktop/preview/effect_preview.h"
+
+#include <QBuffer>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QImage>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace nocturo {
+
+namespace {
+
+constexpr QSize kPictureSize(640, 400);
+
+} // namespace
+
+AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
+                       const NotificationCenters& centers)
+    : controller_(controller), defaults_(defaults), localCenter_(centers.local),
+      distributedCenter_(centers.distributed) {
+    controller_.setUserInterface(this);
+}
+
+AppWindows::~AppWindows() {
+    localCenter_.removeObserver(this);
+    distributedCenter_.removeObserver(this);
+    controller_.setUserInterface(nullptr);
+}
+
+NDPreferencesController& AppWindows::preferencesController() {
+    if (preferenceController == nullptr) {
+        preferenceController = std::make_unique<NDPreferencesController>(PreferenceSurroundings{
+            defaults_, localCenter_,
+            [this](CGDirectDisplayID display) { return capturedCurve(display); },
+            [this](bool recording) { controller_.setRecordingHotKey(recording); }});
+        preferenceController->setKeyboardLayout(layout_);
+        QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,
+                         preferenceController.get(), [this](const QString& path) {
+                             if (documentWasUsed) {
+                                 documentWasUsed(path);
+                             }
+                         });
+        const auto follow = [this] { preferenceController->displaysDidChange(); };
+        localCenter_.addObserver(this, kEffectActivationNotification, follow);
+        localCenter_.addObserver(this, NSApplicationDidChangeScreenParametersNotification, follow);
+        distributedCenter_.addObserver(this, NSScreenColorSpaceDidChangeNotification, follow);
+    }
+    return *preferenceController;
+}
+
+const ZQGammaCurve* AppWindows::capturedCurve(CGDirectDisplayID display) const {
+    const auto& controllers = controller_.screenControllers();
+    if (!controllers) {
+        return nullptr;
+    }
+    const auto found = std::find_if(controllers->begin(), controllers->end(),
+                                    [&](const auto& each) { return each->screenID() == display; });
+    return found != controllers->end() ? &(*found)->gammaCurve() : nullptr;
+}
+
+void AppWindows::setKeyboardLayout(KeyboardLayout* layout) {
+    layout_ = layout;
+    if (preferenceController != nullptr) {
+        preferenceController->setKeyboardLayout(layout);
+    }
+}
+
+void AppWindows::setMenuBar(QMenuBar* menuBar) {
+    menuBar_ = menuBar;
+    furnishPreferences();
+}
+
+void AppWindows::setNotice(const QString& notice) {
+    notice_ = notice;
+    furnishPreferences();
+}
+
+// The window is made when it is first needed, so what belongs to it may have to wait.
+void AppWindows::furnishPreferences() {
+    if (preferenceController == nullptr || !preferenceController->isWindowLoaded()) {
+        return;
+    }
+    QLayout* layout = preferenceController->window()->layout();
+    if (menuBar_ != nullptr && layout->menuBar() != menuBar_) {
+        layout->setMenuBar(menuBar_);
+    }
+    if (noticeLabel_ == nullptr) {
+        auto* grid = qobject_cast<QGridLayout*>(layout);
+        if (grid == nullptr) {
+            return;
+        }
+        noticeLabel_ = new QLabel(preferenceController->window());
+        noticeLabel_->setWordWrap(true);
+        grid->addWidget(noticeLabel_, grid->rowCount(), 0, 1, -1);
+    }
+    noticeLabel_->setText(notice_);
+    noticeLabel_->setVisible(!notice_.isEmpty());
+}
+
+void AppWindows::askForDocument() {
+    showPreferences();
+    preferencesController().restoreEffect();
+}
+
+void AppWindows::askWhereToSave() {
+    showPreferences();
+    preferencesController().saveEffect();
+}
+
+void AppWindows::closePreferences() {
+    if (preferencesVisible()) {
+        preferenceController->window()->close();
+    }
+}
+
+void AppWindows::showPreferences() {
+    loadPreferences();
+    preferencesController().showWindow();
+}
+
+bool AppWindows::preferencesVisible() const {
+    return preferenceController != nullptr && preferenceController->isWindowLoaded() &&
+           preferenceController->window()->isVisible();
+}
+
+void AppWindows::showAboutBox() {
+    if (aboutBoxController_ == nullptr) {
+        aboutBoxController_ = std::make_unique<ZQAboutBoxController>();
+    }
+    aboutBoxController_->showWindow();
+}
+
+void AppWindows::setAboutBoxBackgroundColor(const OpaqueColor& color) {
+    const auto part = [](double value) { return static_cast<float>(value); };
+    ZQSetAboutBoxBackgroundColor(
+        QColor::fromRgbF(part(color.red), part(color.green), part(color.blue)));
+}
+
+void AppWindows::loadPreferences() {
+    preferencesController().loadWindow();
+    furnishPreferences();
+}
+
+bool AppWindows::openEffectFile(const std::string& path) {
+    return preferencesController().openEffectFile(QString::fromStdString(path));
+}
+
+bool AppWindows::saveEffectFile(const std::string& path) {
+    loadPreferences();
+    return preferencesController().writeEffectFile(QString::fromStdString(path));
+}
+
+std::vector<std::uint8_t> AppWindows::previewPicture(CGDirectDisplayID display) {
+    const PreviewCurves curves = previewCurves(
+        curveWithoutEffect(display, [this](CGDirectDisplayID id) { return capturedCurve(id); }));
+    const QImage image = renderEffectPreview(curves, kPictureSize, 1.0, QGuiApplication::palette());
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return {png.begin(), png.end()};
+}
+
+} // namespace nocturo

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "app/user_interface.h"
+#include "desktop/preferences/preferences_controller.h"
+
+#include <QLabel>
+#include <QMenuBar>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace nocturo {
+
+class DefaultsStore;
+class KeyboardLayout;
+class NDAppController;
+class ZQAboutBoxController;
+struct NotificationCenters;
+
+/// The windows of Qt. Each is made when first asked for and kept. Needs a QApplication.
+class AppWindows : public UserInterface {
+  public:
+    /// All must outlive the windows.
+    AppWindows(NDAppController& controller, DefaultsStore& defaults,
+               const NotificationCenters& centers);
+    ~AppWindows() override;
+
+    /// Must outlive the windows or be taken away with null.
+    void setKeyboardLayout(KeyboardLayout* layout);
+
+    /// The menu bar of the preference window, which takes it over when it is loaded.
+    void setMenuBar(QMenuBar* menuBar);
+
+    /// One line above everything else in the preference window; none when empty.
+    void setNotice(const QString& notice);
+
+    /// Ask for a document to open or a place to save one, and go on from there.
+    void askForDocument();
+    void askWhereToSave();
+    void closePreferences();
+
+    /// Called with the path of every document that was opened, or saved at the user's wish.
+    std::function<void(const QString& path)> documentWasUsed;
+
+    void showPreferences() override;
+    void showAboutBox() override;
+    void setAboutBoxBackgroundColor(const OpaqueColor& color) override;
+    bool preferencesVisible() const override;
+    void loadPreferences() override;
+    bool openEffectFile(const std::string& path) override;
+    bool saveEffectFile(const std::string& path) override;
+    std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) override;
+
+  private:
+    NDPreferencesController& preferencesController();
+    void furnishPreferences();
+    const ZQGammaCurve* capturedCurve(CGDirectDisplayID display) const;
+
+    NDAppController& controller_;
+    DefaultsStore& defaults_;
+    NotificationCenter& localCenter_;
+    NotificationCenter& distributedCenter_;
+    KeyboardLayout* layout_ = nullptr;
+    QPointer<QMenuBar> menuBar_;
+    QString notice_;
+    QPointer<QLabel> noticeLabel_;
+    std::unique_ptr<NDPreferencesController> preferenceController;
+    std::unique_ptr<ZQAboutBoxController> aboutBoxController_;
+};
+
+} // namespace nocturo

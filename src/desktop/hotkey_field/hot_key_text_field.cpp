@@ -1,0 +1,268 @@
+#include "desktop/hotkey_field/hot_key_text_field.h"
+
+#include "base/log.h"
+#include "desktop/hotkey_field/hot_key_text_field_editor.h"
+#include "desktop/qt/localized.h"
+#include "hotkeys/key_naming.h"
+#include "hotkeys/keyboard/modifier_flags.h"
+#include "hotkeys/keyboard/virtual_key_codes.h"
+
+#include <QAccessible>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QStyleOptionFrame>
+
+namespace nocturo {
+
+namespace {
+
+/// How much of the highlight colour lies over the field while it records: enough to be seen beside
+/// another field, and text stays readable on light and dark palettes.
+constexpr float kTint = 0.18F;
+
+QColor mixed(const QColor& base, const QColor& other, float share) {
+    return QColor::fromRgbF(base.redF() + (other.redF() - base.redF()) * share,
+                            base.greenF() + (other.greenF() - base.greenF()) * share,
+                            base.blueF() + (other.blueF() - base.blueF()) * share);
+}
+
+bool startsByItself(Qt::FocusReason reason) {
+    switch (reason) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::MouseFocusReason:
+    case Qt::ShortcutFocusReason:
+    case Qt::OtherFocusReason:
+        return true;
+    default:
+        return false; // the user comes back to the window and may not even know where the focus is
+    }
+}
+
+} // namespace
+
+HXHotKeyTextField::HXHotKeyTextField(QWidget* parent) : QLineEdit(parent) {
+    // Text arrives through setHotKey alone: no caret, pasting, dropping or input method.
+    setReadOnly(true);
+    setDragEnabled(false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAlignment(Qt::AlignCenter);
+    setCursor(Qt::ArrowCursor);
+    setPlaceholderText(localized("Type a shortcut"));
+    setAccessibleName(localized("Hot key"));
+    describe();
+}
+
+HXHotKeyTextField::~HXHotKeyTextField() {
+    disconnect(this, &HXHotKeyTextField::hotKeyEdited, nullptr, nullptr);
+    auto& editor = HXHotKeyTextFieldEditor::sharedEditor();
+    if (editor.hotKeyField() == this) {
+        editor.resignFirstResponder();
+    }
+    if (editor.isReleasing(*this)) {
+        editor.finishRelease();
+    }
+}
+
+void HXHotKeyTextField::setKeyboardLayout(KeyboardLayout* layout) {
+    layout_ = layout;
+    if (hotKey_) {
+        showNameOf(hotKey_.get());
+    }
+}
+
+void HXHotKeyTextField::setHotKey(std::shared_ptr<HXHotKey> hotKey) {
+    if (hotKey == hotKey_) {
+        return;
+    }
+    hotKey_ = std::move(hotKey);
+    showNameOf(hotKey_.get());
+}
+
+void HXHotKeyTextField::showNameOf(const HXHotKey* hotKey) {
+    const auto name = hotKey != nullptr
+                          ? HXStringFromKeyCode(hotKey->keyCode(), hotKey->modifierFlags(), layout_)
+                          : HXStringFromKeyCode(0, 0, layout_);
+    setText(QString::fromStdString(name).toUpper());
+    describe();
+    QAccessibleValueChangeEvent change(this, text());
+    QAccessible::updateAccessibility(&change);
+}
+
+void HXHotKeyTextField::setStringValue(const QString& stringValue) {
+    logWarning(kLogHotKeys, "-[HXHotKeyTextField setStringValue:] is not what you want. "
+                            "Use -[HXHotKeyTextField setHotKey:] instead.");
+    setText(stringValue);
+}
+
+QString HXHotKeyTextField::stringValue() const {
+    logWarning(kLogHotKeys, "-[HXHotKeyTextField stringValue] is not what you want. "
+                            "Use -[HXHotKeyTextField hotKey] instead.");
+    return text();
+}
+
+void HXHotKeyTextField::startRecording() {
+    if (recording_ || !isEnabled()) {
+        return;
+    }
+    startsWithFocus_ = true;
+    if (hasFocus()) {
+        beginEditing(false);
+    } else {
+        setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void HXHotKeyTextField::beginEditing(bool reachedByTab) {
+    startsWithFocus_ = false;
+    auto* editor = HXHotKeyTextFieldCell::fieldEditorForView(this);
+    editor->setLetsTabPass(reachedByTab);
+    editor->becomeFirstResponder();
+}
+
+void HXHotKeyTextField::didBeginEditing() {
+    recording_ = true;
+    describe();
+    update();
+    if (!std::exchange(takesKeys_, true)) {
+        Q_EMIT recordingStarted();
+    }
+}
+
+void HXHotKeyTextField::didEndEditing(bool keyIsDown) {
+    recording_ = false;
+    describe();
+    update();
+    const QPointer<HXHotKeyTextField> self(this); // whoever listens may do anything
+    Q_EMIT hotKeyEdited();
+    if (self && !keyIsDown && !recording_) {
+        didReleaseKeys();
+    }
+}
+
+void HXHotKeyTextField::didReleaseKeys() {
+    if (std::exchange(takesKeys_, false)) {
+        Q_EMIT recordingEnded();
+    }
+}
+
+void HXHotKeyTextField::describe() {
+    // Also how a screen reader hears of the change.
+    const auto advice = recording_
+                            ? localized("Press the new shortcut, or Escape to leave it as it was.")
+                            : localized("Click or press Space to record another shortcut.");
+    setToolTip(advice);
+    const auto name = recording_ ? QString() : spokenName();
+    setAccessibleDescription(name.isEmpty() ? advice : name + QStringLiteral(". ") + advice);
+}
+
+/// The glyphs of modifiers and keys are not what a screen reader would call them.
+QString HXHotKeyTextField::spokenName() const {
+    if (!hotKey_) {
+        return {};
+    }
+    const auto flags = hotKey_->modifierFlags();
+    QStringList parts;
+    for (const auto& [mask, name] : {std::pair(NSControlKeyMask, localized("Control")),
+                                     std::pair(NSAlternateKeyMask, localized("Alt")),
+                                     std::pair(NSShiftKeyMask, localized("Shift")),
+                                     std::pair(NSCommandKeyMask, localized("Super"))}) {
+        if ((flags & mask) != 0) {
+            parts << name;
+        }
+    }
+    const auto named = nameOfVirtualKey(hotKey_->keyCode());
+    const auto key =
+        named.empty() ? HXStringFromKeyCode(hotKey_->keyCode(), 0, layout_) : std::string(named);
+    if (!key.empty()) {
+        parts << QString::fromStdString(key).toUpper();
+    }
+    return parts.join(QLatin1Char('+'));
+}
+
+QSize HXHotKeyTextField::minimumSizeHint() const {
+    // Translations of the placeholder may be long, and nobody scrolls a hot key's name.
+    QSize size = QLineEdit::minimumSizeHint();
+    const QFontMetrics metrics = fontMetrics();
+    const int text = metrics.horizontalAdvance(placeholderText());
+    size.setWidth(std::max(size.width(), text + 4 * metrics.averageCharWidth()));
+    return size;
+}
+
+QSize HXHotKeyTextField::sizeHint() const {
+    const QSize air(4 * fontMetrics().averageCharWidth(), 0);
+    return QLineEdit::sizeHint().expandedTo(minimumSizeHint() + air);
+}
+
+void HXHotKeyTextField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    deselect();
+    const auto reason = event->reason();
+    if (startsWithFocus_ || startsByItself(reason)) {
+        beginEditing(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason);
+    }
+}
+
+void HXHotKeyTextField::focusOutEvent(QFocusEvent* event) {
+    startsWithFocus_ = false;
+    if (recording_) {
+        HXHotKeyTextFieldEditor::sharedEditor().resignFirstResponder();
+    }
+    QLineEdit::focusOutEvent(event);
+}
+
+void HXHotKeyTextField::keyPressEvent(QKeyEvent* event) {
+    const bool starts = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                        event->key() == Qt::Key_Space;
+    const auto modifiers = event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (starts && modifiers == Qt::NoModifier) {
+        startRecording();
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+// The mouse starts recording and selects nothing.
+
+void HXHotKeyTextField::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() == Qt::LeftButton) {
+        startRecording();
+    }
+}
+
+void HXHotKeyTextField::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void HXHotKeyTextField::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void HXHotKeyTextField::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event); // the first click may have been for the recording before
+}
+
+void HXHotKeyTextField::paintEvent(QPaintEvent* event) {
+    if (!recording_) {
+        QLineEdit::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    QPalette& colours = option.palette;
+    colours.setColor(QPalette::Base, mixed(colours.color(QPalette::Base),
+                                           colours.color(QPalette::Highlight), kTint));
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    painter.setPen(colours.color(QPalette::Text));
+    painter.drawText(inside, Qt::AlignCenter,
+                     fontMetrics().elidedText(placeholderText(), Qt::ElideRight, inside.width()));
+}
+
+} // namespace nocturo

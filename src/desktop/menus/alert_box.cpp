@@ -1,0 +1,96 @@
+#include "desktop/menus/alert_box.h"
+
+#include "base/log.h"
+#include "desktop/preferences/sheet.h"
+#include "desktop/qt/localized.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QIcon>
+#include <QPushButton>
+#include <QStyle>
+
+namespace nocturo {
+
+namespace {
+
+QString text(const Alert& alert, const char* english, const std::vector<std::string>& arguments) {
+    QStringList list;
+    for (const std::string& argument : arguments) {
+        list.append(QString::fromStdString(argument));
+    }
+    return filled(localized(english, alert.table), list);
+}
+
+// Ending the application closes its windows, which is no answer.
+class EndWatch : public QObject {
+  public:
+    EndWatch() { qApp->installEventFilter(this); }
+    bool ended() const { return ended_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        ended_ = ended_ || (watched == qApp && event->type() == QEvent::Quit);
+        return false;
+    }
+
+  private:
+    bool ended_ = false;
+};
+
+bool canBeSeen() {
+    return QGuiApplication::platformName() != QLatin1String("offscreen");
+}
+
+void setIcon(QMessageBox& box, const Alert& alert) {
+    box.setIcon(alert.critical ? QMessageBox::Critical : QMessageBox::Information);
+    const QString name = QString::fromStdString(alert.icon);
+    const QIcon icon = name.startsWith(u'/') ? QIcon(name) : QIcon::fromTheme(name);
+    const int side = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    const QPixmap pixmap = icon.pixmap(side);
+    if (!pixmap.isNull()) {
+        box.setIconPixmap(pixmap);
+    }
+}
+
+} // namespace
+
+AlertAnswer runAlertBox(const Alert& alert) {
+    const QString title = text(alert, alert.title, alert.titleArguments);
+    if (!canBeSeen()) {
+        logWarning(kLogApp, title.toStdString());
+        return alert.harmless;
+    }
+    const EndWatch end;
+    QMessageBox box;
+    setIcon(box, alert);
+    box.setWindowTitle(QGuiApplication::applicationDisplayName());
+    box.setText(title);
+    box.setInformativeText(text(alert, alert.message, alert.messageArguments));
+    auto* first =
+        box.addButton(localized(alert.defaultButton, alert.table), QMessageBox::AcceptRole);
+    auto* second =
+        box.addButton(localized(alert.alternateButton, alert.table), QMessageBox::RejectRole);
+    box.setDefaultButton(first);
+    auto* harmless = alert.harmless == AlertAnswer::defaultButton ? first : second;
+    box.setEscapeButton(harmless);
+    widenMessage(box);
+    box.exec();
+    return !end.ended() && box.clickedButton() == first ? AlertAnswer::defaultButton
+                                                        : AlertAnswer::alternateButton;
+}
+
+std::unique_ptr<QMessageBox> shownMessage(const QString& title, const QString& message) {
+    if (!canBeSeen()) {
+        return nullptr;
+    }
+    auto box = std::make_unique<QMessageBox>(QMessageBox::Warning,
+                                             QGuiApplication::applicationDisplayName(), title);
+    box->setInformativeText(message);
+    box->setDefaultButton(box->addButton(localized("OK"), QMessageBox::AcceptRole));
+    widenMessage(*box);
+    box->show();
+    return box;
+}
+
+} // namespace nocturo

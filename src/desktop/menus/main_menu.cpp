@@ -1,0 +1,89 @@
+#include "desktop/menus/main_menu.h"
+
+#include "desktop/qt/localized.h"
+#include "documents/recent_documents.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace nocturo {
+
+namespace {
+
+QAction* add(QMenu& menu, const QString& title, const std::function<void()>& handler,
+             const QKeySequence& keys = {}) {
+    QAction* item = menu.addAction(title);
+    item->setShortcut(keys);
+    QObject::connect(item, &QAction::triggered, item, handler);
+    return item;
+}
+
+// For what a button of the window has the keys of already: two owners would leave them with none.
+void showKeys(QAction& item, const QKeySequence& keys) {
+    item.setText(item.text() + u'\t' + keys.toString(QKeySequence::NativeText));
+}
+
+void fillRecent(QMenu& menu, const RecentDocuments& documents,
+                const std::function<void(const QString&)>& open) {
+    menu.clear();
+    for (const std::string& path : documents.paths()) {
+        const QString file = QString::fromStdString(path);
+        QAction* item =
+            menu.addAction(QFileInfo(file).fileName().replace(u'&', QStringLiteral("&&")));
+        item->setToolTip(file);
+        QObject::connect(item, &QAction::triggered, item, [open, file] { open(file); });
+    }
+    const bool any = !menu.isEmpty();
+    menu.addSeparator();
+    add(menu, localized("&Clear Menu"), [&documents] { documents.clear(); })->setEnabled(any);
+}
+
+} // namespace
+
+MainMenu::MainMenu(const RecentDocuments& documents, const Handlers& handlers)
+    : bar_(new QMenuBar) {
+    addFileMenu(documents, handlers);
+    addEffectMenu(handlers);
+    addHelpMenu(handlers);
+}
+
+MainMenu::~MainMenu() {
+    delete bar_;
+}
+
+void MainMenu::addFileMenu(const RecentDocuments& documents, const Handlers& handlers) {
+    QMenu& file = *bar_->addMenu(localized("&File"));
+    showKeys(*add(file, localized("&Open..."), handlers.openDocument), QKeySequence::Open);
+    QMenu* recent = file.addMenu(localized("Open &Recent"));
+    recent->setToolTipsVisible(true);
+    const auto fill = [recent, &documents, open = handlers.openRecentDocument] {
+        fillRecent(*recent, documents, open);
+    };
+    QObject::connect(recent, &QMenu::aboutToShow, recent, fill);
+    showKeys(*add(file, localized("&Save..."), handlers.saveDocument), QKeySequence::Save);
+    file.addSeparator();
+    add(file, localized("&Preferences..."), handlers.openPreferences,
+        QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    file.addSeparator();
+    showKeys(*add(file, localized("&Close"), handlers.closeWindow), QKeySequence::Close);
+    add(
+        file, localized("&Quit Nocturo"), [] { QCoreApplication::quit(); },
+        QKeySequence(Qt::CTRL | Qt::Key_Q))
+        ->setMenuRole(QAction::QuitRole);
+}
+
+void MainMenu::addEffectMenu(const Handlers& handlers) {
+    effectMenu_ = bar_->addMenu(localized("&Effect"));
+    activateItem_ = add(*effectMenu_, localized("&Activate Effect"), handlers.activate);
+}
+
+void MainMenu::addHelpMenu(const Handlers& handlers) {
+    QMenu& help = *bar_->addMenu(localized("&Help"));
+    add(help, localized("&About Nocturo"), handlers.openAboutBox)->setMenuRole(QAction::AboutRole);
+}
+
+} // namespace nocturo

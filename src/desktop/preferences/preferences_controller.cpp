@@ -1,0 +1,257 @@
+#include "desktop/preferences/preferences_controller.h"
+
+#include "base/notification_center.h"
+#include "desktop/menus/screen_option_menu_manager.h"
+#include "desktop/preferences/keep_colors_question.h"
+#include "desktop/preferences/preference_panel.h"
+#include "desktop/preferences/sheet.h"
+#include "desktop/qt/localized.h"
+#include "displays/affected_screen_set.h"
+#include "displays/display_functions.h"
+#include "effects/color_filter_effect.h"
+#include "effects/dim_effect.h"
+#include "effects/group_effect.h"
+#include "effects/hdtv_luminance_effect.h"
+#include "effects/hide_stripes_effect.h"
+#include "effects/invert_effect.h"
+#include "hotkeys/saved_hot_key.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
+#include "ui_NocturoPreferencePanel.h"
+
+#include <QButtonGroup>
+#include <QMenu>
+#include <QScreen>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+constexpr int kStatusItemRow = 1;
+
+} // namespace
+
+NDPreferencesController::NDPreferencesController(PreferenceSurroundings surroundings)
+    : surroundings_(std::move(surroundings)) {}
+
+NDPreferencesController::~NDPreferencesController() {
+    surroundings_.localCenter.removeObserver(this);
+}
+
+std::vector<double> NDPreferencesController::affectedScreenSet() {
+    return nocturo::affectedScreenSet(*DefaultsStore::standardUserDefaults());
+}
+
+void NDPreferencesController::setKeyboardLayout(KeyboardLayout* layout) {
+    layout_ = layout;
+    if (isWindowLoaded()) {
+        ui_->hotKeyField->setKeyboardLayout(layout);
+    }
+}
+
+PreferencePanel* NDPreferencesController::window() const {
+    return panel_.get();
+}
+
+void NDPreferencesController::loadWindow() {
+    if (isWindowLoaded()) {
+        return;
+    }
+    panel_ = std::make_unique<PreferencePanel>();
+    ui_ = std::make_unique<Ui::NocturoPreferencePanel>();
+    ui_->setupUi(panel_.get());
+    ui_->colorFilterHue->setRange(0, 360);
+    ui_->colorFilterHue->setStep(1, 15);
+    ui_->colorFilterHue->setDecimals(0);
+    ui_->colorFilterHue->setSuffix(QStringLiteral("°"));
+    ui_->colorFilterHue->setTrack(ParameterSlider::Track::Hue);
+    ui_->colorFilterVividness->setRange(0, 1);
+    ui_->colorFilterVividness->setDefaultValue(1);
+    ui_->dimLevel->setRange(-1, 1);
+    ui_->dimLevel->setDefaultValue(-0.5);
+    ui_->dimLevel->setMarkedMiddle(true);
+    for (ParameterSlider* share : {ui_->colorFilterVividness, ui_->dimLevel}) {
+        share->setDisplayScale(100);
+        share->setDecimals(0);
+        share->setSuffix(localized(" %"));
+    }
+    for (QWidget* control : panel_->findChildren<QWidget*>()) {
+        control->setWhatsThis(control->toolTip());
+    }
+    ui_->showStatusItem->setId(ui_->showInTaskBar, 0);
+    ui_->showStatusItem->setId(ui_->showInTray, kStatusItemRow);
+    ui_->hotKeyField->setKeyboardLayout(layout_);
+    keepColors_ = std::make_unique<KeepColorsQuestion>(
+        *panel_, [this] { return everyAffectedDisplayIsUnreadable(surroundings_.capturedCurve); });
+    connectEffects();
+    connectSettings();
+    connectDocuments();
+    windowDidLoad();
+}
+
+void NDPreferencesController::windowDidLoad() {
+    noEffectComfirmed = true;
+    listPreviewedDisplays();
+    readPreviewedDisplay();
+    update();
+    surroundings_.localCenter.addObserver(this, NSUserDefaultsDidChangeNotification,
+                                          [this] { update(); });
+
+    // The menu's first item stands for the button itself: its title sums the choice up.
+    auto* menu = new QMenu(ui_->affectedScreens);
+    QAction* title = menu->addAction(QString());
+    title->setVisible(false);
+    connect(title, &QAction::changed, ui_->affectedScreens,
+            [this, title] { ui_->affectedScreens->setText(title->text()); });
+    ui_->affectedScreens->setMenu(menu);
+    _screensMenuManager = std::make_unique<NDScreenOptionMenuManager>(
+        surroundings_.defaults, surroundings_.localCenter, *menu, title, title, true, false, 0);
+
+    panel_->shouldClose = [this] { return windowShouldClose(); };
+    connect(panel_.get(), &PreferencePanel::activated, this, [this] {
+        readPreviewedDisplay();
+        updatePreview();
+    });
+    connect(panel_.get(), &PreferencePanel::screenChanged, this,
+            &NDPreferencesController::displaysDidChange);
+    connect(ui_->closeButton, &QPushButton::clicked, panel_.get(), &QWidget::close);
+}
+
+void NDPreferencesController::showWindow() {
+    loadWindow();
+    const bool wasVisible = panel_->isVisible();
+    panel_->setWindowState(panel_->windowState() & ~Qt::WindowMinimized);
+    panel_->show();
+    panel_->raise();
+    panel_->activateWindow();
+    if (!wasVisible) {
+        resignFirstResponder();
+    }
+}
+
+void NDPreferencesController::resignFirstResponder() {
+    if (QWidget* focus = panel_->focusWidget()) {
+        focus->clearFocus();
+    }
+}
+
+bool NDPreferencesController::windowShouldClose() {
+    surroundings_.defaults.synchronize();
+    if (noEffectComfirmed || NDGroupEffect::effect().effectCount() != 0) {
+        resignFirstResponder();
+        return true;
+    }
+    QMessageBox* alert = newSheet(
+        *panel_, QMessageBox::Warning, localized("No effect has been chosen."),
+        localized(
+            "You should check at least one box in the preference panel relating to the screen "
+            "effect, or Nocturo will have no visible effect on your screen."));
+    auto* cancel = alert->addButton(localized("Cancel"), QMessageBox::RejectRole);
+    auto* closeAnyway = alert->addButton(localized("Close anyway"), QMessageBox::AcceptRole);
+    alert->setDefaultButton(cancel);
+    alert->setEscapeButton(cancel);
+    connect(closeAnyway, &QAbstractButton::clicked, this, [this] {
+        noEffectComfirmed = true;
+        panel_->closeDirectly();
+    });
+    showSheet(*alert);
+    return false;
+}
+
+void NDPreferencesController::update() {
+    const DefaultsStore& defaults = surroundings_.defaults;
+    const auto isSelected = [](std::string_view name) {
+        return NDGroupEffect::effect().containsEffect(name);
+    };
+    ui_->invertScreen->setChecked(isSelected(NDInvertEffect::kName));
+    ui_->hideStripes->setChecked(isSelected(NDHideStripesEffect::kName));
+    ui_->hdtvLuminance->setChecked(isSelected(NDHDTVLuminanceEffect::kName));
+    const bool filters = isSelected(NDColorFilterEffect::kName);
+    ui_->colorFilter->setChecked(filters);
+    ui_->colorFilterHue->setEnabled(filters);
+    ui_->colorFilterHue->setValue(NDColorFilterEffect::hue());
+    ui_->colorFilterVividness->setEnabled(filters);
+    ui_->colorFilterVividness->setValue(NDColorFilterEffect::vividness());
+    const bool dims = isSelected(NDDimEffect::kName);
+    ui_->dimScreen->setChecked(dims);
+    ui_->dimLevel->setEnabled(dims);
+    ui_->dimLevel->setValue(NDDimEffect::level());
+
+    ui_->continuouslyApply->setChecked(defaults.boolForKey(kContinuouslyApply));
+    ui_->activateAtLaunch->setChecked(defaults.boolForKey(kActivateAtLaunch));
+    ui_->activateOnClick->setChecked(defaults.boolForKey(kActivateOnClick));
+    ui_->deactivateForScreenSaver->setChecked(defaults.boolForKey(kDeactivateForScreenSaver));
+    ui_->useHotKey->setChecked(defaults.boolForKey(kUseHotKey));
+    ui_->hotKeyField->setHotKey(NDSavedHotKey(defaults));
+    // Every other number means an ordinary application, too.
+    const bool inTray = defaults.integerForKey(kShowStatusItem) == kStatusItemRow;
+    (inTray ? ui_->showInTray : ui_->showInTaskBar)->setChecked(true);
+    updatePreview();
+}
+
+void NDPreferencesController::displaysDidChange() {
+    if (isWindowLoaded()) {
+        listPreviewedDisplays();
+        readPreviewedDisplay();
+        updatePreview();
+    }
+}
+
+void NDPreferencesController::listPreviewedDisplays() {
+    const auto* online =
+        displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
+    const QVariant chosen = ui_->previewDisplay->currentData();
+    const QSignalBlocker quiet(ui_->previewDisplay);
+    ui_->previewDisplay->clear();
+    const std::size_t count =
+        online != nullptr ? std::min<std::size_t>(online->size(), kZQMaxDisplays) : 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const DisplayInfo& display = (*online)[i];
+        ui_->previewDisplay->addItem(filled(localized("Screen %d"), {QString::number(i + 1)}) +
+                                         QStringLiteral(" – ") +
+                                         QString::fromStdString(display.name),
+                                     display.id);
+        if (chosen.isValid() ? chosen.toUInt() == display.id : display.main) {
+            ui_->previewDisplay->setCurrentIndex(static_cast<int>(i));
+        }
+    }
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{ui_->previewDisplayLabel, ui_->previewDisplay}) {
+        part->setVisible(count > 1);
+    }
+}
+
+CGDirectDisplayID NDPreferencesController::displayOfWindow() const {
+    const std::string name = panel_->screen()->name().toStdString();
+    const auto* online =
+        displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
+    if (online != nullptr) {
+        for (const DisplayInfo& display : *online) {
+            if (display.name == name) {
+                return display.id;
+            }
+        }
+    }
+    return 0;
+}
+
+void NDPreferencesController::readPreviewedDisplay() {
+    const CGDirectDisplayID previewed = ui_->previewDisplay->currentData().toUInt();
+    previewed_ = curveWithoutEffect(previewed, surroundings_.capturedCurve);
+    const CGDirectDisplayID seenOn = displayOfWindow();
+    seenOn_ =
+        seenOn == previewed ? previewed_ : curveWithoutEffect(seenOn, surroundings_.capturedCurve);
+    seenWithEffect_ = surroundings_.capturedCurve(seenOn) != nullptr;
+    ui_->preview->setDisplayName(ui_->previewDisplay->currentText());
+}
+
+void NDPreferencesController::updatePreview() {
+    PreviewCurves curves = previewCurves(previewed_);
+    curves.seenThrough = seenWithEffect_ ? previewCurves(seenOn_).after : seenOn_;
+    ui_->preview->setCurves(curves);
+}
+
+} // namespace nocturo

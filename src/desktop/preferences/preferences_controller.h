@@ -1,0 +1,152 @@
+#pragma once
+
+#include "desktop/preferences/previewed_display.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+class QAbstractButton;
+class QButtonGroup;
+class QFileDialog;
+
+namespace Ui {
+class NocturoPreferencePanel;
+}
+
+namespace nocturo {
+
+class DefaultsStore;
+class HXHotKeyTextField;
+class KeepColorsQuestion;
+class KeyboardLayout;
+class NDScreenOptionMenuManager;
+class NotificationCenter;
+class ParameterSlider;
+class PreferencePanel;
+
+/// What the preference window needs of its surroundings; the references must outlive it.
+struct PreferenceSurroundings {
+    DefaultsStore& defaults; // the effects' store as well
+    NotificationCenter& localCenter;
+    CapturedCurve capturedCurve;
+    /// Told whether a hot key is being recorded, so that none is registered meanwhile.
+    std::function<void(bool)> recordingDidChange;
+};
+
+/// The preference window. It holds no settings of its own: every control writes straight into the
+/// settings, and after every change of them, whoever made it, all controls are set anew, which
+/// fires no action. The window is made when first needed. Main thread only.
+///
+/// Each action takes the control that sends it and reads its value from that.
+class NDPreferencesController : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit NDPreferencesController(PreferenceSurroundings surroundings);
+    ~NDPreferencesController() override;
+
+    /// nocturo::affectedScreenSet of the shared store.
+    static std::vector<double> affectedScreenSet();
+
+    /// Names keys by this layout; null for none. It must outlive the window or be taken away.
+    void setKeyboardLayout(KeyboardLayout* layout);
+
+    /// Makes the window without showing it.
+    void loadWindow();
+    bool isWindowLoaded() const { return panel_ != nullptr; }
+
+    /// Null until loaded.
+    PreferencePanel* window() const;
+
+    /// Shows the window in front of others, with no field being edited.
+    void showWindow();
+
+    /// Sets every control from the settings.
+    void update();
+
+    /// The displays, their own colours or where the effect is on are others now.
+    void displaysDidChange();
+
+    // Actions of the effects. A change of the selection asks again, when the window is closed,
+    // whether no effect is meant.
+
+    void changeInvert(const QAbstractButton& sender);
+    void changeHideStripes(const QAbstractButton& sender);
+    void changeHDTVLuminance(const QAbstractButton& sender);
+    void changeColorFilter(const QAbstractButton& sender);
+    void changeDim(const QAbstractButton& sender);
+    void changeColorFilterHue(const ParameterSlider& sender);
+    void changeColorFilterVividness(const ParameterSlider& sender);
+    void changeDimLevel(const ParameterSlider& sender);
+
+    // Actions of the other settings
+
+    void changeActivateAtLaunch(const QAbstractButton& sender);
+    void changeActivateOnClick(const QAbstractButton& sender);
+    void changeContinouslyApply(const QAbstractButton& sender);
+    void changeDeactivateForScreenSaver(const QAbstractButton& sender);
+    void changeShowStatusItem(const QButtonGroup& sender);
+
+    /// Starts a recording where no key is there to be used, and ends one when none is wanted.
+    void changeUseHotKey(const QAbstractButton& sender);
+
+    /// Stores the field's hot key, or that there is none.
+    void changeHotKey(const HXHotKeyTextField& sender);
+
+    // Effect documents
+
+    /// Asks for a place and writes the document there.
+    void saveEffect();
+
+    /// Asks for a document and opens it; one that is refused changes nothing, silently.
+    void restoreEffect();
+
+    /// Sets the controls as the document at `path` says and has each perform its action; false,
+    /// with nothing changed, when that is no effect document. While the window is not loaded there
+    /// are no controls, and an effect document changes nothing.
+    bool openEffectFile(const QString& path);
+
+    /// Writes what the controls show, which must be loaded; false when that failed.
+    bool writeEffectFile(const QString& path) const;
+
+  Q_SIGNALS:
+    /// The document at `path` was opened, or saved at the user's wish.
+    void documentWasUsed(const QString& path);
+
+  private:
+    void connectEffects();
+    void connectSettings();
+    void connectDocuments();
+    void windowDidLoad();
+    bool windowShouldClose();
+    void resignFirstResponder();
+    void setContains(std::string_view effect, const QAbstractButton& sender);
+    template <typename Sender>
+    void changeColors(void (NDPreferencesController::*action)(const Sender&), const Sender& sender);
+    CGDirectDisplayID displayOfWindow() const;
+    void listPreviewedDisplays();
+    void readPreviewedDisplay();
+    void updatePreview();
+    void savePanelDidEnd(const QFileDialog& panel, int returnCode, bool hideExtension);
+    void openPanelDidEnd(const QFileDialog& panel, int returnCode);
+    void documentWasDropped(const QString& path);
+    QString documentFolder() const;
+    void rememberDocumentFolder(const QString& path);
+
+    PreferenceSurroundings surroundings_;
+    KeyboardLayout* layout_ = nullptr;
+    bool noEffectComfirmed = false;
+    std::unique_ptr<Ui::NocturoPreferencePanel> ui_;
+    std::unique_ptr<PreferencePanel> panel_;
+    std::unique_ptr<NDScreenOptionMenuManager> _screensMenuManager;
+    std::unique_ptr<KeepColorsQuestion> keepColors_;
+    ZQGammaCurve previewed_; // without the effect
+    ZQGammaCurve seenOn_;    // of the display that the window is on, without the effect
+    bool seenWithEffect_ = false;
+};
+
+} // namespace nocturo

@@ -1,0 +1,32 @@
+#include "desktop/preferences/sheet.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QSpacerItem>
+
+namespace nocturo {
+
+QMessageBox* newSheet(QWidget& window, QMessageBox::Icon icon, const QString& title,
+                      const QString& message) {
+    auto* sheet =
+        new QMessageBox(icon, QGuiApplication::applicationDisplayName(), title, {}, &window);
+    sheet->setInformativeText(message);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    return sheet;
+}
+
+void showSheet(QMessageBox& sheet) {
+    widenMessage(sheet);
+    sheet.show();
+}
+
+void widenMessage(QMessageBox& message) {
+    // Left to itself the box is as narrow as its title, and the explanation a column.
+    if (auto* grid = qobject_cast<QGridLayout*>(message.layout())) {
+        const int width = message.fontMetrics().averageCharWidth() * 60;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
+} // namespace nocturo

@@ -1,0 +1,186 @@
+#include "desktop/preview/effect_preview.h"
+
+#include "desktop/mixed_color.h"
+#include "desktop/preview/curve_plot.h"
+#include "desktop/preview/preview_description.h"
+#include "desktop/preview/preview_scene.h"
+#include "desktop/qt/localized.h"
+
+#include <QAccessibleWidget>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace nocturo {
+
+namespace {
+
+constexpr double kPictureShape = 1.5; // width to height
+constexpr double kGap = 12;
+
+QImage throughLevels(const QImage& scene, const std::array<LevelTable, 3>& levels) {
+    const auto& [red, green, blue] = levels;
+    QImage seen(scene.size(), QImage::Format_RGB32);
+    for (int y = 0; y < scene.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(scene.constScanLine(y));
+        auto* to = reinterpret_cast<QRgb*>(seen.scanLine(y));
+        for (int x = 0; x < scene.width(); ++x) {
+            const QRgb pixel = from[x];
+            to[x] = 0xff000000U | unsigned{red[pixel >> 16 & 0xffU]} << 16U |
+                    unsigned{green[pixel >> 8 & 0xffU]} << 8U | unsigned{blue[pixel & 0xffU]};
+        }
+    }
+    return seen;
+}
+
+void paintPicture(QPainter& painter, const QRectF& place, const PreviewCurves& curves,
+                  const QPalette& palette) {
+    // Whole device pixels, or the text in the picture would blur.
+    const double ratio = painter.device()->devicePixelRatioF();
+    const QSize pixels((place.size() * ratio).toSize());
+    if (pixels.isEmpty()) {
+        return;
+    }
+    QImage seen = throughLevels(previewScene(pixels), pictureLevels(curves));
+    seen.setDevicePixelRatio(ratio);
+    const QPointF corner(std::round(place.left() * ratio) / ratio,
+                         std::round(place.top() * ratio) / ratio);
+    painter.drawImage(corner, seen);
+    painter.setPen(
+        QPen(mixedColor(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.4F), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(place.adjusted(-0.5, -0.5, 0.5, 0.5));
+}
+
+/// As large as it gets in the area with its shape kept, away from the edges for its frame.
+QRectF pictureIn(const QRectF& area) {
+    const QRectF room = area.adjusted(1, 1, -1, -1);
+    const double width = std::floor(std::min(room.width(), room.height() * kPictureShape));
+    return QRectF(room.topLeft(), QSizeF(width, std::floor(width / kPictureShape)));
+}
+
+struct Layout {
+    QRectF plot;
+    QRectF picture;
+    QRectF legend;
+};
+
+Layout layoutIn(const QPainter& painter, const QRectF& area) {
+    const double line = painter.fontMetrics().height();
+    Layout layout;
+    layout.legend = QRectF(area.left(), area.bottom() - line, area.width(), line);
+    const QRectF room = area.adjusted(0, 0, 0, -line - 4);
+    if (room.width() < 1.2 * room.height()) { // one above the other
+        const double height = std::min(room.width() / kPictureShape, room.height() / 2);
+        layout.plot = room.adjusted(0, 0, 0, -height - kGap);
+        layout.picture =
+            pictureIn(QRectF(room.left(), room.bottom() - height, room.width(), height));
+        layout.picture.moveCenter(QPointF(room.center().x(), layout.picture.center().y()));
+        return layout;
+    }
+    // The plot is about as wide as high, the picture gets what is left.
+    const double width = std::min(room.height() * 1.15, room.width() * 0.5);
+    layout.plot = QRectF(room.left(), room.top(), width, room.height());
+    layout.picture = pictureIn(room.adjusted(width + kGap, 0, 0, 0));
+    if (painter.layoutDirection() == Qt::RightToLeft) {
+        layout.plot.moveRight(room.right());
+        layout.picture.moveRight(room.right() - width - kGap);
+    }
+    return layout;
+}
+
+/// Describes an EffectPreview when somebody asks, instead of at every step of a slider.
+class EffectPreviewAccessible : public QAccessibleWidget {
+  public:
+    explicit EffectPreviewAccessible(EffectPreview* preview)
+        : QAccessibleWidget(preview, QAccessible::Graphic) {}
+
+    QString text(QAccessible::Text kind) const override {
+        QString text = QAccessibleWidget::text(kind);
+        if (kind == QAccessible::Description && text.isEmpty()) {
+            return static_cast<EffectPreview*>(object())->description();
+        }
+        return text;
+    }
+
+    static void install() {
+        static const bool installed = [] {
+            QAccessible::installFactory([](const QString& /*className*/, QObject* object) {
+                auto* preview = qobject_cast<EffectPreview*>(object);
+                return preview != nullptr ? static_cast<QAccessibleInterface*>(
+                                                new EffectPreviewAccessible(preview))
+                                          : nullptr;
+            });
+            return true;
+        }();
+        Q_UNUSED(installed)
+    }
+};
+
+} // namespace
+
+void paintEffectPreview(QPainter& painter, const QRectF& area, const PreviewCurves& curves,
+                        const QPalette& palette) {
+    painter.save();
+    const Layout layout = layoutIn(painter, area);
+    paintCurvePlot(painter, layout.plot, curves, palette);
+    paintPicture(painter, layout.picture, curves, palette);
+    paintPlotLegend(painter, layout.legend, curves, palette);
+    painter.restore();
+}
+
+QImage renderEffectPreview(const PreviewCurves& curves, QSize size, double devicePixelRatio,
+                           const QPalette& palette) {
+    const QSize pixels = (QSizeF(size) * devicePixelRatio).toSize();
+    if (pixels.isEmpty()) {
+        return {};
+    }
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(palette.color(QPalette::Window));
+    QPainter painter(&image);
+    constexpr double kMargin = 8;
+    const QRectF area(QPointF(0, 0), QSizeF(size));
+    paintEffectPreview(painter, area.adjusted(kMargin, kMargin, -kMargin, -kMargin), curves,
+                       palette);
+    return image;
+}
+
+EffectPreview::EffectPreview(QWidget* parent) : QWidget(parent) {
+    EffectPreviewAccessible::install();
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+    setAccessibleName(localized("Preview"));
+}
+
+void EffectPreview::setCurves(const PreviewCurves& curves) {
+    curves_ = curves;
+    update();
+}
+
+void EffectPreview::setDisplayName(const QString& displayName) {
+    displayName_ = displayName;
+}
+
+QString EffectPreview::description() const {
+    return previewDescription(curves_, displayName_);
+}
+
+QSize EffectPreview::sizeHint() const {
+    const int em = fontMetrics().height();
+    return {28 * em, 12 * em};
+}
+
+QSize EffectPreview::minimumSizeHint() const {
+    const int em = fontMetrics().height();
+    return {20 * em, 8 * em};
+}
+
+void EffectPreview::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setLayoutDirection(layoutDirection());
+    paintEffectPreview(painter, QRectF(rect()), curves_, palette());
+}
+
+} // namespace nocturo

@@ -1,0 +1,68 @@
+#include "displays/affected_screen_set.h"
+
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+std::optional<std::vector<double>> storedSet(const DefaultsStore& defaults) {
+    const PropertyArray* array = defaults.arrayForKey(kAffectedScreenSet);
+    if (array == nullptr) {
+        return std::nullopt;
+    }
+    std::vector<double> numbers;
+    for (const PropertyValue& element : *array) {
+        const auto number = element.number();
+        if (!number || std::isnan(*number)) {
+            return std::nullopt;
+        }
+        numbers.push_back(*number);
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
+PropertyValue stored(double number) {
+    constexpr double kExactIntegers = 9007199254740992.0; // 2 to the 53rd
+    if (std::trunc(number) == number && std::abs(number) <= kExactIntegers) {
+        return static_cast<std::int64_t>(number);
+    }
+    return number;
+}
+
+} // namespace
+
+std::vector<double> affectedScreenSet(const DefaultsStore& defaults) {
+    if (auto numbers = storedSet(defaults)) {
+        return *std::move(numbers);
+    }
+    const auto single = static_cast<std::int32_t>(defaults.integerForKey(kAffectedScreens));
+    return single != 0 ? std::vector<double>{static_cast<double>(single)} : std::vector<double>();
+}
+
+void chooseAffectedScreen(DefaultsStore& defaults, std::int32_t tag) {
+    // Read before the older key is written: while the set key is absent that key is the set.
+    std::vector<double> numbers = affectedScreenSet(defaults);
+    defaults.setInteger(tag, kAffectedScreens);
+    if (tag == 0) {
+        defaults.setObject(PropertyArray(), kAffectedScreenSet);
+        return;
+    }
+    const auto number = static_cast<double>(tag);
+    if (std::erase(numbers, number) == 0) {
+        numbers.push_back(number);
+        std::sort(numbers.begin(), numbers.end());
+    }
+    PropertyArray array;
+    std::transform(numbers.begin(), numbers.end(), std::back_inserter(array), stored);
+    defaults.setObject(std::move(array), kAffectedScreenSet);
+}
+
+} // namespace nocturo

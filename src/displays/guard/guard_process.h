@@ -1,0 +1,47 @@
+#pragma once
+
+#include "base/file_descriptor.h"
+
+#include <csignal>
+#include <filesystem>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace nocturo {
+
+/// Where the guard program is: beside the running program, else where it is installed to. The first
+/// of them when it is in neither place.
+std::filesystem::path guardProgram();
+
+/// Asks a Nocturo that cannot be reached over a bus to switch the effect off.
+inline constexpr int kSwitchOffSignal = SIGUSR2;
+
+/// The guard's end of the connection, from its start on.
+inline constexpr int kGuardDescriptor = 3;
+
+/// A guard process, held by a connection that ends with this process, however it ends. It lives in
+/// a session of its own and takes no signals, so what is sent to a terminal's or a desktop's
+/// processes does not end it first.
+class GuardProcess {
+  public:
+    GuardProcess();
+
+    /// Starts the guard where none is running; 0, or the error number.
+    int start(const std::vector<std::string>& arguments);
+
+    bool isRunning() const { return connection_.get() >= 0; }
+
+    /// Readable when a guard that was started has ended.
+    int endDescriptor() const { return ends_.get(); }
+
+    /// True once for each guard that has ended.
+    bool takeEnd();
+
+  private:
+    FileDescriptor ends_; // readable when the connection, of whichever guard, is
+    FileDescriptor connection_;
+    pid_t process_ = -1;
+};
+
+} // namespace nocturo

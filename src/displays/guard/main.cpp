@@ -1,0 +1,74 @@
+// nocturo-guard gives the displays back when Nocturo cannot: it waits, with its connection to the X
+// server already made, for the end of the connection to the Nocturo that started it, which the
+// kernel brings about however that process ends. It is small because it waits for as long as
+// Nocturo runs: statically linked where that is possible, and without streams or locales.
+
+#include "displays/guard/display_repair.h"
+#include "displays/guard/guard_process.h"
+#include "displays/x11/randr_hardware.h"
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <poll.h>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace nocturo {
+
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+constexpr int kUsage = 2;
+
+// Waits for Nocturo to end, or for the server, with which the ramps go; true for Nocturo.
+bool waitForNocturo(RandrHardware& hardware) {
+    std::array<pollfd, 2> sources{
+        {{kGuardDescriptor, POLLIN, 0}, {hardware.descriptor(), POLLIN, 0}}};
+    while (sources[0].revents == 0) {
+        hardware.processEvents();
+        if (hardware.connectionLost()) {
+            return false;
+        }
+        poll(sources.data(), sources.size(), -1);
+    }
+    return true;
+}
+
+// Says nothing of a server that cannot be reached: Nocturo cannot reach it either, and says so.
+int guard(const std::string& display, const char* journal, const ServerMark::Content& nocturo) {
+    const RandrOpening opening = RandrHardware::open(display);
+    if (opening.hardware == nullptr) {
+        return kFailed;
+    }
+    if (waitForNocturo(*opening.hardware)) {
+        repairDisplaysAfter(nocturo, *opening.hardware, journal);
+    }
+    return kDone;
+}
+
+template <class Number>
+bool parse(std::string_view text, Number& number) {
+    const char* end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && rest == end;
+}
+
+} // namespace
+
+} // namespace nocturo
+
+int main(int argc, char* argv[]) {
+    using namespace nocturo;
+    const std::span arguments(argv, static_cast<std::size_t>(argc));
+    ServerMark::Content nocturo;
+    if (arguments.size() == 6 && std::string_view(arguments[1]) == "--guard" &&
+        parse(arguments[4], nocturo.token) && parse(arguments[5], nocturo.window)) {
+        return guard(arguments[2], arguments[3], nocturo);
+    }
+    std::fputs("Nocturo starts this program by itself; nocturoctl restore is what you may want.\n",
+               stderr);
+    return kUsage;
+}

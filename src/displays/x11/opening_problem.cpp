@@ -1,0 +1,24 @@
+// Apart from the hardware, since the guard is too small for texts.
+
+#include "displays/x11/opening_problem.h"
+
+#include "base/texts/translated.h"
+
+namespace nocturo {
+
+std::string openingProblem(RandrOpening::Result result, const std::string& xDisplay) {
+    switch (result) {
+    case RandrOpening::Result::waylandGuest:
+        return translated("The X server %@ is only a guest of a Wayland session and cannot change "
+                          "its colors; displays under Wayland come with a later version.",
+                          {xDisplay});
+    case RandrOpening::Result::noRandr:
+        return translated("The X server %@ has no RandR 1.3 or later.", {xDisplay});
+    case RandrOpening::Result::unreachable:
+    case RandrOpening::Result::opened:
+        break;
+    }
+    return translated("The X server %@ cannot be reached.", {xDisplay});
+}
+
+} // namespace nocturo

@@ -1,0 +1,143 @@
+#include "hotkeys/keyboard/xkb_keyboard_layout.h"
+
+#include "hotkeys/keyboard/virtual_key_codes.h"
+#include "x11/xcb_xkb.h"
+
+#include <utility>
+
+#include <xkbcommon/xkbcommon-x11.h>
+
+namespace nocturo {
+
+namespace {
+
+constexpr xcb_xkb_device_spec_t kKeyboard = XCB_XKB_ID_USE_CORE_KBD;
+
+// In the order of the bits that callers give.
+constexpr std::array kModifierNames = {XKB_MOD_NAME_LOGO, XKB_MOD_NAME_SHIFT, XKB_MOD_NAME_CAPS,
+                                       XKB_MOD_NAME_ALT, XKB_MOD_NAME_CTRL};
+
+bool isControlCharacter(const std::string& text) {
+    const auto first = static_cast<unsigned char>(text.front());
+    return first < 0x20 || first == 0x7f;
+}
+
+} // namespace
+
+std::unique_ptr<XkbKeyboardLayout> XkbKeyboardLayout::open(const std::string& displayName) {
+    if (displayName.empty()) {
+        return nullptr; // to xcb it would mean the environment's
+    }
+    XcbConnection connection(xcb_connect(displayName.c_str(), nullptr));
+    std::uint8_t firstEvent = 0;
+    if (xcb_connection_has_error(connection.get()) ||
+        !xkb_x11_setup_xkb_extension(
+            connection.get(), XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
+            XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, &firstEvent, nullptr)) {
+        return nullptr;
+    }
+    std::unique_ptr<XkbKeyboardLayout> layout(
+        new XkbKeyboardLayout(std::move(connection), firstEvent));
+    return layout->context_ && layout->subscribe() ? std::move(layout) : nullptr;
+}
+
+XkbKeyboardLayout::XkbKeyboardLayout(XcbConnection connection, std::uint8_t firstEvent)
+    : connection_(std::move(connection)), firstEvent_(firstEvent),
+      context_(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES)) {}
+
+// Of the state only the group is asked for: the modifiers' would come with every key typed.
+bool XkbKeyboardLayout::subscribe() {
+    constexpr std::uint16_t kEvents = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY |
+                                      XCB_XKB_EVENT_TYPE_MAP_NOTIFY |
+                                      XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
+    constexpr std::uint16_t kMapParts =
+        XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP |
+        XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
+    xcb_xkb_select_events_details_t details{};
+    details.affectNewKeyboard = details.newKeyboardDetails =
+        XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_DEVICE_ID;
+    details.affectState = details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
+    const auto cookie = xcb_xkb_select_events_aux_checked(connection_.get(), kKeyboard, kEvents, 0,
+                                                          0, kMapParts, kMapParts, &details);
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(connection_.get(), cookie));
+    return !error && !connectionLost();
+}
+
+int XkbKeyboardLayout::descriptor() const {
+    return xcb_get_file_descriptor(connection_.get());
+}
+
+bool XkbKeyboardLayout::connectionLost() const {
+    return xcb_connection_has_error(connection_.get()) != 0;
+}
+
+void XkbKeyboardLayout::processEvents() {
+    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
+        if ((event->response_type & 0x7fu) != firstEvent_) {
+            continue;
+        }
+        // All keyboard events have one number; which it is stands where others have details.
+        if (event->pad0 == XCB_XKB_STATE_NOTIFY) {
+            group_ = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(*event).group;
+        } else {
+            outdated_ = true;
+        }
+    }
+}
+
+// Events that arrive meanwhile are taken in at the next naming, in the order they came in, so that
+// the group ends up as the last of them says.
+void XkbKeyboardLayout::readLayout() {
+    outdated_ = false;
+    state_.reset();
+    auto* raw = connection_.get();
+    const auto device = xkb_x11_get_core_keyboard_device_id(raw);
+    if (device < 0) {
+        return;
+    }
+    const auto groupCookie = xcb_xkb_get_state(raw, kKeyboard);
+    const std::unique_ptr<xkb_keymap, Release> keymap(
+        xkb_x11_keymap_new_from_device(context_.get(), raw, device, XKB_KEYMAP_COMPILE_NO_FLAGS));
+    const XcbReply<xcb_xkb_get_state_reply_t> state(
+        xcb_xkb_get_state_reply(raw, groupCookie, nullptr));
+    if (!keymap || !state) {
+        return;
+    }
+    group_ = state->group;
+    state_.reset(xkb_state_new(keymap.get()));
+    for (std::size_t i = 0; i < kModifierCount; ++i) {
+        const auto index = xkb_keymap_mod_get_index(keymap.get(), kModifierNames[i]);
+        modifierMasks_[i] = index != XKB_MOD_INVALID ? xkb_mod_mask_t{1} << index : 0;
+    }
+}
+
+xkb_mod_mask_t XkbKeyboardLayout::modifierMask(std::uint32_t modifierKeyState) const {
+    xkb_mod_mask_t mask = 0;
+    for (std::size_t i = 0; i < kModifierCount; ++i) {
+        mask |= (modifierKeyState >> i & 1u) != 0 ? modifierMasks_[i] : 0;
+    }
+    return mask;
+}
+
+std::string XkbKeyboardLayout::textForKeyDown(std::uint16_t keyCode,
+                                              std::uint32_t modifierKeyState) {
+    processEvents();
+    if (outdated_ && !connectionLost()) {
+        readLayout();
+    }
+    const auto evdevCode = evdevFromVirtualKeyCode(keyCode);
+    if (!state_ || !evdevCode || connectionLost()) {
+        return {};
+    }
+    const xkb_keycode_t key = *evdevCode + xkb_keycode_t{kEvdevToX11Offset};
+    xkb_state_update_mask(state_.get(), modifierMask(modifierKeyState), 0, 0, 0, 0, group_);
+    std::array<char, 64> text{};
+    const int length = xkb_state_key_get_utf8(state_.get(), key, text.data(), text.size());
+    if (length <= 0 || static_cast<std::size_t>(length) >= text.size()) {
+        return {};
+    }
+    std::string typed(text.data(), static_cast<std::size_t>(length));
+    return isControlCharacter(typed) ? std::string() : typed;
+}
+
+} // namespace nocturo

@@ -1,0 +1,66 @@
+#include "session/desktop_sources.h"
+
+#include "base/log.h"
+#include "base/notification_names.h"
+#include "desktop/qt/session_bus.h"
+#include "session/application_watch.h"
+#include "session/bus_screen_savers.h"
+#include "session/login_session.h"
+#include "session/screen_saver_state.h"
+#include "session/x_screen_saver.h"
+#include "session/xscreensaver_status.h"
+#include "x11/x_events.h"
+
+#include <optional>
+
+namespace nocturo {
+
+struct DesktopSources::Parts {
+    explicit Parts(NotificationCenter& distributed) : screenSaver(distributed) {}
+
+    ScreenSaverState screenSaver;
+    std::unique_ptr<XEvents> xEvents;
+    std::optional<BusScreenSavers> busScreenSavers;
+    std::optional<ApplicationWatch> applications;
+    std::optional<LoginSession> login;
+};
+
+DesktopSources::DesktopSources(const NotificationCenters& centers, RunLoop& runLoop,
+                               const Surroundings& surroundings)
+    : parts_(std::make_unique<Parts>(centers.distributed)) {
+    const auto poster = [&workspace = centers.workspace](std::string_view name) {
+        return [&workspace, name] { workspace.post(name); };
+    };
+    Parts& parts = *parts_;
+    if (!surroundings.xDisplay.empty()) {
+        parts.xEvents = XEvents::open(surroundings.xDisplay);
+    }
+    if (parts.xEvents != nullptr) {
+        followXScreenSaver(*parts.xEvents, parts.screenSaver);
+        followXScreenSaverStatus(*parts.xEvents, parts.screenSaver);
+    }
+    const auto sessionBus = connectToSessionBus();
+    if (sessionBus) {
+        parts.busScreenSavers.emplace(*sessionBus, parts.screenSaver);
+    }
+    parts.applications.emplace(parts.xEvents.get(), sessionBus, runLoop,
+                               poster(NSWorkspaceDidTerminateApplicationNotification));
+    if (const auto systemBus = connectToSystemBus()) {
+        parts.login.emplace(
+            *systemBus, surroundings.sessionId,
+            LoginSession::Handlers{
+                poster(NSWorkspaceDidWakeNotification),
+                poster(NSWorkspaceSessionDidBecomeActiveNotification),
+                [&parts](bool locked) { parts.screenSaver.setSessionLocked(locked); }});
+    } else {
+        logInfo(kLogWorkspace, "There is no system bus, so Nocturo is not told when the "
+                               "computer wakes up.");
+    }
+    if (parts.xEvents != nullptr) {
+        parts.xEvents->processEvents();
+    }
+}
+
+DesktopSources::~DesktopSources() = default;
+
+} // namespace nocturo

@@ -1,0 +1,163 @@
+#include "settings/settings_table.h"
+
+#include "displays/affected_screen_set.h"
+#include "effects/effect_registry.h"
+#include "effects/group_effect.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace nocturo {
+
+namespace {
+
+constexpr std::int64_t kZero = 0; // an exact type: a plain 0 could become any of them
+
+const std::array<Setting, 16>& rows() {
+    using enum SettingType;
+    static const std::array<Setting, 16> table = {{
+        {NDGroupEffect::kName, effectNames, PropertyArray(), true,
+         ListedText("the selected effects")},
+        {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
+        {kActivateOnClick, boolean, true, true,
+         ListedText("starting Nocturo again toggles the effect")},
+        {kContinuouslyApply, boolean, true, true,
+         ListedText("while on, apply again every 6 seconds")},
+        {kDeactivateForScreenSaver, boolean, true, true,
+         ListedText("pause while the screen saver runs")},
+        {kUseHotKey, boolean, false, true, ListedText("toggle with the global hot key")},
+        {kShowStatusItem, integer, kZero, true, ListedText("1: run as a tray item")},
+        {kHotKeyCode, integer, kZero, false, ListedText("virtual key code of the hot key")},
+        {kHotKeyModifiers, integer, kZero, false, ListedText("modifier flags of the hot key")},
+        {"EffectActive", boolean, false, false,
+         ListedText("whether the effect was last switched on")},
+        {kAffectedScreenSet, displayNumbers, PropertyArray(), false,
+         ListedText("the affected displays; none means all")},
+        {kAffectedScreens, integer, kZero, false,
+         ListedText("the display last picked; 0 means all")},
+        {"NDDimEffectLevel", real, -0.5, false, ListedText("dim: -1 black, 0 unchanged, 1 white")},
+        {"NDColorFilterEffectHue", real, 0.0, false, ListedText("color filter: hue in degrees")},
+        {"NDColorFilterEffectVividness", real, 1.0, false,
+         ListedText("color filter: strength, 0 to 1")},
+        {"ZQFluxWarned", boolean, false, false, ListedText("the f.lux warning was answered")},
+    }};
+    return table;
+}
+
+using Problem = std::optional<std::string>;
+
+Problem problemWithNames(const std::string& key, const PropertyValue& value) {
+    const auto* array = value.as<PropertyArray>();
+    if (array == nullptr) {
+        return translated("\"%@\" takes a list of effects.", {key});
+    }
+    for (const PropertyValue& element : *array) {
+        const auto* name = element.as<std::string>();
+        if (name == nullptr) {
+            return translated("\"%@\" takes a list of effect names.", {key});
+        }
+        const auto effects = selectableEffects();
+        if (std::none_of(effects.begin(), effects.end(),
+                         [&](const auto& effect) { return effect.className == *name; })) {
+            return translated("\"%1$@\" takes effects only, and there is no effect \"%2$@\".",
+                              {key, *name});
+        }
+    }
+    return std::nullopt;
+}
+
+bool isListOfDisplays(const PropertyValue& value) {
+    const auto* array = value.as<PropertyArray>();
+    return array != nullptr &&
+           std::all_of(array->begin(), array->end(), [](const PropertyValue& element) {
+               const auto* number = element.as<std::int64_t>();
+               return number != nullptr && *number >= std::numeric_limits<std::int32_t>::min() &&
+                      *number <= std::numeric_limits<std::int32_t>::max();
+           });
+}
+
+bool isFiniteSingle(const PropertyValue& value) {
+    const auto* number = value.as<double>();
+    return number != nullptr && std::isfinite(static_cast<float>(*number));
+}
+
+PropertyArray numbersAsValues(const std::vector<double>& numbers) {
+    PropertyArray values;
+    for (const double number : numbers) {
+        values.emplace_back(static_cast<std::int64_t>(number));
+    }
+    return values;
+}
+
+} // namespace
+
+std::span<const Setting> settingsTable() {
+    return rows();
+}
+
+const Setting* settingNamed(std::string_view key) {
+    const auto found = std::find_if(rows().begin(), rows().end(),
+                                    [&](const Setting& setting) { return setting.key == key; });
+    return found != rows().end() ? &*found : nullptr;
+}
+
+PropertyDictionary registeredDefaults() {
+    PropertyDictionary defaults;
+    for (const Setting& setting : rows()) {
+        if (setting.registered) {
+            defaults.emplace(setting.key, setting.whenAbsent);
+        }
+    }
+    return defaults;
+}
+
+PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setting) {
+    if (setting.key == kAffectedScreenSet) {
+        return numbersAsValues(affectedScreenSet(defaults));
+    }
+    if (defaults.objectForKey(setting.key) == nullptr) {
+        return setting.whenAbsent;
+    }
+    switch (setting.type) {
+    case SettingType::boolean:
+        return defaults.boolForKey(setting.key);
+    case SettingType::integer:
+        return defaults.integerForKey(setting.key);
+    case SettingType::real:
+        return static_cast<double>(defaults.floatForKey(setting.key));
+    case SettingType::effectNames:
+    case SettingType::displayNumbers:
+        break;
+    }
+    const PropertyArray* array = defaults.arrayForKey(setting.key);
+    return array != nullptr ? *array : PropertyArray();
+}
+
+std::optional<std::string> problemWith(const Setting& setting, const PropertyValue& value) {
+    const std::string key(setting.key);
+    const auto unless = [](bool fits, const std::string& problem) {
+        return fits ? Problem() : Problem(problem);
+    };
+    switch (setting.type) {
+    case SettingType::boolean:
+        return unless(value.as<bool>() != nullptr,
+                      translated("\"%@\" takes true or false.", {key}));
+    case SettingType::integer:
+        return unless(value.as<std::int64_t>() != nullptr,
+                      translated("\"%@\" takes a whole number.", {key}));
+    case SettingType::real:
+        return unless(isFiniteSingle(value), translated("\"%@\" takes a finite number.", {key}));
+    case SettingType::effectNames:
+        return problemWithNames(key, value);
+    case SettingType::displayNumbers:
+        return unless(isListOfDisplays(value),
+                      translated("\"%@\" takes a list of display identifiers.", {key}));
+    }
+    return std::nullopt;
+}
+
+} // namespace nocturo

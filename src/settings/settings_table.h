@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/property_value.h"
+#include "base/texts/translated.h"
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace nocturo {
+
+class DefaultsStore;
+
+enum class SettingType { boolean, integer, real, effectNames, displayNumbers };
+
+/// One row of the table of settings.
+struct Setting {
+    std::string_view key;
+    SettingType type;
+    PropertyValue whenAbsent; // what readers use while the user has no value
+    bool registered;          // whether `whenAbsent` is registered as a default at launch
+    ListedText meaning;       // one line
+};
+
+/// Every setting, in the order in which they are shown.
+std::span<const Setting> settingsTable();
+
+/// The row of that key, or null.
+const Setting* settingNamed(std::string_view key);
+
+/// The defaults to register at launch.
+PropertyDictionary registeredDefaults();
+
+/// What readers make of the store's present value, whatever its type; reals are singles.
+PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setting);
+
+/// One sentence, in the user's language, that says why the value cannot be stored under the
+/// setting; nothing when it can.
+std::optional<std::string> problemWith(const Setting& setting, const PropertyValue& value);
+
+} // namespace nocturo
