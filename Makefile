@@ -12,45 +12,61 @@ release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run test soak unit-asan fuzz bench lint lint-text format install package package-test dist screenshots clean
+.PHONY: help deps build run tests test soak unit-asan fuzz benchmarks bench lint lint-text format install package package-test dist screenshots clean
 
 help: ## this list
 	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-13s %s\n", $$1, $$2 }' Makefile
 
-deps: ## installs what is needed, or says what is missing where there is no apt
-	@tools/deps.sh
+deps: ## installs ahead what all of these need, or says what is missing where there is no apt
+	@tools/deps.sh run test lint fuzz bench package screenshots
+
+deps-%:
+	@tools/deps.sh $*
+
+# What was configured along once, tests or benchmarks, stays configured.
+configure = cmake --preset release -DNOCTURO_WERROR=$(WERROR) -DCMAKE_INSTALL_PREFIX=$(PREFIX)
+make_targets = cmake --build --preset release --parallel $(JOBS) --target
 
 build: ## leaves the programs in build/release/bin
-	cmake --preset release -DNOCTURO_WERROR=$(WERROR) -DCMAKE_INSTALL_PREFIX=$(PREFIX)
-	cmake --build --preset release --parallel $(JOBS)
+	$(configure)
+	$(make_targets) programs
 
-run: deps build ## builds and starts Nocturo with ARGS="..."
+run: deps-run build ## builds and starts Nocturo with ARGS="..."
 	@tools/run.sh $(release)/bin/nocturo $(ARGS)
 
-test: deps build ## builds and runs every test
-	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^(soak|package)$$'
+tests: deps-test
+	$(configure) -DBUILD_TESTING=ON
+	$(make_targets) all
 
-soak: deps build ## builds and runs the tests that take minutes
+test: tests ## builds and runs every test
+	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^soak$$'
+
+soak: tests ## builds and runs the tests that take minutes
 	@ctest --preset release --no-tests=error --label-regex '^soak$$'
 
-unit-asan: ## runs the unit tests under AddressSanitizer and UndefinedBehaviorSanitizer
+unit-asan: deps-test ## runs the unit tests under AddressSanitizer and UndefinedBehaviorSanitizer
 	cmake --preset asan
 	cmake --build --preset asan --target unit_tests --parallel $(JOBS)
 	@ctest --preset asan --no-tests=error --parallel $(TEST_JOBS) --label-regex '^unit$$'
 
-fuzz: deps ## feeds what reads files FUZZ_SECONDS of invented ones each; needs clang++
+fuzz: deps-fuzz ## feeds what reads files FUZZ_SECONDS of invented ones each; needs clang++
 	cmake --preset fuzz
 	cmake --build --preset fuzz --parallel $(JOBS)
 	@tools/fuzz.sh build/fuzz $(FUZZ_SECONDS)
 
-bench: build ## builds and runs the benchmarks
+benchmarks: deps-bench
+	$(configure) -DBUILD_TESTING=ON -DNOCTURO_BENCH=ON
+	$(make_targets) benchmarks
+
+bench: benchmarks ## builds and runs the benchmarks
 	@set -e; for bench in $(release)/bin/*_bench; do echo "$$bench"; "$$bench"; done
 
-screenshots: build ## takes the pictures of the windows anew; with LOOKS=dir all looks, into that
-	cmake --build --preset release --target window_pictures --parallel $(JOBS)
+screenshots: deps-screenshots ## takes the pictures of the windows anew; with LOOKS=dir all looks, into that
+	$(configure) -DBUILD_TESTING=ON
+	$(make_targets) programs window_pictures
 	@tools/screenshots.sh $(LOOKS)
 
-lint-text:
+lint-text: deps-lint
 	@tools/lint.sh text
 
 lint: lint-text build ## checks layout, scripts and code
@@ -66,11 +82,11 @@ install: ## installs under PREFIX, below DESTDIR; builds first only where nothin
 dist: ## packs the committed sources into build/package
 	@tools/package.sh dist
 
-package: deps ## builds a Debian package in build/package
+package: deps-package ## builds a Debian package in build/package
 	@JOBS=$(JOBS) tools/package.sh deb
 
-package-test: package build ## installs that package into a fresh system, starts it and removes it
-	@ctest --preset release --no-tests=error --label-regex '^package$$'
+package-test: package ## installs that package into a fresh system, starts it and removes it
+	@tests/packaging/package_test.sh build/package
 
 clean: ## removes everything that was built
 	rm -rf build

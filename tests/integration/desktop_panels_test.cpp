@@ -61,6 +61,7 @@ class DesktopPanels : public NocturoOnX {
 };
 
 TEST_F(DesktopPanels, ATrayWindowChoosesTheColorOfTheImage) {
+    NEEDS("trayer")
     const auto trayer = session_.start(
         "trayer", {"--edge", "top", "--align", "left", "--widthtype", "pixel", "--width", "100",
                    "--height", "32", "--transparent", "true", "--alpha", "0", "--tint", "0"});
@@ -74,6 +75,7 @@ TEST_F(DesktopPanels, ATrayWindowChoosesTheColorOfTheImage) {
 }
 
 TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
+    NEEDS("lxqt-panel")
     const auto isShown = [&] { return count(kDark) > 20; };
     const auto click = [&](const char* button) {
         session_.run("xdotool", {"mousemove", "15", "15", "click", button});

@@ -51,6 +51,7 @@ TEST_F(DesktopSession, FileManagersOpenDocumentsInTheOneThatRuns) {
 }
 
 TEST_F(DesktopSession, LoggingOutAndInBringsEverythingBack) {
+    NEEDS("mate-session")
     session_.environment()["GSETTINGS_BACKEND"] = "memory";
     const auto logIn = [&] { return session_.start("mate-session"); };
     const auto logOut = [&](Process& desktop) {

@@ -90,6 +90,7 @@ TEST_F(DesktopSources, TheServersScreenSaverPausesTheEffect) {
 }
 
 TEST_F(DesktopSources, XScreenSaverPausesTheEffect) {
+    NEEDS("xscreensaver")
     start();
     writeText(session_.environment()["HOME"] + "/.xscreensaver",
               "mode: blank\nlock: False\nfade: False\n");

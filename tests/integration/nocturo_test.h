@@ -11,6 +11,12 @@
 
 namespace nocturo::rig {
 
+/// Skips the test where this system lacks a program that it is about.
+#define NEEDS(program)                                                                             \
+    if (!isInstalled(program)) {                                                                   \
+        GTEST_SKIP() << program << " is not installed";                                            \
+    }
+
 inline Channels reversed(Channels channels) {
     for (auto& channel : channels) {
         std::reverse(channel.begin(), channel.end());

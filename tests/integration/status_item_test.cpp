@@ -55,6 +55,7 @@ class StatusItem : public NocturoOnX {
 };
 
 TEST_F(StatusItem, IsEmbeddedWheneverThereIsATray) {
+    NEEDS("trayer")
     auto trayer = startTrayer(); // the panel is late
     ASSERT_TRUE(embeddedBecomes(true));
     trayer.reset();

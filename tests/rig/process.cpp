@@ -1,6 +1,7 @@
 #include "rig/process.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 
@@ -121,6 +122,10 @@ const std::string& Process::errors() {
     takeInUntil(
         QProcess::StandardError, [] { return true; }, Milliseconds(0));
     return errors_;
+}
+
+bool isInstalled(const std::string& program) {
+    return std::system(("command -v " + program + " >/dev/null").c_str()) == 0;
 }
 
 std::vector<pid_t> childrenNamed(pid_t parent, const std::string& name) {

@@ -60,6 +60,9 @@ class Process {
     std::size_t linesRead_ = 0; // where the next line begins
 };
 
+/// Whether this system has a program of that name; distributions lack one or the other.
+bool isInstalled(const std::string& program);
+
 /// The processes of that name (at most 15 bytes count) that `parent` started or inherited.
 std::vector<pid_t> childrenNamed(pid_t parent, const std::string& name);
 
