@@ -79,7 +79,10 @@ std::unique_ptr<Bus> Bus::connect(const std::string& address, EventLoop& loop) {
 }
 
 Bus::~Bus() {
-    sd_bus_flush(bus_.get());
+    // Flushing one that has not said hello would wait for it.
+    if (sd_bus_is_ready(bus_.get()) > 0) {
+        sd_bus_flush(bus_.get());
+    }
 }
 
 bool Bus::claimName(const char* name, int patienceMs) {

@@ -133,15 +133,19 @@ int EventLoop::callDeferred(sd_event_source* /*source*/, void* self) {
     return 0;
 }
 
-void EventLoop::handleSignals(std::span<const int> signalNumbers,
-                              std::function<void(int)> handler) {
-    signalHandler_ = std::move(handler);
+void EventLoop::blockSignals(std::span<const int> signalNumbers) {
     sigset_t set;
     sigemptyset(&set);
     for (const int number : signalNumbers) {
         sigaddset(&set, number);
     }
     pthread_sigmask(SIG_BLOCK, &set, nullptr);
+}
+
+void EventLoop::handleSignals(std::span<const int> signalNumbers,
+                              std::function<void(int)> handler) {
+    blockSignals(signalNumbers);
+    signalHandler_ = std::move(handler);
     for (const int number : signalNumbers) {
         sd_event_source* source = nullptr;
         sd_event_add_signal(event_.get(), &source, number, signalCame, this);
@@ -189,10 +193,15 @@ int EventLoop::descriptor() const {
 }
 
 bool EventLoop::prepare() {
-    if (dispatching_ || sd_event_get_state(event_.get()) != SD_EVENT_INITIAL) {
-        return !dispatching_ && sd_event_get_state(event_.get()) == SD_EVENT_PENDING;
+    if (dispatching_) {
+        return false;
     }
-    return sd_event_prepare(event_.get()) > 0;
+    sd_event* event = event_.get();
+    if (sd_event_get_state(event) == SD_EVENT_ARMED) {
+        // What was added since the loop was last prepared is not armed yet.
+        sd_event_wait(event, 0);
+    }
+    return sd_event_get_state(event) == SD_EVENT_PENDING || sd_event_prepare(event) > 0;
 }
 
 void EventLoop::dispatchPending() {

@@ -32,8 +32,12 @@ class EventLoop final : public RunLoop {
     std::unique_ptr<Watch> watch(int descriptor, std::function<void()> action, Priority priority);
     void callSoon(std::function<void()> action) override;
 
-    /// Blocks these signals for the process and calls `handler` with the number of each that is
-    /// sent, from the loop. To be called once, before any thread is started.
+    /// Blocks signals for the process, so that they wait to be handled. To be called before any
+    /// thread is started.
+    static void blockSignals(std::span<const int> signalNumbers);
+
+    /// Blocks these signals and calls `handler` with the number of each that is sent, from the
+    /// loop. To be called once.
     void handleSignals(std::span<const int> signalNumbers, std::function<void(int)> handler);
 
     /// For what attaches itself to the loop, as a bus does.

@@ -1,18 +1,16 @@
 #include "program/connected_displays.h"
 
+#include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/notification_names.h"
-#include "desktop/qt/socket_watch.h"
 #include "displays/display_functions.h"
-
-#include <QCoreApplication>
 
 #include <utility>
 
 namespace nocturo {
 
 ConnectedDisplays::ConnectedDisplays(OpenedDisplays opened, const NotificationCenters& centers,
-                                     int exitCodeWhenLost)
+                                     EventLoop& loop, int exitCodeWhenLost)
     : opened_(std::move(opened)) {
     setDisplayServices(opened_.services.get());
     opened_.services->setChangeHandler([centers](const DisplayChanges& changes) {
@@ -25,14 +23,15 @@ ConnectedDisplays::ConnectedDisplays(OpenedDisplays opened, const NotificationCe
         }
     });
     for (const int descriptor : opened_.eventDescriptors) {
-        watches_.push_back(whenReadable(descriptor, [this, exitCodeWhenLost] {
+        const auto takeIn = [this, &loop, exitCodeWhenLost] {
             opened_.processEvents();
             if (opened_.connectionLost()) {
-                QCoreApplication::exit(exitCodeWhenLost);
+                loop.quit(exitCodeWhenLost);
             }
-        }));
+        };
+        watches_.push_back(loop.watch(descriptor, takeIn, EventLoop::kDisplays));
     }
-    watches_.push_back(whenReadable(opened_.guardEndDescriptor, opened_.processGuardEnd));
+    watches_.push_back(loop.watch(opened_.guardEndDescriptor, opened_.processGuardEnd));
 }
 
 ConnectedDisplays::~ConnectedDisplays() {

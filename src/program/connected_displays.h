@@ -1,14 +1,14 @@
 #pragma once
 
+#include "base/run_loop.h"
 #include "displays/display_factory.h"
-
-#include <QSocketNotifier>
 
 #include <memory>
 #include <vector>
 
 namespace nocturo {
 
+class EventLoop;
 struct NotificationCenters;
 
 /// The displays in the event loop: what they announce is posted on the centers, and the application
@@ -17,7 +17,7 @@ struct NotificationCenters;
 class ConnectedDisplays {
   public:
     /// `opened` has services.
-    ConnectedDisplays(OpenedDisplays opened, const NotificationCenters& centers,
+    ConnectedDisplays(OpenedDisplays opened, const NotificationCenters& centers, EventLoop& loop,
                       int exitCodeWhenLost);
     ~ConnectedDisplays();
     ConnectedDisplays(const ConnectedDisplays&) = delete;
@@ -27,7 +27,7 @@ class ConnectedDisplays {
 
   private:
     OpenedDisplays opened_;
-    std::vector<std::unique_ptr<QSocketNotifier>> watches_;
+    std::vector<std::unique_ptr<Watch>> watches_;
 };
 
 } // namespace nocturo

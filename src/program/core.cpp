@@ -3,8 +3,6 @@
 #include "displays/guard/guard_process.h"
 #include "program/instance_lock.h"
 
-#include <QCoreApplication>
-
 #include <csignal>
 #include <utility>
 
@@ -14,15 +12,18 @@ std::array<int, 5> Core::signalNumbers() {
     return {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal, kSwitchOffSignal};
 }
 
-Core::Core(DefaultsStore& store)
-    : defaults(store), centers{NotificationCenter::defaultCenter(), workspaceCenter,
+Core::Core(DefaultsStore& store, EventLoop& loop)
+    : runLoop(loop), sessionBus(Bus::connect(sessionBusAddress(), loop)),
+      systemBus(Bus::connect(systemBusAddress(), loop)),
+      defaults(store), centers{NotificationCenter::defaultCenter(), workspaceCenter,
                                distributedCenter},
       controller(defaults, centers, runLoop), wakeRepeater(controller, centers, runLoop),
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
       windows(controller, defaults, centers),
-      face(controller, defaults, centers.local, disturbances, windows),
-      signals(signalNumbers(), [this](int number) { signalWasSent(number); }) {}
+      face(controller, defaults, centers.local, disturbances, windows) {
+    runLoop.handleSignals(signalNumbers(), [this](int number) { signalWasSent(number); });
+}
 
 void Core::signalWasSent(int number) {
     if (number == InstanceLock::kReopenSignal) {
@@ -30,7 +31,7 @@ void Core::signalWasSent(int number) {
     } else if (number == kSwitchOffSignal) {
         controller.setEffectActive(false, true);
     } else {
-        QCoreApplication::quit();
+        runLoop.quit();
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QSocketNotifier>
+#include "base/run_loop.h"
 
 #include <memory>
 #include <string>
@@ -17,7 +17,7 @@ class XkbKeyboardLayout;
 class DesktopHotKeys {
   public:
     /// `xDisplay` is empty where there is no X server.
-    explicit DesktopHotKeys(const std::string& xDisplay);
+    DesktopHotKeys(const std::string& xDisplay, RunLoop& runLoop);
     ~DesktopHotKeys();
     DesktopHotKeys(const DesktopHotKeys&) = delete;
     DesktopHotKeys& operator=(const DesktopHotKeys&) = delete;
@@ -28,8 +28,8 @@ class DesktopHotKeys {
   private:
     std::unique_ptr<X11HotKeyService> service_;
     std::unique_ptr<XkbKeyboardLayout> layout_;
-    std::unique_ptr<QSocketNotifier> serviceWatch_;
-    std::unique_ptr<QSocketNotifier> layoutWatch_;
+    std::unique_ptr<Watch> serviceWatch_;
+    std::unique_ptr<Watch> layoutWatch_;
 };
 
 } // namespace nocturo

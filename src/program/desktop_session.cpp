@@ -7,8 +7,6 @@
 #include "program/core.h"
 #include "program/surroundings.h"
 
-#include <QCoreApplication>
-
 namespace nocturo {
 
 DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays)
@@ -29,7 +27,7 @@ void DesktopSession::launch(const QStringList& documents,
                             const std::function<void(const std::string&)>& refused) {
     core_.face.announceChanges();
     if (!launchController()) {
-        QCoreApplication::quit();
+        core_.runLoop.quit();
         return;
     }
     listen();
@@ -52,7 +50,7 @@ bool DesktopSession::launchController() {
 }
 
 void DesktopSession::listen() {
-    hotKeys_.emplace(xDisplayName());
+    hotKeys_.emplace(xDisplayName(), core_.runLoop);
     core_.face.setKeyboardLayout(hotKeys_->layout());
     core_.windows.setKeyboardLayout(hotKeys_->layout());
     core_.controller.updateHotKey();

@@ -33,6 +33,9 @@ class DesktopSession {
     void launch(const QStringList& documents,
                 const std::function<void(const std::string&)>& refused);
 
+    /// The application ends: keeps which windows are open.
+    void end() const { windowRestoration_.save(); }
+
   private:
     bool launchController();
     void listen();

@@ -1,8 +1,10 @@
+#include "base/bus.h"
+#include "base/event_loop.h"
 #include "base/runtime_directory.h"
 #include "base/texts/translated.h"
 #include "base/texts/users_language.h"
 #include "desktop/qt/qt_log.h"
-#include "desktop/qt/socket_watch.h"
+#include "desktop/qt/qt_loop.h"
 #include "desktop/qt/translations.h"
 #include "program/connected_displays.h"
 #include "program/core.h"
@@ -48,10 +50,10 @@ void endWithServer() {
     }
 }
 
-int runEventLoop() {
+int runEventLoop(EventLoop& loop) {
     std::atexit(endWithServer);
     inEventLoop = true;
-    const int result = QApplication::exec();
+    const int result = loop.run();
     inEventLoop = false;
     return result;
 }
@@ -69,14 +71,14 @@ int endAfterHandingOver(const SessionClaim& claim, const QStringList& documents)
 }
 
 /// Runs the application in its event loop until it is told to end.
-int run(const RunOptions& options) {
+int run(const RunOptions& options, EventLoop& loop) {
     const auto directory = runtimeDirectory();
     if (!directory) {
         tell(stderr, translated("The runtime directory cannot be used; set XDG_RUNTIME_DIR to one "
                                 "of yours."));
         return kFailure;
     }
-    Core core(*DefaultsStore::standardUserDefaults());
+    Core core(*DefaultsStore::standardUserDefaults(), loop);
     const QStringList documents = absolutePaths(options.documents);
     const SessionClaim claim(core.face, *directory, documents);
     if (!claim.isGranted()) {
@@ -84,7 +86,7 @@ int run(const RunOptions& options) {
     }
     SettingsKeeper keeper(core.defaults, settingsPath(), core.runLoop);
     const auto settingsWatch =
-        whenReadable(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
+        loop.watch(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
     OpenedDisplays opened = openDisplays(
         options.displays, {xDisplayName(), *directory, systemBusAddress()}, core.runLoop);
@@ -95,13 +97,16 @@ int run(const RunOptions& options) {
     if (!opened.notice.empty()) {
         tell(stdout, opened.notice);
     }
-    const ConnectedDisplays displays(std::move(opened), core.centers, kFailure);
+    const ConnectedDisplays displays(std::move(opened), core.centers, loop, kFailure);
 
     DesktopSession desktop(core, displays);
     callFirst([&] {
         desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
     });
-    const int result = runEventLoop();
+    const int result = runEventLoop(loop);
+    if (result == kSuccess) {
+        desktop.end();
+    }
     core.controller.applicationWillTerminate();
     if (result != kSuccess) {
         tellOfLostServer();
@@ -126,12 +131,14 @@ int main(int argc, char* argv[]) {
         return kUsage;
     }
     installQtLogSink();
-    PosixSignals::block(Core::signalNumbers());
+    EventLoop::blockSignals(Core::signalNumbers());
+    EventLoop loop;
     choosePlatform();
     const QApplication application(argc, argv);
     installTranslations(*QCoreApplication::instance());
     QApplication::setApplicationName(QStringLiteral("Nocturo"));
     QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));
     QApplication::setQuitOnLastWindowClosed(false);
-    return run(std::get<RunOptions>(options));
+    const QtLoop qtLoop(loop);
+    return run(std::get<RunOptions>(options), loop);
 }

@@ -30,12 +30,6 @@ std::string xDisplayName() {
     return qEnvironmentVariable("DISPLAY").toStdString();
 }
 
-std::string systemBusAddress() {
-    return qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS",
-                                QStringLiteral("unix:path=/run/dbus/system_bus_socket"))
-        .toStdString();
-}
-
 std::string loginSession() {
     return qEnvironmentVariable("XDG_SESSION_ID").toStdString();
 }

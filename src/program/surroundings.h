@@ -17,8 +17,6 @@ void choosePlatform();
 /// The X server's name; empty where there is none.
 std::string xDisplayName();
 
-std::string systemBusAddress();
-
 /// The identifier of the login session; empty where it is not known.
 std::string loginSession();
 

@@ -4,7 +4,6 @@
 #include "base/log.h"
 #include "settings/settings_file.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QSessionManager>
 
@@ -15,7 +14,6 @@ namespace nocturo {
 
 WindowRestoration::WindowRestoration(NDAppController& controller, std::filesystem::path file)
     : controller_(controller), file_(std::move(file)) {
-    qApp->installEventFilter(this);
     // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
     const auto startNothing = [](QSessionManager& session) {
         session.setRestartHint(QSessionManager::RestartNever);
@@ -34,19 +32,10 @@ void WindowRestoration::startKeeping() {
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { save(); });
 }
 
-bool WindowRestoration::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != qApp || event->type() != QEvent::Quit) {
-        return false;
-    }
-    if (keeping_) {
-        save();
-    }
-    // Qt would close the windows first, and go on running if one of them has a question.
-    QCoreApplication::exit(0);
-    return true;
-}
-
 void WindowRestoration::save() const {
+    if (!keeping_) {
+        return;
+    }
     PropertyDictionary state;
     controller_.willEncodeRestorableState(state);
     if (const int error = writeSettingsFile(file_, state).errorNumber) {

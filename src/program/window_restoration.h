@@ -8,9 +8,8 @@ namespace nocturo {
 
 class NDAppController;
 
-/// Keeps, from one run to the next, which windows were to be seen: written when the application
-/// quits and when the session ends. Quitting asks no window whether it may be closed. Needs a
-/// QGuiApplication.
+/// Keeps, from one run to the next, which windows were to be seen: written when the session ends
+/// and when asked, which whoever ends the application does. Needs a QGuiApplication.
 class WindowRestoration : public QObject {
   public:
     /// `file` is the absolute path of a property list, which need not exist.
@@ -22,12 +21,10 @@ class WindowRestoration : public QObject {
     /// Until then nothing is written, so that a launch that ends early keeps what was there.
     void startKeeping();
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-  private:
+    /// Writes what is to be seen now, once keeping has started.
     void save() const;
 
+  private:
     NDAppController& controller_;
     std::filesystem::path file_;
     bool keeping_ = false;

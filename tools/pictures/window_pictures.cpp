@@ -2,11 +2,12 @@
 // shows: window_pictures WINDOW FILE [dark] [rtl] [long]
 
 #include "app/app_controller.h"
+#include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/runtime_directory.h"
 #include "desktop/app_windows.h"
 #include "desktop/menus/desktop_menus.h"
-#include "desktop/qt/qt_run_loop.h"
+#include "desktop/qt/qt_loop.h"
 #include "desktop/qt/translations.h"
 #include "displays/display_factory.h"
 #include "displays/display_functions.h"
@@ -97,7 +98,8 @@ int run(const QStringList& arguments) {
     NotificationCenter workspace;
     NotificationCenter distributed;
     const NotificationCenters centers{NotificationCenter::defaultCenter(), workspace, distributed};
-    QtRunLoop runLoop;
+    EventLoop runLoop;
+    const QtLoop qtLoop(runLoop);
     NDAppController controller(defaults, centers, runLoop);
     AppWindows windows(controller, defaults, centers);
     const auto displays =
@@ -130,7 +132,7 @@ int run(const QStringList& arguments) {
             0, area.x(), area.y(), area.width(), area.height());
         QApplication::exit(picture.save(arguments[2]) ? 0 : 1);
     });
-    const int result = QApplication::exec();
+    const int result = runLoop.run();
     controller.applicationWillTerminate();
     setDisplayServices(nullptr);
     return result;
