@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSlider>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -29,18 +30,14 @@ class ParameterRow : public testing::Test {
         label->setBuddy(row);
         box->addWidget(label);
         box->addWidget(row);
-        row->setRange(-1, 1);
-        row->setDefaultValue(-0.5);
-        row->setDisplayScale(100);
-        row->setDecimals(0);
-        row->setSuffix(" %");
+        row->setParameter({.minimum = -1, .defaultValue = -0.5, .scale = 100, .unit = " %"});
         QObject::connect(row, &ParameterSlider::valueChangedByUser, &window,
                          [this](float value) { steps.push_back(value); });
         window.resize(500, 100);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        slider = row->findChild<RealSlider*>();
+        slider = row->findChild<QSlider*>();
         field = row->findChild<QLineEdit*>();
     }
     float afterWheel(int angle) {
@@ -64,7 +61,7 @@ class ParameterRow : public testing::Test {
 
     QWidget window;
     ParameterSlider* row = new ParameterSlider;
-    RealSlider* slider = nullptr;
+    QSlider* slider = nullptr;
     QLineEdit* field = nullptr;
     std::vector<float> steps;
 };
@@ -109,6 +106,10 @@ TEST_F(ParameterRow, TakesKeysTheWheelADoubleClickAndNumbers) {
         EXPECT_EQ(field->text(), QString::fromUtf16(shown));
     }
     EXPECT_EQ(steps.back(), 1.0F);
+    field->selectAll();
+    QTest::keyClicks(field, "5");
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(field->text(), "100 %") << "never mind";
     row->setLayoutDirection(Qt::RightToLeft);
     QTest::keyClick(slider, Qt::Key_Right);
     EXPECT_EQ(row->value(), 0.99F) << "right is less in a mirrored row";
@@ -125,6 +126,15 @@ TEST_F(ParameterRow, ADragLosesNoStepAndAPressAloneChangesNothing) {
     EXPECT_EQ(steps.size(), 1000U);
     EXPECT_TRUE(std::is_sorted(steps.begin(), steps.end()));
     EXPECT_NEAR(row->value(), 0.6, 0.06);
+    mouse(QEvent::MouseMove, width / 2 + 2);
+    EXPECT_NE(row->value(), 0.0F);
+    row->setParameter({.minimum = -1, .track = TrackSlider::Track::Middle});
+    mouse(QEvent::MouseMove, width / 2 + 1);
+    EXPECT_EQ(row->value(), 0.0F) << "the marked middle catches";
+    mouse(QEvent::MouseMove, width / 2 + 6);
+    EXPECT_NE(row->value(), 0.0F);
+    mouse(QEvent::MouseButtonRelease, width / 2 + 6);
+    EXPECT_FALSE(slider->isSliderDown());
 }
 
 TEST_F(ParameterRow, TellsScreenReadersItsNameAndItsShownValue) {

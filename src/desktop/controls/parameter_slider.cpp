@@ -1,17 +1,22 @@
+// The parts know only about where they stand: the slider in whole positions, the field in decimal
+// digits. The value is kept beside them, so that what was set stays as it is until it is moved.
+
 #include "desktop/controls/parameter_slider.h"
 
+#include "desktop/controls/number_field.h"
 #include "desktop/mixed_color.h"
 
-#include <QAccessible>
-#include <QCoreApplication>
+#include <QAccessibleWidget>
+#include <QEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
-#include <QStyleOptionFrame>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace nocturo {
 
@@ -21,129 +26,123 @@ namespace {
 /// it is off.
 constexpr float kDisabledInk = 0.62F;
 
-bool isSameToTheBit(float left, float right) {
-    return std::bit_cast<std::uint32_t>(left) == std::bit_cast<std::uint32_t>(right);
-}
+/// What a screen reader gets of the slider: its value and range as they are shown beside it,
+/// instead of the positions of its handle.
+class SliderAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
+  public:
+    SliderAccessible(TrackSlider* slider, ParameterSlider& row)
+        : QAccessibleWidget(slider, QAccessible::Slider), row_(row) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? row_.shownText() : QAccessibleWidget::text(kind);
+    }
+    QVariant currentValue() const override { return shown(static_cast<double>(row_.value())); }
+    void setCurrentValue(const QVariant& value) override {
+        bool isNumber = false;
+        const double number = value.toDouble(&isNumber);
+        if (isNumber && row_.isEnabled()) {
+            row_.moveTo(number / row_.parameter().scale);
+        }
+    }
+    QVariant maximumValue() const override { return shown(row_.parameter().maximum); }
+    QVariant minimumValue() const override { return shown(row_.parameter().minimum); }
+    QVariant minimumStepSize() const override { return shown(row_.parameter().step); }
+
+  private:
+    double shown(double value) const { return value * row_.parameter().scale; }
+
+    ParameterSlider& row_;
+};
 
 } // namespace
 
 ParameterSlider::ParameterSlider(QWidget* parent)
-    : QWidget(parent), slider_(new RealSlider(this)), field_(new QLineEdit(this)) {
+    : QWidget(parent), slider_(new TrackSlider(this)), field_(new NumberField(this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(slider_, 1);
     row->addWidget(field_);
-    field_->setAlignment(Qt::AlignRight);
-    field_->installEventFilter(this);
     setFocusProxy(slider_);
     setFocusPolicy(slider_->focusPolicy()); // or a label would not give the focus to its buddy
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(slider_, &RealSlider::moved, this, &ParameterSlider::userMoved);
-    connect(field_, &QLineEdit::editingFinished, this, &ParameterSlider::takeTypedNumber);
-    numberText_.locale = locale();
-    fitField();
+    QAccessible::registerAccessibleInterface(new SliderAccessible(slider_, *this));
+    connect(slider_, &QSlider::actionTriggered, this, &ParameterSlider::takeMove);
+    connect(field_, &QDoubleSpinBox::valueChanged, this,
+            [this](double number) { moveTo(number / parameter_.scale); });
     tintField();
 }
 
-void ParameterSlider::setRange(double minimum, double maximum) {
-    slider_->setRealRange(minimum, maximum);
-    fitField();
+void ParameterSlider::setParameter(const Parameter& parameter) {
+    parameter_ = parameter;
+    const auto positions = [&](double distance) {
+        const double range = parameter.maximum - parameter.minimum;
+        return static_cast<int>(std::lround(distance / range * TrackSlider::kPositions));
+    };
+    slider_->setTrack(parameter.track);
+    slider_->setSingleStep(positions(parameter.step));
+    slider_->setPageStep(positions(parameter.page));
+    slider_->setDefaultPosition(positions(parameter.defaultValue - parameter.minimum));
+    const QSignalBlocker quiet(field_);
+    field_->setUnit(parameter.unit);
+    field_->setSigned(parameter.track == TrackSlider::Track::Middle);
+    field_->setRange(parameter.minimum * parameter.scale, parameter.maximum * parameter.scale);
+    field_->setSingleStep(parameter.step * parameter.scale);
+    // The fields of several rows stand flush.
+    const auto width = [&](const QString& text) {
+        return field_->fontMetrics().horizontalAdvance(text);
+    };
+    const int text = std::max(width(field_->textFromValue(field_->minimum())),
+                              width(field_->textFromValue(field_->maximum())));
+    field_->setFixedWidth(field_->sizeHint().width() - text +
+                          std::max(text, width(QStringLiteral("+000 %"))));
+    value_ = limited(static_cast<double>(value_));
+    showValue();
 }
 
-void ParameterSlider::setDefaultValue(double value) {
-    slider_->setDefaultValue(value);
+float ParameterSlider::limited(double value) const {
+    return static_cast<float>(
+        std::clamp(std::isnan(value) ? 0.0 : value, parameter_.minimum, parameter_.maximum));
 }
 
-void ParameterSlider::setStep(double single, double page) {
-    slider_->setRealSteps(single, page);
-}
-
-void ParameterSlider::setMarkedMiddle(bool marked) {
-    slider_->setMarkedMiddle(marked);
-    numberText_.withSign = marked;
-    fitField();
-}
-
-void ParameterSlider::setTrack(Track track) {
-    slider_->setTrack(track);
-}
-
-void ParameterSlider::setDisplayScale(double scale) {
-    numberText_.scale = scale;
-    fitField();
-}
-
-void ParameterSlider::setDecimals(int decimals) {
-    numberText_.decimals = decimals;
-    fitField();
-}
-
-void ParameterSlider::setSuffix(const QString& suffix) {
-    numberText_.suffix = suffix;
-    fitField();
-}
-
-float ParameterSlider::value() const {
-    return slider_->realValue();
+QString ParameterSlider::shownText() const {
+    return field_->textFromValue(static_cast<double>(value_) * parameter_.scale);
 }
 
 void ParameterSlider::setValue(float value) {
-    const float before = slider_->realValue();
-    slider_->setRealValue(value);
-    if (!isSameToTheBit(before, slider_->realValue())) {
-        slider_->update();
+    const float before = std::exchange(value_, limited(static_cast<double>(value)));
+    if (std::bit_cast<std::uint32_t>(before) != std::bit_cast<std::uint32_t>(value_)) {
         showValue();
     }
 }
 
-void ParameterSlider::userMoved(float value) {
+void ParameterSlider::moveTo(double value) {
+    const float before = std::exchange(value_, limited(value));
     showValue();
-    Q_EMIT valueChangedByUser(value);
+    if (value_ != before) {
+        Q_EMIT valueChangedByUser(value_);
+    }
 }
 
-void ParameterSlider::takeTypedNumber() {
-    if (!field_->isModified()) {
-        return;
-    }
-    const auto typed = numberText_.read(field_->text());
-    // What is shown is rounded: the same number again leaves the value as it is.
-    const auto shown = numberText_.read(numberText_.written(static_cast<double>(value())));
-    const bool isNew = typed && typed != shown;
-    showValue();
-    if (isNew) {
-        slider_->moveTo(*typed);
-    }
+/// The slider stands at its new position and has told nobody else yet.
+void ParameterSlider::takeMove() {
+    const double share = 1.0 * slider_->sliderPosition() / TrackSlider::kPositions;
+    moveTo(parameter_.minimum + (parameter_.maximum - parameter_.minimum) * share);
 }
 
 void ParameterSlider::showValue() {
-    field_->setText(numberText_.written(static_cast<double>(value())));
+    const QSignalBlocker quietSlider(slider_);
+    const QSignalBlocker quietField(field_);
+    const double value = static_cast<double>(value_);
+    const double share = (value - parameter_.minimum) / (parameter_.maximum - parameter_.minimum);
+    slider_->setValue(static_cast<int>(std::lround(share * TrackSlider::kPositions)));
+    field_->setValue(value * parameter_.scale);
     if (field_->hasFocus()) {
         field_->selectAll();
     }
-}
-
-/// Wide enough for its longest number, and not less than most need, so that the fields and tracks
-/// of several rows stand flush.
-void ParameterSlider::fitField() {
-    slider_->setNumberText(numberText_);
-    int text = field_->fontMetrics().horizontalAdvance(QStringLiteral("+000 %"));
-    for (const double value : {slider_->realMinimum(), slider_->realMaximum()}) {
-        text = std::max(text, field_->fontMetrics().horizontalAdvance(numberText_.written(value)));
-    }
-    ensurePolished();
-    QStyleOptionFrame option;
-    option.initFrom(field_);
-    option.lineWidth = field_->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field_);
-    const QSize contents(text + field_->fontMetrics().averageCharWidth() * 2, 0);
-    field_->setFixedWidth(
-        field_->style()->sizeFromContents(QStyle::CT_LineEdit, &option, contents, field_).width());
-    // A sign that comes first in a left-to-right language stays first in a mirrored window.
-    if (locale().textDirection() == Qt::LeftToRight) {
-        field_->setLayoutDirection(Qt::LeftToRight);
-    } else {
-        field_->unsetLayoutDirection();
-    }
-    showValue();
 }
 
 void ParameterSlider::tintField() {
@@ -154,83 +153,23 @@ void ParameterSlider::tintField() {
     field_->setPalette(colors);
 }
 
-/// A label names its buddy; what has the focus are the parts.
-void ParameterSlider::nameParts() {
-    const auto* described = QAccessible::queryAccessibleInterface(this);
-    if (described == nullptr) {
-        return;
+void ParameterSlider::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        tintField();
     }
-    QString name = described->text(QAccessible::Name);
+}
+
+/// A label names its buddy; what has the focus are the parts.
+void ParameterSlider::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    QString name = QAccessible::queryAccessibleInterface(this)->text(QAccessible::Name);
     if (name.endsWith(QLatin1Char(':'))) {
         name.chop(1);
     }
-    for (QWidget* part : {static_cast<QWidget*>(slider_), static_cast<QWidget*>(field_)}) {
-        if (part->accessibleName() != name) {
-            part->setAccessibleName(name);
-        }
+    for (QWidget* part : findChildren<QWidget*>()) {
+        part->setAccessibleName(name);
     }
-}
-
-bool ParameterSlider::fieldTakesKey(QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        takeTypedNumber();
-        QCoreApplication::sendEvent(slider_, &event);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!field_->isModified()) {
-            return false; // the window's default button
-        }
-        takeTypedNumber();
-        return true;
-    case Qt::Key_Escape:
-        if (!field_->isModified()) {
-            return false;
-        }
-        showValue();
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool ParameterSlider::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == field_ && event->type() == QEvent::KeyPress) {
-        return fieldTakesKey(*static_cast<QKeyEvent*>(event));
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void ParameterSlider::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    switch (event->type()) {
-    case QEvent::PaletteChange:
-        tintField();
-        break;
-    case QEvent::LocaleChange:
-        numberText_.locale = locale();
-        fitField();
-        break;
-    case QEvent::FontChange:
-    case QEvent::StyleChange:
-    case QEvent::LayoutDirectionChange:
-        fitField();
-        break;
-    case QEvent::LanguageChange:
-        nameParts();
-        break;
-    default:
-        break;
-    }
-}
-
-void ParameterSlider::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    nameParts();
 }
 
 } // namespace nocturo

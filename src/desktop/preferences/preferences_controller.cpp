@@ -63,21 +63,16 @@ void NDPreferencesController::loadWindow() {
     panel_ = std::make_unique<PreferencePanel>();
     ui_ = std::make_unique<Ui::NocturoPreferencePanel>();
     ui_->setupUi(panel_.get());
-    ui_->colorFilterHue->setRange(0, 360);
-    ui_->colorFilterHue->setStep(1, 15);
-    ui_->colorFilterHue->setDecimals(0);
-    ui_->colorFilterHue->setSuffix(QStringLiteral("°"));
-    ui_->colorFilterHue->setTrack(ParameterSlider::Track::Hue);
-    ui_->colorFilterVividness->setRange(0, 1);
-    ui_->colorFilterVividness->setDefaultValue(1);
-    ui_->dimLevel->setRange(-1, 1);
-    ui_->dimLevel->setDefaultValue(-0.5);
-    ui_->dimLevel->setMarkedMiddle(true);
-    for (ParameterSlider* share : {ui_->colorFilterVividness, ui_->dimLevel}) {
-        share->setDisplayScale(100);
-        share->setDecimals(0);
-        share->setSuffix(localized(" %"));
-    }
+    using Track = TrackSlider::Track;
+    const QString percent = localized(" %");
+    ui_->colorFilterHue->setParameter(
+        {.maximum = 360, .step = 1, .page = 15, .unit = QStringLiteral("°"), .track = Track::Hue});
+    ui_->colorFilterVividness->setParameter({.defaultValue = 1, .scale = 100, .unit = percent});
+    ui_->dimLevel->setParameter({.minimum = -1,
+                                 .defaultValue = -0.5,
+                                 .scale = 100,
+                                 .unit = percent,
+                                 .track = Track::Middle});
     for (QWidget* control : panel_->findChildren<QWidget*>()) {
         control->setWhatsThis(control->toolTip());
     }
