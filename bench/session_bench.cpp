@@ -179,11 +179,11 @@ void measureHotKey(rig::Session& session, BusClient& client) {
 }
 
 void measureReapplication(rig::Session& session) {
-    auto opening = RandrHardware::open(session.server().display());
-    if (opening.hardware == nullptr) {
+    auto hardware = RandrHardware::open(session.server().display());
+    if (!hardware) {
         throw std::runtime_error("the X server cannot be used");
     }
-    RampDisplayServices services(std::move(opening.hardware));
+    RampDisplayServices services(std::move(*hardware));
     setDisplayServices(&services);
     NotificationCenter center;
     NotificationCenter workspace;

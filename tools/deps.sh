@@ -26,6 +26,7 @@ run          libxkbcommon-x11-dev      what keys type
 run          liblcms2-dev              color profiles
 run          libsystemd-dev            event loop, bus
 run          nlohmann-json3-dev        status --json
+run          libexpected-dev           results
 test         libgtest-dev              tests
 test         libgmock-dev              matchers
 test         xserver-xorg-core         real X server
@@ -154,7 +155,7 @@ install_on_debian() {
 list_elsewhere() {
   local group kind names name missing=()
   echo "This is not Debian or a relative of it, so nothing is installed. Needed are Qt 6.4 or later with"
-  echo "Widgets, DBus and LinguistTools, for tests Xorg's dummy video driver, and:"
+  echo "Widgets, DBus and LinguistTools, tl-expected, for tests Xorg's dummy video driver, and:"
   while read -r group kind names; do
     [[ "$groups " == *" $group "* ]] || continue
     echo "  $kind: $names"

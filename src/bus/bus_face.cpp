@@ -236,12 +236,12 @@ void BusFace::AffectAllScreens() {
 void BusFace::SetHotKey(const QString& text) {
     HotKeyCombination combination; // both numbers 0: no hot key
     if (!text.isEmpty()) {
-        const HotKeyTextResult result = parseHotKeyText(text.toStdString(), layout_);
-        if (!result.combination) {
-            refuse(result.error + " " + hotKeyTextSyntax());
+        const auto result = parseHotKeyText(text.toStdString(), layout_);
+        if (!result) {
+            refuse(result.error().text + " " + hotKeyTextSyntax());
             return;
         }
-        combination = *result.combination;
+        combination = *result;
     }
     defaults_.setInteger(combination.keyCode, kHotKeyCode);
     defaults_.setInteger(static_cast<std::int64_t>(combination.modifierFlags), kHotKeyModifiers);

@@ -60,11 +60,11 @@ ListedText restoreByHand() {
         throw Failure{kFailed, translated("The runtime directory cannot be used; set "
                                           "XDG_RUNTIME_DIR to one of yours.")};
     }
-    const RandrOpening opening = RandrHardware::open(display);
-    if (opening.hardware == nullptr) {
-        throw Failure{kFailed, openingProblem(opening.result, display)};
+    const auto opened = RandrHardware::open(display);
+    if (!opened) {
+        throw Failure{kFailed, openingProblem(opened.error(), display)};
     }
-    RandrHardware& hardware = *opening.hardware;
+    RandrHardware& hardware = **opened;
     const auto journal = journalFile(*directory, display);
     if (switchOffBySignal(hardware, journal)) {
         return kSwitchedOff;

@@ -18,37 +18,30 @@ namespace nocturo {
 
 namespace {
 
-OpenedDisplays failed(std::string problem) {
-    OpenedDisplays opened;
-    opened.problem = std::move(problem);
-    return opened;
-}
-
-OpenedDisplays failedForNow(const std::string& problem) {
+tl::unexpected<Problem> failedForNow(const std::string& problem) {
     return failed(problem + ' ' +
                   translated("To see what the effects do, start it with "
                              "--display-services=simulated."));
 }
 
-OpenedDisplays openRandr(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
     const std::string& xDisplay = surroundings.xDisplay;
     if (xDisplay.empty()) {
         return failedForNow(
             translated("There is no X server to work with, because DISPLAY is not set."));
     }
-    RandrOpening opening = RandrHardware::open(xDisplay);
-    if (opening.hardware == nullptr) {
-        return failedForNow(openingProblem(opening.result, xDisplay));
+    auto randr = RandrHardware::open(xDisplay);
+    if (!randr) {
+        return failedForNow(openingProblem(randr.error(), xDisplay));
     }
     // Before anything is captured, so that no effect is ever taken for a display's own colours.
     const auto journal = journalFile(surroundings.runtimeDirectory, xDisplay);
     auto profiles = std::make_unique<ProfileCalibrations>(xDisplay, surroundings.systemBusAddress);
-    if (repairDisplays(*opening.hardware, journal, *profiles) == Repair::inUse) {
+    if (repairDisplays(**randr, journal, *profiles) == Repair::inUse) {
         return failed(
             translated("Another Nocturo drives the displays of the X server %@.", {xDisplay}));
     }
-    auto guarded =
-        std::make_unique<GuardedHardware>(std::move(opening.hardware), xDisplay, journal);
+    auto guarded = std::make_unique<GuardedHardware>(std::move(*randr), xDisplay, journal);
     OpenedDisplays opened;
     GuardedHardware* hardware = guarded.get(); // lives as long as the services
     opened.eventDescriptors = profiles->descriptors();
@@ -101,8 +94,8 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
     return choice;
 }
 
-OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings,
-                            RunLoop& runLoop) {
+Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
+                                    const DisplaySurroundings& surroundings, RunLoop& runLoop) {
     if (choice.kind == DisplayChoice::Kind::simulated) {
         return openSimulated(choice.simulatedCount, surroundings.runtimeDirectory);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/result.h"
 #include "displays/display_services.h"
 
 #include <filesystem>
@@ -34,9 +35,8 @@ struct DisplaySurroundings {
 
 /// Display services with their place in an event loop.
 struct OpenedDisplays {
-    std::unique_ptr<DisplayServices> services; // null when there are none
-    std::string problem;                       // one sentence for the user, then
-    std::string notice;                        // one for a user who may want it; may be empty
+    std::unique_ptr<DisplayServices> services;
+    std::string notice; // one sentence for a user who may want it; may be empty
 
     std::vector<int> eventDescriptors;    // none when nothing ever comes from outside
     std::function<void()> processEvents;  // to be called when one of them is readable
@@ -46,8 +46,9 @@ struct OpenedDisplays {
     std::function<void()> processGuardEnd; // to be called when that descriptor is readable
 };
 
-/// Opens what was chosen, and logs it. The run loop must outlive what is opened.
-OpenedDisplays openDisplays(const DisplayChoice& choice, const DisplaySurroundings& surroundings,
-                            RunLoop& runLoop);
+/// Opens what was chosen, and logs it; the problem is a sentence for the user. The run loop must
+/// outlive what is opened.
+Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
+                                    const DisplaySurroundings& surroundings, RunLoop& runLoop);
 
 } // namespace nocturo

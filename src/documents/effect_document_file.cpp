@@ -24,9 +24,7 @@ std::optional<EffectDocument> readEffectDocument(const std::filesystem::path& pa
 
 bool writeEffectDocument(const std::filesystem::path& path, const EffectDocument& document) {
     const bool hidden = isExtensionHidden(path); // on the file that goes
-    const PropertyListFileWrite written =
-        writePropertyListFile(path, propertyDictionary(document), kReadableToWhomTheUmaskLets);
-    if (written.errorNumber != 0) {
+    if (!writePropertyListFile(path, propertyDictionary(document), kReadableToWhomTheUmaskLets)) {
         return false;
     }
     if (hidden) {

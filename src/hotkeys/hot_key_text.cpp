@@ -107,10 +107,6 @@ std::optional<std::uint16_t> keyCodeTyping(std::string_view text, KeyboardLayout
     return std::nullopt;
 }
 
-HotKeyTextResult failure(std::string sentence) {
-    return {std::nullopt, std::move(sentence)};
-}
-
 } // namespace
 
 std::string hotKeyTextSyntax() {
@@ -123,29 +119,28 @@ std::string hotKeyTextSyntax() {
         "keypadclear, or the character that a key types.");
 }
 
-HotKeyTextResult parseHotKeyText(std::string_view text, KeyboardLayout* layout) {
+Result<HotKeyCombination> parseHotKeyText(std::string_view text, KeyboardLayout* layout) {
     if (trimmed(text).empty()) {
-        return failure(translated("No hot key was given."));
+        return failed(translated("No hot key was given."));
     }
     HotKeyCombination combination;
     std::string_view key;
     for (const std::string_view part : partsOf(text)) {
         if (part.empty()) {
-            return failure(translated("\"%@\" has a plus sign with nothing before or after it.",
-                                      {std::string(text)}));
+            return failed(translated("\"%@\" has a plus sign with nothing before or after it.",
+                                     {std::string(text)}));
         }
         if (const std::uint64_t flag = modifierNamed(part); flag != 0) {
             combination.modifierFlags |= flag;
         } else if (key.empty()) {
             key = part;
         } else {
-            return failure(
-                translated("\"%@\" and \"%@\" are both keys, but a hot key has only one.",
-                           {std::string(key), std::string(part)}));
+            return failed(translated("\"%@\" and \"%@\" are both keys, but a hot key has only one.",
+                                     {std::string(key), std::string(part)}));
         }
     }
     if (key.empty()) {
-        return failure(translated("\"%@\" has no key besides its modifiers.", {std::string(text)}));
+        return failed(translated("\"%@\" has no key besides its modifiers.", {std::string(text)}));
     }
 
     auto keyCode = virtualKeyCodeNamed(key);
@@ -153,22 +148,22 @@ HotKeyTextResult parseHotKeyText(std::string_view text, KeyboardLayout* layout) 
         keyCode = keyCodeTyping(key, *layout);
     }
     if (!keyCode && layout != nullptr) {
-        return failure(translated("\"%@\" is not a key's name, and no key of the current keyboard "
-                                  "layout types it.",
-                                  {std::string(key)}));
+        return failed(translated("\"%@\" is not a key's name, and no key of the current keyboard "
+                                 "layout types it.",
+                                 {std::string(key)}));
     }
     if (!keyCode) {
-        return failure(translated("\"%@\" is not a key's name, and the keyboard layout that could "
-                                  "tell which key types it cannot be read.",
-                                  {std::string(key)}));
+        return failed(translated("\"%@\" is not a key's name, and the keyboard layout that could "
+                                 "tell which key types it cannot be read.",
+                                 {std::string(key)}));
     }
     if (combination.modifierFlags == 0 && !isFunctionKeyCode(*keyCode)) {
-        return failure(translated("\"%@\" needs a modifier: only function, arrow and navigation "
-                                  "keys can be hot keys alone.",
-                                  {std::string(key)}));
+        return failed(translated("\"%@\" needs a modifier: only function, arrow and navigation "
+                                 "keys can be hot keys alone.",
+                                 {std::string(key)}));
     }
     combination.keyCode = *keyCode;
-    return {combination, {}};
+    return combination;
 }
 
 } // namespace nocturo

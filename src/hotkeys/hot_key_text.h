@@ -1,7 +1,8 @@
 #pragma once
 
+#include "base/result.h"
+
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,12 +16,6 @@ struct HotKeyCombination {
     bool operator==(const HotKeyCombination&) const = default;
 };
 
-/// Either a combination, or one sentence for the user that says what is wrong.
-struct HotKeyTextResult {
-    std::optional<HotKeyCombination> combination;
-    std::string error;
-};
-
 /// What the user may write, for help texts.
 std::string hotKeyTextSyntax();
 
@@ -28,6 +23,7 @@ std::string hotKeyTextSyntax();
 /// spaces around them if wanted. The one part that names no modifier is the key: a key name, or
 /// what the key types alone under `layout`, which may be null. Only function, arrow and navigation
 /// keys are accepted without a modifier; with any other key the user could not type it any more.
-HotKeyTextResult parseHotKeyText(std::string_view text, KeyboardLayout* layout);
+/// The problem is a sentence for the user.
+Result<HotKeyCombination> parseHotKeyText(std::string_view text, KeyboardLayout* layout);
 
 } // namespace nocturo

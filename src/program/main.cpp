@@ -88,16 +88,16 @@ int run(const RunOptions& options, EventLoop& loop) {
     const auto settingsWatch =
         loop.watch(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
-    OpenedDisplays opened = openDisplays(
+    Result<OpenedDisplays> opened = openDisplays(
         options.displays, {xDisplayName(), *directory, systemBusAddress()}, core.runLoop);
-    if (opened.services == nullptr) {
-        tell(stderr, opened.problem);
+    if (!opened) {
+        tell(stderr, opened.error().text);
         return kFailure;
     }
-    if (!opened.notice.empty()) {
-        tell(stdout, opened.notice);
+    if (!opened->notice.empty()) {
+        tell(stdout, opened->notice);
     }
-    const ConnectedDisplays displays(std::move(opened), core.centers, loop, kFailure);
+    const ConnectedDisplays displays(std::move(*opened), core.centers, loop, kFailure);
 
     DesktopSession desktop(core, displays);
     callFirst([&] {

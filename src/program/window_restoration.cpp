@@ -7,7 +7,6 @@
 #include <QGuiApplication>
 #include <QSessionManager>
 
-#include <system_error>
 #include <utility>
 
 namespace nocturo {
@@ -38,9 +37,9 @@ void WindowRestoration::save() const {
     }
     PropertyDictionary state;
     controller_.willEncodeRestorableState(state);
-    if (const int error = writeSettingsFile(file_, state).errorNumber) {
+    if (const auto written = writeSettingsFile(file_, state); !written) {
         logWarning(kLogApp, "Which windows are open cannot be kept in " + file_.string() + ": " +
-                                std::generic_category().message(error) + ".");
+                                written.error().text + ".");
     }
 }
 

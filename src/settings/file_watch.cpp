@@ -1,5 +1,6 @@
 #include "settings/file_watch.h"
 
+#include "base/files.h"
 #include "base/log.h"
 #include "settings/settings_file.h"
 

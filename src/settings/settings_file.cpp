@@ -1,5 +1,7 @@
 #include "settings/settings_file.h"
 
+#include "base/files.h"
+
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -38,21 +40,24 @@ std::string localTimestamp(std::chrono::system_clock::time_point when) {
 
 } // namespace
 
-PropertyListFileWrite writeSettingsFile(const std::filesystem::path& path,
-                                        const PropertyDictionary& dictionary) {
+Result<FileStamp> writeSettingsFile(const std::filesystem::path& path,
+                                    const PropertyDictionary& dictionary) {
     makePrivateDirectories(path.parent_path());
     return writePropertyListFile(path, dictionary, S_IRUSR | S_IWUSR);
 }
 
-SetAsideFile setAsideDamagedFile(const std::filesystem::path& path,
-                                 std::chrono::system_clock::time_point when) {
+Result<std::filesystem::path> setAsideDamagedFile(const std::filesystem::path& path,
+                                                  std::chrono::system_clock::time_point when) {
     const std::filesystem::path file = followLinks(path);
     const std::string name = file.string() + ".damaged-" + localTimestamp(when);
     std::string candidate = name;
     for (int number = 2;; ++number) {
         const int error = renameWithoutReplacing(file, candidate);
+        if (error == 0) {
+            return std::filesystem::path(candidate);
+        }
         if (error != EEXIST) {
-            return {error, candidate};
+            return failedWith(error);
         }
         candidate = name + '-' + std::to_string(number);
     }

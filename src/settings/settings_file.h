@@ -8,19 +8,14 @@
 namespace nocturo {
 
 /// writePropertyListFile, after the missing directories were made; what is new is the user's alone.
-PropertyListFileWrite writeSettingsFile(const std::filesystem::path& path,
-                                        const PropertyDictionary& dictionary);
-
-struct SetAsideFile {
-    int errorNumber = 0;        // 0 when it was renamed
-    std::filesystem::path path; // its new name
-};
+Result<FileStamp> writeSettingsFile(const std::filesystem::path& path,
+                                    const PropertyDictionary& dictionary);
 
 /// Renames the file at `path` (the target, where that is a link) to its own name with
 /// ".damaged-20261121-090838" appended, the local time of `when`; and "-2", "-3" ... after that,
-/// for an existing file is never overwritten.
-SetAsideFile setAsideDamagedFile(const std::filesystem::path& path,
-                                 std::chrono::system_clock::time_point when);
+/// for an existing file is never overwritten. Returns its new path.
+Result<std::filesystem::path> setAsideDamagedFile(const std::filesystem::path& path,
+                                                  std::chrono::system_clock::time_point when);
 
 /// Makes `directory` and the directories above it where they are missing, for the user alone.
 /// Failing is no error here: what needs the directory finds out.

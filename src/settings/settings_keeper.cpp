@@ -56,17 +56,17 @@ bool SettingsKeeper::write(Reason reason) {
     if (!takeInFile(reason)) {
         return false;
     }
-    const PropertyListFileWrite written = writeSettingsFile(path_, store_.userDomain());
-    if (written.errorNumber != 0) {
+    const Result<FileStamp> written = writeSettingsFile(path_, store_.userDomain());
+    if (!written) {
         if (!std::exchange(toldUnwritable_, true)) {
             logWarning(kLogSettings, "The settings cannot be saved to " + path_.string() + " (" +
-                                         errorText(written.errorNumber) +
+                                         written.error().text +
                                          "); they hold until Nocturo quits, and saving is tried "
                                          "again with the next change.");
         }
         return false;
     }
-    known_ = written.stamp;
+    known_ = *written;
     lostFile_ = false;
     toldUnwritable_ = false;
     store_.markKept();
@@ -142,16 +142,16 @@ void SettingsKeeper::lookAgain() {
 bool SettingsKeeper::setAside(Reason reason) {
     known_.reset();
     suspect_.reset();
-    const SetAsideFile aside = setAsideDamagedFile(path_, now_());
-    if (aside.errorNumber != 0) {
-        tellUnreadable("is damaged and cannot be set aside (" + errorText(aside.errorNumber) +
+    const auto aside = setAsideDamagedFile(path_, now_());
+    if (!aside) {
+        tellUnreadable("is damaged and cannot be set aside (" + aside.error().text +
                        "); nothing is saved until it can be.");
         return false;
     }
     toldUnreadable_ = false;
     const bool atStart = reason == Reason::start;
     logWarning(kLogSettings, "The settings file " + path_.string() + " is damaged; it is kept as " +
-                                 aside.path.filename().string() +
+                                 aside->filename().string() +
                                  (atStart ? ", and the default settings hold."
                                           : ", and the settings in use are saved anew."));
     if (!atStart) {

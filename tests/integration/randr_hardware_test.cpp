@@ -32,7 +32,7 @@ class RandrHardwareTest : public testing::Test {
 
     XServer server{3};
     rig::XClient client{server.display()};
-    std::unique_ptr<RandrHardware> hardware = RandrHardware::open(server.display()).hardware;
+    std::unique_ptr<RandrHardware> hardware = RandrHardware::open(server.display()).value();
     std::uint64_t generation = 0;
 };
 
@@ -121,7 +121,7 @@ TEST_F(RandrHardwareTest, noticesEveryChangeAndTheServersEnd) {
     EXPECT_FALSE(hardware->listHeads(none));
     EXPECT_TRUE(none.empty());
     for (const std::string& display : {server.display(), std::string()}) {
-        EXPECT_EQ(RandrHardware::open(display).result, RandrOpening::Result::unreachable);
+        EXPECT_EQ(RandrHardware::open(display).error(), RandrRefusal::unreachable);
     }
 }
 

@@ -60,19 +60,19 @@ TEST(Journal, SizesBeyondTheDataAreRefused) {
 TEST(Journal, AFileIsReplacedAndReadBackUnlessItIsNoPlainFile) {
     const TemporaryDirectory directory;
     const auto file = directory / "ramps";
-    EXPECT_FALSE(readJournal(file).exists);
-    EXPECT_EQ(writeJournal(file, Journal{}), 0);
-    EXPECT_EQ(writeJournal(file, someJournal()), 0);
-    EXPECT_TRUE(readJournal(file).journal == someJournal());
+    EXPECT_EQ(readJournal(file).error().errorNumber, ENOENT);
+    EXPECT_TRUE(writeJournal(file, Journal{}));
+    EXPECT_TRUE(writeJournal(file, someJournal()));
+    EXPECT_TRUE(readJournal(file) == someJournal());
     using std::filesystem::perms;
     EXPECT_EQ(std::filesystem::status(file).permissions(), perms::owner_read | perms::owner_write);
-    EXPECT_EQ(writeJournal(directory / "none/ramps", Journal{}), ENOENT);
+    EXPECT_EQ(writeJournal(directory / "none/ramps", Journal{}).error().errorNumber, ENOENT);
 
     std::filesystem::create_symlink(file, directory / "link");
     writeText(directory / "other", "something else");
     for (const auto& damaged : {directory / "link", directory / "other", directory.path()}) {
-        EXPECT_TRUE(readJournal(damaged).exists) << damaged;
-        EXPECT_FALSE(readJournal(damaged).journal) << damaged;
+        ASSERT_FALSE(readJournal(damaged)) << damaged;
+        EXPECT_NE(readJournal(damaged).error().errorNumber, ENOENT) << damaged;
     }
 }
 
@@ -90,48 +90,46 @@ using Bytes = std::vector<std::uint8_t>;
 TEST(ColorProfile, ACalibrationIsReadAtTheSizeOfTheRamp) {
     const Channels table = rig::calibration(5);
     const Bytes profile = rig::colorProfile(table);
-    const Ramp same = readCalibration(profile, 256).ramp.value();
+    const Ramp same = readCalibration(profile, 256).value().value();
     EXPECT_EQ(same.red, table[0]);
     EXPECT_EQ(same.green, table[1]);
     EXPECT_EQ(same.blue, table[2]);
-    const Ramp fine = readCalibration(profile, 511).ramp.value();
+    const Ramp fine = readCalibration(profile, 511).value().value();
     for (std::size_t i = 0; i < 255; ++i) {
         EXPECT_EQ(fine.green[2 * i], table[1][i]);
         EXPECT_NEAR(fine.green[2 * i + 1], (table[1][i] + table[1][i + 1]) / 2, 1);
     }
-    const Ramp ends = readCalibration(profile, 2).ramp.value();
+    const Ramp ends = readCalibration(profile, 2).value().value();
     EXPECT_EQ(ends.blue, (std::vector{table[2].front(), table[2].back()}));
 
-    const CalibrationReading plain = readCalibration(rig::plainColorProfile(), 256);
-    EXPECT_FALSE(plain.ramp);
-    EXPECT_EQ(plain.problem, "");
+    EXPECT_EQ(readCalibration(rig::plainColorProfile(), 256).value(), std::nullopt);
 }
 
 TEST(ColorProfile, WhatIsNoneIsRefused) {
     const Bytes good = rig::colorProfile(rig::calibration(5));
     for (std::size_t size = 0; size < good.size(); size += 7) {
-        const CalibrationReading reading = readCalibration({good.data(), size}, 256);
-        EXPECT_FALSE(reading.ramp);
-        EXPECT_NE(reading.problem, "") << size;
+        const auto reading = readCalibration({good.data(), size}, 256);
+        ASSERT_FALSE(reading) << size;
+        EXPECT_NE(reading.error().text, "") << size;
     }
-    EXPECT_NE(readCalibration(Bytes(100000, 0), 256).problem, "");
+    EXPECT_FALSE(readCalibration(Bytes(100000, 0), 256));
     Channels dark;
     dark.fill(std::vector<std::uint16_t>(256));
-    EXPECT_NE(readCalibration(rig::colorProfile(dark), 256).problem, "");
+    EXPECT_FALSE(readCalibration(rig::colorProfile(dark), 256));
 }
 
 TEST(ColorProfile, OnlyRegularFilesOfASensibleSizeAreRead) {
     const TemporaryDirectory directory;
     writeText(directory / "good", "bytes");
-    EXPECT_EQ(readProfileFile(directory / "good").bytes, (Bytes{'b', 'y', 't', 'e', 's'}));
+    EXPECT_EQ(readProfileFile(directory / "good"), (Bytes{'b', 'y', 't', 'e', 's'}));
     writeText(directory / "huge", "");
     std::filesystem::resize_file(directory / "huge", kMaxProfileSize + 1);
     ASSERT_EQ(mkfifo((directory / "fifo").c_str(), 0600), 0);
     for (const auto& path : {directory / "huge", directory / "fifo", directory / "missing",
                              directory.path(), std::filesystem::path("/dev/zero")}) {
-        const ProfileFile file = readProfileFile(path);
-        EXPECT_NE(file.problem, "") << path;
-        EXPECT_TRUE(file.bytes.empty());
+        const auto file = readProfileFile(path);
+        ASSERT_FALSE(file) << path;
+        EXPECT_NE(file.error().text, "") << path;
     }
 }
 

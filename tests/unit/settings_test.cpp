@@ -128,7 +128,7 @@ class SettingsKeeperTest : public DefaultsStoreTest {
 
 TEST_F(SettingsKeeperTest, MakesAPrivateFileInADirectoryOfItsOwn) {
     using std::filesystem::perms;
-    EXPECT_EQ(writeSettingsFile(home / "config/nocturo/file", {{"a", true}}).errorNumber, 0);
+    EXPECT_TRUE(writeSettingsFile(home / "config/nocturo/file", {{"a", true}}));
     for (const auto& [name, permissions] :
          {std::pair("config/nocturo/file", perms{0600}), std::pair("config/nocturo", perms{0700}),
           std::pair("config", perms{0700})}) {
@@ -143,12 +143,12 @@ TEST_F(SettingsKeeperTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {
                       std::chrono::hours(6) + std::chrono::minutes(8) + std::chrono::seconds(38);
     for (const char* content : {"first", "second"}) {
         writeText(path, content);
-        EXPECT_EQ(setAsideDamagedFile(path, when).errorNumber, 0);
+        EXPECT_TRUE(setAsideDamagedFile(path, when));
     }
     ::unsetenv("TZ");
     EXPECT_EQ(readText(path.string() + ".damaged-20261121-090838"), "first");
     EXPECT_EQ(readText(path.string() + ".damaged-20261121-090838-2"), "second");
-    EXPECT_EQ(setAsideDamagedFile(path, when).errorNumber, ENOENT);
+    EXPECT_EQ(setAsideDamagedFile(path, when).error().errorNumber, ENOENT);
 }
 
 TEST_F(SettingsKeeperTest, ABurstOfChangesIsOneWriteWithinASecond) {

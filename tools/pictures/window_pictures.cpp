@@ -104,7 +104,7 @@ int run(const QStringList& arguments) {
     AppWindows windows(controller, defaults, centers);
     const auto displays =
         openDisplays(*parseDisplayChoice("simulated:2"), {"", *runtimeDirectory(), ""}, runLoop);
-    setDisplayServices(displays.services.get());
+    setDisplayServices(displays->services.get());
     NDGroupEffect::effect();
     if (arguments[1] == QLatin1String("preferences")) {
         NDGroupEffect::effect().addEffect("NDInvertEffect");

@@ -17,10 +17,6 @@ struct CloseProfile {
 };
 using Profile = std::unique_ptr<void, CloseProfile>;
 
-CalibrationReading refused(std::string problem) {
-    return {std::nullopt, std::move(problem)};
-}
-
 // The library opens a profile whose end is missing and reports the tags there as absent.
 bool isCutShort(std::span<const std::uint8_t> profile) {
     const std::uint32_t size = std::uint32_t{profile[0]} << 24 | std::uint32_t{profile[1]} << 16 |
@@ -35,24 +31,25 @@ bool risesOnNoChannel(const Ramp& ramp) {
 
 } // namespace
 
-CalibrationReading readCalibration(std::span<const std::uint8_t> profile, std::uint32_t rampSize) {
+Result<std::optional<Ramp>> readCalibration(std::span<const std::uint8_t> profile,
+                                            std::uint32_t rampSize) {
     if (profile.size() < kHeaderSize) {
-        return refused("it is not a color profile");
+        return failed("it is not a color profile");
     }
     if (isCutShort(profile)) {
-        return refused("it is cut short or not a color profile");
+        return failed("it is cut short or not a color profile");
     }
     const Profile opened(
         cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
     if (opened == nullptr) {
-        return refused("it is not a color profile");
+        return failed("it is not a color profile");
     }
     if (!cmsIsTag(opened.get(), cmsSigVcgtTag)) {
-        return {};
+        return std::nullopt;
     }
     const auto* curves = static_cast<cmsToneCurve* const*>(cmsReadTag(opened.get(), cmsSigVcgtTag));
     if (curves == nullptr || curves[0] == nullptr || curves[1] == nullptr || curves[2] == nullptr) {
-        return refused("its calibration is damaged");
+        return failed("its calibration is damaged");
     }
     Ramp ramp(rampSize);
     const std::array<std::vector<std::uint16_t>*, 3> channels = {&ramp.red, &ramp.green,
@@ -66,9 +63,9 @@ CalibrationReading readCalibration(std::span<const std::uint8_t> profile, std::u
         channelFromTable(table.data(), rampSize, *channels[channel]);
     }
     if (risesOnNoChannel(ramp)) {
-        return refused("its calibration would leave the screen unreadable");
+        return failed("its calibration would leave the screen unreadable");
     }
-    return {std::move(ramp), {}};
+    return ramp;
 }
 
 } // namespace nocturo

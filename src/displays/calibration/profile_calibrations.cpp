@@ -22,22 +22,21 @@ CalibrationAnswer ProfileCalibrations::calibration(const std::string& connector,
                                                    std::uint32_t rampSize) {
     const ColordProfiles::Answer assigned = colord_.profileOf(connector);
     if (!assigned.file.empty()) {
-        const ProfileFile file = readProfileFile(assigned.file);
-        CalibrationReading reading = file.problem.empty()
-                                         ? readCalibration(file.bytes, rampSize)
-                                         : CalibrationReading{std::nullopt, file.problem};
-        if (reading.problem.empty()) {
-            return {std::move(reading.ramp), true};
+        auto found = readProfileFile(assigned.file).and_then([&](const auto& bytes) {
+            return readCalibration(bytes, rampSize);
+        });
+        if (found) {
+            return {std::move(*found), true};
         }
-        refuse(assigned.file, reading.problem);
+        refuse(assigned.file, found.error());
     }
     if (rootProfiles_ != nullptr) {
         if (const auto profile = rootProfiles_->profileOf(connector)) {
-            CalibrationReading reading = readCalibration(profile->bytes, rampSize);
-            if (reading.problem.empty()) {
-                return {std::move(reading.ramp), assigned.settled};
+            auto found = readCalibration(profile->bytes, rampSize);
+            if (found) {
+                return {std::move(*found), assigned.settled};
             }
-            refuse(profile->property, reading.problem);
+            refuse(profile->property, found.error());
         }
     }
     return {std::nullopt, assigned.settled};
@@ -74,10 +73,10 @@ bool ProfileCalibrations::waitForAnswers(std::chrono::milliseconds patience) {
     return true;
 }
 
-void ProfileCalibrations::refuse(const std::string& what, const std::string& problem) {
+void ProfileCalibrations::refuse(const std::string& what, const Problem& problem) {
     if (refused_.insert(what).second) {
         logWarning(kLogDisplays,
-                   "The color profile " + what + " is not used, because " + problem + ".");
+                   "The color profile " + what + " is not used, because " + problem.text + ".");
     }
 }
 

@@ -32,7 +32,7 @@ class ProfileCalibrations final : public CalibrationSource {
     std::vector<int> descriptors() const;
 
   private:
-    void refuse(const std::string& what, const std::string& problem);
+    void refuse(const std::string& what, const Problem& problem);
 
     ColordProfiles colord_;
     std::unique_ptr<RootProfiles> rootProfiles_; // may be null

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "base/result.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <string>
 #include <vector>
 
 namespace nocturo {
@@ -11,13 +12,8 @@ namespace nocturo {
 /// Profiles of displays have kilobytes, rarely a few megabytes.
 inline constexpr std::size_t kMaxProfileSize = 16U << 20;
 
-struct ProfileFile {
-    std::vector<std::uint8_t> bytes;
-    std::string problem; // why there are none, a clause; empty when the file was read
-};
-
-/// Reads a regular file of at most kMaxProfileSize bytes. Never waits for what is none, such as a
-/// pipe.
-ProfileFile readProfileFile(const std::filesystem::path& path);
+/// Reads a regular file of at most kMaxProfileSize bytes; the problem is a clause. Never waits for
+/// what is none, such as a pipe.
+Result<std::vector<std::uint8_t>> readProfileFile(const std::filesystem::path& path);
 
 } // namespace nocturo

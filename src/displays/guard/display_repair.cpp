@@ -4,6 +4,7 @@
 #include "displays/guard/journal.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <string>
 
 // The mark on the server says whether displays are changed and by whom, the journal how they were.
@@ -28,13 +29,13 @@ constexpr auto kWaitForCalibrations = 500ms;
 
 // What the journal says of that run; nothing when the file is missing, damaged or another run's.
 std::optional<Journal> journalOf(std::uint64_t token, const std::filesystem::path& file) {
-    std::optional<Journal> journal = readJournal(file).journal;
-    return journal && journal->token == token ? std::move(journal) : std::nullopt;
+    Result<Journal> journal = readJournal(file);
+    return journal && journal->token == token ? std::optional(std::move(*journal)) : std::nullopt;
 }
 
 void setDamagedAside(const std::filesystem::path& file) {
-    const JournalReading reading = readJournal(file);
-    if (reading.exists && !reading.journal) {
+    const Result<Journal> journal = readJournal(file);
+    if (!journal && journal.error().errorNumber != ENOENT) {
         std::error_code ignored;
         std::filesystem::rename(file, file.native() + ".damaged", ignored);
     }

@@ -60,13 +60,13 @@ std::filesystem::path guardProgram() {
 
 GuardProcess::GuardProcess() : ends_(epoll_create1(EPOLL_CLOEXEC)) {}
 
-int GuardProcess::start(const std::vector<std::string>& arguments) {
+Result<void> GuardProcess::start(const std::vector<std::string>& arguments) {
     if (isRunning()) {
-        return 0;
+        return {};
     }
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
-        return errno;
+        return failedWith(errno);
     }
     FileDescriptor ours(ends[0]);
     const FileDescriptor guards(ends[1]);
@@ -82,13 +82,13 @@ int GuardProcess::start(const std::vector<std::string>& arguments) {
     if (const int error =
             SpawnSettings().spawn(words.front(), pointers.data(), guards.get(), process_)) {
         process_ = -1;
-        return error;
+        return failedWith(error);
     }
     epoll_event interest{};
     interest.events = EPOLLIN | EPOLLRDHUP;
     epoll_ctl(ends_.get(), EPOLL_CTL_ADD, ours.get(), &interest);
     connection_ = std::move(ours);
-    return 0;
+    return {};
 }
 
 bool GuardProcess::takeEnd() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/file_descriptor.h"
+#include "base/result.h"
 
 #include <csignal>
 #include <filesystem>
@@ -27,8 +28,8 @@ class GuardProcess {
   public:
     GuardProcess();
 
-    /// Starts the guard where none is running; 0, or the error number.
-    int start(const std::vector<std::string>& arguments);
+    /// Starts the guard where none is running.
+    Result<void> start(const std::vector<std::string>& arguments);
 
     bool isRunning() const { return connection_.get() >= 0; }
 

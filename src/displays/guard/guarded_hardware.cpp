@@ -3,7 +3,6 @@
 #include "base/log.h"
 
 #include <algorithm>
-#include <cstring>
 #include <poll.h>
 #include <random>
 #include <unistd.h>
@@ -101,13 +100,13 @@ void GuardedHardware::protect() {
 void GuardedHardware::startGuard() {
     std::string reason = "it does not stay alive";
     if (guard_.isRunning() || startsLeft_-- > 0) {
-        const int error =
+        const Result<void> started =
             guard_.start({"--guard", displayName_, journalFile_.string(),
                           std::to_string(ownMark_.token), std::to_string(ownMark_.window)});
-        if (error == 0) {
+        if (started) {
             return;
         }
-        reason = std::strerror(error);
+        reason = started.error().text;
     }
     if (!guardFailureLogged_) {
         guardFailureLogged_ = true;
@@ -123,12 +122,12 @@ void GuardedHardware::storeJournal() {
     for (const auto& [crtc, known] : crtcs_) {
         journal.entries.push_back({crtc, known.system});
     }
-    const int error = writeJournal(journalFile_, journal);
-    journalIsStale_ = error != 0;
-    if (error != 0 && !journalFailureLogged_) {
+    const Result<void> written = writeJournal(journalFile_, journal);
+    journalIsStale_ = !written;
+    if (!written && !journalFailureLogged_) {
         journalFailureLogged_ = true;
         logWarning(kLogDisplays, "The displays' own colors cannot be kept in " +
-                                     journalFile_.string() + " (" + std::strerror(error) +
+                                     journalFile_.string() + " (" + written.error().text +
                                      "): if Nocturo is killed, the displays get plain ones.");
     }
 }

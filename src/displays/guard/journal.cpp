@@ -1,14 +1,14 @@
 #include "displays/guard/journal.h"
 
-#include "base/file_descriptor.h"
+#include "base/files.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <type_traits>
+#include <unistd.h>
+#include <utility>
 
 namespace nocturo {
 
@@ -123,39 +123,26 @@ std::filesystem::path journalFile(const std::filesystem::path& runtimeDirectory,
     return runtimeDirectory / ("ramps" + server);
 }
 
-int writeJournal(const std::filesystem::path& file, const Journal& journal) {
-    std::string temporary = file.native() + ".new";
-    const FileDescriptor descriptor(open(temporary.c_str(),
-                                         O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW,
-                                         S_IRUSR | S_IWUSR));
-    const bool done = descriptor.get() >= 0 &&
-                      writeAll(descriptor.get(), journalBytes(journal)) == 0 &&
-                      std::rename(temporary.c_str(), file.c_str()) == 0;
-    return done ? 0 : errno;
+Result<void> writeJournal(const std::filesystem::path& file, const Journal& journal) {
+    const auto written = replaceFile(file, journalBytes(journal), S_IRUSR | S_IWUSR,
+                                     Durability::lastsWhileTheSystemRuns);
+    return written.map([](const auto&) {});
 }
 
-JournalReading readJournal(const std::filesystem::path& file) {
-    JournalReading reading;
-    const FileDescriptor descriptor(
-        open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    reading.exists = descriptor.get() >= 0 || errno != ENOENT;
-    struct stat status {};
-    if (descriptor.get() < 0 || fstat(descriptor.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
-        status.st_uid != geteuid() || status.st_size < 0 ||
-        static_cast<std::size_t>(status.st_size) > kLongestJournal) {
-        return reading;
+Result<Journal> readJournal(const std::filesystem::path& file) {
+    const auto opened = openRegularFile(file, O_NOFOLLOW);
+    if (!opened) {
+        return tl::unexpected(opened.error());
     }
-    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-    std::size_t filled = 0;
-    while (filled < bytes.size()) {
-        const ssize_t count = read(descriptor.get(), bytes.data() + filled, bytes.size() - filled);
-        if (count == 0 || (count < 0 && errno != EINTR)) {
-            break;
-        }
-        filled += count > 0 ? static_cast<std::size_t>(count) : 0;
+    if (opened->status.st_uid != geteuid()) {
+        return failed("it is another user's");
     }
-    reading.journal = journalFromBytes(std::string_view(bytes).substr(0, filled));
-    return reading;
+    const auto bytes = readAll(opened->descriptor, kLongestJournal);
+    if (!bytes) {
+        return tl::unexpected(bytes.error());
+    }
+    auto journal = journalFromBytes(*bytes);
+    return journal ? Result<Journal>(std::move(*journal)) : failed("it is damaged");
 }
 
 } // namespace nocturo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/result.h"
 #include "displays/ramp.h"
 
 #include <cstdint>
@@ -37,16 +38,12 @@ std::optional<Journal> journalFromBytes(std::string_view bytes);
 std::filesystem::path journalFile(const std::filesystem::path& runtimeDirectory,
                                   std::string_view displayName);
 
-/// Replaces the file in one step; 0 or the error number, with which the file is as it was. It does
-/// not wait for the disk: a machine that loses power loses the X server and its ramps as well.
-int writeJournal(const std::filesystem::path& file, const Journal& journal);
+/// Replaces the file in one step; on failure it is as it was. It does not wait for the disk: a
+/// machine that loses power loses the X server and its ramps as well.
+Result<void> writeJournal(const std::filesystem::path& file, const Journal& journal);
 
-/// What readJournal found. Another user's file, a link and a directory count as damaged.
-struct JournalReading {
-    bool exists = false;
-    std::optional<Journal> journal; // none in a file that is damaged or cannot be read
-};
-
-JournalReading readJournal(const std::filesystem::path& file);
+/// Fails with ENOENT where there is no file, and otherwise where it is damaged or cannot be read.
+/// Another user's file, a link and a directory count as damaged.
+Result<Journal> readJournal(const std::filesystem::path& file);
 
 } // namespace nocturo

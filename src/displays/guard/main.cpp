@@ -39,12 +39,12 @@ bool waitForNocturo(RandrHardware& hardware) {
 
 // Says nothing of a server that cannot be reached: Nocturo cannot reach it either, and says so.
 int guard(const std::string& display, const char* journal, const ServerMark::Content& nocturo) {
-    const RandrOpening opening = RandrHardware::open(display);
-    if (opening.hardware == nullptr) {
+    const auto hardware = RandrHardware::open(display);
+    if (!hardware) {
         return kFailed;
     }
-    if (waitForNocturo(*opening.hardware)) {
-        repairDisplaysAfter(nocturo, *opening.hardware, journal);
+    if (waitForNocturo(**hardware)) {
+        repairDisplaysAfter(nocturo, **hardware, journal);
     }
     return kDone;
 }

@@ -6,16 +6,15 @@
 
 namespace nocturo {
 
-std::string openingProblem(RandrOpening::Result result, const std::string& xDisplay) {
-    switch (result) {
-    case RandrOpening::Result::waylandGuest:
+std::string openingProblem(RandrRefusal refusal, const std::string& xDisplay) {
+    switch (refusal) {
+    case RandrRefusal::waylandGuest:
         return translated("The X server %@ is only a guest of a Wayland session and cannot change "
                           "its colors; displays under Wayland come with a later version.",
                           {xDisplay});
-    case RandrOpening::Result::noRandr:
+    case RandrRefusal::noRandr:
         return translated("The X server %@ has no RandR 1.3 or later.", {xDisplay});
-    case RandrOpening::Result::unreachable:
-    case RandrOpening::Result::opened:
+    case RandrRefusal::unreachable:
         break;
     }
     return translated("The X server %@ cannot be reached.", {xDisplay});

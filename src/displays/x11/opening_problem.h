@@ -6,8 +6,7 @@
 
 namespace nocturo {
 
-/// One sentence, in the user's language, on why the X server's displays were not opened. `result`
-/// is not `opened`.
-std::string openingProblem(RandrOpening::Result result, const std::string& xDisplay);
+/// One sentence, in the user's language, on why the X server's displays were not opened.
+std::string openingProblem(RandrRefusal refusal, const std::string& xDisplay);
 
 } // namespace nocturo

@@ -21,10 +21,6 @@ namespace {
 // 256 blocks of 128 bytes is the longest EDID there can be; counted in units of four bytes.
 constexpr std::uint32_t kLongestEdid = 256 * 128 / 4;
 
-RandrOpening refused(RandrOpening::Result result) {
-    return {result, nullptr};
-}
-
 std::vector<std::uint8_t> edidBytes(const xcb_randr_get_output_property_reply_t* reply) {
     if (!reply || reply->format != 8) {
         return {};
@@ -44,16 +40,16 @@ void makeConnectorUnique(const std::vector<Head>& others, std::string& connector
 
 } // namespace
 
-RandrOpening RandrHardware::open(const std::string& displayName) {
-    using Result = RandrOpening::Result;
+Result<std::unique_ptr<RandrHardware>, RandrRefusal>
+RandrHardware::open(const std::string& displayName) {
     if (displayName.empty()) {
-        return refused(Result::unreachable);
+        return tl::unexpected(RandrRefusal::unreachable);
     }
     int preferredScreen = 0;
     XcbConnection connection(xcb_connect(displayName.c_str(), &preferredScreen));
     auto* raw = connection.get();
     if (xcb_connection_has_error(raw)) {
-        return refused(Result::unreachable);
+        return tl::unexpected(RandrRefusal::unreachable);
     }
 
     xcb_prefetch_maximum_request_length(raw);
@@ -66,19 +62,19 @@ RandrOpening RandrHardware::open(const std::string& displayName) {
 
     const auto* extension = xcb_get_extension_data(raw, &xcb_randr_id);
     if (!extension || !extension->present) {
-        return refused(Result::noRandr);
+        return tl::unexpected(RandrRefusal::noRandr);
     }
     const XcbReply<xcb_randr_query_version_reply_t> version(
         xcb_randr_query_version_reply(raw, xcb_randr_query_version(raw, 1, 5), nullptr));
     const auto revision = [](auto major, auto minor) { return std::pair(major, minor); };
     if (!version || revision(version->major_version, version->minor_version) < revision(1u, 3u)) {
-        return refused(Result::noRandr);
+        return tl::unexpected(RandrRefusal::noRandr);
     }
 
     std::unique_ptr<RandrHardware> hardware(
         new RandrHardware(std::move(connection), preferredScreen));
     if ((guest && guest->present) || isWaylandGuest(raw, hardware->roots_.front())) {
-        return refused(Result::waylandGuest);
+        return tl::unexpected(RandrRefusal::waylandGuest);
     }
     if (edid) {
         hardware->edidAtom_ = edid->atom;
@@ -87,7 +83,7 @@ RandrOpening RandrHardware::open(const std::string& displayName) {
     hardware->maximumRequestLength_ = xcb_get_maximum_request_length(raw);
     hardware->subscribe(revision(version->major_version, version->minor_version) >=
                         revision(1u, 4u));
-    return {Result::opened, std::move(hardware)};
+    return hardware;
 }
 
 RandrHardware::RandrHardware(XcbConnection connection, int preferredScreen)

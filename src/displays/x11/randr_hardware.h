@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/result.h"
 #include "displays/gamma_hardware.h"
 #include "displays/x11/crtc_modes.h"
 #include "displays/x11/lit_outputs.h"
@@ -13,7 +14,12 @@
 
 namespace nocturo {
 
-struct RandrOpening;
+/// Why the displays of an X server cannot be opened; openingProblem() says it to users.
+enum class RandrRefusal {
+    unreachable,
+    noRandr,      // RandR is missing or older than 1.3
+    waylandGuest, // Xwayland: its ramps change nothing
+};
 
 /// The displays of an X server, through RandR 1.3 or later. All screens of the server are covered;
 /// the primary output is that of the screen the display name chooses.
@@ -23,7 +29,8 @@ struct RandrOpening;
 class RandrHardware final : public GammaHardware {
   public:
     /// Connects to the server of a display name such as ":0".
-    static RandrOpening open(const std::string& displayName);
+    static Result<std::unique_ptr<RandrHardware>, RandrRefusal>
+    open(const std::string& displayName);
 
     std::string_view name() const override { return "randr"; }
 
@@ -73,19 +80,6 @@ class RandrHardware final : public GammaHardware {
     std::vector<std::uint32_t> unplugged_; // outputs that are lit although nothing is connected
     bool refusalLogged_ = false;
     bool lossCounted_ = false;
-};
-
-/// What came of opening a display; openingProblem() says it to users.
-struct RandrOpening {
-    enum class Result {
-        opened,
-        unreachable,
-        noRandr,      // RandR is missing or older than 1.3
-        waylandGuest, // Xwayland: its ramps change nothing
-    };
-
-    Result result = Result::opened;
-    std::unique_ptr<RandrHardware> hardware; // null unless opened
 };
 
 } // namespace nocturo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/property_value.h"
+#include "base/result.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -39,20 +40,11 @@ struct PropertyListFileContents {
 /// Reads the property list at `path`, XML or binary. Never blocks on what is no ordinary file.
 PropertyListFileContents readPropertyListFile(const std::filesystem::path& path);
 
-struct PropertyListFileWrite {
-    int errorNumber = 0;            // 0 when it was written
-    std::optional<FileStamp> stamp; // of the new file, when it was written
-};
-
 /// Replaces the file at `path` as a whole by XML, so that readers and a power cut find either the
 /// old content or the new one. A link at `path` stays and its target is replaced. The permissions
 /// of an existing file are kept; those of a new one are `newFileMode` less the process's umask. On
-/// failure the old file is as it was and nothing else is left behind.
-PropertyListFileWrite writePropertyListFile(const std::filesystem::path& path,
-                                            const PropertyDictionary& dictionary,
-                                            mode_t newFileMode);
-
-/// `path`, or what it points to through any number of links, whether that exists or not.
-std::filesystem::path followLinks(std::filesystem::path path);
+/// failure the old file is as it was and nothing else is left behind. Returns the new file's stamp.
+Result<FileStamp> writePropertyListFile(const std::filesystem::path& path,
+                                        const PropertyDictionary& dictionary, mode_t newFileMode);
 
 } // namespace nocturo
