@@ -108,8 +108,8 @@ void NDAppController::showRefusedDocuments(const std::vector<std::string>& paths
 }
 
 void NDAppController::setEffectActive(bool active, bool saveState) {
-    if (active && globalEffect_ == nullptr) {
-        return; // asked for while the launch still waits for an answer
+    if (globalEffect_ == nullptr) {
+        return; // asked for while the launch still waits for an answer that may forbid it
     }
     if (saveState) {
         defaults_.setBool(active, kEffectActive);

@@ -8,6 +8,7 @@
 #include "hotkeys/action_target.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -69,17 +70,19 @@ class NDAppController : public ActionTarget {
     /// Warns of f.lux, registers the defaults, switches the effect as "ActivateAtLaunch" and the
     /// saved "EffectActive" say, warns when no effect is selected, registers the hot key, shows the
     /// status item if it is wanted, makes the screen menus, and starts following the workspace and
-    /// the displays' colour profiles. Waits for the answers to the warnings; until the effect is
-    /// back nothing can switch it on. False when the user would rather quit: then nothing was
-    /// registered and no display touched.
-    bool applicationDidFinishLaunching();
+    /// the displays' colour profiles. Goes on after a warning when it is answered; until the effect
+    /// is back nothing switches it. `finished` is called at the end, which may be at once: with
+    /// false when the user would rather quit, and then nothing was registered and no display
+    /// touched.
+    void applicationDidFinishLaunching(std::function<void(bool launched)> finished = {});
 
     /// Registers the default settings and starts following changes of settings and screens.
     void initDefaults();
 
     /// Tells the user, once in a run, that no effect is selected, and offers the preferences.
-    /// Nothing before the launch.
-    void warnIfNoEffects();
+    /// Nothing before the launch. `done` is called when the answer has been followed, or at once
+    /// where nothing is asked.
+    void warnIfNoEffects(std::function<void()> done = {});
 
     /// The user started the application again: toggles the effect if "ActivateOnClick" is set.
     /// Always false: nothing more is to be done.
@@ -185,7 +188,9 @@ class NDAppController : public ActionTarget {
   private:
     using Handler = void (NDAppController::*)();
     void observe(NotificationCenter& center, std::string_view name, Handler handler);
+    void bringEffectBack(std::function<void(bool launched)> finished);
     void restoreEffect();
+    void appearOnDesktop();
     void setActivateItemTitles();
 
     DefaultsStore& defaults_;

@@ -1,6 +1,7 @@
 // The launch, step by step. The order is the point: f.lux is looked for before anything is
 // registered or written; the effect is back before anything can ask a question; the status item
-// waits until the state that it shows is certain.
+// waits until the state that it shows is certain. A step that asks ends there, and its answer goes
+// on with the next one.
 
 #include "app/app_controller.h"
 #include "app/desktop_face.h"
@@ -12,22 +13,45 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_table.h"
 
+#include <utility>
+
 namespace nocturo {
 
 namespace {
 
 constexpr std::string_view kPreferenceWindowVisible = "PreferenceWindowVisible";
 
+Alert noEffectWarning() {
+    Alert alert;
+    alert.title = "No effect has been chosen.";
+    alert.message = "You should check at least one box in the preference panel relating to the "
+                    "screen effect, or Nocturo will have no visible effect on your screen.";
+    alert.defaultButton = "Open preferences...";
+    alert.alternateButton = "Cancel";
+    return alert;
+}
+
 } // namespace
 
-bool NDAppController::applicationDidFinishLaunching() {
+void NDAppController::applicationDidFinishLaunching(std::function<void(bool launched)> finished) {
     if (userInterface_ != nullptr) {
         userInterface_->setAboutBoxBackgroundColor({0.81, 0.81, 0.84});
     }
-    if (installedApplications_ != nullptr && desktop_ != nullptr &&
-        NDCheckForFlux(defaults_, *installedApplications_, *desktop_) == FluxCheck::quit) {
-        return false;
+    if (installedApplications_ == nullptr || desktop_ == nullptr) {
+        bringEffectBack(std::move(finished));
+        return;
     }
+    NDCheckForFlux(defaults_, *installedApplications_, *desktop_,
+                   [this, finished = std::move(finished)](bool goOn) {
+                       if (goOn) {
+                           bringEffectBack(finished);
+                       } else if (finished) {
+                           finished(false);
+                       }
+                   });
+}
+
+void NDAppController::bringEffectBack(std::function<void(bool launched)> finished) {
     initDefaults();
     screenControllers_.emplace();
     globalEffect_ = std::make_shared<NDGroupEffect>();
@@ -37,7 +61,15 @@ bool NDAppController::applicationDidFinishLaunching() {
                                [this] { applicationDidFinishLaunching(); });
     restoreEffect();
     centers_.local.removeObserver(this, NSApplicationDidFinishLaunchingNotification);
-    warnIfNoEffects();
+    warnIfNoEffects([this, finished = std::move(finished)] {
+        appearOnDesktop();
+        if (finished) {
+            finished(true);
+        }
+    });
+}
+
+void NDAppController::appearOnDesktop() {
     statusItemReady_ = true;
     updateHotKey();
     updateStatusItem();
@@ -52,7 +84,6 @@ bool NDAppController::applicationDidFinishLaunching() {
     observe(centers_.distributed, NSScreenColorSpaceDidChangeNotification,
             &NDAppController::updateEffect);
     CGDisplayRegisterReconfigurationCallback(NDDisplayReconfigurationCallback, this);
-    return true;
 }
 
 void NDAppController::initDefaults() {
@@ -74,24 +105,24 @@ void NDAppController::restoreEffect() {
     }
 }
 
-void NDAppController::warnIfNoEffects() {
-    if (globalEffect_ == nullptr || didCheckForNoEffectsAtStartup_) {
-        return;
-    }
+void NDAppController::warnIfNoEffects(std::function<void()> done) {
+    const bool check = globalEffect_ != nullptr && !didCheckForNoEffectsAtStartup_;
     // Before the alert, which is answered while everything else goes on.
-    didCheckForNoEffectsAtStartup_ = true;
-    if (globalEffect_->effectCount() != 0 || desktop_ == nullptr) {
+    didCheckForNoEffectsAtStartup_ = didCheckForNoEffectsAtStartup_ || check;
+    if (!check || globalEffect_->effectCount() != 0 || desktop_ == nullptr) {
+        if (done) {
+            done();
+        }
         return;
     }
-    Alert alert;
-    alert.title = "No effect has been chosen.";
-    alert.message = "You should check at least one box in the preference panel relating to the "
-                    "screen effect, or Nocturo will have no visible effect on your screen.";
-    alert.defaultButton = "Open preferences...";
-    alert.alternateButton = "Cancel";
-    if (desktop_->runAlert(alert) == AlertAnswer::defaultButton) {
-        openPreferences();
-    }
+    desktop_->showAlert(noEffectWarning(), [this, done = std::move(done)](AlertAnswer answer) {
+        if (answer == AlertAnswer::defaultButton) {
+            openPreferences();
+        }
+        if (done) {
+            done();
+        }
+    });
 }
 
 void NDAppController::updateStatusItem() {

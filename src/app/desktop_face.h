@@ -1,11 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace nocturo {
 
-enum class AlertAnswer { defaultButton, alternateButton };
+enum class AlertAnswer { defaultButton, alternateButton, unseen };
 
 /// A question with two buttons. All texts are English keys of the table.
 struct Alert {
@@ -16,7 +17,7 @@ struct Alert {
     std::vector<std::string> messageArguments;
     const char* defaultButton = "";
     const char* alternateButton = "";
-    AlertAnswer harmless = AlertAnswer::alternateButton; // when it is closed without a choice
+    AlertAnswer closed = AlertAnswer::alternateButton; // what closing it without a choice means
     bool critical = false;
     std::string icon; // a name in the icon theme or a path; empty for the usual one
 };
@@ -27,10 +28,11 @@ class DesktopFace {
   public:
     virtual ~DesktopFace() = default;
 
-    /// Shows the alert and returns when it is answered; the application goes on meanwhile. Where
-    /// nobody can see it, it is told in one sentence and answered with the harmless button. When
-    /// the application is told to end meanwhile, the answer is the alternate button.
-    virtual AlertAnswer runAlert(const Alert& alert) = 0;
+    /// Shows the alert; the application goes on meanwhile. `answered` is called once, when it is
+    /// answered, which may be at once: where nobody can see it, the alert is told in one sentence
+    /// and the answer is "unseen". Never called when the application ends before.
+    virtual void showAlert(const Alert& alert,
+                           std::function<void(AlertAnswer answer)> answered) = 0;
 
     /// Says, in a window that holds nothing up, that these files are no effect documents. Does
     /// nothing where nobody can see it.

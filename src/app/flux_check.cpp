@@ -3,6 +3,8 @@
 #include "app/desktop_face.h"
 #include "settings/defaults_store.h"
 
+#include <utility>
+
 namespace nocturo {
 
 namespace {
@@ -11,26 +13,7 @@ constexpr std::string_view kFluxWarned = "ZQFluxWarned";
 constexpr std::string_view kFluxIdentifier = "org.herf.Flux";
 constexpr const char* kOwnName = "Nocturo";
 
-} // namespace
-
-FluxCheck NDCheckForFlux(DefaultsStore& defaults, const InstalledApplications& applications,
-                         DesktopFace& desktop) {
-    if (defaults.boolForKey(kFluxWarned)) {
-        return FluxCheck::nothingShown;
-    }
-    const auto flux = applications.applicationWithBundleIdentifier(kFluxIdentifier);
-    if (!flux) {
-        return FluxCheck::nothingShown;
-    }
-    if (!NDShowFluxWarning(*flux, desktop)) {
-        return FluxCheck::quit;
-    }
-    defaults.setBool(true, kFluxWarned);
-    defaults.synchronize();
-    return FluxCheck::continued;
-}
-
-bool NDShowFluxWarning(const InstalledApplication& flux, DesktopFace& desktop) {
+Alert fluxWarning(const InstalledApplication& flux) {
     Alert alert;
     alert.table = "ZQFluxCheck";
     alert.title = "%@ is present on this computer.";
@@ -39,10 +22,36 @@ bool NDShowFluxWarning(const InstalledApplication& flux, DesktopFace& desktop) {
     alert.messageArguments = {kOwnName, flux.displayName};
     alert.defaultButton = "Continue";
     alert.alternateButton = "Quit";
-    alert.harmless = AlertAnswer::defaultButton;
+    alert.closed = AlertAnswer::defaultButton;
     alert.critical = true;
     alert.icon = flux.icon;
-    return desktop.runAlert(alert) == AlertAnswer::defaultButton;
+    return alert;
+}
+
+} // namespace
+
+void NDCheckForFlux(DefaultsStore& defaults, const InstalledApplications& applications,
+                    DesktopFace& desktop, std::function<void(bool goOn)> checked) {
+    const auto flux = defaults.boolForKey(kFluxWarned)
+                          ? std::nullopt
+                          : applications.applicationWithBundleIdentifier(kFluxIdentifier);
+    if (!flux) {
+        checked(true);
+        return;
+    }
+    NDShowFluxWarning(*flux, desktop,
+                      [&defaults, checked = std::move(checked)](AlertAnswer answer) {
+                          if (answer == AlertAnswer::defaultButton) {
+                              defaults.setBool(true, kFluxWarned);
+                              defaults.synchronize();
+                          }
+                          checked(answer != AlertAnswer::alternateButton);
+                      });
+}
+
+void NDShowFluxWarning(const InstalledApplication& flux, DesktopFace& desktop,
+                       std::function<void(AlertAnswer answer)> answered) {
+    desktop.showAlert(fluxWarning(flux), std::move(answered));
 }
 
 } // namespace nocturo

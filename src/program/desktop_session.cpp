@@ -26,27 +26,23 @@ DesktopSession::~DesktopSession() {
 void DesktopSession::launch(const QStringList& documents,
                             const std::function<void(const std::string&)>& refused) {
     core_.face.announceChanges();
-    if (!launchController()) {
-        core_.runLoop.quit();
-        return;
-    }
-    listen();
-    const std::string problem = openDocuments(core_.controller, documents);
-    if (!problem.empty()) {
-        refused(problem);
-    }
-    windowRestoration_.restore();
-    windowRestoration_.startKeeping();
-}
-
-/// False when the user would rather quit.
-bool DesktopSession::launchController() {
-    bool launched = false;
+    const auto goOn = [this, documents, refused](bool launched) {
+        if (!launched) {
+            core_.runLoop.quit();
+            return;
+        }
+        listen();
+        const std::string problem = openDocuments(core_.controller, documents);
+        if (!problem.empty()) {
+            refused(problem);
+        }
+        windowRestoration_.restore();
+        windowRestoration_.startKeeping();
+    };
     core_.centers.local.addObserver(
         &core_.controller, NSApplicationDidFinishLaunchingNotification,
-        [&] { launched = core_.controller.applicationDidFinishLaunching(); });
+        [this, goOn] { core_.controller.applicationDidFinishLaunching(goOn); });
     core_.centers.local.post(NSApplicationDidFinishLaunchingNotification);
-    return launched;
 }
 
 void DesktopSession::listen() {

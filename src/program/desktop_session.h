@@ -27,9 +27,9 @@ class DesktopSession {
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;
 
-    /// The launch, which may ask the user and be told to end meanwhile: to be called in the event
-    /// loop. Ends the loop when the user would rather quit. `refused` is given a sentence where
-    /// some of the documents, absolute paths, could not be opened.
+    /// The launch, which may ask the user and goes on when it is answered: to be called in the
+    /// event loop. Ends the loop when the user would rather quit. `refused` is given a sentence
+    /// where some of the documents, absolute paths, could not be opened.
     void launch(const QStringList& documents,
                 const std::function<void(const std::string&)>& refused);
 
@@ -37,7 +37,6 @@ class DesktopSession {
     void end() const { windowRestoration_.save(); }
 
   private:
-    bool launchController();
     void listen();
 
     Core& core_;

@@ -5,10 +5,11 @@
 #include "desktop/qt/localized.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QIcon>
 #include <QPushButton>
 #include <QStyle>
+
+#include <utility>
 
 namespace nocturo {
 
@@ -21,22 +22,6 @@ QString text(const Alert& alert, const char* english, const std::vector<std::str
     }
     return filled(localized(english, alert.table), list);
 }
-
-// Ending the application closes its windows, which is no answer.
-class EndWatch : public QObject {
-  public:
-    EndWatch() { qApp->installEventFilter(this); }
-    bool ended() const { return ended_; }
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        ended_ = ended_ || (watched == qApp && event->type() == QEvent::Quit);
-        return false;
-    }
-
-  private:
-    bool ended_ = false;
-};
 
 bool canBeSeen() {
     return QGuiApplication::platformName() != QLatin1String("offscreen");
@@ -55,29 +40,33 @@ void setIcon(QMessageBox& box, const Alert& alert) {
 
 } // namespace
 
-AlertAnswer runAlertBox(const Alert& alert) {
+std::unique_ptr<QMessageBox> shownAlert(const Alert& alert,
+                                        std::function<void(AlertAnswer answer)> answered) {
     const QString title = text(alert, alert.title, alert.titleArguments);
     if (!canBeSeen()) {
         logWarning(kLogApp, title.toStdString());
-        return alert.harmless;
+        return nullptr;
     }
-    const EndWatch end;
-    QMessageBox box;
-    setIcon(box, alert);
-    box.setWindowTitle(QGuiApplication::applicationDisplayName());
-    box.setText(title);
-    box.setInformativeText(text(alert, alert.message, alert.messageArguments));
+    auto box = std::make_unique<QMessageBox>();
+    setIcon(*box, alert);
+    box->setWindowTitle(QGuiApplication::applicationDisplayName());
+    box->setText(title);
+    box->setInformativeText(text(alert, alert.message, alert.messageArguments));
     auto* first =
-        box.addButton(localized(alert.defaultButton, alert.table), QMessageBox::AcceptRole);
+        box->addButton(localized(alert.defaultButton, alert.table), QMessageBox::AcceptRole);
     auto* second =
-        box.addButton(localized(alert.alternateButton, alert.table), QMessageBox::RejectRole);
-    box.setDefaultButton(first);
-    auto* harmless = alert.harmless == AlertAnswer::defaultButton ? first : second;
-    box.setEscapeButton(harmless);
-    widenMessage(box);
-    box.exec();
-    return !end.ended() && box.clickedButton() == first ? AlertAnswer::defaultButton
-                                                        : AlertAnswer::alternateButton;
+        box->addButton(localized(alert.alternateButton, alert.table), QMessageBox::RejectRole);
+    box->setDefaultButton(first);
+    box->setEscapeButton(alert.closed == AlertAnswer::defaultButton ? first : second);
+    widenMessage(*box);
+    QObject::connect(box.get(), &QDialog::finished, box.get(),
+                     [box = box.get(), first, answered = std::move(answered)] {
+                         answered(box->clickedButton() == first ? AlertAnswer::defaultButton
+                                                                : AlertAnswer::alternateButton);
+                     });
+    box->setWindowModality(Qt::ApplicationModal);
+    box->show();
+    return box;
 }
 
 std::unique_ptr<QMessageBox> shownMessage(const QString& title, const QString& message) {

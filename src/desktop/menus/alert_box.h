@@ -4,14 +4,17 @@
 
 #include <QMessageBox>
 
+#include <functional>
 #include <memory>
 
 namespace nocturo {
 
-/// DesktopFace::runAlert with a window of Qt.
-AlertAnswer runAlertBox(const Alert& alert);
+/// The alert on the screen. Null where nobody can see it; then it is told in one sentence.
+/// `answered` is not called once the box is destroyed, and may destroy it later than at once.
+std::unique_ptr<QMessageBox> shownAlert(const Alert& alert,
+                                        std::function<void(AlertAnswer answer)> answered);
 
-/// A message on the screen that holds nothing up. Null where nobody can see it.
+/// A message on the screen. Null where nobody can see it.
 std::unique_ptr<QMessageBox> shownMessage(const QString& title, const QString& message);
 
 } // namespace nocturo

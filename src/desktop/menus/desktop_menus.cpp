@@ -107,8 +107,16 @@ void DesktopMenus::updateStatusItemNotice() {
                                : QString());
 }
 
-AlertAnswer DesktopMenus::runAlert(const Alert& alert) {
-    return runAlertBox(alert);
+void DesktopMenus::showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) {
+    auto box = shownAlert(alert, [this, answered](AlertAnswer answer) {
+        alert_.release()->deleteLater(); // the answer may bring the next one
+        answered(answer);
+    });
+    if (box == nullptr) {
+        answered(AlertAnswer::unseen);
+        return;
+    }
+    alert_ = std::move(box);
 }
 
 void DesktopMenus::showRefusedDocuments(const std::vector<std::string>& paths) {

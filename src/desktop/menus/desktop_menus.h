@@ -28,7 +28,7 @@ class DesktopMenus : public DesktopFace {
                  const RecentDocuments& recentDocuments, StatusItem::Surroundings surroundings);
     ~DesktopMenus() override;
 
-    AlertAnswer runAlert(const Alert& alert) override;
+    void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override;
     void showRefusedDocuments(const std::vector<std::string>& paths) override;
     void setActivateItemTitles(bool active) override;
     void setStatusItemShown(bool shown) override;
@@ -48,6 +48,7 @@ class DesktopMenus : public DesktopFace {
     const RecentDocuments& recentDocuments_;
     StatusItem::Surroundings surroundings_;
     std::unique_ptr<Menus> menus_;
+    std::unique_ptr<QMessageBox> alert_;   // while it is not answered
     std::unique_ptr<QMessageBox> refusal_; // the last one, which may have been closed
 };
 
