@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes C++ of the texts that are printed: compile_texts.py OUTPUT nocturo_LANGUAGE.ts..."""
+"""Makes C++ of the texts that are said without Qt: compile_texts.py OUTPUT nocturo_LANGUAGE.ts..."""
 
 import json
 import pathlib
@@ -7,12 +7,12 @@ import sys
 import xml.etree.ElementTree as ElementTree
 
 sys.dont_write_bytecode = True  # building changes no sources
-from texts import PRINTED_TABLE  # noqa: E402
+from texts import DEFAULT_TABLE  # noqa: E402
 
 
 def finished_texts(path):
     for context in ElementTree.parse(path).getroot().iter("context"):
-        if context.findtext("name") == PRINTED_TABLE:
+        if context.findtext("name") == DEFAULT_TABLE:
             for message in context.iter("message"):
                 translation = message.find("translation")
                 if translation.text and not translation.get("type"):

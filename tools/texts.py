@@ -15,7 +15,6 @@ import xml.etree.ElementTree as ElementTree
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 DEFAULT_TABLE = "Localizable"
-PRINTED_TABLE = "CommandLine"
 # The functions themselves, and alerts, whose texts are found where they are set.
 HANDED_ON = {"localized.h", "localized.cpp", "translated.h", "translated.cpp", "alert_box.cpp"}
 
@@ -44,10 +43,10 @@ def texts_of_code(path):
         text = not call[1] and TEXT.match(code, call.end())
         choice = CHOICE.match(code, call.end())
         if printed:
-            yield PRINTED_TABLE, joined(printed[1])
+            yield DEFAULT_TABLE, joined(printed[1])
         elif text:
             yield text[2] or DEFAULT_TABLE, joined(text[1])
-        elif choice and not call[1]:
+        elif choice:
             yield DEFAULT_TABLE, joined(choice[1])
             yield DEFAULT_TABLE, joined(choice[2])
         else:

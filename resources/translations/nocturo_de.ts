@@ -195,18 +195,6 @@
     <context>
         <name>Localizable</name>
         <message>
-            <source>About %@</source>
-            <translation>Über %@</translation>
-        </message>
-        <message>
-            <source>Version %@</source>
-            <translation>Version %@</translation>
-        </message>
-        <message>
-            <source>Credits.html</source>
-            <translation>Credits_de.html</translation>
-        </message>
-        <message>
             <source>No effect has been chosen.</source>
             <translation>Es wurde kein Effekt ausgewählt.</translation>
         </message>
@@ -221,478 +209,6 @@
         <message>
             <source>Cancel</source>
             <translation>Abbrechen</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Effekt einschalten</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Einstellungen …</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Über Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Nocturo beenden</translation>
-        </message>
-        <message>
-            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
-            <translation>Dieser Desktop zeigt momentan kein Benachrichtigungsfeld an; Nocturo ist über das Anwendungsmenü erreichbar.</translation>
-        </message>
-        <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>Effekt &amp;ausschalten</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>Effekt &amp;einschalten</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Effekt ausschalten</translation>
-        </message>
-        <message>
-            <source>&amp;Clear Menu</source>
-            <translation>Liste &amp;leeren</translation>
-        </message>
-        <message>
-            <source>&amp;File</source>
-            <translation>&amp;Datei</translation>
-        </message>
-        <message>
-            <source>&amp;Open...</source>
-            <translation>Ö&amp;ffnen …</translation>
-        </message>
-        <message>
-            <source>Open &amp;Recent</source>
-            <translation>&amp;Zuletzt geöffnet</translation>
-        </message>
-        <message>
-            <source>&amp;Save...</source>
-            <translation>&amp;Speichern …</translation>
-        </message>
-        <message>
-            <source>&amp;Preferences...</source>
-            <translation>&amp;Einstellungen …</translation>
-        </message>
-        <message>
-            <source>&amp;Close</source>
-            <translation>S&amp;chließen</translation>
-        </message>
-        <message>
-            <source>&amp;Quit Nocturo</source>
-            <translation>Nocturo &amp;beenden</translation>
-        </message>
-        <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Effekt</translation>
-        </message>
-        <message>
-            <source>&amp;Help</source>
-            <translation>&amp;Hilfe</translation>
-        </message>
-        <message>
-            <source>&amp;About Nocturo</source>
-            <translation>Ü&amp;ber Nocturo</translation>
-        </message>
-        <message>
-            <source>Type a shortcut</source>
-            <translation>Tasten drücken</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Tastenkürzel</translation>
-        </message>
-        <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Drücken Sie das neue Tastenkürzel oder Esc, um das bisherige zu behalten.</translation>
-        </message>
-        <message>
-            <source>Click or press Space to record another shortcut.</source>
-            <translation>Klicken Sie oder drücken Sie die Leertaste, um ein anderes Tastenkürzel aufzunehmen.</translation>
-        </message>
-        <message>
-            <source>Control</source>
-            <translation>Strg</translation>
-        </message>
-        <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Umschalt</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
-        </message>
-        <message>
-            <source>%@ (%@)</source>
-            <translation>%@ (%@)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Alle Bildschirme</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Bildschirm %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Keine</translation>
-        </message>
-        <message>
-            <source>R</source>
-            <translation>R</translation>
-        </message>
-        <message>
-            <source>G</source>
-            <translation>G</translation>
-        </message>
-        <message>
-            <source>B</source>
-            <translation>B</translation>
-        </message>
-        <message>
-            <source>Input</source>
-            <translation>Eingang</translation>
-        </message>
-        <message>
-            <source>Output</source>
-            <translation>Ausgang</translation>
-        </message>
-        <message>
-            <source>The colors of this screen cannot be changed.</source>
-            <translation>Die Farben dieses Bildschirms lassen sich nicht ändern.</translation>
-        </message>
-        <message>
-            <source>Before</source>
-            <translation>Vorher</translation>
-        </message>
-        <message>
-            <source>With effect</source>
-            <translation>Mit Effekt</translation>
-        </message>
-        <message>
-            <source>Clipped</source>
-            <translation>Abgeschnitten</translation>
-        </message>
-        <message>
-            <source>Preview</source>
-            <translation>Vorschau</translation>
-        </message>
-        <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
-            <source>brightness from %@ to %@</source>
-            <translation>Helligkeit von %@ bis %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>Rot</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>Grün</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>Blau</translation>
-        </message>
-        <message>
-            <source>%@ strongest</source>
-            <translation>%@ am stärksten</translation>
-        </message>
-        <message>
-            <source>%@ and %@ strongest</source>
-            <translation>%@ und %@ am stärksten</translation>
-        </message>
-        <message>
-            <source>inverted</source>
-            <translation>invertiert</translation>
-        </message>
-        <message>
-            <source>bright tones clipped</source>
-            <translation>helle Töne abgeschnitten</translation>
-        </message>
-        <message>
-            <source>dark tones clipped</source>
-            <translation>dunkle Töne abgeschnitten</translation>
-        </message>
-        <message>
-            <source>almost nothing can be told apart</source>
-            <translation>fast nichts zu unterscheiden</translation>
-        </message>
-        <message>
-            <source>, </source>
-            <translation>, </translation>
-        </message>
-        <message>
-            <source>%@: %@</source>
-            <translation>%@: %@</translation>
-        </message>
-        <message>
-            <source>Keep these colors?</source>
-            <translation>Diese Farben beibehalten?</translation>
-        </message>
-        <message>
-            <source>&amp;Keep</source>
-            <translation>&amp;Beibehalten</translation>
-        </message>
-        <message>
-            <source>&amp;Go back</source>
-            <translation>&amp;Zurücknehmen</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>Die Bildschirme sind jetzt schwer zu lesen. In %d s werden die vorherigen Farben wiederhergestellt.</translation>
-        </message>
-        <message>
-            <source> %</source>
-            <translation> %</translation>
-        </message>
-        <message>
-            <source>Close anyway</source>
-            <translation>Trotzdem schließen</translation>
-        </message>
-        <message>
-            <source>Nocturo effects</source>
-            <translation>Nocturo-Effekte</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
-        </message>
-        <message>
-            <source>Save Effect</source>
-            <translation>Effekt speichern</translation>
-        </message>
-        <message>
-            <source>&amp;Hide extension</source>
-            <translation>&amp;Dateiendung ausblenden</translation>
-        </message>
-        <message>
-            <source>Saving failed</source>
-            <translation>Speichern fehlgeschlagen</translation>
-        </message>
-        <message>
-            <source>Could not save settings at this location.</source>
-            <translation>Die Einstellungen konnten an diesem Ort nicht gespeichert werden.</translation>
-        </message>
-        <message>
-            <source>Open Effect</source>
-            <translation>Effekt öffnen</translation>
-        </message>
-        <message>
-            <source>Opening failed</source>
-            <translation>Öffnen fehlgeschlagen</translation>
-        </message>
-        <message>
-            <source>“%@” is not an effect document.</source>
-            <translation>„%@“ ist kein Effektdokument.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ZQFluxCheck</name>
-        <message>
-            <source>%@ is present on this computer.</source>
-            <translation>%@ ist auf diesem Computer vorhanden.</translation>
-        </message>
-        <message>
-            <source>[%1$@ installed, might interfer %2$@.]</source>
-            <translation>%2$@ ändert ebenfalls die Farben der Bildschirme und kann %1$@ daher in die Quere kommen: Jedes der beiden Programme kann rückgängig machen, was das andere tut. Verwenden Sie am besten nur eines davon zur selben Zeit.</translation>
-        </message>
-        <message>
-            <source>Continue</source>
-            <translation>Fortfahren</translation>
-        </message>
-        <message>
-            <source>Quit</source>
-            <translation>Beenden</translation>
-        </message>
-    </context>
-    <context>
-        <name>CommandLine</name>
-        <message>
-            <source>The display server has gone, so Nocturo ends.</source>
-            <translation>Der Anzeigeserver ist verschwunden, daher wird Nocturo beendet.</translation>
-        </message>
-        <message>
-            <source>Nocturo is already running.</source>
-            <translation>Nocturo läuft bereits.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
-        </message>
-        <message>
-            <source>Usage: %@</source>
-            <translation>Aufruf: %@</translation>
-        </message>
-        <message>
-            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
-the HDTV range or through a color filter. Runs until it is told to quit, and
-gives every display back then. Drive it with nocturoctl.</source>
-            <translation>Verändert, wie ganze Bildschirme aussehen: invertiert, überbelichtet, abgedunkelt
-oder aufgehellt, im HDTV-Bereich oder durch einen Farbfilter. Läuft bis zum Beenden
-und gibt dann jedem Bildschirm seine Farben zurück. Gesteuert wird es mit nocturoctl.</translation>
-        </message>
-        <message>
-            <source>Options:</source>
-            <translation>Optionen:</translation>
-        </message>
-        <message>
-            <source>where the displays come from:</source>
-            <translation>woher die Bildschirme kommen:</translation>
-        </message>
-        <message>
-            <source>what this session offers (default)</source>
-            <translation>was diese Sitzung bietet (Vorgabe)</translation>
-        </message>
-        <message>
-            <source>an X server</source>
-            <translation>ein X-Server</translation>
-        </message>
-        <message>
-            <source>N displays, 1 to 16 (default 2),</source>
-            <translation>N Bildschirme, 1 bis 16 (Vorgabe: 2),</translation>
-        </message>
-        <message>
-            <source>in memory, drawn into pictures</source>
-            <translation>im Speicher, in Bilder gezeichnet</translation>
-        </message>
-        <message>
-            <source>show this text</source>
-            <translation>diesen Text zeigen</translation>
-        </message>
-        <message>
-            <source>show the version</source>
-            <translation>die Version zeigen</translation>
-        </message>
-        <message>
-            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
-there is one. Starting Nocturo a second time without one toggles the effect.</source>
-            <translation>Eine Datei (FILE) ist ein Effektdokument (.nocturo); das laufende Nocturo öffnet es,
-wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt um.</translation>
-        </message>
-        <message>
-            <source>There is no option "%@"; see nocturo --help.</source>
-            <translation>Eine Option „%@“ gibt es nicht; siehe nocturo --help.</translation>
-        </message>
-        <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services nimmt auto, randr, simulated oder simulated:N mit N von 1 bis 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>Das laufende Nocturo antwortet nicht.</translation>
-        </message>
-        <message>
-            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
-            <translation>Ohne Sitzungsbus kann dem laufenden Nocturo kein Dokument übergeben werden.</translation>
-        </message>
-        <message>
-            <source>the selected effects</source>
-            <translation>die gewählten Effekte</translation>
-        </message>
-        <message>
-            <source>switch the effect on at every start</source>
-            <translation>den Effekt bei jedem Start einschalten</translation>
-        </message>
-        <message>
-            <source>starting Nocturo again toggles the effect</source>
-            <translation>erneutes Starten von Nocturo schaltet den Effekt um</translation>
-        </message>
-        <message>
-            <source>while on, apply again every 6 seconds</source>
-            <translation>solange eingeschaltet, alle 6 Sekunden erneut anwenden</translation>
-        </message>
-        <message>
-            <source>pause while the screen saver runs</source>
-            <translation>pausieren, während der Bildschirmschoner läuft</translation>
-        </message>
-        <message>
-            <source>toggle with the global hot key</source>
-            <translation>mit dem globalen Tastenkürzel umschalten</translation>
-        </message>
-        <message>
-            <source>1: run as a tray item</source>
-            <translation>1: als Symbol im Benachrichtigungsfeld laufen</translation>
-        </message>
-        <message>
-            <source>virtual key code of the hot key</source>
-            <translation>virtueller Tastencode des Tastenkürzels</translation>
-        </message>
-        <message>
-            <source>modifier flags of the hot key</source>
-            <translation>Zusatztasten des Tastenkürzels, als Bits</translation>
-        </message>
-        <message>
-            <source>whether the effect was last switched on</source>
-            <translation>ob der Effekt zuletzt eingeschaltet war</translation>
-        </message>
-        <message>
-            <source>the affected displays; none means all</source>
-            <translation>die betroffenen Bildschirme; keiner heißt alle</translation>
-        </message>
-        <message>
-            <source>the display last picked; 0 means all</source>
-            <translation>der zuletzt gewählte Bildschirm; 0 heißt alle</translation>
-        </message>
-        <message>
-            <source>dim: -1 black, 0 unchanged, 1 white</source>
-            <translation>Abdunkeln: -1 schwarz, 0 unverändert, 1 weiß</translation>
-        </message>
-        <message>
-            <source>color filter: hue in degrees</source>
-            <translation>Farbfilter: Farbton in Grad</translation>
-        </message>
-        <message>
-            <source>color filter: strength, 0 to 1</source>
-            <translation>Farbfilter: Stärke, 0 bis 1</translation>
-        </message>
-        <message>
-            <source>the f.lux warning was answered</source>
-            <translation>die Warnung vor f.lux wurde beantwortet</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effects.</source>
-            <translation>„%@“ nimmt eine Liste von Effekten.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effect names.</source>
-            <translation>„%@“ nimmt eine Liste von Effektnamen.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
-            <translation>„%1$@“ nimmt nur Effekte, und einen Effekt „%2$@“ gibt es nicht.</translation>
-        </message>
-        <message>
-            <source>"%@" takes true or false.</source>
-            <translation>„%@“ nimmt true oder false.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a whole number.</source>
-            <translation>„%@“ nimmt eine ganze Zahl.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a finite number.</source>
-            <translation>„%@“ nimmt eine endliche Zahl.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of display identifiers.</source>
-            <translation>„%@“ nimmt eine Liste von Bildschirmkennungen.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>
@@ -899,6 +415,10 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Die Bildschirme zurückgeben und Nocturo beenden</translation>
         </message>
         <message>
+            <source>Usage: %@</source>
+            <translation>Aufruf: %@</translation>
+        </message>
+        <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Steuert das Nocturo, das in dieser Sitzung läuft.</translation>
         </message>
@@ -1031,6 +551,10 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Es gibt keinen X-Server, dessen Bildschirme zurückgegeben werden könnten, denn DISPLAY ist nicht gesetzt.</translation>
         </message>
         <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
+        </message>
+        <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
             <translation>Die Bildschirme haben ihre eigenen Farben zurück, wie sie waren, bevor Nocturo sie änderte.</translation>
         </message>
@@ -1049,6 +573,326 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
             <translation>Einen Effekt „%@“ gibt es nicht; die Effekte sind %@.</translation>
+        </message>
+        <message>
+            <source>About %@</source>
+            <translation>Über %@</translation>
+        </message>
+        <message>
+            <source>Version %@</source>
+            <translation>Version %@</translation>
+        </message>
+        <message>
+            <source>Credits.html</source>
+            <translation>Credits_de.html</translation>
+        </message>
+        <message>
+            <source>Type a shortcut</source>
+            <translation>Tasten drücken</translation>
+        </message>
+        <message>
+            <source>Hot key</source>
+            <translation>Tastenkürzel</translation>
+        </message>
+        <message>
+            <source>Press the new shortcut, or Escape to leave it as it was.</source>
+            <translation>Drücken Sie das neue Tastenkürzel oder Esc, um das bisherige zu behalten.</translation>
+        </message>
+        <message>
+            <source>Click or press Space to record another shortcut.</source>
+            <translation>Klicken Sie oder drücken Sie die Leertaste, um ein anderes Tastenkürzel aufzunehmen.</translation>
+        </message>
+        <message>
+            <source>Control</source>
+            <translation>Strg</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Umschalt</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Effekt einschalten</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Einstellungen …</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Über Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Nocturo beenden</translation>
+        </message>
+        <message>
+            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
+            <translation>Dieser Desktop zeigt momentan kein Benachrichtigungsfeld an; Nocturo ist über das Anwendungsmenü erreichbar.</translation>
+        </message>
+        <message>
+            <source>“%@” is not an effect document.</source>
+            <translation>„%@“ ist kein Effektdokument.</translation>
+        </message>
+        <message>
+            <source>Opening failed</source>
+            <translation>Öffnen fehlgeschlagen</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>Effekt &amp;ausschalten</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>Effekt &amp;einschalten</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Effekt ausschalten</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>Liste &amp;leeren</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Datei</translation>
+        </message>
+        <message>
+            <source>&amp;Open...</source>
+            <translation>Ö&amp;ffnen …</translation>
+        </message>
+        <message>
+            <source>Open &amp;Recent</source>
+            <translation>&amp;Zuletzt geöffnet</translation>
+        </message>
+        <message>
+            <source>&amp;Save...</source>
+            <translation>&amp;Speichern …</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences...</source>
+            <translation>&amp;Einstellungen …</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>S&amp;chließen</translation>
+        </message>
+        <message>
+            <source>&amp;Quit Nocturo</source>
+            <translation>Nocturo &amp;beenden</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effekt</translation>
+        </message>
+        <message>
+            <source>&amp;Help</source>
+            <translation>&amp;Hilfe</translation>
+        </message>
+        <message>
+            <source>&amp;About Nocturo</source>
+            <translation>Ü&amp;ber Nocturo</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Alle Bildschirme</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Bildschirm %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Keine</translation>
+        </message>
+        <message>
+            <source>Keep these colors?</source>
+            <translation>Diese Farben beibehalten?</translation>
+        </message>
+        <message>
+            <source>&amp;Keep</source>
+            <translation>&amp;Beibehalten</translation>
+        </message>
+        <message>
+            <source>&amp;Go back</source>
+            <translation>&amp;Zurücknehmen</translation>
+        </message>
+        <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>Die Bildschirme sind jetzt schwer zu lesen. In %d s werden die vorherigen Farben wiederhergestellt.</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation> %</translation>
+        </message>
+        <message>
+            <source>Close anyway</source>
+            <translation>Trotzdem schließen</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Nocturo-Effekte</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Save Effect</source>
+            <translation>Effekt speichern</translation>
+        </message>
+        <message>
+            <source>&amp;Hide extension</source>
+            <translation>&amp;Dateiendung ausblenden</translation>
+        </message>
+        <message>
+            <source>Saving failed</source>
+            <translation>Speichern fehlgeschlagen</translation>
+        </message>
+        <message>
+            <source>Could not save settings at this location.</source>
+            <translation>Die Einstellungen konnten an diesem Ort nicht gespeichert werden.</translation>
+        </message>
+        <message>
+            <source>Open Effect</source>
+            <translation>Effekt öffnen</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>Eingang</translation>
+        </message>
+        <message>
+            <source>Output</source>
+            <translation>Ausgang</translation>
+        </message>
+        <message>
+            <source>The colors of this screen cannot be changed.</source>
+            <translation>Die Farben dieses Bildschirms lassen sich nicht ändern.</translation>
+        </message>
+        <message>
+            <source>Before</source>
+            <translation>Vorher</translation>
+        </message>
+        <message>
+            <source>With effect</source>
+            <translation>Mit Effekt</translation>
+        </message>
+        <message>
+            <source>Clipped</source>
+            <translation>Abgeschnitten</translation>
+        </message>
+        <message>
+            <source>Preview</source>
+            <translation>Vorschau</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>brightness from %@ to %@</source>
+            <translation>Helligkeit von %@ bis %@</translation>
+        </message>
+        <message>
+            <source>red</source>
+            <translation>Rot</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>Grün</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>Blau</translation>
+        </message>
+        <message>
+            <source>%@ strongest</source>
+            <translation>%@ am stärksten</translation>
+        </message>
+        <message>
+            <source>%@ and %@ strongest</source>
+            <translation>%@ und %@ am stärksten</translation>
+        </message>
+        <message>
+            <source>inverted</source>
+            <translation>invertiert</translation>
+        </message>
+        <message>
+            <source>bright tones clipped</source>
+            <translation>helle Töne abgeschnitten</translation>
+        </message>
+        <message>
+            <source>dark tones clipped</source>
+            <translation>dunkle Töne abgeschnitten</translation>
+        </message>
+        <message>
+            <source>almost nothing can be told apart</source>
+            <translation>fast nichts zu unterscheiden</translation>
+        </message>
+        <message>
+            <source>, </source>
+            <translation>, </translation>
+        </message>
+        <message>
+            <source>%@: %@</source>
+            <translation>%@: %@</translation>
+        </message>
+        <message>
+            <source>%@ (%@)</source>
+            <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Um zu sehen, was die Effekte bewirken, starten Sie es mit --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>Es gibt keinen X-Server, denn DISPLAY ist nicht gesetzt.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Ein anderes Nocturo steuert die Bildschirme des X-Servers %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>Die Bildschirme sind simuliert; ihre Bilder liegen in %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>Der X-Server %@ ist nur Gast einer Wayland-Sitzung und kann deren Farben nicht ändern; Bildschirme unter Wayland folgen in einer späteren Version.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>Der X-Server %@ hat kein RandR 1.3 oder neuer.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>Der X-Server %@ ist nicht erreichbar.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
@@ -1083,32 +927,185 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>„%@“ braucht eine Zusatztaste: Nur Funktions-, Pfeil- und Navigationstasten können allein Tastenkürzel sein.</translation>
         </message>
         <message>
-            <source>To see what the effects do, start it with --display-services=simulated.</source>
-            <translation>Um zu sehen, was die Effekte bewirken, starten Sie es mit --display-services=simulated.</translation>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>Der Anzeigeserver ist verschwunden, daher wird Nocturo beendet.</translation>
         </message>
         <message>
-            <source>There is no X server to work with, because DISPLAY is not set.</source>
-            <translation>Es gibt keinen X-Server, denn DISPLAY ist nicht gesetzt.</translation>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo läuft bereits.</translation>
         </message>
         <message>
-            <source>Another Nocturo drives the displays of the X server %@.</source>
-            <translation>Ein anderes Nocturo steuert die Bildschirme des X-Servers %@.</translation>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Verändert, wie ganze Bildschirme aussehen: invertiert, überbelichtet, abgedunkelt
+oder aufgehellt, im HDTV-Bereich oder durch einen Farbfilter. Läuft bis zum Beenden
+und gibt dann jedem Bildschirm seine Farben zurück. Gesteuert wird es mit nocturoctl.</translation>
         </message>
         <message>
-            <source>Displays are simulated; their pictures are in %@.</source>
-            <translation>Die Bildschirme sind simuliert; ihre Bilder liegen in %@.</translation>
+            <source>Options:</source>
+            <translation>Optionen:</translation>
         </message>
         <message>
-            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
-            <translation>Der X-Server %@ ist nur Gast einer Wayland-Sitzung und kann deren Farben nicht ändern; Bildschirme unter Wayland folgen in einer späteren Version.</translation>
+            <source>where the displays come from:</source>
+            <translation>woher die Bildschirme kommen:</translation>
         </message>
         <message>
-            <source>The X server %@ has no RandR 1.3 or later.</source>
-            <translation>Der X-Server %@ hat kein RandR 1.3 oder neuer.</translation>
+            <source>what this session offers (default)</source>
+            <translation>was diese Sitzung bietet (Vorgabe)</translation>
         </message>
         <message>
-            <source>The X server %@ cannot be reached.</source>
-            <translation>Der X-Server %@ ist nicht erreichbar.</translation>
+            <source>an X server</source>
+            <translation>ein X-Server</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N Bildschirme, 1 bis 16 (Vorgabe: 2),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>im Speicher, in Bilder gezeichnet</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>diesen Text zeigen</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>die Version zeigen</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>Eine Datei (FILE) ist ein Effektdokument (.nocturo); das laufende Nocturo öffnet es,
+wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt um.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>Eine Option „%@“ gibt es nicht; siehe nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services nimmt auto, randr, simulated oder simulated:N mit N von 1 bis 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>Das laufende Nocturo antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Ohne Sitzungsbus kann dem laufenden Nocturo kein Dokument übergeben werden.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>die gewählten Effekte</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>den Effekt bei jedem Start einschalten</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>erneutes Starten von Nocturo schaltet den Effekt um</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>solange eingeschaltet, alle 6 Sekunden erneut anwenden</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>pausieren, während der Bildschirmschoner läuft</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>mit dem globalen Tastenkürzel umschalten</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: als Symbol im Benachrichtigungsfeld laufen</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>virtueller Tastencode des Tastenkürzels</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>Zusatztasten des Tastenkürzels, als Bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>ob der Effekt zuletzt eingeschaltet war</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>die betroffenen Bildschirme; keiner heißt alle</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>der zuletzt gewählte Bildschirm; 0 heißt alle</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>Abdunkeln: -1 schwarz, 0 unverändert, 1 weiß</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>Farbfilter: Farbton in Grad</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>Farbfilter: Stärke, 0 bis 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>die Warnung vor f.lux wurde beantwortet</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>„%@“ nimmt eine Liste von Effekten.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>„%@“ nimmt eine Liste von Effektnamen.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>„%1$@“ nimmt nur Effekte, und einen Effekt „%2$@“ gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>„%@“ nimmt true oder false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>„%@“ nimmt eine ganze Zahl.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>„%@“ nimmt eine endliche Zahl.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>„%@“ nimmt eine Liste von Bildschirmkennungen.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ZQFluxCheck</name>
+        <message>
+            <source>%@ is present on this computer.</source>
+            <translation>%@ ist auf diesem Computer vorhanden.</translation>
+        </message>
+        <message>
+            <source>[%1$@ installed, might interfer %2$@.]</source>
+            <translation>%2$@ ändert ebenfalls die Farben der Bildschirme und kann %1$@ daher in die Quere kommen: Jedes der beiden Programme kann rückgängig machen, was das andere tut. Verwenden Sie am besten nur eines davon zur selben Zeit.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Fortfahren</translation>
+        </message>
+        <message>
+            <source>Quit</source>
+            <translation>Beenden</translation>
         </message>
     </context>
 </TS>

@@ -195,18 +195,6 @@
     <context>
         <name>Localizable</name>
         <message>
-            <source>About %@</source>
-            <translation>Acerca de %@</translation>
-        </message>
-        <message>
-            <source>Version %@</source>
-            <translation>Versión %@</translation>
-        </message>
-        <message>
-            <source>Credits.html</source>
-            <translation>Credits_es.html</translation>
-        </message>
-        <message>
             <source>No effect has been chosen.</source>
             <translation>No se ha elegido ningún efecto.</translation>
         </message>
@@ -221,478 +209,6 @@
         <message>
             <source>Cancel</source>
             <translation>Cancelar</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Activar el efecto</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Preferencias…</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Acerca de Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Salir de Nocturo</translation>
-        </message>
-        <message>
-            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
-            <translation>Este escritorio no muestra ninguna bandeja del sistema en este momento; puede acceder a Nocturo desde el menú de aplicaciones.</translation>
-        </message>
-        <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>&amp;Desactivar el efecto</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Activar el efecto</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Desactivar el efecto</translation>
-        </message>
-        <message>
-            <source>&amp;Clear Menu</source>
-            <translation>&amp;Vaciar el menú</translation>
-        </message>
-        <message>
-            <source>&amp;File</source>
-            <translation>&amp;Archivo</translation>
-        </message>
-        <message>
-            <source>&amp;Open...</source>
-            <translation>&amp;Abrir…</translation>
-        </message>
-        <message>
-            <source>Open &amp;Recent</source>
-            <translation>Abrir &amp;reciente</translation>
-        </message>
-        <message>
-            <source>&amp;Save...</source>
-            <translation>&amp;Guardar…</translation>
-        </message>
-        <message>
-            <source>&amp;Preferences...</source>
-            <translation>&amp;Preferencias…</translation>
-        </message>
-        <message>
-            <source>&amp;Close</source>
-            <translation>&amp;Cerrar</translation>
-        </message>
-        <message>
-            <source>&amp;Quit Nocturo</source>
-            <translation>&amp;Salir de Nocturo</translation>
-        </message>
-        <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Efecto</translation>
-        </message>
-        <message>
-            <source>&amp;Help</source>
-            <translation>A&amp;yuda</translation>
-        </message>
-        <message>
-            <source>&amp;About Nocturo</source>
-            <translation>&amp;Acerca de Nocturo</translation>
-        </message>
-        <message>
-            <source>Type a shortcut</source>
-            <translation>Pulse un atajo</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Atajo de teclado</translation>
-        </message>
-        <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Pulse el nuevo atajo, o Esc para dejarlo como estaba.</translation>
-        </message>
-        <message>
-            <source>Click or press Space to record another shortcut.</source>
-            <translation>Haga clic o pulse Espacio para grabar otro atajo.</translation>
-        </message>
-        <message>
-            <source>Control</source>
-            <translation>Control</translation>
-        </message>
-        <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Mayús</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
-        </message>
-        <message>
-            <source>%@ (%@)</source>
-            <translation>%@ (%@)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Todas las pantallas</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Pantalla %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Ninguna</translation>
-        </message>
-        <message>
-            <source>R</source>
-            <translation>R</translation>
-        </message>
-        <message>
-            <source>G</source>
-            <translation>V</translation>
-        </message>
-        <message>
-            <source>B</source>
-            <translation>A</translation>
-        </message>
-        <message>
-            <source>Input</source>
-            <translation>Entrada</translation>
-        </message>
-        <message>
-            <source>Output</source>
-            <translation>Salida</translation>
-        </message>
-        <message>
-            <source>The colors of this screen cannot be changed.</source>
-            <translation>Los colores de esta pantalla no se pueden cambiar.</translation>
-        </message>
-        <message>
-            <source>Before</source>
-            <translation>Antes</translation>
-        </message>
-        <message>
-            <source>With effect</source>
-            <translation>Con el efecto</translation>
-        </message>
-        <message>
-            <source>Clipped</source>
-            <translation>Recortado</translation>
-        </message>
-        <message>
-            <source>Preview</source>
-            <translation>Vista previa</translation>
-        </message>
-        <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
-            <source>brightness from %@ to %@</source>
-            <translation>brillo del %@ al %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>rojo</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>verde</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>azul</translation>
-        </message>
-        <message>
-            <source>%@ strongest</source>
-            <translation>predomina el %@</translation>
-        </message>
-        <message>
-            <source>%@ and %@ strongest</source>
-            <translation>predominan el %@ y el %@</translation>
-        </message>
-        <message>
-            <source>inverted</source>
-            <translation>colores invertidos</translation>
-        </message>
-        <message>
-            <source>bright tones clipped</source>
-            <translation>tonos claros recortados</translation>
-        </message>
-        <message>
-            <source>dark tones clipped</source>
-            <translation>tonos oscuros recortados</translation>
-        </message>
-        <message>
-            <source>almost nothing can be told apart</source>
-            <translation>casi nada se distingue</translation>
-        </message>
-        <message>
-            <source>, </source>
-            <translation>, </translation>
-        </message>
-        <message>
-            <source>%@: %@</source>
-            <translation>%@: %@</translation>
-        </message>
-        <message>
-            <source>Keep these colors?</source>
-            <translation>¿Mantener estos colores?</translation>
-        </message>
-        <message>
-            <source>&amp;Keep</source>
-            <translation>&amp;Mantener</translation>
-        </message>
-        <message>
-            <source>&amp;Go back</source>
-            <translation>&amp;Restaurar</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>Ahora cuesta leer las pantallas. Los colores anteriores se restaurarán en %d s.</translation>
-        </message>
-        <message>
-            <source> %</source>
-            <translation> %</translation>
-        </message>
-        <message>
-            <source>Close anyway</source>
-            <translation>Cerrar de todos modos</translation>
-        </message>
-        <message>
-            <source>Nocturo effects</source>
-            <translation>Efectos de Nocturo</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>Aceptar</translation>
-        </message>
-        <message>
-            <source>Save Effect</source>
-            <translation>Guardar efecto</translation>
-        </message>
-        <message>
-            <source>&amp;Hide extension</source>
-            <translation>&amp;Ocultar la extensión</translation>
-        </message>
-        <message>
-            <source>Saving failed</source>
-            <translation>Error al guardar</translation>
-        </message>
-        <message>
-            <source>Could not save settings at this location.</source>
-            <translation>No se pudieron guardar los ajustes en esta ubicación.</translation>
-        </message>
-        <message>
-            <source>Open Effect</source>
-            <translation>Abrir efecto</translation>
-        </message>
-        <message>
-            <source>Opening failed</source>
-            <translation>Error al abrir</translation>
-        </message>
-        <message>
-            <source>“%@” is not an effect document.</source>
-            <translation>«%@» no es un documento de efecto.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ZQFluxCheck</name>
-        <message>
-            <source>%@ is present on this computer.</source>
-            <translation>%@ está presente en este equipo.</translation>
-        </message>
-        <message>
-            <source>[%1$@ installed, might interfer %2$@.]</source>
-            <translation>%2$@ también cambia los colores de las pantallas, por lo que puede interferir con %1$@: cada programa puede deshacer lo que hace el otro. Es preferible usar solo uno de los dos a la vez.</translation>
-        </message>
-        <message>
-            <source>Continue</source>
-            <translation>Continuar</translation>
-        </message>
-        <message>
-            <source>Quit</source>
-            <translation>Salir</translation>
-        </message>
-    </context>
-    <context>
-        <name>CommandLine</name>
-        <message>
-            <source>The display server has gone, so Nocturo ends.</source>
-            <translation>El servidor gráfico ha desaparecido, por lo que Nocturo termina.</translation>
-        </message>
-        <message>
-            <source>Nocturo is already running.</source>
-            <translation>Nocturo ya se está ejecutando.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
-        </message>
-        <message>
-            <source>Usage: %@</source>
-            <translation>Uso: %@</translation>
-        </message>
-        <message>
-            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
-the HDTV range or through a color filter. Runs until it is told to quit, and
-gives every display back then. Drive it with nocturoctl.</source>
-            <translation>Cambia el aspecto de pantallas enteras: invertidas, sobreexpuestas, oscurecidas o
-aclaradas, en el rango HDTV o a través de un filtro de color. Se ejecuta hasta que
-se le pide salir, y entonces devuelve cada pantalla. Se maneja con nocturoctl.</translation>
-        </message>
-        <message>
-            <source>Options:</source>
-            <translation>Opciones:</translation>
-        </message>
-        <message>
-            <source>where the displays come from:</source>
-            <translation>de dónde vienen las pantallas:</translation>
-        </message>
-        <message>
-            <source>what this session offers (default)</source>
-            <translation>lo que ofrezca esta sesión (predeterminado)</translation>
-        </message>
-        <message>
-            <source>an X server</source>
-            <translation>un servidor X</translation>
-        </message>
-        <message>
-            <source>N displays, 1 to 16 (default 2),</source>
-            <translation>N pantallas, de 1 a 16 (2 si no se indica),</translation>
-        </message>
-        <message>
-            <source>in memory, drawn into pictures</source>
-            <translation>en memoria, dibujadas en imágenes</translation>
-        </message>
-        <message>
-            <source>show this text</source>
-            <translation>mostrar este texto</translation>
-        </message>
-        <message>
-            <source>show the version</source>
-            <translation>mostrar la versión</translation>
-        </message>
-        <message>
-            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
-there is one. Starting Nocturo a second time without one toggles the effect.</source>
-            <translation>FILE es un documento de efecto (.nocturo) para abrir; lo abre el Nocturo que se esté
-ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.</translation>
-        </message>
-        <message>
-            <source>There is no option "%@"; see nocturo --help.</source>
-            <translation>No existe la opción «%@»; vea nocturo --help.</translation>
-        </message>
-        <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services admite auto, randr, simulated o simulated:N con N de 1 a 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>El Nocturo en ejecución no responde.</translation>
-        </message>
-        <message>
-            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
-            <translation>Sin un bus de sesión no se puede pasar un documento al Nocturo en ejecución.</translation>
-        </message>
-        <message>
-            <source>the selected effects</source>
-            <translation>los efectos elegidos</translation>
-        </message>
-        <message>
-            <source>switch the effect on at every start</source>
-            <translation>activar el efecto en cada inicio</translation>
-        </message>
-        <message>
-            <source>starting Nocturo again toggles the effect</source>
-            <translation>volver a iniciar Nocturo conmuta el efecto</translation>
-        </message>
-        <message>
-            <source>while on, apply again every 6 seconds</source>
-            <translation>mientras esté activado, volver a aplicar cada 6 segundos</translation>
-        </message>
-        <message>
-            <source>pause while the screen saver runs</source>
-            <translation>pausar mientras se ejecuta el salvapantallas</translation>
-        </message>
-        <message>
-            <source>toggle with the global hot key</source>
-            <translation>conmutar con el atajo global</translation>
-        </message>
-        <message>
-            <source>1: run as a tray item</source>
-            <translation>1: ejecutarse como icono de la bandeja</translation>
-        </message>
-        <message>
-            <source>virtual key code of the hot key</source>
-            <translation>código de tecla virtual del atajo</translation>
-        </message>
-        <message>
-            <source>modifier flags of the hot key</source>
-            <translation>teclas modificadoras del atajo, como bits</translation>
-        </message>
-        <message>
-            <source>whether the effect was last switched on</source>
-            <translation>si el efecto quedó activado la última vez</translation>
-        </message>
-        <message>
-            <source>the affected displays; none means all</source>
-            <translation>las pantallas afectadas; ninguna significa todas</translation>
-        </message>
-        <message>
-            <source>the display last picked; 0 means all</source>
-            <translation>la última pantalla elegida; 0 significa todas</translation>
-        </message>
-        <message>
-            <source>dim: -1 black, 0 unchanged, 1 white</source>
-            <translation>oscurecer: -1 negro, 0 sin cambios, 1 blanco</translation>
-        </message>
-        <message>
-            <source>color filter: hue in degrees</source>
-            <translation>filtro de color: tono en grados</translation>
-        </message>
-        <message>
-            <source>color filter: strength, 0 to 1</source>
-            <translation>filtro de color: intensidad, de 0 a 1</translation>
-        </message>
-        <message>
-            <source>the f.lux warning was answered</source>
-            <translation>se respondió a la advertencia sobre f.lux</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effects.</source>
-            <translation>«%@» admite una lista de efectos.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effect names.</source>
-            <translation>«%@» admite una lista de nombres de efectos.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
-            <translation>«%1$@» solo admite efectos, y no existe el efecto «%2$@».</translation>
-        </message>
-        <message>
-            <source>"%@" takes true or false.</source>
-            <translation>«%@» admite true o false.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a whole number.</source>
-            <translation>«%@» admite un número entero.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a finite number.</source>
-            <translation>«%@» admite un número finito.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of display identifiers.</source>
-            <translation>«%@» admite una lista de identificadores de pantalla.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>
@@ -899,6 +415,10 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>Devolver las pantallas y terminar Nocturo</translation>
         </message>
         <message>
+            <source>Usage: %@</source>
+            <translation>Uso: %@</translation>
+        </message>
+        <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Maneja el Nocturo que se ejecuta en esta sesión.</translation>
         </message>
@@ -1031,6 +551,10 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>No hay ningún servidor X cuyas pantallas se puedan devolver, porque DISPLAY no está definida.</translation>
         </message>
         <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
+        </message>
+        <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
             <translation>Las pantallas han recuperado sus propios colores, como estaban antes de que Nocturo los cambiara.</translation>
         </message>
@@ -1049,6 +573,326 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
             <translation>No existe el efecto «%@»; los efectos son %@.</translation>
+        </message>
+        <message>
+            <source>About %@</source>
+            <translation>Acerca de %@</translation>
+        </message>
+        <message>
+            <source>Version %@</source>
+            <translation>Versión %@</translation>
+        </message>
+        <message>
+            <source>Credits.html</source>
+            <translation>Credits_es.html</translation>
+        </message>
+        <message>
+            <source>Type a shortcut</source>
+            <translation>Pulse un atajo</translation>
+        </message>
+        <message>
+            <source>Hot key</source>
+            <translation>Atajo de teclado</translation>
+        </message>
+        <message>
+            <source>Press the new shortcut, or Escape to leave it as it was.</source>
+            <translation>Pulse el nuevo atajo, o Esc para dejarlo como estaba.</translation>
+        </message>
+        <message>
+            <source>Click or press Space to record another shortcut.</source>
+            <translation>Haga clic o pulse Espacio para grabar otro atajo.</translation>
+        </message>
+        <message>
+            <source>Control</source>
+            <translation>Control</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Mayús</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Activar el efecto</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Preferencias…</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Acerca de Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Salir de Nocturo</translation>
+        </message>
+        <message>
+            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
+            <translation>Este escritorio no muestra ninguna bandeja del sistema en este momento; puede acceder a Nocturo desde el menú de aplicaciones.</translation>
+        </message>
+        <message>
+            <source>“%@” is not an effect document.</source>
+            <translation>«%@» no es un documento de efecto.</translation>
+        </message>
+        <message>
+            <source>Opening failed</source>
+            <translation>Error al abrir</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activar el efecto</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vaciar el menú</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Archivo</translation>
+        </message>
+        <message>
+            <source>&amp;Open...</source>
+            <translation>&amp;Abrir…</translation>
+        </message>
+        <message>
+            <source>Open &amp;Recent</source>
+            <translation>Abrir &amp;reciente</translation>
+        </message>
+        <message>
+            <source>&amp;Save...</source>
+            <translation>&amp;Guardar…</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences...</source>
+            <translation>&amp;Preferencias…</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>&amp;Cerrar</translation>
+        </message>
+        <message>
+            <source>&amp;Quit Nocturo</source>
+            <translation>&amp;Salir de Nocturo</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efecto</translation>
+        </message>
+        <message>
+            <source>&amp;Help</source>
+            <translation>A&amp;yuda</translation>
+        </message>
+        <message>
+            <source>&amp;About Nocturo</source>
+            <translation>&amp;Acerca de Nocturo</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Todas las pantallas</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Pantalla %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Ninguna</translation>
+        </message>
+        <message>
+            <source>Keep these colors?</source>
+            <translation>¿Mantener estos colores?</translation>
+        </message>
+        <message>
+            <source>&amp;Keep</source>
+            <translation>&amp;Mantener</translation>
+        </message>
+        <message>
+            <source>&amp;Go back</source>
+            <translation>&amp;Restaurar</translation>
+        </message>
+        <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>Ahora cuesta leer las pantallas. Los colores anteriores se restaurarán en %d s.</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation> %</translation>
+        </message>
+        <message>
+            <source>Close anyway</source>
+            <translation>Cerrar de todos modos</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Efectos de Nocturo</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>Aceptar</translation>
+        </message>
+        <message>
+            <source>Save Effect</source>
+            <translation>Guardar efecto</translation>
+        </message>
+        <message>
+            <source>&amp;Hide extension</source>
+            <translation>&amp;Ocultar la extensión</translation>
+        </message>
+        <message>
+            <source>Saving failed</source>
+            <translation>Error al guardar</translation>
+        </message>
+        <message>
+            <source>Could not save settings at this location.</source>
+            <translation>No se pudieron guardar los ajustes en esta ubicación.</translation>
+        </message>
+        <message>
+            <source>Open Effect</source>
+            <translation>Abrir efecto</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>V</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>A</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>Entrada</translation>
+        </message>
+        <message>
+            <source>Output</source>
+            <translation>Salida</translation>
+        </message>
+        <message>
+            <source>The colors of this screen cannot be changed.</source>
+            <translation>Los colores de esta pantalla no se pueden cambiar.</translation>
+        </message>
+        <message>
+            <source>Before</source>
+            <translation>Antes</translation>
+        </message>
+        <message>
+            <source>With effect</source>
+            <translation>Con el efecto</translation>
+        </message>
+        <message>
+            <source>Clipped</source>
+            <translation>Recortado</translation>
+        </message>
+        <message>
+            <source>Preview</source>
+            <translation>Vista previa</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>brightness from %@ to %@</source>
+            <translation>brillo del %@ al %@</translation>
+        </message>
+        <message>
+            <source>red</source>
+            <translation>rojo</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>verde</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>azul</translation>
+        </message>
+        <message>
+            <source>%@ strongest</source>
+            <translation>predomina el %@</translation>
+        </message>
+        <message>
+            <source>%@ and %@ strongest</source>
+            <translation>predominan el %@ y el %@</translation>
+        </message>
+        <message>
+            <source>inverted</source>
+            <translation>colores invertidos</translation>
+        </message>
+        <message>
+            <source>bright tones clipped</source>
+            <translation>tonos claros recortados</translation>
+        </message>
+        <message>
+            <source>dark tones clipped</source>
+            <translation>tonos oscuros recortados</translation>
+        </message>
+        <message>
+            <source>almost nothing can be told apart</source>
+            <translation>casi nada se distingue</translation>
+        </message>
+        <message>
+            <source>, </source>
+            <translation>, </translation>
+        </message>
+        <message>
+            <source>%@: %@</source>
+            <translation>%@: %@</translation>
+        </message>
+        <message>
+            <source>%@ (%@)</source>
+            <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Para ver qué hacen los efectos, inícielo con --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>No hay ningún servidor X que usar, porque DISPLAY no está definida.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Otro Nocturo maneja las pantallas del servidor X %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>Las pantallas son simuladas; sus imágenes están en %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>El servidor X %@ es solo un invitado de una sesión Wayland y no puede cambiar sus colores; las pantallas en Wayland llegarán en una versión posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>El servidor X %@ no tiene RandR 1.3 o posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>No se puede acceder al servidor X %@.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
@@ -1083,32 +927,185 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>«%@» necesita una modificadora: solo las teclas de función, de flecha y de navegación pueden ser atajos por sí solas.</translation>
         </message>
         <message>
-            <source>To see what the effects do, start it with --display-services=simulated.</source>
-            <translation>Para ver qué hacen los efectos, inícielo con --display-services=simulated.</translation>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>El servidor gráfico ha desaparecido, por lo que Nocturo termina.</translation>
         </message>
         <message>
-            <source>There is no X server to work with, because DISPLAY is not set.</source>
-            <translation>No hay ningún servidor X que usar, porque DISPLAY no está definida.</translation>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo ya se está ejecutando.</translation>
         </message>
         <message>
-            <source>Another Nocturo drives the displays of the X server %@.</source>
-            <translation>Otro Nocturo maneja las pantallas del servidor X %@.</translation>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Cambia el aspecto de pantallas enteras: invertidas, sobreexpuestas, oscurecidas o
+aclaradas, en el rango HDTV o a través de un filtro de color. Se ejecuta hasta que
+se le pide salir, y entonces devuelve cada pantalla. Se maneja con nocturoctl.</translation>
         </message>
         <message>
-            <source>Displays are simulated; their pictures are in %@.</source>
-            <translation>Las pantallas son simuladas; sus imágenes están en %@.</translation>
+            <source>Options:</source>
+            <translation>Opciones:</translation>
         </message>
         <message>
-            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
-            <translation>El servidor X %@ es solo un invitado de una sesión Wayland y no puede cambiar sus colores; las pantallas en Wayland llegarán en una versión posterior.</translation>
+            <source>where the displays come from:</source>
+            <translation>de dónde vienen las pantallas:</translation>
         </message>
         <message>
-            <source>The X server %@ has no RandR 1.3 or later.</source>
-            <translation>El servidor X %@ no tiene RandR 1.3 o posterior.</translation>
+            <source>what this session offers (default)</source>
+            <translation>lo que ofrezca esta sesión (predeterminado)</translation>
         </message>
         <message>
-            <source>The X server %@ cannot be reached.</source>
-            <translation>No se puede acceder al servidor X %@.</translation>
+            <source>an X server</source>
+            <translation>un servidor X</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N pantallas, de 1 a 16 (2 si no se indica),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>en memoria, dibujadas en imágenes</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>mostrar este texto</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>mostrar la versión</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE es un documento de efecto (.nocturo) para abrir; lo abre el Nocturo que se esté
+ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>No existe la opción «%@»; vea nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services admite auto, randr, simulated o simulated:N con N de 1 a 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>El Nocturo en ejecución no responde.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Sin un bus de sesión no se puede pasar un documento al Nocturo en ejecución.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>los efectos elegidos</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>activar el efecto en cada inicio</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>volver a iniciar Nocturo conmuta el efecto</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>mientras esté activado, volver a aplicar cada 6 segundos</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>pausar mientras se ejecuta el salvapantallas</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>conmutar con el atajo global</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: ejecutarse como icono de la bandeja</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>código de tecla virtual del atajo</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>teclas modificadoras del atajo, como bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>si el efecto quedó activado la última vez</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>las pantallas afectadas; ninguna significa todas</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>la última pantalla elegida; 0 significa todas</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>oscurecer: -1 negro, 0 sin cambios, 1 blanco</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>filtro de color: tono en grados</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>filtro de color: intensidad, de 0 a 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>se respondió a la advertencia sobre f.lux</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>«%@» admite una lista de efectos.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>«%@» admite una lista de nombres de efectos.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>«%1$@» solo admite efectos, y no existe el efecto «%2$@».</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>«%@» admite true o false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>«%@» admite un número entero.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>«%@» admite un número finito.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>«%@» admite una lista de identificadores de pantalla.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ZQFluxCheck</name>
+        <message>
+            <source>%@ is present on this computer.</source>
+            <translation>%@ está presente en este equipo.</translation>
+        </message>
+        <message>
+            <source>[%1$@ installed, might interfer %2$@.]</source>
+            <translation>%2$@ también cambia los colores de las pantallas, por lo que puede interferir con %1$@: cada programa puede deshacer lo que hace el otro. Es preferible usar solo uno de los dos a la vez.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continuar</translation>
+        </message>
+        <message>
+            <source>Quit</source>
+            <translation>Salir</translation>
         </message>
     </context>
 </TS>

@@ -195,18 +195,6 @@
     <context>
         <name>Localizable</name>
         <message>
-            <source>About %@</source>
-            <translation>À propos de %@</translation>
-        </message>
-        <message>
-            <source>Version %@</source>
-            <translation>Version %@</translation>
-        </message>
-        <message>
-            <source>Credits.html</source>
-            <translation>Credits_fr.html</translation>
-        </message>
-        <message>
             <source>No effect has been chosen.</source>
             <translation>Aucun effet n’a été choisi.</translation>
         </message>
@@ -221,478 +209,6 @@
         <message>
             <source>Cancel</source>
             <translation>Annuler</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Activer l’effet</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Préférences…</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>À propos de Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Quitter Nocturo</translation>
-        </message>
-        <message>
-            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
-            <translation>Ce bureau n’affiche pas de zone de notification pour le moment ; Nocturo reste accessible par le menu des applications.</translation>
-        </message>
-        <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>&amp;Désactiver l’effet</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Activer l’effet</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Désactiver l’effet</translation>
-        </message>
-        <message>
-            <source>&amp;Clear Menu</source>
-            <translation>&amp;Vider le menu</translation>
-        </message>
-        <message>
-            <source>&amp;File</source>
-            <translation>&amp;Fichier</translation>
-        </message>
-        <message>
-            <source>&amp;Open...</source>
-            <translation>&amp;Ouvrir…</translation>
-        </message>
-        <message>
-            <source>Open &amp;Recent</source>
-            <translation>Documents &amp;récents</translation>
-        </message>
-        <message>
-            <source>&amp;Save...</source>
-            <translation>&amp;Enregistrer…</translation>
-        </message>
-        <message>
-            <source>&amp;Preferences...</source>
-            <translation>&amp;Préférences…</translation>
-        </message>
-        <message>
-            <source>&amp;Close</source>
-            <translation>&amp;Fermer</translation>
-        </message>
-        <message>
-            <source>&amp;Quit Nocturo</source>
-            <translation>&amp;Quitter Nocturo</translation>
-        </message>
-        <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Effet</translation>
-        </message>
-        <message>
-            <source>&amp;Help</source>
-            <translation>Ai&amp;de</translation>
-        </message>
-        <message>
-            <source>&amp;About Nocturo</source>
-            <translation>À &amp;propos de Nocturo</translation>
-        </message>
-        <message>
-            <source>Type a shortcut</source>
-            <translation>Saisir un raccourci</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Raccourci clavier</translation>
-        </message>
-        <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Appuyez sur le nouveau raccourci, ou sur Échap pour conserver l’ancien.</translation>
-        </message>
-        <message>
-            <source>Click or press Space to record another shortcut.</source>
-            <translation>Cliquez ou appuyez sur Espace pour enregistrer un autre raccourci.</translation>
-        </message>
-        <message>
-            <source>Control</source>
-            <translation>Ctrl</translation>
-        </message>
-        <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Maj</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
-        </message>
-        <message>
-            <source>%@ (%@)</source>
-            <translation>%@ (%@)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Tous les écrans</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Écran %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Aucun</translation>
-        </message>
-        <message>
-            <source>R</source>
-            <translation>R</translation>
-        </message>
-        <message>
-            <source>G</source>
-            <translation>V</translation>
-        </message>
-        <message>
-            <source>B</source>
-            <translation>B</translation>
-        </message>
-        <message>
-            <source>Input</source>
-            <translation>Entrée</translation>
-        </message>
-        <message>
-            <source>Output</source>
-            <translation>Sortie</translation>
-        </message>
-        <message>
-            <source>The colors of this screen cannot be changed.</source>
-            <translation>Les couleurs de cet écran ne peuvent pas être modifiées.</translation>
-        </message>
-        <message>
-            <source>Before</source>
-            <translation>Avant</translation>
-        </message>
-        <message>
-            <source>With effect</source>
-            <translation>Avec l’effet</translation>
-        </message>
-        <message>
-            <source>Clipped</source>
-            <translation>Écrêté</translation>
-        </message>
-        <message>
-            <source>Preview</source>
-            <translation>Aperçu</translation>
-        </message>
-        <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
-            <source>brightness from %@ to %@</source>
-            <translation>luminosité de %@ à %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>rouge</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>vert</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>bleu</translation>
-        </message>
-        <message>
-            <source>%@ strongest</source>
-            <translation>%@ dominant</translation>
-        </message>
-        <message>
-            <source>%@ and %@ strongest</source>
-            <translation>%@ et %@ dominants</translation>
-        </message>
-        <message>
-            <source>inverted</source>
-            <translation>couleurs inversées</translation>
-        </message>
-        <message>
-            <source>bright tones clipped</source>
-            <translation>tons clairs écrêtés</translation>
-        </message>
-        <message>
-            <source>dark tones clipped</source>
-            <translation>tons sombres écrêtés</translation>
-        </message>
-        <message>
-            <source>almost nothing can be told apart</source>
-            <translation>presque rien ne se distingue</translation>
-        </message>
-        <message>
-            <source>, </source>
-            <translation>, </translation>
-        </message>
-        <message>
-            <source>%@: %@</source>
-            <translation>%@ : %@</translation>
-        </message>
-        <message>
-            <source>Keep these colors?</source>
-            <translation>Garder ces couleurs ?</translation>
-        </message>
-        <message>
-            <source>&amp;Keep</source>
-            <translation>&amp;Garder</translation>
-        </message>
-        <message>
-            <source>&amp;Go back</source>
-            <translation>&amp;Rétablir</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>Les écrans sont maintenant difficiles à lire. Les couleurs précédentes seront rétablies dans %d s.</translation>
-        </message>
-        <message>
-            <source> %</source>
-            <translation> %</translation>
-        </message>
-        <message>
-            <source>Close anyway</source>
-            <translation>Fermer quand même</translation>
-        </message>
-        <message>
-            <source>Nocturo effects</source>
-            <translation>Effets Nocturo</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
-        </message>
-        <message>
-            <source>Save Effect</source>
-            <translation>Enregistrer l’effet</translation>
-        </message>
-        <message>
-            <source>&amp;Hide extension</source>
-            <translation>&amp;Masquer l’extension</translation>
-        </message>
-        <message>
-            <source>Saving failed</source>
-            <translation>Échec de l’enregistrement</translation>
-        </message>
-        <message>
-            <source>Could not save settings at this location.</source>
-            <translation>Impossible d’enregistrer les réglages à cet emplacement.</translation>
-        </message>
-        <message>
-            <source>Open Effect</source>
-            <translation>Ouvrir un effet</translation>
-        </message>
-        <message>
-            <source>Opening failed</source>
-            <translation>Échec de l’ouverture</translation>
-        </message>
-        <message>
-            <source>“%@” is not an effect document.</source>
-            <translation>« %@ » n’est pas un document d’effet.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ZQFluxCheck</name>
-        <message>
-            <source>%@ is present on this computer.</source>
-            <translation>%@ est présent sur cet ordinateur.</translation>
-        </message>
-        <message>
-            <source>[%1$@ installed, might interfer %2$@.]</source>
-            <translation>%2$@ modifie aussi les couleurs des écrans et peut donc interférer avec %1$@ : chacun des deux programmes peut annuler ce que fait l’autre. Il vaut mieux n’en utiliser qu’un à la fois.</translation>
-        </message>
-        <message>
-            <source>Continue</source>
-            <translation>Continuer</translation>
-        </message>
-        <message>
-            <source>Quit</source>
-            <translation>Quitter</translation>
-        </message>
-    </context>
-    <context>
-        <name>CommandLine</name>
-        <message>
-            <source>The display server has gone, so Nocturo ends.</source>
-            <translation>Le serveur d’affichage a disparu, Nocturo se termine donc.</translation>
-        </message>
-        <message>
-            <source>Nocturo is already running.</source>
-            <translation>Nocturo est déjà en cours d’exécution.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
-        </message>
-        <message>
-            <source>Usage: %@</source>
-            <translation>Utilisation : %@</translation>
-        </message>
-        <message>
-            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
-the HDTV range or through a color filter. Runs until it is told to quit, and
-gives every display back then. Drive it with nocturoctl.</source>
-            <translation>Change l’aspect d’écrans entiers : inversés, surexposés, assombris ou éclaircis,
-dans la plage HDTV ou à travers un filtre coloré. Tourne jusqu’à ce qu’on le quitte
-et rend alors à chaque écran ses couleurs. Se commande avec nocturoctl.</translation>
-        </message>
-        <message>
-            <source>Options:</source>
-            <translation>Options :</translation>
-        </message>
-        <message>
-            <source>where the displays come from:</source>
-            <translation>d’où viennent les écrans :</translation>
-        </message>
-        <message>
-            <source>what this session offers (default)</source>
-            <translation>ce qu’offre cette session (par défaut)</translation>
-        </message>
-        <message>
-            <source>an X server</source>
-            <translation>un serveur X</translation>
-        </message>
-        <message>
-            <source>N displays, 1 to 16 (default 2),</source>
-            <translation>N écrans, de 1 à 16 (2 par défaut),</translation>
-        </message>
-        <message>
-            <source>in memory, drawn into pictures</source>
-            <translation>en mémoire, dessinés dans des images</translation>
-        </message>
-        <message>
-            <source>show this text</source>
-            <translation>afficher ce texte</translation>
-        </message>
-        <message>
-            <source>show the version</source>
-            <translation>afficher la version</translation>
-        </message>
-        <message>
-            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
-there is one. Starting Nocturo a second time without one toggles the effect.</source>
-            <translation>FILE est un document d’effet (.nocturo) à ouvrir, par le Nocturo en cours
-d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effet.</translation>
-        </message>
-        <message>
-            <source>There is no option "%@"; see nocturo --help.</source>
-            <translation>L’option « %@ » n’existe pas ; voir nocturo --help.</translation>
-        </message>
-        <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services accepte auto, randr, simulated ou simulated:N avec N de 1 à 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>Le Nocturo en cours d’exécution ne répond pas.</translation>
-        </message>
-        <message>
-            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
-            <translation>Sans bus de session, aucun document ne peut être transmis au Nocturo en cours d’exécution.</translation>
-        </message>
-        <message>
-            <source>the selected effects</source>
-            <translation>les effets choisis</translation>
-        </message>
-        <message>
-            <source>switch the effect on at every start</source>
-            <translation>activer l’effet à chaque démarrage</translation>
-        </message>
-        <message>
-            <source>starting Nocturo again toggles the effect</source>
-            <translation>relancer Nocturo bascule l’effet</translation>
-        </message>
-        <message>
-            <source>while on, apply again every 6 seconds</source>
-            <translation>tant qu’il est activé, réappliquer toutes les 6 secondes</translation>
-        </message>
-        <message>
-            <source>pause while the screen saver runs</source>
-            <translation>suspendre pendant l’économiseur d’écran</translation>
-        </message>
-        <message>
-            <source>toggle with the global hot key</source>
-            <translation>basculer avec le raccourci global</translation>
-        </message>
-        <message>
-            <source>1: run as a tray item</source>
-            <translation>1 : tourner comme icône de la zone de notification</translation>
-        </message>
-        <message>
-            <source>virtual key code of the hot key</source>
-            <translation>code de touche virtuel du raccourci</translation>
-        </message>
-        <message>
-            <source>modifier flags of the hot key</source>
-            <translation>touches de modification du raccourci, en bits</translation>
-        </message>
-        <message>
-            <source>whether the effect was last switched on</source>
-            <translation>si l’effet était activé en dernier lieu</translation>
-        </message>
-        <message>
-            <source>the affected displays; none means all</source>
-            <translation>les écrans concernés ; aucun signifie tous</translation>
-        </message>
-        <message>
-            <source>the display last picked; 0 means all</source>
-            <translation>le dernier écran choisi ; 0 signifie tous</translation>
-        </message>
-        <message>
-            <source>dim: -1 black, 0 unchanged, 1 white</source>
-            <translation>assombrir : -1 noir, 0 inchangé, 1 blanc</translation>
-        </message>
-        <message>
-            <source>color filter: hue in degrees</source>
-            <translation>filtre coloré : teinte en degrés</translation>
-        </message>
-        <message>
-            <source>color filter: strength, 0 to 1</source>
-            <translation>filtre coloré : intensité, de 0 à 1</translation>
-        </message>
-        <message>
-            <source>the f.lux warning was answered</source>
-            <translation>l’avertissement sur f.lux a reçu une réponse</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effects.</source>
-            <translation>« %@ » attend une liste d’effets.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effect names.</source>
-            <translation>« %@ » attend une liste de noms d’effets.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
-            <translation>« %1$@ » n’accepte que des effets, et l’effet « %2$@ » n’existe pas.</translation>
-        </message>
-        <message>
-            <source>"%@" takes true or false.</source>
-            <translation>« %@ » attend true ou false.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a whole number.</source>
-            <translation>« %@ » attend un nombre entier.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a finite number.</source>
-            <translation>« %@ » attend un nombre fini.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of display identifiers.</source>
-            <translation>« %@ » attend une liste d’identifiants d’écrans.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>
@@ -899,6 +415,10 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>Rendre les écrans et quitter Nocturo</translation>
         </message>
         <message>
+            <source>Usage: %@</source>
+            <translation>Utilisation : %@</translation>
+        </message>
+        <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Commande le Nocturo qui tourne dans cette session.</translation>
         </message>
@@ -1031,6 +551,10 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>Il n’y a pas de serveur X dont les écrans pourraient être rendus, car DISPLAY n’est pas défini.</translation>
         </message>
         <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
+        </message>
+        <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
             <translation>Les écrans ont retrouvé leurs propres couleurs, telles qu’avant que Nocturo ne les change.</translation>
         </message>
@@ -1049,6 +573,326 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
             <translation>L’effet « %@ » n’existe pas ; les effets sont %@.</translation>
+        </message>
+        <message>
+            <source>About %@</source>
+            <translation>À propos de %@</translation>
+        </message>
+        <message>
+            <source>Version %@</source>
+            <translation>Version %@</translation>
+        </message>
+        <message>
+            <source>Credits.html</source>
+            <translation>Credits_fr.html</translation>
+        </message>
+        <message>
+            <source>Type a shortcut</source>
+            <translation>Saisir un raccourci</translation>
+        </message>
+        <message>
+            <source>Hot key</source>
+            <translation>Raccourci clavier</translation>
+        </message>
+        <message>
+            <source>Press the new shortcut, or Escape to leave it as it was.</source>
+            <translation>Appuyez sur le nouveau raccourci, ou sur Échap pour conserver l’ancien.</translation>
+        </message>
+        <message>
+            <source>Click or press Space to record another shortcut.</source>
+            <translation>Cliquez ou appuyez sur Espace pour enregistrer un autre raccourci.</translation>
+        </message>
+        <message>
+            <source>Control</source>
+            <translation>Ctrl</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Maj</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Activer l’effet</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Préférences…</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>À propos de Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Quitter Nocturo</translation>
+        </message>
+        <message>
+            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
+            <translation>Ce bureau n’affiche pas de zone de notification pour le moment ; Nocturo reste accessible par le menu des applications.</translation>
+        </message>
+        <message>
+            <source>“%@” is not an effect document.</source>
+            <translation>« %@ » n’est pas un document d’effet.</translation>
+        </message>
+        <message>
+            <source>Opening failed</source>
+            <translation>Échec de l’ouverture</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activer l’effet</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vider le menu</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Fichier</translation>
+        </message>
+        <message>
+            <source>&amp;Open...</source>
+            <translation>&amp;Ouvrir…</translation>
+        </message>
+        <message>
+            <source>Open &amp;Recent</source>
+            <translation>Documents &amp;récents</translation>
+        </message>
+        <message>
+            <source>&amp;Save...</source>
+            <translation>&amp;Enregistrer…</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences...</source>
+            <translation>&amp;Préférences…</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>&amp;Fermer</translation>
+        </message>
+        <message>
+            <source>&amp;Quit Nocturo</source>
+            <translation>&amp;Quitter Nocturo</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effet</translation>
+        </message>
+        <message>
+            <source>&amp;Help</source>
+            <translation>Ai&amp;de</translation>
+        </message>
+        <message>
+            <source>&amp;About Nocturo</source>
+            <translation>À &amp;propos de Nocturo</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Tous les écrans</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Écran %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Aucun</translation>
+        </message>
+        <message>
+            <source>Keep these colors?</source>
+            <translation>Garder ces couleurs ?</translation>
+        </message>
+        <message>
+            <source>&amp;Keep</source>
+            <translation>&amp;Garder</translation>
+        </message>
+        <message>
+            <source>&amp;Go back</source>
+            <translation>&amp;Rétablir</translation>
+        </message>
+        <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>Les écrans sont maintenant difficiles à lire. Les couleurs précédentes seront rétablies dans %d s.</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation> %</translation>
+        </message>
+        <message>
+            <source>Close anyway</source>
+            <translation>Fermer quand même</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Effets Nocturo</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Save Effect</source>
+            <translation>Enregistrer l’effet</translation>
+        </message>
+        <message>
+            <source>&amp;Hide extension</source>
+            <translation>&amp;Masquer l’extension</translation>
+        </message>
+        <message>
+            <source>Saving failed</source>
+            <translation>Échec de l’enregistrement</translation>
+        </message>
+        <message>
+            <source>Could not save settings at this location.</source>
+            <translation>Impossible d’enregistrer les réglages à cet emplacement.</translation>
+        </message>
+        <message>
+            <source>Open Effect</source>
+            <translation>Ouvrir un effet</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>V</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>Entrée</translation>
+        </message>
+        <message>
+            <source>Output</source>
+            <translation>Sortie</translation>
+        </message>
+        <message>
+            <source>The colors of this screen cannot be changed.</source>
+            <translation>Les couleurs de cet écran ne peuvent pas être modifiées.</translation>
+        </message>
+        <message>
+            <source>Before</source>
+            <translation>Avant</translation>
+        </message>
+        <message>
+            <source>With effect</source>
+            <translation>Avec l’effet</translation>
+        </message>
+        <message>
+            <source>Clipped</source>
+            <translation>Écrêté</translation>
+        </message>
+        <message>
+            <source>Preview</source>
+            <translation>Aperçu</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>brightness from %@ to %@</source>
+            <translation>luminosité de %@ à %@</translation>
+        </message>
+        <message>
+            <source>red</source>
+            <translation>rouge</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>vert</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>bleu</translation>
+        </message>
+        <message>
+            <source>%@ strongest</source>
+            <translation>%@ dominant</translation>
+        </message>
+        <message>
+            <source>%@ and %@ strongest</source>
+            <translation>%@ et %@ dominants</translation>
+        </message>
+        <message>
+            <source>inverted</source>
+            <translation>couleurs inversées</translation>
+        </message>
+        <message>
+            <source>bright tones clipped</source>
+            <translation>tons clairs écrêtés</translation>
+        </message>
+        <message>
+            <source>dark tones clipped</source>
+            <translation>tons sombres écrêtés</translation>
+        </message>
+        <message>
+            <source>almost nothing can be told apart</source>
+            <translation>presque rien ne se distingue</translation>
+        </message>
+        <message>
+            <source>, </source>
+            <translation>, </translation>
+        </message>
+        <message>
+            <source>%@: %@</source>
+            <translation>%@ : %@</translation>
+        </message>
+        <message>
+            <source>%@ (%@)</source>
+            <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Pour voir ce que font les effets, lancez-le avec --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>Il n’y a pas de serveur X à utiliser, car DISPLAY n’est pas défini.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Un autre Nocturo commande les écrans du serveur X %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>Les écrans sont simulés ; leurs images sont dans %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>Le serveur X %@ n’est qu’un invité d’une session Wayland et ne peut pas en changer les couleurs ; les écrans sous Wayland viendront dans une version ultérieure.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>Le serveur X %@ n’a pas RandR 1.3 ou plus récent.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>Le serveur X %@ est injoignable.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
@@ -1083,32 +927,185 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>« %@ » exige une touche de modification : seules les touches de fonction, fléchées et de navigation peuvent servir seules de raccourci.</translation>
         </message>
         <message>
-            <source>To see what the effects do, start it with --display-services=simulated.</source>
-            <translation>Pour voir ce que font les effets, lancez-le avec --display-services=simulated.</translation>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>Le serveur d’affichage a disparu, Nocturo se termine donc.</translation>
         </message>
         <message>
-            <source>There is no X server to work with, because DISPLAY is not set.</source>
-            <translation>Il n’y a pas de serveur X à utiliser, car DISPLAY n’est pas défini.</translation>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo est déjà en cours d’exécution.</translation>
         </message>
         <message>
-            <source>Another Nocturo drives the displays of the X server %@.</source>
-            <translation>Un autre Nocturo commande les écrans du serveur X %@.</translation>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Change l’aspect d’écrans entiers : inversés, surexposés, assombris ou éclaircis,
+dans la plage HDTV ou à travers un filtre coloré. Tourne jusqu’à ce qu’on le quitte
+et rend alors à chaque écran ses couleurs. Se commande avec nocturoctl.</translation>
         </message>
         <message>
-            <source>Displays are simulated; their pictures are in %@.</source>
-            <translation>Les écrans sont simulés ; leurs images sont dans %@.</translation>
+            <source>Options:</source>
+            <translation>Options :</translation>
         </message>
         <message>
-            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
-            <translation>Le serveur X %@ n’est qu’un invité d’une session Wayland et ne peut pas en changer les couleurs ; les écrans sous Wayland viendront dans une version ultérieure.</translation>
+            <source>where the displays come from:</source>
+            <translation>d’où viennent les écrans :</translation>
         </message>
         <message>
-            <source>The X server %@ has no RandR 1.3 or later.</source>
-            <translation>Le serveur X %@ n’a pas RandR 1.3 ou plus récent.</translation>
+            <source>what this session offers (default)</source>
+            <translation>ce qu’offre cette session (par défaut)</translation>
         </message>
         <message>
-            <source>The X server %@ cannot be reached.</source>
-            <translation>Le serveur X %@ est injoignable.</translation>
+            <source>an X server</source>
+            <translation>un serveur X</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N écrans, de 1 à 16 (2 par défaut),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>en mémoire, dessinés dans des images</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>afficher ce texte</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>afficher la version</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE est un document d’effet (.nocturo) à ouvrir, par le Nocturo en cours
+d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effet.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>L’option « %@ » n’existe pas ; voir nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services accepte auto, randr, simulated ou simulated:N avec N de 1 à 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>Le Nocturo en cours d’exécution ne répond pas.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Sans bus de session, aucun document ne peut être transmis au Nocturo en cours d’exécution.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>les effets choisis</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>activer l’effet à chaque démarrage</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>relancer Nocturo bascule l’effet</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>tant qu’il est activé, réappliquer toutes les 6 secondes</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>suspendre pendant l’économiseur d’écran</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>basculer avec le raccourci global</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1 : tourner comme icône de la zone de notification</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>code de touche virtuel du raccourci</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>touches de modification du raccourci, en bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>si l’effet était activé en dernier lieu</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>les écrans concernés ; aucun signifie tous</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>le dernier écran choisi ; 0 signifie tous</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>assombrir : -1 noir, 0 inchangé, 1 blanc</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>filtre coloré : teinte en degrés</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>filtre coloré : intensité, de 0 à 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>l’avertissement sur f.lux a reçu une réponse</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>« %@ » attend une liste d’effets.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>« %@ » attend une liste de noms d’effets.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>« %1$@ » n’accepte que des effets, et l’effet « %2$@ » n’existe pas.</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>« %@ » attend true ou false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>« %@ » attend un nombre entier.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>« %@ » attend un nombre fini.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>« %@ » attend une liste d’identifiants d’écrans.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ZQFluxCheck</name>
+        <message>
+            <source>%@ is present on this computer.</source>
+            <translation>%@ est présent sur cet ordinateur.</translation>
+        </message>
+        <message>
+            <source>[%1$@ installed, might interfer %2$@.]</source>
+            <translation>%2$@ modifie aussi les couleurs des écrans et peut donc interférer avec %1$@ : chacun des deux programmes peut annuler ce que fait l’autre. Il vaut mieux n’en utiliser qu’un à la fois.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continuer</translation>
+        </message>
+        <message>
+            <source>Quit</source>
+            <translation>Quitter</translation>
         </message>
     </context>
 </TS>

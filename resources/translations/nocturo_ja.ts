@@ -195,18 +195,6 @@
     <context>
         <name>Localizable</name>
         <message>
-            <source>About %@</source>
-            <translation>%@ について</translation>
-        </message>
-        <message>
-            <source>Version %@</source>
-            <translation>バージョン %@</translation>
-        </message>
-        <message>
-            <source>Credits.html</source>
-            <translation>Credits_ja.html</translation>
-        </message>
-        <message>
             <source>No effect has been chosen.</source>
             <translation>効果が選択されていません。</translation>
         </message>
@@ -221,478 +209,6 @@
         <message>
             <source>Cancel</source>
             <translation>キャンセル</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>効果をオンにする</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>設定...</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Nocturo について</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Nocturo を終了</translation>
-        </message>
-        <message>
-            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
-            <translation>このデスクトップには現在システムトレイがありません。Nocturo はアプリケーションメニューから操作できます。</translation>
-        </message>
-        <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>効果をオフにする(&amp;D)</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>効果をオンにする(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>効果をオフにする</translation>
-        </message>
-        <message>
-            <source>&amp;Clear Menu</source>
-            <translation>履歴を消去(&amp;C)</translation>
-        </message>
-        <message>
-            <source>&amp;File</source>
-            <translation>ファイル(&amp;F)</translation>
-        </message>
-        <message>
-            <source>&amp;Open...</source>
-            <translation>開く(&amp;O)...</translation>
-        </message>
-        <message>
-            <source>Open &amp;Recent</source>
-            <translation>最近使ったファイルを開く(&amp;R)</translation>
-        </message>
-        <message>
-            <source>&amp;Save...</source>
-            <translation>保存(&amp;S)...</translation>
-        </message>
-        <message>
-            <source>&amp;Preferences...</source>
-            <translation>設定(&amp;P)...</translation>
-        </message>
-        <message>
-            <source>&amp;Close</source>
-            <translation>閉じる(&amp;C)</translation>
-        </message>
-        <message>
-            <source>&amp;Quit Nocturo</source>
-            <translation>Nocturo を終了(&amp;Q)</translation>
-        </message>
-        <message>
-            <source>&amp;Effect</source>
-            <translation>効果(&amp;E)</translation>
-        </message>
-        <message>
-            <source>&amp;Help</source>
-            <translation>ヘルプ(&amp;H)</translation>
-        </message>
-        <message>
-            <source>&amp;About Nocturo</source>
-            <translation>Nocturo について(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Type a shortcut</source>
-            <translation>キーを押してください</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>ショートカットキー</translation>
-        </message>
-        <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>新しいショートカットキーを押してください。変更しない場合は Esc キーを押してください。</translation>
-        </message>
-        <message>
-            <source>Click or press Space to record another shortcut.</source>
-            <translation>別のショートカットキーを設定するには、クリックするかスペースキーを押してください。</translation>
-        </message>
-        <message>
-            <source>Control</source>
-            <translation>Control</translation>
-        </message>
-        <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Shift</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
-        </message>
-        <message>
-            <source>%@ (%@)</source>
-            <translation>%@ (%@)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>すべての画面</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>画面 %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>、%d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>なし</translation>
-        </message>
-        <message>
-            <source>R</source>
-            <translation>R</translation>
-        </message>
-        <message>
-            <source>G</source>
-            <translation>G</translation>
-        </message>
-        <message>
-            <source>B</source>
-            <translation>B</translation>
-        </message>
-        <message>
-            <source>Input</source>
-            <translation>入力</translation>
-        </message>
-        <message>
-            <source>Output</source>
-            <translation>出力</translation>
-        </message>
-        <message>
-            <source>The colors of this screen cannot be changed.</source>
-            <translation>この画面の色は変更できません。</translation>
-        </message>
-        <message>
-            <source>Before</source>
-            <translation>適用前</translation>
-        </message>
-        <message>
-            <source>With effect</source>
-            <translation>適用後</translation>
-        </message>
-        <message>
-            <source>Clipped</source>
-            <translation>クリップ</translation>
-        </message>
-        <message>
-            <source>Preview</source>
-            <translation>プレビュー</translation>
-        </message>
-        <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
-            <source>brightness from %@ to %@</source>
-            <translation>明るさ %@～%@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>赤</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>緑</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>青</translation>
-        </message>
-        <message>
-            <source>%@ strongest</source>
-            <translation>%@が最も強い</translation>
-        </message>
-        <message>
-            <source>%@ and %@ strongest</source>
-            <translation>%@と%@が最も強い</translation>
-        </message>
-        <message>
-            <source>inverted</source>
-            <translation>反転</translation>
-        </message>
-        <message>
-            <source>bright tones clipped</source>
-            <translation>明部がクリップ</translation>
-        </message>
-        <message>
-            <source>dark tones clipped</source>
-            <translation>暗部がクリップ</translation>
-        </message>
-        <message>
-            <source>almost nothing can be told apart</source>
-            <translation>ほとんど何も見分けられない</translation>
-        </message>
-        <message>
-            <source>, </source>
-            <translation>、</translation>
-        </message>
-        <message>
-            <source>%@: %@</source>
-            <translation>%@：%@</translation>
-        </message>
-        <message>
-            <source>Keep these colors?</source>
-            <translation>この色のままにしますか？</translation>
-        </message>
-        <message>
-            <source>&amp;Keep</source>
-            <translation>このままにする(&amp;K)</translation>
-        </message>
-        <message>
-            <source>&amp;Go back</source>
-            <translation>元に戻す(&amp;G)</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>画面が読みにくくなっています。%d 秒後に元の色に戻ります。</translation>
-        </message>
-        <message>
-            <source> %</source>
-            <translation>%</translation>
-        </message>
-        <message>
-            <source>Close anyway</source>
-            <translation>このまま閉じる</translation>
-        </message>
-        <message>
-            <source>Nocturo effects</source>
-            <translation>Nocturo の効果</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
-        </message>
-        <message>
-            <source>Save Effect</source>
-            <translation>効果を保存</translation>
-        </message>
-        <message>
-            <source>&amp;Hide extension</source>
-            <translation>拡張子を隠す(&amp;X)</translation>
-        </message>
-        <message>
-            <source>Saving failed</source>
-            <translation>保存できませんでした</translation>
-        </message>
-        <message>
-            <source>Could not save settings at this location.</source>
-            <translation>この場所に設定を保存できませんでした。</translation>
-        </message>
-        <message>
-            <source>Open Effect</source>
-            <translation>効果を開く</translation>
-        </message>
-        <message>
-            <source>Opening failed</source>
-            <translation>開けませんでした</translation>
-        </message>
-        <message>
-            <source>“%@” is not an effect document.</source>
-            <translation>「%@」は効果のドキュメントではありません。</translation>
-        </message>
-    </context>
-    <context>
-        <name>ZQFluxCheck</name>
-        <message>
-            <source>%@ is present on this computer.</source>
-            <translation>このコンピューターには %@ があります。</translation>
-        </message>
-        <message>
-            <source>[%1$@ installed, might interfer %2$@.]</source>
-            <translation>%2$@ も画面の色を変更するため、%1$@ の動作を妨げることがあります。それぞれのプログラムが、もう一方による変更を打ち消してしまう可能性があります。同時に使用するのはどちらか一方だけにすることをお勧めします。</translation>
-        </message>
-        <message>
-            <source>Continue</source>
-            <translation>続行</translation>
-        </message>
-        <message>
-            <source>Quit</source>
-            <translation>終了</translation>
-        </message>
-    </context>
-    <context>
-        <name>CommandLine</name>
-        <message>
-            <source>The display server has gone, so Nocturo ends.</source>
-            <translation>ディスプレイサーバーがなくなったため、Nocturo を終了します。</translation>
-        </message>
-        <message>
-            <source>Nocturo is already running.</source>
-            <translation>Nocturo はすでに起動しています。</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
-        </message>
-        <message>
-            <source>Usage: %@</source>
-            <translation>使い方: %@</translation>
-        </message>
-        <message>
-            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
-the HDTV range or through a color filter. Runs until it is told to quit, and
-gives every display back then. Drive it with nocturoctl.</source>
-            <translation>画面全体の見え方を変えます: 反転、露出オーバー、暗くする・明るくする、HDTV の
-範囲、カラーフィルター。終了するまで動作し、終了時にすべての画面を元に戻します。
-nocturoctl で操作します。</translation>
-        </message>
-        <message>
-            <source>Options:</source>
-            <translation>オプション:</translation>
-        </message>
-        <message>
-            <source>where the displays come from:</source>
-            <translation>画面の取得元:</translation>
-        </message>
-        <message>
-            <source>what this session offers (default)</source>
-            <translation>このセッションで使えるもの (既定)</translation>
-        </message>
-        <message>
-            <source>an X server</source>
-            <translation>X サーバー</translation>
-        </message>
-        <message>
-            <source>N displays, 1 to 16 (default 2),</source>
-            <translation>N 個の画面、1～16 (既定は 2)、</translation>
-        </message>
-        <message>
-            <source>in memory, drawn into pictures</source>
-            <translation>メモリ上で、画像に描画</translation>
-        </message>
-        <message>
-            <source>show this text</source>
-            <translation>この説明を表示</translation>
-        </message>
-        <message>
-            <source>show the version</source>
-            <translation>バージョンを表示</translation>
-        </message>
-        <message>
-            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
-there is one. Starting Nocturo a second time without one toggles the effect.</source>
-            <translation>FILE は開く効果ドキュメント (.nocturo) です。Nocturo がすでに起動していれば、
-そちらで開きます。FILE なしで再び起動すると、効果のオン／オフを切り替えます。</translation>
-        </message>
-        <message>
-            <source>There is no option "%@"; see nocturo --help.</source>
-            <translation>「%@」というオプションはありません。nocturo --help を参照してください。</translation>
-        </message>
-        <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services に指定できるのは auto、randr、simulated、simulated:N (N は 1～16) です。</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>起動中の Nocturo が応答しません。</translation>
-        </message>
-        <message>
-            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
-            <translation>セッションバスがないため、起動中の Nocturo にドキュメントを渡せません。</translation>
-        </message>
-        <message>
-            <source>the selected effects</source>
-            <translation>選択された効果</translation>
-        </message>
-        <message>
-            <source>switch the effect on at every start</source>
-            <translation>起動のたびに効果をオンにする</translation>
-        </message>
-        <message>
-            <source>starting Nocturo again toggles the effect</source>
-            <translation>Nocturo を再び起動すると効果を切り替える</translation>
-        </message>
-        <message>
-            <source>while on, apply again every 6 seconds</source>
-            <translation>オンの間、6 秒ごとに再適用する</translation>
-        </message>
-        <message>
-            <source>pause while the screen saver runs</source>
-            <translation>スクリーンセーバーの実行中は一時停止する</translation>
-        </message>
-        <message>
-            <source>toggle with the global hot key</source>
-            <translation>グローバルショートカットキーで切り替える</translation>
-        </message>
-        <message>
-            <source>1: run as a tray item</source>
-            <translation>1: システムトレイのアイコンとして動作</translation>
-        </message>
-        <message>
-            <source>virtual key code of the hot key</source>
-            <translation>ショートカットキーの仮想キーコード</translation>
-        </message>
-        <message>
-            <source>modifier flags of the hot key</source>
-            <translation>ショートカットキーの修飾キー (ビット)</translation>
-        </message>
-        <message>
-            <source>whether the effect was last switched on</source>
-            <translation>最後に効果がオンだったかどうか</translation>
-        </message>
-        <message>
-            <source>the affected displays; none means all</source>
-            <translation>対象の画面。なしはすべてを意味する</translation>
-        </message>
-        <message>
-            <source>the display last picked; 0 means all</source>
-            <translation>最後に選んだ画面。0 はすべてを意味する</translation>
-        </message>
-        <message>
-            <source>dim: -1 black, 0 unchanged, 1 white</source>
-            <translation>暗くする: -1 は黒、0 は変更なし、1 は白</translation>
-        </message>
-        <message>
-            <source>color filter: hue in degrees</source>
-            <translation>カラーフィルター: 色相 (度)</translation>
-        </message>
-        <message>
-            <source>color filter: strength, 0 to 1</source>
-            <translation>カラーフィルター: 強さ、0～1</translation>
-        </message>
-        <message>
-            <source>the f.lux warning was answered</source>
-            <translation>f.lux についての警告に回答済み</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effects.</source>
-            <translation>「%@」には効果のリストを指定します。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effect names.</source>
-            <translation>「%@」には効果の名前のリストを指定します。</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
-            <translation>「%1$@」には効果だけを指定できますが、「%2$@」という効果はありません。</translation>
-        </message>
-        <message>
-            <source>"%@" takes true or false.</source>
-            <translation>「%@」には true か false を指定します。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a whole number.</source>
-            <translation>「%@」には整数を指定します。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a finite number.</source>
-            <translation>「%@」には有限の数を指定します。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of display identifiers.</source>
-            <translation>「%@」には画面の識別子のリストを指定します。</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>
@@ -899,6 +415,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>画面を元に戻して Nocturo を終了する</translation>
         </message>
         <message>
+            <source>Usage: %@</source>
+            <translation>使い方: %@</translation>
+        </message>
+        <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>このセッションで動作している Nocturo を操作します。</translation>
         </message>
@@ -1031,6 +551,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>DISPLAY が設定されていないため、画面を元に戻す X サーバーがありません。</translation>
         </message>
         <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
+        </message>
+        <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
             <translation>画面の色は、Nocturo が変更する前の状態に戻りました。</translation>
         </message>
@@ -1049,6 +573,326 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
             <translation>「%@」という効果はありません。使える効果: %@。</translation>
+        </message>
+        <message>
+            <source>About %@</source>
+            <translation>%@ について</translation>
+        </message>
+        <message>
+            <source>Version %@</source>
+            <translation>バージョン %@</translation>
+        </message>
+        <message>
+            <source>Credits.html</source>
+            <translation>Credits_ja.html</translation>
+        </message>
+        <message>
+            <source>Type a shortcut</source>
+            <translation>キーを押してください</translation>
+        </message>
+        <message>
+            <source>Hot key</source>
+            <translation>ショートカットキー</translation>
+        </message>
+        <message>
+            <source>Press the new shortcut, or Escape to leave it as it was.</source>
+            <translation>新しいショートカットキーを押してください。変更しない場合は Esc キーを押してください。</translation>
+        </message>
+        <message>
+            <source>Click or press Space to record another shortcut.</source>
+            <translation>別のショートカットキーを設定するには、クリックするかスペースキーを押してください。</translation>
+        </message>
+        <message>
+            <source>Control</source>
+            <translation>Control</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Shift</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>効果をオンにする</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>設定...</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Nocturo について</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Nocturo を終了</translation>
+        </message>
+        <message>
+            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
+            <translation>このデスクトップには現在システムトレイがありません。Nocturo はアプリケーションメニューから操作できます。</translation>
+        </message>
+        <message>
+            <source>“%@” is not an effect document.</source>
+            <translation>「%@」は効果のドキュメントではありません。</translation>
+        </message>
+        <message>
+            <source>Opening failed</source>
+            <translation>開けませんでした</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>効果をオフにする(&amp;D)</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>効果をオンにする(&amp;A)</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>効果をオフにする</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>履歴を消去(&amp;C)</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>ファイル(&amp;F)</translation>
+        </message>
+        <message>
+            <source>&amp;Open...</source>
+            <translation>開く(&amp;O)...</translation>
+        </message>
+        <message>
+            <source>Open &amp;Recent</source>
+            <translation>最近使ったファイルを開く(&amp;R)</translation>
+        </message>
+        <message>
+            <source>&amp;Save...</source>
+            <translation>保存(&amp;S)...</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences...</source>
+            <translation>設定(&amp;P)...</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>閉じる(&amp;C)</translation>
+        </message>
+        <message>
+            <source>&amp;Quit Nocturo</source>
+            <translation>Nocturo を終了(&amp;Q)</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>効果(&amp;E)</translation>
+        </message>
+        <message>
+            <source>&amp;Help</source>
+            <translation>ヘルプ(&amp;H)</translation>
+        </message>
+        <message>
+            <source>&amp;About Nocturo</source>
+            <translation>Nocturo について(&amp;A)</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>すべての画面</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>画面 %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>、%d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>なし</translation>
+        </message>
+        <message>
+            <source>Keep these colors?</source>
+            <translation>この色のままにしますか？</translation>
+        </message>
+        <message>
+            <source>&amp;Keep</source>
+            <translation>このままにする(&amp;K)</translation>
+        </message>
+        <message>
+            <source>&amp;Go back</source>
+            <translation>元に戻す(&amp;G)</translation>
+        </message>
+        <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>画面が読みにくくなっています。%d 秒後に元の色に戻ります。</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source>Close anyway</source>
+            <translation>このまま閉じる</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Nocturo の効果</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Save Effect</source>
+            <translation>効果を保存</translation>
+        </message>
+        <message>
+            <source>&amp;Hide extension</source>
+            <translation>拡張子を隠す(&amp;X)</translation>
+        </message>
+        <message>
+            <source>Saving failed</source>
+            <translation>保存できませんでした</translation>
+        </message>
+        <message>
+            <source>Could not save settings at this location.</source>
+            <translation>この場所に設定を保存できませんでした。</translation>
+        </message>
+        <message>
+            <source>Open Effect</source>
+            <translation>効果を開く</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>入力</translation>
+        </message>
+        <message>
+            <source>Output</source>
+            <translation>出力</translation>
+        </message>
+        <message>
+            <source>The colors of this screen cannot be changed.</source>
+            <translation>この画面の色は変更できません。</translation>
+        </message>
+        <message>
+            <source>Before</source>
+            <translation>適用前</translation>
+        </message>
+        <message>
+            <source>With effect</source>
+            <translation>適用後</translation>
+        </message>
+        <message>
+            <source>Clipped</source>
+            <translation>クリップ</translation>
+        </message>
+        <message>
+            <source>Preview</source>
+            <translation>プレビュー</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>brightness from %@ to %@</source>
+            <translation>明るさ %@～%@</translation>
+        </message>
+        <message>
+            <source>red</source>
+            <translation>赤</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>緑</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>青</translation>
+        </message>
+        <message>
+            <source>%@ strongest</source>
+            <translation>%@が最も強い</translation>
+        </message>
+        <message>
+            <source>%@ and %@ strongest</source>
+            <translation>%@と%@が最も強い</translation>
+        </message>
+        <message>
+            <source>inverted</source>
+            <translation>反転</translation>
+        </message>
+        <message>
+            <source>bright tones clipped</source>
+            <translation>明部がクリップ</translation>
+        </message>
+        <message>
+            <source>dark tones clipped</source>
+            <translation>暗部がクリップ</translation>
+        </message>
+        <message>
+            <source>almost nothing can be told apart</source>
+            <translation>ほとんど何も見分けられない</translation>
+        </message>
+        <message>
+            <source>, </source>
+            <translation>、</translation>
+        </message>
+        <message>
+            <source>%@: %@</source>
+            <translation>%@：%@</translation>
+        </message>
+        <message>
+            <source>%@ (%@)</source>
+            <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>効果の働きを見るには --display-services=simulated を付けて起動してください。</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>DISPLAY が設定されていないため、使用できる X サーバーがありません。</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>別の Nocturo が X サーバー %@ の画面を制御しています。</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>画面はシミュレーションです。画像は %@ にあります。</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>X サーバー %@ は Wayland セッションのゲストにすぎず、色を変更できません。Wayland の画面には今後のバージョンで対応します。</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>X サーバー %@ には RandR 1.3 以降がありません。</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>X サーバー %@ に接続できません。</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
@@ -1083,32 +927,185 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>「%@」には修飾キーが必要です。単独で使えるのはファンクションキー、矢印キー、ナビゲーションキーだけです。</translation>
         </message>
         <message>
-            <source>To see what the effects do, start it with --display-services=simulated.</source>
-            <translation>効果の働きを見るには --display-services=simulated を付けて起動してください。</translation>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>ディスプレイサーバーがなくなったため、Nocturo を終了します。</translation>
         </message>
         <message>
-            <source>There is no X server to work with, because DISPLAY is not set.</source>
-            <translation>DISPLAY が設定されていないため、使用できる X サーバーがありません。</translation>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo はすでに起動しています。</translation>
         </message>
         <message>
-            <source>Another Nocturo drives the displays of the X server %@.</source>
-            <translation>別の Nocturo が X サーバー %@ の画面を制御しています。</translation>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>画面全体の見え方を変えます: 反転、露出オーバー、暗くする・明るくする、HDTV の
+範囲、カラーフィルター。終了するまで動作し、終了時にすべての画面を元に戻します。
+nocturoctl で操作します。</translation>
         </message>
         <message>
-            <source>Displays are simulated; their pictures are in %@.</source>
-            <translation>画面はシミュレーションです。画像は %@ にあります。</translation>
+            <source>Options:</source>
+            <translation>オプション:</translation>
         </message>
         <message>
-            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
-            <translation>X サーバー %@ は Wayland セッションのゲストにすぎず、色を変更できません。Wayland の画面には今後のバージョンで対応します。</translation>
+            <source>where the displays come from:</source>
+            <translation>画面の取得元:</translation>
         </message>
         <message>
-            <source>The X server %@ has no RandR 1.3 or later.</source>
-            <translation>X サーバー %@ には RandR 1.3 以降がありません。</translation>
+            <source>what this session offers (default)</source>
+            <translation>このセッションで使えるもの (既定)</translation>
         </message>
         <message>
-            <source>The X server %@ cannot be reached.</source>
-            <translation>X サーバー %@ に接続できません。</translation>
+            <source>an X server</source>
+            <translation>X サーバー</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N 個の画面、1～16 (既定は 2)、</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>メモリ上で、画像に描画</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>この説明を表示</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>バージョンを表示</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE は開く効果ドキュメント (.nocturo) です。Nocturo がすでに起動していれば、
+そちらで開きます。FILE なしで再び起動すると、効果のオン／オフを切り替えます。</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>「%@」というオプションはありません。nocturo --help を参照してください。</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services に指定できるのは auto、randr、simulated、simulated:N (N は 1～16) です。</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>起動中の Nocturo が応答しません。</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>セッションバスがないため、起動中の Nocturo にドキュメントを渡せません。</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>選択された効果</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>起動のたびに効果をオンにする</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>Nocturo を再び起動すると効果を切り替える</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>オンの間、6 秒ごとに再適用する</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>スクリーンセーバーの実行中は一時停止する</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>グローバルショートカットキーで切り替える</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: システムトレイのアイコンとして動作</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>ショートカットキーの仮想キーコード</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>ショートカットキーの修飾キー (ビット)</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>最後に効果がオンだったかどうか</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>対象の画面。なしはすべてを意味する</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>最後に選んだ画面。0 はすべてを意味する</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>暗くする: -1 は黒、0 は変更なし、1 は白</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>カラーフィルター: 色相 (度)</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>カラーフィルター: 強さ、0～1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>f.lux についての警告に回答済み</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>「%@」には効果のリストを指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>「%@」には効果の名前のリストを指定します。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>「%1$@」には効果だけを指定できますが、「%2$@」という効果はありません。</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>「%@」には true か false を指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>「%@」には整数を指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>「%@」には有限の数を指定します。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>「%@」には画面の識別子のリストを指定します。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ZQFluxCheck</name>
+        <message>
+            <source>%@ is present on this computer.</source>
+            <translation>このコンピューターには %@ があります。</translation>
+        </message>
+        <message>
+            <source>[%1$@ installed, might interfer %2$@.]</source>
+            <translation>%2$@ も画面の色を変更するため、%1$@ の動作を妨げることがあります。それぞれのプログラムが、もう一方による変更を打ち消してしまう可能性があります。同時に使用するのはどちらか一方だけにすることをお勧めします。</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>続行</translation>
+        </message>
+        <message>
+            <source>Quit</source>
+            <translation>終了</translation>
         </message>
     </context>
 </TS>

@@ -195,18 +195,6 @@
     <context>
         <name>Localizable</name>
         <message>
-            <source>About %@</source>
-            <translation>Sobre o %@</translation>
-        </message>
-        <message>
-            <source>Version %@</source>
-            <translation>Versão %@</translation>
-        </message>
-        <message>
-            <source>Credits.html</source>
-            <translation>Credits_pt_BR.html</translation>
-        </message>
-        <message>
             <source>No effect has been chosen.</source>
             <translation>Nenhum efeito foi escolhido.</translation>
         </message>
@@ -221,478 +209,6 @@
         <message>
             <source>Cancel</source>
             <translation>Cancelar</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Ativar o efeito</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Preferências…</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Sobre o Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Sair do Nocturo</translation>
-        </message>
-        <message>
-            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
-            <translation>Este ambiente de trabalho não mostra nenhuma bandeja no momento; o Nocturo pode ser acessado pelo menu de aplicativos.</translation>
-        </message>
-        <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>&amp;Desativar o efeito</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Ativar o efeito</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Desativar o efeito</translation>
-        </message>
-        <message>
-            <source>&amp;Clear Menu</source>
-            <translation>&amp;Limpar menu</translation>
-        </message>
-        <message>
-            <source>&amp;File</source>
-            <translation>&amp;Arquivo</translation>
-        </message>
-        <message>
-            <source>&amp;Open...</source>
-            <translation>&amp;Abrir…</translation>
-        </message>
-        <message>
-            <source>Open &amp;Recent</source>
-            <translation>Abrir &amp;recente</translation>
-        </message>
-        <message>
-            <source>&amp;Save...</source>
-            <translation>&amp;Salvar…</translation>
-        </message>
-        <message>
-            <source>&amp;Preferences...</source>
-            <translation>&amp;Preferências…</translation>
-        </message>
-        <message>
-            <source>&amp;Close</source>
-            <translation>&amp;Fechar</translation>
-        </message>
-        <message>
-            <source>&amp;Quit Nocturo</source>
-            <translation>Sair do &amp;Nocturo</translation>
-        </message>
-        <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Efeito</translation>
-        </message>
-        <message>
-            <source>&amp;Help</source>
-            <translation>A&amp;juda</translation>
-        </message>
-        <message>
-            <source>&amp;About Nocturo</source>
-            <translation>&amp;Sobre o Nocturo</translation>
-        </message>
-        <message>
-            <source>Type a shortcut</source>
-            <translation>Digite um atalho</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Atalho de teclado</translation>
-        </message>
-        <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Pressione o novo atalho ou Esc para deixá-lo como estava.</translation>
-        </message>
-        <message>
-            <source>Click or press Space to record another shortcut.</source>
-            <translation>Clique ou pressione Espaço para gravar outro atalho.</translation>
-        </message>
-        <message>
-            <source>Control</source>
-            <translation>Control</translation>
-        </message>
-        <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Shift</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
-        </message>
-        <message>
-            <source>%@ (%@)</source>
-            <translation>%@ (%@)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Todas as telas</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Tela %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Nenhuma</translation>
-        </message>
-        <message>
-            <source>R</source>
-            <translation>R</translation>
-        </message>
-        <message>
-            <source>G</source>
-            <translation>G</translation>
-        </message>
-        <message>
-            <source>B</source>
-            <translation>B</translation>
-        </message>
-        <message>
-            <source>Input</source>
-            <translation>Entrada</translation>
-        </message>
-        <message>
-            <source>Output</source>
-            <translation>Saída</translation>
-        </message>
-        <message>
-            <source>The colors of this screen cannot be changed.</source>
-            <translation>As cores desta tela não podem ser alteradas.</translation>
-        </message>
-        <message>
-            <source>Before</source>
-            <translation>Antes</translation>
-        </message>
-        <message>
-            <source>With effect</source>
-            <translation>Com o efeito</translation>
-        </message>
-        <message>
-            <source>Clipped</source>
-            <translation>Cortado</translation>
-        </message>
-        <message>
-            <source>Preview</source>
-            <translation>Pré-visualização</translation>
-        </message>
-        <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
-            <source>brightness from %@ to %@</source>
-            <translation>brilho de %@ a %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>vermelho</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>verde</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>azul</translation>
-        </message>
-        <message>
-            <source>%@ strongest</source>
-            <translation>predomina o %@</translation>
-        </message>
-        <message>
-            <source>%@ and %@ strongest</source>
-            <translation>predominam o %@ e o %@</translation>
-        </message>
-        <message>
-            <source>inverted</source>
-            <translation>cores invertidas</translation>
-        </message>
-        <message>
-            <source>bright tones clipped</source>
-            <translation>tons claros cortados</translation>
-        </message>
-        <message>
-            <source>dark tones clipped</source>
-            <translation>tons escuros cortados</translation>
-        </message>
-        <message>
-            <source>almost nothing can be told apart</source>
-            <translation>quase nada se distingue</translation>
-        </message>
-        <message>
-            <source>, </source>
-            <translation>, </translation>
-        </message>
-        <message>
-            <source>%@: %@</source>
-            <translation>%@: %@</translation>
-        </message>
-        <message>
-            <source>Keep these colors?</source>
-            <translation>Manter estas cores?</translation>
-        </message>
-        <message>
-            <source>&amp;Keep</source>
-            <translation>&amp;Manter</translation>
-        </message>
-        <message>
-            <source>&amp;Go back</source>
-            <translation>&amp;Reverter</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>As telas estão difíceis de ler agora. As cores anteriores voltarão sozinhas em %d s.</translation>
-        </message>
-        <message>
-            <source> %</source>
-            <translation>%</translation>
-        </message>
-        <message>
-            <source>Close anyway</source>
-            <translation>Fechar mesmo assim</translation>
-        </message>
-        <message>
-            <source>Nocturo effects</source>
-            <translation>Efeitos do Nocturo</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
-        </message>
-        <message>
-            <source>Save Effect</source>
-            <translation>Salvar efeito</translation>
-        </message>
-        <message>
-            <source>&amp;Hide extension</source>
-            <translation>Oc&amp;ultar a extensão</translation>
-        </message>
-        <message>
-            <source>Saving failed</source>
-            <translation>Falha ao salvar</translation>
-        </message>
-        <message>
-            <source>Could not save settings at this location.</source>
-            <translation>Não foi possível salvar as configurações neste local.</translation>
-        </message>
-        <message>
-            <source>Open Effect</source>
-            <translation>Abrir efeito</translation>
-        </message>
-        <message>
-            <source>Opening failed</source>
-            <translation>Falha ao abrir</translation>
-        </message>
-        <message>
-            <source>“%@” is not an effect document.</source>
-            <translation>“%@” não é um documento de efeito.</translation>
-        </message>
-    </context>
-    <context>
-        <name>ZQFluxCheck</name>
-        <message>
-            <source>%@ is present on this computer.</source>
-            <translation>%@ está presente neste computador.</translation>
-        </message>
-        <message>
-            <source>[%1$@ installed, might interfer %2$@.]</source>
-            <translation>O %2$@ também altera as cores das telas e, por isso, pode interferir no %1$@: cada programa pode desfazer o que o outro faz. É melhor usar apenas um deles por vez.</translation>
-        </message>
-        <message>
-            <source>Continue</source>
-            <translation>Continuar</translation>
-        </message>
-        <message>
-            <source>Quit</source>
-            <translation>Sair</translation>
-        </message>
-    </context>
-    <context>
-        <name>CommandLine</name>
-        <message>
-            <source>The display server has gone, so Nocturo ends.</source>
-            <translation>O servidor gráfico desapareceu, por isso o Nocturo será encerrado.</translation>
-        </message>
-        <message>
-            <source>Nocturo is already running.</source>
-            <translation>O Nocturo já está em execução.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
-        </message>
-        <message>
-            <source>Usage: %@</source>
-            <translation>Uso: %@</translation>
-        </message>
-        <message>
-            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
-the HDTV range or through a color filter. Runs until it is told to quit, and
-gives every display back then. Drive it with nocturoctl.</source>
-            <translation>Muda a aparência de telas inteiras: invertidas, superexpostas, escurecidas ou
-clareadas, na faixa HDTV ou através de um filtro de cor. Executa até que se peça
-para sair e então devolve cada tela. É controlado com o nocturoctl.</translation>
-        </message>
-        <message>
-            <source>Options:</source>
-            <translation>Opções:</translation>
-        </message>
-        <message>
-            <source>where the displays come from:</source>
-            <translation>de onde vêm as telas:</translation>
-        </message>
-        <message>
-            <source>what this session offers (default)</source>
-            <translation>o que esta sessão oferecer (padrão)</translation>
-        </message>
-        <message>
-            <source>an X server</source>
-            <translation>um servidor X</translation>
-        </message>
-        <message>
-            <source>N displays, 1 to 16 (default 2),</source>
-            <translation>N telas, de 1 a 16 (padrão: 2),</translation>
-        </message>
-        <message>
-            <source>in memory, drawn into pictures</source>
-            <translation>na memória, desenhadas em imagens</translation>
-        </message>
-        <message>
-            <source>show this text</source>
-            <translation>mostrar este texto</translation>
-        </message>
-        <message>
-            <source>show the version</source>
-            <translation>mostrar a versão</translation>
-        </message>
-        <message>
-            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
-there is one. Starting Nocturo a second time without one toggles the effect.</source>
-            <translation>FILE é um documento de efeito (.nocturo) a abrir, pelo Nocturo em execução se
-houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translation>
-        </message>
-        <message>
-            <source>There is no option "%@"; see nocturo --help.</source>
-            <translation>Não existe a opção “%@”; veja nocturo --help.</translation>
-        </message>
-        <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services aceita auto, randr, simulated ou simulated:N com N de 1 a 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>O Nocturo em execução não responde.</translation>
-        </message>
-        <message>
-            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
-            <translation>Sem um barramento de sessão, não é possível passar um documento ao Nocturo em execução.</translation>
-        </message>
-        <message>
-            <source>the selected effects</source>
-            <translation>os efeitos escolhidos</translation>
-        </message>
-        <message>
-            <source>switch the effect on at every start</source>
-            <translation>ativar o efeito a cada início</translation>
-        </message>
-        <message>
-            <source>starting Nocturo again toggles the effect</source>
-            <translation>iniciar o Nocturo novamente alterna o efeito</translation>
-        </message>
-        <message>
-            <source>while on, apply again every 6 seconds</source>
-            <translation>enquanto ativado, reaplicar a cada 6 segundos</translation>
-        </message>
-        <message>
-            <source>pause while the screen saver runs</source>
-            <translation>pausar enquanto o protetor de tela estiver ativo</translation>
-        </message>
-        <message>
-            <source>toggle with the global hot key</source>
-            <translation>alternar com o atalho global</translation>
-        </message>
-        <message>
-            <source>1: run as a tray item</source>
-            <translation>1: executar como ícone da bandeja</translation>
-        </message>
-        <message>
-            <source>virtual key code of the hot key</source>
-            <translation>código de tecla virtual do atalho</translation>
-        </message>
-        <message>
-            <source>modifier flags of the hot key</source>
-            <translation>teclas modificadoras do atalho, como bits</translation>
-        </message>
-        <message>
-            <source>whether the effect was last switched on</source>
-            <translation>se o efeito ficou ativado da última vez</translation>
-        </message>
-        <message>
-            <source>the affected displays; none means all</source>
-            <translation>as telas afetadas; nenhuma significa todas</translation>
-        </message>
-        <message>
-            <source>the display last picked; 0 means all</source>
-            <translation>a última tela escolhida; 0 significa todas</translation>
-        </message>
-        <message>
-            <source>dim: -1 black, 0 unchanged, 1 white</source>
-            <translation>escurecer: -1 preto, 0 inalterado, 1 branco</translation>
-        </message>
-        <message>
-            <source>color filter: hue in degrees</source>
-            <translation>filtro de cor: matiz em graus</translation>
-        </message>
-        <message>
-            <source>color filter: strength, 0 to 1</source>
-            <translation>filtro de cor: intensidade, de 0 a 1</translation>
-        </message>
-        <message>
-            <source>the f.lux warning was answered</source>
-            <translation>o aviso sobre o f.lux foi respondido</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effects.</source>
-            <translation>“%@” aceita uma lista de efeitos.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effect names.</source>
-            <translation>“%@” aceita uma lista de nomes de efeitos.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
-            <translation>“%1$@” só aceita efeitos, e não existe o efeito “%2$@”.</translation>
-        </message>
-        <message>
-            <source>"%@" takes true or false.</source>
-            <translation>“%@” aceita true ou false.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a whole number.</source>
-            <translation>“%@” aceita um número inteiro.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a finite number.</source>
-            <translation>“%@” aceita um número finito.</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of display identifiers.</source>
-            <translation>“%@” aceita uma lista de identificadores de telas.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>
@@ -899,6 +415,10 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>Devolver as telas e encerrar o Nocturo</translation>
         </message>
         <message>
+            <source>Usage: %@</source>
+            <translation>Uso: %@</translation>
+        </message>
+        <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Controla o Nocturo em execução nesta sessão.</translation>
         </message>
@@ -1031,6 +551,10 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>Não há servidor X cujas telas possam ser devolvidas, porque DISPLAY não está definida.</translation>
         </message>
         <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
+        </message>
+        <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
             <translation>As telas recuperaram suas próprias cores, como estavam antes de o Nocturo alterá-las.</translation>
         </message>
@@ -1049,6 +573,326 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
             <translation>Não existe o efeito “%@”; os efeitos são %@.</translation>
+        </message>
+        <message>
+            <source>About %@</source>
+            <translation>Sobre o %@</translation>
+        </message>
+        <message>
+            <source>Version %@</source>
+            <translation>Versão %@</translation>
+        </message>
+        <message>
+            <source>Credits.html</source>
+            <translation>Credits_pt_BR.html</translation>
+        </message>
+        <message>
+            <source>Type a shortcut</source>
+            <translation>Digite um atalho</translation>
+        </message>
+        <message>
+            <source>Hot key</source>
+            <translation>Atalho de teclado</translation>
+        </message>
+        <message>
+            <source>Press the new shortcut, or Escape to leave it as it was.</source>
+            <translation>Pressione o novo atalho ou Esc para deixá-lo como estava.</translation>
+        </message>
+        <message>
+            <source>Click or press Space to record another shortcut.</source>
+            <translation>Clique ou pressione Espaço para gravar outro atalho.</translation>
+        </message>
+        <message>
+            <source>Control</source>
+            <translation>Control</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Shift</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Ativar o efeito</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Preferências…</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Sobre o Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Sair do Nocturo</translation>
+        </message>
+        <message>
+            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
+            <translation>Este ambiente de trabalho não mostra nenhuma bandeja no momento; o Nocturo pode ser acessado pelo menu de aplicativos.</translation>
+        </message>
+        <message>
+            <source>“%@” is not an effect document.</source>
+            <translation>“%@” não é um documento de efeito.</translation>
+        </message>
+        <message>
+            <source>Opening failed</source>
+            <translation>Falha ao abrir</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Ativar o efeito</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Limpar menu</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;Arquivo</translation>
+        </message>
+        <message>
+            <source>&amp;Open...</source>
+            <translation>&amp;Abrir…</translation>
+        </message>
+        <message>
+            <source>Open &amp;Recent</source>
+            <translation>Abrir &amp;recente</translation>
+        </message>
+        <message>
+            <source>&amp;Save...</source>
+            <translation>&amp;Salvar…</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences...</source>
+            <translation>&amp;Preferências…</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>&amp;Fechar</translation>
+        </message>
+        <message>
+            <source>&amp;Quit Nocturo</source>
+            <translation>Sair do &amp;Nocturo</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efeito</translation>
+        </message>
+        <message>
+            <source>&amp;Help</source>
+            <translation>A&amp;juda</translation>
+        </message>
+        <message>
+            <source>&amp;About Nocturo</source>
+            <translation>&amp;Sobre o Nocturo</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Todas as telas</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Tela %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Nenhuma</translation>
+        </message>
+        <message>
+            <source>Keep these colors?</source>
+            <translation>Manter estas cores?</translation>
+        </message>
+        <message>
+            <source>&amp;Keep</source>
+            <translation>&amp;Manter</translation>
+        </message>
+        <message>
+            <source>&amp;Go back</source>
+            <translation>&amp;Reverter</translation>
+        </message>
+        <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>As telas estão difíceis de ler agora. As cores anteriores voltarão sozinhas em %d s.</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source>Close anyway</source>
+            <translation>Fechar mesmo assim</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Efeitos do Nocturo</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Save Effect</source>
+            <translation>Salvar efeito</translation>
+        </message>
+        <message>
+            <source>&amp;Hide extension</source>
+            <translation>Oc&amp;ultar a extensão</translation>
+        </message>
+        <message>
+            <source>Saving failed</source>
+            <translation>Falha ao salvar</translation>
+        </message>
+        <message>
+            <source>Could not save settings at this location.</source>
+            <translation>Não foi possível salvar as configurações neste local.</translation>
+        </message>
+        <message>
+            <source>Open Effect</source>
+            <translation>Abrir efeito</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>Entrada</translation>
+        </message>
+        <message>
+            <source>Output</source>
+            <translation>Saída</translation>
+        </message>
+        <message>
+            <source>The colors of this screen cannot be changed.</source>
+            <translation>As cores desta tela não podem ser alteradas.</translation>
+        </message>
+        <message>
+            <source>Before</source>
+            <translation>Antes</translation>
+        </message>
+        <message>
+            <source>With effect</source>
+            <translation>Com o efeito</translation>
+        </message>
+        <message>
+            <source>Clipped</source>
+            <translation>Cortado</translation>
+        </message>
+        <message>
+            <source>Preview</source>
+            <translation>Pré-visualização</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>brightness from %@ to %@</source>
+            <translation>brilho de %@ a %@</translation>
+        </message>
+        <message>
+            <source>red</source>
+            <translation>vermelho</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>verde</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>azul</translation>
+        </message>
+        <message>
+            <source>%@ strongest</source>
+            <translation>predomina o %@</translation>
+        </message>
+        <message>
+            <source>%@ and %@ strongest</source>
+            <translation>predominam o %@ e o %@</translation>
+        </message>
+        <message>
+            <source>inverted</source>
+            <translation>cores invertidas</translation>
+        </message>
+        <message>
+            <source>bright tones clipped</source>
+            <translation>tons claros cortados</translation>
+        </message>
+        <message>
+            <source>dark tones clipped</source>
+            <translation>tons escuros cortados</translation>
+        </message>
+        <message>
+            <source>almost nothing can be told apart</source>
+            <translation>quase nada se distingue</translation>
+        </message>
+        <message>
+            <source>, </source>
+            <translation>, </translation>
+        </message>
+        <message>
+            <source>%@: %@</source>
+            <translation>%@: %@</translation>
+        </message>
+        <message>
+            <source>%@ (%@)</source>
+            <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>Para ver o que os efeitos fazem, inicie-o com --display-services=simulated.</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>Não há servidor X para usar, porque DISPLAY não está definida.</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>Outro Nocturo controla as telas do servidor X %@.</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>As telas são simuladas; suas imagens estão em %@.</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>O servidor X %@ é apenas um convidado de uma sessão Wayland e não pode alterar suas cores; as telas no Wayland virão em uma versão posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>O servidor X %@ não tem RandR 1.3 ou posterior.</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>Não é possível acessar o servidor X %@.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
@@ -1083,32 +927,185 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>“%@” precisa de uma modificadora: só teclas de função, de seta e de navegação podem ser atalhos sozinhas.</translation>
         </message>
         <message>
-            <source>To see what the effects do, start it with --display-services=simulated.</source>
-            <translation>Para ver o que os efeitos fazem, inicie-o com --display-services=simulated.</translation>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>O servidor gráfico desapareceu, por isso o Nocturo será encerrado.</translation>
         </message>
         <message>
-            <source>There is no X server to work with, because DISPLAY is not set.</source>
-            <translation>Não há servidor X para usar, porque DISPLAY não está definida.</translation>
+            <source>Nocturo is already running.</source>
+            <translation>O Nocturo já está em execução.</translation>
         </message>
         <message>
-            <source>Another Nocturo drives the displays of the X server %@.</source>
-            <translation>Outro Nocturo controla as telas do servidor X %@.</translation>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>Muda a aparência de telas inteiras: invertidas, superexpostas, escurecidas ou
+clareadas, na faixa HDTV ou através de um filtro de cor. Executa até que se peça
+para sair e então devolve cada tela. É controlado com o nocturoctl.</translation>
         </message>
         <message>
-            <source>Displays are simulated; their pictures are in %@.</source>
-            <translation>As telas são simuladas; suas imagens estão em %@.</translation>
+            <source>Options:</source>
+            <translation>Opções:</translation>
         </message>
         <message>
-            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
-            <translation>O servidor X %@ é apenas um convidado de uma sessão Wayland e não pode alterar suas cores; as telas no Wayland virão em uma versão posterior.</translation>
+            <source>where the displays come from:</source>
+            <translation>de onde vêm as telas:</translation>
         </message>
         <message>
-            <source>The X server %@ has no RandR 1.3 or later.</source>
-            <translation>O servidor X %@ não tem RandR 1.3 ou posterior.</translation>
+            <source>what this session offers (default)</source>
+            <translation>o que esta sessão oferecer (padrão)</translation>
         </message>
         <message>
-            <source>The X server %@ cannot be reached.</source>
-            <translation>Não é possível acessar o servidor X %@.</translation>
+            <source>an X server</source>
+            <translation>um servidor X</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N telas, de 1 a 16 (padrão: 2),</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>na memória, desenhadas em imagens</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>mostrar este texto</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>mostrar a versão</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE é um documento de efeito (.nocturo) a abrir, pelo Nocturo em execução se
+houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>Não existe a opção “%@”; veja nocturo --help.</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services aceita auto, randr, simulated ou simulated:N com N de 1 a 16.</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>O Nocturo em execução não responde.</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>Sem um barramento de sessão, não é possível passar um documento ao Nocturo em execução.</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>os efeitos escolhidos</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>ativar o efeito a cada início</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>iniciar o Nocturo novamente alterna o efeito</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>enquanto ativado, reaplicar a cada 6 segundos</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>pausar enquanto o protetor de tela estiver ativo</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>alternar com o atalho global</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1: executar como ícone da bandeja</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>código de tecla virtual do atalho</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>teclas modificadoras do atalho, como bits</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>se o efeito ficou ativado da última vez</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>as telas afetadas; nenhuma significa todas</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>a última tela escolhida; 0 significa todas</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>escurecer: -1 preto, 0 inalterado, 1 branco</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>filtro de cor: matiz em graus</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>filtro de cor: intensidade, de 0 a 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>o aviso sobre o f.lux foi respondido</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>“%@” aceita uma lista de efeitos.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>“%@” aceita uma lista de nomes de efeitos.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>“%1$@” só aceita efeitos, e não existe o efeito “%2$@”.</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>“%@” aceita true ou false.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>“%@” aceita um número inteiro.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>“%@” aceita um número finito.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>“%@” aceita uma lista de identificadores de telas.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ZQFluxCheck</name>
+        <message>
+            <source>%@ is present on this computer.</source>
+            <translation>%@ está presente neste computador.</translation>
+        </message>
+        <message>
+            <source>[%1$@ installed, might interfer %2$@.]</source>
+            <translation>O %2$@ também altera as cores das telas e, por isso, pode interferir no %1$@: cada programa pode desfazer o que o outro faz. É melhor usar apenas um deles por vez.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continuar</translation>
+        </message>
+        <message>
+            <source>Quit</source>
+            <translation>Sair</translation>
         </message>
     </context>
 </TS>

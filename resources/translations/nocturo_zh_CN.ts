@@ -195,18 +195,6 @@
     <context>
         <name>Localizable</name>
         <message>
-            <source>About %@</source>
-            <translation>关于 %@</translation>
-        </message>
-        <message>
-            <source>Version %@</source>
-            <translation>版本 %@</translation>
-        </message>
-        <message>
-            <source>Credits.html</source>
-            <translation>Credits_zh_CN.html</translation>
-        </message>
-        <message>
             <source>No effect has been chosen.</source>
             <translation>尚未选择任何效果。</translation>
         </message>
@@ -221,477 +209,6 @@
         <message>
             <source>Cancel</source>
             <translation>取消</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>启用效果</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>首选项...</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>关于 Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>退出 Nocturo</translation>
-        </message>
-        <message>
-            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
-            <translation>此桌面当前没有系统托盘；可以通过应用程序菜单使用 Nocturo。</translation>
-        </message>
-        <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>停用效果(&amp;D)</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>启用效果(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>停用效果</translation>
-        </message>
-        <message>
-            <source>&amp;Clear Menu</source>
-            <translation>清空列表(&amp;C)</translation>
-        </message>
-        <message>
-            <source>&amp;File</source>
-            <translation>文件(&amp;F)</translation>
-        </message>
-        <message>
-            <source>&amp;Open...</source>
-            <translation>打开(&amp;O)...</translation>
-        </message>
-        <message>
-            <source>Open &amp;Recent</source>
-            <translation>打开最近的文件(&amp;R)</translation>
-        </message>
-        <message>
-            <source>&amp;Save...</source>
-            <translation>保存(&amp;S)...</translation>
-        </message>
-        <message>
-            <source>&amp;Preferences...</source>
-            <translation>首选项(&amp;P)...</translation>
-        </message>
-        <message>
-            <source>&amp;Close</source>
-            <translation>关闭(&amp;C)</translation>
-        </message>
-        <message>
-            <source>&amp;Quit Nocturo</source>
-            <translation>退出 Nocturo(&amp;Q)</translation>
-        </message>
-        <message>
-            <source>&amp;Effect</source>
-            <translation>效果(&amp;E)</translation>
-        </message>
-        <message>
-            <source>&amp;Help</source>
-            <translation>帮助(&amp;H)</translation>
-        </message>
-        <message>
-            <source>&amp;About Nocturo</source>
-            <translation>关于 Nocturo(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Type a shortcut</source>
-            <translation>请按快捷键</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>快捷键</translation>
-        </message>
-        <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>请按新的快捷键，或按 Esc 保持不变。</translation>
-        </message>
-        <message>
-            <source>Click or press Space to record another shortcut.</source>
-            <translation>单击或按空格键可录制其他快捷键。</translation>
-        </message>
-        <message>
-            <source>Control</source>
-            <translation>Control</translation>
-        </message>
-        <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Shift</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
-        </message>
-        <message>
-            <source>%@ (%@)</source>
-            <translation>%@ (%@)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>所有屏幕</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>屏幕 %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>、%d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>无</translation>
-        </message>
-        <message>
-            <source>R</source>
-            <translation>R</translation>
-        </message>
-        <message>
-            <source>G</source>
-            <translation>G</translation>
-        </message>
-        <message>
-            <source>B</source>
-            <translation>B</translation>
-        </message>
-        <message>
-            <source>Input</source>
-            <translation>输入</translation>
-        </message>
-        <message>
-            <source>Output</source>
-            <translation>输出</translation>
-        </message>
-        <message>
-            <source>The colors of this screen cannot be changed.</source>
-            <translation>无法更改此屏幕的颜色。</translation>
-        </message>
-        <message>
-            <source>Before</source>
-            <translation>应用前</translation>
-        </message>
-        <message>
-            <source>With effect</source>
-            <translation>应用后</translation>
-        </message>
-        <message>
-            <source>Clipped</source>
-            <translation>截断</translation>
-        </message>
-        <message>
-            <source>Preview</source>
-            <translation>预览</translation>
-        </message>
-        <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
-            <source>brightness from %@ to %@</source>
-            <translation>亮度从 %@ 到 %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>红色</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>绿色</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>蓝色</translation>
-        </message>
-        <message>
-            <source>%@ strongest</source>
-            <translation>%@最强</translation>
-        </message>
-        <message>
-            <source>%@ and %@ strongest</source>
-            <translation>%@和%@最强</translation>
-        </message>
-        <message>
-            <source>inverted</source>
-            <translation>已反转</translation>
-        </message>
-        <message>
-            <source>bright tones clipped</source>
-            <translation>亮部被截断</translation>
-        </message>
-        <message>
-            <source>dark tones clipped</source>
-            <translation>暗部被截断</translation>
-        </message>
-        <message>
-            <source>almost nothing can be told apart</source>
-            <translation>几乎无法分辨任何内容</translation>
-        </message>
-        <message>
-            <source>, </source>
-            <translation>，</translation>
-        </message>
-        <message>
-            <source>%@: %@</source>
-            <translation>%@：%@</translation>
-        </message>
-        <message>
-            <source>Keep these colors?</source>
-            <translation>要保留这些颜色吗？</translation>
-        </message>
-        <message>
-            <source>&amp;Keep</source>
-            <translation>保留(&amp;K)</translation>
-        </message>
-        <message>
-            <source>&amp;Go back</source>
-            <translation>还原(&amp;G)</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>屏幕现在难以看清，%d 秒后将自动还原。</translation>
-        </message>
-        <message>
-            <source> %</source>
-            <translation>%</translation>
-        </message>
-        <message>
-            <source>Close anyway</source>
-            <translation>仍然关闭</translation>
-        </message>
-        <message>
-            <source>Nocturo effects</source>
-            <translation>Nocturo 效果</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>确定</translation>
-        </message>
-        <message>
-            <source>Save Effect</source>
-            <translation>保存效果</translation>
-        </message>
-        <message>
-            <source>&amp;Hide extension</source>
-            <translation>隐藏扩展名(&amp;X)</translation>
-        </message>
-        <message>
-            <source>Saving failed</source>
-            <translation>保存失败</translation>
-        </message>
-        <message>
-            <source>Could not save settings at this location.</source>
-            <translation>无法在此位置保存设置。</translation>
-        </message>
-        <message>
-            <source>Open Effect</source>
-            <translation>打开效果</translation>
-        </message>
-        <message>
-            <source>Opening failed</source>
-            <translation>打开失败</translation>
-        </message>
-        <message>
-            <source>“%@” is not an effect document.</source>
-            <translation>“%@”不是效果文档。</translation>
-        </message>
-    </context>
-    <context>
-        <name>ZQFluxCheck</name>
-        <message>
-            <source>%@ is present on this computer.</source>
-            <translation>此计算机上装有 %@。</translation>
-        </message>
-        <message>
-            <source>[%1$@ installed, might interfer %2$@.]</source>
-            <translation>%2$@ 也会更改屏幕的颜色，因此可能会干扰 %1$@：两个程序可能会互相撤销对方的更改。建议同一时间只使用其中一个。</translation>
-        </message>
-        <message>
-            <source>Continue</source>
-            <translation>继续</translation>
-        </message>
-        <message>
-            <source>Quit</source>
-            <translation>退出</translation>
-        </message>
-    </context>
-    <context>
-        <name>CommandLine</name>
-        <message>
-            <source>The display server has gone, so Nocturo ends.</source>
-            <translation>显示服务器已消失，因此 Nocturo 将退出。</translation>
-        </message>
-        <message>
-            <source>Nocturo is already running.</source>
-            <translation>Nocturo 已在运行。</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
-        </message>
-        <message>
-            <source>Usage: %@</source>
-            <translation>用法：%@</translation>
-        </message>
-        <message>
-            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
-the HDTV range or through a color filter. Runs until it is told to quit, and
-gives every display back then. Drive it with nocturoctl.</source>
-            <translation>改变整个屏幕的外观：反转、过曝、调暗或调亮、HDTV 范围，或颜色滤镜。
-一直运行到被要求退出为止，届时恢复每个屏幕。可用 nocturoctl 控制。</translation>
-        </message>
-        <message>
-            <source>Options:</source>
-            <translation>选项：</translation>
-        </message>
-        <message>
-            <source>where the displays come from:</source>
-            <translation>屏幕的来源：</translation>
-        </message>
-        <message>
-            <source>what this session offers (default)</source>
-            <translation>此会话所提供的（默认）</translation>
-        </message>
-        <message>
-            <source>an X server</source>
-            <translation>X 服务器</translation>
-        </message>
-        <message>
-            <source>N displays, 1 to 16 (default 2),</source>
-            <translation>N 个屏幕，1 到 16（默认为 2），</translation>
-        </message>
-        <message>
-            <source>in memory, drawn into pictures</source>
-            <translation>位于内存中，绘制到图片里</translation>
-        </message>
-        <message>
-            <source>show this text</source>
-            <translation>显示此文本</translation>
-        </message>
-        <message>
-            <source>show the version</source>
-            <translation>显示版本</translation>
-        </message>
-        <message>
-            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
-there is one. Starting Nocturo a second time without one toggles the effect.</source>
-            <translation>FILE 是要打开的效果文档（.nocturo）；如果已有 Nocturo 在运行，则由它打开。
-不带文档再次启动 Nocturo 会切换效果。</translation>
-        </message>
-        <message>
-            <source>There is no option "%@"; see nocturo --help.</source>
-            <translation>没有选项“%@”；请参阅 nocturo --help。</translation>
-        </message>
-        <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services 可取 auto、randr、simulated 或 simulated:N，其中 N 为 1 到 16。</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>正在运行的 Nocturo 没有响应。</translation>
-        </message>
-        <message>
-            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
-            <translation>没有会话总线，无法将文档交给正在运行的 Nocturo。</translation>
-        </message>
-        <message>
-            <source>the selected effects</source>
-            <translation>所选的效果</translation>
-        </message>
-        <message>
-            <source>switch the effect on at every start</source>
-            <translation>每次启动时启用效果</translation>
-        </message>
-        <message>
-            <source>starting Nocturo again toggles the effect</source>
-            <translation>再次启动 Nocturo 会切换效果</translation>
-        </message>
-        <message>
-            <source>while on, apply again every 6 seconds</source>
-            <translation>启用期间每 6 秒重新应用一次</translation>
-        </message>
-        <message>
-            <source>pause while the screen saver runs</source>
-            <translation>屏幕保护程序运行时暂停</translation>
-        </message>
-        <message>
-            <source>toggle with the global hot key</source>
-            <translation>用全局快捷键切换</translation>
-        </message>
-        <message>
-            <source>1: run as a tray item</source>
-            <translation>1：作为托盘图标运行</translation>
-        </message>
-        <message>
-            <source>virtual key code of the hot key</source>
-            <translation>快捷键的虚拟键码</translation>
-        </message>
-        <message>
-            <source>modifier flags of the hot key</source>
-            <translation>快捷键的修饰键标志</translation>
-        </message>
-        <message>
-            <source>whether the effect was last switched on</source>
-            <translation>效果上次是否处于启用状态</translation>
-        </message>
-        <message>
-            <source>the affected displays; none means all</source>
-            <translation>受影响的屏幕；空表示全部</translation>
-        </message>
-        <message>
-            <source>the display last picked; 0 means all</source>
-            <translation>最近选择的屏幕；0 表示全部</translation>
-        </message>
-        <message>
-            <source>dim: -1 black, 0 unchanged, 1 white</source>
-            <translation>调暗：-1 为黑，0 为不变，1 为白</translation>
-        </message>
-        <message>
-            <source>color filter: hue in degrees</source>
-            <translation>颜色滤镜：色相（度）</translation>
-        </message>
-        <message>
-            <source>color filter: strength, 0 to 1</source>
-            <translation>颜色滤镜：强度，0 到 1</translation>
-        </message>
-        <message>
-            <source>the f.lux warning was answered</source>
-            <translation>已回应关于 f.lux 的警告</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effects.</source>
-            <translation>“%@”的值应为效果列表。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of effect names.</source>
-            <translation>“%@”的值应为效果名称列表。</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
-            <translation>“%1$@”只接受效果，而没有名为“%2$@”的效果。</translation>
-        </message>
-        <message>
-            <source>"%@" takes true or false.</source>
-            <translation>“%@”的值应为 true 或 false。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a whole number.</source>
-            <translation>“%@”的值应为整数。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a finite number.</source>
-            <translation>“%@”的值应为有限的数。</translation>
-        </message>
-        <message>
-            <source>"%@" takes a list of display identifiers.</source>
-            <translation>“%@”的值应为屏幕标识符列表。</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>
@@ -898,6 +415,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>恢复屏幕并退出 Nocturo</translation>
         </message>
         <message>
+            <source>Usage: %@</source>
+            <translation>用法：%@</translation>
+        </message>
+        <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>控制在此会话中运行的 Nocturo。</translation>
         </message>
@@ -1030,6 +551,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>未设置 DISPLAY，因此没有可恢复屏幕的 X 服务器。</translation>
         </message>
         <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
+        </message>
+        <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
             <translation>屏幕已恢复为 Nocturo 更改之前其原本的颜色。</translation>
         </message>
@@ -1048,6 +573,326 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
             <translation>没有效果“%@”；可用的效果为 %@。</translation>
+        </message>
+        <message>
+            <source>About %@</source>
+            <translation>关于 %@</translation>
+        </message>
+        <message>
+            <source>Version %@</source>
+            <translation>版本 %@</translation>
+        </message>
+        <message>
+            <source>Credits.html</source>
+            <translation>Credits_zh_CN.html</translation>
+        </message>
+        <message>
+            <source>Type a shortcut</source>
+            <translation>请按快捷键</translation>
+        </message>
+        <message>
+            <source>Hot key</source>
+            <translation>快捷键</translation>
+        </message>
+        <message>
+            <source>Press the new shortcut, or Escape to leave it as it was.</source>
+            <translation>请按新的快捷键，或按 Esc 保持不变。</translation>
+        </message>
+        <message>
+            <source>Click or press Space to record another shortcut.</source>
+            <translation>单击或按空格键可录制其他快捷键。</translation>
+        </message>
+        <message>
+            <source>Control</source>
+            <translation>Control</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Shift</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>启用效果</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>首选项...</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>关于 Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>退出 Nocturo</translation>
+        </message>
+        <message>
+            <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
+            <translation>此桌面当前没有系统托盘；可以通过应用程序菜单使用 Nocturo。</translation>
+        </message>
+        <message>
+            <source>“%@” is not an effect document.</source>
+            <translation>“%@”不是效果文档。</translation>
+        </message>
+        <message>
+            <source>Opening failed</source>
+            <translation>打开失败</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>停用效果(&amp;D)</translation>
+        </message>
+        <message>
+            <source>&amp;Activate Effect</source>
+            <translation>启用效果(&amp;A)</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>停用效果</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>清空列表(&amp;C)</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>文件(&amp;F)</translation>
+        </message>
+        <message>
+            <source>&amp;Open...</source>
+            <translation>打开(&amp;O)...</translation>
+        </message>
+        <message>
+            <source>Open &amp;Recent</source>
+            <translation>打开最近的文件(&amp;R)</translation>
+        </message>
+        <message>
+            <source>&amp;Save...</source>
+            <translation>保存(&amp;S)...</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences...</source>
+            <translation>首选项(&amp;P)...</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>关闭(&amp;C)</translation>
+        </message>
+        <message>
+            <source>&amp;Quit Nocturo</source>
+            <translation>退出 Nocturo(&amp;Q)</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>效果(&amp;E)</translation>
+        </message>
+        <message>
+            <source>&amp;Help</source>
+            <translation>帮助(&amp;H)</translation>
+        </message>
+        <message>
+            <source>&amp;About Nocturo</source>
+            <translation>关于 Nocturo(&amp;A)</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>所有屏幕</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>屏幕 %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>、%d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>无</translation>
+        </message>
+        <message>
+            <source>Keep these colors?</source>
+            <translation>要保留这些颜色吗？</translation>
+        </message>
+        <message>
+            <source>&amp;Keep</source>
+            <translation>保留(&amp;K)</translation>
+        </message>
+        <message>
+            <source>&amp;Go back</source>
+            <translation>还原(&amp;G)</translation>
+        </message>
+        <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>屏幕现在难以看清，%d 秒后将自动还原。</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source>Close anyway</source>
+            <translation>仍然关闭</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Nocturo 效果</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>确定</translation>
+        </message>
+        <message>
+            <source>Save Effect</source>
+            <translation>保存效果</translation>
+        </message>
+        <message>
+            <source>&amp;Hide extension</source>
+            <translation>隐藏扩展名(&amp;X)</translation>
+        </message>
+        <message>
+            <source>Saving failed</source>
+            <translation>保存失败</translation>
+        </message>
+        <message>
+            <source>Could not save settings at this location.</source>
+            <translation>无法在此位置保存设置。</translation>
+        </message>
+        <message>
+            <source>Open Effect</source>
+            <translation>打开效果</translation>
+        </message>
+        <message>
+            <source>R</source>
+            <translation>R</translation>
+        </message>
+        <message>
+            <source>G</source>
+            <translation>G</translation>
+        </message>
+        <message>
+            <source>B</source>
+            <translation>B</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>输入</translation>
+        </message>
+        <message>
+            <source>Output</source>
+            <translation>输出</translation>
+        </message>
+        <message>
+            <source>The colors of this screen cannot be changed.</source>
+            <translation>无法更改此屏幕的颜色。</translation>
+        </message>
+        <message>
+            <source>Before</source>
+            <translation>应用前</translation>
+        </message>
+        <message>
+            <source>With effect</source>
+            <translation>应用后</translation>
+        </message>
+        <message>
+            <source>Clipped</source>
+            <translation>截断</translation>
+        </message>
+        <message>
+            <source>Preview</source>
+            <translation>预览</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>brightness from %@ to %@</source>
+            <translation>亮度从 %@ 到 %@</translation>
+        </message>
+        <message>
+            <source>red</source>
+            <translation>红色</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>绿色</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>蓝色</translation>
+        </message>
+        <message>
+            <source>%@ strongest</source>
+            <translation>%@最强</translation>
+        </message>
+        <message>
+            <source>%@ and %@ strongest</source>
+            <translation>%@和%@最强</translation>
+        </message>
+        <message>
+            <source>inverted</source>
+            <translation>已反转</translation>
+        </message>
+        <message>
+            <source>bright tones clipped</source>
+            <translation>亮部被截断</translation>
+        </message>
+        <message>
+            <source>dark tones clipped</source>
+            <translation>暗部被截断</translation>
+        </message>
+        <message>
+            <source>almost nothing can be told apart</source>
+            <translation>几乎无法分辨任何内容</translation>
+        </message>
+        <message>
+            <source>, </source>
+            <translation>，</translation>
+        </message>
+        <message>
+            <source>%@: %@</source>
+            <translation>%@：%@</translation>
+        </message>
+        <message>
+            <source>%@ (%@)</source>
+            <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source>To see what the effects do, start it with --display-services=simulated.</source>
+            <translation>要查看效果的作用，请使用 --display-services=simulated 启动。</translation>
+        </message>
+        <message>
+            <source>There is no X server to work with, because DISPLAY is not set.</source>
+            <translation>未设置 DISPLAY，因此没有可用的 X 服务器。</translation>
+        </message>
+        <message>
+            <source>Another Nocturo drives the displays of the X server %@.</source>
+            <translation>另一个 Nocturo 正在控制 X 服务器 %@ 的屏幕。</translation>
+        </message>
+        <message>
+            <source>Displays are simulated; their pictures are in %@.</source>
+            <translation>屏幕是模拟的；其图片位于 %@。</translation>
+        </message>
+        <message>
+            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
+            <translation>X 服务器 %@ 只是 Wayland 会话中的客体，无法更改其颜色；后续版本将支持 Wayland 下的屏幕。</translation>
+        </message>
+        <message>
+            <source>The X server %@ has no RandR 1.3 or later.</source>
+            <translation>X 服务器 %@ 没有 RandR 1.3 或更高版本。</translation>
+        </message>
+        <message>
+            <source>The X server %@ cannot be reached.</source>
+            <translation>无法连接 X 服务器 %@。</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
@@ -1082,32 +927,184 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>“%@”需要修饰键：只有功能键、方向键和导航键可以单独作为快捷键。</translation>
         </message>
         <message>
-            <source>To see what the effects do, start it with --display-services=simulated.</source>
-            <translation>要查看效果的作用，请使用 --display-services=simulated 启动。</translation>
+            <source>The display server has gone, so Nocturo ends.</source>
+            <translation>显示服务器已消失，因此 Nocturo 将退出。</translation>
         </message>
         <message>
-            <source>There is no X server to work with, because DISPLAY is not set.</source>
-            <translation>未设置 DISPLAY，因此没有可用的 X 服务器。</translation>
+            <source>Nocturo is already running.</source>
+            <translation>Nocturo 已在运行。</translation>
         </message>
         <message>
-            <source>Another Nocturo drives the displays of the X server %@.</source>
-            <translation>另一个 Nocturo 正在控制 X 服务器 %@ 的屏幕。</translation>
+            <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
+the HDTV range or through a color filter. Runs until it is told to quit, and
+gives every display back then. Drive it with nocturoctl.</source>
+            <translation>改变整个屏幕的外观：反转、过曝、调暗或调亮、HDTV 范围，或颜色滤镜。
+一直运行到被要求退出为止，届时恢复每个屏幕。可用 nocturoctl 控制。</translation>
         </message>
         <message>
-            <source>Displays are simulated; their pictures are in %@.</source>
-            <translation>屏幕是模拟的；其图片位于 %@。</translation>
+            <source>Options:</source>
+            <translation>选项：</translation>
         </message>
         <message>
-            <source>The X server %@ is only a guest of a Wayland session and cannot change its colors; displays under Wayland come with a later version.</source>
-            <translation>X 服务器 %@ 只是 Wayland 会话中的客体，无法更改其颜色；后续版本将支持 Wayland 下的屏幕。</translation>
+            <source>where the displays come from:</source>
+            <translation>屏幕的来源：</translation>
         </message>
         <message>
-            <source>The X server %@ has no RandR 1.3 or later.</source>
-            <translation>X 服务器 %@ 没有 RandR 1.3 或更高版本。</translation>
+            <source>what this session offers (default)</source>
+            <translation>此会话所提供的（默认）</translation>
         </message>
         <message>
-            <source>The X server %@ cannot be reached.</source>
-            <translation>无法连接 X 服务器 %@。</translation>
+            <source>an X server</source>
+            <translation>X 服务器</translation>
+        </message>
+        <message>
+            <source>N displays, 1 to 16 (default 2),</source>
+            <translation>N 个屏幕，1 到 16（默认为 2），</translation>
+        </message>
+        <message>
+            <source>in memory, drawn into pictures</source>
+            <translation>位于内存中，绘制到图片里</translation>
+        </message>
+        <message>
+            <source>show this text</source>
+            <translation>显示此文本</translation>
+        </message>
+        <message>
+            <source>show the version</source>
+            <translation>显示版本</translation>
+        </message>
+        <message>
+            <source>A FILE is an effect document (.nocturo) to open, by the Nocturo that runs if
+there is one. Starting Nocturo a second time without one toggles the effect.</source>
+            <translation>FILE 是要打开的效果文档（.nocturo）；如果已有 Nocturo 在运行，则由它打开。
+不带文档再次启动 Nocturo 会切换效果。</translation>
+        </message>
+        <message>
+            <source>There is no option "%@"; see nocturo --help.</source>
+            <translation>没有选项“%@”；请参阅 nocturo --help。</translation>
+        </message>
+        <message>
+            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services 可取 auto、randr、simulated 或 simulated:N，其中 N 为 1 到 16。</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>正在运行的 Nocturo 没有响应。</translation>
+        </message>
+        <message>
+            <source>Without a session bus the Nocturo that runs cannot be given a document.</source>
+            <translation>没有会话总线，无法将文档交给正在运行的 Nocturo。</translation>
+        </message>
+        <message>
+            <source>the selected effects</source>
+            <translation>所选的效果</translation>
+        </message>
+        <message>
+            <source>switch the effect on at every start</source>
+            <translation>每次启动时启用效果</translation>
+        </message>
+        <message>
+            <source>starting Nocturo again toggles the effect</source>
+            <translation>再次启动 Nocturo 会切换效果</translation>
+        </message>
+        <message>
+            <source>while on, apply again every 6 seconds</source>
+            <translation>启用期间每 6 秒重新应用一次</translation>
+        </message>
+        <message>
+            <source>pause while the screen saver runs</source>
+            <translation>屏幕保护程序运行时暂停</translation>
+        </message>
+        <message>
+            <source>toggle with the global hot key</source>
+            <translation>用全局快捷键切换</translation>
+        </message>
+        <message>
+            <source>1: run as a tray item</source>
+            <translation>1：作为托盘图标运行</translation>
+        </message>
+        <message>
+            <source>virtual key code of the hot key</source>
+            <translation>快捷键的虚拟键码</translation>
+        </message>
+        <message>
+            <source>modifier flags of the hot key</source>
+            <translation>快捷键的修饰键标志</translation>
+        </message>
+        <message>
+            <source>whether the effect was last switched on</source>
+            <translation>效果上次是否处于启用状态</translation>
+        </message>
+        <message>
+            <source>the affected displays; none means all</source>
+            <translation>受影响的屏幕；空表示全部</translation>
+        </message>
+        <message>
+            <source>the display last picked; 0 means all</source>
+            <translation>最近选择的屏幕；0 表示全部</translation>
+        </message>
+        <message>
+            <source>dim: -1 black, 0 unchanged, 1 white</source>
+            <translation>调暗：-1 为黑，0 为不变，1 为白</translation>
+        </message>
+        <message>
+            <source>color filter: hue in degrees</source>
+            <translation>颜色滤镜：色相（度）</translation>
+        </message>
+        <message>
+            <source>color filter: strength, 0 to 1</source>
+            <translation>颜色滤镜：强度，0 到 1</translation>
+        </message>
+        <message>
+            <source>the f.lux warning was answered</source>
+            <translation>已回应关于 f.lux 的警告</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effects.</source>
+            <translation>“%@”的值应为效果列表。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of effect names.</source>
+            <translation>“%@”的值应为效果名称列表。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
+            <translation>“%1$@”只接受效果，而没有名为“%2$@”的效果。</translation>
+        </message>
+        <message>
+            <source>"%@" takes true or false.</source>
+            <translation>“%@”的值应为 true 或 false。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a whole number.</source>
+            <translation>“%@”的值应为整数。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a finite number.</source>
+            <translation>“%@”的值应为有限的数。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a list of display identifiers.</source>
+            <translation>“%@”的值应为屏幕标识符列表。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ZQFluxCheck</name>
+        <message>
+            <source>%@ is present on this computer.</source>
+            <translation>此计算机上装有 %@。</translation>
+        </message>
+        <message>
+            <source>[%1$@ installed, might interfer %2$@.]</source>
+            <translation>%2$@ 也会更改屏幕的颜色，因此可能会干扰 %1$@：两个程序可能会互相撤销对方的更改。建议同一时间只使用其中一个。</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>继续</translation>
+        </message>
+        <message>
+            <source>Quit</source>
+            <translation>退出</translation>
         </message>
     </context>
 </TS>

@@ -153,7 +153,7 @@ class Faults(unittest.TestCase):
         missing = {text for text in faults(self.root) if text.startswith("fr") and "missing" in text}
         wanted = {(PANEL, "Shut"), ("Localizable", "One text"), ("ZQFluxCheck", "Two"),
                   ("Localizable", "Three"), ("Localizable", "Four"), ("ZQFluxCheck", "Five"),
-                  ("Localizable", "Six"), ("CommandLine", "Seven %@"), ("CommandLine", "Eight")}
+                  ("Localizable", "Six"), ("Localizable", "Seven %@"), ("Localizable", "Eight")}
         self.assertEqual({f"fr: {key} is missing" for key in wanted}, missing)
 
     def test_texts_that_cannot_be_found_are_refused(self):

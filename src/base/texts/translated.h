@@ -7,9 +7,9 @@
 
 namespace nocturo {
 
-// Texts that are printed, in the user's language. They are compiled in from the table "CommandLine"
-// of resources/translations and need no Qt: nocturoctl is bound to keys, and loading Qt would take
-// as long as all else that it does.
+// Texts in the user's language, for whoever does without Qt: nocturoctl is bound to keys, and
+// loading Qt would take as long as all else that it does. They are compiled in from the table
+// "Localizable" of resources/translations, in which localized() looks, too.
 
 /// Has all texts read in that language from now on, "pt_BR" for instance. English, which they are
 /// in until then, where there are none in it.
