@@ -211,6 +211,50 @@
             <translation>Abbrechen</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>Effekt &amp;einschalten</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Effekt einschalten</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Einstellungen …</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Über Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Nocturo beenden</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>Effekt &amp;ausschalten</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Effekt ausschalten</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Alle Bildschirme</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Bildschirm %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Keine</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Keine Einstellung nimmt einen Wert dieser Art.</translation>
         </message>
@@ -619,22 +663,6 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Super</translation>
         </message>
         <message>
-            <source>Activate Effect</source>
-            <translation>Effekt einschalten</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Einstellungen …</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Über Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Nocturo beenden</translation>
-        </message>
-        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Dieser Desktop zeigt momentan kein Benachrichtigungsfeld an; Nocturo ist über das Anwendungsmenü erreichbar.</translation>
         </message>
@@ -647,20 +675,12 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Öffnen fehlgeschlagen</translation>
         </message>
         <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>Effekt &amp;ausschalten</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>Effekt &amp;einschalten</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Effekt ausschalten</translation>
-        </message>
-        <message>
             <source>&amp;Clear Menu</source>
             <translation>Liste &amp;leeren</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effekt</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -691,32 +711,12 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Nocturo &amp;beenden</translation>
         </message>
         <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Effekt</translation>
-        </message>
-        <message>
             <source>&amp;Help</source>
             <translation>&amp;Hilfe</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
             <translation>Ü&amp;ber Nocturo</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Alle Bildschirme</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Bildschirm %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Keine</translation>
         </message>
         <message>
             <source>Keep these colors?</source>

@@ -211,6 +211,50 @@
             <translation>Cancelar</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activar el efecto</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Activar el efecto</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Preferencias…</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Acerca de Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Salir de Nocturo</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Todas las pantallas</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Pantalla %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Ninguna</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Ningún ajuste admite un valor de este tipo.</translation>
         </message>
@@ -619,22 +663,6 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>Super</translation>
         </message>
         <message>
-            <source>Activate Effect</source>
-            <translation>Activar el efecto</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Preferencias…</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Acerca de Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Salir de Nocturo</translation>
-        </message>
-        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Este escritorio no muestra ninguna bandeja del sistema en este momento; puede acceder a Nocturo desde el menú de aplicaciones.</translation>
         </message>
@@ -647,20 +675,12 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>Error al abrir</translation>
         </message>
         <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>&amp;Desactivar el efecto</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Activar el efecto</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Desactivar el efecto</translation>
-        </message>
-        <message>
             <source>&amp;Clear Menu</source>
             <translation>&amp;Vaciar el menú</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efecto</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -691,32 +711,12 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>&amp;Salir de Nocturo</translation>
         </message>
         <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Efecto</translation>
-        </message>
-        <message>
             <source>&amp;Help</source>
             <translation>A&amp;yuda</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
             <translation>&amp;Acerca de Nocturo</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Todas las pantallas</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Pantalla %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Ninguna</translation>
         </message>
         <message>
             <source>Keep these colors?</source>

@@ -211,6 +211,50 @@
             <translation>Annuler</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activer l’effet</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Activer l’effet</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Préférences…</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>À propos de Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Quitter Nocturo</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Tous les écrans</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Écran %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Aucun</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Aucun réglage n’accepte une valeur de ce type.</translation>
         </message>
@@ -619,22 +663,6 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>Super</translation>
         </message>
         <message>
-            <source>Activate Effect</source>
-            <translation>Activer l’effet</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Préférences…</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>À propos de Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Quitter Nocturo</translation>
-        </message>
-        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Ce bureau n’affiche pas de zone de notification pour le moment ; Nocturo reste accessible par le menu des applications.</translation>
         </message>
@@ -647,20 +675,12 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>Échec de l’ouverture</translation>
         </message>
         <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>&amp;Désactiver l’effet</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Activer l’effet</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Désactiver l’effet</translation>
-        </message>
-        <message>
             <source>&amp;Clear Menu</source>
             <translation>&amp;Vider le menu</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Effet</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -691,32 +711,12 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>&amp;Quitter Nocturo</translation>
         </message>
         <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Effet</translation>
-        </message>
-        <message>
             <source>&amp;Help</source>
             <translation>Ai&amp;de</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
             <translation>À &amp;propos de Nocturo</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Tous les écrans</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Écran %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Aucun</translation>
         </message>
         <message>
             <source>Keep these colors?</source>

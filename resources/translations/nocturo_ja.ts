@@ -211,6 +211,50 @@
             <translation>キャンセル</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>効果をオンにする(&amp;A)</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>効果をオンにする</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>設定...</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Nocturo について</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Nocturo を終了</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>効果をオフにする(&amp;D)</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>効果をオフにする</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>すべての画面</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>画面 %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>、%d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>なし</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>この種類の値を受け付ける設定はありません。</translation>
         </message>
@@ -619,22 +663,6 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>Super</translation>
         </message>
         <message>
-            <source>Activate Effect</source>
-            <translation>効果をオンにする</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>設定...</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Nocturo について</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Nocturo を終了</translation>
-        </message>
-        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>このデスクトップには現在システムトレイがありません。Nocturo はアプリケーションメニューから操作できます。</translation>
         </message>
@@ -647,20 +675,12 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>開けませんでした</translation>
         </message>
         <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>効果をオフにする(&amp;D)</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>効果をオンにする(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>効果をオフにする</translation>
-        </message>
-        <message>
             <source>&amp;Clear Menu</source>
             <translation>履歴を消去(&amp;C)</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>効果(&amp;E)</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -691,32 +711,12 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>Nocturo を終了(&amp;Q)</translation>
         </message>
         <message>
-            <source>&amp;Effect</source>
-            <translation>効果(&amp;E)</translation>
-        </message>
-        <message>
             <source>&amp;Help</source>
             <translation>ヘルプ(&amp;H)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
             <translation>Nocturo について(&amp;A)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>すべての画面</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>画面 %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>、%d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>なし</translation>
         </message>
         <message>
             <source>Keep these colors?</source>

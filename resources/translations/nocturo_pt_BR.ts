@@ -211,6 +211,50 @@
             <translation>Cancelar</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Ativar o efeito</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Ativar o efeito</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>Preferências…</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>Sobre o Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>Sair do Nocturo</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>&amp;Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>Todas as telas</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>Tela %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>, %d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Nenhuma</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Nenhuma configuração aceita um valor deste tipo.</translation>
         </message>
@@ -619,22 +663,6 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>Super</translation>
         </message>
         <message>
-            <source>Activate Effect</source>
-            <translation>Ativar o efeito</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>Preferências…</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>Sobre o Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>Sair do Nocturo</translation>
-        </message>
-        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Este ambiente de trabalho não mostra nenhuma bandeja no momento; o Nocturo pode ser acessado pelo menu de aplicativos.</translation>
         </message>
@@ -647,20 +675,12 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>Falha ao abrir</translation>
         </message>
         <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>&amp;Desativar o efeito</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Ativar o efeito</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>Desativar o efeito</translation>
-        </message>
-        <message>
             <source>&amp;Clear Menu</source>
             <translation>&amp;Limpar menu</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>&amp;Efeito</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -691,32 +711,12 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>Sair do &amp;Nocturo</translation>
         </message>
         <message>
-            <source>&amp;Effect</source>
-            <translation>&amp;Efeito</translation>
-        </message>
-        <message>
             <source>&amp;Help</source>
             <translation>A&amp;juda</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
             <translation>&amp;Sobre o Nocturo</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>Todas as telas</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>Tela %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>, %d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>Nenhuma</translation>
         </message>
         <message>
             <source>Keep these colors?</source>

@@ -211,6 +211,50 @@
             <translation>取消</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>启用效果(&amp;A)</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>启用效果</translation>
+        </message>
+        <message>
+            <source>Preferences...</source>
+            <translation>首选项...</translation>
+        </message>
+        <message>
+            <source>About Nocturo</source>
+            <translation>关于 Nocturo</translation>
+        </message>
+        <message>
+            <source>Quit Nocturo</source>
+            <translation>退出 Nocturo</translation>
+        </message>
+        <message>
+            <source>&amp;Deactivate Effect</source>
+            <translation>停用效果(&amp;D)</translation>
+        </message>
+        <message>
+            <source>Deactivate Effect</source>
+            <translation>停用效果</translation>
+        </message>
+        <message>
+            <source>All Screens</source>
+            <translation>所有屏幕</translation>
+        </message>
+        <message>
+            <source>Screen %d</source>
+            <translation>屏幕 %d</translation>
+        </message>
+        <message>
+            <source>, %d</source>
+            <translation>、%d</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>无</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>没有设置接受此类型的值。</translation>
         </message>
@@ -619,22 +663,6 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>Super</translation>
         </message>
         <message>
-            <source>Activate Effect</source>
-            <translation>启用效果</translation>
-        </message>
-        <message>
-            <source>Preferences...</source>
-            <translation>首选项...</translation>
-        </message>
-        <message>
-            <source>About Nocturo</source>
-            <translation>关于 Nocturo</translation>
-        </message>
-        <message>
-            <source>Quit Nocturo</source>
-            <translation>退出 Nocturo</translation>
-        </message>
-        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>此桌面当前没有系统托盘；可以通过应用程序菜单使用 Nocturo。</translation>
         </message>
@@ -647,20 +675,12 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>打开失败</translation>
         </message>
         <message>
-            <source>&amp;Deactivate Effect</source>
-            <translation>停用效果(&amp;D)</translation>
-        </message>
-        <message>
-            <source>&amp;Activate Effect</source>
-            <translation>启用效果(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Deactivate Effect</source>
-            <translation>停用效果</translation>
-        </message>
-        <message>
             <source>&amp;Clear Menu</source>
             <translation>清空列表(&amp;C)</translation>
+        </message>
+        <message>
+            <source>&amp;Effect</source>
+            <translation>效果(&amp;E)</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -691,32 +711,12 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>退出 Nocturo(&amp;Q)</translation>
         </message>
         <message>
-            <source>&amp;Effect</source>
-            <translation>效果(&amp;E)</translation>
-        </message>
-        <message>
             <source>&amp;Help</source>
             <translation>帮助(&amp;H)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>
             <translation>关于 Nocturo(&amp;A)</translation>
-        </message>
-        <message>
-            <source>All Screens</source>
-            <translation>所有屏幕</translation>
-        </message>
-        <message>
-            <source>Screen %d</source>
-            <translation>屏幕 %d</translation>
-        </message>
-        <message>
-            <source>, %d</source>
-            <translation>、%d</translation>
-        </message>
-        <message>
-            <source>None</source>
-            <translation>无</translation>
         </message>
         <message>
             <source>Keep these colors?</source>

@@ -1,9 +1,10 @@
 // The main menu with the documents that it remembers, and the run of screens in other menus.
 
+#include "app/screen_option_menu_manager.h"
 #include "base/notification_center.h"
 #include "base/notification_names.h"
+#include "desktop/menus/drawn_menu.h"
 #include "desktop/menus/main_menu.h"
-#include "desktop/menus/screen_option_menu_manager.h"
 #include "desktop/menus/status_image.h"
 #include "display_services_fixture.h"
 #include "documents/recent_documents.h"
@@ -57,7 +58,8 @@ TEST_F(RecentlyOpened, TheLatestComesFirstAndWhatIsGoneIsLeftOut) {
 }
 
 TEST_F(RecentlyOpened, EveryItemOfTheMainMenuCanBeTyped) {
-    const MainMenu menu(documents, {});
+    Menu effects;
+    const MainMenu menu(effects, documents, {});
     const auto items = menu.bar()->findChildren<QAction*>();
     EXPECT_GE(items.size(), 10);
     for (const QAction* item : items) {
@@ -70,7 +72,8 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     QString opened;
     MainMenu::Handlers handlers;
     handlers.openRecentDocument = [&](const QString& path) { opened = path; };
-    const MainMenu menu(documents, handlers);
+    Menu effects;
+    const MainMenu menu(effects, documents, handlers);
     const auto menus = menu.bar()->findChildren<QMenu*>();
     QMenu& recent = **std::find_if(menus.begin(), menus.end(), [](const QMenu* each) {
         return each->title().contains("Recent");
@@ -92,13 +95,19 @@ class ScreenOptionMenu : public DisplayServicesFixture {
             hardware_.add("D" + std::to_string(crtc), crtc);
         }
         start();
-        menu.addAction("above");
-        menu.addAction("below");
+        for (const char* text : {"above", "below"}) {
+            MenuItem item;
+            item.text = text;
+            model.append(std::move(item));
+        }
     }
 
     void make(bool separator = false, bool hideSingular = false) {
-        QAction* above = menu.actions().front();
-        manager.emplace(store, center, menu, above, &title, separator, hideSingular, 0);
+        MenuItem hidden;
+        hidden.isVisible = false;
+        title = model.append(std::move(hidden));
+        manager.emplace(store, center, model, model.entries().front().id, title, separator,
+                        hideSingular, 0);
     }
     std::int64_t number(std::size_t index) { return id(index); }
     void removeDisplay(const char* name) {
@@ -109,6 +118,9 @@ class ScreenOptionMenu : public DisplayServicesFixture {
     std::string shown() const {
         QStringList texts;
         for (const QAction* item : menu.actions()) {
+            if (!item->isVisible()) {
+                continue;
+            }
             texts << (item->isSeparator() ? "-"
                       : item->isChecked() ? "[" + item->text() + "]"
                                           : item->text());
@@ -123,8 +135,10 @@ class ScreenOptionMenu : public DisplayServicesFixture {
 
     NotificationCenter center;
     DefaultsStore store{center};
+    Menu model;
     QMenu menu;
-    QAction title;
+    DrawnMenu drawn{model, menu};
+    Menu::Id title = Menu::kNone;
     std::optional<NDScreenOptionMenuManager> manager;
 };
 
@@ -139,7 +153,7 @@ TEST_F(ScreenOptionMenu, FollowsTheSetAndSumsItUp) {
           std::tuple(PropertyArray{}, "[All Screens] Screen 1 Screen 2 Screen 3", "All Screens")}) {
         store.setObject(set, "AffectedScreenSet");
         EXPECT_EQ(shown(), std::string("above ") + run + " below");
-        EXPECT_EQ(title.text(), summary);
+        EXPECT_EQ(model.item(title)->text, summary);
     }
     EXPECT_EQ(item(3)->toolTip(), "D2");
 }
@@ -154,11 +168,11 @@ TEST_F(ScreenOptionMenu, FollowsTheArrangement) {
         hardware_.add("D" + std::to_string(crtc), crtc);
     }
     removeDisplay("D2");
-    EXPECT_EQ(menu.actions().size(), 2 + 1 + 10); // an eleventh display is not offered
+    EXPECT_EQ(menu.actions().size(), 2 + 1 + 10 + 1); // an eleventh display is not offered
     hardware_.lists = false;
     removeDisplay("D3");
     EXPECT_EQ(shown(), "above All Screens below");
-    EXPECT_EQ(title.text(), "None");
+    EXPECT_EQ(model.item(title)->text, "None");
 }
 
 TEST_F(ScreenOptionMenu, HidesTheRunOfASingleDisplayAlsoWhileThatIsPicked) {
@@ -169,7 +183,7 @@ TEST_F(ScreenOptionMenu, HidesTheRunOfASingleDisplayAlsoWhileThatIsPicked) {
     click(3);
     EXPECT_EQ(shown(), "above below");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(menu.findChildren<QAction*>("", Qt::FindDirectChildrenOnly).size(), 3); // menuAction
+    EXPECT_EQ(menu.findChildren<QAction*>("", Qt::FindDirectChildrenOnly).size(), 4); // menuAction
 }
 
 TEST_F(ScreenOptionMenu, PicksToggleAndAllScreensResets) {

@@ -1,10 +1,11 @@
 #include "desktop/menus/desktop_menus.h"
 
 #include "app/app_controller.h"
+#include "app/app_menus.h"
 #include "bus/launcher_menu.h"
 #include "desktop/app_windows.h"
 #include "desktop/menus/alert_box.h"
-#include "desktop/menus/screen_option_menu_manager.h"
+#include "desktop/menus/drawn_menu.h"
 #include "desktop/menus/taskbar_presence.h"
 #include "desktop/qt/localized.h"
 #include "documents/effect_document_file.h"
@@ -13,49 +14,31 @@
 #include <QCoreApplication>
 #include <QMenu>
 
-#include <array>
 #include <optional>
 
 namespace nocturo {
 
 struct DesktopMenus::Menus {
-    Menus(NDAppController& controller, const StatusItem::Surroundings& surroundings,
-          const RecentDocuments& documents, const MainMenu::Handlers& handlers)
-        : mainMenu(documents, handlers),
+    Menus(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
+          const StatusItem::Surroundings& surroundings, const RecentDocuments& documents,
+          const MainMenu::Handlers& handlers)
+        : menus(controller, defaults, localCenter, [] { QCoreApplication::quit(); }),
+          mainMenu(menus.effectMenu(), documents, handlers),
+          drawnStatusMenu(menus.statusMenu(), statusMenu),
           statusItem(statusMenu, surroundings, [&controller] { controller.activateEffect(); }) {
         statusMenu.setObjectName(QStringLiteral("statusMenu"));
-        statusActivateItem = fill(statusMenu, controller);
         if (surroundings.bus) {
             launcherMenu.emplace(*surroundings.bus);
-            dockActivateItem = fill(launcherMenu->menu(), controller);
+            drawnDockMenu.emplace(menus.dockMenu(), launcherMenu->menu());
         }
     }
 
-    /// The activate item.
-    static QAction* fill(QMenu& menu, NDAppController& controller) {
-        const auto add = [&menu](const QString& title, auto action) {
-            QAction* item = menu.addAction(title);
-            QObject::connect(item, &QAction::triggered, item, action);
-            return item;
-        };
-        QAction* activateItem =
-            add(localized("Activate Effect"), [&controller] { controller.activateEffect(); });
-        menu.addSeparator();
-        add(localized("Preferences..."), [&controller] { controller.openPreferences(); });
-        add(localized("About Nocturo"), [&controller] { controller.openAboutBox(); });
-        menu.addSeparator();
-        add(localized("Quit Nocturo"), [] { QCoreApplication::quit(); });
-        return activateItem;
-    }
-
+    AppMenus menus;
     MainMenu mainMenu;
     std::optional<LauncherMenu> launcherMenu; // where there is a bus
+    std::optional<DrawnMenu> drawnDockMenu;
     QMenu statusMenu;
-    QAction* dockActivateItem = nullptr;
-    QAction* statusActivateItem = nullptr;
-    std::optional<NDScreenOptionMenuManager> mainScreens;
-    std::optional<NDScreenOptionMenuManager> launcherScreens;
-    std::optional<NDScreenOptionMenuManager> statusScreens;
+    DrawnMenu drawnStatusMenu;
     StatusItem statusItem;
     TaskbarPresence taskbarPresence;
 };
@@ -79,8 +62,8 @@ DesktopMenus::~DesktopMenus() {
 
 DesktopMenus::Menus& DesktopMenus::menus() {
     if (menus_ == nullptr) {
-        menus_ = std::make_unique<Menus>(controller_, surroundings_, recentDocuments_,
-                                         mainMenuHandlers());
+        menus_ = std::make_unique<Menus>(controller_, defaults_, localCenter_, surroundings_,
+                                         recentDocuments_, mainMenuHandlers());
         menus_->statusItem.waitingDidChange = [this] { updateStatusItemNotice(); };
         windows_.setMenuBar(menus_->mainMenu.bar());
     }
@@ -88,8 +71,7 @@ DesktopMenus::Menus& DesktopMenus::menus() {
 }
 
 MainMenu::Handlers DesktopMenus::mainMenuHandlers() {
-    return {[this] { controller_.activateEffect(); },
-            [this] { windows_.askForDocument(); },
+    return {[this] { windows_.askForDocument(); },
             [this](const QString& path) {
                 windows_.loadPreferences();
                 controller_.openFile(path.toStdString());
@@ -129,15 +111,7 @@ void DesktopMenus::showRefusedDocuments(const std::vector<std::string>& paths) {
 }
 
 void DesktopMenus::setActivateItemTitles(bool active) {
-    Menus& all = menus();
-    all.mainMenu.activateItem()->setText(
-        localized(active ? "&Deactivate Effect" : "&Activate Effect"));
-    const QString title = localized(active ? "Deactivate Effect" : "Activate Effect");
-    for (QAction* item : {all.dockActivateItem, all.statusActivateItem}) {
-        if (item != nullptr) {
-            item->setText(title);
-        }
-    }
+    menus().menus.setActivateItemTitles(active);
 }
 
 void DesktopMenus::setStatusItemShown(bool shown) {
@@ -150,16 +124,10 @@ void DesktopMenus::setStatusItemImage(bool active) {
 }
 
 void DesktopMenus::makeScreenMenus() {
-    Menus& all = menus();
-    const auto make = [this](auto& manager, QMenu& menu, QAction* activateItem, int indent) {
-        manager.emplace(defaults_, localCenter_, menu, activateItem, nullptr, false, false, indent);
-    };
-    make(all.mainScreens, *all.mainMenu.effectMenu(), all.mainMenu.activateItem(), 0);
-    if (all.launcherMenu) {
-        make(all.launcherScreens, all.launcherMenu->menu(), all.dockActivateItem, 1);
-        all.launcherMenu->offer();
+    menus().menus.makeScreenMenus();
+    if (menus().launcherMenu) {
+        menus().launcherMenu->offer();
     }
-    make(all.statusScreens, all.statusMenu, all.statusActivateItem, 1);
 }
 
 } // namespace nocturo

@@ -44,10 +44,10 @@ void fillRecent(QMenu& menu, const RecentDocuments& documents,
 
 } // namespace
 
-MainMenu::MainMenu(const RecentDocuments& documents, const Handlers& handlers)
+MainMenu::MainMenu(Menu& effectMenu, const RecentDocuments& documents, const Handlers& handlers)
     : bar_(new QMenuBar) {
     addFileMenu(documents, handlers);
-    addEffectMenu(handlers);
+    effectMenu_.emplace(effectMenu, *bar_->addMenu(localized("&Effect")));
     addHelpMenu(handlers);
 }
 
@@ -74,11 +74,6 @@ void MainMenu::addFileMenu(const RecentDocuments& documents, const Handlers& han
         file, localized("&Quit Nocturo"), [] { QCoreApplication::quit(); },
         QKeySequence(Qt::CTRL | Qt::Key_Q))
         ->setMenuRole(QAction::QuitRole);
-}
-
-void MainMenu::addEffectMenu(const Handlers& handlers) {
-    effectMenu_ = bar_->addMenu(localized("&Effect"));
-    activateItem_ = add(*effectMenu_, localized("&Activate Effect"), handlers.activate);
 }
 
 void MainMenu::addHelpMenu(const Handlers& handlers) {

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QAction>
-#include <QMenu>
+#include "desktop/menus/drawn_menu.h"
+
 #include <QMenuBar>
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 
 namespace nocturo {
 
@@ -15,7 +16,6 @@ class RecentDocuments;
 class MainMenu {
   public:
     struct Handlers {
-        std::function<void()> activate;
         std::function<void()> openDocument;
         std::function<void(const QString& path)> openRecentDocument;
         std::function<void()> saveDocument;
@@ -24,25 +24,21 @@ class MainMenu {
         std::function<void()> openAboutBox;
     };
 
-    /// The documents must outlive the menu.
-    MainMenu(const RecentDocuments& documents, const Handlers& handlers);
+    /// The documents and the menu of the effect must outlive the main menu.
+    MainMenu(Menu& effectMenu, const RecentDocuments& documents, const Handlers& handlers);
     ~MainMenu();
     MainMenu(const MainMenu&) = delete;
     MainMenu& operator=(const MainMenu&) = delete;
 
     /// A window may take the bar over; it is gone with the window then.
     QMenuBar* bar() const { return bar_; }
-    QMenu* effectMenu() const { return effectMenu_; }
-    QAction* activateItem() const { return activateItem_; }
 
   private:
     void addFileMenu(const RecentDocuments& documents, const Handlers& handlers);
-    void addEffectMenu(const Handlers& handlers);
     void addHelpMenu(const Handlers& handlers);
 
     QPointer<QMenuBar> bar_;
-    QPointer<QMenu> effectMenu_;
-    QPointer<QAction> activateItem_;
+    std::optional<DrawnMenu> effectMenu_;
 };
 
 } // namespace nocturo

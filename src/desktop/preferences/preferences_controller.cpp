@@ -1,7 +1,8 @@
 #include "desktop/preferences/preferences_controller.h"
 
+#include "app/screen_option_menu_manager.h"
 #include "base/notification_center.h"
-#include "desktop/menus/screen_option_menu_manager.h"
+#include "desktop/menus/drawn_menu.h"
 #include "desktop/preferences/keep_colors_question.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/sheet.h"
@@ -96,14 +97,19 @@ void NDPreferencesController::windowDidLoad() {
                                           [this] { update(); });
 
     // The menu's first item stands for the button itself: its title sums the choice up.
-    auto* menu = new QMenu(ui_->affectedScreens);
-    QAction* title = menu->addAction(QString());
-    title->setVisible(false);
-    connect(title, &QAction::changed, ui_->affectedScreens,
-            [this, title] { ui_->affectedScreens->setText(title->text()); });
-    ui_->affectedScreens->setMenu(menu);
+    screensMenu_ = std::make_unique<Menu>();
+    MenuItem item;
+    item.isVisible = false;
+    const Menu::Id title = screensMenu_->append(std::move(item));
+    screensMenu_->changes().addObserver(this, kMenuDidChangeNotification, [this, title] {
+        ui_->affectedScreens->setText(QString::fromStdString(screensMenu_->item(title)->text));
+    });
     _screensMenuManager = std::make_unique<NDScreenOptionMenuManager>(
-        surroundings_.defaults, surroundings_.localCenter, *menu, title, title, true, false, 0);
+        surroundings_.defaults, surroundings_.localCenter, *screensMenu_, title, title, true, false,
+        0);
+    auto* menu = new QMenu(ui_->affectedScreens);
+    drawnScreensMenu_ = std::make_unique<DrawnMenu>(*screensMenu_, *menu);
+    ui_->affectedScreens->setMenu(menu);
 
     panel_->shouldClose = [this] { return windowShouldClose(); };
     connect(panel_.get(), &PreferencePanel::activated, this, [this] {

@@ -20,9 +20,11 @@ class NocturoPreferencePanel;
 namespace nocturo {
 
 class DefaultsStore;
+class DrawnMenu;
 class HXHotKeyTextField;
 class KeepColorsQuestion;
 class KeyboardLayout;
+class Menu;
 class NDScreenOptionMenuManager;
 class NotificationCenter;
 class ParameterSlider;
@@ -142,6 +144,8 @@ class NDPreferencesController : public QObject {
     bool noEffectComfirmed = false;
     std::unique_ptr<Ui::NocturoPreferencePanel> ui_;
     std::unique_ptr<PreferencePanel> panel_;
+    std::unique_ptr<Menu> screensMenu_;
+    std::unique_ptr<DrawnMenu> drawnScreensMenu_;
     std::unique_ptr<NDScreenOptionMenuManager> _screensMenuManager;
     std::unique_ptr<KeepColorsQuestion> keepColors_;
     ZQGammaCurve previewed_; // without the effect

@@ -1,0 +1,83 @@
+#include "desktop/menus/drawn_menu.h"
+
+#include <QAction>
+
+namespace nocturo {
+
+namespace {
+
+void show(const MenuItem& item, QAction& action) {
+    action.setSeparator(item.isSeparator);
+    action.setVisible(item.isVisible);
+    action.setCheckable(item.isCheckable);
+    action.setChecked(item.isChecked);
+    action.setText(QString::fromStdString(indentedText(item)));
+    action.setToolTip(QString::fromStdString(item.toolTip));
+}
+
+} // namespace
+
+DrawnMenu::DrawnMenu(Menu& menu, QMenu& drawn) : menu_(menu), drawn_(&drawn) {
+    drawn.setToolTipsVisible(true);
+    draw();
+    menu_.changes().addObserver(this, kMenuDidChangeNotification, [this] { draw(); });
+}
+
+DrawnMenu::~DrawnMenu() {
+    menu_.changes().removeObserver(this);
+}
+
+QAction* DrawnMenu::action(Menu::Id id) const {
+    const auto found = actions_.find(id);
+    return found != actions_.end() ? found->second.data() : nullptr;
+}
+
+void DrawnMenu::draw() {
+    if (drawn_ == nullptr) {
+        return;
+    }
+    removeGone();
+    qsizetype index = 0;
+    for (const auto& [id, item] : menu_.entries()) {
+        QAction* present = action(id);
+        if (present == nullptr) {
+            present = added(id);
+        }
+        show(item, *present);
+        if (drawn_->actions().value(index) != present) {
+            drawn_->insertAction(drawn_->actions().value(index), present);
+        }
+        ++index;
+    }
+}
+
+void DrawnMenu::removeGone() {
+    std::erase_if(actions_, [this](const auto& each) {
+        const auto& [id, action] = each;
+        if (menu_.item(id) != nullptr) {
+            return false;
+        }
+        if (action != nullptr) {
+            drawn_->removeAction(action);
+            action->deleteLater(); // it may be the one whose pick is under way
+        }
+        return true;
+    });
+}
+
+QAction* DrawnMenu::added(Menu::Id id) {
+    auto* action = new QAction(drawn_);
+    connect(action, &QAction::triggered, this, [this, id] { wasPicked(id); });
+    actions_[id] = action;
+    return action;
+}
+
+void DrawnMenu::wasPicked(Menu::Id id) {
+    const QPointer<DrawnMenu> self(this);
+    menu_.pick(id);
+    if (self != nullptr) {
+        draw(); // an item that can be checked has toggled by itself
+    }
+}
+
+} // namespace nocturo
