@@ -156,6 +156,7 @@ TEST_F(HotKeyServiceTest, namesKeysAsTheLayoutEngravesThemUntilTheServerIsGone) 
     EXPECT_TRUE(follows("a z = [ ; ` "));
     EXPECT_EQ(typed({36, 48, 51, 53, 117, 122, 56, 127}), "        ")
         << "controls, F1, Shift, none";
+    EXPECT_EQ(typed({82, 87, 65, 69, 76}), "0 5 . + ⌤ ") << "the keypad, with Num Lock off";
     const std::pair<std::uint32_t, const char*> states[] = {
         {2, "A"}, {2 | 4, "a"}, {16, ""}, {1 | 8 | 0xff00, "a"}};
     for (const auto& [modifiers, text] : states) {

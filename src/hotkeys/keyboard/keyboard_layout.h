@@ -11,7 +11,8 @@ class KeyboardLayout {
   public:
     virtual ~KeyboardLayout() = default;
 
-    /// What pressing the key types, as UTF-8. Empty for a dead key, for a key that types nothing or
+    /// What pressing the key types, as UTF-8: keys of the keypad type as if Num Lock were on, and
+    /// its Enter a glyph of its own. Empty for a dead key, for a key that types nothing or
     /// only a control character, for an unknown key code, and while no layout can be read. Keeps no
     /// dead-key state between calls.
     ///

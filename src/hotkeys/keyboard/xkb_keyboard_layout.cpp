@@ -17,6 +17,9 @@ constexpr xcb_xkb_device_spec_t kKeyboard = XCB_XKB_ID_USE_CORE_KBD;
 constexpr std::array kModifierNames = {XKB_MOD_NAME_LOGO, XKB_MOD_NAME_SHIFT, XKB_MOD_NAME_CAPS,
                                        XKB_MOD_NAME_ALT, XKB_MOD_NAME_CTRL};
 
+// What the keypad's Enter is known by: it types a control character, and is not Return.
+constexpr const char* kEnterGlyph = "⌤";
+
 bool isControlCharacter(const std::string& text) {
     const auto first = static_cast<unsigned char>(text.front());
     return first < 0x20 || first == 0x7f;
@@ -109,6 +112,8 @@ void XkbKeyboardLayout::readLayout() {
         const auto index = xkb_keymap_mod_get_index(keymap.get(), kModifierNames[i]);
         modifierMasks_[i] = index != XKB_MOD_INVALID ? xkb_mod_mask_t{1} << index : 0;
     }
+    const auto lock = xkb_keymap_mod_get_index(keymap.get(), XKB_MOD_NAME_NUM);
+    numLockMask_ = lock != XKB_MOD_INVALID ? xkb_mod_mask_t{1} << lock : 0;
 }
 
 xkb_mod_mask_t XkbKeyboardLayout::modifierMask(std::uint32_t modifierKeyState) const {
@@ -130,7 +135,12 @@ std::string XkbKeyboardLayout::textForKeyDown(std::uint16_t keyCode,
         return {};
     }
     const xkb_keycode_t key = *evdevCode + xkb_keycode_t{kEvdevToX11Offset};
-    xkb_state_update_mask(state_.get(), modifierMask(modifierKeyState), 0, 0, 0, 0, group_);
+    // The lock makes digits of the keypad's arrows, and changes no other key.
+    xkb_state_update_mask(state_.get(), modifierMask(modifierKeyState), 0, numLockMask_, 0, 0,
+                          group_);
+    if (xkb_state_key_get_one_sym(state_.get(), key) == XKB_KEY_KP_Enter) {
+        return kEnterGlyph;
+    }
     std::array<char, 64> text{};
     const int length = xkb_state_key_get_utf8(state_.get(), key, text.data(), text.size());
     if (length <= 0 || static_cast<std::size_t>(length) >= text.size()) {

@@ -54,6 +54,7 @@ class XkbKeyboardLayout final : public KeyboardLayout {
     std::unique_ptr<xkb_context, Release> context_;
     std::unique_ptr<xkb_state, Release> state_; // holds its keymap; null when none could be read
     std::array<xkb_mod_mask_t, kModifierCount> modifierMasks_{};
+    xkb_mod_mask_t numLockMask_ = 0;
     xkb_layout_index_t group_ = 0;
     bool outdated_ = true;
 };
