@@ -94,6 +94,13 @@ TEST_F(HotKeyField, RecordsKeysWithAModifierAndFunctionKeysAlone) {
         EXPECT_EQ(field->hotKey()->modifierFlags(), flags) << text;
         EXPECT_EQ(field->text().toStdString(), text);
     }
+    const Key circumflex{Qt::Key_Dead_Circumflex, 49};
+    field->startRecording();
+    EXPECT_EQ(QWidget::keyboardGrabber(), field) << "Alt+F4 is not for the window manager";
+    send(QEvent::KeyRelease, circumflex, Qt::ControlModifier); // an input context took the press
+    EXPECT_EQ(field->hotKey()->keyCode(), 50);
+    EXPECT_EQ(said.substr(said.size() - 21), "started edited ended ");
+    EXPECT_EQ(QWidget::keyboardGrabber(), nullptr);
     const auto old = field->hotKey();
     field->startRecording();
     type(kK);

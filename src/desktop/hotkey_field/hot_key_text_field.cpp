@@ -2,6 +2,7 @@
 
 #include "base/log.h"
 #include "desktop/hotkey_field/hot_key_text_field_editor.h"
+#include "desktop/mixed_color.h"
 #include "desktop/qt/localized.h"
 #include "hotkeys/key_naming.h"
 #include "hotkeys/keyboard/modifier_flags.h"
@@ -22,12 +23,6 @@ namespace {
 /// How much of the highlight colour lies over the field while it records: enough to be seen beside
 /// another field, and text stays readable on light and dark palettes.
 constexpr float kTint = 0.18F;
-
-QColor mixed(const QColor& base, const QColor& other, float share) {
-    return QColor::fromRgbF(base.redF() + (other.redF() - base.redF()) * share,
-                            base.greenF() + (other.greenF() - base.greenF()) * share,
-                            base.blueF() + (other.blueF() - base.blueF()) * share);
-}
 
 bool startsByItself(Qt::FocusReason reason) {
     switch (reason) {
@@ -256,8 +251,8 @@ void HXHotKeyTextField::paintEvent(QPaintEvent* event) {
     QStyleOptionFrame option;
     initStyleOption(&option);
     QPalette& colours = option.palette;
-    colours.setColor(QPalette::Base, mixed(colours.color(QPalette::Base),
-                                           colours.color(QPalette::Highlight), kTint));
+    colours.setColor(QPalette::Base, mixedColor(colours.color(QPalette::Base),
+                                                colours.color(QPalette::Highlight), kTint));
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
     const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
     painter.setPen(colours.color(QPalette::Text));

@@ -16,7 +16,7 @@ class KeyboardLayout;
 /// Recording starts when the field is clicked, reached with Tab or given the focus by the program,
 /// and with Return or Space when it has the focus without recording. It does not start when the
 /// field's window merely becomes active again. While it records, the whole application gets no
-/// keys:
+/// keys, and where the desktop lets it neither does the window manager:
 /// - a key with a modifier, or a function, arrow or navigation key, is recorded and ends it;
 /// - Return and Escape alone end it; Escape puts the hot key back that was there at the start;
 /// - other keys alone do nothing.

@@ -9,7 +9,8 @@
 #include "desktop/hotkey_field/qt_key_event.h"
 #include "hotkeys/keyboard/modifier_flags.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 
 namespace nocturo {
@@ -27,6 +28,12 @@ bool isNewline(char16_t unit) {
 // Layouts may put Escape on another key, usually that of caps lock.
 bool isEscape(std::uint16_t keyCode, char16_t unit) {
     return keyCode == kEscapeKeyCode || unit == 0x1B;
+}
+
+/// An input context takes the press of a dead key for itself, and lets only the release through.
+bool isReleasedDeadKey(const QKeyEvent& event) {
+    return event.type() == QEvent::KeyRelease && event.key() >= Qt::Key_Dead_Grave &&
+           event.key() <= Qt::Key_Dead_Longsolidusoverlay;
 }
 
 bool isKeyEvent(const QEvent& event) {
@@ -138,6 +145,11 @@ bool HXHotKeyTextFieldEditor::takeWhileEditing(const QObject* watched, QEvent& e
     // A repeat belongs to a press from before the recording, or to one that was ignored.
     if (event.type() == QEvent::KeyPress && !keyEvent.isAutoRepeat()) {
         takeKey(keyEvent);
+    } else if (isReleasedDeadKey(keyEvent) && !keyEvent.isAutoRepeat()) {
+        QGuiApplication::inputMethod()->reset(); // or the next letter typed gets the accent
+        takeKey(QKeyEvent(QEvent::KeyPress, keyEvent.key(), keyEvent.modifiers(),
+                          keyEvent.nativeScanCode(), 0, keyEvent.nativeModifiers()));
+        finishRelease();
     }
     return true;
 }
@@ -191,8 +203,13 @@ void HXHotKeyTextFieldEditor::setGlobalMonitor(bool on) {
     globalMonitor_ = on;
     if (on) {
         QCoreApplication::instance()->installEventFilter(this);
+        // Or the window manager acts on its shortcuts, and Alt+F4 closes the window.
+        hotKeyField_->grabKeyboard();
     } else {
         QCoreApplication::instance()->removeEventFilter(this);
+        if (auto* grabber = qobject_cast<HXHotKeyTextField*>(QWidget::keyboardGrabber())) {
+            grabber->releaseKeyboard();
+        }
     }
 }
 
