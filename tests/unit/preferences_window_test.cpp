@@ -164,6 +164,9 @@ TEST_F(PreferencesWindow, AHotKeyIsRecordedWhereThereIsNone) {
     EXPECT_TRUE(field.isRecording());
     click("useHotKey");
     EXPECT_THAT(recordings, ElementsAre(true, false));
+    field.startRecording();
+    controller.showWindow(); // asked for again while it is open
+    EXPECT_FALSE(field.isRecording());
     field.setHotKey(HXHotKey::hotKeyWithKeyCode(96, 0x100000, nullptr));
     Q_EMIT field.hotKeyEdited();
     EXPECT_EQ(store->integerForKey("HotKeyCode"), 96);
@@ -217,8 +220,11 @@ class EffectDocuments : public PreferencesWindow {
 };
 
 TEST_F(EffectDocuments, SetEveryControlAndComeBackTheSame) {
+    int used = 0;
+    QObject::connect(&controller, &NDPreferencesController::documentWasUsed, [&] { ++used; });
     EXPECT_TRUE(controller.openEffectFile(written(document)));
     EXPECT_THAT(effects(), ElementsAre()) << "the window is not loaded";
+    EXPECT_EQ(used, 0) << "and nothing to open again";
     EXPECT_FALSE(controller.isWindowLoaded());
 
     NDGroupEffect::effect().addEffect("NDDimEffect");

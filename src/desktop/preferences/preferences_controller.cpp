@@ -128,7 +128,7 @@ void NDPreferencesController::showWindow() {
     panel_->show();
     panel_->raise();
     panel_->activateWindow();
-    if (!wasVisible) {
+    if (!wasVisible || ui_->hotKeyField->isRecording()) {
         resignFirstResponder();
     }
 }

@@ -143,10 +143,10 @@ bool NDPreferencesController::openEffectFile(const QString& path) {
     if (!document) {
         return false;
     }
-    Q_EMIT documentWasUsed(path);
     if (!isWindowLoaded()) {
         return true;
     }
+    Q_EMIT documentWasUsed(path);
     using Self = NDPreferencesController;
     const auto check = [this](QCheckBox* box, bool checked,
                               void (Self::*action)(const QAbstractButton&)) {
