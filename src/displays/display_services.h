@@ -79,8 +79,8 @@ class DisplayServices {
     virtual void restoreSystemColors() = 0;
 
     /// Has `handler` called from the event loop, never from inside another member, whenever
-    /// something changed. Changes that come in quick succession, as with a docking station, are
-    /// told together once they have settled.
+    /// something changed. Modes are told at once; other changes, which come in quick succession
+    /// as with a docking station, are told together once they have settled.
     virtual void setChangeHandler(std::function<void(const DisplayChanges&)> handler) = 0;
 };
 

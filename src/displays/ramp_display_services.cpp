@@ -1,4 +1,22 @@
+// Three things are known apart: DisplayList knows which displays there are, a CrtcRamp what each
+// CRTC holds and held, and SystemColors what each display is to be given back. Here they meet, as
+// displays are connected to CRTCs, and that decides what a capture means:
+//
+// - A CRTC that holds what others left in it shows that to whoever reads a display on it.
+// - What was written here for a display that is on the CRTC still is that display's. Another one
+//   that shares the CRTC gets what others left, so that it never captures the effect.
+// - What was written for a display that has left the CRTC is nobody's: a display that came in its
+//   place gets its own system colors.
+// - What stands for system colors that the display no longer has is replaced by those it has now.
+//
+// Changes are told from the event loop only, since whoever is told may use any member. Modes are
+// told at once, because a driver that sets one may have reset the ramp and the effect is missing
+// until it is written again. All else, which comes in bursts while a display is plugged in, is told
+// once it has settled.
+
 #include "displays/ramp_display_services.h"
+
+#include "base/run_loop.h"
 
 #include <algorithm>
 #include <cstring>
@@ -7,6 +25,8 @@
 namespace nocturo {
 
 namespace {
+
+using namespace std::chrono_literals;
 
 void addOnce(std::vector<CGDirectDisplayID>& ids, CGDirectDisplayID id) {
     if (std::find(ids.begin(), ids.end(), id) == ids.end()) {
@@ -19,19 +39,25 @@ void addOnce(std::vector<CGDirectDisplayID>& ids, CGDirectDisplayID id) {
 RampDisplayServices::RampDisplayServices(std::unique_ptr<GammaHardware> hardware,
                                          std::unique_ptr<CalibrationSource> calibrations,
                                          RunLoop* runLoop)
-    : hardware_(std::move(hardware)), calibrations_(std::move(calibrations)) {
+    : hardware_(std::move(hardware)), calibrations_(std::move(calibrations)), runLoop_(runLoop),
+      list_(*hardware_) {
     refresh();
-    pending_ = {};
-    if (runLoop != nullptr) {
-        settler_.emplace(*runLoop, [this] { tellChanges(); });
+    // What is there at the start is no change.
+    list_.takeModeChanges();
+    list_.takeArrangementChange();
+    profilesChanged_.clear();
+    if (runLoop_ != nullptr) {
+        settler_.emplace(*runLoop_, [this] { tellSettledChanges(); });
     }
     noteWhatCameAlong();
 }
 
+RampDisplayServices::~RampDisplayServices() = default;
+
 const std::vector<DisplayInfo>* RampDisplayServices::onlineDisplays() {
     const bool listed = refresh();
     noteWhatCameAlong();
-    return listed ? &online_ : nullptr;
+    return listed ? &list_.online() : nullptr;
 }
 
 bool RampDisplayServices::readTransferTable(CGDirectDisplayID display, std::uint32_t capacity,
@@ -47,8 +73,8 @@ bool RampDisplayServices::readTransferTable(CGDirectDisplayID display, std::uint
     if (!ramp) {
         return false;
     }
-    if (!known->firstSeen) {
-        known->firstSeen = ramp;
+    if (!known->colors.wasSeen()) {
+        known->colors.seeFirst(*ramp);
         keepSystemRamps();
     }
     tableFromChannel(ramp->red, capacity, red);
@@ -73,45 +99,39 @@ bool RampDisplayServices::writeTransferTable(CGDirectDisplayID display, std::uin
     if (known == nullptr || count == 0) {
         return false;
     }
-    Crtc& crtc = *known->crtc;
+    CrtcRamp& crtc = *known->crtc;
+    Ramp& draft = crtc.draft();
     if (known->lastRead && known->lastRead->matches(count, red, green, blue) &&
-        known->lastRead->ramp.size() == crtc.scratch.size()) {
-        crtc.scratch = known->lastRead->ramp;
+        known->lastRead->ramp.size() == crtc.size()) {
+        draft = known->lastRead->ramp;
     } else {
-        channelFromTable(red, count, crtc.scratch.red);
-        channelFromTable(green, count, crtc.scratch.green);
-        channelFromTable(blue, count, crtc.scratch.blue);
+        channelFromTable(red, count, draft.red);
+        channelFromTable(green, count, draft.green);
+        channelFromTable(blue, count, draft.blue);
     }
-    if (crtc.kept.size() == 0) {
-        keepSystemRamp(crtc, crtc.own);
+    if (!crtc.hasSystemRamp()) {
+        crtc.keepSystemRamp(crtc.left());
     }
-    const bool written = writeScratch(crtc, display, display);
+    const bool written = crtc.write(display, display);
     noteWhatCameAlong();
     return written;
 }
 
 std::uint32_t
 RampDisplayServices::takeBackDisturbedDisplays(std::span<const CGDirectDisplayID> displays) {
-    std::vector<std::uint32_t> written;
+    std::vector<CrtcRamp*> written;
+    std::vector<std::uint32_t> ids;
     for (const CGDirectDisplayID id : displays) {
         const Display* display = usableDisplay(id);
-        if (display != nullptr && display->crtc->writer == id) {
-            written.push_back(display->crtc->id);
+        if (display != nullptr && display->crtc->effectOf() == id) {
+            written.push_back(display->crtc);
+            ids.push_back(display->crtc->id());
         }
     }
-    hardware_->expectReads(written);
+    hardware_->expectReads(ids);
     std::uint32_t disturbed = 0;
-    for (const std::uint32_t id : written) {
-        Crtc& crtc = crtcs_.at(id);
-        if (!hardware_->readRamp(id, crtc.scratch) || crtc.scratch == crtc.written) {
-            continue;
-        }
-        // Hardware that keeps fewer bits than it takes never holds what was written; only a ramp
-        // that can be put back was changed by somebody.
-        const bool heldOnceMore = hardware_->writeRamp(id, crtc.written) &&
-                                  hardware_->readRamp(id, crtc.scratch) &&
-                                  crtc.scratch == crtc.written;
-        disturbed += heldOnceMore ? 1 : 0;
+    for (CrtcRamp* crtc : written) {
+        disturbed += crtc->takeBack() ? 1 : 0;
     }
     return disturbed;
 }
@@ -121,8 +141,8 @@ void RampDisplayServices::restoreSystemColors() {
     takeCalibrations();
     for (auto& [id, crtc] : crtcs_) {
         if (const GiveBack back = giveBack(crtc); back.ramp != nullptr) {
-            crtc.scratch = resampledRamp(*back.ramp, crtc.scratch.size());
-            writeScratch(crtc, 0, back.display);
+            crtc.draft() = resampledRamp(*back.ramp, crtc.size());
+            crtc.write(0, back.display);
         }
     }
     // Whoever is told that the displays are back, or that the program has ended, finds them so.
@@ -150,71 +170,46 @@ bool RampDisplayServices::Capture::matches(std::uint32_t count, const float* red
 }
 
 bool RampDisplayServices::refresh() {
-    const std::uint64_t generation = hardware_->topologyGeneration();
-    if (generation_ == generation) {
-        return true;
+    const DisplayList::Look look = list_.look();
+    if (look == DisplayList::Look::listedAnew) {
+        connectDisplays();
+        noteChange();
+        takeCalibrations();
+        keepSystemRamps();
     }
-    std::vector<Head> heads;
-    if (!hardware_->listHeads(heads)) {
-        return false;
-    }
-    generation_ = generation;
-    const std::vector<DisplayInfo> before = std::exchange(online_, {});
+    return look != DisplayList::Look::failed;
+}
+
+void RampDisplayServices::connectDisplays() {
     for (auto& [id, display] : displays_) {
         display.crtc = nullptr;
     }
-    const std::vector<CGDirectDisplayID> ids = identifiers_.identifiersFor(heads);
-    for (std::size_t i = 0; i < heads.size(); ++i) {
-        takeHead(heads[i], ids[i]);
+    const std::vector<DisplayInfo>& online = list_.online();
+    for (std::size_t i = 0; i < online.size(); ++i) {
+        Display& display = displays_[online[i].id];
+        if (online[i].rampSize != 0) {
+            display.crtc = &crtcRamp(list_.crtcAt(i), online[i].rampSize);
+        }
     }
-    if (!online_.empty() && std::none_of(online_.begin(), online_.end(),
-                                         [](const DisplayInfo& info) { return info.main; })) {
-        online_.front().main = true;
+    if (list_.hasNewcomers()) {
+        calibrationGeneration_.reset();
     }
     // Only now is it known which displays share a CRTC.
     for (auto& [id, display] : displays_) {
-        if (std::find(ids.begin(), ids.end(), id) == ids.end()) {
-            display.modeGeneration.reset();
+        if (display.crtc != nullptr && !display.colors.wasSeen()) {
+            if (const auto ramp = readRamp(id, display)) {
+                display.colors.seeFirst(*ramp);
+            }
         }
-        if (display.crtc != nullptr && !display.firstSeen) {
-            display.firstSeen = readRamp(id, display);
-        }
-    }
-    pending_.arrangementChanged = pending_.arrangementChanged || before != online_;
-    noteChange();
-    takeCalibrations();
-    keepSystemRamps();
-    return true;
-}
-
-void RampDisplayServices::takeHead(const Head& head, CGDirectDisplayID id) {
-    const bool isMain = head.primary && std::none_of(online_.begin(), online_.end(),
-                                                     [](const auto& info) { return info.main; });
-    const bool usable = isUsableRampSize(head.rampSize);
-    online_.push_back({id, head.connector, head.bounds, usable ? head.rampSize : 0, isMain});
-    Display& display = displays_[id];
-    if (!display.modeGeneration) {
-        calibrationGeneration_.reset();
-    }
-    if (display.modeGeneration != head.modeGeneration) {
-        display.modeGeneration = head.modeGeneration;
-        addOnce(pending_.modeChanged, id);
-    }
-    if (usable) {
-        display.crtc = &crtcOf(head);
     }
 }
 
-RampDisplayServices::Crtc& RampDisplayServices::crtcOf(const Head& head) {
-    Crtc& crtc = crtcs_[head.crtc];
-    if (crtc.scratch.size() != head.rampSize) {
-        crtc = {};
-        crtc.id = head.crtc;
-        crtc.own = identityRamp(head.rampSize);
-        crtc.written = Ramp(head.rampSize);
-        crtc.scratch = Ramp(head.rampSize);
+CrtcRamp& RampDisplayServices::crtcRamp(std::uint32_t crtc, std::uint32_t size) {
+    CrtcRamp& known = crtcs_.try_emplace(crtc, *hardware_, crtc, size).first->second;
+    if (known.size() != size) {
+        known = CrtcRamp(*hardware_, crtc, size);
     }
-    return crtc;
+    return known;
 }
 
 RampDisplayServices::Display* RampDisplayServices::usableDisplay(CGDirectDisplayID id) {
@@ -223,48 +218,26 @@ RampDisplayServices::Display* RampDisplayServices::usableDisplay(CGDirectDisplay
     return found != displays_.end() && found->second.crtc != nullptr ? &found->second : nullptr;
 }
 
-// The ramp in force for a display: what the CRTC holds, unless that was written here for another or
-// stands for system colours that are no longer the display's.
+// The ramp in force for a display, as the head of this file has it.
 std::optional<Ramp> RampDisplayServices::readRamp(CGDirectDisplayID id, Display& display) {
-    Crtc& crtc = *display.crtc;
-    if (!hardware_->readRamp(crtc.id, crtc.scratch)) {
+    CrtcRamp& crtc = *display.crtc;
+    if (!crtc.read()) {
         return std::nullopt;
     }
-    const bool ours = crtc.writtenFor != 0 && crtc.scratch == crtc.written;
-    const bool foreign = ours && isForeign(crtc, id);
-    const bool outdated = (ours && display.calibrationIsNews) ||
-                          (display.superseded && crtc.scratch == *display.superseded);
-    display.calibrationIsNews = false;
-    if ((foreign || outdated) && display.systemRamp()) {
-        if (outdated) {
-            display.superseded = crtc.scratch;
-        }
-        return resampledRamp(*display.systemRamp(), crtc.scratch.size());
+    const bool written = crtc.holdsWhatWasWritten();
+    const bool nobodys = written && isOfDisplayThatLeft(crtc, id);
+    const bool outdated = display.colors.areNewerThanRead(crtc);
+    if ((nobodys || outdated) && display.colors.ramp()) {
+        return resampledRamp(*display.colors.ramp(), crtc.size());
     }
-    if (foreign || (ours && crtc.writer != 0 && crtc.writer != id)) {
-        return crtc.own;
+    if (nobodys || (written && crtc.effectOf() != 0 && crtc.effectOf() != id)) {
+        return crtc.left();
     }
-    if (ours) {
-        return crtc.written;
-    }
-    crtc.own = crtc.scratch.isAllZero() ? identityRamp(crtc.scratch.size()) : crtc.scratch;
-    return crtc.own;
+    return written ? crtc.written() : crtc.takeAsLeft();
 }
 
-// Whether what was written last was for a display that is no longer there.
-bool RampDisplayServices::isForeign(const Crtc& crtc, CGDirectDisplayID id) const {
-    return crtc.writtenFor != id && displays_.at(crtc.writtenFor).crtc != &crtc;
-}
-
-bool RampDisplayServices::writeScratch(Crtc& crtc, CGDirectDisplayID writer,
-                                       CGDirectDisplayID writtenFor) {
-    if (!hardware_->writeRamp(crtc.id, crtc.scratch)) {
-        return false;
-    }
-    std::swap(crtc.written, crtc.scratch);
-    crtc.writer = writer;
-    crtc.writtenFor = writtenFor;
-    return true;
+bool RampDisplayServices::isOfDisplayThatLeft(const CrtcRamp& crtc, CGDirectDisplayID id) const {
+    return crtc.writtenFor() != id && displays_.at(crtc.writtenFor()).crtc != &crtc;
 }
 
 void RampDisplayServices::takeCalibrations() {
@@ -277,10 +250,12 @@ void RampDisplayServices::takeCalibrations() {
     }
     calibrationGeneration_ = generation;
     bool changed = false;
-    for (const DisplayInfo& info : online_) {
+    for (const DisplayInfo& info : list_.online()) {
         Display& display = displays_[info.id];
-        if (display.crtc != nullptr && takeCalibration(display, info.name)) {
-            addOnce(pending_.profilesChanged, info.id);
+        if (display.crtc != nullptr &&
+            display.colors.takeCalibration(
+                calibrations_->calibration(info.name, display.crtc->size()), *display.crtc)) {
+            addOnce(profilesChanged_, info.id);
             changed = true;
         }
     }
@@ -290,48 +265,21 @@ void RampDisplayServices::takeCalibrations() {
     }
 }
 
-// Whether the display's system ramp is another now.
-bool RampDisplayServices::takeCalibration(Display& display, const std::string& connector) {
-    CalibrationAnswer answer = calibrations_->calibration(connector, display.crtc->scratch.size());
-    // The first answer is no change: the display shows what it showed when Nocturo came.
-    const bool isChange =
-        std::exchange(display.calibrationSettled, display.calibrationSettled || answer.settled);
-    if (answer.ramp == display.calibration) {
-        return false;
-    }
-    const std::optional<Ramp> former = display.systemRamp();
-    if (isChange) {
-        supersede(display);
-    }
-    display.calibration = std::move(answer.ramp);
-    return display.systemRamp() != former;
-}
-
-// What the display shows now stands for the calibration that comes, if it shows its system colours.
-void RampDisplayServices::supersede(Display& display) {
-    Crtc& crtc = *display.crtc;
-    display.calibrationIsNews = true;
-    if (display.systemRamp() && hardware_->readRamp(crtc.id, crtc.scratch) &&
-        crtc.scratch == resampledRamp(*display.systemRamp(), crtc.scratch.size())) {
-        display.superseded = crtc.scratch;
-    }
-}
-
 // Of displays that share a CRTC the first is the one that restoring heeds.
-RampDisplayServices::GiveBack RampDisplayServices::giveBack(const Crtc& crtc) const {
-    const auto of = [this](CGDirectDisplayID id) -> const Display& { return displays_.at(id); };
+RampDisplayServices::GiveBack RampDisplayServices::giveBack(const CrtcRamp& crtc) const {
     // Displays beyond the driven ones are not ours to write.
-    const auto driven = std::min<std::size_t>(online_.size(), kZQMaxDisplays);
+    const std::vector<DisplayInfo>& online = list_.online();
+    const auto driven = std::min<std::size_t>(online.size(), kZQMaxDisplays);
     for (std::size_t i = 0; i < driven; ++i) {
-        const Display& display = of(online_[i].id);
-        if (display.crtc == &crtc && display.systemRamp()) {
-            return {&*display.systemRamp(), online_[i].id};
+        const Display& display = displays_.at(online[i].id);
+        if (display.crtc == &crtc && display.colors.ramp()) {
+            return {&*display.colors.ramp(), online[i].id};
         }
     }
     // What was written for a display that has gone must not greet the next one there.
-    if (crtc.writer != 0) {
-        const std::optional<Ramp>& ramp = of(crtc.writer).systemRamp();
-        return {ramp ? &*ramp : &crtc.own, crtc.writer};
+    if (crtc.effectOf() != 0) {
+        const std::optional<Ramp>& ramp = displays_.at(crtc.effectOf()).colors.ramp();
+        return {ramp ? &*ramp : &crtc.left(), crtc.effectOf()};
     }
     return {};
 }
@@ -339,42 +287,45 @@ RampDisplayServices::GiveBack RampDisplayServices::giveBack(const Crtc& crtc) co
 void RampDisplayServices::keepSystemRamps() {
     for (auto& [id, crtc] : crtcs_) {
         if (const GiveBack back = giveBack(crtc); back.ramp != nullptr) {
-            keepSystemRamp(crtc, *back.ramp);
+            crtc.keepSystemRamp(*back.ramp);
         }
     }
 }
 
-void RampDisplayServices::keepSystemRamp(Crtc& crtc, const Ramp& ramp) {
-    Ramp fitting = resampledRamp(ramp, crtc.scratch.size());
-    if (crtc.kept != fitting) {
-        crtc.kept = std::move(fitting);
-        hardware_->keepSystemRamp(crtc.id, crtc.kept);
-    }
-}
-
 void RampDisplayServices::noteChange() {
-    if (settler_) {
-        settler_->note();
+    if (!settler_) {
+        return;
+    }
+    settler_->note();
+    if (soon_ == nullptr && (list_.hasModeChanges() || list_.isOutdated())) {
+        soon_ = runLoop_->scheduleTimer(0ms, [this] { tellModeChanges(); });
     }
 }
 
 // An answer of the hardware may have brought word of a change along, and then nothing outside says
 // so any more.
 void RampDisplayServices::noteWhatCameAlong() {
-    if (generation_ != hardware_->topologyGeneration()) {
+    if (list_.isOutdated()) {
         noteChange();
     }
 }
 
-void RampDisplayServices::tellChanges() {
-    if (pending_.arrangementChanged) {
+void RampDisplayServices::tellModeChanges() {
+    soon_.reset();
+    lookForChanges();
+    tell({list_.takeModeChanges(), false, {}});
+}
+
+void RampDisplayServices::tellSettledChanges() {
+    if (list_.hasArrangementChange()) {
         calibrationGeneration_.reset(); // profiles may go by the order of the displays
     }
-    if (refresh()) {
-        takeCalibrations();
-        noteWhatCameAlong();
-    }
-    const DisplayChanges changes = std::exchange(pending_, {});
+    lookForChanges();
+    tell({list_.takeModeChanges(), list_.takeArrangementChange(),
+          std::exchange(profilesChanged_, {})});
+}
+
+void RampDisplayServices::tell(const DisplayChanges& changes) {
     if (changeHandler_ && changes != DisplayChanges{}) {
         changeHandler_(changes);
     }

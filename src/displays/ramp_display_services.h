@@ -2,9 +2,11 @@
 
 #include "displays/burst_settler.h"
 #include "displays/calibration_source.h"
-#include "displays/display_identifiers.h"
+#include "displays/crtc_ramp.h"
+#include "displays/display_list.h"
 #include "displays/display_services.h"
 #include "displays/gamma_hardware.h"
+#include "displays/system_colors.h"
 
 #include <map>
 #include <memory>
@@ -13,6 +15,8 @@
 #include <vector>
 
 namespace nocturo {
+
+class Timer;
 
 /// Display services over gamma hardware: tables of any length for ramps of any size, exact
 /// write-back, and the ramps that each display is given back.
@@ -31,6 +35,7 @@ class RampDisplayServices : public DisplayServices {
     explicit RampDisplayServices(std::unique_ptr<GammaHardware> hardware,
                                  std::unique_ptr<CalibrationSource> calibrations = nullptr,
                                  RunLoop* runLoop = nullptr);
+    ~RampDisplayServices() override;
 
     std::string_view name() const override { return hardware_->name(); }
     const std::vector<DisplayInfo>* onlineDisplays() override;
@@ -47,18 +52,6 @@ class RampDisplayServices : public DisplayServices {
     void lookForChanges();
 
   private:
-    // Two displays may share a CRTC, and a display may come to a CRTC that was written for another.
-    // So each CRTC keeps the last ramp that others left in it apart from the one written here.
-    struct Crtc {
-        std::uint32_t id = 0;
-        Ramp own;
-        Ramp written;
-        Ramp scratch;
-        Ramp kept;                        // what the hardware was told to give back; empty at first
-        CGDirectDisplayID writer = 0;     // whom an effect was written for; 0 once given back
-        CGDirectDisplayID writtenFor = 0; // whom `written` was for, an effect or not; 0 at first
-    };
-
     // What was last handed out for a display, and the ramp that it stood for.
     struct Capture {
         std::vector<float> tables; // red, green, blue
@@ -69,20 +62,9 @@ class RampDisplayServices : public DisplayServices {
     };
 
     struct Display {
-        std::optional<Ramp> firstSeen;
-        std::optional<Ramp> calibration;
-        bool calibrationSettled = false;
+        SystemColors colors;
         std::optional<Capture> lastRead;
-        // The calibration is newer than what was written here,
-        bool calibrationIsNews = false;
-        // and than this content of the hardware, which stands for the calibration from then on.
-        std::optional<Ramp> superseded;
-        std::optional<std::uint64_t> modeGeneration; // nothing while offline
-        Crtc* crtc = nullptr;                        // null while offline or without a usable ramp
-
-        const std::optional<Ramp>& systemRamp() const {
-            return calibration ? calibration : firstSeen;
-        }
+        CrtcRamp* crtc = nullptr; // null while offline or without a usable ramp
     };
 
     struct GiveBack {
@@ -91,33 +73,31 @@ class RampDisplayServices : public DisplayServices {
     };
 
     bool refresh();
-    void takeHead(const Head& head, CGDirectDisplayID id);
-    Crtc& crtcOf(const Head& head);
+    void connectDisplays();
+    CrtcRamp& crtcRamp(std::uint32_t crtc, std::uint32_t size);
     Display* usableDisplay(CGDirectDisplayID id);
     std::optional<Ramp> readRamp(CGDirectDisplayID id, Display& display);
-    bool isForeign(const Crtc& crtc, CGDirectDisplayID id) const;
-    bool writeScratch(Crtc& crtc, CGDirectDisplayID writer, CGDirectDisplayID writtenFor);
+    bool isOfDisplayThatLeft(const CrtcRamp& crtc, CGDirectDisplayID id) const;
     void takeCalibrations();
-    bool takeCalibration(Display& display, const std::string& connector);
-    void supersede(Display& display);
-    GiveBack giveBack(const Crtc& crtc) const;
+    GiveBack giveBack(const CrtcRamp& crtc) const;
     void keepSystemRamps();
-    void keepSystemRamp(Crtc& crtc, const Ramp& ramp);
     void noteChange();
     void noteWhatCameAlong();
-    void tellChanges();
+    void tellModeChanges();
+    void tellSettledChanges();
+    void tell(const DisplayChanges& changes);
 
     std::unique_ptr<GammaHardware> hardware_;
     std::unique_ptr<CalibrationSource> calibrations_; // may be null
+    RunLoop* runLoop_;                                // may be null
     std::optional<BurstSettler> settler_;
+    std::unique_ptr<Timer> soon_; // runs while the event loop is to be come back to at once
     std::function<void(const DisplayChanges&)> changeHandler_;
-    DisplayChanges pending_;
-    DisplayIdentifiers identifiers_;
-    std::optional<std::uint64_t> generation_;            // nothing when the heads must be listed
+    std::vector<CGDirectDisplayID> profilesChanged_;     // untold
     std::optional<std::uint64_t> calibrationGeneration_; // nothing when all must be asked for
-    std::vector<DisplayInfo> online_;
+    DisplayList list_;
     std::map<CGDirectDisplayID, Display> displays_; // every one seen so far
-    std::map<std::uint32_t, Crtc> crtcs_;
+    std::map<std::uint32_t, CrtcRamp> crtcs_;
 };
 
 } // namespace nocturo

@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
 
 Ramp inverted(std::uint32_t number) {
     return reversed(colors(number));
@@ -81,7 +81,8 @@ TEST_F(DisplayChangesTest, EachKindIsToldAndNothingElse) {
     hardware_.remove("A");
     EXPECT_THAT(toldAfterLook(), ElementsAre(DisplayChanges{{}, true, {}}));
     hardware_.add("A", 1);
-    EXPECT_THAT(toldAfterLook(), ElementsAre(DisplayChanges{{a_}, true, {}}));
+    EXPECT_THAT(toldAfterLook(),
+                ElementsAre(DisplayChanges{{a_}, false, {}}, DisplayChanges{{}, true, {}}));
     profiles_.assign("A", 3);
     EXPECT_THAT(toldAfterLook(), ElementsAre(DisplayChanges{{}, false, {a_}}));
     EXPECT_EQ(runLoop_.pendingTimers(), 0U);
@@ -92,22 +93,32 @@ TEST_F(DisplayChangesTest, EachKindIsToldAndNothingElse) {
     EXPECT_THAT(toldAfter(), ElementsAre(DisplayChanges{{a_}, false, {}}));
 }
 
-TEST_F(DisplayChangesTest, ABurstIsToldOnceWithinAQuarterOfASecond) {
+TEST_F(DisplayChangesTest, ABurstIsToldOnceWithinAQuarterOfASecondAndModesAtOnce) {
     start();
-    hardware_.setMode("B");
+    const auto move = [this] {
+        hardware_.heads[1].bounds.x += 1;
+        ++hardware_.generation;
+    };
+    const DisplayChanges moved{{}, true, {}};
+    move();
     services_->lookForChanges();
     EXPECT_THAT(toldAfter(49), IsEmpty());
-    EXPECT_EQ(toldAfter(1).size(), 1U);
+    EXPECT_THAT(toldAfter(1), ElementsAre(moved));
     hardware_.setMode("B");
     for (int i = 0; i < 6; ++i) {
         hardware_.setMode("A");
+        move();
         services_->lookForChanges();
+        EXPECT_THAT(told_, IsEmpty());
+        const auto told = toldAfter(0);
+        ASSERT_EQ(told.size(), 1U);
+        EXPECT_FALSE(told[0].arrangementChanged);
+        EXPECT_THAT(told[0].modeChanged,
+                    UnorderedElementsAreArray(i == 0 ? std::vector{a_, b_} : std::vector{a_}));
         EXPECT_THAT(toldAfter(41), IsEmpty());
     }
     EXPECT_THAT(toldAfter(3), IsEmpty());
-    const auto told = toldAfter(1);
-    ASSERT_EQ(told.size(), 1U);
-    EXPECT_THAT(told[0].modeChanged, UnorderedElementsAre(a_, b_));
+    EXPECT_THAT(toldAfter(1), ElementsAre(moved));
 }
 
 TEST_F(DisplayChangesTest, AProfileThatChangesWhileOffCountsAtTheNextCapture) {
