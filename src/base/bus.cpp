@@ -2,6 +2,7 @@
 
 #include "base/event_loop.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
@@ -15,7 +16,13 @@ namespace {
 constexpr const char* kBusService = "org.freedesktop.DBus";
 constexpr const char* kBusPath = "/org/freedesktop/DBus";
 constexpr const char* kDefaultSystemBus = "unix:path=/run/dbus/system_bus_socket";
-constexpr std::uint64_t kMicrosecondsInMs = 1000;
+
+// At least 1, because sd-bus takes 0 for its own choice.
+std::uint64_t microsecondsUntil(std::chrono::steady_clock::time_point deadline) {
+    const auto left = std::chrono::duration_cast<std::chrono::microseconds>(
+        deadline - std::chrono::steady_clock::now());
+    return static_cast<std::uint64_t>(std::max<std::int64_t>(left.count(), 1));
+}
 
 std::string environment(const char* name) {
     const char* value = std::getenv(name);
@@ -85,7 +92,7 @@ Bus::~Bus() {
     }
 }
 
-bool Bus::claimName(const char* name, int patienceMs) {
+Bus::Claim Bus::claimName(const char* name, int patienceMs) const {
     constexpr std::uint32_t kDoNotQueue = 4;
     constexpr std::uint32_t kOwned = 1;
     constexpr std::uint32_t kOwnedAlready = 4;
@@ -93,8 +100,10 @@ bool Bus::claimName(const char* name, int patienceMs) {
     sd_bus_message_append(request.get(), "su", name, kDoNotQueue);
     const BusMessage answer = callAndWait(request, patienceMs, nullptr);
     std::uint32_t result = 0;
-    return answer != nullptr && sd_bus_message_read(answer.get(), "u", &result) > 0 &&
-           (result == kOwned || result == kOwnedAlready);
+    if (answer == nullptr || sd_bus_message_read(answer.get(), "u", &result) <= 0) {
+        return Claim::busIsSilent;
+    }
+    return result == kOwned || result == kOwnedAlready ? Claim::granted : Claim::taken;
 }
 
 BusMessage Bus::newCall(const char* service, const char* path, const char* interface,
@@ -117,10 +126,26 @@ std::unique_ptr<BusSlot> Bus::call(const BusMessage& call,
 }
 
 BusMessage Bus::callAndWait(const BusMessage& call, int patienceMs, sd_bus_error* error) const {
+    const Deadline deadline =
+        std::chrono::steady_clock::now() + std::chrono::milliseconds(patienceMs);
     sd_bus_message* answer = nullptr;
-    sd_bus_call(bus_.get(), call.get(), static_cast<std::uint64_t>(patienceMs) * kMicrosecondsInMs,
-                error, &answer);
+    if (saysHelloBefore(deadline)) {
+        sd_bus_call(bus_.get(), call.get(), microsecondsUntil(deadline), error, &answer);
+    }
     return BusMessage(answer);
+}
+
+// sd_bus_call() would wait half a minute for a bus that never says hello.
+bool Bus::saysHelloBefore(Deadline deadline) const {
+    sd_bus* bus = bus_.get();
+    while (sd_bus_is_ready(bus) == 0) {
+        const int processed = sd_bus_process(bus, nullptr);
+        if (processed < 0 ||
+            (processed == 0 && sd_bus_wait(bus, microsecondsUntil(deadline)) <= 0)) {
+            return false;
+        }
+    }
+    return sd_bus_is_ready(bus) > 0;
 }
 
 std::unique_ptr<BusSlot> Bus::onSignal(const char* sender, const char* path, const char* interface,

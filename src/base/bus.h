@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -45,9 +46,10 @@ class Bus {
     /// For building messages and adding objects by sd-bus itself.
     sd_bus* handle() const { return bus_.get(); }
 
-    /// Takes the name for this connection; false when another has it, or when the bus does not
-    /// answer within `patienceMs`.
-    bool claimName(const char* name, int patienceMs);
+    /// Takes the name for this connection. Waits for the bus for so long at most, and then counts
+    /// it as silent.
+    enum class Claim { granted, taken, busIsSilent };
+    Claim claimName(const char* name, int patienceMs) const;
 
     BusMessage newCall(const char* service, const char* path, const char* interface,
                        const char* method) const;
@@ -57,7 +59,8 @@ class Bus {
     [[nodiscard]] std::unique_ptr<BusSlot>
     call(const BusMessage& call, std::function<void(sd_bus_message* answer)> answered) const;
 
-    /// Sends a call and waits for its reply; null where there was none. `error` may be null.
+    /// Sends a call and waits for its reply, for so long at most; null where there was none.
+    /// `error` may be null.
     BusMessage callAndWait(const BusMessage& call, int patienceMs, sd_bus_error* error) const;
 
     /// Calls `handler` with every signal of that kind. Sender and path may be null for all.
@@ -73,6 +76,9 @@ class Bus {
 
   private:
     explicit Bus(BusHandle bus) : bus_(std::move(bus)) {}
+
+    using Deadline = std::chrono::steady_clock::time_point;
+    bool saysHelloBefore(Deadline deadline) const;
 
     BusHandle bus_;
 };

@@ -3,31 +3,20 @@
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
 #include "app/user_interface.h"
+#include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/notification_names.h"
 #include "base/texts/translated.h"
 #include "bus/bus_names.h"
-#include "bus/bus_values.h"
-#include "bus/launcher_face.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
-#include "effects/color_filter_effect.h"
-#include "effects/dim_effect.h"
-#include "hotkeys/hot_key_center.h"
 #include "hotkeys/hot_key_text.h"
-#include "hotkeys/key_naming.h"
-#include "hotkeys/saved_hot_key.h"
-#include "nocturo1_adaptor.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_table.h"
 
-#include <QCoreApplication>
-#include <QDBusMessage>
-#include <QDBusMetaType>
-#include <QMetaProperty>
-
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace nocturo {
@@ -37,34 +26,105 @@ namespace {
 // Long enough for a busy first instance, short enough for the user who waits for the second.
 constexpr int kReopenTimeoutMs = 2000;
 
+tl::unexpected<BusFailure> refusal(std::string sentence) {
+    return tl::unexpected(BusFailure{kInvalidArgumentError, std::move(sentence)});
+}
+
+tl::unexpected<BusFailure> noSetting(const std::string& key) {
+    return refusal(translated("There is no setting \"%@\".", {key}));
+}
+
+bool isOnline(CGDirectDisplayID display) {
+    DisplayServices* services = displayServices();
+    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
+    return online != nullptr && std::any_of(online->begin(), online->end(),
+                                            [&](const auto& each) { return each.id == display; });
+}
+
 } // namespace
+
+struct BusFace::Table {
+    // Everybody on the session bus is its user.
+    static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
+    static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
+
+    static const std::array<sd_bus_vtable, 30> members;
+};
+
+const std::array<sd_bus_vtable, 30> BusFace::Table::members = {{
+    SD_BUS_VTABLE_START(0),
+    SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Displays", "aa{sv}", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Effects", "as", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("DimLevel", "d", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("ColorFilterHue", "d", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("ColorFilterVividness", "d", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("AffectedScreenSet", "ax", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("HotKey", "a{sv}", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Settings", "a{sv}", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Disturbances", "u", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Disturber", "s", tellProperty, 0, kTold),
+    SD_BUS_METHOD_WITH_ARGS("SetActive", SD_BUS_ARGS("b", active), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::setActive>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("Toggle", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::toggle>,
+                            kFree),
+    SD_BUS_METHOD_WITH_ARGS("AddEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::addEffects>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("RemoveEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::removeEffects>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SetSetting", SD_BUS_ARGS("s", key, "v", value), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::setSetting>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ResetSetting", SD_BUS_ARGS("s", key), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::resetSetting>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ToggleScreen", SD_BUS_ARGS("u", id), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::toggleScreen>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("AffectAllScreens", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServe<&BusFace::affectAllScreens>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SetHotKey", SD_BUS_ARGS("s", text), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::setHotKey>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("OpenFile", SD_BUS_ARGS("s", path), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::openFile>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SaveFile", SD_BUS_ARGS("s", path), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::saveFile>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ShowPreferences", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServe<&BusFace::showPreferences>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ShowAboutBox", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServe<&BusFace::showAboutBox>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("RenderPreview", SD_BUS_ARGS("u", id), SD_BUS_RESULT("ay", picture),
+                            renderPreview, kFree),
+    SD_BUS_METHOD_WITH_ARGS("Reopen", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::reopen>,
+                            kFree),
+    SD_BUS_METHOD_WITH_ARGS("Quit", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::quit>,
+                            kFree),
+    SD_BUS_VTABLE_END,
+}};
 
 BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
                  NotificationCenter& localCenter, const DisturbanceWatch& disturbances,
-                 UserInterface& userInterface)
+                 UserInterface& userInterface, const Bus* bus, EventLoop& loop)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter),
-      disturbances_(disturbances), userInterface_(userInterface) {
-    qDBusRegisterMetaType<QList<QVariantMap>>();
-    qDBusRegisterMetaType<QList<qlonglong>>();
-    new Nocturo1Adaptor(this);
+      userInterface_(userInterface), bus_(bus), loop_(loop),
+      state_(controller, defaults, disturbances), launcherFace_(controller, bus, loop) {
+    if (bus_ != nullptr) {
+        sd_bus_slot* slot = nullptr;
+        sd_bus_add_object_vtable(bus_->handle(), &slot, kObjectPath, kNocturoInterface,
+                                 Table::members.data(), this);
+        object_.reset(slot);
+    }
 }
 
 BusFace::~BusFace() {
     localCenter_.removeObserver(this);
 }
 
-bool BusFace::takeName(const QDBusConnection& bus) {
-    if (!bus_) {
-        bus_ = bus;
-        launcherFace_ = new LauncherFace(this, bus, controller_);
-        // The object first: whoever sees the name may call at once.
-        bus_->registerObject(QLatin1String(kObjectPath), this);
-    }
-    return bus_->registerService(QLatin1String(kBusName));
+void BusFace::setKeyboardLayout(KeyboardLayout* layout) {
+    layout_ = layout;
+    state_.setKeyboardLayout(layout);
 }
 
 void BusFace::announceChanges() {
-    announced_ = snapshot();
+    announced_ = state_.allProperties();
     for (const auto name :
          {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
           NSApplicationDidChangeScreenParametersNotification, kDisturbanceNotification}) {
@@ -74,280 +134,175 @@ void BusFace::announceChanges() {
 
 void BusFace::launchDidFinish() {
     announceSoon(); // what the launch itself changed without a word
-    if (launcherFace_ != nullptr) {
-        launcherFace_->launchDidFinish();
-    }
+    launcherFace_.launchDidFinish();
 }
 
-bool BusFace::active() const {
-    return controller_.effectActive();
+int BusFace::tellProperty(sd_bus* /*bus*/, const char* /*path*/, const char* /*interface*/,
+                          const char* property, sd_bus_message* reply, void* self,
+                          sd_bus_error* /*error*/) {
+    appendValue(reply, static_cast<BusFace*>(self)->state_.property(property));
+    return 0;
 }
 
-QString BusFace::displayServicesName() const {
-    const DisplayServices* services = displayServices();
-    return services != nullptr ? QString::fromStdString(std::string(services->name())) : QString();
-}
-
-QList<QVariantMap> BusFace::displays() const {
-    QList<QVariantMap> list;
-    DisplayServices* services = displayServices();
-    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
-    if (online == nullptr) {
-        return list;
-    }
-    const std::vector<double> affected = affectedScreenSet(defaults_);
-    const auto& controllers = controller_.screenControllers();
-    const auto driven = std::min<std::size_t>(online->size(), kZQMaxDisplays);
-    for (std::size_t i = 0; i < driven; ++i) {
-        const DisplayInfo& info = (*online)[i];
-        const bool inSet =
-            affected.empty() || std::find(affected.begin(), affected.end(),
-                                          static_cast<double>(info.id)) != affected.end();
-        const bool applied =
-            controllers && std::any_of(controllers->begin(), controllers->end(), [&](auto& each) {
-                return each->screenID() == info.id && each->hasCurve();
-            });
-        list.append({{QStringLiteral("number"), static_cast<int>(i) + 1},
-                     {QStringLiteral("id"), info.id},
-                     {QStringLiteral("name"), QString::fromStdString(info.name)},
-                     {QStringLiteral("main"), info.main},
-                     {QStringLiteral("rampSize"), info.rampSize},
-                     {QStringLiteral("affected"), inSet},
-                     {QStringLiteral("applied"), applied}});
-    }
-    return list;
-}
-
-QStringList BusFace::effects() const {
-    return busValue(effectiveValue(defaults_, *settingNamed(NDGroupEffect::kName))).toStringList();
-}
-
-double BusFace::dimLevel() const {
-    return shortestReal(NDDimEffect::level());
-}
-
-double BusFace::colorFilterHue() const {
-    return shortestReal(NDColorFilterEffect::hue());
-}
-
-double BusFace::colorFilterVividness() const {
-    return shortestReal(NDColorFilterEffect::vividness());
-}
-
-QList<qlonglong> BusFace::affectedScreens() const {
-    QList<qlonglong> numbers;
-    for (const double number : affectedScreenSet(defaults_)) {
-        numbers.append(static_cast<qlonglong>(number));
-    }
-    return numbers;
-}
-
-QVariantMap BusFace::hotKey() const {
-    const auto saved = NDSavedHotKey(defaults_);
-    if (saved == nullptr) {
-        return {};
-    }
-    const std::uint16_t keyCode = saved->keyCode();
-    const std::uint64_t flags = saved->modifierFlags();
-    const QString text = QString::fromStdString(HXStringFromKeyCode(keyCode, flags, layout_));
-    const bool registered =
-        HXHotKeyCenter::sharedHotKeyCenter().hasRegisteredHotKeyWithKeyCode(keyCode, flags);
-    return {{QStringLiteral("text"), text.toUpper()},
-            {QStringLiteral("keyCode"), static_cast<int>(keyCode)},
-            {QStringLiteral("modifierFlags"), static_cast<qlonglong>(flags)},
-            {QStringLiteral("enabled"), defaults_.boolForKey(kUseHotKey)},
-            {QStringLiteral("registered"), registered}};
-}
-
-QVariantMap BusFace::settings() const {
-    QVariantMap map;
-    for (const Setting& setting : settingsTable()) {
-        map.insert(QString::fromStdString(std::string(setting.key)),
-                   busValue(effectiveValue(defaults_, setting)));
-    }
-    return map;
-}
-
-uint BusFace::disturbances() const {
-    return disturbances_.count();
-}
-
-QString BusFace::disturber() const {
-    return QString::fromStdString(disturbances_.disturber());
-}
-
-void BusFace::SetActive(bool active) {
+BusAnswer BusFace::setActive(bool active) {
     controller_.setEffectActive(active, true);
+    return {};
 }
 
-void BusFace::Toggle() {
+BusAnswer BusFace::toggle() {
     controller_.toggleGlobalEffect();
+    return {};
 }
 
-void BusFace::AddEffects(const QStringList& names) {
-    const auto problem =
-        problemWith(*settingNamed(NDGroupEffect::kName), *propertyValue(QVariant(names)));
-    if (problem) {
-        refuse(*problem);
-        return;
+BusAnswer BusFace::addEffects(const std::vector<std::string>& names) {
+    const PropertyArray list(names.begin(), names.end());
+    if (auto problem = problemWith(*settingNamed(NDGroupEffect::kName), list)) {
+        return refusal(*std::move(problem));
     }
-    for (const QString& name : names) {
-        NDGroupEffect::effect().addEffect(name.toStdString());
+    for (const std::string& name : names) {
+        NDGroupEffect::effect().addEffect(name);
     }
+    return {};
 }
 
-void BusFace::RemoveEffects(const QStringList& names) {
-    for (const QString& name : names) {
-        NDGroupEffect::effect().removeEffect(name.toStdString());
+BusAnswer BusFace::removeEffects(const std::vector<std::string>& names) {
+    for (const std::string& name : names) {
+        NDGroupEffect::effect().removeEffect(name);
     }
+    return {};
 }
 
-void BusFace::SetSetting(const QString& key, const QDBusVariant& value) {
-    const Setting* setting = knownSetting(key);
+BusAnswer BusFace::setSetting(const std::string& key,
+                                    const std::optional<PropertyValue>& value) {
+    const Setting* setting = settingNamed(key);
     if (setting == nullptr) {
-        return;
+        return noSetting(key);
     }
-    auto stored = propertyValue(value.variant());
-    if (!stored) {
-        refuse(translated("No setting takes a value of this type."));
-        return;
+    if (!value) {
+        return refusal(translated("No setting takes a value of this type."));
     }
-    if (const auto problem = problemWith(*setting, *stored)) {
-        refuse(*problem);
-        return;
+    if (auto problem = problemWith(*setting, *value)) {
+        return refusal(*std::move(problem));
     }
-    defaults_.setObject(*std::move(stored), setting->key);
+    defaults_.setObject(*value, setting->key);
+    return {};
 }
 
-void BusFace::ResetSetting(const QString& key) {
-    if (const Setting* setting = knownSetting(key)) {
-        defaults_.removeObjectForKey(setting->key);
+BusAnswer BusFace::resetSetting(const std::string& key) {
+    const Setting* setting = settingNamed(key);
+    if (setting == nullptr) {
+        return noSetting(key);
     }
+    defaults_.removeObjectForKey(setting->key);
+    return {};
 }
 
-void BusFace::ToggleScreen(uint id) {
-    chooseAffectedScreen(defaults_, static_cast<std::int32_t>(id));
+BusAnswer BusFace::toggleScreen(std::uint32_t display) {
+    chooseAffectedScreen(defaults_, static_cast<std::int32_t>(display));
+    return {};
 }
 
-void BusFace::AffectAllScreens() {
+BusAnswer BusFace::affectAllScreens() {
     chooseAffectedScreen(defaults_, 0);
+    return {};
 }
 
-void BusFace::SetHotKey(const QString& text) {
+BusAnswer BusFace::setHotKey(const std::string& text) {
     HotKeyCombination combination; // both numbers 0: no hot key
-    if (!text.isEmpty()) {
-        const auto result = parseHotKeyText(text.toStdString(), layout_);
+    if (!text.empty()) {
+        const auto result = parseHotKeyText(text, layout_);
         if (!result) {
-            refuse(result.error().text + " " + hotKeyTextSyntax());
-            return;
+            return refusal(result.error().text + " " + hotKeyTextSyntax());
         }
         combination = *result;
     }
     defaults_.setInteger(combination.keyCode, kHotKeyCode);
     defaults_.setInteger(static_cast<std::int64_t>(combination.modifierFlags), kHotKeyModifiers);
+    return {};
 }
 
-void BusFace::OpenFile(const QString& path) {
+BusAnswer BusFace::openFile(const std::string& path) {
     userInterface_.loadPreferences();
-    if (!controller_.openFile(path.toStdString())) {
-        fail(translated("\"%@\" is not an effect document.", {path.toStdString()}));
+    if (!controller_.openFile(path)) {
+        return failure(translated("\"%@\" is not an effect document.", {path}));
     }
+    return {};
 }
 
-void BusFace::SaveFile(const QString& path) {
-    if (!userInterface_.saveEffectFile(path.toStdString())) {
-        fail(translated("Could not save settings at \"%@\".", {path.toStdString()}));
+BusAnswer BusFace::saveFile(const std::string& path) {
+    if (!userInterface_.saveEffectFile(path)) {
+        return failure(translated("Could not save settings at \"%@\".", {path}));
     }
+    return {};
 }
 
-void BusFace::ShowPreferences() {
+BusAnswer BusFace::showPreferences() {
     controller_.openPreferences();
+    return {};
 }
 
-void BusFace::ShowAboutBox() {
+BusAnswer BusFace::showAboutBox() {
     controller_.openAboutBox();
+    return {};
 }
 
-QByteArray BusFace::RenderPreview(uint id) {
-    const QList<QVariantMap> online = displays();
-    if (std::none_of(online.begin(), online.end(), [&](const QVariantMap& display) {
-            return display.value(QStringLiteral("id")).toUInt() == id;
-        })) {
-        refuse(translated("There is no display with the identifier %d.", {std::to_string(id)}));
-        return {};
+int BusFace::renderPreview(sd_bus_message* call, void* self, sd_bus_error* error) {
+    std::uint32_t display = 0;
+    if (!readArgument(call, display) || !isOnline(display)) {
+        const std::string sentence =
+            translated("There is no display with the identifier %d.", {std::to_string(display)});
+        return sd_bus_error_set(error, kInvalidArgumentError, sentence.c_str());
     }
-    const std::vector<std::uint8_t> picture = userInterface_.previewPicture(id);
-    return {reinterpret_cast<const char*>(picture.data()), static_cast<qsizetype>(picture.size())};
+    const auto picture = static_cast<BusFace*>(self)->userInterface_.previewPicture(display);
+    sd_bus_message* message = nullptr;
+    sd_bus_message_new_method_return(call, &message);
+    const BusMessage reply(message);
+    sd_bus_message_append_array(reply.get(), 'y', picture.data(), picture.size());
+    return sd_bus_message_send(reply.get());
 }
 
-void BusFace::Reopen() {
+BusAnswer BusFace::reopen() {
     controller_.applicationShouldHandleReopen(false);
+    return {};
 }
 
-void BusFace::Quit() {
-    // Returns first, so that the caller has its answer.
-    QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
-}
-
-QVariantMap BusFace::snapshot() const {
-    QVariantMap properties;
-    const QMetaObject* meta = metaObject();
-    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
-        properties.insert(QString::fromLatin1(meta->property(i).name()),
-                          meta->property(i).read(this));
-    }
-    return properties;
+BusAnswer BusFace::quit() {
+    loop_.callSoon([this] { loop_.quit(); }); // so that the caller has its answer first
+    return {};
 }
 
 void BusFace::announceSoon() {
-    if (bus_ && !std::exchange(announcing_, true)) {
-        QMetaObject::invokeMethod(
-            this, [this] { announce(); }, Qt::QueuedConnection);
+    if (bus_ != nullptr && !std::exchange(announcing_, true)) {
+        loop_.callSoon([this] { announce(); });
     }
 }
 
 void BusFace::announce() {
     announcing_ = false;
-    QVariantMap current = snapshot();
-    QVariantMap changed;
-    for (auto property = current.cbegin(); property != current.cend(); ++property) {
-        if (announced_.value(property.key()) != property.value()) {
-            changed.insert(property.key(), property.value());
+    BusDictionary current = state_.allProperties();
+    BusDictionary changed;
+    for (const auto& [name, value] : current) {
+        if (announced_[name] != value) {
+            changed.emplace(name, value);
         }
     }
-    if (changed.isEmpty()) {
+    if (changed.empty()) {
         return;
     }
     announced_ = std::move(current);
-    QDBusMessage signal = QDBusMessage::createSignal(
-        QLatin1String(kObjectPath), QStringLiteral("org.freedesktop.DBus.Properties"),
-        QStringLiteral("PropertiesChanged"));
-    signal << QLatin1String(kNocturoInterface) << changed << QStringList();
-    bus_->send(signal);
+    sd_bus_message* message = nullptr;
+    sd_bus_message_new_signal(bus_->handle(), &message, kObjectPath,
+                              "org.freedesktop.DBus.Properties", "PropertiesChanged");
+    const BusMessage signal(message);
+    sd_bus_message_append(message, "s", kNocturoInterface);
+    appendDictionary(message, changed);
+    sd_bus_message_append(message, "as", 0);
+    sd_bus_message_send(message);
 }
 
-const Setting* BusFace::knownSetting(const QString& key) {
-    const Setting* setting = settingNamed(key.toStdString());
-    if (setting == nullptr) {
-        refuse(translated("There is no setting \"%@\".", {key.toStdString()}));
-    }
-    return setting;
-}
-
-void BusFace::refuse(const std::string& sentence) {
-    sendErrorReply(QLatin1String(kInvalidArgumentError), QString::fromStdString(sentence));
-}
-
-void BusFace::fail(const std::string& sentence) {
-    sendErrorReply(QLatin1String(kFailedError), QString::fromStdString(sentence));
-}
-
-bool reopenRunningApplication(const QDBusConnection& bus) {
-    const QDBusMessage answer = bus.call(
-        QDBusMessage::createMethodCall(QLatin1String(kBusName), QLatin1String(kObjectPath),
-                                       QLatin1String(kNocturoInterface), QStringLiteral("Reopen")),
-        QDBus::Block, kReopenTimeoutMs);
-    return answer.type() != QDBusMessage::ErrorMessage;
+bool reopenRunningApplication(const Bus& bus) {
+    const BusMessage call = bus.newCall(kBusName, kObjectPath, kNocturoInterface, "Reopen");
+    return bus.callAndWait(call, kReopenTimeoutMs, nullptr) != nullptr;
 }
 
 } // namespace nocturo

@@ -1,90 +1,144 @@
 #include "bus/bus_values.h"
 
-#include <QDBusArgument>
-#include <QStringList>
-
 #include <array>
 #include <charconv>
-#include <limits>
-#include <string>
+#include <string_view>
+#include <type_traits>
 
 namespace nocturo {
 
 namespace {
 
-QVariant busArray(const PropertyArray& array) {
-    if (!array.empty() && array.front().number()) {
-        QList<qlonglong> numbers;
-        for (const PropertyValue& element : array) {
-            numbers.append(static_cast<qlonglong>(element.number().value_or(0.0)));
-        }
-        return QVariant::fromValue(numbers);
+template <typename Value>
+constexpr const char* kSignature = "";
+template <>
+constexpr const char* kSignature<bool> = "b";
+template <>
+constexpr const char* kSignature<std::int32_t> = "i";
+template <>
+constexpr const char* kSignature<std::uint32_t> = "u";
+template <>
+constexpr const char* kSignature<std::int64_t> = "x";
+template <>
+constexpr const char* kSignature<double> = "d";
+template <>
+constexpr const char* kSignature<std::string> = "s";
+template <>
+constexpr const char* kSignature<std::vector<std::string>> = "as";
+template <>
+constexpr const char* kSignature<std::vector<std::int64_t>> = "ax";
+template <>
+constexpr const char* kSignature<BusDictionary> = "a{sv}";
+template <>
+constexpr const char* kSignature<std::vector<BusDictionary>> = "aa{sv}";
+
+void append(sd_bus_message* message, bool value) {
+    sd_bus_message_append(message, "b", static_cast<int>(value));
+}
+
+template <typename Number>
+void append(sd_bus_message* message, Number value) requires std::is_arithmetic_v<Number> {
+    sd_bus_message_append_basic(message, *kSignature<Number>, &value);
+}
+
+void append(sd_bus_message* message, const std::string& value) {
+    sd_bus_message_append(message, "s", value.c_str());
+}
+
+void append(sd_bus_message* message, const BusDictionary& value) {
+    appendDictionary(message, value);
+}
+
+template <typename Element>
+void append(sd_bus_message* message, const std::vector<Element>& values) {
+    sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, kSignature<Element>);
+    for (const Element& value : values) {
+        append(message, value);
     }
-    QStringList strings;
+    sd_bus_message_close_container(message);
+}
+
+template <typename Element>
+bool readList(sd_bus_message* message, PropertyArray& array) {
+    if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, kSignature<Element>) < 0) {
+        return false;
+    }
+    std::conditional_t<std::is_same_v<Element, std::string>, const char*, Element> element{};
+    while (sd_bus_message_read_basic(message, *kSignature<Element>, &element) > 0) {
+        if (array.size() == kLongestList) {
+            return false;
+        }
+        array.emplace_back(Element(element));
+    }
+    return sd_bus_message_exit_container(message) >= 0;
+}
+
+template <typename Value>
+std::optional<PropertyValue> readBasic(sd_bus_message* message) {
+    Value value{};
+    if (sd_bus_message_read_basic(message, *kSignature<Value>, &value) <= 0) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::optional<PropertyValue> readSetting(sd_bus_message* message, std::string_view type) {
+    PropertyArray array;
+    if (bool boolean = false; type == "b") {
+        return readArgument(message, boolean) ? std::optional<PropertyValue>(boolean)
+                                              : std::nullopt;
+    }
+    if (type == "x") {
+        return readBasic<std::int64_t>(message);
+    }
+    if (type == "d") {
+        return readBasic<double>(message);
+    }
+    if ((type == "as" && readList<std::string>(message, array)) ||
+        (type == "ax" && readList<std::int64_t>(message, array))) {
+        return array;
+    }
+    return std::nullopt;
+}
+
+BusValue arrayValue(const PropertyArray& array) {
+    if (!array.empty() && array.front().number()) {
+        std::vector<std::int64_t> numbers;
+        for (const PropertyValue& element : array) {
+            numbers.push_back(static_cast<std::int64_t>(element.number().value_or(0.0)));
+        }
+        return numbers;
+    }
+    std::vector<std::string> strings;
     for (const PropertyValue& element : array) {
         if (const auto* text = element.as<std::string>()) {
-            strings.append(QString::fromStdString(*text));
+            strings.push_back(*text);
         }
     }
     return strings;
 }
 
-PropertyArray propertyArray(const QStringList& strings) {
-    PropertyArray array;
-    for (const QString& string : strings) {
-        array.emplace_back(string.toStdString());
-    }
-    return array;
-}
-
-// Arrays other than `as` arrive unread.
-std::optional<PropertyValue> propertyArray(const QDBusArgument& argument) {
-    if (argument.currentSignature() != QLatin1String("ax")) {
-        return std::nullopt;
-    }
-    PropertyArray array;
-    for (const qlonglong number : qdbus_cast<QList<qlonglong>>(argument)) {
-        array.emplace_back(static_cast<std::int64_t>(number));
-    }
-    return array;
-}
-
 } // namespace
 
-QVariant busValue(const PropertyValue& value) {
+bool BusValue::operator==(const BusValue& other) const {
+    return static_cast<const variant&>(*this) == static_cast<const variant&>(other);
+}
+
+BusValue busValue(const PropertyValue& value) {
     if (const auto* boolean = value.as<bool>()) {
         return *boolean;
     }
     if (const auto* integer = value.as<std::int64_t>()) {
-        return static_cast<qlonglong>(*integer);
+        return *integer;
     }
     if (const auto* real = value.as<double>()) {
         return shortestReal(static_cast<float>(*real));
     }
     if (const auto* text = value.as<std::string>()) {
-        return QString::fromStdString(*text);
+        return *text;
     }
     const auto* array = value.as<PropertyArray>();
-    return array != nullptr ? busArray(*array) : QVariant(QStringList());
-}
-
-std::optional<PropertyValue> propertyValue(const QVariant& value) {
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-        return value.toBool();
-    case QMetaType::LongLong:
-        return static_cast<std::int64_t>(value.toLongLong());
-    case QMetaType::Double:
-        return value.toDouble();
-    case QMetaType::QStringList:
-        return propertyArray(value.toStringList());
-    default:
-        break;
-    }
-    if (value.typeId() == qMetaTypeId<QDBusArgument>()) {
-        return propertyArray(value.value<QDBusArgument>());
-    }
-    return std::nullopt;
+    return array != nullptr ? arrayValue(*array) : std::vector<std::string>();
 }
 
 double shortestReal(float value) {
@@ -93,6 +147,66 @@ double shortestReal(float value) {
     double real = 0.0;
     std::from_chars(text.data(), written.ptr, real);
     return real;
+}
+
+void appendValue(sd_bus_message* message, const BusValue& value) {
+    std::visit([message](const auto& each) { append(message, each); }, value);
+}
+
+void appendVariant(sd_bus_message* message, const BusValue& value) {
+    const char* signature = std::visit(
+        [](const auto& each) { return kSignature<std::decay_t<decltype(each)>>; }, value);
+    sd_bus_message_open_container(message, SD_BUS_TYPE_VARIANT, signature);
+    appendValue(message, value);
+    sd_bus_message_close_container(message);
+}
+
+void appendDictionary(sd_bus_message* message, const BusDictionary& dictionary) {
+    sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "{sv}");
+    for (const auto& [key, value] : dictionary) {
+        sd_bus_message_open_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv");
+        append(message, key);
+        appendVariant(message, value);
+        sd_bus_message_close_container(message);
+    }
+    sd_bus_message_close_container(message);
+}
+
+bool readArgument(sd_bus_message* call, bool& value) {
+    int number = 0;
+    const bool read = sd_bus_message_read(call, "b", &number) > 0;
+    value = number != 0;
+    return read;
+}
+
+bool readArgument(sd_bus_message* call, std::uint32_t& value) {
+    return sd_bus_message_read(call, "u", &value) > 0;
+}
+
+bool readArgument(sd_bus_message* call, std::string& value) {
+    const char* text = "";
+    const bool read = sd_bus_message_read(call, "s", &text) > 0;
+    value = text;
+    return read;
+}
+
+bool readArgument(sd_bus_message* call, std::vector<std::string>& value) {
+    PropertyArray array;
+    const bool read = readList<std::string>(call, array);
+    for (const PropertyValue& element : array) {
+        value.push_back(*element.as<std::string>());
+    }
+    return read;
+}
+
+bool readArgument(sd_bus_message* call, std::optional<PropertyValue>& value) {
+    const char* type = nullptr;
+    if (sd_bus_message_peek_type(call, nullptr, &type) <= 0 ||
+        sd_bus_message_enter_container(call, SD_BUS_TYPE_VARIANT, type) <= 0) {
+        return false;
+    }
+    value = readSetting(call, type);
+    return !value || sd_bus_message_exit_container(call) >= 0;
 }
 
 } // namespace nocturo

@@ -1,83 +1,111 @@
 #include "bus/launcher_face.h"
 
 #include "app/app_controller.h"
+#include "base/event_loop.h"
 #include "base/texts/translated.h"
-#include "bus/bus_names.h"
-#include "desktop/qt/bus_call.h"
 
-#include <QCoreApplication>
-#include <QUrl>
-
-#include <string>
-#include <utility>
-#include <vector>
+#include <array>
+#include <glib.h>
 
 namespace nocturo {
 
 namespace {
 
-const QString kApplicationInterface = QStringLiteral("org.freedesktop.Application");
+constexpr const char* kApplicationInterface = "org.freedesktop.Application";
 
 // The one that runs may be asking its user something before it comes to open anything.
 constexpr int kOpenTimeoutMs = 5000;
 
-QString pathOf(const QString& uri) {
-    const QUrl url(uri);
-    return url.isLocalFile() ? url.toLocalFile() : uri;
+using GlibText = std::unique_ptr<char, decltype(&g_free)>;
+
+std::string pathOf(const std::string& uri) {
+    const GlibText path(g_filename_from_uri(uri.c_str(), nullptr, nullptr), g_free);
+    return path != nullptr ? path.get() : uri;
+}
+
+std::string uriOf(const std::string& path) {
+    const GlibText uri(g_filename_to_uri(path.c_str(), nullptr, nullptr), g_free);
+    return uri != nullptr ? uri.get() : path;
 }
 
 } // namespace
 
-LauncherFace::LauncherFace(QObject* object, QDBusConnection bus, NDAppController& controller)
-    : QDBusAbstractAdaptor(object), bus_(std::move(bus)), controller_(controller) {}
+struct LauncherFace::Table {
+    // Everybody on the session bus is its user.
+    static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
 
-void LauncherFace::launchDidFinish() {
-    // The bus keeps the order: what it sent before its answer to this is here before the answer.
-    callLater(bus_,
-              QDBusMessage::createMethodCall(
-                  QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-                  QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")),
-              this, [this](const QDBusMessage& /*answer*/) { launched_ = true; });
+    static const std::array<sd_bus_vtable, 5> members;
+};
+
+const std::array<sd_bus_vtable, 5> LauncherFace::Table::members = {{
+    SD_BUS_VTABLE_START(0),
+    SD_BUS_METHOD_WITH_ARGS("Activate", SD_BUS_ARGS("a{sv}", platformData), SD_BUS_NO_RESULT,
+                            kServe<&LauncherFace::activate>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("Open", SD_BUS_ARGS("as", uris, "a{sv}", platformData),
+                            SD_BUS_NO_RESULT, kServe<&LauncherFace::open>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ActivateAction",
+                            SD_BUS_ARGS("s", name, "av", parameter, "a{sv}", platformData),
+                            SD_BUS_NO_RESULT, kServe<&LauncherFace::activateAction>, kFree),
+    SD_BUS_VTABLE_END,
+}};
+
+LauncherFace::LauncherFace(NDAppController& controller, const Bus* bus, EventLoop& loop)
+    : controller_(controller), bus_(bus), loop_(loop) {
+    if (bus_ != nullptr) {
+        sd_bus_slot* slot = nullptr;
+        sd_bus_add_object_vtable(bus_->handle(), &slot, kObjectPath, kApplicationInterface,
+                                 Table::members.data(), this);
+        object_.reset(slot);
+    }
 }
 
-void LauncherFace::Activate(const QVariantMap& /*platformData*/) {
+void LauncherFace::launchDidFinish() {
+    if (bus_ == nullptr) {
+        return;
+    }
+    // The bus keeps the order: what it sent before its answer to this is here before the answer.
+    const char* service = "org.freedesktop.DBus";
+    endOfLaunch_ = bus_->call(bus_->newCall(service, "/org/freedesktop/DBus", service, "GetId"),
+                              [this](sd_bus_message* /*answer*/) { launched_ = true; });
+}
+
+BusAnswer LauncherFace::activate() {
     if (launched_) {
         controller_.applicationShouldHandleReopen(false);
     }
+    return {};
 }
 
-void LauncherFace::Open(const QStringList& uris, const QVariantMap& /*platformData*/,
-                        const QDBusMessage& message) {
-    QStringList paths;
-    for (const QString& uri : uris) {
-        paths.append(pathOf(uri));
+BusAnswer LauncherFace::open(const std::vector<std::string>& uris) {
+    std::vector<std::string> paths;
+    for (const std::string& uri : uris) {
+        paths.push_back(pathOf(uri));
     }
-    const std::string refused = openDocuments(controller_, paths);
+    std::string refused = openDocuments(controller_, paths);
     if (!refused.empty()) {
-        message.setDelayedReply(true);
-        bus_.send(
-            message.createErrorReply(QLatin1String(kFailedError), QString::fromStdString(refused)));
+        return failure(std::move(refused));
     }
+    return {};
 }
 
-void LauncherFace::ActivateAction(const QString& name, const QVariantList& /*parameter*/,
-                                  const QVariantMap& /*platformData*/) {
-    if (name == QLatin1String("toggle") && launched_) {
+BusAnswer LauncherFace::activateAction(const std::string& name) {
+    if (name == "toggle" && launched_) {
         controller_.toggleGlobalEffect();
-    } else if (name == QLatin1String("preferences")) {
+    } else if (name == "preferences") {
         controller_.openPreferences();
-    } else if (name == QLatin1String("about")) {
+    } else if (name == "about") {
         controller_.openAboutBox();
-    } else if (name == QLatin1String("quit")) {
-        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
+    } else if (name == "quit") {
+        loop_.callSoon([this] { loop_.quit(); }); // so that the caller has its answer first
     }
+    return {};
 }
 
-std::string openDocuments(NDAppController& controller, const QStringList& paths) {
+std::string openDocuments(NDAppController& controller, const std::vector<std::string>& paths) {
     std::vector<std::string> refused;
-    for (const QString& path : paths) {
-        if (!controller.openFile(path.toStdString())) {
-            refused.push_back(path.toStdString());
+    for (const std::string& path : paths) {
+        if (!controller.openFile(path)) {
+            refused.push_back(path);
         }
     }
     if (refused.empty()) {
@@ -95,24 +123,25 @@ std::string openDocuments(NDAppController& controller, const QStringList& paths)
     return translated("These are not effect documents: %@", {names});
 }
 
-std::optional<std::string> openInRunningApplication(const QDBusConnection& bus,
-                                                    const QStringList& paths) {
-    QStringList uris;
-    for (const QString& path : paths) {
-        uris.append(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
+std::optional<std::string> openInRunningApplication(const Bus& bus,
+                                                    const std::vector<std::string>& paths) {
+    std::vector<std::string> uris;
+    for (const std::string& path : paths) {
+        uris.push_back(uriOf(path));
     }
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(QLatin1String(kBusName), QLatin1String(kObjectPath),
-                                       kApplicationInterface, QStringLiteral("Open"));
-    call << uris << QVariantMap();
-    const QDBusMessage answer = bus.call(call, QDBus::Block, kOpenTimeoutMs);
-    if (answer.type() != QDBusMessage::ErrorMessage) {
-        return std::string();
+    const BusMessage call = bus.newCall(kBusName, kObjectPath, kApplicationInterface, "Open");
+    appendValue(call.get(), uris);
+    appendDictionary(call.get(), {});
+    sd_bus_error error = SD_BUS_ERROR_NULL;
+    const BusMessage answer = bus.callAndWait(call, kOpenTimeoutMs, &error);
+    std::optional<std::string> refusal;
+    if (answer != nullptr) {
+        refusal.emplace();
+    } else if (sd_bus_error_has_name(&error, kFailedError) != 0) {
+        refusal = error.message;
     }
-    if (answer.errorName() == QLatin1String(kFailedError)) {
-        return answer.errorMessage().toStdString();
-    }
-    return std::nullopt;
+    sd_bus_error_free(&error);
+    return refusal;
 }
 
 } // namespace nocturo

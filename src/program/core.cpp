@@ -21,7 +21,7 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
       windows(controller, defaults, centers),
-      face(controller, defaults, centers.local, disturbances, windows) {
+      face(controller, defaults, centers.local, disturbances, windows, sessionBus.get(), loop) {
     runLoop.handleSignals(signalNumbers(), [this](int number) { signalWasSent(number); });
 }
 

@@ -12,6 +12,7 @@ namespace nocturo {
 DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays)
     : core_(core), displays_(displays),
       recentDocuments_(stateDirectory() / "recent-documents.plist"),
+      launcherMenu_(core.sessionBus.get(), "/org/nocturo/Nocturo/LauncherMenu"),
       menus_(core.controller, core.defaults, core.centers.local, core.windows, recentDocuments_,
              {connectToSessionBus(), xDisplayName()}),
       applications_(DesktopEntries::dataDirectories()),
@@ -23,7 +24,7 @@ DesktopSession::~DesktopSession() {
     core_.windows.setKeyboardLayout(nullptr);
 }
 
-void DesktopSession::launch(const QStringList& documents,
+void DesktopSession::launch(const std::vector<std::string>& documents,
                             const std::function<void(const std::string&)>& refused) {
     core_.face.announceChanges();
     const auto goOn = [this, documents, refused](bool launched) {

@@ -3,15 +3,15 @@
 #include "desktop/menus/desktop_menus.h"
 #include "documents/recent_documents.h"
 #include "program/desktop_hot_keys.h"
+#include "program/forwarded_object.h"
 #include "program/window_restoration.h"
 #include "session/desktop_entries.h"
 #include "session/desktop_sources.h"
 
-#include <QStringList>
-
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace nocturo {
 
@@ -27,10 +27,10 @@ class DesktopSession {
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;
 
-    /// The launch, which may ask the user and goes on when it is answered: to be called in the
-    /// event loop. Ends the loop when the user would rather quit. `refused` is given a sentence
-    /// where some of the documents, absolute paths, could not be opened.
-    void launch(const QStringList& documents,
+    /// The launch, which may ask the user and goes on, from the event loop, when it is answered.
+    /// Ends the loop when the user would rather quit. `refused` is given a sentence where some of
+    /// the documents, absolute paths, could not be opened.
+    void launch(const std::vector<std::string>& documents,
                 const std::function<void(const std::string&)>& refused);
 
     /// The application ends: keeps which windows are open.
@@ -42,6 +42,7 @@ class DesktopSession {
     Core& core_;
     const ConnectedDisplays& displays_;
     const RecentDocuments recentDocuments_;
+    const ForwardedObject launcherMenu_;
     DesktopMenus menus_;
     const DesktopEntries applications_;
     WindowRestoration windowRestoration_;

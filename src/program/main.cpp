@@ -59,12 +59,12 @@ int runEventLoop(EventLoop& loop) {
 }
 
 /// What is left to do where another Nocturo has the session.
-int endAfterHandingOver(const SessionClaim& claim, const QStringList& documents) {
+int endAfterHandingOver(const SessionClaim& claim, const std::vector<std::string>& documents) {
     if (!claim.problem().empty()) {
         tell(stderr, claim.problem());
         return kFailure;
     }
-    if (documents.isEmpty()) {
+    if (documents.empty()) {
         tell(stdout, translated("Nocturo is already running."));
     }
     return kSuccess;
@@ -79,8 +79,8 @@ int run(const RunOptions& options, EventLoop& loop) {
         return kFailure;
     }
     Core core(*DefaultsStore::standardUserDefaults(), loop);
-    const QStringList documents = absolutePaths(options.documents);
-    const SessionClaim claim(core.face, *directory, documents);
+    const std::vector<std::string> documents = absolutePaths(options.documents);
+    const SessionClaim claim(core.sessionBus.get(), *directory, documents);
     if (!claim.isGranted()) {
         return endAfterHandingOver(claim, documents);
     }
@@ -100,9 +100,7 @@ int run(const RunOptions& options, EventLoop& loop) {
     const ConnectedDisplays displays(std::move(*opened), core.centers, loop, kFailure);
 
     DesktopSession desktop(core, displays);
-    callFirst([&] {
-        desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
-    });
+    desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
     const int result = runEventLoop(loop);
     if (result == kSuccess) {
         desktop.end();

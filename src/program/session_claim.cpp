@@ -1,29 +1,37 @@
 #include "program/session_claim.h"
 
+#include "base/bus.h"
 #include "base/log.h"
 #include "base/texts/translated.h"
 #include "bus/bus_face.h"
+#include "bus/bus_names.h"
 #include "bus/launcher_face.h"
-#include "desktop/qt/session_bus.h"
 
 namespace nocturo {
 
-SessionClaim::SessionClaim(BusFace& face, const std::filesystem::path& runtimeDirectory,
-                           const QStringList& documents)
-    : bus_(connectToSessionBus()) {
-    if (!bus_) {
+namespace {
+
+constexpr int kPatienceWithBusMs = 500;
+
+} // namespace
+
+SessionClaim::SessionClaim(const Bus* bus, const std::filesystem::path& runtimeDirectory,
+                           const std::vector<std::string>& documents)
+    : bus_(bus) {
+    auto claim =
+        bus_ != nullptr ? bus_->claimName(kBusName, kPatienceWithBusMs) : Bus::Claim::busIsSilent;
+    if (claim == Bus::Claim::taken && !passOnOverBus(documents)) {
+        claim = bus_->claimName(kBusName, kPatienceWithBusMs); // one just killed may be gone by now
+    }
+    granted_ = claim == Bus::Claim::granted;
+    if (claim == Bus::Claim::busIsSilent) {
         logInfo(kLogBus, "There is no session bus, so nocturoctl cannot reach Nocturo.");
         askForLock(runtimeDirectory, documents);
-        return;
-    }
-    granted_ = face.takeName(*bus_);
-    if (!granted_ && !passOnOverBus(documents)) {
-        granted_ = face.takeName(*bus_); // one that was just killed may be gone by now
     }
 }
 
-bool SessionClaim::passOnOverBus(const QStringList& documents) {
-    if (documents.isEmpty()) {
+bool SessionClaim::passOnOverBus(const std::vector<std::string>& documents) {
+    if (documents.empty()) {
         return reopenRunningApplication(*bus_);
     }
     const auto refusal = openInRunningApplication(*bus_, documents);
@@ -32,13 +40,13 @@ bool SessionClaim::passOnOverBus(const QStringList& documents) {
 }
 
 void SessionClaim::askForLock(const std::filesystem::path& runtimeDirectory,
-                              const QStringList& documents) {
+                              const std::vector<std::string>& documents) {
     lock_.emplace(runtimeDirectory);
     granted_ = lock_->isHeld();
     if (granted_) {
         return;
     }
-    if (documents.isEmpty()) {
+    if (documents.empty()) {
         lock_->askHolderToReopen();
     } else {
         problem_ =

@@ -2,25 +2,24 @@
 
 #include "program/instance_lock.h"
 
-#include <QDBusConnection>
-#include <QStringList>
-
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace nocturo {
 
-class BusFace;
+class Bus;
 
 /// Claims to be the one Nocturo of the session: its name on the session bus, or a lock where there
-/// is no bus. Given up when destroyed.
+/// is no bus. The name is held until the bus is closed, the lock until this is destroyed.
 class SessionClaim {
   public:
+    /// `bus` is the session bus, or null; one that does not answer counts as none.
     /// Where there is another Nocturo it opens the documents at these absolute paths, or is
     /// re-opened when there are none.
-    SessionClaim(BusFace& face, const std::filesystem::path& runtimeDirectory,
-                 const QStringList& documents);
+    SessionClaim(const Bus* bus, const std::filesystem::path& runtimeDirectory,
+                 const std::vector<std::string>& documents);
 
     /// False when there is another Nocturo.
     bool isGranted() const { return granted_; }
@@ -29,10 +28,11 @@ class SessionClaim {
     const std::string& problem() const { return problem_; }
 
   private:
-    bool passOnOverBus(const QStringList& documents);
-    void askForLock(const std::filesystem::path& runtimeDirectory, const QStringList& documents);
+    bool passOnOverBus(const std::vector<std::string>& documents);
+    void askForLock(const std::filesystem::path& runtimeDirectory,
+                    const std::vector<std::string>& documents);
 
-    std::optional<QDBusConnection> bus_;
+    const Bus* bus_;
     std::optional<InstanceLock> lock_;
     bool granted_ = false;
     std::string problem_;

@@ -2,58 +2,64 @@
 
 #include "x11/xcb_handles.h"
 
-#include <QFileInfo>
-#include <QStandardPaths>
+#include <cstdlib>
+#include <system_error>
 
 namespace nocturo {
 
 namespace {
 
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+/// The directory that the variable names, if it does so by an absolute path, or else one in the
+/// user's home.
+std::filesystem::path userDirectory(const char* variable, const char* inHome) {
+    const std::filesystem::path named = environment(variable);
+    return named.is_absolute() ? named : std::filesystem::path(environment("HOME")) / inHome;
+}
+
 /// Whether Qt, which ends the process where it finds no desktop, has one to show windows on.
 bool hasDesktop() {
-    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+    if (!environment("WAYLAND_DISPLAY").empty()) {
         return true;
     }
-    return !qEnvironmentVariableIsEmpty("DISPLAY") &&
+    return !xDisplayName().empty() &&
            xcb_connection_has_error(XcbConnection(xcb_connect(nullptr, nullptr)).get()) == 0;
 }
 
 } // namespace
 
 void choosePlatform() {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !hasDesktop()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (environment("QT_QPA_PLATFORM").empty() && !hasDesktop()) {
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
     }
 }
 
 std::string xDisplayName() {
-    return qEnvironmentVariable("DISPLAY").toStdString();
+    return environment("DISPLAY");
 }
 
 std::string loginSession() {
-    return qEnvironmentVariable("XDG_SESSION_ID").toStdString();
+    return environment("XDG_SESSION_ID");
 }
 
 std::filesystem::path settingsPath() {
-    return std::filesystem::path(
-               QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-                   .toStdString()) /
-           "nocturo" / "settings.plist";
+    return userDirectory("XDG_CONFIG_HOME", ".config") / "nocturo" / "settings.plist";
 }
 
 std::filesystem::path stateDirectory() {
-    std::filesystem::path directory = qEnvironmentVariable("XDG_STATE_HOME").toStdString();
-    if (!directory.is_absolute()) {
-        directory =
-            std::filesystem::path(qEnvironmentVariable("HOME").toStdString()) / ".local" / "state";
-    }
-    return directory / "nocturo";
+    return userDirectory("XDG_STATE_HOME", ".local/state") / "nocturo";
 }
 
-QStringList absolutePaths(const std::vector<std::string>& paths) {
-    QStringList absolute;
+std::vector<std::string> absolutePaths(const std::vector<std::string>& paths) {
+    std::vector<std::string> absolute;
     for (const std::string& path : paths) {
-        absolute.append(QFileInfo(QString::fromStdString(path)).absoluteFilePath());
+        std::error_code error;
+        const auto full = std::filesystem::absolute(path, error);
+        absolute.push_back(error ? path : full.lexically_normal().string());
     }
     return absolute;
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QStringList>
-
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -25,6 +23,6 @@ std::filesystem::path settingsPath();
 /// Where what is no setting outlives a run. Need not exist.
 std::filesystem::path stateDirectory();
 
-QStringList absolutePaths(const std::vector<std::string>& paths);
+std::vector<std::string> absolutePaths(const std::vector<std::string>& paths);
 
 } // namespace nocturo

@@ -7,31 +7,7 @@
 #include <QEvent>
 #include <QSocketNotifier>
 
-#include <utility>
-
 namespace nocturo {
-
-namespace {
-
-class FirstCall : public QObject {
-  public:
-    explicit FirstCall(std::function<void()> function) : function_(std::move(function)) {}
-
-  protected:
-    bool event(QEvent* event) override {
-        if (event->type() != QEvent::User) {
-            return QObject::event(event);
-        }
-        function_();
-        deleteLater();
-        return true;
-    }
-
-  private:
-    std::function<void()> function_;
-};
-
-} // namespace
 
 QtLoop::QtLoop(EventLoop& loop) : loop_(loop) {
     auto* notifier = new QSocketNotifier(loop.descriptor(), QSocketNotifier::Read, this);
@@ -60,11 +36,6 @@ bool QtLoop::eventFilter(QObject* watched, QEvent* event) {
     // Qt would close the windows first, and go on running if one of them has a question.
     QCoreApplication::exit(0);
     return true;
-}
-
-void callFirst(std::function<void()> function) {
-    QCoreApplication::postEvent(new FirstCall(std::move(function)), new QEvent(QEvent::User),
-                                Qt::HighEventPriority);
 }
 
 } // namespace nocturo

@@ -2,8 +2,6 @@
 
 #include <QObject>
 
-#include <functional>
-
 namespace nocturo {
 
 class EventLoop;
@@ -23,8 +21,5 @@ class QtLoop : public QObject {
   private:
     EventLoop& loop_;
 };
-
-/// Calls the function from Qt's loop, before anything else that has arrived for it.
-void callFirst(std::function<void()> function);
 
 } // namespace nocturo

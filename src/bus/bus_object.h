@@ -1,0 +1,59 @@
+#pragma once
+
+#include "base/result.h"
+#include "bus/bus_names.h"
+#include "bus/bus_values.h"
+
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+namespace nocturo {
+
+/// Why a call was not carried out; its sentence goes to the caller.
+struct BusFailure {
+    const char* errorName = kFailedError;
+    std::string sentence;
+};
+
+/// What carrying out a call comes to.
+using BusAnswer = Result<void, BusFailure>;
+
+inline tl::unexpected<BusFailure> failure(std::string sentence) {
+    return tl::unexpected(BusFailure{kFailedError, std::move(sentence)});
+}
+
+namespace detail {
+
+template <auto Method>
+struct Served;
+
+template <typename Object, typename... Arguments,
+          BusAnswer (Object::*Method)(Arguments...)>
+struct Served<Method> {
+    static int call(sd_bus_message* call, void* object, sd_bus_error* error) {
+        std::tuple<std::decay_t<Arguments>...> arguments;
+        if (!readArguments(call, arguments)) {
+            return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
+        }
+        const BusAnswer answer = std::apply(
+            [object](auto&... each) { return (static_cast<Object*>(object)->*Method)(each...); },
+            arguments);
+        if (!answer) {
+            return sd_bus_error_set(error, answer.error().errorName,
+                                    answer.error().sentence.c_str());
+        }
+        return sd_bus_reply_method_return(call, nullptr);
+    }
+};
+
+} // namespace detail
+
+/// A handler for sd-bus that calls `Method` of the object with the call's arguments and answers
+/// with nothing, or with what the method says went wrong. Arguments that the method does not take
+/// are left alone.
+template <auto Method>
+inline constexpr sd_bus_message_handler_t kServe = detail::Served<Method>::call;
+
+} // namespace nocturo

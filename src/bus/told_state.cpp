@@ -1,0 +1,155 @@
+#include "bus/told_state.h"
+
+#include "app/app_controller.h"
+#include "app/disturbance_watch.h"
+#include "displays/affected_screen_set.h"
+#include "displays/display_functions.h"
+#include "effects/color_filter_effect.h"
+#include "effects/dim_effect.h"
+#include "hotkeys/hot_key_center.h"
+#include "hotkeys/key_naming.h"
+#include "hotkeys/saved_hot_key.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_table.h"
+
+#include <algorithm>
+#include <glib.h>
+#include <memory>
+
+namespace nocturo {
+
+namespace {
+
+std::string inCapitals(const std::string& text) {
+    const std::unique_ptr<char, decltype(&g_free)> capitals(g_utf8_strup(text.c_str(), -1), g_free);
+    return capitals.get();
+}
+
+} // namespace
+
+const std::map<std::string_view, ToldState::Read>& ToldState::properties() {
+    static const std::map<std::string_view, Read> table = {
+        {"Active", &ToldState::active},
+        {"DisplayServices", &ToldState::displayServicesName},
+        {"Displays", &ToldState::displays},
+        {"Effects", &ToldState::effects},
+        {"DimLevel", &ToldState::dimLevel},
+        {"ColorFilterHue", &ToldState::colorFilterHue},
+        {"ColorFilterVividness", &ToldState::colorFilterVividness},
+        {"AffectedScreenSet", &ToldState::affectedScreens},
+        {"HotKey", &ToldState::hotKey},
+        {"Settings", &ToldState::settings},
+        {"Disturbances", &ToldState::disturbances},
+        {"Disturber", &ToldState::disturber}};
+    return table;
+}
+
+BusValue ToldState::property(std::string_view name) const {
+    return (this->*properties().at(name))();
+}
+
+BusDictionary ToldState::allProperties() const {
+    BusDictionary all;
+    for (const auto& [name, read] : properties()) {
+        all.emplace(name, (this->*read)());
+    }
+    return all;
+}
+
+BusValue ToldState::active() const {
+    return controller_.effectActive();
+}
+
+BusValue ToldState::displayServicesName() const {
+    const DisplayServices* services = displayServices();
+    return services != nullptr ? std::string(services->name()) : std::string();
+}
+
+BusValue ToldState::displays() const {
+    std::vector<BusDictionary> list;
+    DisplayServices* services = displayServices();
+    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
+    if (online == nullptr) {
+        return list;
+    }
+    const std::vector<double> affected = affectedScreenSet(defaults_);
+    const auto& controllers = controller_.screenControllers();
+    const auto driven = std::min<std::size_t>(online->size(), kZQMaxDisplays);
+    for (std::size_t i = 0; i < driven; ++i) {
+        const DisplayInfo& info = (*online)[i];
+        const bool inSet =
+            affected.empty() || std::find(affected.begin(), affected.end(),
+                                          static_cast<double>(info.id)) != affected.end();
+        const bool applied =
+            controllers && std::any_of(controllers->begin(), controllers->end(), [&](auto& each) {
+                return each->screenID() == info.id && each->hasCurve();
+            });
+        list.push_back({{"number", static_cast<std::int32_t>(i) + 1},
+                        {"id", info.id},
+                        {"name", info.name},
+                        {"main", info.main},
+                        {"rampSize", static_cast<std::uint32_t>(info.rampSize)},
+                        {"affected", inSet},
+                        {"applied", applied}});
+    }
+    return list;
+}
+
+BusValue ToldState::effects() const {
+    return busValue(effectiveValue(defaults_, *settingNamed(NDGroupEffect::kName)));
+}
+
+BusValue ToldState::dimLevel() const {
+    return shortestReal(NDDimEffect::level());
+}
+
+BusValue ToldState::colorFilterHue() const {
+    return shortestReal(NDColorFilterEffect::hue());
+}
+
+BusValue ToldState::colorFilterVividness() const {
+    return shortestReal(NDColorFilterEffect::vividness());
+}
+
+BusValue ToldState::affectedScreens() const {
+    std::vector<std::int64_t> numbers;
+    for (const double number : affectedScreenSet(defaults_)) {
+        numbers.push_back(static_cast<std::int64_t>(number));
+    }
+    return numbers;
+}
+
+BusValue ToldState::hotKey() const {
+    const auto saved = NDSavedHotKey(defaults_);
+    if (saved == nullptr) {
+        return BusDictionary();
+    }
+    const std::uint16_t keyCode = saved->keyCode();
+    const std::uint64_t flags = saved->modifierFlags();
+    const bool registered =
+        HXHotKeyCenter::sharedHotKeyCenter().hasRegisteredHotKeyWithKeyCode(keyCode, flags);
+    return BusDictionary{{"text", inCapitals(HXStringFromKeyCode(keyCode, flags, layout_))},
+                         {"keyCode", static_cast<std::int32_t>(keyCode)},
+                         {"modifierFlags", static_cast<std::int64_t>(flags)},
+                         {"enabled", defaults_.boolForKey(kUseHotKey)},
+                         {"registered", registered}};
+}
+
+BusValue ToldState::settings() const {
+    BusDictionary dictionary;
+    for (const Setting& setting : settingsTable()) {
+        dictionary.emplace(setting.key, busValue(effectiveValue(defaults_, setting)));
+    }
+    return dictionary;
+}
+
+BusValue ToldState::disturbances() const {
+    return disturbances_.count();
+}
+
+BusValue ToldState::disturber() const {
+    return disturbances_.disturber();
+}
+
+} // namespace nocturo

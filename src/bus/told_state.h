@@ -1,0 +1,52 @@
+#pragma once
+
+#include "bus/bus_values.h"
+
+#include <string_view>
+
+namespace nocturo {
+
+class DefaultsStore;
+class DisturbanceWatch;
+class KeyboardLayout;
+class NDAppController;
+
+/// What the application tells about itself: the properties of org.nocturo.Nocturo1.xml, read anew
+/// each time.
+class ToldState {
+  public:
+    /// All must outlive the state.
+    ToldState(const NDAppController& controller, const DefaultsStore& defaults,
+              const DisturbanceWatch& disturbances)
+        : controller_(controller), defaults_(defaults), disturbances_(disturbances) {}
+
+    /// Names keys by this layout, which must outlive the state; null for none.
+    void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
+
+    BusValue property(std::string_view name) const;
+    BusDictionary allProperties() const;
+
+  private:
+    using Read = BusValue (ToldState::*)() const;
+    static const std::map<std::string_view, Read>& properties();
+
+    BusValue active() const;
+    BusValue displayServicesName() const;
+    BusValue displays() const;
+    BusValue effects() const;
+    BusValue dimLevel() const;
+    BusValue colorFilterHue() const;
+    BusValue colorFilterVividness() const;
+    BusValue affectedScreens() const;
+    BusValue hotKey() const;
+    BusValue settings() const;
+    BusValue disturbances() const;
+    BusValue disturber() const;
+
+    const NDAppController& controller_;
+    const DefaultsStore& defaults_;
+    const DisturbanceWatch& disturbances_;
+    KeyboardLayout* layout_ = nullptr;
+};
+
+} // namespace nocturo
