@@ -7,12 +7,13 @@ DESTDIR ?=
 ARGS ?=
 WERROR ?= OFF
 FUZZ_SECONDS ?= 60
+RELEASE ?= trixie
 
 release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run tests test soak unit-asan fuzz benchmarks bench lint lint-text format install package package-test dist screenshots clean
+.PHONY: help deps build run tests test soak unit-asan fuzz benchmarks bench lint lint-text format install package package-test readme-test dist screenshots clean
 
 help: ## this list
 	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-13s %s\n", $$1, $$2 }' Makefile
@@ -87,6 +88,9 @@ package: deps-package ## builds a Debian package in build/package
 
 package-test: package ## installs that package into a fresh system, starts it and removes it
 	@tests/packaging/package_test.sh build/package
+
+readme-test: deps-package ## does in a fresh root of Debian RELEASE=trixie what the README says
+	@tests/packaging/readme_test.sh $(RELEASE)
 
 clean: ## removes everything that was built
 	rm -rf build
