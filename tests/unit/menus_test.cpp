@@ -129,8 +129,10 @@ class ScreenOptionMenu : public DisplayServicesFixture {
     }
     QAction* item(qsizetype index) const { return menu.actions().at(index); }
     void click(qsizetype index) {
+        const QPoint place = menu.actionGeometry(item(index)).center();
+        QTest::mouseMove(&menu, place + QPoint(0, 100)); // Qt ignores clicks of a still pointer
         menu.popup({});
-        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(item(index)).center());
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, place);
     }
 
     NotificationCenter center;
