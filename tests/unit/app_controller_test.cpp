@@ -297,6 +297,18 @@ TEST_F(DesktopEvents, TheScreenSaverPausesTheEffectAndTheUserHasTheLastWord) {
     EXPECT_EQ(afterSaver("start") + afterSaver("stop"), "oooooo"); // nothing to resume
 }
 
+TEST_F(DesktopEvents, AModeChangeIsAnsweredAtOnceAndOnceMore) {
+    controller_.applicationDidFinishLaunching();
+    resetRamps();
+    callReconfigurationCallbacks({{id(0)}, false, {}});
+    EXPECT_EQ(shown(), "iii");
+    resetRamps(); // as drivers do late
+    runLoop_.advance(49);
+    EXPECT_EQ(shown(), "ooo");
+    runLoop_.advance(1);
+    EXPECT_EQ(shown(), "iii");
+}
+
 TEST_F(DesktopEvents, ColorProfilesAreFollowedUntilTheFirstSwitchOff) {
     controller_.applicationDidFinishLaunching();
     resetRamps();

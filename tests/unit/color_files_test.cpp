@@ -11,6 +11,7 @@
 #include <numeric>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace nocturo {
 namespace {
@@ -74,6 +75,11 @@ TEST(Journal, AFileIsReplacedAndReadBackUnlessItIsNoPlainFile) {
         ASSERT_FALSE(readJournal(damaged)) << damaged;
         EXPECT_NE(readJournal(damaged).error().errorNumber, ENOENT) << damaged;
     }
+    // Only root can give files away, and only to others is a file of root's another user's.
+    const bool given = ::chown(file.c_str(), 12345, 12345) == 0;
+    const auto theirs = readJournal(given ? file : "/etc/passwd");
+    ASSERT_FALSE(theirs);
+    EXPECT_EQ(theirs.error().text, "it is another user's");
 }
 
 TEST(Journal, OneFileForAllScreensOfAServer) {

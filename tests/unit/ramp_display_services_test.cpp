@@ -3,6 +3,7 @@
 #include "display_services_fixture.h"
 #include "displays/display_gamma.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <numeric>
@@ -103,8 +104,13 @@ TEST_F(Displays, TwoThatShareACrtcDoNotConfuseEachOther) {
     add("A", 1, colors(7));
     hardware_.add("B", 1);
     start();
+    const std::array both = {id("A"), id("B")};
+    EXPECT_EQ(services_->takeBackDisturbedDisplays(both), 0U); // nothing was written yet
     auto a = inverting(id("A"));
     auto b = inverting(id("B")); // must not capture what was written for A
+    EXPECT_EQ(hardware_.ramps[1], reversed(colors(7)));
+    hardware_.ramps[1] = colors(8);
+    EXPECT_EQ(services_->takeBackDisturbedDisplays(both), 1U);
     EXPECT_EQ(hardware_.ramps[1], reversed(colors(7)));
     a->restoreGamma();
     EXPECT_EQ(hardware_.ramps[1], colors(7));
@@ -113,6 +119,24 @@ TEST_F(Displays, TwoThatShareACrtcDoNotConfuseEachOther) {
     EXPECT_EQ(hardware_.ramps[1], reversed(colors(7)));
     services_->restoreSystemColors();
     EXPECT_EQ(hardware_.ramps[1], colors(7));
+}
+
+TEST_F(Displays, OneAloneIsTheMainDisplay) {
+    for (const char* connector : {"A", "B", "C"}) {
+        hardware_.add(connector, 1);
+    }
+    const auto main = [&] {
+        std::string names;
+        for (const DisplayInfo& info : *services_->onlineDisplays()) {
+            names += info.main ? info.name : "";
+        }
+        return names;
+    };
+    start();
+    EXPECT_EQ(main(), "A"); // where the hardware names none
+    hardware_.heads[1].primary = hardware_.heads[2].primary = true;
+    ++hardware_.generation;
+    EXPECT_EQ(main(), "B");
 }
 
 TEST_F(Displays, EachIsGivenBackWhatItHadWhenFirstSeen) {
@@ -172,7 +196,7 @@ TEST(DisplayIdentifiers, FollowAMonitorWithASerialAndStayWithTheConnectorOtherwi
     EXPECT_EQ(idOf({"DP-1", edid(1, 0, "SN7\n")}), idOf({"DP-2", edid(1, 0, "SN7\n")}));
     EXPECT_NE(idOf({"DP-1", edid(1, 42)}), idOf({"DP-1", edid(1, 43)}));
     EXPECT_NE(idOf({"DP-1", edid(1, 42)}), idOf({"DP-1", edid(2, 42)}));
-    for (const std::uint32_t placeholder : {0U, 0x01010101U}) {
+    for (const std::uint32_t placeholder : {0U, 0x01010101U, 0xFFFFFFFFU}) {
         EXPECT_NE(idOf({"DP-1", edid(1, placeholder)}), idOf({"DP-2", edid(1, placeholder)}));
     }
     EXPECT_NE(idOf({"DP-1", {}}), idOf({"DP-2", {}}));

@@ -220,10 +220,25 @@ TEST_F(SettingsKeeperTest, FollowsTheTargetOfALinkAndMakesItsDirectoryAgain) {
     EXPECT_TRUE(store.synchronize());
     EXPECT_TRUE(std::filesystem::is_symlink(path));
     EXPECT_EQ(readPropertyListFile(home / "dotfiles/real").dictionary, (Keys{{"a", false}}));
+    keeper->processFileEvents();
     std::filesystem::remove_all(directory);
     store.setBool(true, "b");
     runLoop.advance(1000);
     EXPECT_EQ(onDisk(), (Keys{{"a", false}, {"b", true}}));
+    editElsewhere({{"a", true}}); // in the new directory
+    keeper->processFileEvents();
+    EXPECT_TRUE(store.boolForKey("a"));
+}
+
+TEST_F(SettingsKeeperTest, AnEditIsNoticedThoughTheKernelHadTooMuchToTell) {
+    start();
+    for (int left = std::stoi(readText("/proc/sys/fs/inotify/max_queued_events")); left >= 0;
+         --left) {
+        std::ofstream(directory / (left % 2 == 0 ? "even" : "odd")); // equal neighbours are one
+    }
+    editElsewhere({{"a", true}});
+    keeper->processFileEvents();
+    EXPECT_TRUE(store.boolForKey("a"));
 }
 
 TEST_F(SettingsKeeperTest, AnEditMadeElsewhereBeforeAWriteIsNotLost) {
