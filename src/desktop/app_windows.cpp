@@ -6,10 +6,11 @@
 #include "desktop/about/about_box_views.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preview/effect_preview.h"
+#include "desktop/qt/bundle_information.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QImage>
 #include <QLabel>
 #include <QMenuBar>
@@ -29,6 +30,7 @@ AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
                        const NotificationCenters& centers)
     : controller_(controller), defaults_(defaults), localCenter_(centers.local),
       distributedCenter_(centers.distributed) {
+    QApplication::setWindowIcon(applicationIcon()); // of dialogs as well
     controller_.setUserInterface(this);
 }
 

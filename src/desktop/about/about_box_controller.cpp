@@ -74,7 +74,6 @@ void ZQAboutBoxController::windowDidLoad() {
     window_->setFixedSize(window_->size());
     const QString title = filled(localized("About %@"), {applicationName(bundle_)});
     window_->setWindowTitle(title);
-    window_->setWindowIcon(applicationIcon());
     // The background is light whatever the theme, so everything on it must go with a light one.
     const QColor grey = ZQAboutBoxBackgroundColor();
     window_->setPalette(QPalette(grey, grey));
