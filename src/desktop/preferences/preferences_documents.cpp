@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -23,15 +24,35 @@ namespace {
 
 constexpr std::string_view kDocumentFolder = "NocturoDocumentFolder";
 
+QString documentSuffix() {
+    return QStringLiteral(".") + QLatin1String(kEffectDocumentExtension);
+}
+
+/// Asks for a document of ours and for nothing else: what is to be saved gets the extension,
+/// whatever other one was typed, before the panel asks whether to replace a file of that name.
+class FilePanel : public QFileDialog {
+  public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override {
+        auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        if (acceptMode() == AcceptSave && field != nullptr && !field->text().isEmpty() &&
+            !field->text().endsWith(documentSuffix()) &&
+            !QFileInfo(directory(), field->text()).isDir()) {
+            field->setText(field->text() + documentSuffix());
+        }
+        QFileDialog::accept();
+    }
+};
+
 // The desktop's own dialogs have no room for a box of ours, so Qt's are used.
 QFileDialog* filePanel(QWidget* window, const QString& folder, const QString& title) {
-    auto* panel = new QFileDialog(window, title, folder);
+    auto* panel = new FilePanel(window, title, folder);
     panel->setOption(QFileDialog::DontUseNativeDialog);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setWindowModality(Qt::WindowModal);
-    panel->setNameFilter(localized("Nocturo effects") + QStringLiteral(" (*.") +
-                         QLatin1String(kEffectDocumentExtension) + QStringLiteral(")"));
-    panel->setDefaultSuffix(QLatin1String(kEffectDocumentExtension));
+    panel->setNameFilter(localized("Nocturo effects") + QStringLiteral(" (*") + documentSuffix() +
+                         QStringLiteral(")"));
     return panel;
 }
 
