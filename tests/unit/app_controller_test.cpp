@@ -12,6 +12,8 @@
 #include "display_services_fixture.h"
 #include "displays/affected_screen_set.h"
 #include "fake_run_loop.h"
+#include "hotkeys/hot_key_center.h"
+#include "hotkeys/hot_key_service.h"
 #include "session/installed_applications.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_table.h"
@@ -220,6 +222,34 @@ TEST_F(AppController, AppliesAgainEverySixSecondsWhileAskedTo) {
     EXPECT_EQ(runLoop_.pendingTimers(), 0U);
 }
 
+struct ClaimCounter : HotKeyService {
+    std::optional<HotKeyHandle> registerHotKey(std::uint16_t /*keyCode*/,
+                                               std::uint32_t /*modifiers*/,
+                                               EventHotKeyID /*hotKeyID*/) override {
+        ++claims;
+        return HotKeyHandle{1};
+    }
+    void unregisterHotKey(HotKeyHandle /*handle*/) override { --claims; }
+    void setHandlers(Handler /*released*/, Handler /*pressed*/) override {}
+
+    int claims = 0;
+};
+
+TEST_F(AppController, ClaimsNoHotKeyWhileOneIsRecorded) {
+    ClaimCounter service;
+    HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(&service);
+    store_->setInteger(96, "HotKeyCode");
+    store_->setBool(true, "UseHotKey");
+    controller_.updateHotKey();
+    EXPECT_EQ(service.claims, 1);
+    controller_.setRecordingHotKey(true);
+    controller_.updateHotKey(); // whatever changed meanwhile
+    EXPECT_EQ(service.claims, 0);
+    controller_.setRecordingHotKey(false);
+    EXPECT_EQ(service.claims, 1);
+    HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(nullptr);
+}
+
 TEST_F(AppController, AffectedScreenSetReadsEitherKey) {
     using Set = std::vector<double>;
     const auto read = [&](const PropertyValue& set, std::int64_t older) {
@@ -242,6 +272,7 @@ TEST_F(AppController, SettingsHaveDefaultsAndRefuseWhatTheyCannotHold) {
     controller_.initDefaults();
     EXPECT_TRUE(store_->boolForKey("ContinuouslyApply"));
     EXPECT_FALSE(store_->boolForKey("UseHotKey"));
+    EXPECT_EQ(store_->integerForKey("ShowStatusItem"), 0) << "an ordinary application";
     EXPECT_EQ(store_->objectForKey("NDDimEffectLevel"), nullptr);
     EXPECT_EQ(effectiveValue(*store_, *settingNamed("NDDimEffectLevel")), PropertyValue(-0.5));
 

@@ -175,8 +175,8 @@ TEST(Readability, IsWhatTheHardwareLeavesOfTheRange) {
              Case{{0, 0, 0}, {0, 0, 0}, 0.0, true},
              Case{{1.5F, 1.5F, 1.5F}, {9, 9, 9}, 0.0, true},
              Case{{kNan, kNan, kNan}, {kNan, kNan, kNan}, 0.0, true},
-             Case{{0, 0, 0}, {0.2F, 0.2F, 0.2F}, 0.2, false},
-             Case{{0.9F, 0.9F, 0.9F}, {1, 1, 1}, 0.1, true},
+             Case{{0, 0, 0}, {0.13F, 0.13F, 0.13F}, 0.13, false},
+             Case{{0.88F, 0.88F, 0.88F}, {1, 1, 1}, 0.12, true},
              // 0.0722 and 0.2126 of the light; their 2.2nd roots
              Case{{0, 0, 0}, {0, 0, 1}, 0.3028, false},
              Case{{0, 0, 0}, {1, 0, 0}, 0.4947, false},
@@ -194,6 +194,18 @@ PreviewCurves changedTo(const ZQChannelValues& black, const ZQChannelValues& whi
     curves.before = straight({0, 0, 0}, {1, 1, 1});
     curves.after = straight(black, white);
     return curves;
+}
+
+TEST(EffectPreview, DrawsWhatTheScreenDoesNotDoItself) {
+    constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+    PreviewCurves curves = changedTo({1, 1, kNan}, {0, 0, kNan});
+    auto levels = pictureLevels(curves);
+    EXPECT_EQ(levels[0][0], 255);
+    EXPECT_EQ(levels[2][255], 0) << "what is no number is black";
+    curves.seenThrough = curves.after;
+    levels = pictureLevels(curves);
+    EXPECT_EQ(levels[0][0], 0) << "a negative of a negative";
+    EXPECT_EQ(levels[1][200], 200);
 }
 
 TEST(EffectPreview, IsDescribedInWords) {

@@ -4,6 +4,7 @@
 #include "desktop/preferences/keep_colors_question.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
+#include "desktop/preview/effect_preview.h"
 #include "display_services_fixture.h"
 #include "documents/effect_document_file.h"
 #include "effects/color_filter_effect.h"
@@ -175,6 +176,18 @@ TEST_F(PreferencesWindow, AHotKeyIsRecordedWhereThereIsNone) {
     EXPECT_FALSE(field.isRecording());
 }
 
+TEST_F(PreferencesWindow, PreviewsTheEffectOnceWhileTheScreenShowsIt) {
+    controller.loadWindow();
+    const auto& preview = find<EffectPreview>("preview").curves();
+    NDGroupEffect::effect().addEffect("NDInvertEffect");
+    EXPECT_EQ(preview.seenThrough.sampleCount, 0U);
+    captured.sampleCount = kGammaCurveCapacity;
+    captured.redTable[255] = 1;
+    store->setObject(PropertyArray{1LL}, "AffectedScreenSet"); // which puts it on this screen
+    EXPECT_EQ(preview.before.redTable[255], 1.0F);
+    EXPECT_EQ(preview.seenThrough.redTable[0], 1.0F);
+}
+
 TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained) {
     show();
     auto& first = find<QWidget>("invertScreen");
@@ -268,7 +281,12 @@ TEST_F(EffectDocuments, PanelsSaveAndOpen) {
     choose("saveButton", "mine", true);
     const auto saved = directory / "mine.nocturo";
     EXPECT_TRUE(readEffectDocument(saved).value().invertScreen);
-    EXPECT_EQ(documentDisplayName(saved), isExtensionHidden(saved) ? "mine" : "mine.nocturo");
+    writeText(directory / "other", "");
+    setExtensionHidden(directory / "other", true); // no file system has to be able to
+    EXPECT_EQ(isExtensionHidden(saved), isExtensionHidden(directory / "other"));
+    choose("saveButton", "plain.txt");
+    EXPECT_FALSE(isExtensionHidden(directory / "plain.txt.nocturo"));
+    EXPECT_TRUE(readEffectDocument(directory / "plain.txt.nocturo"));
 
     click("invertScreen");
     choose("openButton", "mine.nocturo");

@@ -190,6 +190,7 @@ void NDPreferencesController::update() {
     // Every other number means an ordinary application, too.
     const bool inTray = defaults.integerForKey(kShowStatusItem) == kStatusItemRow;
     (inTray ? ui_->showInTray : ui_->showInTaskBar)->setChecked(true);
+    readPreviewedDisplay(); // the effect may have come to it or gone
     updatePreview();
 }
 

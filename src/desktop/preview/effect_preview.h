@@ -33,6 +33,7 @@ class EffectPreview : public QWidget {
 
     /// Only keeps them: however often they are set, they are drawn once a frame.
     void setCurves(const PreviewCurves& curves);
+    const PreviewCurves& curves() const { return curves_; }
 
     /// How the description calls the display: "Screen 1".
     void setDisplayName(const QString& displayName);
