@@ -3,7 +3,6 @@
 #include "base/runtime_directory.h"
 #include "base/texts/translated.h"
 #include "base/texts/users_language.h"
-#include "desktop/qt/qt_log.h"
 #include "desktop/qt/qt_loop.h"
 #include "desktop/qt/translations.h"
 #include "program/connected_displays.h"
@@ -16,6 +15,7 @@
 #include "settings/settings_keeper.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 #include <cstdio>
 #include <cstdlib>
@@ -128,7 +128,8 @@ int main(int argc, char* argv[]) {
         tell(stderr, error->sentence);
         return kUsage;
     }
-    installQtLogSink();
+    // Profiles are checked by us, with a sentence that names them.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.icc=false"));
     EventLoop::blockSignals(Core::signalNumbers());
     EventLoop loop;
     choosePlatform();
