@@ -13,6 +13,7 @@
 #include "program/surroundings.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keeper.h"
+#include "x11/startup_notification.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -71,7 +72,7 @@ int endAfterHandingOver(const SessionClaim& claim, const std::vector<std::string
 }
 
 /// Runs the application in its event loop until it is told to end.
-int run(const RunOptions& options, EventLoop& loop) {
+int run(const RunOptions& options, EventLoop& loop, const std::string& startupIdentifier) {
     const auto directory = runtimeDirectory();
     if (!directory) {
         tell(stderr, translated("The runtime directory cannot be used; set XDG_RUNTIME_DIR to one "
@@ -82,6 +83,7 @@ int run(const RunOptions& options, EventLoop& loop) {
     const std::vector<std::string> documents = absolutePaths(options.documents);
     const SessionClaim claim(core.sessionBus.get(), *directory, documents);
     if (!claim.isGranted()) {
+        finishStartup(xDisplayName(), startupIdentifier);
         return endAfterHandingOver(claim, documents);
     }
     SettingsKeeper keeper(core.defaults, settingsPath(), core.runLoop);
@@ -101,6 +103,7 @@ int run(const RunOptions& options, EventLoop& loop) {
 
     DesktopSession desktop(core, displays);
     desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
+    finishStartup(xDisplayName(), startupIdentifier); // there may never be a window
     const int result = runEventLoop(loop);
     if (result == kSuccess) {
         desktop.end();
@@ -132,6 +135,8 @@ int main(int argc, char* argv[]) {
     QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.icc=false"));
     EventLoop::blockSignals(Core::signalNumbers());
     EventLoop loop;
+    const char* given = std::getenv("DESKTOP_STARTUP_ID"); // taken away by windows
+    const std::string startupIdentifier = given != nullptr ? given : "";
     choosePlatform();
     const QApplication application(argc, argv);
     installTranslations(*QCoreApplication::instance());
@@ -139,5 +144,5 @@ int main(int argc, char* argv[]) {
     QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));
     QApplication::setQuitOnLastWindowClosed(false);
     const QtLoop qtLoop(loop);
-    return run(std::get<RunOptions>(options), loop);
+    return run(std::get<RunOptions>(options), loop, startupIdentifier);
 }

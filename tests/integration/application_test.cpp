@@ -134,7 +134,11 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     // None of these loads the window or switches, as a start without a document does.
     EXPECT_EQ(shown(), "oo");
     EXPECT_FALSE(isShown("Preferences"));
+    XClient desktop(session_.server().display());
+    desktop.startupMessages();
+    session_.environment()["DESKTOP_STARTUP_ID"] = "a launcher's 1st_TIME42";
     EXPECT_EQ(session_.run("nocturo").exit, 0);
+    EXPECT_EQ(desktop.startupMessages(), "remove: ID=\"a launcher's 1st_TIME42\"");
     EXPECT_TRUE(becomes("ii")) << shown();
 
     activateAction("preferences");

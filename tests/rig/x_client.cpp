@@ -3,6 +3,7 @@
 #include "hotkeys/keyboard/virtual_key_codes.h"
 
 #include <algorithm>
+#include <cstring>
 #include <stdexcept>
 
 #include <xcb/randr.h>
@@ -122,6 +123,25 @@ void XClient::fake(std::uint8_t event, int key) {
 void XClient::type(const std::vector<int>& keys) {
     std::for_each(keys.begin(), keys.end(), [this](auto key) { press(key); });
     std::for_each(keys.rbegin(), keys.rend(), [this](auto key) { release(key); });
+}
+
+std::string XClient::startupMessages() {
+    constexpr std::uint32_t kBroadcasts = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    auto* raw = connection_.get();
+    check(raw, xcb_change_window_attributes_checked(raw, root_, XCB_CW_EVENT_MASK, &kBroadcasts),
+          "listening to the root window");
+    const auto begin = atom("_NET_STARTUP_INFO_BEGIN");
+    const auto more = atom("_NET_STARTUP_INFO");
+    std::string text;
+    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(raw)}) {
+        const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(*event);
+        if ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE &&
+            (message.type == begin || message.type == more)) {
+            const auto* part = reinterpret_cast<const char*>(message.data.data8);
+            text.append(part, strnlen(part, sizeof message.data.data8));
+        }
+    }
+    return text;
 }
 
 int XClient::modifiers() {

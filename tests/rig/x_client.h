@@ -38,6 +38,9 @@ class XClient {
     void setEdid(const std::string& output, const std::vector<std::uint8_t>& edid);
     std::uint32_t atom(const std::string& name);
 
+    /// From the first call on, the texts that programs broadcast about starts since the last call.
+    std::string startupMessages();
+
     /// Keys are evdev codes, masks are the protocol's (XCB_MOD_MASK_...).
     void press(int key) { fake(XCB_KEY_PRESS, key); }
     void release(int key) { fake(XCB_KEY_RELEASE, key); }
