@@ -2,8 +2,12 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
+
+#include <sys/types.h>
 
 namespace nocturo {
 
@@ -12,6 +16,20 @@ inline void printFigure(const std::string& what, double figure, double target, c
     std::printf("%-58s %9.2f %-4s target %8.2f  %s\n", what.c_str(), figure, unit, target,
                 figure <= target ? "held" : "MISSED");
     std::fflush(stdout);
+}
+
+/// A line of what the kernel tells of a process's memory, in kB: "Rss:", or "Pss:", where shared
+/// pages are divided among those that share them.
+inline double kilobytesOf(pid_t process, const std::string& line) {
+    std::ifstream rollup("/proc/" + std::to_string(process) + "/smaps_rollup");
+    for (std::string word; rollup >> word;) {
+        if (word == line) {
+            double kilobytes = 0;
+            rollup >> kilobytes;
+            return kilobytes;
+        }
+    }
+    throw std::runtime_error("the kernel does not tell sizes");
 }
 
 /// The value that `share` (0 to 1) of the samples do not exceed; the samples are reordered.

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <csignal>
 #include <exception>
-#include <fstream>
 #include <iostream>
 #include <stdexcept>
 
@@ -16,18 +15,6 @@ namespace {
 
 constexpr int kDisplays = 10;
 constexpr int kRounds = 200;
-
-double residentKilobytes(pid_t process, const std::string& member) {
-    std::ifstream rollup("/proc/" + std::to_string(process) + "/smaps_rollup");
-    for (std::string word; rollup >> word;) {
-        if (word == member) {
-            double kilobytes = 0;
-            rollup >> kilobytes;
-            return kilobytes;
-        }
-    }
-    throw std::runtime_error("the guard's memory cannot be read");
-}
 
 class Measurement {
   public:
@@ -70,8 +57,8 @@ class Measurement {
         if (!isGuarded) {
             throw std::runtime_error("there is no guard");
         }
-        resident_ = std::max(resident_, residentKilobytes(guards.front(), "Rss:"));
-        proportional_ = std::max(proportional_, residentKilobytes(guards.front(), "Pss:"));
+        resident_ = std::max(resident_, kilobytesOf(guards.front(), "Rss:"));
+        proportional_ = std::max(proportional_, kilobytesOf(guards.front(), "Pss:"));
         const auto start = std::chrono::steady_clock::now();
         nocturo->signal(SIGKILL);
         // Looking without a pause would take the processor from those who are looked at.

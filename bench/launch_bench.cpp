@@ -1,11 +1,13 @@
-// What Nocturo costs beside Qt programs that do nothing: its start, and its place in the tray.
+// What Nocturo costs beside redshift, which does a part of the same: its start and its memory.
 
 #include "figures.h"
 #include "rig/session.h"
 
 #include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <stdexcept>
 #include <thread>
 
@@ -34,64 +36,88 @@ void waitForChange(rig::XClient& observer, std::uint32_t crtc, const rig::Channe
     }
 }
 
-/// In turns, so that both have the same share of what else the machine does.
+/// In turns, so that both have the same share of what else the machine does. Redshift writes the
+/// ramps and ends; Nocturo starts its guard, writes the journal and takes its name on the bus too.
 void measureStart() {
     rig::Session session(4);
     session.showWindows();
     writeSettings(session, false);
     rig::XClient observer(session.server().display());
     const std::uint32_t first = observer.crtcOf("DUMMY0");
-    std::vector<double> bare;
-    std::vector<double> nocturo;
-    for (int round = 0; round < 30; ++round) {
-        auto start = SteadyClock::now();
-        session.run("bare_widgets");
-        bare.push_back(millisecondsSince(start));
+    const auto timed = [&](const std::string& program, const std::vector<std::string>& arguments) {
         const auto own = observer.ramp(first);
-        start = SteadyClock::now();
-        const auto process = session.start("nocturo");
+        const auto start = SteadyClock::now();
+        const auto process = session.start(program, arguments);
         waitForChange(observer, first, own);
-        nocturo.push_back(millisecondsSince(start));
-        process->signal(SIGTERM);
-        process->wait();
-    }
-    const double bareMedian = percentile(bare, 0.5);
-    const double median = percentile(nocturo, 0.5);
-    std::printf("start to the first ramp: median %.1f ms; a bare Qt Widgets program %.1f ms\n",
-                median, bareMedian);
-    printFigure("start to the first ramp, in bare Qt Widgets programs", median / bareMedian, 1.3,
-                "");
-}
-
-/// Kilobytes of a process, shared pages divided among those that share them.
-double proportionalSize(const rig::Process& process) {
-    std::ifstream rollup("/proc/" + std::to_string(process.id()) + "/smaps_rollup");
-    for (std::string word; rollup >> word;) {
-        if (word == "Pss:") {
-            double kilobytes = 0;
-            rollup >> kilobytes;
-            return kilobytes;
+        const double taken = millisecondsSince(start);
+        if (program == "nocturo") {
+            process->signal(SIGTERM); // gives the displays back
         }
+        process->wait();
+        return taken;
+    };
+    std::vector<double> redshift;
+    std::vector<double> nocturo;
+    for (int round = 0; round < 50; ++round) {
+        redshift.push_back(timed("redshift", {"-m", "randr", "-P", "-O", "4000"}));
+        session.run("redshift", {"-m", "randr", "-x"});
+        nocturo.push_back(timed("nocturo", {}));
     }
-    throw std::runtime_error("the kernel does not tell sizes");
+    const double peer = percentile(redshift, 0.5);
+    const double median = percentile(nocturo, 0.5);
+    std::printf("start to the first ramp: median %.1f ms; redshift once %.1f ms\n", median, peer);
+    printFigure("start to the first ramp, in one-shots of redshift", median / peer, 1.3, "");
 }
 
-void measureTray() {
+double megabytesWithGuard(const rig::Process& nocturo) {
+    double kilobytes = kilobytesOf(nocturo.id(), "Pss:");
+    for (const pid_t guard : rig::childrenNamed(nocturo.id(), "nocturo-guard")) {
+        kilobytes += kilobytesOf(guard, "Pss:");
+    }
+    return kilobytes / 1024;
+}
+
+std::ptrdiff_t threadsOf(const rig::Process& process) {
+    const std::filesystem::directory_iterator threads("/proc/" + std::to_string(process.id()) +
+                                                      "/task");
+    return std::distance(begin(threads), end(threads));
+}
+
+/// What stays in memory, without a window or in the tray of a panel, beside redshift's.
+void measureMemory(bool inTray) {
     rig::Session session(4);
     session.showWindows();
-    writeSettings(session, true);
-    const auto host = session.start("tray_host");
-    std::this_thread::sleep_for(Milliseconds(300));
-    const auto bare = session.start("bare_tray");
+    writeSettings(session, inTray);
+    std::unique_ptr<rig::Process> panel;
+    const auto items = [&] {
+        const std::string watcher = "org.kde.StatusNotifierWatcher";
+        return session
+            .run("gdbus",
+                 {"call", "--session", "-d", watcher, "-o", "/StatusNotifierWatcher", "-m",
+                  "org.freedesktop.DBus.Properties.Get", watcher, "RegisteredStatusNotifierItems"})
+            .output;
+    };
+    if (inTray) {
+        const std::string file = session.runtimeDirectory() / "panel.conf";
+        std::ofstream(file) << "panels=panel1\n[panel1]\nplugins=statusnotifier\n"
+                               "[statusnotifier]\ntype=statusnotifier\n";
+        panel = session.start("lxqt-panel", {"-c", file});
+    }
     const auto nocturo = session.startNocturo();
-    if (!host->readLine() || !host->readLine()) {
+    if (inTray && !rig::waitUntil([&] { return items().find('/') != std::string::npos; })) {
         throw std::runtime_error("the tray stays empty");
     }
     std::this_thread::sleep_for(Milliseconds(2000)); // for what is done after a start
-    const double megabytes = proportionalSize(*nocturo) / 1024;
-    const double bareMegabytes = proportionalSize(*bare) / 1024;
-    std::printf("in the tray: %.1f MB; a bare tray icon %.1f MB\n", megabytes, bareMegabytes);
-    printFigure("in the tray, more than a bare tray icon", megabytes - bareMegabytes, 6, "MB");
+    const std::string where = inTray ? "in LXQt's panel" : "without a window";
+    printFigure("memory with the guard, " + where, megabytesWithGuard(*nocturo), inTray ? 7 : 6,
+                "MB");
+    printFigure("threads, " + where, static_cast<double>(threadsOf(*nocturo)), 1, "");
+    if (!inTray) {
+        const auto redshift =
+            session.start("redshift", {"-m", "randr", "-P", "-l", "0:0", "-t", "4000:4000"});
+        std::this_thread::sleep_for(Milliseconds(2000));
+        std::printf("redshift's memory: %.1f MB\n", kilobytesOf(redshift->id(), "Pss:") / 1024);
+    }
 }
 
 void measureToggle() {
@@ -123,7 +149,8 @@ int main() {
     try {
         nocturo::measureStart();
         nocturo::measureToggle();
-        nocturo::measureTray();
+        nocturo::measureMemory(false);
+        nocturo::measureMemory(true);
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;
