@@ -30,13 +30,13 @@ tidy() {
       2> >(grep -v 'warnings\? generated\.$' >&2)
 }
 
-# What the analyzer finds has line numbers of the joint text, which says above each source whose it is.
 check_code() {
   local build=$1 jobs=$2 joint=build/lint
   rm -rf "$joint"
   tools/lint_together.py "$build" "$joint"
   tidy "$joint/included" "$jobs" '-clang-analyzer-*,-bugprone-suspicious-include'
-  tidy "$joint/text" "$jobs" '-*,clang-analyzer-*,-clang-analyzer-cplusplus.NewDeleteLeaks'
+  tidy "$joint/text" "$jobs" '-*,clang-analyzer-*,-clang-analyzer-cplusplus.NewDeleteLeaks' |
+    tools/lint_together.py --where
 }
 
 case "${1:-}" in

@@ -5,15 +5,34 @@ sources, in OUT/text they hold their text. Prints how many sources and joint fil
 
 Reading Qt's headers, and looking for faults in them, takes most of clang-tidy's time; so it happens
 once for many sources. Its path-sensitive analyzer passes over what is included, hence the text.
+
+lint_together.py --where: passes what clang-tidy says through, with places in joint text as places in
+the sources.
 """
 
 import json
 import pathlib
+import re
 import shlex
 import sys
 
 most = 16  # so that all cores have something to do
 source_root = pathlib.Path(__file__).resolve().parent.parent / "src"
+
+
+def in_its_source(place):
+    """A place "FILE:LINE" in joint text as one in the source that the line is from."""
+    joint, line = place[1], int(place[2])
+    above = pathlib.Path(joint).read_text().split("\n")[:line]
+    start = max(n for n, text in enumerate(above, 1) if text.startswith(f"// {source_root}/"))
+    return f"{above[start - 1][3:]}:{line - start}"
+
+
+if sys.argv[1:] == ["--where"]:
+    for said in sys.stdin:
+        sys.stdout.write(re.sub(r"(\S+/text/\d+\.cpp):(\d+)", in_its_source, said))
+    sys.exit()
+
 build, out = map(pathlib.Path, sys.argv[1:])
 
 groups = {}
