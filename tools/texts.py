@@ -3,11 +3,13 @@
 
 tools/texts.py              all tables
 tools/texts.py nl pt_BR     those of these languages, made anew where there is none
+tools/texts.py --check      changes nothing and says what is wrong
 
 Texts that a table lacks are added to it, marked as unfinished, and those that the program shows no
 longer are taken out. Qt Linguist does the rest.
 """
 
+import collections
 import pathlib
 import re
 import sys
@@ -17,6 +19,24 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 DEFAULT_TABLE = "Localizable"
 # The functions themselves, and alerts, whose texts are found where they are set.
 HANDED_ON = {"localized.h", "localized.cpp", "translated.h", "translated.cpp", "alert_box.cpp"}
+
+PANEL = "NocturoPreferencePanel"
+PLACEHOLDER = re.compile(r"%(?:\d\$)?[@d]|%%")
+MNEMONIC = re.compile(r"&([^&\s])")
+
+# What is reached from one window with one press of Alt, beside the panel's own controls; a menu is
+# a window, too.
+WINDOWS = {
+    PANEL: ["&File", "&Effect", "&Help"],
+    "question": ["&Keep", "&Go back"],
+    "save panel": ["&Hide extension"],
+    "file menu": ["&Open...", "Open &Recent", "&Save...", "&Preferences...", "&Close",
+                  "&Quit Nocturo"],
+    "recent menu": ["&Clear Menu"],
+    "effect menu": ["&Activate Effect"],
+    "effect menu while on": ["&Deactivate Effect"],
+    "help menu": ["&About Nocturo"],
+}
 
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 CODE = re.compile(r'"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)+\'|(//[^\n]*|/\*.*?\*/)', re.DOTALL)
@@ -121,7 +141,65 @@ def languages(root=ROOT):
                   for path in table_path(root, "").parent.glob("nocturo_*.ts"))
 
 
+def placeholders(text):
+    found = PLACEHOLDER.findall(text)
+    return set(found), sorted(one for one in found if "$" not in one)  # numbered ones may come twice
+
+
+def faults_of_text(english, translation):
+    if placeholders(english) != placeholders(translation):
+        yield "has other placeholders"
+    if len(MNEMONIC.findall(english)) != len(MNEMONIC.findall(translation)):
+        yield "has another number of mnemonics"
+    for mark in ("...", ":"):
+        if english.endswith(mark) != translation.endswith((mark, "…" if mark == "..." else "：")):
+            yield f"should end like the English text with “{mark}” or not"
+
+
+def clashes(table):
+    """Mnemonics that two controls of one window share, and ones that belong to no known window."""
+    for window, also in WINDOWS.items():
+        keys = collections.defaultdict(list)
+        for (context, english), translation in table.items():
+            if context == window or (context == DEFAULT_TABLE and english in also):
+                for key in MNEMONIC.findall(translation):
+                    keys[key.casefold()].append(english)
+        yield from (f"{window}: {', '.join(shared)} share Alt+{key}"
+                    for key, shared in keys.items() if len(shared) > 1)
+    placed = {text for also in WINDOWS.values() for text in also}
+    for context, english in table:
+        if context != PANEL and MNEMONIC.search(english) and english not in placed:
+            yield f"{english} is missing in the list of windows of this tool"
+
+
+def faults(root):
+    program = texts_of_program(root)
+    yield from clashes({key: key[1] for key in program})
+    for language in languages(root):
+        table = {}
+        for context in ElementTree.parse(table_path(root, language)).iter("context"):
+            for message in context.iter("message"):
+                key = context.findtext("name"), message.findtext("source")
+                translation = message.find("translation")
+                text = table[key] = translation.text or ""
+                if key not in program or not is_for(language, key[1]):
+                    yield f"{language}: {key} is shown no longer"
+                elif translation.get("type") or not text.strip():
+                    yield f"{language}: {key} is unfinished"
+                else:
+                    yield from (f"{language}: {key} {fault}"
+                                for fault in faults_of_text(key[1], text))
+        for key in program:
+            if is_for(language, key[1]) and key not in table:
+                yield f"{language}: {key} is missing"
+        yield from (f"{language}: {clash}" for clash in clashes(table))
+
+
 if __name__ == "__main__":
+    if sys.argv[1:] == ["--check"]:
+        found = list(faults(ROOT))
+        print(*found, sep="\n", end="\n" if found else "")
+        sys.exit(1 if found else 0)
     if any(argument.startswith("-") for argument in sys.argv[1:]):
         sys.exit(__doc__)
     for chosen in sys.argv[1:] or languages():

@@ -120,16 +120,6 @@ TEST_F(HotKeyToggle, WorksWhateverIsLockedAndWhereverTheModifiersAre) {
     expectToggles({KEY_LEFTMETA, KEY_F5});
 }
 
-TEST_F(HotKeyToggle, IsNamedAsTheLayoutInForceEngravesIt) {
-    session_.server().setLayout("fr,ru");
-    ctl({"hotkey", "set", "ctrl+a"});
-    EXPECT_EQ(hotKey()["keyCode"], 12); // where a US board has Q
-    client_.type({KEY_COMPOSE});        // the menu key: the other layout
-    EXPECT_EQ(hotKey()["text"], "⌃Й");
-    enable();
-    expectToggles({KEY_LEFTCTRL, KEY_Q}); // the group does not matter to the key itself
-}
-
 } // namespace
 
 } // namespace nocturo::rig
