@@ -255,6 +255,10 @@
             <translation>Keine</translation>
         </message>
         <message>
+            <source>There is no setting "%@".</source>
+            <translation>Eine Einstellung „%@“ gibt es nicht.</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Keine Einstellung nimmt einen Wert dieser Art.</translation>
         </message>
@@ -269,10 +273,6 @@
         <message>
             <source>There is no display with the identifier %d.</source>
             <translation>Einen Bildschirm mit der Kennung %d gibt es nicht.</translation>
-        </message>
-        <message>
-            <source>There is no setting "%@".</source>
-            <translation>Eine Einstellung „%@“ gibt es nicht.</translation>
         </message>
         <message>
             <source>These are not effect documents: %@</source>
@@ -925,6 +925,18 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>„%@“ braucht eine Zusatztaste: Nur Funktions-, Pfeil- und Navigationstasten können allein Tastenkürzel sein.</translation>
+        </message>
+        <message>
+            <source>Windows come with the package nocturo-desktop, which is not installed.</source>
+            <translation>Fenster bringt das Paket nocturo-desktop mit, das nicht installiert ist.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown: %@.</source>
+            <translation>Fenster können nicht gezeigt werden: %@.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown before Nocturo is started again, because another version was installed meanwhile.</source>
+            <translation>Fenster können erst nach einem Neustart von Nocturo gezeigt werden, weil inzwischen eine andere Version installiert wurde.</translation>
         </message>
         <message>
             <source>The display server has gone, so Nocturo ends.</source>

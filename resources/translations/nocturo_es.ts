@@ -255,6 +255,10 @@
             <translation>Ninguna</translation>
         </message>
         <message>
+            <source>There is no setting "%@".</source>
+            <translation>No existe el ajuste «%@».</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Ningún ajuste admite un valor de este tipo.</translation>
         </message>
@@ -269,10 +273,6 @@
         <message>
             <source>There is no display with the identifier %d.</source>
             <translation>No hay ninguna pantalla con el identificador %d.</translation>
-        </message>
-        <message>
-            <source>There is no setting "%@".</source>
-            <translation>No existe el ajuste «%@».</translation>
         </message>
         <message>
             <source>These are not effect documents: %@</source>
@@ -925,6 +925,18 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>«%@» necesita una modificadora: solo las teclas de función, de flecha y de navegación pueden ser atajos por sí solas.</translation>
+        </message>
+        <message>
+            <source>Windows come with the package nocturo-desktop, which is not installed.</source>
+            <translation>Las ventanas vienen con el paquete nocturo-desktop, que no está instalado.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown: %@.</source>
+            <translation>No se pueden mostrar ventanas: %@.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown before Nocturo is started again, because another version was installed meanwhile.</source>
+            <translation>No se pueden mostrar ventanas hasta que se reinicie Nocturo, porque entretanto se instaló otra versión.</translation>
         </message>
         <message>
             <source>The display server has gone, so Nocturo ends.</source>

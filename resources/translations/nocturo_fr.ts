@@ -255,6 +255,10 @@
             <translation>Aucun</translation>
         </message>
         <message>
+            <source>There is no setting "%@".</source>
+            <translation>Le réglage « %@ » n’existe pas.</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Aucun réglage n’accepte une valeur de ce type.</translation>
         </message>
@@ -269,10 +273,6 @@
         <message>
             <source>There is no display with the identifier %d.</source>
             <translation>Aucun écran n’a l’identifiant %d.</translation>
-        </message>
-        <message>
-            <source>There is no setting "%@".</source>
-            <translation>Le réglage « %@ » n’existe pas.</translation>
         </message>
         <message>
             <source>These are not effect documents: %@</source>
@@ -925,6 +925,18 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>« %@ » exige une touche de modification : seules les touches de fonction, fléchées et de navigation peuvent servir seules de raccourci.</translation>
+        </message>
+        <message>
+            <source>Windows come with the package nocturo-desktop, which is not installed.</source>
+            <translation>Les fenêtres sont fournies par le paquet nocturo-desktop, qui n’est pas installé.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown: %@.</source>
+            <translation>Les fenêtres ne peuvent pas être affichées : %@.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown before Nocturo is started again, because another version was installed meanwhile.</source>
+            <translation>Les fenêtres ne peuvent être affichées qu’après un redémarrage de Nocturo, car une autre version a été installée entre-temps.</translation>
         </message>
         <message>
             <source>The display server has gone, so Nocturo ends.</source>

@@ -255,6 +255,10 @@
             <translation>なし</translation>
         </message>
         <message>
+            <source>There is no setting "%@".</source>
+            <translation>「%@」という設定はありません。</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>この種類の値を受け付ける設定はありません。</translation>
         </message>
@@ -269,10 +273,6 @@
         <message>
             <source>There is no display with the identifier %d.</source>
             <translation>識別子 %d の画面はありません。</translation>
-        </message>
-        <message>
-            <source>There is no setting "%@".</source>
-            <translation>「%@」という設定はありません。</translation>
         </message>
         <message>
             <source>These are not effect documents: %@</source>
@@ -925,6 +925,18 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>「%@」には修飾キーが必要です。単独で使えるのはファンクションキー、矢印キー、ナビゲーションキーだけです。</translation>
+        </message>
+        <message>
+            <source>Windows come with the package nocturo-desktop, which is not installed.</source>
+            <translation>ウインドウはパッケージ nocturo-desktop に含まれていますが、インストールされていません。</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown: %@.</source>
+            <translation>ウインドウを表示できません: %@。</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown before Nocturo is started again, because another version was installed meanwhile.</source>
+            <translation>別のバージョンがインストールされたため、Nocturo を再起動するまでウインドウを表示できません。</translation>
         </message>
         <message>
             <source>The display server has gone, so Nocturo ends.</source>

@@ -255,6 +255,10 @@
             <translation>Nenhuma</translation>
         </message>
         <message>
+            <source>There is no setting "%@".</source>
+            <translation>Não existe a configuração “%@”.</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>Nenhuma configuração aceita um valor deste tipo.</translation>
         </message>
@@ -269,10 +273,6 @@
         <message>
             <source>There is no display with the identifier %d.</source>
             <translation>Não há tela com o identificador %d.</translation>
-        </message>
-        <message>
-            <source>There is no setting "%@".</source>
-            <translation>Não existe a configuração “%@”.</translation>
         </message>
         <message>
             <source>These are not effect documents: %@</source>
@@ -925,6 +925,18 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>“%@” precisa de uma modificadora: só teclas de função, de seta e de navegação podem ser atalhos sozinhas.</translation>
+        </message>
+        <message>
+            <source>Windows come with the package nocturo-desktop, which is not installed.</source>
+            <translation>As janelas vêm com o pacote nocturo-desktop, que não está instalado.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown: %@.</source>
+            <translation>Não é possível mostrar janelas: %@.</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown before Nocturo is started again, because another version was installed meanwhile.</source>
+            <translation>As janelas só podem ser mostradas depois de reiniciar o Nocturo, porque outra versão foi instalada nesse meio-tempo.</translation>
         </message>
         <message>
             <source>The display server has gone, so Nocturo ends.</source>

@@ -255,6 +255,10 @@
             <translation>无</translation>
         </message>
         <message>
+            <source>There is no setting "%@".</source>
+            <translation>没有设置“%@”。</translation>
+        </message>
+        <message>
             <source>No setting takes a value of this type.</source>
             <translation>没有设置接受此类型的值。</translation>
         </message>
@@ -269,10 +273,6 @@
         <message>
             <source>There is no display with the identifier %d.</source>
             <translation>没有标识符为 %d 的屏幕。</translation>
-        </message>
-        <message>
-            <source>There is no setting "%@".</source>
-            <translation>没有设置“%@”。</translation>
         </message>
         <message>
             <source>These are not effect documents: %@</source>
@@ -925,6 +925,18 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>“%@”需要修饰键：只有功能键、方向键和导航键可以单独作为快捷键。</translation>
+        </message>
+        <message>
+            <source>Windows come with the package nocturo-desktop, which is not installed.</source>
+            <translation>窗口由软件包 nocturo-desktop 提供，但它没有安装。</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown: %@.</source>
+            <translation>无法显示窗口：%@。</translation>
+        </message>
+        <message>
+            <source>Windows cannot be shown before Nocturo is started again, because another version was installed meanwhile.</source>
+            <translation>由于期间安装了另一个版本，重新启动 Nocturo 之前无法显示窗口。</translation>
         </message>
         <message>
             <source>The display server has gone, so Nocturo ends.</source>

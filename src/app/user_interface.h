@@ -20,6 +20,9 @@ class UserInterface {
   public:
     virtual ~UserInterface() = default;
 
+    /// Why nothing of this can be shown, in one sentence; empty when all can.
+    virtual std::string whyNoWindows() = 0;
+
     /// Shows the window and brings it to the front.
     virtual void showPreferences() = 0;
     virtual void showAboutBox() = 0;
@@ -30,19 +33,19 @@ class UserInterface {
     /// Whether the preference window is loaded and shown.
     virtual bool preferencesVisible() const = 0;
 
-    /// Makes the preference window, if there is none, without showing it.
-    virtual void loadPreferences() = 0;
-
     /// Takes over what an effect document says; false when it is refused. While the preference
     /// window is not loaded, a document that is accepted changes nothing.
     virtual bool openEffectFile(const std::string& path) = 0;
 
-    /// Writes what the preference window, which it loads, shows to an effect document; false when
+    /// The same, and takes it over also while the window is not loaded.
+    virtual bool applyEffectFile(const std::string& path) = 0;
+
+    /// Writes what the preference window shows, or would show, to an effect document; false when
     /// that failed.
     virtual bool saveEffectFile(const std::string& path) = 0;
 
     /// A PNG picture of what the effect does on an online display, whether it is on or not: its
-    /// curves and a scene seen through them.
+    /// curves and a scene seen through them. Empty when nothing can be shown.
     virtual std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) = 0;
 };
 

@@ -172,8 +172,7 @@ BusAnswer BusFace::removeEffects(const std::vector<std::string>& names) {
     return {};
 }
 
-BusAnswer BusFace::setSetting(const std::string& key,
-                                    const std::optional<PropertyValue>& value) {
+BusAnswer BusFace::setSetting(const std::string& key, const std::optional<PropertyValue>& value) {
     const Setting* setting = settingNamed(key);
     if (setting == nullptr) {
         return noSetting(key);
@@ -222,8 +221,7 @@ BusAnswer BusFace::setHotKey(const std::string& text) {
 }
 
 BusAnswer BusFace::openFile(const std::string& path) {
-    userInterface_.loadPreferences();
-    if (!controller_.openFile(path)) {
+    if (!userInterface_.applyEffectFile(path)) {
         return failure(translated("\"%@\" is not an effect document.", {path}));
     }
     return {};
@@ -237,12 +235,19 @@ BusAnswer BusFace::saveFile(const std::string& path) {
 }
 
 BusAnswer BusFace::showPreferences() {
-    controller_.openPreferences();
-    return {};
+    return show([this] { controller_.openPreferences(); });
 }
 
 BusAnswer BusFace::showAboutBox() {
-    controller_.openAboutBox();
+    return show([this] { controller_.openAboutBox(); });
+}
+
+BusAnswer BusFace::show(const std::function<void()>& window) {
+    const std::string why = userInterface_.whyNoWindows();
+    if (!why.empty()) {
+        return failure(why);
+    }
+    window();
     return {};
 }
 
@@ -253,7 +258,11 @@ int BusFace::renderPreview(sd_bus_message* call, void* self, sd_bus_error* error
             translated("There is no display with the identifier %d.", {std::to_string(display)});
         return sd_bus_error_set(error, kInvalidArgumentError, sentence.c_str());
     }
-    const auto picture = static_cast<BusFace*>(self)->userInterface_.previewPicture(display);
+    UserInterface& windows = static_cast<BusFace*>(self)->userInterface_;
+    if (const std::string why = windows.whyNoWindows(); !why.empty()) {
+        return sd_bus_error_set(error, kFailedError, why.c_str());
+    }
+    const auto picture = windows.previewPicture(display);
     sd_bus_message* message = nullptr;
     sd_bus_message_new_method_return(call, &message);
     const BusMessage reply(message);

@@ -5,6 +5,7 @@
 #include "bus/launcher_face.h"
 #include "bus/told_state.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -55,6 +56,7 @@ class BusFace {
     BusAnswer saveFile(const std::string& path);
     BusAnswer showPreferences();
     BusAnswer showAboutBox();
+    BusAnswer show(const std::function<void()>& window);
     BusAnswer reopen();
     BusAnswer quit();
     static int renderPreview(sd_bus_message* call, void* self, sd_bus_error* error);

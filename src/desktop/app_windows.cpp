@@ -31,13 +31,11 @@ AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
     : controller_(controller), defaults_(defaults), localCenter_(centers.local),
       distributedCenter_(centers.distributed) {
     QApplication::setWindowIcon(applicationIcon()); // of dialogs as well
-    controller_.setUserInterface(this);
 }
 
 AppWindows::~AppWindows() {
     localCenter_.removeObserver(this);
     distributedCenter_.removeObserver(this);
-    controller_.setUserInterface(nullptr);
 }
 
 NDPreferencesController& AppWindows::preferencesController() {
@@ -156,6 +154,11 @@ void AppWindows::loadPreferences() {
 
 bool AppWindows::openEffectFile(const std::string& path) {
     return preferencesController().openEffectFile(QString::fromStdString(path));
+}
+
+bool AppWindows::applyEffectFile(const std::string& path) {
+    loadPreferences();
+    return openEffectFile(path);
 }
 
 bool AppWindows::saveEffectFile(const std::string& path) {

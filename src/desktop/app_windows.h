@@ -44,12 +44,16 @@ class AppWindows : public UserInterface {
     /// Called with the path of every document that was opened, or saved at the user's wish.
     std::function<void(const QString& path)> documentWasUsed;
 
+    /// Makes the preference window, if there is none, without showing it.
+    void loadPreferences();
+
+    std::string whyNoWindows() override { return {}; }
     void showPreferences() override;
     void showAboutBox() override;
     void setAboutBoxBackgroundColor(const OpaqueColor& color) override;
     bool preferencesVisible() const override;
-    void loadPreferences() override;
     bool openEffectFile(const std::string& path) override;
+    bool applyEffectFile(const std::string& path) override;
     bool saveEffectFile(const std::string& path) override;
     std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) override;
 

@@ -20,8 +20,8 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       controller(defaults, centers, runLoop), wakeRepeater(controller, centers, runLoop),
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
-      windows(controller, defaults, centers),
-      face(controller, defaults, centers.local, disturbances, windows, sessionBus.get(), loop) {
+      desktop(runLoop, controller, defaults, centers),
+      face(controller, defaults, centers.local, disturbances, desktop, sessionBus.get(), loop) {
     runLoop.handleSignals(signalNumbers(), [this](int number) { signalWasSent(number); });
 }
 

@@ -7,7 +7,7 @@
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "bus/bus_face.h"
-#include "desktop/app_windows.h"
+#include "program/desktop_on_demand.h"
 #include "session/disturber_finder.h"
 
 #include <array>
@@ -38,7 +38,7 @@ struct Core {
     const WakeRepeater wakeRepeater;
     DisturberFinder disturberFinder;
     const DisturbanceWatch disturbances;
-    AppWindows windows;
+    DesktopOnDemand desktop;
     BusFace face;
 
   private:

@@ -2,7 +2,6 @@
 
 #include "base/notification_names.h"
 #include "bus/launcher_face.h"
-#include "desktop/qt/session_bus.h"
 #include "program/connected_displays.h"
 #include "program/core.h"
 #include "program/surroundings.h"
@@ -11,17 +10,16 @@ namespace nocturo {
 
 DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays)
     : core_(core), displays_(displays),
-      recentDocuments_(stateDirectory() / "recent-documents.plist"),
       launcherMenu_(core.sessionBus.get(), "/org/nocturo/Nocturo/LauncherMenu"),
-      menus_(core.controller, core.defaults, core.centers.local, core.windows, recentDocuments_,
-             {connectToSessionBus(), xDisplayName()}),
       applications_(DesktopEntries::dataDirectories()),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);
+    core.desktop.sessionIsEnding = [this] { windowRestoration_.save(); };
 }
 
 DesktopSession::~DesktopSession() {
-    core_.windows.setKeyboardLayout(nullptr);
+    core_.desktop.setKeyboardLayout(nullptr);
+    core_.desktop.sessionIsEnding = nullptr;
 }
 
 void DesktopSession::launch(const std::vector<std::string>& documents,
@@ -49,7 +47,7 @@ void DesktopSession::launch(const std::vector<std::string>& documents,
 void DesktopSession::listen() {
     hotKeys_.emplace(xDisplayName(), core_.runLoop);
     core_.face.setKeyboardLayout(hotKeys_->layout());
-    core_.windows.setKeyboardLayout(hotKeys_->layout());
+    core_.desktop.setKeyboardLayout(hotKeys_->layout());
     core_.controller.updateHotKey();
     core_.face.launchDidFinish();
     sources_.emplace(

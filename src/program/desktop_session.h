@@ -1,7 +1,5 @@
 #pragma once
 
-#include "desktop/menus/desktop_menus.h"
-#include "documents/recent_documents.h"
 #include "program/desktop_hot_keys.h"
 #include "program/forwarded_object.h"
 #include "program/window_restoration.h"
@@ -41,9 +39,7 @@ class DesktopSession {
 
     Core& core_;
     const ConnectedDisplays& displays_;
-    const RecentDocuments recentDocuments_;
     const ForwardedObject launcherMenu_;
-    DesktopMenus menus_;
     const DesktopEntries applications_;
     WindowRestoration windowRestoration_;
     std::optional<DesktopHotKeys> hotKeys_;

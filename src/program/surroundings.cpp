@@ -32,6 +32,11 @@ bool hasDesktop() {
 
 } // namespace
 
+bool canShowWindows() {
+    const std::string platform = environment("QT_QPA_PLATFORM");
+    return platform.empty() ? hasDesktop() : !platform.starts_with("offscreen");
+}
+
 void choosePlatform() {
     if (environment("QT_QPA_PLATFORM").empty() && !hasDesktop()) {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);

@@ -8,8 +8,10 @@ namespace nocturo {
 
 // What the process finds around itself. Everything else is handed what it needs of it.
 
-/// Lets Qt draw into memory where there is no desktop to show windows on. To be called before the
-/// application is made.
+/// Whether there is a desktop that windows can be shown on.
+bool canShowWindows();
+
+/// Lets Qt draw into memory where there is none. To be called before the desktop part is started.
 void choosePlatform();
 
 /// The X server's name; empty where there is none.

@@ -4,31 +4,16 @@
 #include "base/log.h"
 #include "settings/settings_file.h"
 
-#include <QGuiApplication>
-#include <QSessionManager>
-
 #include <utility>
 
 namespace nocturo {
 
 WindowRestoration::WindowRestoration(NDAppController& controller, std::filesystem::path file)
-    : controller_(controller), file_(std::move(file)) {
-    // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
-    const auto startNothing = [](QSessionManager& session) {
-        session.setRestartHint(QSessionManager::RestartNever);
-    };
-    connect(qGuiApp, &QGuiApplication::saveStateRequest, this, startNothing);
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, startNothing);
-}
+    : controller_(controller), file_(std::move(file)) {}
 
 void WindowRestoration::restore() {
     const PropertyListFileContents contents = readPropertyListFile(file_);
     controller_.didDecodeRestorableState(contents.dictionary);
-}
-
-void WindowRestoration::startKeeping() {
-    keeping_ = true;
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { save(); });
 }
 
 void WindowRestoration::save() const {

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QObject>
-
 #include <filesystem>
 
 namespace nocturo {
 
 class NDAppController;
 
-/// Keeps, from one run to the next, which windows were to be seen: written when the session ends
-/// and when asked, which whoever ends the application does. Needs a QGuiApplication.
-class WindowRestoration : public QObject {
+/// Keeps, from one run to the next, which windows were to be seen. Whoever ends the application or
+/// hears of the session's end has it written.
+class WindowRestoration {
   public:
     /// `file` is the absolute path of a property list, which need not exist.
     WindowRestoration(NDAppController& controller, std::filesystem::path file);
@@ -19,7 +17,7 @@ class WindowRestoration : public QObject {
     void restore();
 
     /// Until then nothing is written, so that a launch that ends early keeps what was there.
-    void startKeeping();
+    void startKeeping() { keeping_ = true; }
 
     /// Writes what is to be seen now, once keeping has started.
     void save() const;

@@ -67,8 +67,9 @@ struct Surroundings : UserInterface, DesktopFace, InstalledApplications {
         log.emplace_back(color.blue == 0.84 ? "about color" : "another color");
     }
     bool preferencesVisible() const override { return false; }
-    void loadPreferences() override { log.emplace_back("load"); }
+    std::string whyNoWindows() override { return {}; }
     bool openEffectFile(const std::string& /*path*/) override { return false; }
+    bool applyEffectFile(const std::string& /*path*/) override { return false; }
     bool saveEffectFile(const std::string& /*path*/) override { return false; }
     std::vector<std::uint8_t> previewPicture(CGDirectDisplayID /*display*/) override { return {}; }
 

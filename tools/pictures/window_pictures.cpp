@@ -102,6 +102,7 @@ int run(const QStringList& arguments) {
     const QtLoop qtLoop(runLoop);
     NDAppController controller(defaults, centers, runLoop);
     AppWindows windows(controller, defaults, centers);
+    controller.setUserInterface(&windows);
     const auto displays =
         openDisplays(*parseDisplayChoice("simulated:2"), {"", *runtimeDirectory(), ""}, runLoop);
     setDisplayServices(displays->services.get());
@@ -119,7 +120,8 @@ int run(const QStringList& arguments) {
         NDGroupEffect::effect().addEffect("NDDimEffect");
     }
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
-    const DesktopMenus menus(controller, defaults, centers.local, windows, recentDocuments, {});
+    DesktopMenus menus(controller, defaults, centers.local, windows, recentDocuments, {});
+    controller.setDesktopFace(&menus);
     controller.applicationDidFinishLaunching();
     show(windows, arguments[1]);
     QTimer::singleShot(1000, [&] {

@@ -49,14 +49,12 @@ DesktopMenus::DesktopMenus(NDAppController& controller, DefaultsStore& defaults,
                            StatusItem::Surroundings surroundings)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter), windows_(windows),
       recentDocuments_(recentDocuments), surroundings_(std::move(surroundings)) {
-    controller_.setDesktopFace(this);
     windows_.documentWasUsed = [this](const QString& path) {
         recentDocuments_.note(path.toStdString());
     };
 }
 
 DesktopMenus::~DesktopMenus() {
-    controller_.setDesktopFace(nullptr);
     windows_.documentWasUsed = nullptr;
 }
 

@@ -1,5 +1,7 @@
 #include "displays/guard/guard_process.h"
 
+#include "base/program_files.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -50,12 +52,7 @@ class SpawnSettings {
 } // namespace
 
 std::filesystem::path guardProgram() {
-    std::error_code failed;
-    const auto directory = std::filesystem::read_symlink("/proc/self/exe", failed).parent_path();
-    const auto beside = directory / kName;
-    const auto installed = directory / NOCTURO_LIBEXEC_FROM_BIN / kName;
-    return access(beside.c_str(), X_OK) != 0 && access(installed.c_str(), X_OK) == 0 ? installed
-                                                                                     : beside;
+    return programFile(kName, NOCTURO_LIBEXEC_FROM_BIN);
 }
 
 GuardProcess::GuardProcess() : ends_(epoll_create1(EPOLL_CLOEXEC)) {}

@@ -1,0 +1,84 @@
+#include "desktop/desktop_library.h"
+
+#include "desktop/app_windows.h"
+#include "desktop/menus/desktop_menus.h"
+#include "desktop/qt/qt_loop.h"
+#include "desktop/qt/session_bus.h"
+#include "desktop/qt/translations.h"
+
+#include <QApplication>
+#include <QSessionManager>
+
+#include <optional>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+char programName[] = "nocturo";
+char* arguments[] = {programName, nullptr};
+int argumentCount = 1;
+
+/// Qt's application, in whose loop the core's runs.
+class Application {
+  public:
+    explicit Application(EventLoop& loop) {
+        if (QCoreApplication::instance() != nullptr) {
+            return; // the program has made one already
+        }
+        application_.emplace(argumentCount, arguments);
+        installTranslations(*application_);
+        QApplication::setApplicationName(QStringLiteral("Nocturo"));
+        QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));
+        QApplication::setQuitOnLastWindowClosed(false);
+        qtLoop_.emplace(loop);
+    }
+
+  private:
+    std::optional<QApplication> application_;
+    std::optional<QtLoop> qtLoop_;
+};
+
+class QtDesktop : public DesktopPart {
+  public:
+    explicit QtDesktop(const DesktopSurroundings& around)
+        : application_(around.loop), windows_(around.controller, around.defaults, around.centers),
+          menus_(around.controller, around.defaults, around.centers.local, windows_,
+                 around.recentDocuments,
+                 {connectToSessionBus(), qEnvironmentVariable("DISPLAY").toStdString()}) {
+        // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
+        const auto startNothing = [](QSessionManager& session) {
+            session.setRestartHint(QSessionManager::RestartNever);
+        };
+        QObject::connect(qApp, &QGuiApplication::saveStateRequest, qApp, startNothing);
+        QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
+                         [startNothing, keep = around.sessionIsEnding](QSessionManager& session) {
+                             startNothing(session);
+                             keep();
+                         });
+    }
+
+    UserInterface& windows() override { return windows_; }
+    DesktopFace& face() override { return menus_; }
+    void setKeyboardLayout(KeyboardLayout* layout) override { windows_.setKeyboardLayout(layout); }
+
+  private:
+    Application application_;
+    AppWindows windows_;
+    DesktopMenus menus_;
+};
+
+} // namespace
+
+} // namespace nocturo
+
+const nocturo::DesktopLibrary* nocturoDesktopLibrary() {
+    using namespace nocturo;
+    static constexpr DesktopLibrary kLibrary = {
+        NOCTURO_VERSION,
+        [](const DesktopSurroundings& surroundings) -> std::unique_ptr<DesktopPart> {
+            return std::make_unique<QtDesktop>(surroundings);
+        }};
+    return &kLibrary;
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "app/desktop_face.h"
+#include "app/user_interface.h"
+#include "base/notification_center.h"
+
+#include <functional>
+#include <memory>
+
+namespace nocturo {
+
+class DefaultsStore;
+class EventLoop;
+class KeyboardLayout;
+class NDAppController;
+class RecentDocuments;
+
+/// What the desktop part is given of the core.
+struct DesktopSurroundings {
+    EventLoop& loop; // runs inside Qt's from then on
+    NDAppController& controller;
+    DefaultsStore& defaults;
+    NotificationCenters centers;
+    const RecentDocuments& recentDocuments;
+    std::function<void()> sessionIsEnding; // the time to keep what is to come back
+};
+
+/// Everything that is made of Qt, from when it is first needed until the program ends.
+class DesktopPart {
+  public:
+    virtual ~DesktopPart() = default;
+    virtual UserInterface& windows() = 0;
+    virtual DesktopFace& face() = 0;
+
+    /// Must outlive the part or be taken away with null.
+    virtual void setKeyboardLayout(KeyboardLayout* layout) = 0;
+};
+
+/// What the library that holds the desktop part is entered through. It takes everything of the
+/// core from the program that loads it, so that there is one of each.
+struct DesktopLibrary {
+    const char* version; // the program's own, or the two do not fit together
+
+    /// To be called once. What it is given must outlive the part.
+    std::unique_ptr<DesktopPart> (*start)(const DesktopSurroundings& surroundings);
+};
+
+inline constexpr const char* kDesktopLibraryEntry = "nocturoDesktopLibrary";
+
+} // namespace nocturo
+
+extern "C" const nocturo::DesktopLibrary* nocturoDesktopLibrary();

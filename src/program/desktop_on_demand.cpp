@@ -1,0 +1,189 @@
+#include "program/desktop_on_demand.h"
+
+#include "app/app_controller.h"
+#include "base/log.h"
+#include "base/program_files.h"
+#include "base/texts/translated.h"
+#include "documents/current_effects.h"
+#include "documents/effect_document_file.h"
+#include "program/surroundings.h"
+
+#include <dlfcn.h>
+#include <string_view>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+constexpr const char* kLibrary = "libnocturo-desktop.so";
+
+/// The library stays loaded until the process ends: Qt cannot be unloaded.
+Result<const DesktopLibrary*> loadLibrary() {
+    const std::filesystem::path file = programFile(kLibrary, NOCTURO_LIBRARIES_FROM_BIN);
+    if (!std::filesystem::exists(file)) {
+        return failed(translated("Windows come with the package nocturo-desktop, which is not "
+                                 "installed."));
+    }
+    void* handle = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* entry = handle != nullptr ? dlsym(handle, kDesktopLibraryEntry) : nullptr;
+    if (entry == nullptr) {
+        return failed(translated("Windows cannot be shown: %@.", {dlerror()}));
+    }
+    const auto* library = reinterpret_cast<decltype(&nocturoDesktopLibrary)>(entry)();
+    if (std::string_view(library->version) != NOCTURO_VERSION) {
+        return failed(translated("Windows cannot be shown before Nocturo is started again, because "
+                                 "another version was installed meanwhile."));
+    }
+    return library;
+}
+
+} // namespace
+
+DesktopOnDemand::DesktopOnDemand(EventLoop& loop, NDAppController& controller,
+                                 DefaultsStore& defaults, const NotificationCenters& centers)
+    : loop_(loop), controller_(controller), defaults_(defaults), centers_(centers),
+      recentDocuments_(stateDirectory() / "recent-documents.plist") {
+    controller_.setUserInterface(this);
+    controller_.setDesktopFace(this);
+}
+
+DesktopOnDemand::~DesktopOnDemand() {
+    controller_.setDesktopFace(nullptr);
+    controller_.setUserInterface(nullptr);
+}
+
+Result<DesktopPart*> DesktopOnDemand::load() {
+    if (part_ != nullptr) {
+        return part_.get();
+    }
+    const auto library = loadLibrary();
+    if (!library) {
+        return tl::unexpected(library.error());
+    }
+    choosePlatform();
+    part_ = (*library)->start({loop_, controller_, defaults_, centers_, recentDocuments_, [this] {
+                                   if (sessionIsEnding) {
+                                       sessionIsEnding();
+                                   }
+                               }});
+    part_->setKeyboardLayout(layout_);
+    if (aboutBoxColor_) {
+        part_->windows().setAboutBoxBackgroundColor(*aboutBoxColor_);
+    }
+    return part_.get();
+}
+
+DesktopPart* DesktopOnDemand::partOrWarning() {
+    const auto part = load();
+    if (!part) {
+        logWarning(kLogApp, part.error().text);
+    }
+    return part.value_or(nullptr);
+}
+
+void DesktopOnDemand::setKeyboardLayout(KeyboardLayout* layout) {
+    layout_ = layout;
+    if (part_ != nullptr) {
+        part_->setKeyboardLayout(layout);
+    }
+}
+
+std::string DesktopOnDemand::whyNoWindows() {
+    const auto part = load();
+    return part ? std::string() : part.error().text;
+}
+
+void DesktopOnDemand::showPreferences() {
+    if (auto* part = partOrWarning()) {
+        part->windows().showPreferences();
+    }
+}
+
+void DesktopOnDemand::showAboutBox() {
+    if (auto* part = partOrWarning()) {
+        part->windows().showAboutBox();
+    }
+}
+
+void DesktopOnDemand::setAboutBoxBackgroundColor(const OpaqueColor& color) {
+    aboutBoxColor_ = color;
+    if (part_ != nullptr) {
+        part_->windows().setAboutBoxBackgroundColor(color);
+    }
+}
+
+bool DesktopOnDemand::preferencesVisible() const {
+    return part_ != nullptr && part_->windows().preferencesVisible();
+}
+
+bool DesktopOnDemand::openEffectFile(const std::string& path) {
+    return part_ != nullptr ? part_->windows().openEffectFile(path)
+                            : readEffectDocument(path).has_value();
+}
+
+bool DesktopOnDemand::applyEffectFile(const std::string& path) {
+    if (part_ != nullptr) {
+        return part_->windows().applyEffectFile(path);
+    }
+    const auto document = readEffectDocument(path);
+    if (document) {
+        setCurrentEffects(*document);
+        recentDocuments_.note(path);
+    }
+    return document.has_value();
+}
+
+bool DesktopOnDemand::saveEffectFile(const std::string& path) {
+    return part_ != nullptr ? part_->windows().saveEffectFile(path)
+                            : writeEffectDocument(path, currentEffects());
+}
+
+std::vector<std::uint8_t> DesktopOnDemand::previewPicture(CGDirectDisplayID display) {
+    auto* part = partOrWarning();
+    return part != nullptr ? part->windows().previewPicture(display) : std::vector<std::uint8_t>();
+}
+
+void DesktopOnDemand::showAlert(const Alert& alert,
+                                std::function<void(AlertAnswer answer)> answered) {
+    auto* part = canShowWindows() ? partOrWarning() : nullptr;
+    if (part != nullptr) {
+        part->face().showAlert(alert, std::move(answered));
+        return;
+    }
+    logWarning(kLogApp, filledText(alert.title, alert.titleArguments));
+    answered(AlertAnswer::unseen);
+}
+
+void DesktopOnDemand::showRefusedDocuments(const std::vector<std::string>& paths) {
+    auto* part = canShowWindows() ? partOrWarning() : nullptr;
+    if (part != nullptr) {
+        part->face().showRefusedDocuments(paths);
+    }
+}
+
+void DesktopOnDemand::setActivateItemTitles(bool active) {
+    if (auto* part = partOrWarning()) {
+        part->face().setActivateItemTitles(active);
+    }
+}
+
+void DesktopOnDemand::setStatusItemShown(bool shown) {
+    if (auto* part = partOrWarning()) {
+        part->face().setStatusItemShown(shown);
+    }
+}
+
+void DesktopOnDemand::setStatusItemImage(bool active) {
+    if (auto* part = partOrWarning()) {
+        part->face().setStatusItemImage(active);
+    }
+}
+
+void DesktopOnDemand::makeScreenMenus() {
+    if (auto* part = partOrWarning()) {
+        part->face().makeScreenMenus();
+    }
+}
+
+} // namespace nocturo

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/desktop_face.h"
+#include "app/user_interface.h"
+#include "base/notification_center.h"
+#include "base/result.h"
+#include "desktop/desktop_library.h"
+#include "documents/recent_documents.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace nocturo {
+
+class DefaultsStore;
+class EventLoop;
+class KeyboardLayout;
+class NDAppController;
+
+/// The windows and everything else that the desktop part shows, for the core. The library that
+/// holds it is loaded when one of them is first needed; where it is not installed, what needs it
+/// does nothing, and one sentence says what is missing.
+class DesktopOnDemand : public UserInterface, public DesktopFace {
+  public:
+    /// All must outlive this.
+    DesktopOnDemand(EventLoop& loop, NDAppController& controller, DefaultsStore& defaults,
+                    const NotificationCenters& centers);
+    ~DesktopOnDemand() override;
+
+    /// Called when the session is about to end, if a window was ever shown.
+    std::function<void()> sessionIsEnding;
+
+    /// Must outlive this or be taken away with null.
+    void setKeyboardLayout(KeyboardLayout* layout);
+
+    std::string whyNoWindows() override;
+    void showPreferences() override;
+    void showAboutBox() override;
+    void setAboutBoxBackgroundColor(const OpaqueColor& color) override;
+    bool preferencesVisible() const override;
+    bool openEffectFile(const std::string& path) override;
+    bool applyEffectFile(const std::string& path) override;
+    bool saveEffectFile(const std::string& path) override;
+    std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) override;
+
+    void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override;
+    void showRefusedDocuments(const std::vector<std::string>& paths) override;
+    void setActivateItemTitles(bool active) override;
+    void setStatusItemShown(bool shown) override;
+    void setStatusItemImage(bool active) override;
+    void makeScreenMenus() override;
+
+  private:
+    Result<DesktopPart*> load();
+    DesktopPart* partOrWarning();
+
+    EventLoop& loop_;
+    NDAppController& controller_;
+    DefaultsStore& defaults_;
+    const NotificationCenters centers_;
+    const RecentDocuments recentDocuments_;
+    KeyboardLayout* layout_ = nullptr;
+    std::optional<OpaqueColor> aboutBoxColor_;
+    std::unique_ptr<DesktopPart> part_; // null until it is needed
+};
+
+} // namespace nocturo
