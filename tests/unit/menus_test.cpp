@@ -6,6 +6,7 @@
 #include "desktop/menus/drawn_menu.h"
 #include "desktop/menus/main_menu.h"
 #include "desktop/menus/status_image.h"
+#include "desktop/menus/taskbar_presence.h"
 #include "display_services_fixture.h"
 #include "documents/recent_documents.h"
 #include "settings/defaults_store.h"
@@ -237,6 +238,19 @@ TEST(StatusImages, AreSeenOnPanelsOfUnknownColor) {
             EXPECT_GT(difference(on, off), 0.15) << side << " on " << shade;
         }
     }
+}
+
+TEST(TaskbarPresence, HidesWindowsThatNoTaskBarBringsBack) {
+    QWidget window;
+    window.show();
+    TaskbarPresence presence;
+    presence.setHidden(true);
+    window.setWindowState(Qt::WindowMinimized);
+    EXPECT_FALSE(window.isVisible());
+    window.showNormal();
+    presence.setHidden(false);
+    window.setWindowState(Qt::WindowMinimized);
+    EXPECT_TRUE(window.isVisible());
 }
 
 } // namespace

@@ -41,20 +41,32 @@ void TaskbarPresence::setHidden(bool hidden) {
     if (std::exchange(hidden_, hidden) == hidden) {
         return;
     }
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (isOrdinaryWindow(*window) && window->isVisible()) {
-            tell(*window, true);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!isOrdinaryWindow(*window) || !window->isVisible()) {
+            continue;
+        }
+        tell(*window, true);
+        if (!hidden) { // an ordinary application comes to the front
+            window->raise();
+            window->activateWindow();
         }
     }
 }
 
 bool TaskbarPresence::eventFilter(QObject* watched, QEvent* event) {
+    auto* window = hidden_ ? qobject_cast<QWidget*>(watched) : nullptr;
+    if (window == nullptr || !isOrdinaryWindow(*window)) {
+        return false;
+    }
     // A window that is shown hears of it just before it is mapped.
-    if (hidden_ && event->type() == QEvent::Show && !event->spontaneous()) {
-        const auto* window = qobject_cast<QWidget*>(watched);
-        if (window != nullptr && isOrdinaryWindow(*window)) {
-            tell(*window, false);
-        }
+    if (event->type() == QEvent::Show && !event->spontaneous()) {
+        tell(*window, false);
+    }
+    // Nothing on the task bar would bring a minimized window back; the tray's menu does. One that
+    // waits for an answer stays, for the question would go with it.
+    if (event->type() == QEvent::WindowStateChange && window->isMinimized() &&
+        QApplication::activeModalWidget() == nullptr) {
+        window->hide();
     }
     return false;
 }
