@@ -5,6 +5,7 @@
 #include "desktop/qt/qt_loop.h"
 #include "desktop/qt/session_bus.h"
 #include "desktop/qt/translations.h"
+#include "desktop/test_card/test_card.h"
 
 #include <QApplication>
 #include <QSessionManager>
@@ -79,6 +80,7 @@ const nocturo::DesktopLibrary* nocturoDesktopLibrary() {
         NOCTURO_VERSION,
         [](const DesktopSurroundings& surroundings) -> std::unique_ptr<DesktopPart> {
             return std::make_unique<QtDesktop>(surroundings);
-        }};
+        },
+        writeTestCard};
     return &kLibrary;
 }

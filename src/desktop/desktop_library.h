@@ -4,6 +4,7 @@
 #include "app/user_interface.h"
 #include "base/notification_center.h"
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -14,6 +15,7 @@ class EventLoop;
 class KeyboardLayout;
 class NDAppController;
 class RecentDocuments;
+struct Ramp;
 
 /// What the desktop part is given of the core.
 struct DesktopSurroundings {
@@ -43,6 +45,9 @@ struct DesktopLibrary {
 
     /// To be called once. What it is given must outlive the part.
     std::unique_ptr<DesktopPart> (*start)(const DesktopSurroundings& surroundings);
+
+    /// Draws what a simulated display shows (DrawPicture); the part need not be started for it.
+    bool (*writeTestCard)(const Ramp& ramp, const std::filesystem::path& picture);
 };
 
 inline constexpr const char* kDesktopLibraryEntry = "nocturoDesktopLibrary";

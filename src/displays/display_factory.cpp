@@ -57,10 +57,11 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
     return opened;
 }
 
-OpenedDisplays openSimulated(unsigned count, const std::filesystem::path& pictureDirectory) {
+OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surroundings) {
+    const std::filesystem::path& pictureDirectory = surroundings.runtimeDirectory;
     OpenedDisplays opened;
     opened.services = std::make_unique<RampDisplayServices>(
-        std::make_unique<SimulatedHardware>(count, pictureDirectory));
+        std::make_unique<SimulatedHardware>(count, pictureDirectory, surroundings.drawPicture));
     opened.notice = translated("Displays are simulated; their pictures are in %@.",
                                {pictureDirectory.string()});
     return opened;
@@ -97,7 +98,7 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
 Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
                                     const DisplaySurroundings& surroundings, RunLoop& runLoop) {
     if (choice.kind == DisplayChoice::Kind::simulated) {
-        return openSimulated(choice.simulatedCount, surroundings.runtimeDirectory);
+        return openSimulated(choice.simulatedCount, surroundings);
     }
     // X servers are all there is to find so far, so "auto" looks where "randr" does.
     return openRandr(surroundings, runLoop);

@@ -2,6 +2,7 @@
 
 #include "base/result.h"
 #include "displays/display_services.h"
+#include "displays/simulated/draw_picture.h"
 
 #include <filesystem>
 #include <functional>
@@ -31,6 +32,7 @@ struct DisplaySurroundings {
     std::string xDisplay; // $DISPLAY; empty when not set
     std::filesystem::path runtimeDirectory;
     std::string systemBusAddress;
+    DrawPicture drawPicture; // of simulated displays
 };
 
 /// Display services with their place in an event loop.

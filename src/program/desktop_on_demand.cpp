@@ -40,6 +40,17 @@ Result<const DesktopLibrary*> loadLibrary() {
 
 } // namespace
 
+bool drawTestCard(const Ramp& ramp, const std::filesystem::path& picture) {
+    static const auto library = [] {
+        auto loaded = loadLibrary();
+        if (!loaded) {
+            logWarning(kLogDisplays, loaded.error().text);
+        }
+        return loaded;
+    }();
+    return library && (*library)->writeTestCard(ramp, picture);
+}
+
 DesktopOnDemand::DesktopOnDemand(EventLoop& loop, NDAppController& controller,
                                  DefaultsStore& defaults, const NotificationCenters& centers)
     : loop_(loop), controller_(controller), defaults_(defaults), centers_(centers),

@@ -67,4 +67,8 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     std::unique_ptr<DesktopPart> part_; // null until it is needed
 };
 
+/// Draws what a simulated display shows, by the library. False when that cannot be done; where the
+/// library is missing, one sentence has said so.
+bool drawTestCard(const Ramp& ramp, const std::filesystem::path& picture);
+
 } // namespace nocturo

@@ -91,7 +91,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
         loop.watch(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
     Result<OpenedDisplays> opened = openDisplays(
-        options.displays, {xDisplayName(), *directory, systemBusAddress()}, core.runLoop);
+        options.displays, {xDisplayName(), *directory, systemBusAddress(), drawTestCard}, core.runLoop);
     if (!opened) {
         tell(stderr, opened.error().text);
         return kFailure;

@@ -1,5 +1,6 @@
 #include "displays/simulated/simulated_hardware.h"
 
+#include "desktop/test_card/test_card.h"
 #include "temporary_directory.h"
 
 #include <QColor>
@@ -26,7 +27,7 @@ Ramp threeCurves() {
 TEST(SimulatedHardware, PicturesShowTheTestCardThroughEachRamp) {
     const TemporaryDirectory directory;
     const auto pictures = directory / "deep/pictures";
-    SimulatedHardware hardware(2, pictures);
+    SimulatedHardware hardware(2, pictures, writeTestCard);
     EXPECT_EQ(std::filesystem::status(pictures).permissions(), std::filesystem::perms::owner_all);
     ASSERT_TRUE(hardware.writeRamp(0, identityRamp(256)));
     ASSERT_TRUE(hardware.writeRamp(1, threeCurves()));

@@ -9,6 +9,7 @@
 #include "desktop/menus/desktop_menus.h"
 #include "desktop/qt/qt_loop.h"
 #include "desktop/qt/translations.h"
+#include "desktop/test_card/test_card.h"
 #include "displays/display_factory.h"
 #include "displays/display_functions.h"
 #include "documents/recent_documents.h"
@@ -104,7 +105,7 @@ int run(const QStringList& arguments) {
     AppWindows windows(controller, defaults, centers);
     controller.setUserInterface(&windows);
     const auto displays =
-        openDisplays(*parseDisplayChoice("simulated:2"), {"", *runtimeDirectory(), ""}, runLoop);
+        openDisplays(*parseDisplayChoice("simulated:2"), {"", *runtimeDirectory(), "", writeTestCard}, runLoop);
     setDisplayServices(displays->services.get());
     NDGroupEffect::effect();
     if (arguments[1] == QLatin1String("preferences")) {

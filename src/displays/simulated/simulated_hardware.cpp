@@ -1,7 +1,6 @@
 #include "displays/simulated/simulated_hardware.h"
 
 #include "base/log.h"
-#include "displays/simulated/test_card.h"
 
 #include <sys/stat.h>
 
@@ -27,9 +26,10 @@ void createPrivateDirectory(const std::filesystem::path& directory) {
 
 } // namespace
 
-SimulatedHardware::SimulatedHardware(unsigned count, std::filesystem::path pictureDirectory)
+SimulatedHardware::SimulatedHardware(unsigned count, std::filesystem::path pictureDirectory,
+                                     DrawPicture drawPicture)
     : ramps_(std::clamp(count, 1U, kMaxSimulatedHeads), identityRamp(kRampSize)),
-      pictureDirectory_(std::move(pictureDirectory)) {
+      pictureDirectory_(std::move(pictureDirectory)), drawPicture_(std::move(drawPicture)) {
     createPrivateDirectory(pictureDirectory_);
 }
 
@@ -68,7 +68,7 @@ bool SimulatedHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
 
 void SimulatedHardware::draw(std::uint32_t crtc) {
     const auto picture = pictureDirectory_ / ("display-" + std::to_string(crtc + 1) + ".png");
-    if (!writeTestCard(ramps_[crtc], picture) && !std::exchange(drawingFailureSaid_, true)) {
+    if (!drawPicture_(ramps_[crtc], picture) && !std::exchange(drawingFailureSaid_, true)) {
         logWarning(kLogDisplays, "The pictures of the simulated displays cannot be written to " +
                                      pictureDirectory_.string() + "; the displays still work.");
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "displays/gamma_hardware.h"
+#include "displays/simulated/draw_picture.h"
 
 #include <filesystem>
 #include <vector>
@@ -11,13 +12,14 @@ inline constexpr unsigned kMaxSimulatedHeads = 16;
 
 /// Displays that exist only in memory, for machines without any: "SIM-1", "SIM-2", ... side by
 /// side, 1920 x 1080 each, the first one primary, with 256-entry identity ramps at start. After
-/// each write display n's test card, as seen through its ramp, is in
+/// each write display n's test card, as seen through its ramp, is put at
 /// `pictureDirectory`/display-<n>.png.
 class SimulatedHardware : public GammaHardware {
   public:
     /// `count` is 1 to kMaxSimulatedHeads. The directory is created, for this user alone, where it
     /// does not exist. When pictures cannot be written that is said once and the ramps still work.
-    SimulatedHardware(unsigned count, std::filesystem::path pictureDirectory);
+    SimulatedHardware(unsigned count, std::filesystem::path pictureDirectory,
+                      DrawPicture drawPicture);
 
     std::string_view name() const override { return "simulated"; }
     std::uint64_t topologyGeneration() override { return 1; }
@@ -31,6 +33,7 @@ class SimulatedHardware : public GammaHardware {
 
     std::vector<Ramp> ramps_; // by CRTC
     std::filesystem::path pictureDirectory_;
+    DrawPicture drawPicture_;
     bool drawingFailureSaid_ = false;
 };
 

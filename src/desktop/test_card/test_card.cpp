@@ -1,4 +1,4 @@
-#include "displays/simulated/test_card.h"
+#include "desktop/test_card/test_card.h"
 
 #include <QBuffer>
 #include <QImage>
