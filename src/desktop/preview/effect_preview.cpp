@@ -3,7 +3,6 @@
 #include "desktop/mixed_color.h"
 #include "desktop/preview/curve_plot.h"
 #include "desktop/preview/preview_description.h"
-#include "desktop/preview/preview_scene.h"
 #include "desktop/qt/localized.h"
 
 #include <QAccessibleWidget>
@@ -13,12 +12,32 @@
 #include <algorithm>
 #include <cmath>
 
+// A static library's resources are dropped by the linker unless they are asked for by name, which
+// must be done outside of any namespace.
+static void keepResource() {
+    Q_INIT_RESOURCE(preview);
+}
+
 namespace nocturo {
 
 namespace {
 
 constexpr double kPictureShape = 1.5; // width to height
 constexpr double kGap = 12;
+
+/// What is seen through the curves, in device pixels; a size that was just asked for costs nothing.
+const QImage& scene(QSize size) {
+    static const QImage drawn = [] {
+        keepResource();
+        return QImage(QStringLiteral(":/preview/preview.png"));
+    }();
+    static QImage scaled;
+    if (scaled.size() != size) {
+        scaled = drawn.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                     .convertToFormat(QImage::Format_RGB32);
+    }
+    return scaled;
+}
 
 QImage throughLevels(const QImage& scene, const std::array<LevelTable, 3>& levels) {
     const auto& [red, green, blue] = levels;
@@ -43,7 +62,7 @@ void paintPicture(QPainter& painter, const QRectF& place, const PreviewCurves& c
     if (pixels.isEmpty()) {
         return;
     }
-    QImage seen = throughLevels(previewScene(pixels), pictureLevels(curves));
+    QImage seen = throughLevels(scene(pixels), pictureLevels(curves));
     seen.setDevicePixelRatio(ratio);
     const QPointF corner(std::round(place.left() * ratio) / ratio,
                          std::round(place.top() * ratio) / ratio);
@@ -80,8 +99,8 @@ Layout layoutIn(const QPainter& painter, const QRectF& area) {
         layout.picture.moveCenter(QPointF(room.center().x(), layout.picture.center().y()));
         return layout;
     }
-    // The plot is about as wide as high, the picture gets what is left.
-    const double width = std::min(room.height() * 1.15, room.width() * 0.5);
+    // The plot is about as wide as high at most, the picture gets what is left.
+    const double width = std::min(room.height() * 1.15, room.width() * 0.42);
     layout.plot = QRectF(room.left(), room.top(), width, room.height());
     layout.picture = pictureIn(room.adjusted(width + kGap, 0, 0, 0));
     if (painter.layoutDirection() == Qt::RightToLeft) {
@@ -103,19 +122,6 @@ class EffectPreviewAccessible : public QAccessibleWidget {
             return static_cast<EffectPreview*>(object())->description();
         }
         return text;
-    }
-
-    static void install() {
-        static const bool installed = [] {
-            QAccessible::installFactory([](const QString& /*className*/, QObject* object) {
-                auto* preview = qobject_cast<EffectPreview*>(object);
-                return preview != nullptr ? static_cast<QAccessibleInterface*>(
-                                                new EffectPreviewAccessible(preview))
-                                          : nullptr;
-            });
-            return true;
-        }();
-        Q_UNUSED(installed)
     }
 };
 
@@ -149,7 +155,7 @@ QImage renderEffectPreview(const PreviewCurves& curves, QSize size, double devic
 }
 
 EffectPreview::EffectPreview(QWidget* parent) : QWidget(parent) {
-    EffectPreviewAccessible::install();
+    QAccessible::registerAccessibleInterface(new EffectPreviewAccessible(this));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     setAccessibleName(localized("Preview"));
 }
