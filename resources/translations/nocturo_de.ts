@@ -275,6 +275,10 @@
             <translation>Einen Bildschirm mit der Kennung %d gibt es nicht.</translation>
         </message>
         <message>
+            <source>Nocturo waits for the answer to the question that it shows.</source>
+            <translation>Nocturo wartet auf die Antwort auf die Frage, die es zeigt.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Dies sind keine Effektdokumente: %@</translation>
         </message>

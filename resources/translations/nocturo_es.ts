@@ -275,6 +275,10 @@
             <translation>No hay ninguna pantalla con el identificador %d.</translation>
         </message>
         <message>
+            <source>Nocturo waits for the answer to the question that it shows.</source>
+            <translation>Nocturo espera la respuesta a la pregunta que muestra.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Estos no son documentos de efecto: %@</translation>
         </message>

@@ -275,6 +275,10 @@
             <translation>Aucun écran n’a l’identifiant %d.</translation>
         </message>
         <message>
+            <source>Nocturo waits for the answer to the question that it shows.</source>
+            <translation>Nocturo attend la réponse à la question qu’il affiche.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Ce ne sont pas des documents d’effet : %@</translation>
         </message>

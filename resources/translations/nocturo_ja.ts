@@ -275,6 +275,10 @@
             <translation>識別子 %d の画面はありません。</translation>
         </message>
         <message>
+            <source>Nocturo waits for the answer to the question that it shows.</source>
+            <translation>Nocturo は表示している質問への回答を待っています。</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>効果のドキュメントではありません: %@</translation>
         </message>

@@ -275,6 +275,10 @@
             <translation>Não há tela com o identificador %d.</translation>
         </message>
         <message>
+            <source>Nocturo waits for the answer to the question that it shows.</source>
+            <translation>O Nocturo espera a resposta à pergunta que está mostrando.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Estes não são documentos de efeito: %@</translation>
         </message>

@@ -275,6 +275,10 @@
             <translation>没有标识符为 %d 的屏幕。</translation>
         </message>
         <message>
+            <source>Nocturo waits for the answer to the question that it shows.</source>
+            <translation>Nocturo 正在等待对所显示问题的回答。</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>以下不是效果文档：%@</translation>
         </message>

@@ -108,7 +108,7 @@ void NDAppController::showRefusedDocuments(const std::vector<std::string>& paths
 }
 
 void NDAppController::setEffectActive(bool active, bool saveState) {
-    if (globalEffect_ == nullptr) {
+    if (!isReady()) {
         return; // asked for while the launch still waits for an answer that may forbid it
     }
     if (saveState) {
@@ -120,6 +120,8 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
         }
         adjustScreenControllers();
         setActivateItemTitles();
+        // Once, also where it was on: what says "on" again and again would add up.
+        centers_.distributed.removeObserver(this, kScreenSaverDidStartNotification);
         observe(centers_.distributed, kScreenSaverDidStartNotification,
                 &NDAppController::screenSaverDidStart);
     } else {

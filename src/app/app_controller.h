@@ -128,6 +128,10 @@ class NDAppController : public ActionTarget {
     /// on; every switch-off ends that, also for colour profiles, which are not followed again.
     void setEffectActive(bool active, bool saveState);
     bool effectActive() const { return screenControllers_.has_value(); }
+
+    /// False while the launch may still be forbidden by the answer to a question: nothing can be
+    /// switched, and nobody is to write settings.
+    bool isReady() const { return globalEffect_ != nullptr; }
     void toggleGlobalEffect();
 
     /// Makes and drops screen controllers until they match the affected screen set; changes nothing

@@ -66,35 +66,35 @@ const std::array<sd_bus_vtable, 30> BusFace::Table::members = {{
     SD_BUS_PROPERTY("Disturbances", "u", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Disturber", "s", tellProperty, 0, kTold),
     SD_BUS_METHOD_WITH_ARGS("SetActive", SD_BUS_ARGS("b", active), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::setActive>, kFree),
-    SD_BUS_METHOD_WITH_ARGS("Toggle", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::toggle>,
-                            kFree),
+                            kServeWhenReady<&BusFace::setActive>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("Toggle", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::toggle>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AddEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::addEffects>, kFree),
+                            kServeWhenReady<&BusFace::addEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::removeEffects>, kFree),
+                            kServeWhenReady<&BusFace::removeEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetSetting", SD_BUS_ARGS("s", key, "v", value), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::setSetting>, kFree),
+                            kServeWhenReady<&BusFace::setSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ResetSetting", SD_BUS_ARGS("s", key), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::resetSetting>, kFree),
+                            kServeWhenReady<&BusFace::resetSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ToggleScreen", SD_BUS_ARGS("u", id), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::toggleScreen>, kFree),
+                            kServeWhenReady<&BusFace::toggleScreen>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AffectAllScreens", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
-                            kServe<&BusFace::affectAllScreens>, kFree),
+                            kServeWhenReady<&BusFace::affectAllScreens>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetHotKey", SD_BUS_ARGS("s", text), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::setHotKey>, kFree),
+                            kServeWhenReady<&BusFace::setHotKey>, kFree),
     SD_BUS_METHOD_WITH_ARGS("OpenFile", SD_BUS_ARGS("s", path), SD_BUS_NO_RESULT,
-                            kServe<&BusFace::openFile>, kFree),
+                            kServeWhenReady<&BusFace::openFile>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SaveFile", SD_BUS_ARGS("s", path), SD_BUS_NO_RESULT,
                             kServe<&BusFace::saveFile>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ShowPreferences", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
-                            kServe<&BusFace::showPreferences>, kFree),
+                            kServeWhenReady<&BusFace::showPreferences>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ShowAboutBox", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
                             kServe<&BusFace::showAboutBox>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RenderPreview", SD_BUS_ARGS("u", id), SD_BUS_RESULT("ay", picture),
                             renderPreview, kFree),
-    SD_BUS_METHOD_WITH_ARGS("Reopen", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::reopen>,
-                            kFree),
+    SD_BUS_METHOD_WITH_ARGS("Reopen", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::reopen>, kFree),
     SD_BUS_METHOD_WITH_ARGS("Quit", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::quit>,
                             kFree),
     SD_BUS_VTABLE_END,
@@ -142,6 +142,10 @@ int BusFace::tellProperty(sd_bus* /*bus*/, const char* /*path*/, const char* /*i
                           sd_bus_error* /*error*/) {
     appendValue(reply, static_cast<BusFace*>(self)->state_.property(property));
     return 0;
+}
+
+BusAnswer BusFace::whetherReady() const {
+    return nocturo::whetherReady(controller_);
 }
 
 BusAnswer BusFace::setActive(bool active) {

@@ -37,6 +37,9 @@ class BusFace {
     /// who follows it has acted.
     void announceChanges();
 
+    /// Whether calls that change something may be carried out.
+    BusAnswer whetherReady() const;
+
     /// Launchers' calls are more than the launch from now on.
     void launchDidFinish();
 

@@ -26,20 +26,23 @@ inline tl::unexpected<BusFailure> failure(std::string sentence) {
 
 namespace detail {
 
-template <auto Method>
+template <auto Method, bool whenReady>
 struct Served;
 
-template <typename Object, typename... Arguments,
-          BusAnswer (Object::*Method)(Arguments...)>
-struct Served<Method> {
+template <typename Object, typename... Arguments, BusAnswer (Object::*Method)(Arguments...),
+          bool whenReady>
+struct Served<Method, whenReady> {
     static int call(sd_bus_message* call, void* object, sd_bus_error* error) {
         std::tuple<std::decay_t<Arguments>...> arguments;
         if (!readArguments(call, arguments)) {
             return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
         }
-        const BusAnswer answer = std::apply(
-            [object](auto&... each) { return (static_cast<Object*>(object)->*Method)(each...); },
-            arguments);
+        auto& self = *static_cast<Object*>(object);
+        BusAnswer answer = whenReady ? self.whetherReady() : BusAnswer();
+        if (answer) {
+            answer =
+                std::apply([&self](auto&... each) { return (self.*Method)(each...); }, arguments);
+        }
         if (!answer) {
             return sd_bus_error_set(error, answer.error().errorName,
                                     answer.error().sentence.c_str());
@@ -54,6 +57,10 @@ struct Served<Method> {
 /// with nothing, or with what the method says went wrong. Arguments that the method does not take
 /// are left alone.
 template <auto Method>
-inline constexpr sd_bus_message_handler_t kServe = detail::Served<Method>::call;
+inline constexpr sd_bus_message_handler_t kServe = detail::Served<Method, false>::call;
+
+/// The same, while whetherReady() of the object says nothing against it.
+template <auto Method>
+inline constexpr sd_bus_message_handler_t kServeWhenReady = detail::Served<Method, true>::call;
 
 } // namespace nocturo

@@ -42,7 +42,7 @@ const std::array<sd_bus_vtable, 5> LauncherFace::Table::members = {{
     SD_BUS_METHOD_WITH_ARGS("Activate", SD_BUS_ARGS("a{sv}", platformData), SD_BUS_NO_RESULT,
                             kServe<&LauncherFace::activate>, kFree),
     SD_BUS_METHOD_WITH_ARGS("Open", SD_BUS_ARGS("as", uris, "a{sv}", platformData),
-                            SD_BUS_NO_RESULT, kServe<&LauncherFace::open>, kFree),
+                            SD_BUS_NO_RESULT, kServeWhenReady<&LauncherFace::open>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ActivateAction",
                             SD_BUS_ARGS("s", name, "av", parameter, "a{sv}", platformData),
                             SD_BUS_NO_RESULT, kServe<&LauncherFace::activateAction>, kFree),
@@ -69,6 +69,10 @@ void LauncherFace::launchDidFinish() {
                               [this](sd_bus_message* /*answer*/) { launched_ = true; });
 }
 
+BusAnswer LauncherFace::whetherReady() const {
+    return nocturo::whetherReady(controller_);
+}
+
 BusAnswer LauncherFace::activate() {
     if (launched_) {
         controller_.applicationShouldHandleReopen(false);
@@ -91,12 +95,19 @@ BusAnswer LauncherFace::open(const std::vector<std::string>& uris) {
 BusAnswer LauncherFace::activateAction(const std::string& name) {
     if (name == "toggle" && launched_) {
         controller_.toggleGlobalEffect();
-    } else if (name == "preferences") {
+    } else if (name == "preferences" && controller_.isReady()) {
         controller_.openPreferences();
     } else if (name == "about") {
         controller_.openAboutBox();
     } else if (name == "quit") {
         loop_.callSoon([this] { loop_.quit(); }); // so that the caller has its answer first
+    }
+    return {};
+}
+
+BusAnswer whetherReady(const NDAppController& controller) {
+    if (!controller.isReady()) {
+        return failure(translated("Nocturo waits for the answer to the question that it shows."));
     }
     return {};
 }

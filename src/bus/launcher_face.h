@@ -28,6 +28,9 @@ class LauncherFace {
     /// The launch is done. Whatever reached the bus before still counts as part of it.
     void launchDidFinish();
 
+    /// Whether documents may be opened.
+    BusAnswer whetherReady() const;
+
   private:
     struct Table;
 
@@ -48,6 +51,9 @@ class LauncherFace {
     std::unique_ptr<BusSlot> endOfLaunch_;
     std::unique_ptr<sd_bus_slot, BusRelease> object_;
 };
+
+/// What stands against changing anything while the launch asks its first question.
+BusAnswer whetherReady(const NDAppController& controller);
 
 /// Opens the documents at these paths; names those that were refused in one sentence, which is
 /// empty when there are none, and shows them to the user.

@@ -73,10 +73,19 @@ TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
         session_.environment().at("XDG_DATA_HOME") + "/applications";
     std::filesystem::create_directories(entries);
     writeText(entries / "fluxgui.desktop", "[Desktop Entry]\nType=Application\nName=f.lux\n");
-    select("NDInvertEffect");
+    select("NDInvertEffect", "<key>EffectActive</key><true/>");
     nocturo_ = session_.startNocturo();
     const std::string alert = windowCalled(kAlert);
-    ctl({"toggle"});
+    const auto before = status();
+    using Command = std::vector<std::string>;
+    for (const Command& command : {Command{"toggle"}, {"off"}, {"set", "UseHotKey", "true"}}) {
+        const RunResult refused = session_.run("nocturoctl", command);
+        EXPECT_EQ(refused.exit, 1) << "nothing was done";
+        EXPECT_EQ(refused.errors,
+                  "nocturoctl: Nocturo waits for the answer to the question that it shows.\n");
+    }
+    nocturo_->signal(SIGUSR2); // what switches off where there is no bus
+    EXPECT_EQ(status(), before);
     EXPECT_TRUE(becomes("oo")) << shown();
     accept(alert);
     EXPECT_TRUE(becomes("ii"));
