@@ -58,6 +58,27 @@ class CLocaleScope {
     locale_t previous_;
 };
 
+#ifdef NOCTURO_LIBPLIST_HAS_UNIX_DATES
+constexpr std::int64_t kYear2001 = 978307200; // in seconds after 1970
+plist_t newDate(const PropertyDate& value) {
+    return plist_new_unix_date(value.seconds + kYear2001);
+}
+PropertyDate dateOf(plist_t node) {
+    std::int64_t seconds = 0;
+    plist_get_unix_date_val(node, &seconds);
+    return {static_cast<std::int32_t>(seconds - kYear2001), 0};
+}
+#else
+plist_t newDate(const PropertyDate& value) {
+    return plist_new_date(value.seconds, 0);
+}
+PropertyDate dateOf(plist_t node) {
+    PropertyDate value;
+    plist_get_date_val(node, &value.seconds, &value.microseconds);
+    return value;
+}
+#endif
+
 #ifdef NOCTURO_LIBPLIST_HAS_SIGNED_INTEGERS
 plist_t newInteger(std::int64_t value) {
     return plist_new_int(value);
@@ -85,7 +106,7 @@ struct NewNode {
     plist_t operator()(std::int64_t value) const { return newInteger(value); }
     plist_t operator()(double value) const { return plist_new_real(value); }
     plist_t operator()(const std::string& value) const { return plist_new_string(value.c_str()); }
-    plist_t operator()(const PropertyDate& value) const { return plist_new_date(value.seconds, 0); }
+    plist_t operator()(const PropertyDate& value) const { return newDate(value); }
     plist_t operator()(const PropertyUid& value) const { return plist_new_uid(value.value); }
     plist_t operator()(const PropertyData& value) const {
         // Null stands for no data at all, even where the length is 0.
@@ -197,11 +218,8 @@ std::optional<PropertyValue> valueOf(plist_t node, int nesting) {
         const char* text = plist_get_string_ptr(node, &length);
         return std::string(text, length);
     }
-    case PLIST_DATE: {
-        PropertyDate value;
-        plist_get_date_val(node, &value.seconds, &value.microseconds);
-        return value;
-    }
+    case PLIST_DATE:
+        return dateOf(node);
     case PLIST_UID: {
         PropertyUid value;
         plist_get_uid_val(node, &value.value);
