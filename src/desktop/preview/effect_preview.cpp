@@ -1,5 +1,6 @@
 #include "desktop/preview/effect_preview.h"
 
+#include "desktop/level_tables.h"
 #include "desktop/mixed_color.h"
 #include "desktop/preview/curve_plot.h"
 #include "desktop/preview/preview_description.h"
@@ -37,21 +38,6 @@ const QImage& scene(QSize size) {
                      .convertToFormat(QImage::Format_RGB32);
     }
     return scaled;
-}
-
-QImage throughLevels(const QImage& scene, const std::array<LevelTable, 3>& levels) {
-    const auto& [red, green, blue] = levels;
-    QImage seen(scene.size(), QImage::Format_RGB32);
-    for (int y = 0; y < scene.height(); ++y) {
-        const auto* from = reinterpret_cast<const QRgb*>(scene.constScanLine(y));
-        auto* to = reinterpret_cast<QRgb*>(seen.scanLine(y));
-        for (int x = 0; x < scene.width(); ++x) {
-            const QRgb pixel = from[x];
-            to[x] = 0xff000000U | unsigned{red[pixel >> 16 & 0xffU]} << 16U |
-                    unsigned{green[pixel >> 8 & 0xffU]} << 8U | unsigned{blue[pixel & 0xffU]};
-        }
-    }
-    return seen;
 }
 
 void paintPicture(QPainter& painter, const QRectF& place, const PreviewCurves& curves,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/level_tables.h"
 #include "effects/gamma_curve.h"
 
 #include <array>
@@ -17,9 +18,6 @@ struct PreviewCurves {
     /// Without samples: the same as `before`.
     ZQGammaCurve seenThrough{};
 };
-
-/// For each level of a channel, another one.
-using LevelTable = std::array<std::uint8_t, 256>;
 
 /// The tables of a curve: red, green, blue.
 std::array<const ZQGammaTable*, 3> channelsOf(const ZQGammaCurve& curve);
