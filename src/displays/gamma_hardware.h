@@ -20,6 +20,8 @@ struct Head {
     bool primary = false;
     /// Another number than before whenever a mode was set since, also if it was the same again.
     std::uint64_t modeGeneration = 0;
+    /// Another program has the ramp to itself, so it cannot be written.
+    bool heldByOther = false;
 };
 
 /// Devices with 16-bit gamma ramps per CRTC. What a desktop offers is adapted to this, and
@@ -44,6 +46,10 @@ class GammaHardware {
 
     /// Reads the ramp of a CRTC into `ramp`, which has the CRTC's size already; false on failure.
     virtual bool readRamp(std::uint32_t crtc, Ramp& ramp) = 0;
+
+    /// Says that a ramp of the CRTC is about to be written, for hardware that learns its size only
+    /// then. The heads may have changed afterwards.
+    virtual void expectWrite(std::uint32_t /*crtc*/) {}
 
     /// Writes a ramp of the CRTC's own size; false on failure. A CRTC that is switched off keeps
     /// the ramp for when it is switched on. Allocates nothing.
