@@ -18,7 +18,8 @@ import xml.etree.ElementTree as ElementTree
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 DEFAULT_TABLE = "Localizable"
 # The functions themselves, and alerts, whose texts are found where they are set.
-HANDED_ON = {"localized.h", "localized.cpp", "translated.h", "translated.cpp", "alert_box.cpp"}
+HANDED_ON = {"localized.h", "localized.cpp", "translated.h", "translated.cpp", "alert_box.cpp",
+             "desktop_face.cpp"}
 
 PANEL = "NocturoPreferencePanel"
 PLACEHOLDER = re.compile(r"%(?:\d\$)?[@d]|%%")

@@ -22,6 +22,9 @@ struct Alert {
     std::string icon; // a name in the icon theme or a path; empty for the usual one
 };
 
+/// Its title in the user's language, for whoever has no window to show it in.
+std::string titleOf(const Alert& alert);
+
 /// Where the application shows itself on the desktop, but for its windows: alerts, menus and the
 /// status item. For those who know nothing of windows. Main thread only.
 class DesktopFace {

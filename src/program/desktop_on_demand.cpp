@@ -87,7 +87,7 @@ Result<DesktopPart*> DesktopOnDemand::load() {
 
 DesktopPart* DesktopOnDemand::partOrWarning() {
     const auto part = load();
-    if (!part) {
+    if (!part && !std::exchange(problemTold_, true)) {
         logWarning(kLogApp, part.error().text);
     }
     return part.value_or(nullptr);
@@ -162,7 +162,7 @@ void DesktopOnDemand::showAlert(const Alert& alert,
         part->face().showAlert(alert, std::move(answered));
         return;
     }
-    logWarning(kLogApp, filledText(alert.title, alert.titleArguments));
+    logWarning(kLogApp, titleOf(alert));
     answered(AlertAnswer::unseen);
 }
 

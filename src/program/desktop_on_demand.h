@@ -62,6 +62,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     DefaultsStore& defaults_;
     const NotificationCenters centers_;
     const RecentDocuments recentDocuments_;
+    bool problemTold_ = false;
     KeyboardLayout* layout_ = nullptr;
     std::optional<OpaqueColor> aboutBoxColor_;
     std::unique_ptr<DesktopPart> part_; // null until it is needed
