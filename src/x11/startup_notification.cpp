@@ -60,7 +60,9 @@ void finishStartup(const std::string& displayName, const std::string& startupIde
                        reinterpret_cast<const char*>(&message));
         message.type = more;
     }
-    xcb_flush(server);
+    // A server drops what it has not read yet of a client that goes.
+    const XcbReply<xcb_get_input_focus_reply_t> answer(
+        xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
 }
 
 } // namespace nocturo
