@@ -216,6 +216,7 @@ class EffectDocuments : public PreferencesWindow {
     }
     /// Answers the file panel that the button opens.
     void choose(const char* button, const QString& name, bool hideExtension = false) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the panel before
         click(button);
         auto* panel = controller.window()->findChild<QFileDialog*>();
         panel->setDirectory(path(""));
@@ -225,7 +226,6 @@ class EffectDocuments : public PreferencesWindow {
         auto* field = panel->findChild<QLineEdit*>("fileNameEdit");
         field->setText(name);
         QTest::keyClick(field, Qt::Key_Return);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     TemporaryDirectory directory;
@@ -287,10 +287,24 @@ TEST_F(EffectDocuments, PanelsSaveAndOpen) {
     choose("saveButton", "plain.txt");
     EXPECT_FALSE(isExtensionHidden(directory / "plain.txt.nocturo"));
     EXPECT_TRUE(readEffectDocument(directory / "plain.txt.nocturo"));
+    click("invertScreen");
+    choose("saveButton", "mine"); // which is there
+    ASSERT_NE(sheet(), nullptr);
+    answer("Yes");
+    EXPECT_FALSE(readEffectDocument(saved).value().invertScreen);
+    click("invertScreen");
+    choose("saveButton", "mine");
+    answer("Yes");
 
     click("invertScreen");
     choose("openButton", "mine.nocturo");
     EXPECT_TRUE(isChecked("invertScreen"));
+
+    choose("openButton", "/proc/nowhere"); // must not wait for the answer
+    ASSERT_NE(sheet(), nullptr);
+    EXPECT_EQ(sheet()->informativeText(), "“nowhere” is not an effect document.");
+    answer("OK");
+    controller.window()->findChild<QFileDialog*>()->reject();
 
     choose("saveButton", "/proc/mine.nocturo");
     ASSERT_NE(sheet(), nullptr);

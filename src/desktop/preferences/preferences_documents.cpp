@@ -14,7 +14,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -28,20 +27,65 @@ QString documentSuffix() {
     return QStringLiteral(".") + QLatin1String(kEffectDocumentExtension);
 }
 
+void showAlert(QWidget& window, const QString& title, const QString& message) {
+    QMessageBox* alert = newSheet(window, QMessageBox::Warning, title, message);
+    alert->setDefaultButton(alert->addButton(localized("OK"), QMessageBox::AcceptRole));
+    showSheet(*alert);
+}
+
+QString notADocument(const QString& path) {
+    return filled(localized("“%@” is not an effect document."),
+                  {QString::fromStdString(documentDisplayName(path.toStdString()))});
+}
+
 /// Asks for a document of ours and for nothing else: what is to be saved gets the extension,
-/// whatever other one was typed, before the panel asks whether to replace a file of that name.
+/// whatever other one was typed. Qt's own questions would hold the program up until they are
+/// answered, so they are asked here.
 class FilePanel : public QFileDialog {
   public:
     using QFileDialog::QFileDialog;
 
     void accept() override {
-        auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        if (acceptMode() == AcceptSave && field != nullptr && !field->text().isEmpty() &&
-            !field->text().endsWith(documentSuffix()) &&
-            !QFileInfo(directory(), field->text()).isDir()) {
-            field->setText(field->text() + documentSuffix());
+        const QFileInfo chosen(selectedFiles().value(0));
+        if (chosen.isDir()) {
+            QFileDialog::accept(); // goes there
+        } else if (acceptMode() == AcceptOpen) {
+            acceptToOpen(chosen);
+        } else {
+            acceptToSave(chosen.filePath());
         }
-        QFileDialog::accept();
+    }
+
+  private:
+    void acceptToOpen(const QFileInfo& chosen) {
+        if (chosen.isFile()) {
+            QFileDialog::accept();
+        } else {
+            showAlert(*this, localized("Opening failed"), notADocument(chosen.filePath()));
+        }
+    }
+
+    void acceptToSave(QString path) {
+        if (!path.endsWith(documentSuffix())) {
+            path += documentSuffix();
+        }
+        selectFile(path);
+        const QFileInfo chosen(path);
+        if (!chosen.exists()) {
+            QFileDialog::accept();
+            return;
+        }
+        QMessageBox* question = newSheet(
+            *this, QMessageBox::Warning,
+            tr("%1 already exists.\nDo you want to replace it?").arg(chosen.fileName()), {});
+        question->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        question->setDefaultButton(QMessageBox::No);
+        connect(question, &QDialog::finished, this, [this](int answer) {
+            if (answer == QMessageBox::Yes) {
+                QFileDialog::accept();
+            }
+        });
+        showSheet(*question);
     }
 };
 
@@ -49,17 +93,12 @@ class FilePanel : public QFileDialog {
 QFileDialog* filePanel(QWidget* window, const QString& folder, const QString& title) {
     auto* panel = new FilePanel(window, title, folder);
     panel->setOption(QFileDialog::DontUseNativeDialog);
+    panel->setOption(QFileDialog::DontConfirmOverwrite); // done already
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setWindowModality(Qt::WindowModal);
     panel->setNameFilter(localized("Nocturo effects") + QStringLiteral(" (*") + documentSuffix() +
                          QStringLiteral(")"));
     return panel;
-}
-
-void showAlert(QWidget& window, const QString& title, const QString& message) {
-    QMessageBox* alert = newSheet(window, QMessageBox::Warning, title, message);
-    alert->setDefaultButton(alert->addButton(localized("OK"), QMessageBox::AcceptRole));
-    showSheet(*alert);
 }
 
 } // namespace
@@ -153,9 +192,7 @@ void NDPreferencesController::openPanelDidEnd(const QFileDialog& panel, int retu
 
 void NDPreferencesController::documentWasDropped(const QString& path) {
     if (!openEffectFile(path)) {
-        showAlert(*panel_, localized("Opening failed"),
-                  filled(localized("“%@” is not an effect document."),
-                         {QString::fromStdString(documentDisplayName(path.toStdString()))}));
+        showAlert(*panel_, localized("Opening failed"), notADocument(path));
     }
 }
 
