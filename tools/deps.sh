@@ -22,6 +22,7 @@ run          libxcb1-dev               X11
 run          libxcb-randr0-dev         displays
 run          libxcb-screensaver0-dev   screen savers of an X server
 run          libxcb-xkb-dev            keyboard events
+run          libwayland-dev            Wayland
 run          libxkbcommon-x11-dev      what keys type
 run          liblcms2-dev              color profiles
 run          libsystemd-dev            event loop, bus
@@ -39,6 +40,9 @@ test         trayer                    a tray that embeds windows
 test         lxqt-panel                a tray that asks for items over the bus
 test         libglib2.0-bin            gdbus, which speaks to menus, and gio, which opens documents
 test         mate-session-manager      a session to log out of
+test         sway                      a real Wayland compositor
+test         libwlroots-dev            ... whose outputs are given ramps, where it is 0.15
+test         gammastep                 a program that wants the same outputs
 test         x11-xserver-utils         xrandr lights displays, xset starts screen savers, xmodmap moves keys
 test         locales                   one with a comma in its numbers
 test         dbus-daemon               buses of the tests' own
@@ -79,7 +83,7 @@ TABLE
 # Libraries have the names that pkg-config gives them.
 elsewhere=$(cat <<'TABLE'
 run          program  g++ make cmake ninja pkg-config python3
-run          library  libplist-2.0 glib-2.0 xcb xcb-randr xcb-screensaver xcb-xkb xkbcommon-x11 lcms2
+run          library  libplist-2.0 glib-2.0 wayland-client xcb xcb-randr xcb-screensaver xcb-xkb xkbcommon-x11 lcms2
 run          library  libsystemd Qt6Core nlohmann_json
 test         program  Xorg xrandr xset xmodmap setxkbmap xdotool xwininfo trayer lxqt-panel gdbus gio
 test         program  mate-session update-mime-database update-desktop-database xscreensaver dbus-daemon

@@ -591,6 +591,10 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Hauptbildschirm</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>von einem anderen Programm belegt</translation>
+        </message>
+        <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
             <translation>Nocturo hat seinen Effekt ausgeschaltet und die Bildschirme zurückgegeben.</translation>
         </message>
@@ -883,6 +887,18 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Ein anderes Nocturo steuert die Bildschirme des X-Servers %@.</translation>
         </message>
         <message>
+            <source>No Wayland compositor answers.</source>
+            <translation>Kein Wayland-Compositor antwortet.</translation>
+        </message>
+        <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ bietet Nocturo unter Wayland keinen Weg, die Farben von Bildschirmen zu ändern.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Dieser Desktop</translation>
+        </message>
+        <message>
             <source>Displays are simulated; their pictures are in %@.</source>
             <translation>Die Bildschirme sind simuliert; ihre Bilder liegen in %@.</translation>
         </message>
@@ -975,6 +991,10 @@ und gibt dann jedem Bildschirm seine Farben zurück. Gesteuert wird es mit noctu
             <translation>ein X-Server</translation>
         </message>
         <message>
+            <source>a Wayland compositor like sway</source>
+            <translation>ein Wayland-Compositor wie sway</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N Bildschirme, 1 bis 16 (Vorgabe: 2),</translation>
         </message>
@@ -1001,8 +1021,8 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <translation>Eine Option „%@“ gibt es nicht; siehe nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services nimmt auto, randr, simulated oder simulated:N mit N von 1 bis 16.</translation>
+            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services nimmt auto, randr, wlr, simulated oder simulated:N mit N von 1 bis 16.</translation>
         </message>
         <message>
             <source>The Nocturo that runs does not answer.</source>

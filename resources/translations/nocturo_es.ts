@@ -591,6 +591,10 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>principal</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>en uso por otro programa</translation>
+        </message>
+        <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
             <translation>Nocturo ha desactivado su efecto y devuelto las pantallas.</translation>
         </message>
@@ -883,6 +887,18 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>Otro Nocturo maneja las pantallas del servidor X %@.</translation>
         </message>
         <message>
+            <source>No Wayland compositor answers.</source>
+            <translation>Ningún compositor de Wayland responde.</translation>
+        </message>
+        <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ no ofrece a Nocturo ninguna forma de cambiar los colores de las pantallas en Wayland.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Este escritorio</translation>
+        </message>
+        <message>
             <source>Displays are simulated; their pictures are in %@.</source>
             <translation>Las pantallas son simuladas; sus imágenes están en %@.</translation>
         </message>
@@ -975,6 +991,10 @@ se le pide salir, y entonces devuelve cada pantalla. Se maneja con nocturoctl.</
             <translation>un servidor X</translation>
         </message>
         <message>
+            <source>a Wayland compositor like sway</source>
+            <translation>un compositor de Wayland como sway</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N pantallas, de 1 a 16 (2 si no se indica),</translation>
         </message>
@@ -1001,8 +1021,8 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <translation>No existe la opción «%@»; vea nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services admite auto, randr, simulated o simulated:N con N de 1 a 16.</translation>
+            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services admite auto, randr, wlr, simulated o simulated:N con N de 1 a 16.</translation>
         </message>
         <message>
             <source>The Nocturo that runs does not answer.</source>

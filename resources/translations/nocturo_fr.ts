@@ -591,6 +591,10 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>principal</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>tenu par un autre programme</translation>
+        </message>
+        <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
             <translation>Nocturo a désactivé son effet et rendu les écrans.</translation>
         </message>
@@ -883,6 +887,18 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>Un autre Nocturo commande les écrans du serveur X %@.</translation>
         </message>
         <message>
+            <source>No Wayland compositor answers.</source>
+            <translation>Aucun compositeur Wayland ne répond.</translation>
+        </message>
+        <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ n’offre à Nocturo aucun moyen de changer les couleurs des écrans sous Wayland.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Ce bureau</translation>
+        </message>
+        <message>
             <source>Displays are simulated; their pictures are in %@.</source>
             <translation>Les écrans sont simulés ; leurs images sont dans %@.</translation>
         </message>
@@ -975,6 +991,10 @@ et rend alors à chaque écran ses couleurs. Se commande avec nocturoctl.</trans
             <translation>un serveur X</translation>
         </message>
         <message>
+            <source>a Wayland compositor like sway</source>
+            <translation>un compositeur Wayland comme sway</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N écrans, de 1 à 16 (2 par défaut),</translation>
         </message>
@@ -1001,8 +1021,8 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <translation>L’option « %@ » n’existe pas ; voir nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services accepte auto, randr, simulated ou simulated:N avec N de 1 à 16.</translation>
+            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services accepte auto, randr, wlr, simulated ou simulated:N avec N de 1 à 16.</translation>
         </message>
         <message>
             <source>The Nocturo that runs does not answer.</source>

@@ -591,6 +591,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>メイン</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>ほかのプログラムが使用中</translation>
+        </message>
+        <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
             <translation>Nocturo は効果をオフにし、画面を元に戻しました。</translation>
         </message>
@@ -883,6 +887,18 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>別の Nocturo が X サーバー %@ の画面を制御しています。</translation>
         </message>
         <message>
+            <source>No Wayland compositor answers.</source>
+            <translation>応答する Wayland コンポジターがありません。</translation>
+        </message>
+        <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ には、Wayland で Nocturo がディスプレイの色を変える手段がありません。</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>このデスクトップ</translation>
+        </message>
+        <message>
             <source>Displays are simulated; their pictures are in %@.</source>
             <translation>画面はシミュレーションです。画像は %@ にあります。</translation>
         </message>
@@ -975,6 +991,10 @@ nocturoctl で操作します。</translation>
             <translation>X サーバー</translation>
         </message>
         <message>
+            <source>a Wayland compositor like sway</source>
+            <translation>sway などの Wayland コンポジター</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N 個の画面、1～16 (既定は 2)、</translation>
         </message>
@@ -1001,8 +1021,8 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>「%@」というオプションはありません。nocturo --help を参照してください。</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services に指定できるのは auto、randr、simulated、simulated:N (N は 1～16) です。</translation>
+            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services に指定できるのは auto、randr、wlr、simulated、simulated:N (N は 1～16) です。</translation>
         </message>
         <message>
             <source>The Nocturo that runs does not answer.</source>

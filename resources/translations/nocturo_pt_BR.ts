@@ -591,6 +591,10 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>principal</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>em uso por outro programa</translation>
+        </message>
+        <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
             <translation>O Nocturo desativou seu efeito e devolveu as telas.</translation>
         </message>
@@ -883,6 +887,18 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>Outro Nocturo controla as telas do servidor X %@.</translation>
         </message>
         <message>
+            <source>No Wayland compositor answers.</source>
+            <translation>Nenhum compositor Wayland responde.</translation>
+        </message>
+        <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ não oferece ao Nocturo um meio de mudar as cores das telas no Wayland.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Este ambiente</translation>
+        </message>
+        <message>
             <source>Displays are simulated; their pictures are in %@.</source>
             <translation>As telas são simuladas; suas imagens estão em %@.</translation>
         </message>
@@ -975,6 +991,10 @@ para sair e então devolve cada tela. É controlado com o nocturoctl.</translati
             <translation>um servidor X</translation>
         </message>
         <message>
+            <source>a Wayland compositor like sway</source>
+            <translation>um compositor Wayland como o sway</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N telas, de 1 a 16 (padrão: 2),</translation>
         </message>
@@ -1001,8 +1021,8 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <translation>Não existe a opção “%@”; veja nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services aceita auto, randr, simulated ou simulated:N com N de 1 a 16.</translation>
+            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services aceita auto, randr, wlr, simulated ou simulated:N com N de 1 a 16.</translation>
         </message>
         <message>
             <source>The Nocturo that runs does not answer.</source>

@@ -591,6 +591,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>主屏幕</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>被其他程序占用</translation>
+        </message>
+        <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
             <translation>Nocturo 已停用效果并恢复了屏幕。</translation>
         </message>
@@ -883,6 +887,18 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>另一个 Nocturo 正在控制 X 服务器 %@ 的屏幕。</translation>
         </message>
         <message>
+            <source>No Wayland compositor answers.</source>
+            <translation>没有 Wayland 合成器应答。</translation>
+        </message>
+        <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ 在 Wayland 下没有为 Nocturo 提供更改显示器颜色的途径。</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>此桌面</translation>
+        </message>
+        <message>
             <source>Displays are simulated; their pictures are in %@.</source>
             <translation>屏幕是模拟的；其图片位于 %@。</translation>
         </message>
@@ -974,6 +990,10 @@ gives every display back then. Drive it with nocturoctl.</source>
             <translation>X 服务器</translation>
         </message>
         <message>
+            <source>a Wayland compositor like sway</source>
+            <translation>sway 之类的 Wayland 合成器</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N 个屏幕，1 到 16（默认为 2），</translation>
         </message>
@@ -1000,8 +1020,8 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>没有选项“%@”；请参阅 nocturo --help。</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services 可取 auto、randr、simulated 或 simulated:N，其中 N 为 1 到 16。</translation>
+            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services 可取 auto、randr、wlr、simulated 或 simulated:N，其中 N 为 1 到 16。</translation>
         </message>
         <message>
             <source>The Nocturo that runs does not answer.</source>

@@ -83,7 +83,7 @@ BusValue ToldState::displays() const {
                                           static_cast<double>(info.id)) != affected.end();
         const bool applied =
             controllers && std::any_of(controllers->begin(), controllers->end(), [&](auto& each) {
-                return each->screenID() == info.id && each->hasCurve();
+                return each->screenID() == info.id && each->hasCurve() && !info.heldByOther;
             });
         list.push_back({{"number", static_cast<std::int32_t>(i) + 1},
                         {"id", info.id},
@@ -91,7 +91,8 @@ BusValue ToldState::displays() const {
                         {"main", info.main},
                         {"rampSize", static_cast<std::uint32_t>(info.rampSize)},
                         {"affected", inSet},
-                        {"applied", applied}});
+                        {"applied", applied},
+                        {"heldByOther", info.heldByOther}});
     }
     return list;
 }

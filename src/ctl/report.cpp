@@ -21,8 +21,8 @@ constexpr std::array<const char*, 11> kStatusOrder = {
     "active",         "displayServices",      "displays",          "effects", "dimLevel",
     "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "hotKey",  "disturbances",
     "disturber"};
-constexpr std::array<const char*, 7> kDisplayOrder = {"number",   "id",       "name",   "main",
-                                                      "rampSize", "affected", "applied"};
+constexpr std::array<const char*, 8> kDisplayOrder = {
+    "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther"};
 
 // The named members in that order, then whatever else there is.
 Json ordered(const Json& object, std::span<const char* const> order) {
@@ -155,14 +155,15 @@ std::string effectsReport(const Json& properties) {
 
 std::string screensReport(const Json& properties) {
     std::vector<Row> rows = {{"", translated("no."), translated("name"), translated("identifier"),
-                              translated("ramp"), translated("applied"), ""}};
+                              translated("ramp"), translated("applied"), "", ""}};
     for (const Json& display : properties["displays"]) {
         const bool hasRamp = display["rampSize"].get<unsigned>() != 0;
-        rows.push_back({display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
-                        plain(display["name"]), plain(display["id"]),
-                        hasRamp ? plain(display["rampSize"]) : translated("none"),
-                        yesOrNo(display["applied"]),
-                        display["main"].get<bool>() ? translated("main") : ""});
+        rows.push_back(
+            {display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
+             plain(display["name"]), plain(display["id"]),
+             hasRamp ? plain(display["rampSize"]) : translated("none"), yesOrNo(display["applied"]),
+             display["main"].get<bool>() ? translated("main") : "",
+             display.value("heldByOther", false) ? translated("held by another program") : ""});
     }
     return rows.size() > 1 ? table(rows) : "  " + translated("(none)") + '\n';
 }

@@ -8,8 +8,10 @@
 #include "displays/guard/journal.h"
 #include "displays/ramp_display_services.h"
 #include "displays/simulated/simulated_hardware.h"
+#include "displays/wlr/wlr_hardware.h"
 #include "displays/x11/opening_problem.h"
 #include "displays/x11/randr_hardware.h"
+#include "wayland/wayland_connection.h"
 
 #include <charconv>
 #include <utility>
@@ -57,6 +59,37 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
     return opened;
 }
 
+constexpr const char* kEdidDirectory = "/sys/class/drm";
+
+OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection, RunLoop& runLoop) {
+    OpenedDisplays opened;
+    WaylandConnection* compositor = connection.get(); // lives as long as the services
+    auto services = std::make_unique<RampDisplayServices>(
+        std::make_unique<WlrHardware>(std::move(connection), kEdidDirectory), nullptr, &runLoop);
+    opened.eventDescriptors = {compositor->descriptor()};
+    opened.processEvents = [displays = services.get()] { displays->lookForChanges(); };
+    opened.connectionLost = [compositor] { return compositor->isLost(); };
+    opened.services = std::move(services);
+    logInfo(kLogDisplays, "Displays are those of a Wayland compositor with wlr-gamma-control.");
+    return opened;
+}
+
+Result<OpenedDisplays> openWayland(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+    auto compositor = surroundings.waylandDisplay.empty()
+                          ? nullptr
+                          : WaylandConnection::open(surroundings.waylandDisplay);
+    if (compositor == nullptr) {
+        return failedForNow(translated("No Wayland compositor answers."));
+    }
+    if (!WlrHardware::isOfferedBy(*compositor)) {
+        const std::string& desktop = surroundings.desktop;
+        return failedForNow(
+            translated("%@ offers Nocturo no way to change the colors of displays under Wayland.",
+                       {desktop.empty() ? translated("This desktop") : desktop}));
+    }
+    return wlrDisplays(std::move(compositor), runLoop);
+}
+
 OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surroundings) {
     const std::filesystem::path& pictureDirectory = surroundings.runtimeDirectory;
     OpenedDisplays opened;
@@ -78,6 +111,9 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
     if (text == "randr") {
         return DisplayChoice{Kind::randr};
     }
+    if (text == "wlr") {
+        return DisplayChoice{Kind::wlr};
+    }
     if (!text.starts_with(kSimulated)) {
         return std::nullopt;
     }
@@ -97,11 +133,20 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
 
 Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
                                     const DisplaySurroundings& surroundings, RunLoop& runLoop) {
-    if (choice.kind == DisplayChoice::Kind::simulated) {
+    using Kind = DisplayChoice::Kind;
+    switch (choice.kind) {
+    case Kind::simulated:
         return openSimulated(choice.simulatedCount, surroundings);
+    case Kind::wlr:
+        return openWayland(surroundings, runLoop);
+    case Kind::randr:
+        return openRandr(surroundings, runLoop);
+    case Kind::automatic:
+        break;
     }
-    // X servers are all there is to find so far, so "auto" looks where "randr" does.
-    return openRandr(surroundings, runLoop);
+    // An X server in a Wayland session has windows, and no displays.
+    return surroundings.waylandDisplay.empty() ? openRandr(surroundings, runLoop)
+                                               : openWayland(surroundings, runLoop);
 }
 
 } // namespace nocturo

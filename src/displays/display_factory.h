@@ -18,18 +18,20 @@ class RunLoop;
 
 /// Which display services the user wants.
 struct DisplayChoice {
-    enum class Kind { automatic, randr, simulated };
+    enum class Kind { automatic, randr, wlr, simulated };
 
     Kind kind = Kind::automatic;
     unsigned simulatedCount = 2;
 };
 
-/// Reads "auto", "randr", "simulated" or "simulated:N" with N from 1 to 16; nothing for all else.
+/// Reads "auto", "randr", "wlr", "simulated" or "simulated:N" with N from 1 to 16; nothing for all else.
 std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 
 /// What the factory takes from the process's surroundings.
 struct DisplaySurroundings {
-    std::string xDisplay; // $DISPLAY; empty when not set
+    std::string xDisplay;       // $DISPLAY; empty when not set
+    std::string waylandDisplay; // $WAYLAND_DISPLAY; empty when not set
+    std::string desktop;        // $XDG_CURRENT_DESKTOP; empty when not set
     std::filesystem::path runtimeDirectory;
     std::string systemBusAddress;
     DrawPicture drawPicture; // of simulated displays

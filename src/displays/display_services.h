@@ -31,6 +31,7 @@ struct DisplayInfo {
     DisplayRect bounds;
     std::uint32_t rampSize = 0; // entries per channel; 0 when the display has no usable ramp
     bool main = false;          // exactly one display of a list that is not empty
+    bool heldByOther = false;   // another program has its ramp to itself, so nothing shows
     bool operator==(const DisplayInfo&) const = default;
 };
 

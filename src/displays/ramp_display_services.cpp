@@ -99,6 +99,11 @@ bool RampDisplayServices::writeTransferTable(CGDirectDisplayID display, std::uin
     if (known == nullptr || count == 0) {
         return false;
     }
+    hardware_->expectWrite(known->crtc->id());
+    known = usableDisplay(display); // whose size may be known only now
+    if (known == nullptr) {
+        return false;
+    }
     CrtcRamp& crtc = *known->crtc;
     Ramp& draft = crtc.draft();
     if (known->lastRead && known->lastRead->matches(count, red, green, blue) &&

@@ -45,7 +45,8 @@ void DesktopSession::launch(const std::vector<std::string>& documents,
 }
 
 void DesktopSession::listen() {
-    hotKeys_.emplace(xDisplayName(), core_.runLoop);
+    // A grab on the X server of a Wayland session would never see a key.
+    hotKeys_.emplace(waylandDisplayName().empty() ? xDisplayName() : std::string(), core_.runLoop);
     core_.face.setKeyboardLayout(hotKeys_->layout());
     core_.desktop.setKeyboardLayout(hotKeys_->layout());
     core_.controller.updateHotKey();

@@ -90,8 +90,11 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     const auto settingsWatch =
         loop.watch(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
-    Result<OpenedDisplays> opened = openDisplays(
-        options.displays, {xDisplayName(), *directory, systemBusAddress(), drawTestCard}, core.runLoop);
+    Result<OpenedDisplays> opened =
+        openDisplays(options.displays,
+                     {xDisplayName(), waylandDisplayName(), desktopName(), *directory,
+                      systemBusAddress(), drawTestCard},
+                     core.runLoop);
     if (!opened) {
         tell(stderr, opened.error().text);
         return kFailure;

@@ -21,7 +21,7 @@ std::string helpText() {
     constexpr std::size_t kMeaningOfChoice = 45;
     const std::string indent(kMeaning + 2, ' ');
     return translated("Usage: %@",
-                      {"nocturo [--display-services=auto|randr|simulated[:N]] [FILE...]"}) +
+                      {"nocturo [--display-services=auto|randr|wlr|simulated[:N]] [FILE...]"}) +
            "\n\n" +
            translated("Changes how whole screens look: inverted, overexposed, dimmed or lightened, "
                       "in\nthe HDTV range or through a color filter. Runs until it is told to "
@@ -32,6 +32,7 @@ std::string helpText() {
            line(indent + "auto", kMeaningOfChoice,
                 translated("what this session offers (default)")) +
            line(indent + "randr", kMeaningOfChoice, translated("an X server")) +
+           line(indent + "wlr", kMeaningOfChoice, translated("a Wayland compositor like sway")) +
            line(indent + "simulated[:N]", kMeaningOfChoice,
                 translated("N displays, 1 to 16 (default 2),")) +
            line("", kMeaningOfChoice, translated("in memory, drawn into pictures")) +
@@ -70,7 +71,7 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         const auto choice =
             parseDisplayChoice(std::string_view(argument).substr(kDisplayServices.size()));
         if (!choice) {
-            return UsageError{translated("--display-services takes auto, randr, simulated or "
+            return UsageError{translated("--display-services takes auto, randr, wlr, simulated or "
                                          "simulated:N with N from 1 to 16.")};
         }
         options.displays = *choice;

@@ -47,6 +47,14 @@ std::string xDisplayName() {
     return environment("DISPLAY");
 }
 
+std::string waylandDisplayName() {
+    return environment("WAYLAND_DISPLAY");
+}
+
+std::string desktopName() {
+    return environment("XDG_CURRENT_DESKTOP");
+}
+
 std::string loginSession() {
     return environment("XDG_SESSION_ID");
 }

@@ -17,6 +17,12 @@ void choosePlatform();
 /// The X server's name; empty where there is none.
 std::string xDisplayName();
 
+/// The Wayland compositor's socket; empty where there is none.
+std::string waylandDisplayName();
+
+/// What the desktop calls itself; empty where it does not say.
+std::string desktopName();
+
 /// The identifier of the login session; empty where it is not known.
 std::string loginSession();
 

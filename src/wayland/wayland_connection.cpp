@@ -1,6 +1,5 @@
 #include "wayland/wayland_connection.h"
 
-#include "base/run_loop.h"
 #include "wayland/output_place_protocol.h"
 
 #include <poll.h>
@@ -108,8 +107,7 @@ struct WaylandConnection::Listeners {
                                                    placeDescription};
 };
 
-std::unique_ptr<WaylandConnection> WaylandConnection::open(const std::string& name,
-                                                           RunLoop* runLoop) {
+std::unique_ptr<WaylandConnection> WaylandConnection::open(const std::string& name) {
     wl_display* display = wl_display_connect(name.c_str());
     if (display == nullptr) {
         return nullptr;
@@ -121,17 +119,6 @@ std::unique_ptr<WaylandConnection> WaylandConnection::open(const std::string& na
             return nullptr;
         }
     }
-    if (runLoop != nullptr) {
-        connection->watch_ = runLoop->watch(wl_display_get_fd(display), [self = connection.get()] {
-            self->processEvents();
-            if (self->isLost()) {
-                self->watch_.reset(); // a descriptor at its end stays readable for good
-            }
-            if (self->eventHandler_) {
-                self->eventHandler_();
-            }
-        });
-    }
     return connection;
 }
 
@@ -141,7 +128,6 @@ WaylandConnection::WaylandConnection(wl_display* display)
 }
 
 WaylandConnection::~WaylandConnection() {
-    watch_.reset();
     for (const auto& output : outputs_) {
         wl_proxy_destroy(output->place != nullptr ? output->place
                                                   : reinterpret_cast<wl_proxy*>(output->proxy));
@@ -251,6 +237,10 @@ void WaylandConnection::removeGlobal(std::uint32_t number) {
     wl_output_destroy((*found)->proxy);
     outputs_.erase(found);
     ++outputsGeneration_;
+}
+
+int WaylandConnection::descriptor() const {
+    return wl_display_get_fd(display_);
 }
 
 void WaylandConnection::processEvents() {

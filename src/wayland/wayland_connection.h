@@ -17,9 +17,6 @@ struct wl_registry;
 
 namespace nocturo {
 
-class RunLoop;
-class Watch;
-
 /// One output as the compositor describes it. What it does not tell stays empty or 0.
 struct WaylandOutput {
     std::uint32_t global = 0; // the registry's number; another one when it is plugged in again
@@ -40,9 +37,8 @@ struct WaylandOutput {
 class WaylandConnection {
   public:
     /// Null when nothing answers there within a second. `name` is that of the socket, as in
-    /// $WAYLAND_DISPLAY. The run loop must outlive the connection; without one nothing is taken in
-    /// by itself.
-    static std::unique_ptr<WaylandConnection> open(const std::string& name, RunLoop* runLoop);
+    /// $WAYLAND_DISPLAY.
+    static std::unique_ptr<WaylandConnection> open(const std::string& name);
     ~WaylandConnection();
     WaylandConnection(const WaylandConnection&) = delete;
     WaylandConnection& operator=(const WaylandConnection&) = delete;
@@ -63,13 +59,13 @@ class WaylandConnection {
     /// Another number whenever outputs(), or what one of them says, differs from before.
     std::uint64_t outputsGeneration() const { return outputsGeneration_; }
 
-    /// Called from the event loop after events that came by themselves were taken in.
-    void setEventHandler(std::function<void()> handler) { eventHandler_ = std::move(handler); }
-
     /// Called with an output just before it goes.
     void setOutputGoneHandler(std::function<void(const WaylandOutput&)> handler) {
         outputGone_ = std::move(handler);
     }
+
+    /// Readable when processEvents() should be called.
+    int descriptor() const;
 
     /// Sends what was asked for and takes in what has come, without waiting.
     void processEvents();
@@ -107,9 +103,7 @@ class WaylandConnection {
     std::list<std::unique_ptr<Output>> outputs_;
     std::uint64_t outputsGeneration_ = 1;
     std::uint64_t lastModeGeneration_ = 0;
-    std::function<void()> eventHandler_;
     std::function<void(const WaylandOutput&)> outputGone_;
-    std::unique_ptr<Watch> watch_;
 };
 
 } // namespace nocturo

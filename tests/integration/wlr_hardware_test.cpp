@@ -1,4 +1,3 @@
-#include "base/event_loop.h"
 #include "displays/wlr/wlr_hardware.h"
 #include "rig/sway.h"
 #include "rig/wait.h"
@@ -42,7 +41,7 @@ class WlrHardwareTest : public testing::Test {
         ASSERT_NE(hardware, nullptr);
     }
     std::unique_ptr<WlrHardware> open() const {
-        auto compositor = WaylandConnection::open(sway->display(), nullptr);
+        auto compositor = WaylandConnection::open(sway->display());
         return compositor != nullptr && WlrHardware::isOfferedBy(*compositor)
                    ? std::make_unique<WlrHardware>(std::move(compositor), edids.path())
                    : nullptr;

@@ -230,7 +230,9 @@ bool WlrHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
     Control& control = controlOf(crtc);
     if (ramp == control.system) {
         release(control);
-        control.refused = false;
+        if (std::exchange(control.refused, false)) {
+            ++ownGeneration_;
+        }
         compositor_->processEvents();
         return outputOf(crtc) != nullptr;
     }

@@ -1,0 +1,90 @@
+// The whole job in a session of a real Wayland compositor: what nocturoctl asks for is what its
+// outputs hold, and they have its own ramps again however Nocturo ends.
+
+#include "nocturo_test.h"
+#include "rig/sway.h"
+
+namespace nocturo::rig {
+
+namespace {
+
+constexpr const char* kFirst = "HEADLESS-1";
+constexpr const char* kSecond = "HEADLESS-2";
+
+class Wayland : public NocturoTest {
+  protected:
+    Wayland() : NocturoTest(0) {}
+    void SetUp() override {
+        if (const std::string why = Sway::whyMissing(); !why.empty()) {
+            GTEST_SKIP() << why;
+        }
+        sway_.emplace(2, 1024);
+        session_.environment()["WAYLAND_DISPLAY"] = sway_->display();
+        select("NDInvertEffect");
+        nocturo_ = session_.startNocturo();
+    }
+
+    /// "i" for an output that shows what is inverted, "o" for one with the compositor's own ramp.
+    bool becomes(const std::string& state) {
+        return waitUntil([&] {
+            std::string shown;
+            for (const char* output : {kFirst, kSecond}) {
+                const auto ramp = sway_->ramp(output);
+                shown += !ramp                                                   ? 'o'
+                         : (*ramp)[0].front() == 65535 && (*ramp)[0].back() == 0 ? 'i'
+                                                                                 : '?';
+            }
+            return shown == state;
+        });
+    }
+
+    std::optional<Sway> sway_;
+};
+
+TEST_F(Wayland, InvertsTheAffectedScreensAndGivesThemBackHoweverItEnds) {
+    EXPECT_TRUE(becomes("ii"));
+    EXPECT_EQ(sway_->ramp(kFirst)->front().size(), 1024U);
+    EXPECT_EQ(status()["displayServices"], "wlr");
+    EXPECT_EQ(status()["displays"][0]["rampSize"], 1024);
+    ctl({"off"});
+    EXPECT_TRUE(becomes("oo"));
+    ctl({"screens", "toggle", "2"});
+    ctl({"on"});
+    EXPECT_TRUE(becomes("oi"));
+    EXPECT_TRUE(waitUntil([&] {
+        return readText(session_.settingsFile()).find("AffectedScreenSet") != std::string::npos;
+    }));
+    nocturo_->signal(SIGKILL);
+    EXPECT_TRUE(becomes("oo"));
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(becomes("oi"));
+    end();
+    EXPECT_TRUE(becomes("oo"));
+}
+
+TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
+    NEEDS("gammastep");
+    EXPECT_TRUE(becomes("ii"));
+    sway_->tell({"output", kSecond, "disable"});
+    EXPECT_TRUE(waitUntil([&] { return status()["displays"].size() == 1; }));
+    const auto other = session_.start("gammastep", {"-m", "wayland", "-P", "-O", "3500"});
+    EXPECT_TRUE(waitUntil([&] { return status()["displays"][0]["heldByOther"] == true; }));
+    EXPECT_FALSE(status()["displays"][0]["applied"]);
+    ctl({"off"});
+    ctl({"on"});
+    EXPECT_TRUE(becomes("io"));
+    EXPECT_EQ(status()["displays"][0]["heldByOther"], false);
+}
+
+TEST_F(Wayland, EndsWithTheCompositorAndKeepsTheSettings) {
+    EXPECT_TRUE(becomes("ii"));
+    ctl({"effects", "add", "dim"});
+    sway_->kill();
+    EXPECT_EQ(nocturo_->wait(), 1);
+    EXPECT_NE(nocturo_->errors().find("The display server has gone"), std::string::npos);
+    EXPECT_NE(readText(session_.settingsFile()).find("NDDimEffect"), std::string::npos);
+}
+
+} // namespace
+
+} // namespace nocturo::rig
