@@ -211,14 +211,6 @@
             <translation>Abbrechen</translation>
         </message>
         <message>
-            <source>&amp;Activate Effect</source>
-            <translation>Effekt &amp;einschalten</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Effekt einschalten</translation>
-        </message>
-        <message>
             <source>Preferences...</source>
             <translation>Einstellungen …</translation>
         </message>
@@ -235,8 +227,16 @@
             <translation>Effekt &amp;ausschalten</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>Effekt &amp;einschalten</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Effekt ausschalten</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Effekt einschalten</translation>
         </message>
         <message>
             <source>All Screens</source>

@@ -211,14 +211,6 @@
             <translation>Cancelar</translation>
         </message>
         <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Activar el efecto</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Activar el efecto</translation>
-        </message>
-        <message>
             <source>Preferences...</source>
             <translation>Preferencias…</translation>
         </message>
@@ -235,8 +227,16 @@
             <translation>&amp;Desactivar el efecto</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activar el efecto</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Desactivar el efecto</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Activar el efecto</translation>
         </message>
         <message>
             <source>All Screens</source>

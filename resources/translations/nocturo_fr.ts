@@ -211,14 +211,6 @@
             <translation>Annuler</translation>
         </message>
         <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Activer l’effet</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Activer l’effet</translation>
-        </message>
-        <message>
             <source>Preferences...</source>
             <translation>Préférences…</translation>
         </message>
@@ -235,8 +227,16 @@
             <translation>&amp;Désactiver l’effet</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Activer l’effet</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Désactiver l’effet</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Activer l’effet</translation>
         </message>
         <message>
             <source>All Screens</source>

@@ -211,14 +211,6 @@
             <translation>キャンセル</translation>
         </message>
         <message>
-            <source>&amp;Activate Effect</source>
-            <translation>効果をオンにする(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>効果をオンにする</translation>
-        </message>
-        <message>
             <source>Preferences...</source>
             <translation>設定...</translation>
         </message>
@@ -235,8 +227,16 @@
             <translation>効果をオフにする(&amp;D)</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>効果をオンにする(&amp;A)</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>効果をオフにする</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>効果をオンにする</translation>
         </message>
         <message>
             <source>All Screens</source>

@@ -211,14 +211,6 @@
             <translation>Cancelar</translation>
         </message>
         <message>
-            <source>&amp;Activate Effect</source>
-            <translation>&amp;Ativar o efeito</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>Ativar o efeito</translation>
-        </message>
-        <message>
             <source>Preferences...</source>
             <translation>Preferências…</translation>
         </message>
@@ -235,8 +227,16 @@
             <translation>&amp;Desativar o efeito</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>&amp;Ativar o efeito</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>Desativar o efeito</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>Ativar o efeito</translation>
         </message>
         <message>
             <source>All Screens</source>

@@ -211,14 +211,6 @@
             <translation>取消</translation>
         </message>
         <message>
-            <source>&amp;Activate Effect</source>
-            <translation>启用效果(&amp;A)</translation>
-        </message>
-        <message>
-            <source>Activate Effect</source>
-            <translation>启用效果</translation>
-        </message>
-        <message>
             <source>Preferences...</source>
             <translation>首选项...</translation>
         </message>
@@ -235,8 +227,16 @@
             <translation>停用效果(&amp;D)</translation>
         </message>
         <message>
+            <source>&amp;Activate Effect</source>
+            <translation>启用效果(&amp;A)</translation>
+        </message>
+        <message>
             <source>Deactivate Effect</source>
             <translation>停用效果</translation>
+        </message>
+        <message>
+            <source>Activate Effect</source>
+            <translation>启用效果</translation>
         </message>
         <message>
             <source>All Screens</source>

@@ -18,23 +18,24 @@ Menu::Id append(Menu& menu, std::string text, std::function<void()> picked) {
 
 } // namespace
 
+// A dock shows its menu below the actions of the desktop entry, which are the rest of the status
+// menu.
 AppMenus::AppMenus(NDAppController& controller, DefaultsStore& defaults,
                    NotificationCenter& localCenter, std::function<void()> quit)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter),
-      quit_(std::move(quit)), activateItem_(append(effectMenu_, translated("&Activate Effect"),
-                                                   [this] { controller_.activateEffect(); })),
-      dockActivateItem_(fill(dockMenu_)), statusActivateItem_(fill(statusMenu_)) {}
+      activateItem_(appendActivateItem(effectMenu_)),
+      dockActivateItem_(appendActivateItem(dockMenu_)),
+      statusActivateItem_(appendActivateItem(statusMenu_)) {
+    setActivateItemTitles(false);
+    statusMenu_.append(MenuItem::separator());
+    append(statusMenu_, translated("Preferences..."), [this] { controller_.openPreferences(); });
+    append(statusMenu_, translated("About Nocturo"), [this] { controller_.openAboutBox(); });
+    statusMenu_.append(MenuItem::separator());
+    append(statusMenu_, translated("Quit Nocturo"), std::move(quit));
+}
 
-/// The activate item.
-Menu::Id AppMenus::fill(Menu& menu) {
-    const Menu::Id activateItem =
-        append(menu, translated("Activate Effect"), [this] { controller_.activateEffect(); });
-    menu.append(MenuItem::separator());
-    append(menu, translated("Preferences..."), [this] { controller_.openPreferences(); });
-    append(menu, translated("About Nocturo"), [this] { controller_.openAboutBox(); });
-    menu.append(MenuItem::separator());
-    append(menu, translated("Quit Nocturo"), quit_);
-    return activateItem;
+Menu::Id AppMenus::appendActivateItem(Menu& menu) {
+    return append(menu, {}, [this] { controller_.activateEffect(); });
 }
 
 void AppMenus::setActivateItemTitles(bool active) {

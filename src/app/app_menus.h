@@ -35,12 +35,11 @@ class AppMenus {
     void makeScreenMenus();
 
   private:
-    Menu::Id fill(Menu& menu);
+    Menu::Id appendActivateItem(Menu& menu);
 
     NDAppController& controller_;
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
-    std::function<void()> quit_;
     Menu effectMenu_;
     Menu dockMenu_;
     Menu statusMenu_;

@@ -1,33 +1,25 @@
 #include "bus/launcher_menu.h"
 
-#include <QDBusMessage>
-
 namespace nocturo {
 
 namespace {
 
-const QString kMenuPath = QStringLiteral("/org/nocturo/Nocturo/LauncherMenu");
-const QString kEntryPath = QStringLiteral("/org/nocturo/Nocturo");
-const QString kEntryInterface = QStringLiteral("com.canonical.Unity.LauncherEntry");
-const QString kApplication = QStringLiteral("application://org.nocturo.Nocturo.desktop");
-const QString kDock = QStringLiteral("com.canonical.Unity");
+constexpr const char* kMenuPath = "/org/nocturo/Nocturo/LauncherMenu";
+constexpr const char* kEntryPath = "/org/nocturo/Nocturo";
+constexpr const char* kEntryInterface = "com.canonical.Unity.LauncherEntry";
+constexpr const char* kApplication = "application://org.nocturo.Nocturo.desktop";
+constexpr const char* kDock = "com.canonical.Unity";
 
 } // namespace
 
-LauncherMenu::LauncherMenu(const QDBusConnection& bus)
-    : bus_(bus), exporter_(menu_, bus, kMenuPath),
-      docks_(kDock, bus, QDBusServiceWatcher::WatchForRegistration) {}
+// Docks that do not own the name hear the announcement as well, so it is made in any case.
+LauncherMenu::LauncherMenu(Menu& menu, const Bus& bus, RunLoop& runLoop)
+    : bus_(bus), exporter_(menu, bus, runLoop, kMenuPath),
+      docks_(bus.followOwner(kDock, [this](const std::string& /*owner*/) { announce(); })) {}
 
-void LauncherMenu::offer() {
-    connect(&docks_, &QDBusServiceWatcher::serviceRegistered, this, &LauncherMenu::announce);
-    announce();
-}
-
-void LauncherMenu::announce() {
-    QDBusMessage signal =
-        QDBusMessage::createSignal(kEntryPath, kEntryInterface, QStringLiteral("Update"));
-    signal << kApplication << QVariantMap{{QStringLiteral("quicklist"), kMenuPath}};
-    bus_.send(signal);
+void LauncherMenu::announce() const {
+    sd_bus_emit_signal(bus_.handle(), kEntryPath, kEntryInterface, "Update", "sa{sv}", kApplication,
+                       1, "quicklist", "s", kMenuPath);
 }
 
 } // namespace nocturo

@@ -2,30 +2,21 @@
 
 #include "bus/menu_exporter.h"
 
-#include <QDBusConnection>
-#include <QDBusServiceWatcher>
-#include <QMenu>
-
 namespace nocturo {
 
 /// The menu of the application's icon in a dock, for docks that take one from a running application
-/// (com.canonical.Unity.LauncherEntry). Needs a QApplication.
-class LauncherMenu : public QObject {
+/// (com.canonical.Unity.LauncherEntry). Main thread only.
+class LauncherMenu {
   public:
-    explicit LauncherMenu(const QDBusConnection& bus);
-
-    QMenu& menu() { return menu_; }
-
-    /// Offers the menu, now and to every dock that starts later.
-    void offer();
+    /// All must outlive the launcher's menu. Offers it, now and to every dock that starts later.
+    LauncherMenu(Menu& menu, const Bus& bus, RunLoop& runLoop);
 
   private:
-    void announce();
+    void announce() const;
 
-    QDBusConnection bus_;
-    QMenu menu_;
+    const Bus& bus_;
     MenuExporter exporter_;
-    QDBusServiceWatcher docks_;
+    std::unique_ptr<BusSlot> docks_;
 };
 
 } // namespace nocturo

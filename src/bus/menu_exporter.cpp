@@ -1,296 +1,307 @@
-// Qt exports menus of its windows and tray icons only, by classes that are its own. A dock's menu
-// is flat and short, so what is changed is always told as a whole.
+// The menus are flat and short, so what is changed is always told as a whole. sd-bus compares the
+// types of a call with those of the table before it calls anything here.
 
 #include "bus/menu_exporter.h"
 
-#include <QActionEvent>
-#include <QDBusMessage>
-#include <QDBusMetaType>
-#include <QDBusVariant>
-#include <QMetaObject>
-
+#include <array>
+#include <chrono>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 namespace nocturo {
 
-/// The properties of the item with that number.
-struct ItemProperties {
-    int id = 0;
-    QVariantMap properties;
-};
-
-// Found by the library through the type's namespace.
-
-QDBusArgument& operator<<(QDBusArgument& argument, const ItemProperties& item) {
-    argument.beginStructure();
-    argument << item.id << item.properties;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, ItemProperties& item) {
-    argument.beginStructure();
-    argument >> item.id >> item.properties;
-    argument.endStructure();
-    return argument;
-}
-
 namespace {
 
-const QString kInterface = QStringLiteral("com.canonical.dbusmenu");
-const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
+constexpr const char* kInterface = "com.canonical.dbusmenu";
+constexpr std::size_t kMaxListed = 1000; // of what a caller lists; a menu has a dozen items
+constexpr Menu::Id kMenuItself = Menu::kNone;
 
-constexpr auto kIntrospection = R"xml(  <interface name="com.canonical.dbusmenu">
-    <property name="Version" type="u" access="read"/>
-    <property name="TextDirection" type="s" access="read"/>
-    <property name="Status" type="s" access="read"/>
-    <property name="IconThemePath" type="as" access="read"/>
-    <method name="GetLayout">
-      <arg name="parentId" type="i" direction="in"/>
-      <arg name="recursionDepth" type="i" direction="in"/>
-      <arg name="propertyNames" type="as" direction="in"/>
-      <arg name="revision" type="u" direction="out"/>
-      <arg name="layout" type="(ia{sv}av)" direction="out"/>
-    </method>
-    <method name="GetGroupProperties">
-      <arg name="ids" type="ai" direction="in"/>
-      <arg name="propertyNames" type="as" direction="in"/>
-      <arg name="properties" type="a(ia{sv})" direction="out"/>
-    </method>
-    <method name="GetProperty">
-      <arg name="id" type="i" direction="in"/>
-      <arg name="name" type="s" direction="in"/>
-      <arg name="value" type="v" direction="out"/>
-    </method>
-    <method name="Event">
-      <arg name="id" type="i" direction="in"/>
-      <arg name="eventId" type="s" direction="in"/>
-      <arg name="data" type="v" direction="in"/>
-      <arg name="timestamp" type="u" direction="in"/>
-    </method>
-    <method name="EventGroup">
-      <arg name="events" type="a(isvu)" direction="in"/>
-      <arg name="idErrors" type="ai" direction="out"/>
-    </method>
-    <method name="AboutToShow">
-      <arg name="id" type="i" direction="in"/>
-      <arg name="needUpdate" type="b" direction="out"/>
-    </method>
-    <method name="AboutToShowGroup">
-      <arg name="ids" type="ai" direction="in"/>
-      <arg name="updatesNeeded" type="ai" direction="out"/>
-      <arg name="idErrors" type="ai" direction="out"/>
-    </method>
-    <signal name="LayoutUpdated">
-      <arg name="revision" type="u"/>
-      <arg name="parent" type="i"/>
-    </signal>
-  </interface>
-)xml";
-
-QVariantMap rootProperties() {
-    return {{QStringLiteral("children-display"), QStringLiteral("submenu")}};
-}
-
-QVariantMap menuProperties() {
-    return {{QStringLiteral("Version"), 3U},
-            {QStringLiteral("TextDirection"), QStringLiteral("ltr")},
-            {QStringLiteral("Status"), QStringLiteral("normal")},
-            {QStringLiteral("IconThemePath"), QStringList()}};
-}
-
-QVariant layoutStructure(int id, const QVariantMap& properties, const QList<QVariant>& children) {
-    QDBusArgument structure;
-    structure.beginStructure();
-    structure << id << properties;
-    structure.beginArray(QMetaType::fromType<QDBusVariant>());
-    for (const QVariant& child : children) {
-        structure << QDBusVariant(child);
+std::string label(const MenuItem& item) {
+    const std::string text = indentedText(item);
+    std::string label;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '_') {
+            label += "__";
+        } else if (text[at] != '&') {
+            label += text[at];
+        } else if (text.compare(at, 2, "&&") == 0) {
+            label += text[++at];
+        } else {
+            label += '_';
+        }
     }
-    structure.endArray();
-    structure.endStructure();
-    return QVariant::fromValue(structure);
+    return label;
+}
+
+void appendText(sd_bus_message* message, const char* name, const std::string& value) {
+    sd_bus_message_append(message, "{sv}", name, "s", value.c_str());
+}
+
+void appendFlag(sd_bus_message* message, const char* name, bool value) {
+    sd_bus_message_append(message, "{sv}", name, "b", value ? 1 : 0);
+}
+
+/// As the type a{sv}; nothing in it where there is no item.
+void appendProperties(sd_bus_message* message, Menu::Id id, const MenuItem* item) {
+    sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "{sv}");
+    if (id == kMenuItself) {
+        appendText(message, "children-display", "submenu");
+    } else if (item != nullptr && item->isSeparator) {
+        appendText(message, "type", "separator");
+    } else if (item != nullptr) {
+        appendText(message, "label", label(*item));
+        appendFlag(message, "enabled", true);
+        appendFlag(message, "visible", item->isVisible);
+        if (item->isCheckable) {
+            appendText(message, "toggle-type", "checkmark");
+            sd_bus_message_append(message, "{sv}", "toggle-state", "i", item->isChecked ? 1 : 0);
+        }
+    }
+    sd_bus_message_close_container(message);
+}
+
+/// As the type (ia{sv}av).
+void appendLayout(sd_bus_message* message, const Menu& menu, Menu::Id id) {
+    sd_bus_message_open_container(message, SD_BUS_TYPE_STRUCT, "ia{sv}av");
+    sd_bus_message_append(message, "i", id);
+    appendProperties(message, id, menu.item(id));
+    sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "v");
+    if (id == kMenuItself) {
+        for (const Menu::Entry& entry : menu.entries()) {
+            sd_bus_message_open_container(message, SD_BUS_TYPE_VARIANT, "(ia{sv}av)");
+            appendLayout(message, menu, entry.id);
+            sd_bus_message_close_container(message);
+        }
+    }
+    sd_bus_message_close_container(message);
+    sd_bus_message_close_container(message);
+}
+
+int listIsTooLong(sd_bus_error* error) {
+    return sd_bus_error_set(error, SD_BUS_ERROR_LIMITS_EXCEEDED, "The list is too long.");
+}
+
+/// The numbers of an argument "ai"; nothing when there are too many.
+std::optional<std::vector<Menu::Id>> readIds(sd_bus_message* call) {
+    std::vector<Menu::Id> ids;
+    Menu::Id id = 0;
+    sd_bus_message_enter_container(call, SD_BUS_TYPE_ARRAY, "i");
+    while (sd_bus_message_read(call, "i", &id) > 0) {
+        if (ids.size() == kMaxListed) {
+            return std::nullopt;
+        }
+        ids.push_back(id);
+    }
+    sd_bus_message_exit_container(call);
+    return ids;
+}
+
+void appendIds(sd_bus_message* message, const std::vector<Menu::Id>& ids) {
+    sd_bus_message_append_array(message, 'i', ids.data(), ids.size() * sizeof(Menu::Id));
+}
+
+BusMessage replyTo(sd_bus_message* call) {
+    sd_bus_message* reply = nullptr;
+    sd_bus_message_new_method_return(call, &reply);
+    return BusMessage(reply);
+}
+
+int send(const BusMessage& reply) {
+    return sd_bus_send(nullptr, reply.get(), nullptr);
 }
 
 } // namespace
 
-MenuExporter::MenuExporter(QMenu& menu, QDBusConnection bus, const QString& path)
-    : menu_(menu), bus_(std::move(bus)), path_(path) {
-    qDBusRegisterMetaType<ItemProperties>();
-    qDBusRegisterMetaType<QList<ItemProperties>>();
-    menu_.installEventFilter(this);
-    bus_.registerVirtualObject(path_, this);
+struct MenuExporter::Table {
+    template <int (MenuExporter::*Method)(sd_bus_message*, sd_bus_error*)>
+    static int call(sd_bus_message* call, void* self, sd_bus_error* error) {
+        return (static_cast<MenuExporter*>(self)->*Method)(call, error);
+    }
+    template <int (*Method)(sd_bus_message*, sd_bus_error*)>
+    static int call(sd_bus_message* call, void* /*self*/, sd_bus_error* error) {
+        return Method(call, error);
+    }
+
+    static int property(sd_bus* /*bus*/, const char* /*path*/, const char* /*interface*/,
+                        const char* property, sd_bus_message* reply, void* /*self*/,
+                        sd_bus_error* /*error*/) {
+        const std::string_view name(property);
+        if (name == "Version") {
+            return sd_bus_message_append(reply, "u", 3U);
+        }
+        if (name == "IconThemePath") {
+            return sd_bus_message_append(reply, "as", 0);
+        }
+        return sd_bus_message_append(reply, "s", name == "Status" ? "normal" : "ltr");
+    }
+
+    static const std::array<sd_bus_vtable, 14> members;
+};
+
+const std::array<sd_bus_vtable, 14> MenuExporter::Table::members = {{
+    SD_BUS_VTABLE_START(SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_PROPERTY("Version", "u", property, 0, SD_BUS_VTABLE_PROPERTY_CONST),
+    SD_BUS_PROPERTY("TextDirection", "s", property, 0, SD_BUS_VTABLE_PROPERTY_CONST),
+    SD_BUS_PROPERTY("Status", "s", property, 0, SD_BUS_VTABLE_PROPERTY_CONST),
+    SD_BUS_PROPERTY("IconThemePath", "as", property, 0, SD_BUS_VTABLE_PROPERTY_CONST),
+    SD_BUS_METHOD_WITH_ARGS("GetLayout",
+                            SD_BUS_ARGS("i", parentId, "i", recursionDepth, "as", propertyNames),
+                            SD_BUS_RESULT("u", revision, "(ia{sv}av)", layout),
+                            call<&MenuExporter::getLayout>, SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_METHOD_WITH_ARGS("GetGroupProperties", SD_BUS_ARGS("ai", ids, "as", propertyNames),
+                            SD_BUS_RESULT("a(ia{sv})", properties),
+                            call<&MenuExporter::getGroupProperties>, SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_METHOD_WITH_ARGS("GetProperty", SD_BUS_ARGS("i", id, "s", name),
+                            SD_BUS_RESULT("v", value), call<&MenuExporter::getProperty>,
+                            SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_METHOD_WITH_ARGS("Event", SD_BUS_ARGS("i", id, "s", eventId, "v", data, "u", timestamp),
+                            SD_BUS_NO_RESULT, call<&MenuExporter::event>,
+                            SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_METHOD_WITH_ARGS("EventGroup", SD_BUS_ARGS("a(isvu)", events),
+                            SD_BUS_RESULT("ai", idErrors), call<&MenuExporter::eventGroup>,
+                            SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_METHOD_WITH_ARGS("AboutToShow", SD_BUS_ARGS("i", id), SD_BUS_RESULT("b", needUpdate),
+                            call<&MenuExporter::aboutToShow>, SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_METHOD_WITH_ARGS("AboutToShowGroup", SD_BUS_ARGS("ai", ids),
+                            SD_BUS_RESULT("ai", updatesNeeded, "ai", idErrors),
+                            call<&MenuExporter::aboutToShowGroup>, SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_SIGNAL_WITH_ARGS("LayoutUpdated", SD_BUS_ARGS("u", revision, "i", parent), 0),
+    SD_BUS_VTABLE_END,
+}};
+
+MenuExporter::MenuExporter(Menu& menu, const Bus& bus, RunLoop& runLoop, std::string path)
+    : menu_(menu), bus_(bus), runLoop_(runLoop), path_(std::move(path)) {
+    sd_bus_slot* slot = nullptr;
+    sd_bus_add_object_vtable(bus.handle(), &slot, path_.c_str(), kInterface, Table::members.data(),
+                             this);
+    object_.reset(slot);
+    menu_.changes().addObserver(this, kMenuDidChangeNotification, [this] { menuDidChange(); });
 }
 
 MenuExporter::~MenuExporter() {
-    bus_.unregisterObject(path_);
+    menu_.changes().removeObserver(this);
 }
 
-QString MenuExporter::introspect(const QString& /*path*/) const {
-    return QString::fromLatin1(kIntrospection);
-}
-
-bool MenuExporter::eventFilter(QObject* /*watched*/, QEvent* event) {
-    const auto type = event->type();
-    if (type == QEvent::ActionRemoved) {
-        ids_.remove(static_cast<const QActionEvent*>(event)->action());
+// Once for all that changes together.
+void MenuExporter::menuDidChange() {
+    if (change_ == nullptr) {
+        change_ = runLoop_.scheduleTimer(std::chrono::milliseconds(0), [this] { tellLayout(); });
     }
-    if (type == QEvent::ActionAdded || type == QEvent::ActionChanged ||
-        type == QEvent::ActionRemoved) {
-        // Once for all that changes together.
-        if (!std::exchange(changed_, true)) {
-            QMetaObject::invokeMethod(
-                this, [this] { tellLayout(); }, Qt::QueuedConnection);
-        }
-    }
-    return false;
 }
 
 void MenuExporter::tellLayout() {
-    changed_ = false;
-    QDBusMessage signal =
-        QDBusMessage::createSignal(path_, kInterface, QStringLiteral("LayoutUpdated"));
-    signal << ++revision_ << 0;
-    bus_.send(signal);
+    change_.reset();
+    sd_bus_emit_signal(bus_.handle(), path_.c_str(), kInterface, "LayoutUpdated", "ui", ++revision_,
+                       kMenuItself);
 }
 
-bool MenuExporter::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-    if (message.interface() != kProperties && message.interface() != kInterface) {
-        return false;
-    }
-    const auto answer = answerTo(message);
-    return answer && connection.send(message.createReply(*answer));
+int MenuExporter::getLayout(sd_bus_message* call, sd_bus_error* /*error*/) {
+    Menu::Id parent = kMenuItself;
+    sd_bus_message_read(call, "i", &parent);
+    const BusMessage reply = replyTo(call);
+    sd_bus_message_append(reply.get(), "u", revision_);
+    appendLayout(reply.get(), menu_, parent);
+    return send(reply);
 }
 
-std::optional<QList<QVariant>> MenuExporter::answerTo(const QDBusMessage& message) {
-    const auto one = [](const QVariant& value) { return QList<QVariant>{value}; };
-    const QString method = message.member();
-    const QList<QVariant> arguments = message.arguments();
-    const int id = arguments.value(0).toInt();
-    const QString name = arguments.value(1).toString();
-    if (method == QLatin1String("Get")) {
-        return one(QVariant::fromValue(QDBusVariant(menuProperties().value(name))));
+int MenuExporter::getGroupProperties(sd_bus_message* call, sd_bus_error* error) {
+    const auto ids = readIds(call);
+    if (!ids) {
+        return listIsTooLong(error);
     }
-    if (method == QLatin1String("GetAll")) {
-        return one(menuProperties());
-    }
-    if (method == QLatin1String("GetLayout")) {
-        return layout(id);
-    }
-    if (method == QLatin1String("GetGroupProperties")) {
-        return one(groupProperties(qdbus_cast<QList<int>>(arguments.value(0))));
-    }
-    if (method == QLatin1String("GetProperty")) {
-        const QAction* item = itemOf(id);
-        const QVariant value = item != nullptr ? propertiesOf(*item).value(name) : QVariant();
-        return one(QVariant::fromValue(QDBusVariant(value.isValid() ? value : QString())));
-    }
-    if (method == QLatin1String("Event")) {
-        handleEvent(id, name);
-        return QList<QVariant>();
-    }
-    if (method == QLatin1String("EventGroup")) {
-        return one(QVariant::fromValue(handleEvents(arguments.value(0).value<QDBusArgument>())));
-    }
-    if (method == QLatin1String("AboutToShow")) {
-        return one(false);
-    }
-    if (method == QLatin1String("AboutToShowGroup")) {
-        const QVariant none = QVariant::fromValue(QList<int>());
-        return QList<QVariant>{none, none};
-    }
-    return std::nullopt;
-}
-
-QList<QVariant> MenuExporter::layout(int parent) {
-    QList<QVariant> children;
-    if (parent == 0) {
-        for (const QAction* item : menu_.actions()) {
-            children.append(layoutOf(*item));
-        }
-        return {revision_, layoutStructure(0, rootProperties(), children)};
-    }
-    const QAction* item = itemOf(parent);
-    return {revision_, item != nullptr ? layoutOf(*item) : layoutStructure(parent, {}, {})};
-}
-
-QVariant MenuExporter::groupProperties(const QList<int>& ids) {
-    QList<ItemProperties> list;
-    if (ids.isEmpty() || ids.contains(0)) {
-        list.append({0, rootProperties()});
-    }
-    for (const QAction* item : menu_.actions()) {
-        const int id = idOf(item);
-        if (ids.isEmpty() || ids.contains(id)) {
-            list.append({id, propertiesOf(*item)});
+    const BusMessage reply = replyTo(call);
+    sd_bus_message_open_container(reply.get(), SD_BUS_TYPE_ARRAY, "(ia{sv})");
+    const auto append = [&](Menu::Id id) {
+        sd_bus_message_open_container(reply.get(), SD_BUS_TYPE_STRUCT, "ia{sv}");
+        sd_bus_message_append(reply.get(), "i", id);
+        appendProperties(reply.get(), id, menu_.item(id));
+        sd_bus_message_close_container(reply.get());
+    };
+    if (ids->empty()) {
+        append(kMenuItself);
+        for (const Menu::Entry& entry : menu_.entries()) {
+            append(entry.id);
         }
     }
-    return QVariant::fromValue(list);
-}
-
-bool MenuExporter::handleEvent(int id, const QString& event) {
-    QAction* item = itemOf(id);
-    if (item != nullptr && event == QLatin1String("clicked")) {
-        // Later, so that the dock has its answer first.
-        QMetaObject::invokeMethod(item, &QAction::trigger, Qt::QueuedConnection);
-    }
-    return id == 0 || item != nullptr;
-}
-
-QList<int> MenuExporter::handleEvents(const QDBusArgument& events) {
-    QList<int> unknown;
-    events.beginArray();
-    while (!events.atEnd()) {
-        int id = 0;
-        QString event;
-        QDBusVariant data;
-        uint time = 0;
-        events.beginStructure();
-        events >> id >> event >> data >> time;
-        events.endStructure();
-        if (!handleEvent(id, event)) {
-            unknown.append(id);
+    for (const Menu::Id id : *ids) {
+        if (id == kMenuItself || menu_.item(id) != nullptr) {
+            append(id);
         }
     }
-    events.endArray();
-    return unknown;
+    sd_bus_message_close_container(reply.get());
+    return send(reply);
 }
 
-int MenuExporter::idOf(const QAction* item) {
-    auto found = ids_.find(item);
-    if (found == ids_.end()) {
-        found = ids_.insert(item, ++lastId_);
+int MenuExporter::getProperty(sd_bus_message* call, sd_bus_error* /*error*/) {
+    Menu::Id id = kMenuItself;
+    const char* name = "";
+    sd_bus_message_read(call, "is", &id, &name);
+    const BusMessage reply = replyTo(call);
+    const MenuItem* item = menu_.item(id);
+    const std::string_view wanted(name);
+    if (item != nullptr && wanted == "label" && !item->isSeparator) {
+        sd_bus_message_append(reply.get(), "v", "s", label(*item).c_str());
+    } else if (item != nullptr && (wanted == "enabled" || wanted == "visible")) {
+        const bool value = wanted == "enabled" || item->isVisible;
+        sd_bus_message_append(reply.get(), "v", "b", value ? 1 : 0);
+    } else if (item != nullptr && wanted == "toggle-state" && item->isCheckable) {
+        sd_bus_message_append(reply.get(), "v", "i", item->isChecked ? 1 : 0);
+    } else {
+        const bool isLine = item != nullptr && wanted == "type" && item->isSeparator;
+        sd_bus_message_append(reply.get(), "v", "s", isLine ? "separator" : "");
     }
-    return *found;
+    return send(reply);
 }
 
-QAction* MenuExporter::itemOf(int id) const {
-    for (QAction* item : menu_.actions()) {
-        if (ids_.value(item) == id && id != 0) {
-            return item;
+int MenuExporter::event(sd_bus_message* call, sd_bus_error* /*error*/) {
+    Menu::Id id = kMenuItself;
+    const char* kind = "";
+    sd_bus_message_read(call, "is", &id, &kind);
+    const bool isPick = std::string_view(kind) == "clicked";
+    const int sent = sd_bus_reply_method_return(call, nullptr); // before the item does anything
+    if (isPick) {
+        menu_.pick(id);
+    }
+    return sent;
+}
+
+int MenuExporter::eventGroup(sd_bus_message* call, sd_bus_error* error) {
+    std::vector<Menu::Id> picked;
+    std::vector<Menu::Id> unknown;
+    std::size_t count = 0;
+    sd_bus_message_enter_container(call, SD_BUS_TYPE_ARRAY, "(isvu)");
+    while (sd_bus_message_enter_container(call, SD_BUS_TYPE_STRUCT, "isvu") > 0) {
+        if (++count > kMaxListed) {
+            return listIsTooLong(error);
+        }
+        Menu::Id id = kMenuItself;
+        const char* kind = "";
+        sd_bus_message_read(call, "is", &id, &kind);
+        sd_bus_message_skip(call, "vu");
+        sd_bus_message_exit_container(call);
+        if (id != kMenuItself && menu_.item(id) == nullptr) {
+            unknown.push_back(id);
+        } else if (std::string_view(kind) == "clicked") {
+            picked.push_back(id);
         }
     }
-    return nullptr;
+    const BusMessage reply = replyTo(call);
+    appendIds(reply.get(), unknown);
+    const int sent = send(reply);
+    Menu& menu = menu_; // a pick may end the exporter
+    for (const Menu::Id id : picked) {
+        menu.pick(id);
+    }
+    return sent;
 }
 
-QVariantMap MenuExporter::propertiesOf(const QAction& item) const {
-    if (item.isSeparator()) {
-        return {{QStringLiteral("type"), QStringLiteral("separator")}};
-    }
-    QString label = item.text();
-    QVariantMap properties = {
-        {QStringLiteral("label"), label.replace(u'_', QStringLiteral("__")).replace(u'&', u'_')},
-        {QStringLiteral("enabled"), item.isEnabled()},
-        {QStringLiteral("visible"), item.isVisible()}};
-    if (item.isCheckable()) {
-        properties.insert(QStringLiteral("toggle-type"), QStringLiteral("checkmark"));
-        properties.insert(QStringLiteral("toggle-state"), item.isChecked() ? 1 : 0);
-    }
-    return properties;
+int MenuExporter::aboutToShow(sd_bus_message* call, sd_bus_error* /*error*/) {
+    return sd_bus_reply_method_return(call, "b", 0);
 }
 
-QVariant MenuExporter::layoutOf(const QAction& item) {
-    return layoutStructure(idOf(&item), propertiesOf(item), {});
+int MenuExporter::aboutToShowGroup(sd_bus_message* call, sd_bus_error* /*error*/) {
+    return sd_bus_reply_method_return(call, "aiai", 0, 0);
 }
 
 } // namespace nocturo

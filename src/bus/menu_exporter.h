@@ -1,48 +1,47 @@
 #pragma once
 
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusVirtualObject>
-#include <QHash>
-#include <QMenu>
+#include "app/menu.h"
+#include "base/bus.h"
+#include "base/run_loop.h"
 
-#include <optional>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace nocturo {
 
-/// Shows a menu on the bus (com.canonical.dbusmenu), for a dock to show as its own. Items keep
-/// their numbers as long as they live. Menus within the menu are left out.
-class MenuExporter : public QDBusVirtualObject {
+/// Shows a menu on the bus (com.canonical.dbusmenu), for a panel or a dock to show as its own.
+/// Items have the numbers that they have in the menu. Main thread only.
+class MenuExporter {
   public:
-    /// The menu must outlive the exporter.
-    MenuExporter(QMenu& menu, QDBusConnection bus, const QString& path);
-    ~MenuExporter() override;
-
-    QString introspect(const QString& path) const override;
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// All must outlive the exporter.
+    MenuExporter(Menu& menu, const Bus& bus, RunLoop& runLoop, std::string path);
+    ~MenuExporter();
+    MenuExporter(const MenuExporter&) = delete;
+    MenuExporter& operator=(const MenuExporter&) = delete;
 
   private:
-    int idOf(const QAction* item);
-    QAction* itemOf(int id) const;
-    QVariantMap propertiesOf(const QAction& item) const;
-    QVariant layoutOf(const QAction& item);
-    std::optional<QList<QVariant>> answerTo(const QDBusMessage& message);
-    QList<QVariant> layout(int parent);
-    QVariant groupProperties(const QList<int>& ids);
-    bool handleEvent(int id, const QString& event); // false for an unknown item
-    QList<int> handleEvents(const QDBusArgument& events);
+    struct Table;
+
+    void menuDidChange();
     void tellLayout();
 
-    QMenu& menu_;
-    QDBusConnection bus_;
-    QString path_;
-    QHash<const QAction*, int> ids_;
-    int lastId_ = 0; // 0 is the menu itself
-    uint revision_ = 1;
-    bool changed_ = false; // and not told yet
+    int getLayout(sd_bus_message* call, sd_bus_error* error);
+    int getGroupProperties(sd_bus_message* call, sd_bus_error* error);
+    int getProperty(sd_bus_message* call, sd_bus_error* error);
+    int event(sd_bus_message* call, sd_bus_error* error);
+    int eventGroup(sd_bus_message* call, sd_bus_error* error);
+    static int aboutToShow(sd_bus_message* call, sd_bus_error* error);
+    static int aboutToShowGroup(sd_bus_message* call, sd_bus_error* error);
+
+    Menu& menu_;
+    const Bus& bus_;
+    RunLoop& runLoop_;
+    std::string path_;
+    std::uint32_t revision_ = 1;
+    std::unique_ptr<Timer> change_; // that is not told yet
+    std::unique_ptr<sd_bus_slot, BusRelease> object_;
 };
 
 } // namespace nocturo

@@ -3,7 +3,6 @@
 #include "desktop/app_windows.h"
 #include "desktop/menus/desktop_menus.h"
 #include "desktop/qt/qt_loop.h"
-#include "desktop/qt/session_bus.h"
 #include "desktop/qt/translations.h"
 #include "desktop/test_card/test_card.h"
 
@@ -45,9 +44,8 @@ class QtDesktop : public DesktopPart {
   public:
     explicit QtDesktop(const DesktopSurroundings& around)
         : application_(around.loop), windows_(around.controller, around.defaults, around.centers),
-          menus_(around.controller, around.defaults, around.centers.local, windows_,
-                 around.recentDocuments,
-                 {connectToSessionBus(), qEnvironmentVariable("DISPLAY").toStdString()}) {
+          menus_(around.controller, windows_, around.recentDocuments, around.menus,
+                 qEnvironmentVariable("DISPLAY").toStdString()) {
         // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
         const auto startNothing = [](QSessionManager& session) {
             session.setRestartHint(QSessionManager::RestartNever);
@@ -61,7 +59,16 @@ class QtDesktop : public DesktopPart {
     }
 
     UserInterface& windows() override { return windows_; }
-    DesktopFace& face() override { return menus_; }
+    void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override {
+        menus_.showAlert(alert, std::move(answered));
+    }
+    void showRefusedDocuments(const std::vector<std::string>& paths) override {
+        menus_.showRefusedDocuments(paths);
+    }
+    void setInTray(bool inTray) override { menus_.setInTray(inTray); }
+    void setItemEmbedded(bool embedded) override { menus_.setItemEmbedded(embedded); }
+    void setItemImage(bool active) override { menus_.setItemImage(active); }
+    void popUpStatusMenu(int x, int y) override { menus_.popUpStatusMenu(x, y); }
     void setKeyboardLayout(KeyboardLayout* layout) override { windows_.setKeyboardLayout(layout); }
 
   private:

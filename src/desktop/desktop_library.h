@@ -7,9 +7,12 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace nocturo {
 
+class AppMenus;
 class DefaultsStore;
 class EventLoop;
 class KeyboardLayout;
@@ -24,6 +27,7 @@ struct DesktopSurroundings {
     DefaultsStore& defaults;
     NotificationCenters centers;
     const RecentDocuments& recentDocuments;
+    AppMenus& menus;
     std::function<void()> sessionIsEnding; // the time to keep what is to come back
 };
 
@@ -32,7 +36,22 @@ class DesktopPart {
   public:
     virtual ~DesktopPart() = default;
     virtual UserInterface& windows() = 0;
-    virtual DesktopFace& face() = 0;
+
+    // As DesktopFace has them.
+    virtual void showAlert(const Alert& alert,
+                           std::function<void(AlertAnswer answer)> answered) = 0;
+    virtual void showRefusedDocuments(const std::vector<std::string>& paths) = 0;
+
+    /// Keeps the windows off the task bar, or no longer.
+    virtual void setInTray(bool inTray) = 0;
+
+    /// Shows the status item in trays that embed windows, or no longer. Not to be asked for while
+    /// the session bus has a tray. Where there is no tray at all the preference window says so.
+    virtual void setItemEmbedded(bool embedded) = 0;
+    virtual void setItemImage(bool active) = 0;
+
+    /// Shows the status menu at that point of the screen.
+    virtual void popUpStatusMenu(int x, int y) = 0;
 
     /// Must outlive the part or be taken away with null.
     virtual void setKeyboardLayout(KeyboardLayout* layout) = 0;

@@ -20,7 +20,7 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       controller(defaults, centers, runLoop), wakeRepeater(controller, centers, runLoop),
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
-      desktop(runLoop, controller, defaults, centers),
+      desktop(runLoop, sessionBus.get(), controller, defaults, centers),
       face(controller, defaults, centers.local, disturbances, desktop, sessionBus.get(), loop) {
     runLoop.handleSignals(signalNumbers(), [this](int number) { signalWasSent(number); });
 }

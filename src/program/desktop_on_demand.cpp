@@ -1,6 +1,7 @@
 #include "program/desktop_on_demand.h"
 
 #include "app/app_controller.h"
+#include "base/event_loop.h"
 #include "base/log.h"
 #include "base/program_files.h"
 #include "base/texts/translated.h"
@@ -51,10 +52,15 @@ bool drawTestCard(const Ramp& ramp, const std::filesystem::path& picture) {
     return library && (*library)->writeTestCard(ramp, picture);
 }
 
-DesktopOnDemand::DesktopOnDemand(EventLoop& loop, NDAppController& controller,
+DesktopOnDemand::DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppController& controller,
                                  DefaultsStore& defaults, const NotificationCenters& centers)
-    : loop_(loop), controller_(controller), defaults_(defaults), centers_(centers),
-      recentDocuments_(stateDirectory() / "recent-documents.plist") {
+    : loop_(loop), bus_(bus), controller_(controller), defaults_(defaults), centers_(centers),
+      recentDocuments_(stateDirectory() / "recent-documents.plist"),
+      menus_(controller, defaults, centers.local, [&loop] { loop.quit(); }),
+      tray_(menus_.statusMenu(), loop, sessionBusAddress(),
+            {[this](bool shown) { setItemEmbedded(shown); },
+             [this](int x, int y) { popUpStatusMenu(x, y); }},
+            [&controller] { controller.activateEffect(); }) {
     controller_.setUserInterface(this);
     controller_.setDesktopFace(this);
 }
@@ -73,12 +79,16 @@ Result<DesktopPart*> DesktopOnDemand::load() {
         return tl::unexpected(library.error());
     }
     choosePlatform();
-    part_ = (*library)->start({loop_, controller_, defaults_, centers_, recentDocuments_, [this] {
-                                   if (sessionIsEnding) {
-                                       sessionIsEnding();
-                                   }
-                               }});
+    part_ = (*library)->start(
+        {loop_, controller_, defaults_, centers_, recentDocuments_, menus_, [this] {
+             if (sessionIsEnding) {
+                 sessionIsEnding();
+             }
+         }});
     part_->setKeyboardLayout(layout_);
+    part_->setInTray(inTray_);
+    part_->setItemImage(itemActive_);
+    part_->setItemEmbedded(itemEmbedded_);
     if (aboutBoxColor_) {
         part_->windows().setAboutBoxBackgroundColor(*aboutBoxColor_);
     }
@@ -159,7 +169,7 @@ void DesktopOnDemand::showAlert(const Alert& alert,
                                 std::function<void(AlertAnswer answer)> answered) {
     auto* part = canShowWindows() ? partOrWarning() : nullptr;
     if (part != nullptr) {
-        part->face().showAlert(alert, std::move(answered));
+        part->showAlert(alert, std::move(answered));
         return;
     }
     logWarning(kLogApp, titleOf(alert));
@@ -169,31 +179,49 @@ void DesktopOnDemand::showAlert(const Alert& alert,
 void DesktopOnDemand::showRefusedDocuments(const std::vector<std::string>& paths) {
     auto* part = canShowWindows() ? partOrWarning() : nullptr;
     if (part != nullptr) {
-        part->face().showRefusedDocuments(paths);
+        part->showRefusedDocuments(paths);
     }
 }
 
 void DesktopOnDemand::setActivateItemTitles(bool active) {
-    if (auto* part = partOrWarning()) {
-        part->face().setActivateItemTitles(active);
-    }
+    menus_.setActivateItemTitles(active);
 }
 
 void DesktopOnDemand::setStatusItemShown(bool shown) {
-    if (auto* part = partOrWarning()) {
-        part->face().setStatusItemShown(shown);
+    inTray_ = shown;
+    if (part_ != nullptr) {
+        part_->setInTray(shown);
     }
+    tray_.setShown(shown);
 }
 
 void DesktopOnDemand::setStatusItemImage(bool active) {
+    itemActive_ = active;
+    tray_.setActive(active);
+    if (part_ != nullptr) {
+        part_->setItemImage(active);
+    }
+}
+
+void DesktopOnDemand::setItemEmbedded(bool embedded) {
+    itemEmbedded_ = embedded;
+    if (part_ != nullptr) {
+        part_->setItemEmbedded(embedded);
+    } else if (embedded) {
+        partOrWarning();
+    }
+}
+
+void DesktopOnDemand::popUpStatusMenu(int x, int y) {
     if (auto* part = partOrWarning()) {
-        part->face().setStatusItemImage(active);
+        part->popUpStatusMenu(x, y);
     }
 }
 
 void DesktopOnDemand::makeScreenMenus() {
-    if (auto* part = partOrWarning()) {
-        part->face().makeScreenMenus();
+    menus_.makeScreenMenus();
+    if (bus_ != nullptr) {
+        launcherMenu_.emplace(menus_.dockMenu(), *bus_, loop_);
     }
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "app/app_menus.h"
 #include "app/desktop_face.h"
 #include "app/user_interface.h"
 #include "base/notification_center.h"
 #include "base/result.h"
+#include "bus/launcher_menu.h"
+#include "bus/tray.h"
 #include "desktop/desktop_library.h"
 #include "documents/recent_documents.h"
 
@@ -25,9 +28,9 @@ class NDAppController;
 /// does nothing, and one sentence says what is missing.
 class DesktopOnDemand : public UserInterface, public DesktopFace {
   public:
-    /// All must outlive this.
-    DesktopOnDemand(EventLoop& loop, NDAppController& controller, DefaultsStore& defaults,
-                    const NotificationCenters& centers);
+    /// All must outlive this; `bus` may be null.
+    DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppController& controller,
+                    DefaultsStore& defaults, const NotificationCenters& centers);
     ~DesktopOnDemand() override;
 
     /// Called when the session is about to end, if a window was ever shown.
@@ -56,13 +59,22 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
   private:
     Result<DesktopPart*> load();
     DesktopPart* partOrWarning();
+    void setItemEmbedded(bool embedded);
+    void popUpStatusMenu(int x, int y);
 
     EventLoop& loop_;
+    const Bus* bus_;
     NDAppController& controller_;
     DefaultsStore& defaults_;
     const NotificationCenters centers_;
     const RecentDocuments recentDocuments_;
     bool problemTold_ = false;
+    AppMenus menus_;
+    std::optional<LauncherMenu> launcherMenu_; // where there is a bus
+    Tray tray_;
+    bool inTray_ = false;
+    bool itemEmbedded_ = false;
+    bool itemActive_ = false;
     KeyboardLayout* layout_ = nullptr;
     std::optional<OpaqueColor> aboutBoxColor_;
     std::unique_ptr<DesktopPart> part_; // null until it is needed

@@ -10,7 +10,6 @@ namespace nocturo {
 
 DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays)
     : core_(core), displays_(displays),
-      launcherMenu_(core.sessionBus.get(), "/org/nocturo/Nocturo/LauncherMenu"),
       applications_(DesktopEntries::dataDirectories()),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);

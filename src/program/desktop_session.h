@@ -1,7 +1,6 @@
 #pragma once
 
 #include "program/desktop_hot_keys.h"
-#include "program/forwarded_object.h"
 #include "program/window_restoration.h"
 #include "session/desktop_entries.h"
 #include "session/desktop_sources.h"
@@ -39,7 +38,6 @@ class DesktopSession {
 
     Core& core_;
     const ConnectedDisplays& displays_;
-    const ForwardedObject launcherMenu_;
     const DesktopEntries applications_;
     WindowRestoration windowRestoration_;
     std::optional<DesktopHotKeys> hotKeys_;

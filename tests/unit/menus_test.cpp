@@ -225,10 +225,10 @@ TEST(StatusImages, AreSeenOnPanelsOfUnknownColor) {
         for (const int shade : {0, 0x36, 0x80, 0xff}) {
             QImage ground(side, side, QImage::Format_Grayscale8);
             ground.fill(QColor(shade, shade, shade));
-            const auto drawn = [&](const char* name) {
+            const auto drawn = [&](std::string_view name) {
                 QImage image = ground;
                 QPainter painter(&image);
-                statusImage(QLatin1String(name), std::nullopt).paint(&painter, image.rect());
+                statusIcon(name, QColor()).paint(&painter, image.rect());
                 return image;
             };
             const QImage off = drawn(kStatusTemplate);

@@ -2,6 +2,7 @@
 // shows: window_pictures WINDOW FILE [dark] [rtl] [long]
 
 #include "app/app_controller.h"
+#include "app/app_menus.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/runtime_directory.h"
@@ -121,9 +122,10 @@ int run(const QStringList& arguments) {
         NDGroupEffect::effect().addEffect("NDDimEffect");
     }
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
-    DesktopMenus menus(controller, defaults, centers.local, windows, recentDocuments, {});
-    controller.setDesktopFace(&menus);
+    AppMenus appMenus(controller, defaults, centers.local, [] {});
+    const DesktopMenus menus(controller, windows, recentDocuments, appMenus, {});
     controller.applicationDidFinishLaunching();
+    appMenus.makeScreenMenus();
     show(windows, arguments[1]);
     QTimer::singleShot(1000, [&] {
         QRect area;

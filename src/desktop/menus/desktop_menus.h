@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app/desktop_face.h"
+#include "desktop/menus/drawn_menu.h"
 #include "desktop/menus/main_menu.h"
 #include "desktop/menus/status_item.h"
+#include "desktop/menus/taskbar_presence.h"
 
 #include <memory>
 #include <string>
@@ -12,42 +14,41 @@ class QMessageBox;
 
 namespace nocturo {
 
+class AppMenus;
 class AppWindows;
-class DefaultsStore;
 class NDAppController;
-class NotificationCenter;
 class RecentDocuments;
 
-/// The desktop's face of Qt. Everything is made when first needed, so that nothing of it delays the
-/// first effect. Needs a QApplication.
-class DesktopMenus : public DesktopFace {
+/// Alerts, the main menu, and the status item where it is a window. Needs a QApplication.
+class DesktopMenus {
   public:
-    /// All must outlive the menus.
-    DesktopMenus(NDAppController& controller, DefaultsStore& defaults,
-                 NotificationCenter& localCenter, AppWindows& windows,
-                 const RecentDocuments& recentDocuments, StatusItem::Surroundings surroundings);
-    ~DesktopMenus() override;
+    /// All must outlive this. `xDisplay` is empty where there is no X server.
+    DesktopMenus(NDAppController& controller, AppWindows& windows,
+                 const RecentDocuments& recentDocuments, AppMenus& menus, std::string xDisplay);
+    ~DesktopMenus();
+    DesktopMenus(const DesktopMenus&) = delete;
+    DesktopMenus& operator=(const DesktopMenus&) = delete;
 
-    void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override;
-    void showRefusedDocuments(const std::vector<std::string>& paths) override;
-    void setActivateItemTitles(bool active) override;
-    void setStatusItemShown(bool shown) override;
-    void setStatusItemImage(bool active) override;
-    void makeScreenMenus() override;
+    // As DesktopPart has them.
+    void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered);
+    void showRefusedDocuments(const std::vector<std::string>& paths);
+    void setInTray(bool inTray) { taskbarPresence_.setHidden(inTray); }
+    void setItemEmbedded(bool embedded) { statusItem_.setShown(embedded); }
+    void setItemImage(bool active) { statusItem_.setActive(active); }
+    void popUpStatusMenu(int x, int y) { statusMenu_.popup({x, y}); }
 
   private:
-    struct Menus;
-    Menus& menus();
     MainMenu::Handlers mainMenuHandlers();
     void updateStatusItemNotice();
 
     NDAppController& controller_;
-    DefaultsStore& defaults_;
-    NotificationCenter& localCenter_;
     AppWindows& windows_;
     const RecentDocuments& recentDocuments_;
-    StatusItem::Surroundings surroundings_;
-    std::unique_ptr<Menus> menus_;
+    MainMenu mainMenu_;
+    QMenu statusMenu_;
+    DrawnMenu drawnStatusMenu_;
+    StatusItem statusItem_;
+    TaskbarPresence taskbarPresence_;
     std::unique_ptr<QMessageBox> alert_;   // while it is not answered
     std::unique_ptr<QMessageBox> refusal_; // the last one, which may have been closed
 };

@@ -10,9 +10,8 @@
 
 namespace nocturo {
 
-StatusItem::StatusItem(QMenu& menu, Surroundings surroundings, std::function<void()> middleClicked)
-    : menu_(menu), surroundings_(std::move(surroundings)),
-      middleClicked_(std::move(middleClicked)) {}
+StatusItem::StatusItem(QMenu& menu, std::string xDisplay, std::function<void()> middleClicked)
+    : menu_(menu), xDisplay_(std::move(xDisplay)), middleClicked_(std::move(middleClicked)) {}
 
 void StatusItem::setShown(bool shown) {
     if (shown == shown_) {
@@ -23,10 +22,14 @@ void StatusItem::setShown(bool shown) {
     trayColor_.reset();
     trayWatch_.reset();
     if (shown) {
-        trayWatch_ = std::make_unique<TrayWatch>(surroundings_.bus, surroundings_.xDisplay,
-                                                 [this] { trayAppeared(); });
+        trayWatch_ = std::make_unique<TrayWatch>(
+            xDisplay_, [this] { trayAppeared(); }, [this] { setWaiting(true); });
     }
-    if (waitingDidChange) {
+    setWaiting(false);
+}
+
+void StatusItem::setWaiting(bool noTray) {
+    if (std::exchange(noTray_, noTray) != noTray && waitingDidChange) {
         waitingDidChange();
     }
 }
@@ -44,26 +47,22 @@ void StatusItem::trayAppeared() {
     connect(icon_.get(), &QSystemTrayIcon::activated, this, &StatusItem::wasActivated);
     setImage();
     icon_->show();
-    trayColor_ = std::make_unique<TrayColor>(surroundings_.xDisplay, [this] { setImage(); });
+    trayColor_ = std::make_unique<TrayColor>(xDisplay_, [this] { setImage(); });
     setImage();
-    if (waitingDidChange) {
-        waitingDidChange();
-    }
+    setWaiting(false);
 }
 
 void StatusItem::setImage() {
     if (icon_ != nullptr) {
-        const auto* name = active_ ? kStatusActiveTemplate : kStatusTemplate;
-        icon_->setIcon(statusImage(QLatin1String(name), imageColor()));
+        icon_->setIcon(statusIcon(active_ ? kStatusActiveTemplate : kStatusTemplate, imageColor()));
     }
 }
 
-// Only a tray window knows where it has the item. Beside one there may be a tray on the bus, which
-// then has the item, on a panel whose color nobody tells.
-std::optional<QColor> StatusItem::imageColor() const {
+/// Not valid where the tray does not say.
+QColor StatusItem::imageColor() const {
     const auto color = trayColor_ != nullptr ? trayColor_->color() : std::nullopt;
-    if (!color || !icon_->geometry().isValid()) {
-        return std::nullopt;
+    if (!color) {
+        return {};
     }
     return QColor(qRgba64((*color)[0], (*color)[1], (*color)[2], UINT16_MAX));
 }

@@ -4,61 +4,23 @@
 
 #include "desktop/menus/tray_watch.h"
 
-#include "desktop/qt/bus_call.h"
-
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QMetaObject>
 
 #include <utility>
 
 namespace nocturo {
 
-namespace {
-
-const QString kWatcher = QStringLiteral("org.kde.StatusNotifierWatcher");
-const QString kWatcherPath = QStringLiteral("/StatusNotifierWatcher");
-
-} // namespace
-
-TrayWatch::TrayWatch(std::optional<QDBusConnection> bus, const std::string& xDisplay,
-                     std::function<void()> appeared)
-    : bus_(std::move(bus)), appeared_(std::move(appeared)) {
-    if (bus_) {
-        followBus();
-    }
+TrayWatch::TrayWatch(const std::string& xDisplay, std::function<void()> appeared,
+                     std::function<void()> missing)
+    : appeared_(std::move(appeared)), missing_(std::move(missing)) {
     if (!xDisplay.empty()) {
         xEvents_ = XEvents::open(xDisplay);
     }
     if (xEvents_ != nullptr) {
         followServer();
+    } else {
+        QMetaObject::invokeMethod(this, missing_, Qt::QueuedConnection);
     }
-}
-
-void TrayWatch::followBus() {
-    watcherOwner_ = std::make_unique<QDBusServiceWatcher>(
-        kWatcher, *bus_, QDBusServiceWatcher::WatchForRegistration);
-    connect(watcherOwner_.get(), &QDBusServiceWatcher::serviceRegistered, this,
-            &TrayWatch::askWatcher);
-    // The watcher may be there before anybody shows what it watches.
-    bus_->connect(kWatcher, kWatcherPath, kWatcher, QStringLiteral("StatusNotifierHostRegistered"),
-                  this, SLOT(hostAppeared()));
-    askWatcher();
-}
-
-void TrayWatch::askWatcher() {
-    const auto question = propertyCall(kWatcher, kWatcherPath, kWatcher,
-                                       QStringLiteral("IsStatusNotifierHostRegistered"));
-    callLater(*bus_, question, this, [this](const QDBusMessage& answer) {
-        const auto value = answer.arguments().value(0).value<QDBusVariant>();
-        if (value.variant().toBool()) {
-            tell();
-        }
-    });
-}
-
-void TrayWatch::hostAppeared() {
-    tell();
 }
 
 // A tray window owns a selection, and says so to all when it takes it.
@@ -80,6 +42,8 @@ void TrayWatch::lookForTrayWindow() {
         xcb_get_selection_owner_reply(connection, cookie, nullptr));
     if (reply && reply->owner != XCB_WINDOW_NONE) {
         tell();
+    } else {
+        missing_();
     }
     xEvents_->processEvents();
 }

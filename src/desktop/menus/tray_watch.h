@@ -2,43 +2,31 @@
 
 #include "x11/x_events.h"
 
-#include <QDBusConnection>
-#include <QDBusServiceWatcher>
 #include <QObject>
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace nocturo {
 
-/// Waits until the desktop has a tray: a StatusNotifierItem host on the session bus, or a tray
-/// window of an X server.
+/// Waits until an X server has a tray window.
 class TrayWatch : public QObject {
-    Q_OBJECT
-
   public:
-    /// `xDisplay` is empty where there is no X server. `appeared` is called once, from the event
-    /// loop, also for a tray that is there already.
-    TrayWatch(std::optional<QDBusConnection> bus, const std::string& xDisplay,
-              std::function<void()> appeared);
-
-  private Q_SLOTS:
-    void hostAppeared();
+    /// `xDisplay` is empty where there is no X server. From the event loop `appeared` is called
+    /// once, also for a tray that is there already, and `missing` at first where there is none.
+    TrayWatch(const std::string& xDisplay, std::function<void()> appeared,
+              std::function<void()> missing);
 
   private:
-    void followBus();
     void followServer();
-    void askWatcher();
     void lookForTrayWindow();
     void tell();
 
-    std::optional<QDBusConnection> bus_;
-    std::unique_ptr<QDBusServiceWatcher> watcherOwner_;
     std::unique_ptr<XEvents> xEvents_;
     xcb_atom_t traySelection_ = XCB_ATOM_NONE;
     std::function<void()> appeared_;
+    std::function<void()> missing_;
 };
 
 } // namespace nocturo

@@ -1,0 +1,44 @@
+#include "bus/tray.h"
+
+#include <utility>
+
+namespace nocturo {
+
+Tray::Tray(Menu& menu, EventLoop& loop, std::string busAddress, Toolkit toolkit,
+           std::function<void()> middleClicked)
+    : menu_(menu), loop_(loop), busAddress_(std::move(busAddress)), toolkit_(std::move(toolkit)),
+      middleClicked_(std::move(middleClicked)) {}
+
+void Tray::setShown(bool shown) {
+    if (shown == (item_ != nullptr)) {
+        return;
+    }
+    if (shown) {
+        item_ = std::make_unique<StatusNotifierItem>(
+            menu_, loop_, busAddress_,
+            StatusNotifierItem::Handlers{toolkit_.popUpMenu, middleClicked_,
+                                         [this] { hostingDidChange(); }});
+        item_->setActive(active_);
+    } else {
+        item_.reset();
+    }
+    hostingDidChange();
+}
+
+void Tray::setActive(bool active) {
+    active_ = active;
+    if (item_ != nullptr) {
+        item_->setActive(active);
+    }
+}
+
+// A toolkit is slow to come up, so it is not called before it is known that the bus has no tray.
+void Tray::hostingDidChange() {
+    const bool embedded =
+        item_ != nullptr && item_->hosting() == StatusNotifierItem::Hosting::nobody;
+    if (std::exchange(embedded_, embedded) != embedded) {
+        toolkit_.setEmbedded(embedded);
+    }
+}
+
+} // namespace nocturo
