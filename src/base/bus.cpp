@@ -178,7 +178,7 @@ Bus::followOwner(const std::string& service,
     followed->changes = std::move(match);
     const BusMessage question = newCall(kBusService, kBusPath, kBusService, "GetNameOwner");
     sd_bus_message_append(question.get(), "s", service.c_str());
-    followed->question = call(question, [changed](sd_bus_message* answer) {
+    followed->question = call(question, [changed = std::move(changed)](sd_bus_message* answer) {
         const char* owner = "";
         if (sd_bus_message_is_method_error(answer, nullptr) == 0) {
             sd_bus_message_read(answer, "s", &owner);

@@ -19,9 +19,9 @@ inline constexpr std::string_view kLogWorkspace = "nocturo.workspace";
 /// Receives every log line: its level, its category and one plain sentence.
 using LogSink = std::function<void(LogLevel, std::string_view category, std::string_view sentence)>;
 
-/// Replaces the sink. The one in force at start writes to standard error: all warnings, and the rest
-/// of the categories that the environment's NOCTURO_LOG names, separated by commas ("displays", or
-/// "all").
+/// Replaces the sink. The one in force at start writes to standard error: all warnings, and the
+/// rest of the categories that the environment's NOCTURO_LOG names, separated by commas
+/// ("displays", or "all").
 void setLogSink(LogSink sink);
 
 void logInfo(std::string_view category, std::string_view sentence);

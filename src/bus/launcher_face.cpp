@@ -82,6 +82,7 @@ BusAnswer LauncherFace::activate() {
 
 BusAnswer LauncherFace::open(const std::vector<std::string>& uris) {
     std::vector<std::string> paths;
+    paths.reserve(uris.size());
     for (const std::string& uri : uris) {
         paths.push_back(pathOf(uri));
     }
@@ -137,6 +138,7 @@ std::string openDocuments(NDAppController& controller, const std::vector<std::st
 std::optional<std::string> openInRunningApplication(const Bus& bus,
                                                     const std::vector<std::string>& paths) {
     std::vector<std::string> uris;
+    uris.reserve(paths.size());
     for (const std::string& path : paths) {
         uris.push_back(uriOf(path));
     }
