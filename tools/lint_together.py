@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""lint_together.py BUILD OUT: joins the sources of src/ that BUILD compiles with the same flags, with a
+"""lint_together.py BUILD OUT: joins the sources in one folder of src/ that BUILD compiles alike, with a
 compilation database of the joint files in each of two directories: in OUT/included they include the
 sources, in OUT/text they hold their text. Prints how many sources and joint files there are.
 
-Reading Qt's headers, and looking for faults in them, takes most of clang-tidy's time; so it happens
-once for many sources. Its path-sensitive analyzer passes over what is included, hence the text.
+Reading headers, and looking for faults in them, takes most of clang-tidy's time; so it happens once for
+many sources. Those of different folders never meet, so each may have names of its own. The path-sensitive
+analyzer passes over what is included, hence the text.
 
 lint_together.py --where: passes what clang-tidy says through, with places in joint text as places in
 the sources.
@@ -41,10 +42,10 @@ for entry in json.loads((build / "compile_commands.json").read_text()):
     if source_root in source.parents:
         words = shlex.split(entry["command"])
         flags = words[: words.index("-o")]
-        groups.setdefault((entry["directory"], *flags), []).append(source)
+        groups.setdefault((source.parent, entry["directory"], *flags), []).append(source)
 runs = [
     (flags, sources[start : start + most])
-    for flags, sources in groups.items()
+    for (_, *flags), sources in groups.items()
     for start in range(0, len(sources), most)
 ]
 
