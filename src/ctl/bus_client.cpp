@@ -2,6 +2,7 @@
 
 #include "base/texts/translated.h"
 #include "bus/bus_names.h"
+#include "bus/bus_values.h"
 #include "ctl/bus_json.h"
 #include "ctl/failure.h"
 
@@ -117,7 +118,7 @@ void BusClient::call(const char* method, std::span<const std::string> argument) 
 void BusClient::callSetSetting(const std::string& key, const PropertyValue& value) {
     const Message message = newCall(kNocturoInterface, "SetSetting");
     check(sd_bus_message_append(message.get(), "s", key.c_str()));
-    check(appendVariant(message.get(), value));
+    appendVariant(message.get(), busValue(value));
     send(message);
 }
 

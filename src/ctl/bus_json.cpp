@@ -56,24 +56,6 @@ Json readContainer(sd_bus_message* message, char type, const char* contents) {
     return value;
 }
 
-template <typename Element>
-int appendArray(sd_bus_message* message, const PropertyArray& array, const char* type) {
-    const std::string arrayType = std::string("a") + type;
-    int result = sd_bus_message_open_container(message, 'v', arrayType.c_str());
-    result = result < 0 ? result : sd_bus_message_open_container(message, 'a', type);
-    for (const PropertyValue& element : array) {
-        if (const auto* value = element.as<Element>(); value != nullptr && result >= 0) {
-            if constexpr (std::is_same_v<Element, std::string>) {
-                result = sd_bus_message_append(message, type, value->c_str());
-            } else {
-                result = sd_bus_message_append(message, type, *value);
-            }
-        }
-    }
-    result = result < 0 ? result : sd_bus_message_close_container(message);
-    return result < 0 ? result : sd_bus_message_close_container(message);
-}
-
 } // namespace
 
 Json readJson(sd_bus_message* message) {
@@ -112,23 +94,6 @@ Json withSmallFirstLetters(const Json& object) {
         result[name] = value;
     }
     return result;
-}
-
-int appendVariant(sd_bus_message* message, const PropertyValue& value) {
-    if (const auto* boolean = value.as<bool>()) {
-        return sd_bus_message_append(message, "v", "b", static_cast<int>(*boolean));
-    }
-    if (const auto* integer = value.as<std::int64_t>()) {
-        return sd_bus_message_append(message, "v", "x", *integer);
-    }
-    if (const auto* real = value.as<double>()) {
-        return sd_bus_message_append(message, "v", "d", *real);
-    }
-    const auto* array = value.as<PropertyArray>();
-    const PropertyArray& elements = array != nullptr ? *array : PropertyArray();
-    const bool areNumbers = !elements.empty() && elements.front().as<std::int64_t>() != nullptr;
-    return areNumbers ? appendArray<std::int64_t>(message, elements, "x")
-                      : appendArray<std::string>(message, elements, "s");
 }
 
 } // namespace nocturo

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/property_value.h"
-
 #include <nlohmann/json.hpp>
 #include <systemd/sd-bus.h>
 
@@ -15,9 +13,5 @@ Json readJson(sd_bus_message* message);
 
 /// The object with "DimLevel" as "dimLevel".
 Json withSmallFirstLetters(const Json& object);
-
-/// Appends a boolean, an integer, a real or an array of strings or integers as a variant. 0 or more
-/// on success, like the library's own functions. An empty array is one of strings.
-int appendVariant(sd_bus_message* message, const PropertyValue& value);
 
 } // namespace nocturo
