@@ -106,7 +106,8 @@ int run(const QStringList& arguments) {
     AppWindows windows(controller, defaults, centers);
     controller.setUserInterface(&windows);
     const auto displays =
-        openDisplays(*parseDisplayChoice("simulated:2"), {"", *runtimeDirectory(), "", writeTestCard}, runLoop);
+        openDisplays(*parseDisplayChoice("simulated:2"),
+                     {"", "", "", *runtimeDirectory(), "", writeTestCard}, runLoop);
     setDisplayServices(displays->services.get());
     NDGroupEffect::effect();
     if (arguments[1] == QLatin1String("preferences")) {
