@@ -207,8 +207,8 @@ void DesktopOnDemand::setItemEmbedded(bool embedded) {
     itemEmbedded_ = embedded;
     if (part_ != nullptr) {
         part_->setItemEmbedded(embedded);
-    } else if (embedded) {
-        partOrWarning();
+    } else if (embedded && !xDisplayName().empty()) {
+        partOrWarning(); // trays that embed windows are X11's
     }
 }
 
