@@ -126,6 +126,7 @@ int run(const QStringList& arguments) {
     AppMenus appMenus(controller, defaults, centers.local, [] {});
     const DesktopMenus menus(controller, windows, recentDocuments, appMenus, {});
     controller.applicationDidFinishLaunching();
+    appMenus.setActivateItemTitles(controller.effectActive());
     appMenus.makeScreenMenus();
     show(windows, arguments[1]);
     QTimer::singleShot(1000, [&] {
