@@ -9,8 +9,7 @@
 namespace nocturo {
 
 DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays)
-    : core_(core), displays_(displays),
-      applications_(DesktopEntries::dataDirectories()),
+    : core_(core), displays_(displays), applications_(DesktopEntries::dataDirectories()),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);
     core.desktop.sessionIsEnding = [this] { windowRestoration_.save(); };
