@@ -44,6 +44,9 @@ _nocturoctl() {
         esac
         ;;
     esac
+    if [[ $cur == -* && ' on toggle effects set reset screens open ' == *" ${words[1]} "* ]]; then
+      choices='--keep --help'
+    fi
     [[ $cur != -* || -n $choices ]] || choices='--help'
   fi
   mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$cur")

@@ -38,6 +38,7 @@ complete -c nocturoctl -n __fish_use_subcommand -a preferences -d 'Show the pref
 complete -c nocturoctl -n __fish_use_subcommand -a about -d 'Show the box about Nocturo'
 complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a display shows into a picture'
 
+complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects set reset screens open' -l keep -d 'Keep the colors even if hard to read'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'
 complete -c nocturoctl -n '__nocturoctl_at effects 0' -a 'add remove only'
 complete -c nocturoctl -n '__fish_seen_subcommand_from effects; and not __nocturoctl_at effects 0' -a "$effects"

@@ -475,6 +475,12 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>nocturoctl VERB --help sagt mehr.</translation>
         </message>
         <message>
+            <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
+after ten seconds, unless somebody keeps them.</source>
+            <translation>Mit --keep bleiben Farben, mit denen jeder Bildschirm schwer zu lesen ist. Ohne
+--keep gehen sie nach zehn Sekunden zurück, wenn niemand sie behält.</translation>
+        </message>
+        <message>
             <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
             <translation>Rückgabewert: 0 erledigt, 1 fehlgeschlagen, 2 nicht verstanden, 3 Nocturo läuft nicht.</translation>
         </message>
@@ -727,6 +733,10 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Ü&amp;ber Nocturo</translation>
         </message>
         <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>Die Bildschirme sind jetzt schwer zu lesen. In %d s werden die vorherigen Farben wiederhergestellt.</translation>
+        </message>
+        <message>
             <source>Keep these colors?</source>
             <translation>Diese Farben beibehalten?</translation>
         </message>
@@ -737,10 +747,6 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
         <message>
             <source>&amp;Go back</source>
             <translation>&amp;Zurücknehmen</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>Die Bildschirme sind jetzt schwer zu lesen. In %d s werden die vorherigen Farben wiederhergestellt.</translation>
         </message>
         <message>
             <source> %</source>

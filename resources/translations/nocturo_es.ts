@@ -475,6 +475,12 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>nocturoctl VERB --help dice más.</translation>
         </message>
         <message>
+            <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
+after ten seconds, unless somebody keeps them.</source>
+            <translation>Con --keep se quedan los colores con los que ninguna pantalla se lee bien. Sin
+--keep vuelven atrás a los diez segundos, si nadie los conserva.</translation>
+        </message>
+        <message>
             <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
             <translation>Estado de salida: 0 hecho, 1 fallo, 2 no entendido, 3 Nocturo no se está ejecutando.</translation>
         </message>
@@ -727,6 +733,10 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>&amp;Acerca de Nocturo</translation>
         </message>
         <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>Ahora cuesta leer las pantallas. Los colores anteriores se restaurarán en %d s.</translation>
+        </message>
+        <message>
             <source>Keep these colors?</source>
             <translation>¿Mantener estos colores?</translation>
         </message>
@@ -737,10 +747,6 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
         <message>
             <source>&amp;Go back</source>
             <translation>&amp;Restaurar</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>Ahora cuesta leer las pantallas. Los colores anteriores se restaurarán en %d s.</translation>
         </message>
         <message>
             <source> %</source>

@@ -475,6 +475,12 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>nocturoctl VERB --help en dit plus.</translation>
         </message>
         <message>
+            <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
+after ten seconds, unless somebody keeps them.</source>
+            <translation>Avec --keep, les couleurs qui rendent tous les écrans difficiles à lire restent.
+Sinon elles reviennent en arrière après dix secondes, à moins d'être conservées.</translation>
+        </message>
+        <message>
             <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
             <translation>Code de retour : 0 fait, 1 échec, 2 non compris, 3 Nocturo ne tourne pas.</translation>
         </message>
@@ -727,6 +733,10 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>À &amp;propos de Nocturo</translation>
         </message>
         <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>Les écrans sont maintenant difficiles à lire. Les couleurs précédentes seront rétablies dans %d s.</translation>
+        </message>
+        <message>
             <source>Keep these colors?</source>
             <translation>Garder ces couleurs ?</translation>
         </message>
@@ -737,10 +747,6 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
         <message>
             <source>&amp;Go back</source>
             <translation>&amp;Rétablir</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>Les écrans sont maintenant difficiles à lire. Les couleurs précédentes seront rétablies dans %d s.</translation>
         </message>
         <message>
             <source> %</source>

@@ -475,6 +475,12 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>詳しくは nocturoctl VERB --help を参照してください。</translation>
         </message>
         <message>
+            <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
+after ten seconds, unless somebody keeps them.</source>
+            <translation>--keep を付けると、どの画面も読みにくくなる色でもそのまま残ります。付けないと、
+誰も残さないかぎり 10 秒後に元に戻ります。</translation>
+        </message>
+        <message>
             <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
             <translation>終了コード: 0 成功、1 失敗、2 コマンドの誤り、3 Nocturo が起動していない。</translation>
         </message>
@@ -727,6 +733,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>Nocturo について(&amp;A)</translation>
         </message>
         <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>画面が読みにくくなっています。%d 秒後に元の色に戻ります。</translation>
+        </message>
+        <message>
             <source>Keep these colors?</source>
             <translation>この色のままにしますか？</translation>
         </message>
@@ -737,10 +747,6 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>&amp;Go back</source>
             <translation>元に戻す(&amp;G)</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>画面が読みにくくなっています。%d 秒後に元の色に戻ります。</translation>
         </message>
         <message>
             <source> %</source>

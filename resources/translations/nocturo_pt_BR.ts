@@ -475,6 +475,12 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>nocturoctl VERB --help diz mais.</translation>
         </message>
         <message>
+            <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
+after ten seconds, unless somebody keeps them.</source>
+            <translation>Com --keep ficam as cores com que nenhuma tela se lê bem. Sem --keep elas voltam
+atrás após dez segundos, a menos que alguém as mantenha.</translation>
+        </message>
+        <message>
             <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
             <translation>Código de saída: 0 feito, 1 falha, 2 não entendido, 3 o Nocturo não está em execução.</translation>
         </message>
@@ -727,6 +733,10 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>&amp;Sobre o Nocturo</translation>
         </message>
         <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>As telas estão difíceis de ler agora. As cores anteriores voltarão sozinhas em %d s.</translation>
+        </message>
+        <message>
             <source>Keep these colors?</source>
             <translation>Manter estas cores?</translation>
         </message>
@@ -737,10 +747,6 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
         <message>
             <source>&amp;Go back</source>
             <translation>&amp;Reverter</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>As telas estão difíceis de ler agora. As cores anteriores voltarão sozinhas em %d s.</translation>
         </message>
         <message>
             <source> %</source>

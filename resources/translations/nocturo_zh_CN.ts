@@ -475,6 +475,12 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>nocturoctl VERB --help 提供更多说明。</translation>
         </message>
         <message>
+            <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
+after ten seconds, unless somebody keeps them.</source>
+            <translation>使用 --keep 时，即使所有屏幕都难以辨认，颜色也会保留。否则十秒后自动恢复，
+除非有人保留它们。</translation>
+        </message>
+        <message>
             <source>Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not running.</source>
             <translation>退出状态：0 完成，1 失败，2 无法理解，3 Nocturo 未在运行。</translation>
         </message>
@@ -727,6 +733,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>关于 Nocturo(&amp;A)</translation>
         </message>
         <message>
+            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
+            <translation>屏幕现在难以看清，%d 秒后将自动还原。</translation>
+        </message>
+        <message>
             <source>Keep these colors?</source>
             <translation>要保留这些颜色吗？</translation>
         </message>
@@ -737,10 +747,6 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>&amp;Go back</source>
             <translation>还原(&amp;G)</translation>
-        </message>
-        <message>
-            <source>The screens are hard to read now. They go back by themselves in %d s.</source>
-            <translation>屏幕现在难以看清，%d 秒后将自动还原。</translation>
         </message>
         <message>
             <source> %</source>

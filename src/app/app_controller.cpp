@@ -7,6 +7,7 @@
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
 #include "displays/display_gamma.h"
+#include "displays/readability.h"
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/saved_hot_key.h"
 #include "settings/defaults_store.h"
@@ -170,6 +171,26 @@ void NDAppController::setScreenControllerActive(bool active, CGDirectDisplayID f
         screenControllers_->push_back(
             NDScreenController::screenControllerWithEffect(globalEffect_, forScreenID));
     }
+}
+
+bool NDAppController::everyAffectedDisplayIsUnreadable() const {
+    if (!screenControllers_) {
+        return false;
+    }
+    const OnlineDisplays online;
+    bool anyAffected = false;
+    for (const auto& controller : *screenControllers_) {
+        if (!controller->hasCurve() || !contains(online.ids(), controller->screenID())) {
+            continue;
+        }
+        ZQGammaCurve after = controller->gammaCurve();
+        globalEffect_->applyEffectOnGammaCurve(&after, 0);
+        if (!isUnreadable(after)) {
+            return false;
+        }
+        anyAffected = true;
+    }
+    return anyAffected;
 }
 
 void NDAppController::updateEffect() {

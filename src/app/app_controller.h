@@ -61,6 +61,7 @@ class NDAppController : public ActionTarget {
     void setUserInterface(UserInterface* userInterface) { userInterface_ = userInterface; }
     /// Without it no question is asked and there is no menu.
     void setDesktopFace(DesktopFace* desktop) { desktop_ = desktop; }
+    DesktopFace* desktopFace() const { return desktop_; }
     void setInstalledApplications(const InstalledApplications* applications) {
         installedApplications_ = applications;
     }
@@ -141,6 +142,9 @@ class NDAppController : public ActionTarget {
     /// Displays that have a controller already keep it and the curve it captured; one that loses
     /// its controller gets that curve back.
     void setScreenControllerActive(bool active, CGDirectDisplayID forScreenID);
+
+    /// Whether the effect is on some display, and no display that it is on can be read.
+    bool everyAffectedDisplayIsUnreadable() const;
 
     /// Applies the effect again on every display that has a controller.
     void updateEffect();

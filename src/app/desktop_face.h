@@ -37,6 +37,18 @@ class DesktopFace {
     virtual void showAlert(const Alert& alert,
                            std::function<void(AlertAnswer answer)> answered) = 0;
 
+    /// Asks "Keep these colors?", with the seconds until they go back by themselves, or brings the
+    /// seconds of the question that is shown up to date. `answered` is called at most once. Does
+    /// nothing where nobody can see it.
+    virtual void askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered) = 0;
+
+    /// Closes the question, if it is shown, without an answer.
+    virtual void withdrawKeepColors() = 0;
+
+    /// Calls `action` at once, or when the user lets a mouse button go that is held over a window
+    /// of the application.
+    virtual void whenPointerIsReleased(std::function<void()> action) = 0;
+
     /// Says, in a window that holds nothing up, that these files are no effect documents. Does
     /// nothing where nobody can see it.
     virtual void showRefusedDocuments(const std::vector<std::string>& paths) = 0;

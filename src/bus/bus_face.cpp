@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
+#include "app/keep_colors.h"
 #include "app/user_interface.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
@@ -48,10 +49,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 30> members;
+    static const std::array<sd_bus_vtable, 31> members;
 };
 
-const std::array<sd_bus_vtable, 30> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 31> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
@@ -81,6 +82,8 @@ const std::array<sd_bus_vtable, 30> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::toggleScreen>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AffectAllScreens", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::affectAllScreens>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("KeepColors", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::keepColors>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetHotKey", SD_BUS_ARGS("s", text), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::setHotKey>, kFree),
     SD_BUS_METHOD_WITH_ARGS("OpenFile", SD_BUS_ARGS("s", path), SD_BUS_NO_RESULT,
@@ -102,9 +105,10 @@ const std::array<sd_bus_vtable, 30> BusFace::Table::members = {{
 
 BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
                  NotificationCenter& localCenter, const DisturbanceWatch& disturbances,
-                 UserInterface& userInterface, const Bus* bus, EventLoop& loop)
+                 UserInterface& userInterface, KeepColors& keepColors, const Bus* bus,
+                 EventLoop& loop)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter),
-      userInterface_(userInterface), bus_(bus), loop_(loop),
+      userInterface_(userInterface), keepColors_(keepColors), bus_(bus), loop_(loop),
       state_(controller, defaults, disturbances), launcherFace_(controller, bus, loop) {
     if (bus_ != nullptr) {
         sd_bus_slot* slot = nullptr;
@@ -207,6 +211,11 @@ BusAnswer BusFace::toggleScreen(std::uint32_t display) {
 
 BusAnswer BusFace::affectAllScreens() {
     chooseAffectedScreen(defaults_, 0);
+    return {};
+}
+
+BusAnswer BusFace::keepColors() {
+    keepColors_.keep();
     return {};
 }
 

@@ -14,6 +14,7 @@
 namespace nocturo {
 
 class EventLoop;
+class KeepColors;
 class NotificationCenter;
 class UserInterface;
 
@@ -24,8 +25,8 @@ class BusFace {
     /// All must outlive the face. Puts the object on the bus at once, because whoever sees the name
     /// may call; calls wait until the event loop runs. `bus` may be null.
     BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
-            const DisturbanceWatch& disturbances, UserInterface& userInterface, const Bus* bus,
-            EventLoop& loop);
+            const DisturbanceWatch& disturbances, UserInterface& userInterface,
+            KeepColors& keepColors, const Bus* bus, EventLoop& loop);
     ~BusFace();
     BusFace(const BusFace&) = delete;
     BusFace& operator=(const BusFace&) = delete;
@@ -54,6 +55,7 @@ class BusFace {
     BusAnswer resetSetting(const std::string& key);
     BusAnswer toggleScreen(std::uint32_t display);
     BusAnswer affectAllScreens();
+    BusAnswer keepColors();
     BusAnswer setHotKey(const std::string& text);
     BusAnswer openFile(const std::string& path);
     BusAnswer saveFile(const std::string& path);
@@ -74,6 +76,7 @@ class BusFace {
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
     UserInterface& userInterface_;
+    KeepColors& keepColors_;
     const Bus* bus_;
     EventLoop& loop_;
     ToldState state_;

@@ -279,36 +279,37 @@ void runWatch(Arguments arguments) {
 }
 
 constexpr std::array kCommands = std::to_array<Command>({
-    {"on", "", ListedText("Switch the effect on"), ListedText(), runSwitch<true>},
+    {"on", "", ListedText("Switch the effect on"), ListedText(), runSwitch<true>, true},
     {"off", "", ListedText("Switch the effect off"),
      ListedText("Every display gets its own colors back."), runSwitch<false>},
     {"toggle", "", ListedText("Switch the effect on or off"), ListedText("Bind this to a key."),
-     runToggle},
+     runToggle, true},
     {"status", "[--json]", ListedText("Show the state of everything"),
      ListedText("With --json, one object for programs."), runStatus},
     {"effects", "[add|remove|only NAME...]", ListedText("List or choose the effects"),
      ListedText("NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
                 "name. add and remove change the selection, only replaces it."),
-     runEffects},
+     runEffects, true},
     {"get", "KEY", ListedText("Show a setting"), ListedText("nocturoctl status lists the keys."),
      runGet},
     {"set", "KEY VALUE", ListedText("Change a setting"),
      ListedText(
          "VALUE is true or false, a number, or a list with commas, as the setting takes it.\n"
          "For example: nocturoctl set NDDimEffectLevel -0.3"),
-     runSet},
-    {"reset", "KEY", ListedText("Give a setting its default value again"), ListedText(), runReset},
+     runSet, true},
+    {"reset", "KEY", ListedText("Give a setting its default value again"), ListedText(), runReset,
+     true},
     {"screens", "[all | toggle NUMBER|NAME|ID]", ListedText("List or choose the affected displays"),
      ListedText(
          "toggle puts a display into the set of affected displays or takes it out. An empty\n"
          "set means all displays, which is also what all chooses."),
-     runScreens},
+     runScreens, true},
     {"hotkey", "[set KEYS | none | enable | disable]",
      ListedText("Show or choose the global hot key"),
      ListedText("KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The\n"
                 "hot key toggles the effect while it is enabled."),
      runHotKey},
-    {"open", "FILE", ListedText("Take the effects from a document"), ListedText(), runOpen},
+    {"open", "FILE", ListedText("Take the effects from a document"), ListedText(), runOpen, true},
     {"save", "FILE", ListedText("Save the effects as a document"), ListedText(), runSave},
     {"preview", "--png FILE [--display N]", ListedText("Draw what the effects do"),
      ListedText("The curves of a display, of the main one unless told otherwise, and a scene seen\n"
@@ -327,6 +328,10 @@ constexpr std::array kCommands = std::to_array<Command>({
 });
 
 } // namespace
+
+void keepColors() {
+    BusClient().call("KeepColors");
+}
 
 std::span<const Command> commands() {
     return kCommands;

@@ -20,7 +20,13 @@ struct Command {
     /// Runs the verb with what follows it. Throws Failure; a Failure without a sentence means that
     /// the arguments do not fit the usage.
     void (*run)(Arguments arguments);
+
+    /// Whether it may change what the screens look like, and takes --keep.
+    bool changesColors = false;
 };
+
+/// Has Nocturo keep the colors that are in force. Throws Failure.
+void keepColors();
 
 std::span<const Command> commands();
 

@@ -30,6 +30,10 @@ void printHelp() {
     }
     std::cout << '\n'
               << translated("nocturoctl VERB --help tells more.") << "\n\n"
+              << translated(
+                     "With --keep, colors that leave every screen hard to read stay. Without "
+                     "it they go back\nafter ten seconds, unless somebody keeps them.")
+              << "\n\n"
               << translated("Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not "
                             "running.")
               << '\n';
@@ -75,8 +79,13 @@ int run(const std::vector<std::string>& arguments) {
         printHelp(*command);
         return kSuccess;
     }
+    std::vector<std::string> own(rest.begin(), rest.end());
+    const bool keep = command->changesColors && std::erase(own, "--keep") > 0;
     try {
-        command->run(rest);
+        command->run(own);
+        if (keep) {
+            keepColors();
+        }
     } catch (const Failure& failure) {
         return failure.sentence.empty() ? tell({kUsage, usage(*command)}) : tell(failure);
     }

@@ -129,6 +129,10 @@ void AppWindows::showPreferences() {
     preferencesController().showWindow();
 }
 
+QWidget* AppWindows::shownPreferences() const {
+    return preferencesVisible() ? preferenceController->window() : nullptr;
+}
+
 bool AppWindows::preferencesVisible() const {
     return preferenceController != nullptr && preferenceController->isWindowLoaded() &&
            preferenceController->window()->isVisible();

@@ -41,6 +41,9 @@ class AppWindows : public UserInterface {
     void askWhereToSave();
     void closePreferences();
 
+    /// The preference window, to put a question over it; null while it is not shown.
+    QWidget* shownPreferences() const;
+
     /// Called with the path of every document that was opened, or saved at the user's wish.
     std::function<void(const QString& path)> documentWasUsed;
 

@@ -62,6 +62,13 @@ class QtDesktop : public DesktopPart {
     void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override {
         menus_.showAlert(alert, std::move(answered));
     }
+    void askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered) override {
+        menus_.askToKeepColors(secondsLeft, std::move(answered));
+    }
+    void withdrawKeepColors() override { menus_.withdrawKeepColors(); }
+    void whenPointerIsReleased(std::function<void()> action) override {
+        menus_.whenPointerIsReleased(std::move(action));
+    }
     void showRefusedDocuments(const std::vector<std::string>& paths) override {
         menus_.showRefusedDocuments(paths);
     }

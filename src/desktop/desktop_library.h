@@ -40,6 +40,9 @@ class DesktopPart {
     // As DesktopFace has them.
     virtual void showAlert(const Alert& alert,
                            std::function<void(AlertAnswer answer)> answered) = 0;
+    virtual void askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered) = 0;
+    virtual void withdrawKeepColors() = 0;
+    virtual void whenPointerIsReleased(std::function<void()> action) = 0;
     virtual void showRefusedDocuments(const std::vector<std::string>& paths) = 0;
 
     /// Keeps the windows off the task bar, or no longer.

@@ -21,7 +21,9 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
       desktop(runLoop, sessionBus.get(), controller, defaults, centers),
-      face(controller, defaults, centers.local, disturbances, desktop, sessionBus.get(), loop) {
+      keepColors(controller, defaults, centers.local, runLoop),
+      face(controller, defaults, centers.local, disturbances, desktop, keepColors, sessionBus.get(),
+           loop) {
     runLoop.handleSignals(signalNumbers(), [this](int number) { signalWasSent(number); });
 }
 

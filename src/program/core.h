@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
+#include "app/keep_colors.h"
 #include "app/wake_repeater.h"
 #include "base/bus.h"
 #include "base/event_loop.h"
@@ -39,6 +40,7 @@ struct Core {
     DisturberFinder disturberFinder;
     const DisturbanceWatch disturbances;
     DesktopOnDemand desktop;
+    KeepColors keepColors;
     BusFace face;
 
   private:

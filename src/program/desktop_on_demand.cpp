@@ -176,6 +176,30 @@ void DesktopOnDemand::showAlert(const Alert& alert,
     answered(AlertAnswer::unseen);
 }
 
+void DesktopOnDemand::askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered) {
+    if (!canShowWindows()) {
+        return;
+    }
+    // Silent where there is none, as this comes every second.
+    if (const auto part = load()) {
+        (*part)->askToKeepColors(secondsLeft, std::move(answered));
+    }
+}
+
+void DesktopOnDemand::withdrawKeepColors() {
+    if (part_ != nullptr) {
+        part_->withdrawKeepColors();
+    }
+}
+
+void DesktopOnDemand::whenPointerIsReleased(std::function<void()> action) {
+    if (part_ != nullptr) {
+        part_->whenPointerIsReleased(std::move(action));
+    } else {
+        action();
+    }
+}
+
 void DesktopOnDemand::showRefusedDocuments(const std::vector<std::string>& paths) {
     auto* part = canShowWindows() ? partOrWarning() : nullptr;
     if (part != nullptr) {

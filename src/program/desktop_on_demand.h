@@ -50,6 +50,9 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) override;
 
     void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override;
+    void askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered) override;
+    void withdrawKeepColors() override;
+    void whenPointerIsReleased(std::function<void()> action) override;
     void showRefusedDocuments(const std::vector<std::string>& paths) override;
     void setActivateItemTitles(bool active) override;
     void setStatusItemShown(bool shown) override;

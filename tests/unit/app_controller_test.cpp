@@ -79,6 +79,10 @@ struct Surroundings : UserInterface, DesktopFace, InstalledApplications {
         whileAsking();
         answered(answer);
     }
+    void askToKeepColors(int /*secondsLeft*/,
+                         std::function<void(bool keep)> /*answered*/) override {}
+    void withdrawKeepColors() override {}
+    void whenPointerIsReleased(std::function<void()> action) override { action(); }
     void setActivateItemTitles(bool active) override { log.emplace_back(active ? "on" : "off"); }
     void setStatusItemShown(bool shown) override { log.emplace_back(shown ? "item" : "no item"); }
     void setStatusItemImage(bool active) override {

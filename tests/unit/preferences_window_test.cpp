@@ -1,7 +1,7 @@
 #include "base/notification_center.h"
 #include "desktop/controls/parameter_slider.h"
 #include "desktop/hotkey_field/hot_key_text_field.h"
-#include "desktop/preferences/keep_colors_question.h"
+#include "desktop/preferences/keep_colors_box.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
 #include "desktop/preview/effect_preview.h"
@@ -311,54 +311,30 @@ TEST_F(EffectDocuments, PanelsSaveAndOpen) {
     EXPECT_EQ(sheet()->informativeText(), "Could not save settings at this location.");
 }
 
-class KeepColors : public PreferencesWindow {
-  protected:
-    KeepColors() {
-        NDDimEffect::setLevel(-1);
-        captured.sampleCount = kGammaCurveCapacity;
-        captured.redTable[255] = captured.greenTable[255] = captured.blueTable[255] = 1;
-        show();
-    }
-};
-
-TEST_F(KeepColors, GoesBackUnlessTheUserKeepsThem) {
-    NDGroupEffect::effect().addEffect("NDDimEffect"); // not done here
-    EXPECT_EQ(sheet(), nullptr);
-    NDGroupEffect::effect().removeEffect("NDDimEffect");
-    click("dimScreen");
+TEST_F(PreferencesWindow, TheQuestionAboutColorsStandsOverIt) {
+    show();
+    KeepColorsBox box;
+    std::vector<bool> answers;
+    const auto ask = [&](int seconds) {
+        box.show(controller.window(), seconds, [&](bool keep) { answers.push_back(keep); });
+    };
+    ask(10);
     ASSERT_NE(sheet(), nullptr);
     EXPECT_EQ(sheet()->text(), "Keep these colors?");
+    ask(9);
+    EXPECT_TRUE(sheet()->informativeText().contains("9 s"));
     QTest::keyClick(sheet(), Qt::Key_Escape);
-    EXPECT_THAT(effects(), ElementsAre());
-    click("dimScreen");
+    box.withdraw();
+    ask(10);
     answer("Keep");
-    EXPECT_THAT(effects(), ElementsAre(named("NDDimEffect")));
-    click("activateOnClick"); // not a color
-    EXPECT_EQ(sheet(), nullptr);
-    click("invertScreen"); // another choice, as unreadable
+    box.withdraw();
+    ask(10);
     answer("Go back");
-    EXPECT_THAT(effects(), ElementsAre(named("NDDimEffect")));
-}
-
-TEST_F(KeepColors, AnswersItselfWhenTimeIsUpAndNotOverSomebodyElse) {
-    QWidget window;
-    window.show();
-    KeepColorsQuestion question(
-        window, [] { return true; }, std::chrono::milliseconds(1));
-    for (const bool somebodyElseChanged : {false, true}) {
-        NDDimEffect::setLevel(0);
-        const ScreenColors before = currentScreenColors();
-        NDDimEffect::setLevel(-1);
-        question.colorsDidChange(before);
-        if (somebodyElseChanged) {
-            NDDimEffect::setLevel(-0.25F);
-        }
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            return window.findChild<QMessageBox*>() == nullptr;
-        }));
-        EXPECT_EQ(NDDimEffect::level(), somebodyElseChanged ? -0.25F : 0.0F);
-    }
+    box.withdraw();
+    ask(10);
+    box.withdraw();
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_EQ(answers, (std::vector{false, true, false}));
 }
 
 } // namespace

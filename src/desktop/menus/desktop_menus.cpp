@@ -63,6 +63,10 @@ void DesktopMenus::showAlert(const Alert& alert, std::function<void(AlertAnswer 
     alert_ = std::move(box);
 }
 
+void DesktopMenus::askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered) {
+    keepColorsBox_.show(windows_.shownPreferences(), secondsLeft, std::move(answered));
+}
+
 void DesktopMenus::showRefusedDocuments(const std::vector<std::string>& paths) {
     QStringList sentences;
     for (const std::string& path : paths) {

@@ -5,9 +5,12 @@
 #include "desktop/menus/main_menu.h"
 #include "desktop/menus/status_item.h"
 #include "desktop/menus/taskbar_presence.h"
+#include "desktop/preferences/keep_colors_box.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QMessageBox;
@@ -31,6 +34,11 @@ class DesktopMenus {
 
     // As DesktopPart has them.
     void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered);
+    void askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered);
+    void withdrawKeepColors() { keepColorsBox_.withdraw(); }
+    void whenPointerIsReleased(std::function<void()> action) {
+        keepColorsBox_.whenPointerIsReleased(std::move(action));
+    }
     void showRefusedDocuments(const std::vector<std::string>& paths);
     void setInTray(bool inTray) { taskbarPresence_.setHidden(inTray); }
     void setItemEmbedded(bool embedded) { statusItem_.setShown(embedded); }
@@ -49,6 +57,7 @@ class DesktopMenus {
     DrawnMenu drawnStatusMenu_;
     StatusItem statusItem_;
     TaskbarPresence taskbarPresence_;
+    KeepColorsBox keepColorsBox_;
     std::unique_ptr<QMessageBox> alert_;   // while it is not answered
     std::unique_ptr<QMessageBox> refusal_; // the last one, which may have been closed
 };

@@ -1,6 +1,5 @@
 // What the controls of the preference window do.
 
-#include "desktop/preferences/keep_colors_question.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
 #include "effects/color_filter_effect.h"
@@ -17,20 +16,12 @@
 
 namespace nocturo {
 
-template <typename Sender>
-void NDPreferencesController::changeColors(void (NDPreferencesController::*action)(const Sender&),
-                                           const Sender& sender) {
-    const ScreenColors before = currentScreenColors();
-    (this->*action)(sender);
-    keepColors_->colorsDidChange(before);
-}
-
 void NDPreferencesController::connectEffects() {
     using Self = NDPreferencesController;
     const auto connectBox = [this](const QCheckBox* box,
                                    void (Self::*action)(const QAbstractButton&)) {
         connect(box, &QAbstractButton::clicked, this,
-                [this, box, action] { changeColors<QAbstractButton>(action, *box); });
+                [this, box, action] { (this->*action)(*box); });
     };
     connectBox(ui_->invertScreen, &Self::changeInvert);
     connectBox(ui_->hideStripes, &Self::changeHideStripes);
@@ -40,7 +31,7 @@ void NDPreferencesController::connectEffects() {
     const auto connectSlider = [this](const ParameterSlider* slider,
                                       void (Self::*action)(const ParameterSlider&)) {
         connect(slider, &ParameterSlider::valueChangedByUser, this,
-                [this, slider, action] { changeColors(action, *slider); });
+                [this, slider, action] { (this->*action)(*slider); });
     };
     connectSlider(ui_->colorFilterHue, &Self::changeColorFilterHue);
     connectSlider(ui_->colorFilterVividness, &Self::changeColorFilterVividness);

@@ -3,7 +3,6 @@
 #include "app/screen_option_menu_manager.h"
 #include "base/notification_center.h"
 #include "desktop/menus/drawn_menu.h"
-#include "desktop/preferences/keep_colors_question.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/sheet.h"
 #include "desktop/qt/localized.h"
@@ -80,8 +79,6 @@ void NDPreferencesController::loadWindow() {
     ui_->showStatusItem->setId(ui_->showInTaskBar, 0);
     ui_->showStatusItem->setId(ui_->showInTray, kStatusItemRow);
     ui_->hotKeyField->setKeyboardLayout(layout_);
-    keepColors_ = std::make_unique<KeepColorsQuestion>(
-        *panel_, [this] { return everyAffectedDisplayIsUnreadable(surroundings_.capturedCurve); });
     connectEffects();
     connectSettings();
     connectDocuments();
@@ -146,7 +143,7 @@ bool NDPreferencesController::windowShouldClose() {
         return true;
     }
     QMessageBox* alert = newSheet(
-        *panel_, QMessageBox::Warning, localized("No effect has been chosen."),
+        panel_.get(), QMessageBox::Warning, localized("No effect has been chosen."),
         localized(
             "You should check at least one box in the preference panel relating to the screen "
             "effect, or Nocturo will have no visible effect on your screen."));

@@ -22,7 +22,6 @@ namespace nocturo {
 class DefaultsStore;
 class DrawnMenu;
 class HXHotKeyTextField;
-class KeepColorsQuestion;
 class KeyboardLayout;
 class Menu;
 class NDScreenOptionMenuManager;
@@ -127,8 +126,6 @@ class NDPreferencesController : public QObject {
     bool windowShouldClose();
     void resignFirstResponder();
     void setContains(std::string_view effect, const QAbstractButton& sender);
-    template <typename Sender>
-    void changeColors(void (NDPreferencesController::*action)(const Sender&), const Sender& sender);
     CGDirectDisplayID displayOfWindow() const;
     void listPreviewedDisplays();
     void readPreviewedDisplay();
@@ -147,7 +144,6 @@ class NDPreferencesController : public QObject {
     std::unique_ptr<Menu> screensMenu_;
     std::unique_ptr<DrawnMenu> drawnScreensMenu_;
     std::unique_ptr<NDScreenOptionMenuManager> _screensMenuManager;
-    std::unique_ptr<KeepColorsQuestion> keepColors_;
     ZQGammaCurve previewed_; // without the effect
     ZQGammaCurve seenOn_;    // of the display that the window is on, without the effect
     bool seenWithEffect_ = false;

@@ -28,7 +28,7 @@ QString documentSuffix() {
 }
 
 void showAlert(QWidget& window, const QString& title, const QString& message) {
-    QMessageBox* alert = newSheet(window, QMessageBox::Warning, title, message);
+    QMessageBox* alert = newSheet(&window, QMessageBox::Warning, title, message);
     alert->setDefaultButton(alert->addButton(localized("OK"), QMessageBox::AcceptRole));
     showSheet(*alert);
 }
@@ -76,7 +76,7 @@ class FilePanel : public QFileDialog {
             return;
         }
         QMessageBox* question = newSheet(
-            *this, QMessageBox::Warning,
+            this, QMessageBox::Warning,
             tr("%1 already exists.\nDo you want to replace it?").arg(chosen.fileName()), {});
         question->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         question->setDefaultButton(QMessageBox::No);

@@ -18,7 +18,4 @@ ZQGammaCurve curveWithoutEffect(CGDirectDisplayID display, const CapturedCurve& 
 /// What the selected effects make of it.
 PreviewCurves previewCurves(const ZQGammaCurve& withoutEffect);
 
-/// Whether the effect is on some display, and no display that it is on can be read.
-bool everyAffectedDisplayIsUnreadable(const CapturedCurve& capturedCurve);
-
 } // namespace nocturo

@@ -6,10 +6,10 @@
 
 namespace nocturo {
 
-QMessageBox* newSheet(QWidget& window, QMessageBox::Icon icon, const QString& title,
+QMessageBox* newSheet(QWidget* window, QMessageBox::Icon icon, const QString& title,
                       const QString& message) {
     auto* sheet =
-        new QMessageBox(icon, QGuiApplication::applicationDisplayName(), title, {}, &window);
+        new QMessageBox(icon, QGuiApplication::applicationDisplayName(), title, {}, window);
     sheet->setInformativeText(message);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setWindowModality(Qt::WindowModal);

@@ -4,8 +4,9 @@
 
 namespace nocturo {
 
-/// A window-modal message, without buttons yet. It deletes itself when it is closed.
-QMessageBox* newSheet(QWidget& window, QMessageBox::Icon icon, const QString& title,
+/// A window-modal message, without buttons yet. It deletes itself when it is closed. Without a
+/// window it stands alone.
+QMessageBox* newSheet(QWidget* window, QMessageBox::Icon icon, const QString& title,
                       const QString& message);
 
 /// Shows it once it has its buttons.

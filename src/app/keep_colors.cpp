@@ -1,0 +1,133 @@
+// What is judged is what the displays are sent: the effect on the curves that were captured from
+// them. It is judged after a change and not before, since a value alone says nothing: a black
+// level is as good as any while the effect is off or another display stays bright.
+
+#include "app/keep_colors.h"
+
+#include "app/app_controller.h"
+#include "app/desktop_face.h"
+#include "base/log.h"
+#include "base/notification_names.h"
+#include "base/run_loop.h"
+#include "settings/defaults_store.h"
+
+#include <chrono>
+#include <utility>
+
+namespace nocturo {
+
+using namespace std::chrono_literals;
+
+KeepColors::KeepColors(NDAppController& controller, DefaultsStore& defaults,
+                       NotificationCenter& localCenter, RunLoop& runLoop)
+    : controller_(controller), defaults_(defaults), localCenter_(localCenter), runLoop_(runLoop),
+      settler_(runLoop, [this] { judge(); }) {
+    localCenter_.addObserver(this, kEffectActivationNotification, [this] {
+        wasSwitched_ = true;
+        settler_.note();
+    });
+    for (const auto name : {NSUserDefaultsDidChangeNotification,
+                            NSApplicationDidChangeScreenParametersNotification}) {
+        localCenter_.addObserver(this, name, [this] {
+            if (wasSwitched_) {
+                settler_.note();
+            }
+        });
+    }
+}
+
+KeepColors::~KeepColors() {
+    localCenter_.removeObserver(this);
+}
+
+void KeepColors::keep() {
+    accepted_ = now();
+    kept_ = accepted_->colors;
+    withdraw();
+}
+
+KeepColors::State KeepColors::now() const {
+    return {screenColors(defaults_), controller_.effectActive()};
+}
+
+void KeepColors::judge() {
+    State state = now();
+    if (kept_ && kept_ != state.colors) {
+        kept_.reset();
+    }
+    if (kept_ || !controller_.everyAffectedDisplayIsUnreadable()) {
+        accepted_ = std::move(state);
+        withdraw();
+    } else if (controller_.desktopFace() == nullptr) {
+        considerAsking();
+    } else if (!std::exchange(waitsForPointer_, true)) {
+        controller_.desktopFace()->whenPointerIsReleased([this] {
+            waitsForPointer_ = false;
+            considerAsking();
+        });
+    }
+}
+
+void KeepColors::considerAsking() {
+    const State state = now();
+    if (kept_ || !controller_.everyAffectedDisplayIsUnreadable()) {
+        withdraw();
+        return;
+    }
+    questioned_ = state;
+    if (!isAsking()) {
+        ask();
+    }
+}
+
+void KeepColors::ask() {
+    logInfo(kLogApp, "The screens are hard to read now; they go back by themselves in " +
+                         std::to_string(kSeconds) + " s unless these colors are kept.");
+    secondsLeft_ = kSeconds;
+    countdown_ = runLoop_.scheduleRepeatingTimer(1s, [this] { tick(); });
+    showSeconds();
+}
+
+void KeepColors::showSeconds() {
+    if (DesktopFace* desktop = controller_.desktopFace()) {
+        desktop->askToKeepColors(secondsLeft_, [this](bool keepThem) { answer(keepThem); });
+    }
+}
+
+void KeepColors::tick() {
+    if (--secondsLeft_ == 0) {
+        goBack();
+    } else {
+        showSeconds();
+    }
+}
+
+void KeepColors::answer(bool keepThem) {
+    if (!isAsking()) {
+        return;
+    }
+    keepThem ? keep() : goBack();
+}
+
+void KeepColors::goBack() {
+    const bool asAsked = questioned_ == now(); // otherwise somebody else helped
+    withdraw();
+    if (!asAsked) {
+        return;
+    }
+    if (accepted_ && accepted_->active && *accepted_ != now()) {
+        setScreenColors(defaults_, accepted_->colors);
+    } else {
+        controller_.setEffectActive(false, true);
+    }
+}
+
+void KeepColors::withdraw() {
+    countdown_.reset();
+    questioned_.reset();
+    if (DesktopFace* desktop = controller_.desktopFace()) {
+        desktop->withdrawKeepColors();
+    }
+}
+
+} // namespace nocturo
