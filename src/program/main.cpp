@@ -1,5 +1,7 @@
 #include "base/bus.h"
 #include "base/event_loop.h"
+#include "base/log.h"
+#include "base/program_watch.h"
 #include "base/runtime_directory.h"
 #include "base/texts/translated.h"
 #include "base/texts/users_language.h"
@@ -107,6 +109,10 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     DesktopSession desktop(core, displays);
     desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
     finishStartup(xDisplayName(), startupIdentifier); // there may never be a window
+    const ProgramWatch programWatch(ownProgram(), loop, [&loop] {
+        logWarning(kLogApp, "Nocturo has been removed, so it gives the displays back and ends.");
+        loop.quit();
+    });
     const int result = runEventLoop(loop);
     if (result == kSuccess) {
         desktop.end();

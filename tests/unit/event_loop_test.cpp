@@ -1,6 +1,8 @@
 // The loop by itself and inside another one, as a toolkit's runs around it.
 
 #include "base/event_loop.h"
+#include "base/program_watch.h"
+#include "temporary_directory.h"
 
 #include <array>
 #include <chrono>
@@ -21,6 +23,26 @@ using std::chrono::steady_clock;
 using testing::ElementsAre;
 
 constexpr auto kAtOnce = 0ms;
+
+TEST(ProgramWatch, TellsOfAProgramThatIsRemovedAndNotOfOneThatIsReplaced) {
+    const TemporaryDirectory directory;
+    const auto program = directory / "program";
+    writeText(program, "old");
+    EventLoop loop;
+    const auto patience = 200ms;
+    const ProgramWatch watch(
+        program, loop, [&] { loop.quit(1); }, patience);
+    std::filesystem::remove(program);
+    const auto replacing = loop.scheduleTimer(patience / 4, [&] { writeText(program, "new"); });
+    const auto late = loop.scheduleTimer(2 * patience, [&] { loop.quit(0); });
+    EXPECT_EQ(loop.run(), 0);
+
+    EventLoop second;
+    const ProgramWatch again(
+        program, second, [&] { second.quit(1); }, kAtOnce);
+    std::filesystem::remove_all(directory.path());
+    EXPECT_EQ(second.run(), 1);
+}
 
 TEST(EventLoop, CallsInTheOrderOfHandingOverAndWhatIsAddedMeanwhileNext) {
     EventLoop loop;
