@@ -159,23 +159,28 @@ std::unique_ptr<BusSlot> Bus::onSignal(const char* sender, const char* path, con
     return match;
 }
 
+std::unique_ptr<BusSlot> Bus::onMatch(const std::string& rule,
+                                      std::function<void(sd_bus_message* message)> handler) const {
+    auto match = std::make_unique<HandledSlot>(std::move(handler));
+    sd_bus_slot* slot = nullptr;
+    sd_bus_add_match_async(bus_.get(), &slot, rule.c_str(), HandledSlot::handle, nullptr,
+                           match.get());
+    match->slot.reset(slot);
+    return match;
+}
+
 std::unique_ptr<BusSlot>
 Bus::followOwner(const std::string& service,
                  std::function<void(const std::string& owner)> changed) const {
     auto followed = std::make_unique<FollowedOwner>();
     const std::string rule = "type='signal',sender='" + std::string(kBusService) +
                              "',member='NameOwnerChanged',arg0='" + service + "'";
-    auto match = std::make_unique<HandledSlot>([changed](sd_bus_message* signal) {
+    followed->changes = onMatch(rule, [changed](sd_bus_message* signal) {
         const char* owner = "";
         if (sd_bus_message_read(signal, "sss", nullptr, nullptr, &owner) > 0) {
             changed(owner);
         }
     });
-    sd_bus_slot* slot = nullptr;
-    sd_bus_add_match_async(bus_.get(), &slot, rule.c_str(), HandledSlot::handle, nullptr,
-                           match.get());
-    match->slot.reset(slot);
-    followed->changes = std::move(match);
     const BusMessage question = newCall(kBusService, kBusPath, kBusService, "GetNameOwner");
     sd_bus_message_append(question.get(), "s", service.c_str());
     followed->question = call(question, [changed = std::move(changed)](sd_bus_message* answer) {
@@ -186,6 +191,25 @@ Bus::followOwner(const std::string& service,
         changed(owner);
     });
     return followed;
+}
+
+bool Bus::serveUntil(const std::function<bool()>& isDone,
+                     std::chrono::milliseconds patience) const {
+    using Clock = std::chrono::steady_clock;
+    const auto deadline = Clock::now() + patience;
+    while (!isDone()) {
+        const int processed = sd_bus_process(bus_.get(), nullptr);
+        if (processed > 0) {
+            continue;
+        }
+        const auto left =
+            std::chrono::ceil<std::chrono::microseconds>(deadline - Clock::now()).count();
+        if (processed < 0 || left <= 0 ||
+            sd_bus_wait(bus_.get(), static_cast<std::uint64_t>(left)) < 0) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace nocturo

@@ -33,7 +33,8 @@ class BusSlot {
     virtual ~BusSlot() = default;
 };
 
-/// A connection to a message bus in the event loop. Only claimName() and callAndWait() wait; a bus
+/// A connection to a message bus in the event loop. Only claimName(), callAndWait() and
+/// serveUntil() wait; a bus
 /// that is silent or goes away is the same as one where nobody answers. Main thread only.
 class Bus {
   public:
@@ -68,11 +69,19 @@ class Bus {
     onSignal(const char* sender, const char* path, const char* interface, const char* member,
              std::function<void(sd_bus_message* signal)> handler) const;
 
+    /// The same for every message that a match rule of D-Bus selects.
+    [[nodiscard]] std::unique_ptr<BusSlot>
+    onMatch(const std::string& rule, std::function<void(sd_bus_message* message)> handler) const;
+
     /// Calls `changed` with the unique name of who owns the service, empty for nobody: first with
     /// who does now, then at every change. Never starts the service.
     [[nodiscard]] std::unique_ptr<BusSlot>
     followOwner(const std::string& service,
                 std::function<void(const std::string& owner)> changed) const;
+
+    /// Waits until `isDone`, and meanwhile calls the handlers of this bus: for what cannot return
+    /// to the event loop. False when it took too long.
+    bool serveUntil(const std::function<bool()>& isDone, std::chrono::milliseconds patience) const;
 
   private:
     explicit Bus(BusHandle bus) : bus_(std::move(bus)) {}

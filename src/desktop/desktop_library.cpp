@@ -1,5 +1,6 @@
 #include "desktop/desktop_library.h"
 
+#include "base/event_loop.h"
 #include "desktop/app_windows.h"
 #include "desktop/menus/desktop_menus.h"
 #include "desktop/qt/qt_loop.h"
@@ -44,7 +45,7 @@ class QtDesktop : public DesktopPart {
   public:
     explicit QtDesktop(const DesktopSurroundings& around)
         : application_(around.loop), windows_(around.controller, around.defaults, around.centers),
-          menus_(around.controller, windows_, around.recentDocuments, around.menus,
+          menus_(around.controller, windows_, around.recentDocuments, around.menus, around.loop,
                  qEnvironmentVariable("DISPLAY").toStdString()) {
         // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
         const auto startNothing = [](QSessionManager& session) {

@@ -37,7 +37,7 @@ struct Core {
     const NotificationCenters centers;
     NDAppController controller;
     const WakeRepeater wakeRepeater;
-    DisturberFinder disturberFinder;
+    DisturberFinder disturberFinder{sessionBus.get()};
     const DisturbanceWatch disturbances;
     DesktopOnDemand desktop;
     KeepColors keepColors;

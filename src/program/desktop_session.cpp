@@ -49,10 +49,10 @@ void DesktopSession::listen() {
     core_.desktop.setKeyboardLayout(hotKeys_->layout());
     core_.controller.updateHotKey();
     core_.face.launchDidFinish();
-    sources_.emplace(
-        core_.centers, core_.runLoop,
-        DesktopSources::Surroundings{displays_.areOfXServer() ? xDisplayName() : std::string(),
-                                     loginSession()});
+    sources_.emplace(core_.centers, core_.runLoop,
+                     DesktopSources::Surroundings{
+                         displays_.areOfXServer() ? xDisplayName() : std::string(), loginSession(),
+                         core_.sessionBus.get(), core_.systemBus.get()});
 }
 
 } // namespace nocturo

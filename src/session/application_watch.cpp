@@ -3,8 +3,6 @@
 #include "base/run_loop.h"
 #include "x11/x_events.h"
 
-#include <QStringList>
-
 #include <algorithm>
 #include <utility>
 
@@ -17,13 +15,16 @@ using namespace std::chrono_literals;
 // Long enough for the windows of one application to go, short enough not to be seen.
 constexpr auto kMoment = 200ms;
 
-const QString kBus = QStringLiteral("org.freedesktop.DBus");
+// Only the loss of a name, which is told with an empty new owner, is worth waking up for.
+constexpr const char* kNameVanished =
+    "type='signal',sender='org.freedesktop.DBus',path='/org/freedesktop/DBus',"
+    "interface='org.freedesktop.DBus',member='NameOwnerChanged',arg2=''";
 
 } // namespace
 
-ApplicationWatch::ApplicationWatch(XEvents* events, std::optional<QDBusConnection> bus,
-                                   RunLoop& runLoop, std::function<void()> quit)
-    : events_(events), bus_(std::move(bus)), runLoop_(runLoop), quit_(std::move(quit)) {
+ApplicationWatch::ApplicationWatch(XEvents* events, const Bus* bus, RunLoop& runLoop,
+                                   std::function<void()> quit)
+    : events_(events), bus_(bus), runLoop_(runLoop), quit_(std::move(quit)) {
     if (events_ == nullptr) {
         listenToBus(true);
         return;
@@ -54,26 +55,15 @@ void ApplicationWatch::readWindowList() {
 }
 
 void ApplicationWatch::listenToBus(bool listen) {
-    if (!bus_ || listen == listening_) {
+    if (bus_ == nullptr || listen == (namesThatVanish_ != nullptr)) {
         return;
     }
-    listening_ = listen;
-    // Only the loss of a name, which is told with an empty new owner, is worth waking up for.
-    const QStringList match = {QString(), QString(), QStringLiteral("")};
-    const QString path = QStringLiteral("/org/freedesktop/DBus");
-    const QString signal = QStringLiteral("NameOwnerChanged");
-    const char* slot = SLOT(nameVanished(QString));
-    if (listen) {
-        bus_->connect(kBus, path, kBus, signal, match, QString(), this, slot);
-    } else {
-        bus_->disconnect(kBus, path, kBus, signal, match, QString(), this, slot);
-    }
-}
-
-void ApplicationWatch::nameVanished(const QString& name) {
-    if (!name.startsWith(QLatin1Char(':'))) {
-        announceSoon();
-    }
+    namesThatVanish_ = !listen ? nullptr : bus_->onMatch(kNameVanished, [this](auto* signal) {
+        const char* name = nullptr;
+        if (sd_bus_message_read(signal, "s", &name) > 0 && *name != ':') {
+            announceSoon();
+        }
+    });
 }
 
 void ApplicationWatch::announceSoon() {

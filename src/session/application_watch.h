@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QDBusConnection>
-#include <QObject>
+#include "base/bus.h"
 
 #include <cstdint>
 #include <functional>
@@ -18,18 +17,14 @@ class XEvents;
 /// Notices that applications quit: by windows leaving the window manager's list of an X server, or,
 /// where there is no such list, by names leaving the session bus. Connections without a name are
 /// not looked at: nearly every program has some, and drops them while it runs.
-class ApplicationWatch : public QObject {
-    Q_OBJECT
-
+class ApplicationWatch {
   public:
-    /// `events` may be null, `bus` may be none; both must outlive the watch. Calls `quit` from the
-    /// run loop, once for all that quit within a moment.
-    ApplicationWatch(XEvents* events, std::optional<QDBusConnection> bus, RunLoop& runLoop,
-                     std::function<void()> quit);
-    ~ApplicationWatch() override;
-
-  private Q_SLOTS:
-    void nameVanished(const QString& name);
+    /// `events` and `bus` may be null; both must outlive the watch. Calls `quit` from the run loop,
+    /// once for all that quit within a moment.
+    ApplicationWatch(XEvents* events, const Bus* bus, RunLoop& runLoop, std::function<void()> quit);
+    ~ApplicationWatch();
+    ApplicationWatch(const ApplicationWatch&) = delete;
+    ApplicationWatch& operator=(const ApplicationWatch&) = delete;
 
   private:
     void readWindowList();
@@ -37,12 +32,12 @@ class ApplicationWatch : public QObject {
     void announceSoon();
 
     XEvents* events_;
-    std::optional<QDBusConnection> bus_;
+    const Bus* bus_;
     RunLoop& runLoop_;
     std::function<void()> quit_;
     std::uint32_t windowListAtom_ = 0;
     std::optional<std::vector<std::uint32_t>> windows_; // sorted; none without a window manager
-    bool listening_ = false;
+    std::unique_ptr<BusSlot> namesThatVanish_;          // while the bus is listened to
     std::unique_ptr<Timer> announcement_;
 };
 

@@ -1,81 +1,63 @@
 #include "session/bus_screen_savers.h"
 
-#include "desktop/qt/bus_call.h"
 #include "session/screen_saver_state.h"
 
-#include <QStringList>
+#include <array>
 
 namespace nocturo {
 
-namespace {
-
 // Each service's interface has the service's name; the paths are where it takes calls. KDE signals
 // from both of its paths.
-struct Saver {
+struct BusScreenSavers::Saver {
     const char* service;
-    QStringList paths;
+    std::array<const char*, 2> paths;
 };
 
-const QList<Saver>& savers() {
-    static const QList<Saver> list = {
-        {"org.freedesktop.ScreenSaver", {"/org/freedesktop/ScreenSaver", "/ScreenSaver"}},
-        {"org.gnome.ScreenSaver", {"/org/gnome/ScreenSaver"}},
-        {"org.mate.ScreenSaver", {"/org/mate/ScreenSaver"}},
-        {"org.cinnamon.ScreenSaver", {"/org/cinnamon/ScreenSaver"}},
-        {"org.xfce.ScreenSaver", {"/org/xfce/ScreenSaver"}},
-    };
-    return list;
-}
-
-} // namespace
-
-BusScreenSavers::BusScreenSavers(const QDBusConnection& bus, ScreenSaverState& state)
+BusScreenSavers::BusScreenSavers(const Bus& bus, ScreenSaverState& state)
     : bus_(bus), state_(state) {
-    watcher_.setConnection(bus_);
-    watcher_.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
-    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString& service, const QString& /*oldOwner*/, const QString& newOwner) {
-                ownerChanged(service, newOwner);
-            });
-    for (const Saver& saver : savers()) {
-        const QString service = QString::fromLatin1(saver.service);
-        watcher_.addWatchedService(service);
-        // From any path.
-        bus_.connect(service, QString(), service, QStringLiteral("ActiveChanged"), this,
-                     SLOT(activeChanged(bool, QDBusMessage)));
-        askForState(service);
+    static constexpr std::array kSavers = {
+        Saver{"org.freedesktop.ScreenSaver", {"/org/freedesktop/ScreenSaver", "/ScreenSaver"}},
+        Saver{"org.gnome.ScreenSaver", {"/org/gnome/ScreenSaver", nullptr}},
+        Saver{"org.mate.ScreenSaver", {"/org/mate/ScreenSaver", nullptr}},
+        Saver{"org.cinnamon.ScreenSaver", {"/org/cinnamon/ScreenSaver", nullptr}},
+        Saver{"org.xfce.ScreenSaver", {"/org/xfce/ScreenSaver", nullptr}},
+    };
+    for (const Saver& saver : kSavers) {
+        follow(saver, followed_.emplace_back());
     }
 }
 
-void BusScreenSavers::activeChanged(bool active, const QDBusMessage& message) {
-    state_.setActive(message.interface().toStdString(), active);
+void BusScreenSavers::follow(const Saver& saver, Followed& followed) {
+    followed.changes = bus_.onSignal(saver.service, nullptr, saver.service, "ActiveChanged",
+                                     [this, service = saver.service](sd_bus_message* signal) {
+                                         int active = 0;
+                                         if (sd_bus_message_read(signal, "b", &active) > 0) {
+                                             state_.setActive(service, active != 0);
+                                         }
+                                     });
+    followed.owner =
+        bus_.followOwner(saver.service, [this, &saver, &followed](const std::string& owner) {
+            followed.questions.clear(); // what a former owner would answer counts no more
+            state_.forget(saver.service);
+            if (!owner.empty()) {
+                askForState(saver, followed);
+            }
+        });
 }
 
-void BusScreenSavers::ownerChanged(const QString& service, const QString& newOwner) {
-    ++owners_[service];
-    state_.forget(service.toStdString());
-    if (!newOwner.isEmpty()) {
-        askForState(service);
-    }
-}
-
-void BusScreenSavers::askForState(const QString& service) {
-    for (const Saver& saver : savers()) {
-        if (service != QLatin1String(saver.service)) {
+void BusScreenSavers::askForState(const Saver& saver, Followed& followed) {
+    for (const char* path : saver.paths) {
+        if (path == nullptr) {
             continue;
         }
-        for (const QString& path : saver.paths) {
-            const auto call =
-                QDBusMessage::createMethodCall(service, path, service, QStringLiteral("GetActive"));
-            callLater(bus_, call, this,
-                      [this, service, owner = owners_[service]](const QDBusMessage& answer) {
-                          const QVariant active = answer.arguments().value(0);
-                          if (answer.type() == QDBusMessage::ReplyMessage &&
-                              active.typeId() == QMetaType::Bool && owner == owners_[service]) {
-                              state_.setActive(service.toStdString(), active.toBool());
+        followed.questions.push_back(
+            bus_.call(bus_.newCall(saver.service, path, saver.service, "GetActive"),
+                      [this, service = saver.service](sd_bus_message* answer) {
+                          int active = 0;
+                          if (sd_bus_message_read(answer, "b", &active) > 0) {
+                              state_.setActive(service, active != 0);
                           }
-                      });
-        }
+                      }));
     }
 }
 

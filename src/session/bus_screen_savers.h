@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusServiceWatcher>
-#include <QObject>
+#include "base/bus.h"
 
-#include <map>
+#include <list>
+#include <memory>
+#include <vector>
 
 namespace nocturo {
 
@@ -14,24 +13,25 @@ class ScreenSaverState;
 /// The screen savers of the session bus, those of KDE, GNOME, MATE, Cinnamon and Xfce. Each counts
 /// from when it has first told its state, and is forgotten when it leaves the bus. None is ever
 /// started.
-class BusScreenSavers : public QObject {
-    Q_OBJECT
-
+class BusScreenSavers {
   public:
-    /// `state` must outlive the object.
-    BusScreenSavers(const QDBusConnection& bus, ScreenSaverState& state);
-
-  private Q_SLOTS:
-    void activeChanged(bool active, const QDBusMessage& message);
+    /// Both must outlive the object.
+    BusScreenSavers(const Bus& bus, ScreenSaverState& state);
 
   private:
-    void ownerChanged(const QString& service, const QString& newOwner);
-    void askForState(const QString& service);
+    struct Saver;
+    struct Followed {
+        std::unique_ptr<BusSlot> owner;
+        std::unique_ptr<BusSlot> changes;
+        std::vector<std::unique_ptr<BusSlot>> questions; // to the present owner
+    };
 
-    QDBusConnection bus_;
+    void follow(const Saver& saver, Followed& followed);
+    void askForState(const Saver& saver, Followed& followed);
+
+    const Bus& bus_;
     ScreenSaverState& state_;
-    QDBusServiceWatcher watcher_;
-    std::map<QString, unsigned> owners_; // how many each service has had: an answer may be late
+    std::list<Followed> followed_; // which stay where they are
 };
 
 } // namespace nocturo

@@ -2,7 +2,6 @@
 
 #include "base/log.h"
 #include "base/notification_names.h"
-#include "desktop/qt/session_bus.h"
 #include "session/application_watch.h"
 #include "session/bus_screen_savers.h"
 #include "session/login_session.h"
@@ -33,21 +32,20 @@ DesktopSources::DesktopSources(const NotificationCenters& centers, RunLoop& runL
     };
     Parts& parts = *parts_;
     if (!surroundings.xDisplay.empty()) {
-        parts.xEvents = XEvents::open(surroundings.xDisplay);
+        parts.xEvents = XEvents::open(surroundings.xDisplay, runLoop);
     }
     if (parts.xEvents != nullptr) {
         followXScreenSaver(*parts.xEvents, parts.screenSaver);
         followXScreenSaverStatus(*parts.xEvents, parts.screenSaver);
     }
-    const auto sessionBus = connectToSessionBus();
-    if (sessionBus) {
-        parts.busScreenSavers.emplace(*sessionBus, parts.screenSaver);
+    if (surroundings.sessionBus != nullptr) {
+        parts.busScreenSavers.emplace(*surroundings.sessionBus, parts.screenSaver);
     }
-    parts.applications.emplace(parts.xEvents.get(), sessionBus, runLoop,
+    parts.applications.emplace(parts.xEvents.get(), surroundings.sessionBus, runLoop,
                                poster(NSWorkspaceDidTerminateApplicationNotification));
-    if (const auto systemBus = connectToSystemBus()) {
+    if (surroundings.systemBus != nullptr) {
         parts.login.emplace(
-            *systemBus, surroundings.sessionId,
+            *surroundings.systemBus, surroundings.sessionId,
             LoginSession::Handlers{
                 poster(NSWorkspaceDidWakeNotification),
                 poster(NSWorkspaceSessionDidBecomeActiveNotification),

@@ -7,6 +7,7 @@
 
 namespace nocturo {
 
+class Bus;
 class RunLoop;
 
 /// What the desktop around the application tells: posts on the workspace center when the computer
@@ -17,11 +18,13 @@ class DesktopSources {
     struct Surroundings {
         std::string xDisplay;  // of the X server that the displays are of; empty for none
         std::string sessionId; // $XDG_SESSION_ID; empty when not set
+        const Bus* sessionBus; // null where there is none
+        const Bus* systemBus;
     };
 
     /// All that is posted comes from the event loop, but for the start of a screen saver of the X
-    /// server that runs already: it is posted at once. Make it after the launch. `centers` and
-    /// `runLoop` must outlive it.
+    /// server that runs already: it is posted at once. Make it after the launch. `centers`,
+    /// `runLoop` and the buses must outlive it.
     DesktopSources(const NotificationCenters& centers, RunLoop& runLoop,
                    const Surroundings& surroundings);
     ~DesktopSources();

@@ -1,10 +1,6 @@
 #include "session/disturber_finder.h"
 
-#include "desktop/qt/bus_call.h"
-#include "desktop/qt/session_bus.h"
 #include "session/running_programs.h"
-
-#include <QDBusVariant>
 
 #include <array>
 #include <string_view>
@@ -12,23 +8,27 @@
 
 namespace nocturo {
 
+namespace {
+
+constexpr const char* kNightLight = "org.gnome.SettingsDaemon.Color";
+
+} // namespace
+
 void DisturberFinder::find(std::function<void(const std::string& name)> answer) {
     constexpr std::array<std::string_view, 3> programs = {"redshift", "gammastep", "wlsunset"};
     const std::string program = runningProgram(programs);
-    const auto bus = connectToSessionBus();
-    if (!program.empty() || !bus) {
+    if (!program.empty() || bus_ == nullptr) {
         answer(program);
         return;
     }
-    const QString name = QStringLiteral("org.gnome.SettingsDaemon.Color");
-    callLater(*bus,
-              propertyCall(name, QStringLiteral("/org/gnome/SettingsDaemon/Color"), name,
-                           QStringLiteral("NightLightActive")),
-              this, [answer = std::move(answer)](const QDBusMessage& reply) {
-                  // An error's argument is its text, which is no variant.
-                  const auto active = reply.arguments().value(0).value<QDBusVariant>().variant();
-                  answer(active.toBool() ? "Night Light" : "");
-              });
+    const BusMessage call = bus_->newCall(kNightLight, "/org/gnome/SettingsDaemon/Color",
+                                          "org.freedesktop.DBus.Properties", "Get");
+    sd_bus_message_append(call.get(), "ss", kNightLight, "NightLightActive");
+    question_ = bus_->call(call, [answer = std::move(answer)](sd_bus_message* reply) {
+        int active = 0;
+        answer(sd_bus_message_read(reply, "v", "b", &active) > 0 && active != 0 ? "Night Light"
+                                                                                : "");
+    });
 }
 
 } // namespace nocturo

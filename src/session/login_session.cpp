@@ -1,12 +1,7 @@
 #include "session/login_session.h"
 
-#include "desktop/qt/bus_call.h"
-
-#include <QDBusArgument>
-#include <QDBusMessage>
-#include <QDBusObjectPath>
-#include <QDBusVariant>
-
+#include <cstdint>
+#include <string_view>
 #include <unistd.h>
 #include <utility>
 
@@ -18,123 +13,115 @@ namespace nocturo {
 
 namespace {
 
-const QString kService = QStringLiteral("org.freedesktop.login1");
-const QString kManagerPath = QStringLiteral("/org/freedesktop/login1");
-const QString kManager = QStringLiteral("org.freedesktop.login1.Manager");
-const QString kSession = QStringLiteral("org.freedesktop.login1.Session");
-const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
+constexpr const char* kService = "org.freedesktop.login1";
+constexpr const char* kManagerPath = "/org/freedesktop/login1";
+constexpr const char* kManager = "org.freedesktop.login1.Manager";
+constexpr const char* kSession = "org.freedesktop.login1.Session";
+constexpr const char* kProperties = "org.freedesktop.DBus.Properties";
 
-QDBusMessage managerCall(const QString& method, const QVariant& argument) {
-    QDBusMessage call = QDBusMessage::createMethodCall(kService, kManagerPath, kManager, method);
-    call << argument;
-    return call;
-}
-
-bool isReply(const QDBusMessage& answer) {
-    return answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty();
-}
-
-QString pathIn(const QVariant& value) {
-    return value.value<QDBusObjectPath>().path();
+/// The object path that is all of an answer; empty when it is none.
+std::string pathIn(sd_bus_message* answer) {
+    const char* path = nullptr;
+    return sd_bus_message_read(answer, "o", &path) > 0 ? path : "";
 }
 
 } // namespace
 
-LoginSession::LoginSession(const QDBusConnection& systemBus, const std::string& sessionId,
-                           Handlers handlers)
-    : bus_(systemBus), sessionId_(QString::fromStdString(sessionId)),
-      handlers_(std::move(handlers)),
-      watcher_(kService, bus_, QDBusServiceWatcher::WatchForRegistration) {
-    bus_.connect(kService, kManagerPath, kManager, QStringLiteral("PrepareForSleep"), this,
-                 SLOT(prepareForSleep(bool)));
-    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, [this] { findSession(); });
-    findSession();
-}
-
-void LoginSession::prepareForSleep(bool start) {
-    if (!start) {
-        handlers_.wokeUp();
-    }
-}
-
-void LoginSession::findSession() {
-    if (sessionId_.isEmpty()) {
-        findSessionOfProcess();
-        return;
-    }
-    callLater(bus_, managerCall(QStringLiteral("GetSession"), sessionId_), this,
-              [this](const QDBusMessage& answer) {
-                  if (isReply(answer)) {
-                      follow(pathIn(answer.arguments().constFirst()));
-                  } else {
-                      findSessionOfProcess();
-                  }
-              });
-}
-
-void LoginSession::findSessionOfProcess() {
-    const auto process = static_cast<unsigned>(getpid());
-    callLater(bus_, managerCall(QStringLiteral("GetSessionByPID"), process), this,
-              [this](const QDBusMessage& answer) {
-                  if (isReply(answer)) {
-                      follow(pathIn(answer.arguments().constFirst()));
-                  } else {
-                      findSessionOfUser();
-                  }
-              });
-}
-
-void LoginSession::findSessionOfUser() {
-    callLater(bus_,
-              propertyCall(kService, kManagerPath + QStringLiteral("/user/self"),
-                           QStringLiteral("org.freedesktop.login1.User"),
-                           QStringLiteral("Display")),
-              this, [this](const QDBusMessage& answer) {
-                  if (!isReply(answer)) {
-                      return;
-                  }
-                  const auto value = answer.arguments().constFirst().value<QDBusVariant>();
-                  const auto display = value.variant().value<QDBusArgument>();
-                  QString id;
-                  QDBusObjectPath path;
-                  if (display.currentSignature() == QLatin1String("(so)")) {
-                      display.beginStructure();
-                      display >> id >> path;
-                      display.endStructure();
-                      follow(path.path());
-                  }
-              });
-}
-
-void LoginSession::follow(const QString& sessionPath) {
-    const QString changed = QStringLiteral("PropertiesChanged");
-    const char* slot = SLOT(propertiesChanged(QString, QVariantMap));
-    if (!sessionPath_.isEmpty()) {
-        bus_.disconnect(kService, sessionPath_, kProperties, changed, this, slot);
-    }
-    sessionPath_ = sessionPath;
-    bus_.connect(kService, sessionPath_, kProperties, changed, this, slot);
-    QDBusMessage call = QDBusMessage::createMethodCall(kService, sessionPath_, kProperties,
-                                                       QStringLiteral("GetAll"));
-    call << kSession;
-    callLater(bus_, call, this, [this](const QDBusMessage& answer) {
-        if (isReply(answer)) {
-            take(qdbus_cast<QVariantMap>(answer.arguments().constFirst()));
+LoginSession::LoginSession(const Bus& systemBus, std::string sessionId, Handlers handlers)
+    : bus_(systemBus), sessionId_(std::move(sessionId)), handlers_(std::move(handlers)) {
+    sleep_ = bus_.onSignal(kService, kManagerPath, kManager, "PrepareForSleep",
+                           [this](sd_bus_message* signal) {
+                               int starts = 1;
+                               sd_bus_message_read(signal, "b", &starts);
+                               if (starts == 0) {
+                                   handlers_.wokeUp();
+                               }
+                           });
+    owner_ = bus_.followOwner(kService, [this](const std::string& owner) {
+        if (!owner.empty()) {
+            findSession();
         }
     });
 }
 
-void LoginSession::propertiesChanged(const QString& interface, const QVariantMap& changed) {
-    if (interface == kSession) {
-        take(changed);
+void LoginSession::findSession() {
+    if (sessionId_.empty()) {
+        findSessionOfProcess();
+        return;
     }
+    const BusMessage call = bus_.newCall(kService, kManagerPath, kManager, "GetSession");
+    sd_bus_message_append(call.get(), "s", sessionId_.c_str());
+    question_ = bus_.call(call, [this](sd_bus_message* answer) {
+        const std::string path = pathIn(answer);
+        if (!path.empty()) {
+            follow(path);
+        } else {
+            findSessionOfProcess();
+        }
+    });
 }
 
-void LoginSession::take(const QVariantMap& properties) {
-    const bool wasActive =
-        std::exchange(active_, properties.value(QStringLiteral("Active"), active_).toBool());
-    const bool wasLocked =
-        std::exchange(locked_, properties.value(QStringLiteral("LockedHint"), locked_).toBool());
+void LoginSession::findSessionOfProcess() {
+    const BusMessage call = bus_.newCall(kService, kManagerPath, kManager, "GetSessionByPID");
+    sd_bus_message_append(call.get(), "u", static_cast<std::uint32_t>(getpid()));
+    question_ = bus_.call(call, [this](sd_bus_message* answer) {
+        const std::string path = pathIn(answer);
+        if (!path.empty()) {
+            follow(path);
+        } else {
+            findSessionOfUser();
+        }
+    });
+}
+
+void LoginSession::findSessionOfUser() {
+    const BusMessage call =
+        bus_.newCall(kService, "/org/freedesktop/login1/user/self", kProperties, "Get");
+    sd_bus_message_append(call.get(), "ss", "org.freedesktop.login1.User", "Display");
+    question_ = bus_.call(call, [this](sd_bus_message* answer) {
+        const char* id = nullptr;
+        const char* path = nullptr;
+        if (sd_bus_message_read(answer, "v", "(so)", &id, &path) > 0) {
+            follow(path);
+        }
+    });
+}
+
+void LoginSession::follow(const std::string& sessionPath) {
+    changes_ = bus_.onSignal(kService, sessionPath.c_str(), kProperties, "PropertiesChanged",
+                             [this](sd_bus_message* signal) {
+                                 const char* interface = nullptr;
+                                 if (sd_bus_message_read(signal, "s", &interface) > 0 &&
+                                     std::string_view(interface) == kSession) {
+                                     take(signal);
+                                 }
+                             });
+    const BusMessage call = bus_.newCall(kService, sessionPath.c_str(), kProperties, "GetAll");
+    sd_bus_message_append(call.get(), "s", kSession);
+    question_ = bus_.call(call, [this](sd_bus_message* answer) { take(answer); });
+}
+
+void LoginSession::take(sd_bus_message* properties) {
+    const bool wasActive = active_;
+    const bool wasLocked = locked_;
+    if (sd_bus_message_enter_container(properties, 'a', "{sv}") <= 0) {
+        return;
+    }
+    while (sd_bus_message_enter_container(properties, 'e', "sv") > 0) {
+        const char* name = nullptr;
+        sd_bus_message_read(properties, "s", &name);
+        const std::string_view property = name != nullptr ? name : "";
+        bool* known = property == "Active"       ? &active_
+                      : property == "LockedHint" ? &locked_
+                                                 : nullptr;
+        int value = 0;
+        if (known != nullptr && sd_bus_message_read(properties, "v", "b", &value) > 0) {
+            *known = value != 0;
+        } else if (known != nullptr || sd_bus_message_skip(properties, "v") < 0) {
+            break; // of another type
+        }
+        sd_bus_message_exit_container(properties);
+    }
     if (active_ && !wasActive) {
         handlers_.becameActive();
     }

@@ -1,5 +1,7 @@
 #include "x11/x_events.h"
 
+#include "base/run_loop.h"
+
 #include <utility>
 
 namespace nocturo {
@@ -10,7 +12,7 @@ constexpr std::uint32_t kWholeProperty = UINT32_MAX / 4; // in units of four byt
 
 } // namespace
 
-std::unique_ptr<XEvents> XEvents::open(const std::string& displayName) {
+std::unique_ptr<XEvents> XEvents::open(const std::string& displayName, RunLoop& runLoop) {
     int preferredScreen = 0;
     XcbConnection connection(xcb_connect(displayName.c_str(), &preferredScreen));
     auto* raw = connection.get();
@@ -26,15 +28,15 @@ std::unique_ptr<XEvents> XEvents::open(const std::string& displayName) {
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(raw, root, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(raw);
-    return std::unique_ptr<XEvents>(new XEvents(std::move(connection), root));
+    return std::unique_ptr<XEvents>(new XEvents(std::move(connection), root, runLoop));
 }
 
-XEvents::XEvents(XcbConnection connection, xcb_window_t root)
+XEvents::XEvents(XcbConnection connection, xcb_window_t root, RunLoop& runLoop)
     : connection_(std::move(connection)), root_(root),
-      notifier_(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read) {
-    QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_,
-                     [this] { processEvents(); });
-}
+      watch_(
+          runLoop.watch(xcb_get_file_descriptor(connection_.get()), [this] { processEvents(); })) {}
+
+XEvents::~XEvents() = default;
 
 xcb_atom_t XEvents::atom(std::string_view name) const {
     auto* raw = connection_.get();
@@ -77,7 +79,7 @@ void XEvents::processEvents() {
     }
     // A descriptor at its end stays readable for good.
     if (xcb_connection_has_error(connection_.get())) {
-        notifier_.setEnabled(false);
+        watch_.reset();
     }
 }
 

@@ -2,8 +2,6 @@
 
 #include "x11/xcb_handles.h"
 
-#include <QSocketNotifier>
-
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -15,6 +13,9 @@
 
 namespace nocturo {
 
+class RunLoop;
+class Watch;
+
 /// A connection to an X server for what is announced on its root window, and on others that are
 /// followed. Handlers run from the event loop. When the server goes, nothing more is heard, and
 /// that is all.
@@ -22,8 +23,10 @@ class XEvents {
   public:
     using EventHandler = std::function<void(const xcb_generic_event_t& event)>;
 
-    /// Null when the server cannot be reached.
-    static std::unique_ptr<XEvents> open(const std::string& displayName);
+    /// Null when the server cannot be reached. The loop must outlive the connection.
+    static std::unique_ptr<XEvents> open(const std::string& displayName, RunLoop& runLoop);
+
+    ~XEvents();
 
     xcb_connection_t* connection() const { return connection_.get(); }
     xcb_window_t root() const { return root_; }
@@ -49,14 +52,14 @@ class XEvents {
     void processEvents();
 
   private:
-    XEvents(XcbConnection connection, xcb_window_t root);
+    XEvents(XcbConnection connection, xcb_window_t root, RunLoop& runLoop);
     void handle(const xcb_generic_event_t& event) const;
 
     XcbConnection connection_;
     xcb_window_t root_;
     std::map<xcb_atom_t, std::function<void()>> propertyHandlers_;
     std::map<std::uint8_t, EventHandler> eventHandlers_;
-    QSocketNotifier notifier_;
+    std::unique_ptr<Watch> watch_; // none once the server has gone
 };
 
 } // namespace nocturo

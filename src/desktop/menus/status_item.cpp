@@ -10,8 +10,10 @@
 
 namespace nocturo {
 
-StatusItem::StatusItem(QMenu& menu, std::string xDisplay, std::function<void()> middleClicked)
-    : menu_(menu), xDisplay_(std::move(xDisplay)), middleClicked_(std::move(middleClicked)) {}
+StatusItem::StatusItem(QMenu& menu, std::string xDisplay, RunLoop& runLoop,
+                       std::function<void()> middleClicked)
+    : menu_(menu), xDisplay_(std::move(xDisplay)), runLoop_(runLoop),
+      middleClicked_(std::move(middleClicked)) {}
 
 void StatusItem::setShown(bool shown) {
     if (shown == shown_) {
@@ -23,7 +25,7 @@ void StatusItem::setShown(bool shown) {
     trayWatch_.reset();
     if (shown) {
         trayWatch_ = std::make_unique<TrayWatch>(
-            xDisplay_, [this] { trayAppeared(); }, [this] { setWaiting(true); });
+            xDisplay_, runLoop_, [this] { trayAppeared(); }, [this] { setWaiting(true); });
     }
     setWaiting(false);
 }
@@ -47,7 +49,7 @@ void StatusItem::trayAppeared() {
     connect(icon_.get(), &QSystemTrayIcon::activated, this, &StatusItem::wasActivated);
     setImage();
     icon_->show();
-    trayColor_ = std::make_unique<TrayColor>(xDisplay_, [this] { setImage(); });
+    trayColor_ = std::make_unique<TrayColor>(xDisplay_, runLoop_, [this] { setImage(); });
     setImage();
     setWaiting(false);
 }

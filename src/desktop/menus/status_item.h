@@ -13,13 +13,16 @@ class QMenu;
 
 namespace nocturo {
 
+class RunLoop;
+
 /// The application's item in trays that embed windows, under X11. Not to be shown while the session
 /// bus has a tray: Qt would take that one. Needs a QApplication.
 class StatusItem : public QObject {
   public:
     /// A click shows the menu, which must outlive the item; a middle click calls `middleClicked`.
-    /// `xDisplay` is empty where there is no X server.
-    StatusItem(QMenu& menu, std::string xDisplay, std::function<void()> middleClicked);
+    /// `xDisplay` is empty where there is no X server; the loop must outlive the item.
+    StatusItem(QMenu& menu, std::string xDisplay, RunLoop& runLoop,
+               std::function<void()> middleClicked);
 
     /// A desktop without a tray shows the item as soon as it has one.
     void setShown(bool shown);
@@ -40,6 +43,7 @@ class StatusItem : public QObject {
 
     QMenu& menu_;
     std::string xDisplay_;
+    RunLoop& runLoop_;
     std::function<void()> middleClicked_;
     bool shown_ = false;
     bool active_ = false;

@@ -6,10 +6,10 @@
 
 namespace nocturo {
 
-TrayColor::TrayColor(const std::string& xDisplay, std::function<void()> changed)
+TrayColor::TrayColor(const std::string& xDisplay, RunLoop& runLoop, std::function<void()> changed)
     : changed_(std::move(changed)) {
     if (!xDisplay.empty()) {
-        events_ = XEvents::open(xDisplay);
+        events_ = XEvents::open(xDisplay, runLoop);
     }
     if (events_ == nullptr) {
         return;

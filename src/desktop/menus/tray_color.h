@@ -13,6 +13,8 @@
 
 namespace nocturo {
 
+class RunLoop;
+
 /// The color in which the tray window of an X server has its images drawn.
 class TrayColor : public QObject {
   public:
@@ -20,7 +22,7 @@ class TrayColor : public QObject {
     using Color = std::array<std::uint16_t, 3>;
 
     /// `changed` is called from the event loop whenever it may be another, also for another tray.
-    TrayColor(const std::string& xDisplay, std::function<void()> changed);
+    TrayColor(const std::string& xDisplay, RunLoop& runLoop, std::function<void()> changed);
 
     /// Nothing where there is no tray window, or where it does not say.
     std::optional<Color> color() const;

@@ -10,11 +10,11 @@
 
 namespace nocturo {
 
-TrayWatch::TrayWatch(const std::string& xDisplay, std::function<void()> appeared,
+TrayWatch::TrayWatch(const std::string& xDisplay, RunLoop& runLoop, std::function<void()> appeared,
                      std::function<void()> missing)
     : appeared_(std::move(appeared)), missing_(std::move(missing)) {
     if (!xDisplay.empty()) {
-        xEvents_ = XEvents::open(xDisplay);
+        xEvents_ = XEvents::open(xDisplay, runLoop);
     }
     if (xEvents_ != nullptr) {
         followServer();

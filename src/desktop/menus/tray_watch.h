@@ -10,12 +10,14 @@
 
 namespace nocturo {
 
+class RunLoop;
+
 /// Waits until an X server has a tray window.
 class TrayWatch : public QObject {
   public:
     /// `xDisplay` is empty where there is no X server. From the event loop `appeared` is called
     /// once, also for a tray that is there already, and `missing` at first where there is none.
-    TrayWatch(const std::string& xDisplay, std::function<void()> appeared,
+    TrayWatch(const std::string& xDisplay, RunLoop& runLoop, std::function<void()> appeared,
               std::function<void()> missing);
 
   private:
