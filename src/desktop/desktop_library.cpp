@@ -8,9 +8,9 @@
 #include "desktop/test_card/test_card.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QSessionManager>
 
-#include <optional>
 #include <utility>
 
 namespace nocturo {
@@ -24,21 +24,18 @@ int argumentCount = 1;
 /// Qt's application, in whose loop the core's runs.
 class Application {
   public:
-    explicit Application(EventLoop& loop) {
-        if (QCoreApplication::instance() != nullptr) {
-            return; // the program has made one already
-        }
-        application_.emplace(argumentCount, arguments);
-        installTranslations(*application_);
+    explicit Application(EventLoop& loop) : qtLoop_(loop) {
+        // Profiles are checked by the core, with a sentence that names them.
+        QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.icc=false"));
+        installTranslations(application_);
         QApplication::setApplicationName(QStringLiteral("Nocturo"));
         QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));
         QApplication::setQuitOnLastWindowClosed(false);
-        qtLoop_.emplace(loop);
     }
 
   private:
-    std::optional<QApplication> application_;
-    std::optional<QtLoop> qtLoop_;
+    QApplication application_{argumentCount, arguments};
+    QtLoop qtLoop_;
 };
 
 class QtDesktop : public DesktopPart {

@@ -5,8 +5,6 @@
 #include "base/runtime_directory.h"
 #include "base/texts/translated.h"
 #include "base/texts/users_language.h"
-#include "desktop/qt/qt_loop.h"
-#include "desktop/qt/translations.h"
 #include "program/connected_displays.h"
 #include "program/core.h"
 #include "program/desktop_session.h"
@@ -16,9 +14,6 @@
 #include "settings/defaults_store.h"
 #include "settings/settings_keeper.h"
 #include "x11/startup_notification.h"
-
-#include <QApplication>
-#include <QLoggingCategory>
 
 #include <cstdio>
 #include <cstdlib>
@@ -140,18 +135,10 @@ int main(int argc, char* argv[]) {
         tell(stderr, error->sentence);
         return kUsage;
     }
-    // Profiles are checked by us, with a sentence that names them.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.icc=false"));
     EventLoop::blockSignals(Core::signalNumbers());
     EventLoop loop;
-    const char* given = std::getenv("DESKTOP_STARTUP_ID"); // taken away by windows
+    const char* given = std::getenv("DESKTOP_STARTUP_ID");
     const std::string startupIdentifier = given != nullptr ? given : "";
-    choosePlatform();
-    const QApplication application(argc, argv);
-    installTranslations(*QCoreApplication::instance());
-    QApplication::setApplicationName(QStringLiteral("Nocturo"));
-    QApplication::setDesktopFileName(QStringLiteral("org.nocturo.Nocturo"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    const QtLoop qtLoop(loop);
+    unsetenv("DESKTOP_STARTUP_ID"); // windows come later, by other ways
     return run(std::get<RunOptions>(options), loop, startupIdentifier);
 }

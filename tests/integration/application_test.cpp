@@ -228,6 +228,47 @@ TEST_F(Application, DocumentsAndPreviewsNeedNoWindow) {
     EXPECT_EQ(session_.run("nocturoctl", {"preview", "--png", file, "--display", "7"}).exit, 2);
 }
 
+TEST_F(Application, QtComesWithTheFirstWindow) {
+    const auto namesQt = [](const std::string& text) {
+        return text.find("libQt") != std::string::npos;
+    };
+    EXPECT_FALSE(namesQt(session_.run("ldd", {NOCTURO_BIN_DIR "/nocturo"}).output));
+    select("NDDimEffect");
+    nocturo_ = session_.startNocturo();
+    const auto hasQt = [&] {
+        return namesQt(readText("/proc/" + std::to_string(nocturo_->id()) + "/maps"));
+    };
+    ctl({"open", writtenDocument()});
+    EXPECT_TRUE(becomes("ii"));
+    ctl({"save", session_.runtimeDirectory() / "saved.nocturo"});
+    ctl({"set", "UseHotKey", "true"});
+    ctl({"toggle"});
+    ctl({"status"});
+    EXPECT_FALSE(hasQt());
+    ctl({"preferences"});
+    EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
+    EXPECT_TRUE(hasQt());
+}
+
+TEST_F(Application, WithoutItsLibraryItSaysWhatWindowsComeWith) {
+    const std::filesystem::path alone = session_.runtimeDirectory() / "alone";
+    std::filesystem::create_directory(alone);
+    for (const char* program : {"nocturo", "nocturo-guard"}) {
+        std::filesystem::copy(std::filesystem::path(NOCTURO_BIN_DIR) / program, alone / program);
+    }
+    nocturo_ = session_.start(alone / "nocturo");
+    EXPECT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 0; }));
+    const std::string sentence =
+        "Windows come with the package nocturo-desktop, which is not installed.\n";
+    EXPECT_EQ(nocturo_->errors(), "nocturo.app: " + sentence + kNoEffectSentence);
+    ctl({"open", writtenDocument()});
+    EXPECT_TRUE(becomes("ii"));
+    const RunResult refused = session_.run("nocturoctl", {"preferences"});
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_EQ(refused.errors, "nocturoctl: " + sentence);
+    end();
+}
+
 } // namespace
 
 } // namespace nocturo::rig
