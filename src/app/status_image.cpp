@@ -83,11 +83,15 @@ std::vector<std::uint32_t> statusImage(std::string_view name, int side,
     std::vector<std::uint32_t> pixels;
     pixels.reserve(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
     for (int i = 0; i < side * side; ++i) {
+        const int x = i % side;
+        const int y = i / side;
         int inShape = 0;
         int onGround = 0;
         for (int j = 0; j < kPointsInRow * kPointsInRow; ++j) {
-            const Point point{(i % side + (j % kPointsInRow + 0.5) / kPointsInRow - edge) / scale,
-                              (i / side + (j / kPointsInRow + 0.5) / kPointsInRow - edge) / scale};
+            const int column = j % kPointsInRow;
+            const int row = j / kPointsInRow;
+            const Point point{(x + (column + 0.5) / kPointsInRow - edge) / scale,
+                              (y + (row + 0.5) / kPointsInRow - edge) / scale};
             const bool isIn = isInShape(point, isActive);
             const double away = std::min(distanceFromDisplay(point), distanceFromStand(point));
             inShape += isIn ? 1 : 0;
