@@ -20,7 +20,7 @@ class DefaultsStore;
 
 /// What every Nocturo is made of before it knows whether it is the one of its session: the
 /// controller with its windows, the buses and its face on one, and what signals tell it. Touches
-/// neither displays nor the desktop. Needs a QApplication.
+/// neither displays nor the desktop.
 struct Core {
     /// To be blocked before the application is made.
     static std::array<int, 5> signalNumbers();
