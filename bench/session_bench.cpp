@@ -93,6 +93,10 @@ class NoRunLoop : public RunLoop {
     std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/) override {
         return nullptr;
     }
+    std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/,
+                                 std::function<bool()> /*hasRead*/) override {
+        return nullptr;
+    }
     void callSoon(std::function<void()> /*action*/) override {}
 };
 

@@ -32,7 +32,9 @@ void EventLoop::Release::operator()(sd_event_source* source) const {
 /// Shared, because it may be destroyed while it runs.
 struct EventLoop::Action {
     std::function<void()> run;
-    std::uint64_t intervalUs = 0; // 0 for what happens once
+    std::uint64_t intervalUs = 0;            // 0 for what happens once
+    std::function<bool()> hasRead = nullptr; // for what reads ahead,
+    sd_event_source* reader = nullptr;       // which then calls run
 };
 
 class EventLoop::RunningTimer final : public Timer {
@@ -45,6 +47,7 @@ class EventLoop::RunningWatch final : public Watch {
   public:
     std::shared_ptr<Action> action;
     Source source;
+    Source reader; // for what reads ahead: runs the action although the descriptor shows nothing
 };
 
 EventLoop::EventLoop() {
@@ -100,12 +103,42 @@ std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> ac
 }
 
 std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> action,
+                                        std::function<bool()> hasRead) {
+    auto watch = this->watch(descriptor, std::move(action));
+    if (watch != nullptr) {
+        auto& running = static_cast<RunningWatch&>(*watch);
+        sd_event_source* source = nullptr;
+        sd_event_add_defer(event_.get(), &source, callReader, &running.action);
+        running.reader.reset(source);
+        sd_event_source_set_enabled(source, SD_EVENT_OFF);
+        running.action->hasRead = std::move(hasRead);
+        running.action->reader = source;
+        sd_event_source_set_prepare(running.source.get(), lookAhead);
+    }
+    return watch;
+}
+
+int EventLoop::callReader(sd_event_source* /*source*/, void* data) {
+    const std::shared_ptr<Action> action = *static_cast<std::shared_ptr<Action>*>(data);
+    action->run();
+    return 0;
+}
+
+int EventLoop::lookAhead(sd_event_source* /*source*/, void* data) {
+    const Action& action = **static_cast<std::shared_ptr<Action>*>(data);
+    if (action.hasRead()) {
+        sd_event_source_set_enabled(action.reader, SD_EVENT_ONESHOT);
+    }
+    return 0;
+}
+
+std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> action,
                                         Priority priority) {
     if (descriptor < 0) {
         return nullptr;
     }
     auto watch = std::make_unique<RunningWatch>();
-    watch->action = std::make_shared<Action>(Action{std::move(action), 0});
+    watch->action = std::make_shared<Action>(Action{std::move(action)});
     sd_event_source* source = nullptr;
     sd_event_add_io(event_.get(), &source, descriptor, EPOLLIN, becameReadable, &watch->action);
     sd_event_source_set_priority(source, priority);

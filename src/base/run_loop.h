@@ -36,6 +36,11 @@ class RunLoop {
     [[nodiscard]] virtual std::unique_ptr<Watch> watch(int descriptor,
                                                        std::function<void()> action) = 0;
 
+    /// The same for what reads ahead, as connections do while they wait for an answer: `action` is
+    /// also called when `hasRead`, which is asked each time before the loop waits, says so.
+    [[nodiscard]] virtual std::unique_ptr<Watch> watch(int descriptor, std::function<void()> action,
+                                                       std::function<bool()> hasRead) = 0;
+
     /// Calls `action` once from the loop, after everything that runs now has returned. Actions are
     /// called in the order in which they were handed over.
     virtual void callSoon(std::function<void()> action) = 0;

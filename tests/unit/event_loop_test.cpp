@@ -109,6 +109,28 @@ TEST(EventLoop, LetsActionsDestroyTheirOwnTimerAndWatch) {
     close(ends[1]);
 }
 
+TEST(EventLoop, AsksWhoReadsAheadEachTimeBeforeItWaits) {
+    EventLoop loop;
+    std::array<int, 2> silent{};
+    ASSERT_EQ(pipe(silent.data()), 0);
+    int read = 0; // by somebody's handler, beside what it waited for
+    int handled = 0;
+    std::unique_ptr<Watch> watch;
+    const auto handle = [&] {
+        handled += std::exchange(read, 0);
+        if (handled >= 3) {
+            watch.reset();
+            loop.quit();
+        }
+    };
+    watch = loop.watch(silent[0], handle, [&] { return read > 0; });
+    const auto timer = loop.scheduleRepeatingTimer(1ms, [&] { ++read; });
+    loop.run();
+    EXPECT_GE(handled, 3);
+    close(silent[0]);
+    close(silent[1]);
+}
+
 TEST(EventLoop, DeliversSignalsBeforeAllElse) {
     EventLoop loop;
     std::vector<int> called;

@@ -28,6 +28,10 @@ class FakeRunLoop final : public RunLoop {
     std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/) override {
         return std::make_unique<Watch>();
     }
+    std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/,
+                                 std::function<bool()> /*hasRead*/) override {
+        return std::make_unique<Watch>();
+    }
     /// Called at the next advance(), before time passes.
     void callSoon(std::function<void()> action) override { soon_.push_back(std::move(action)); }
 
