@@ -183,7 +183,8 @@ void measureHotKey(rig::Session& session, BusClient& client) {
 }
 
 void measureReapplication(rig::Session& session) {
-    auto hardware = RandrHardware::open(session.server().display());
+    const auto connection = XConnection::open(session.server().display());
+    auto hardware = RandrHardware::open(connection.get());
     if (!hardware) {
         throw std::runtime_error("the X server cannot be used");
     }

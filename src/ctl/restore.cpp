@@ -1,5 +1,7 @@
 #include "ctl/restore.h"
 
+#include "base/bus.h"
+#include "base/event_loop.h"
 #include "base/runtime_directory.h"
 #include "base/texts/translated.h"
 #include "ctl/bus_client.h"
@@ -43,13 +45,9 @@ bool switchOffBySignal(RandrHardware& hardware, const std::filesystem::path& jou
            waitUntilGivenBack(hardware);
 }
 
-std::string environmentVariable(const char* name, const char* otherwise = "") {
-    const char* value = std::getenv(name);
-    return value != nullptr ? value : otherwise;
-}
-
 ListedText restoreByHand() {
-    const std::string display = environmentVariable("DISPLAY");
+    const char* variable = std::getenv("DISPLAY");
+    const std::string display = variable != nullptr ? variable : "";
     const auto directory = runtimeDirectory();
     if (display.empty()) {
         throw Failure{kFailed,
@@ -60,7 +58,8 @@ ListedText restoreByHand() {
         throw Failure{kFailed, translated("The runtime directory cannot be used; set "
                                           "XDG_RUNTIME_DIR to one of yours.")};
     }
-    const auto opened = RandrHardware::open(display);
+    const auto server = XConnection::open(display);
+    const auto opened = RandrHardware::open(server.get());
     if (!opened) {
         throw Failure{kFailed, openingProblem(opened.error(), display)};
     }
@@ -69,9 +68,9 @@ ListedText restoreByHand() {
     if (switchOffBySignal(hardware, journal)) {
         return kSwitchedOff;
     }
-    ProfileCalibrations calibrations(
-        display,
-        environmentVariable("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/run/dbus/system_bus_socket"));
+    EventLoop loop;
+    const auto systemBus = Bus::connect(systemBusAddress(), loop);
+    ProfileCalibrations calibrations(server.get(), systemBus.get());
     switch (repairDisplays(hardware, journal, calibrations)) {
     case Repair::ownRamps:
         return ListedText(

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -26,9 +27,11 @@ class CalibrationSource {
     /// channel, which is usable.
     virtual CalibrationAnswer calibration(const std::string& connector, std::uint32_t rampSize) = 0;
 
-    /// A number that differs from the one before whenever an answer may have changed since. Takes
-    /// in what has come from outside, without waiting.
+    /// A number that differs from the one before whenever an answer may have changed since.
     virtual std::uint64_t generation() = 0;
+
+    /// Has `look` called from the event loop when that number may be another.
+    virtual void whenChanged(std::function<void()> /*look*/) {}
 
     /// For what cannot wait in an event loop: waits, no longer than that, until all that was asked
     /// for so far is settled. False when it is not.

@@ -1,17 +1,20 @@
 #include "displays/display_factory.h"
 
 #include "base/log.h"
+#include "base/run_loop.h"
 #include "base/texts/translated.h"
 #include "displays/calibration/profile_calibrations.h"
 #include "displays/guard/display_repair.h"
 #include "displays/guard/guarded_hardware.h"
 #include "displays/guard/journal.h"
+#include "displays/guard/server_mark.h"
 #include "displays/ramp_display_services.h"
 #include "displays/simulated/simulated_hardware.h"
 #include "displays/wlr/wlr_hardware.h"
 #include "displays/x11/opening_problem.h"
 #include "displays/x11/randr_hardware.h"
 #include "wayland/wayland_connection.h"
+#include "x11/x_connection.h"
 
 #include <charconv>
 #include <utility>
@@ -32,43 +35,47 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
         return failedForNow(
             translated("There is no X server to work with, because DISPLAY is not set."));
     }
-    auto randr = RandrHardware::open(xDisplay);
+    XConnection* server = surroundings.xServer;
+    std::unique_ptr<ProfileCalibrations> profiles;
+    if (server != nullptr) {
+        // What they ask the server is answered along with what is asked next.
+        ServerMark::expect(*server);
+        profiles = std::make_unique<ProfileCalibrations>(server, surroundings.systemBus);
+    }
+    auto randr = RandrHardware::open(server);
     if (!randr) {
         return failedForNow(openingProblem(randr.error(), xDisplay));
     }
     // Before anything is captured, so that no effect is ever taken for a display's own colours.
     const auto journal = journalFile(surroundings.runtimeDirectory, xDisplay);
-    auto profiles = std::make_unique<ProfileCalibrations>(xDisplay, surroundings.systemBusAddress);
     if (repairDisplays(**randr, journal, *profiles) == Repair::inUse) {
         return failed(
             translated("Another Nocturo drives the displays of the X server %@.", {xDisplay}));
     }
-    auto guarded = std::make_unique<GuardedHardware>(std::move(*randr), xDisplay, journal);
     OpenedDisplays opened;
-    GuardedHardware* hardware = guarded.get(); // lives as long as the services
-    opened.eventDescriptors = profiles->descriptors();
-    opened.eventDescriptors.push_back(hardware->displays().descriptor());
-    auto services =
-        std::make_unique<RampDisplayServices>(std::move(guarded), std::move(profiles), &runLoop);
-    opened.processEvents = [displays = services.get()] { displays->lookForChanges(); };
-    opened.connectionLost = [hardware] { return hardware->displays().connectionLost(); };
-    opened.guardEndDescriptor = hardware->guardEndDescriptor();
-    opened.processGuardEnd = [hardware] { hardware->processGuardEnd(); };
-    opened.services = std::move(services);
+    opened.services = std::make_unique<RampDisplayServices>(
+        std::make_unique<GuardedHardware>(std::move(*randr), xDisplay, journal, runLoop),
+        std::move(profiles), &runLoop);
+    opened.listening = server->onLoss(surroundings.lost);
     logInfo(kLogDisplays, "Displays are those of the X server " + xDisplay + ".");
     return opened;
 }
 
 constexpr const char* kEdidDirectory = "/sys/class/drm";
 
-OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection, RunLoop& runLoop) {
+OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection, RunLoop& runLoop,
+                           std::function<void()> lost) {
     OpenedDisplays opened;
     WaylandConnection* compositor = connection.get(); // lives as long as the services
     auto services = std::make_unique<RampDisplayServices>(
         std::make_unique<WlrHardware>(std::move(connection), kEdidDirectory), nullptr, &runLoop);
-    opened.eventDescriptors = {compositor->descriptor()};
-    opened.processEvents = [displays = services.get()] { displays->lookForChanges(); };
-    opened.connectionLost = [compositor] { return compositor->isLost(); };
+    opened.listening = runLoop.watch(
+        compositor->descriptor(), [displays = services.get(), compositor, lost = std::move(lost)] {
+            displays->lookForChanges();
+            if (compositor->isLost()) {
+                lost();
+            }
+        });
     opened.services = std::move(services);
     logInfo(kLogDisplays, "Displays are those of a Wayland compositor with wlr-gamma-control.");
     return opened;
@@ -87,7 +94,7 @@ Result<OpenedDisplays> openWayland(const DisplaySurroundings& surroundings, RunL
             translated("%@ offers Nocturo no way to change the colors of displays under Wayland.",
                        {desktop.empty() ? translated("This desktop") : desktop}));
     }
-    return wlrDisplays(std::move(compositor), runLoop);
+    return wlrDisplays(std::move(compositor), runLoop, surroundings.lost);
 }
 
 OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surroundings) {

@@ -10,11 +10,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace nocturo {
 
+class Bus;
 class RunLoop;
+class XConnection;
 
 /// Which display services the user wants.
 struct DisplayChoice {
@@ -24,30 +25,26 @@ struct DisplayChoice {
     unsigned simulatedCount = 2;
 };
 
-/// Reads "auto", "randr", "wlr", "simulated" or "simulated:N" with N from 1 to 16; nothing for all else.
+/// Reads "auto", "randr", "wlr", "simulated" or "simulated:N" with N from 1 to 16; nothing for all
+/// else.
 std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 
-/// What the factory takes from the process's surroundings.
+/// What the factory takes from the process's surroundings; all of it outlives what is opened.
 struct DisplaySurroundings {
-    std::string xDisplay;       // $DISPLAY; empty when not set
-    std::string waylandDisplay; // $WAYLAND_DISPLAY; empty when not set
-    std::string desktop;        // $XDG_CURRENT_DESKTOP; empty when not set
+    std::string xDisplay;           // $DISPLAY; empty when not set
+    XConnection* xServer = nullptr; // null when it cannot be reached
+    std::string waylandDisplay;     // $WAYLAND_DISPLAY; empty when not set
+    std::string desktop;            // $XDG_CURRENT_DESKTOP; empty when not set
     std::filesystem::path runtimeDirectory;
-    std::string systemBusAddress;
-    DrawPicture drawPicture; // of simulated displays
+    Bus* systemBus = nullptr;   // null when there is none
+    DrawPicture drawPicture;    // of simulated displays
+    std::function<void()> lost; // called when the displays' server has gone: nothing works any more
 };
 
-/// Display services with their place in an event loop.
 struct OpenedDisplays {
     std::unique_ptr<DisplayServices> services;
-    std::string notice; // one sentence for a user who may want it; may be empty
-
-    std::vector<int> eventDescriptors;    // none when nothing ever comes from outside
-    std::function<void()> processEvents;  // to be called when one of them is readable
-    std::function<bool()> connectionLost; // true once the server has gone: nothing works any more
-
-    int guardEndDescriptor = -1;           // -1 where the displays need no guard
-    std::function<void()> processGuardEnd; // to be called when that descriptor is readable
+    std::string notice;                    // one sentence for a user who may want it; may be empty
+    std::shared_ptr<const void> listening; // keeps them in the event loop
 };
 
 /// Opens what was chosen, and logs it; the problem is a sentence for the user. The run loop must

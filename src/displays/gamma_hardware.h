@@ -4,6 +4,7 @@
 #include "displays/ramp.h"
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -36,6 +37,10 @@ class GammaHardware {
     /// A number that differs from the one before whenever the heads may have changed since. Cheap:
     /// asked before every use of the list.
     virtual std::uint64_t topologyGeneration() = 0;
+
+    /// Has `look` called from the event loop when that number may be another, for hardware that
+    /// hears of changes.
+    virtual void whenChanged(std::function<void()> /*look*/) {}
 
     /// The heads that are on, in a stable order; false when they cannot be listed.
     virtual bool listHeads(std::vector<Head>& heads) = 0;

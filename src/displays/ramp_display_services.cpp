@@ -48,6 +48,10 @@ RampDisplayServices::RampDisplayServices(std::unique_ptr<GammaHardware> hardware
     profilesChanged_.clear();
     if (runLoop_ != nullptr) {
         settler_.emplace(*runLoop_, [this] { tellSettledChanges(); });
+        hardware_->whenChanged([this] { lookForChanges(); });
+        if (calibrations_ != nullptr) {
+            calibrations_->whenChanged([this] { lookForChanges(); });
+        }
     }
     noteWhatCameAlong();
 }

@@ -47,8 +47,7 @@ class RampDisplayServices : public DisplayServices {
     void restoreSystemColors() override;
     void setChangeHandler(std::function<void(const DisplayChanges&)> handler) override;
 
-    /// Looks whether anything changed; for the event loop, when hardware or profiles have something
-    /// to say. What comes along while another member is used is found without it.
+    /// Looks whether anything changed, for hardware that does not say by itself.
     void lookForChanges();
 
   private:

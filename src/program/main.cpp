@@ -1,4 +1,3 @@
-#include "base/bus.h"
 #include "base/event_loop.h"
 #include "base/log.h"
 #include "base/program_watch.h"
@@ -14,6 +13,7 @@
 #include "settings/defaults_store.h"
 #include "settings/settings_keeper.h"
 #include "x11/startup_notification.h"
+#include "x11/x_connection.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -87,11 +87,15 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     const auto settingsWatch =
         loop.watch(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
+    const auto server = XConnection::open(xDisplayName());
+    if (server != nullptr) {
+        server->join(loop);
+    }
     Result<OpenedDisplays> opened =
         openDisplays(options.displays,
-                     {xDisplayName(), waylandDisplayName(), desktopName(), *directory,
-                      systemBusAddress(), drawTestCard},
-                     core.runLoop);
+                     {xDisplayName(), server.get(), waylandDisplayName(), desktopName(), *directory,
+                      core.systemBus.get(), drawTestCard, [&] { loop.quit(kFailure); }},
+                     loop);
     if (!opened) {
         tell(stderr, opened.error().text);
         return kFailure;
@@ -99,7 +103,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     if (!opened->notice.empty()) {
         tell(stdout, opened->notice);
     }
-    const ConnectedDisplays displays(std::move(*opened), core.centers, loop, kFailure);
+    const ConnectedDisplays displays(std::move(*opened), core.centers);
 
     DesktopSession desktop(core, displays);
     desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });

@@ -1,6 +1,8 @@
 // Displays with colour profiles, assigned as desktops do: on the root window, and through a real
 // colord. Switching off and ending leave each display at its calibration, to the last bit.
 
+#include "base/bus.h"
+#include "base/event_loop.h"
 #include "displays/calibration/profile_calibrations.h"
 #include "nocturo_test.h"
 #include "rig/color_profile.h"
@@ -56,7 +58,9 @@ TEST_F(ColorProfiles, CostNothingWhenTheSystemBusIsSilent) {
     const std::string address = bus->readLine().value_or("");
     bus->signal(SIGSTOP); // the kernel still takes connections for it
     const auto before = std::chrono::steady_clock::now();
-    ProfileCalibrations profiles("", address);
+    EventLoop loop;
+    const auto silent = Bus::connect(address, loop);
+    ProfileCalibrations profiles(nullptr, silent.get());
     EXPECT_FALSE(profiles.calibration("DUMMY0", 256).settled);
     EXPECT_LT(std::chrono::steady_clock::now() - before, Milliseconds(200));
     EXPECT_FALSE(profiles.waitForAnswers(Milliseconds(10)));

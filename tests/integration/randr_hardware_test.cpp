@@ -24,7 +24,7 @@ class RandrHardwareTest : public testing::Test {
     /// Waits for the server to say that something is other than heads() told.
     bool generationMovesOn() {
         return rig::waitUntil([&] {
-            pollfd source{hardware->descriptor(), POLLIN, 0};
+            pollfd source{connection->descriptor(), POLLIN, 0};
             poll(&source, 1, 10);
             return hardware->topologyGeneration() != generation;
         });
@@ -32,7 +32,8 @@ class RandrHardwareTest : public testing::Test {
 
     XServer server{3};
     rig::XClient client{server.display()};
-    std::unique_ptr<RandrHardware> hardware = RandrHardware::open(server.display()).value();
+    std::unique_ptr<XConnection> connection = XConnection::open(server.display());
+    std::unique_ptr<RandrHardware> hardware = RandrHardware::open(connection.get()).value();
     std::uint64_t generation = 0;
 };
 
@@ -82,10 +83,10 @@ TEST_F(RandrHardwareTest, listsTheLitOutputsAndReachesTheirRamps) {
     EXPECT_TRUE(hardware->writeRamp(0x7fffff, ramp));
     // The answer to a question brings everything before it along.
     EXPECT_EQ(heads().size(), 3U);
-    hardware->processEvents();
+    connection->processEvents();
     setLogSink([](LogLevel, std::string_view, std::string_view) {});
     EXPECT_EQ(warnings, 1);
-    EXPECT_FALSE(hardware->connectionLost());
+    EXPECT_FALSE(connection->isLost());
 }
 
 TEST_F(RandrHardwareTest, noticesEveryChangeAndTheServersEnd) {
@@ -114,14 +115,15 @@ TEST_F(RandrHardwareTest, noticesEveryChangeAndTheServersEnd) {
     std::vector<Head> none = heads();
     server.kill();
     EXPECT_TRUE(generationMovesOn());
-    EXPECT_TRUE(hardware->connectionLost());
+    EXPECT_TRUE(connection->isLost());
     Ramp ramp(256);
     EXPECT_FALSE(hardware->writeRamp(before[0].crtc, ramp));
     EXPECT_FALSE(hardware->readRamp(before[0].crtc, ramp));
     EXPECT_FALSE(hardware->listHeads(none));
     EXPECT_TRUE(none.empty());
     for (const std::string& display : {server.display(), std::string()}) {
-        EXPECT_EQ(RandrHardware::open(display).error(), RandrRefusal::unreachable);
+        const auto unreached = XConnection::open(display);
+        EXPECT_EQ(RandrHardware::open(unreached.get()).error(), RandrRefusal::unreachable);
     }
 }
 

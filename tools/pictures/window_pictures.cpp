@@ -105,9 +105,9 @@ int run(const QStringList& arguments) {
     NDAppController controller(defaults, centers, runLoop);
     AppWindows windows(controller, defaults, centers);
     controller.setUserInterface(&windows);
-    const auto displays =
-        openDisplays(*parseDisplayChoice("simulated:2"),
-                     {"", "", "", *runtimeDirectory(), "", writeTestCard}, runLoop);
+    const auto displays = openDisplays(
+        *parseDisplayChoice("simulated:2"),
+        {"", nullptr, "", "", *runtimeDirectory(), nullptr, writeTestCard, {}}, runLoop);
     setDisplayServices(displays->services.get());
     NDGroupEffect::effect();
     if (arguments[1] == QLatin1String("preferences")) {

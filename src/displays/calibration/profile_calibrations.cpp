@@ -3,18 +3,13 @@
 #include "base/log.h"
 #include "displays/calibration/profile_file.h"
 
-#include <algorithm>
 #include <utility>
-
-#include <poll.h>
 
 namespace nocturo {
 
-ProfileCalibrations::ProfileCalibrations(const std::string& xDisplay,
-                                         const std::string& systemBusAddress)
-    : colord_(systemBusAddress) {
-    if (!xDisplay.empty()) {
-        rootProfiles_ = RootProfiles::open(xDisplay);
+ProfileCalibrations::ProfileCalibrations(XConnection* server, Bus* systemBus) : colord_(systemBus) {
+    if (server != nullptr) {
+        rootProfiles_.emplace(*server);
     }
 }
 
@@ -30,7 +25,7 @@ CalibrationAnswer ProfileCalibrations::calibration(const std::string& connector,
         }
         refuse(assigned.file, found.error());
     }
-    if (rootProfiles_ != nullptr) {
+    if (rootProfiles_) {
         if (const auto profile = rootProfiles_->profileOf(connector)) {
             auto found = readCalibration(profile->bytes, rampSize);
             if (found) {
@@ -43,34 +38,18 @@ CalibrationAnswer ProfileCalibrations::calibration(const std::string& connector,
 }
 
 std::uint64_t ProfileCalibrations::generation() {
-    return colord_.generation() + (rootProfiles_ != nullptr ? rootProfiles_->generation() : 0);
+    return colord_.generation() + (rootProfiles_ ? rootProfiles_->generation() : 0);
 }
 
-std::vector<int> ProfileCalibrations::descriptors() const {
-    std::vector<int> all;
-    if (colord_.descriptor() >= 0) {
-        all.push_back(colord_.descriptor());
+void ProfileCalibrations::whenChanged(std::function<void()> look) {
+    if (rootProfiles_) {
+        rootProfiles_->whenChanged(look);
     }
-    if (rootProfiles_ != nullptr) {
-        all.push_back(rootProfiles_->descriptor());
-    }
-    return all;
+    colord_.whenChanged(std::move(look));
 }
 
 bool ProfileCalibrations::waitForAnswers(std::chrono::milliseconds patience) {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
-    colord_.generation();
-    while (!colord_.isSettled()) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(
-            deadline - std::chrono::steady_clock::now());
-        if (left.count() <= 0) {
-            return false;
-        }
-        pollfd source{colord_.descriptor(), POLLIN, 0};
-        poll(&source, 1, static_cast<int>(left.count()));
-        colord_.generation();
-    }
-    return true;
+    return colord_.waitUntilSettled(patience);
 }
 
 void ProfileCalibrations::refuse(const std::string& what, const Problem& problem) {

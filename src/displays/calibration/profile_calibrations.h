@@ -7,11 +7,10 @@
 
 #include <chrono>
 #include <cstdint>
-#include <memory>
+#include <functional>
+#include <optional>
 #include <set>
-#include <span>
 #include <string>
-#include <vector>
 
 namespace nocturo {
 
@@ -20,22 +19,19 @@ namespace nocturo {
 /// looked at.
 class ProfileCalibrations final : public CalibrationSource {
   public:
-    /// A display name such as ":0" or an empty one, and a D-Bus address. What cannot be reached has
-    /// no profiles.
-    ProfileCalibrations(const std::string& xDisplay, const std::string& systemBusAddress);
+    /// Null for what cannot be reached, which has no profiles. Both must outlive this.
+    ProfileCalibrations(XConnection* server, Bus* systemBus);
 
     CalibrationAnswer calibration(const std::string& connector, std::uint32_t rampSize) override;
     std::uint64_t generation() override;
+    void whenChanged(std::function<void()> look) override;
     bool waitForAnswers(std::chrono::milliseconds patience) override;
-
-    /// Descriptors that are readable when generation() should be asked. They stay this object's.
-    std::vector<int> descriptors() const;
 
   private:
     void refuse(const std::string& what, const Problem& problem);
 
     ColordProfiles colord_;
-    std::unique_ptr<RootProfiles> rootProfiles_; // may be null
+    std::optional<RootProfiles> rootProfiles_;
     std::set<std::string> refused_;
 };
 

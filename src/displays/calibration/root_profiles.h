@@ -1,22 +1,24 @@
 #pragma once
 
-#include "x11/xcb_handles.h"
+#include "x11/x_connection.h"
 
 #include <array>
 #include <cstdint>
-#include <memory>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace nocturo {
 
 /// The colour profiles that X desktops leave on the root window: `_ICC_PROFILE` for the first
-/// monitor, `_ICC_PROFILE_1` for the second, and so on in the server's order of monitors.
+/// monitor, `_ICC_PROFILE_1` for the second, and so on in the server's order of monitors. There are
+/// none where the server has no RandR 1.5.
 class RootProfiles {
   public:
-    /// On a connection of its own; null when the server cannot be reached or has no RandR 1.5.
-    static std::unique_ptr<RootProfiles> open(const std::string& displayName);
+    /// Asks the server ahead, without waiting. The connection must outlive this.
+    explicit RootProfiles(XConnection& connection);
 
     struct Profile {
         std::string property;
@@ -26,24 +28,25 @@ class RootProfiles {
     /// Nothing when none is there for the monitor on that connector.
     std::optional<Profile> profileOf(const std::string& connector);
 
-    /// Another number than before whenever a profile may have changed since. Takes in what the
-    /// server has sent.
+    /// Another number than before whenever a profile may have changed since.
     std::uint64_t generation();
 
-    /// Readable when the server sent something, and when it is gone.
-    int descriptor() const;
+    /// Has `look` called from the event loop when that number may be another.
+    void whenChanged(std::function<void()> look) { look_ = std::move(look); }
 
   private:
     static constexpr std::size_t kMaxMonitors = 16;
 
-    RootProfiles(XcbConnection connection, std::uint32_t root);
-
+    void prepare();
+    bool isProfile(xcb_atom_t property) const;
     bool anyThere() const;
     std::optional<std::size_t> monitorOf(const std::string& connector) const;
 
-    XcbConnection connection_;
-    std::uint32_t root_ = 0;
-    std::array<std::uint32_t, kMaxMonitors> atoms_{}; // by monitor
+    XConnection& connection_;
+    std::vector<XListener> listeners_; // none until it is prepared
+    std::function<void()> look_;
+    bool hasMonitors_ = false;
+    std::array<xcb_atom_t, kMaxMonitors> atoms_{}; // by monitor
     std::uint64_t generation_ = 1;
 };
 

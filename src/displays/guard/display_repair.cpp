@@ -14,8 +14,7 @@
 // A killed program's last requests may still wait in the server. They would undo a repair that came
 // before them, so the server's destruction of that program's window is waited for. And while one
 // repairs nobody else may start to change the displays: the server is grabbed meanwhile. What is to
-// be written is found out before that, because a source of calibrations has a connection of its
-// own.
+// be written is found out before that, because a source of calibrations may take its time.
 
 namespace nocturo {
 
@@ -101,7 +100,7 @@ Repair repairMarked(RandrHardware& hardware, const std::filesystem::path& file, 
     }
     const Repair repair = writeBack(hardware, file, known);
     mark.remove();
-    mark.synchronize();
+    hardware.connection().synchronize();
     std::error_code ignored;
     std::filesystem::remove(file, ignored);
     return repair;

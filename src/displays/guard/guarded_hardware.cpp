@@ -29,15 +29,16 @@ std::uint64_t randomToken() {
 } // namespace
 
 GuardedHardware::GuardedHardware(std::unique_ptr<RandrHardware> hardware, std::string displayName,
-                                 std::filesystem::path journalFile)
+                                 std::filesystem::path journalFile, RunLoop& runLoop)
     : hardware_(std::move(hardware)), displayName_(std::move(displayName)),
       journalFile_(std::move(journalFile)),
       mark_(hardware_->connection()), ownMark_{randomToken(), mark_.createWindow()},
+      guardsEnd_(runLoop.watch(guard_.endDescriptor(), [this] { replaceEndedGuard(); })),
       startsLeft_(kMostStarts) {}
 
 GuardedHardware::~GuardedHardware() {
     // With its server a ramp has gone as well.
-    if (!isAnyChanged() || hardware_->connectionLost()) {
+    if (!isAnyChanged() || hardware_->connection().isLost()) {
         waitForWrites();
         std::error_code ignored;
         std::filesystem::remove(journalFile_, ignored);
@@ -75,9 +76,9 @@ void GuardedHardware::waitForWrites() {
     hardware_->waitForWrites();
 }
 
-void GuardedHardware::processGuardEnd() {
+void GuardedHardware::replaceEndedGuard() {
     // The server's end is the guard's as well, and may be told later.
-    if (guard_.takeEnd() && isMarked_ && !hasHungUp(hardware_->descriptor())) {
+    if (guard_.takeEnd() && isMarked_ && !hasHungUp(hardware_->connection().descriptor())) {
         startGuard();
     }
 }

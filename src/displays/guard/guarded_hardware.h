@@ -1,15 +1,18 @@
 #pragma once
 
+#include "base/run_loop.h"
 #include "displays/guard/guard_process.h"
 #include "displays/guard/journal.h"
 #include "displays/guard/server_mark.h"
 #include "displays/x11/randr_hardware.h"
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace nocturo {
 
@@ -21,14 +24,18 @@ namespace nocturo {
 /// Displays that were left changed are to be repaired before one is made.
 class GuardedHardware final : public GammaHardware {
   public:
+    /// The loop must outlive it.
     GuardedHardware(std::unique_ptr<RandrHardware> hardware, std::string displayName,
-                    std::filesystem::path journalFile);
+                    std::filesystem::path journalFile, RunLoop& runLoop);
 
     /// Ends the guard. It gives back what was not given back until now.
     ~GuardedHardware() override;
 
     std::string_view name() const override { return hardware_->name(); }
     std::uint64_t topologyGeneration() override { return hardware_->topologyGeneration(); }
+    void whenChanged(std::function<void()> look) override {
+        hardware_->whenChanged(std::move(look));
+    }
     bool listHeads(std::vector<Head>& heads) override { return hardware_->listHeads(heads); }
     void expectReads(std::span<const std::uint32_t> crtcs) override {
         hardware_->expectReads(crtcs);
@@ -40,12 +47,6 @@ class GuardedHardware final : public GammaHardware {
     void keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) override;
     void waitForWrites() override;
 
-    RandrHardware& displays() { return *hardware_; }
-
-    /// Readable when the guard has ended, which is to be answered with processGuardEnd().
-    int guardEndDescriptor() const { return guard_.endDescriptor(); }
-    void processGuardEnd();
-
   private:
     struct Crtc {
         Ramp system;
@@ -55,6 +56,7 @@ class GuardedHardware final : public GammaHardware {
     bool isAnyChanged() const;
     void protect();
     void startGuard();
+    void replaceEndedGuard();
     void storeJournal();
 
     std::unique_ptr<RandrHardware> hardware_;
@@ -63,6 +65,7 @@ class GuardedHardware final : public GammaHardware {
     ServerMark mark_;
     ServerMark::Content ownMark_;
     GuardProcess guard_;
+    std::unique_ptr<Watch> guardsEnd_;
     std::map<std::uint32_t, Crtc> crtcs_;
     bool journalIsStale_ = true;
     bool isMarked_ = false;

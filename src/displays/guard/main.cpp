@@ -24,12 +24,12 @@ constexpr int kFailed = 1;
 constexpr int kUsage = 2;
 
 // Waits for Nocturo to end, or for the server, with which the ramps go; true for Nocturo.
-bool waitForNocturo(RandrHardware& hardware) {
+bool waitForNocturo(XConnection& connection) {
     std::array<pollfd, 2> sources{
-        {{kGuardDescriptor, POLLIN, 0}, {hardware.descriptor(), POLLIN, 0}}};
+        {{kGuardDescriptor, POLLIN, 0}, {connection.descriptor(), POLLIN, 0}}};
     while (sources[0].revents == 0) {
-        hardware.processEvents();
-        if (hardware.connectionLost()) {
+        connection.processEvents();
+        if (connection.isLost()) {
             return false;
         }
         poll(sources.data(), sources.size(), -1);
@@ -39,11 +39,12 @@ bool waitForNocturo(RandrHardware& hardware) {
 
 // Says nothing of a server that cannot be reached: Nocturo cannot reach it either, and says so.
 int guard(const std::string& display, const char* journal, const ServerMark::Content& nocturo) {
-    const auto hardware = RandrHardware::open(display);
+    const auto connection = XConnection::open(display);
+    const auto hardware = RandrHardware::open(connection.get());
     if (!hardware) {
         return kFailed;
     }
-    if (waitForNocturo(**hardware)) {
+    if (waitForNocturo(*connection)) {
         repairDisplaysAfter(nocturo, **hardware, journal);
     }
     return kDone;

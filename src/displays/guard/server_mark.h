@@ -1,6 +1,6 @@
 #pragma once
 
-#include "x11/xcb_handles.h"
+#include "x11/x_connection.h"
 
 #include <chrono>
 #include <cstdint>
@@ -21,7 +21,10 @@ class ServerMark {
     };
 
     /// The connection must outlive the mark.
-    explicit ServerMark(xcb_connection_t* connection);
+    explicit ServerMark(XConnection& connection);
+
+    /// Asks the server ahead for what a mark needs to know.
+    static void expect(XConnection& connection);
 
     /// Nothing where there is no mark, and when the server has gone.
     std::optional<Content> read();
@@ -32,16 +35,13 @@ class ServerMark {
     /// A window that nobody sees, for a Content of one's own. 0 when the server has gone.
     std::uint32_t createWindow();
 
-    /// False when the window has gone. Events that arrive in the meantime are lost.
+    /// False when the window has gone.
     bool isAlive(std::uint32_t window);
 
     /// Waits for the window to go or for the mark to be removed; false when that did not come in
-    /// time. Events that arrive in the meantime are lost.
+    /// time.
     bool waitUntilGone(std::uint32_t window, std::chrono::milliseconds patience);
     bool waitUntilRemoved(std::chrono::milliseconds patience);
-
-    /// Returns once the server has done all that was sent.
-    void synchronize();
 
     /// While it exists the server serves no other connection.
     class Grab {
@@ -56,10 +56,7 @@ class ServerMark {
     };
 
   private:
-    template <class Condition>
-    bool waitForEvent(Condition isTheOne, std::chrono::milliseconds patience);
-
-    xcb_connection_t* connection_;
+    XConnection& connection_;
     std::uint32_t root_ = 0;
     std::uint32_t property_ = 0;
 };

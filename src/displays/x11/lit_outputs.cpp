@@ -3,6 +3,7 @@
 #include "x11/xcb_handles.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <xcb/randr.h>
 
@@ -42,6 +43,45 @@ struct ScreenQuery {
         }
     }
 
+    /// Takes in the answers.
+    void collect(xcb_connection_t* connection, bool isFirst, FoundOutputs& found) {
+        std::vector<XcbReply<xcb_randr_get_output_info_reply_t>> outputInfos;
+        for (const auto cookie : outputCookies) {
+            outputInfos.emplace_back(xcb_randr_get_output_info_reply(connection, cookie, nullptr));
+        }
+        for (const auto cookie : crtcCookies) {
+            crtcInfos.emplace_back(xcb_randr_get_crtc_info_reply(connection, cookie, nullptr));
+        }
+        for (std::size_t i = 0; i < outputInfos.size(); ++i) {
+            // An output may have vanished between the questions.
+            if (const auto* info = outputInfos[i].get()) {
+                take(*info, outputs()[i], isFirst, found);
+            }
+        }
+    }
+
+    void take(const xcb_randr_get_output_info_reply_t& info, xcb_randr_output_t output,
+              bool isFirst, FoundOutputs& found) const {
+        std::string name = outputName(info);
+        // Servers before 23.1 have no extension that tells, but name their outputs so.
+        found.ofWaylandGuest = found.ofWaylandGuest || name.starts_with("XWAYLAND");
+        const auto* crtc = litCrtc(info.crtc);
+        if (crtc == nullptr) {
+            return;
+        }
+        if (info.connection == XCB_RANDR_CONNECTION_DISCONNECTED) {
+            found.unplugged.push_back(output);
+            return;
+        }
+        const bool isPrimary = isFirst && primary && primary->output == output;
+        const DisplayRect bounds{double(crtc->x), double(crtc->y), double(crtc->width),
+                                 double(crtc->height)};
+        found.lit.push_back({output,
+                             {std::move(name), {}, info.crtc, 0, bounds, isPrimary},
+                             crtc->mode,
+                             crtc->rotation});
+    }
+
     /// The CRTC when it shows something, else null.
     const xcb_randr_get_crtc_info_reply_t* litCrtc(xcb_randr_crtc_t crtc) const {
         const auto* crtcs = xcb_randr_get_screen_resources_current_crtcs(resources.get());
@@ -57,31 +97,8 @@ struct ScreenQuery {
 
 } // namespace
 
-// Servers before 23.1 have no extension that tells, but name their outputs after themselves.
-bool isWaylandGuest(xcb_connection_t* connection, std::uint32_t root) {
-    ScreenQuery query;
-    query.resources.reset(xcb_randr_get_screen_resources_current_reply(
-        connection, xcb_randr_get_screen_resources_current(connection, root), nullptr));
-    if (!query.resources) {
-        return false;
-    }
-    query.askForDetails(connection);
-    bool guest = false;
-    for (const auto cookie : query.outputCookies) {
-        const XcbReply<xcb_randr_get_output_info_reply_t> info(
-            xcb_randr_get_output_info_reply(connection, cookie, nullptr));
-        guest = guest || (info && outputName(*info).starts_with("XWAYLAND"));
-    }
-    for (const auto cookie : query.crtcCookies) {
-        xcb_discard_reply(connection, cookie.sequence);
-    }
-    return guest;
-}
-
-bool findLitOutputs(xcb_connection_t* connection, std::span<const std::uint32_t> roots,
-                    std::vector<LitOutput>& lit, std::vector<std::uint32_t>& unplugged) {
-    lit.clear();
-    unplugged.clear();
+FoundOutputs findOutputs(xcb_connection_t* connection, std::span<const xcb_window_t> roots) {
+    FoundOutputs found;
     std::vector<ScreenQuery> screens(roots.size());
     for (std::size_t i = 0; i < roots.size(); ++i) {
         screens[i].resourcesCookie = xcb_randr_get_screen_resources_current(connection, roots[i]);
@@ -96,44 +113,16 @@ bool findLitOutputs(xcb_connection_t* connection, std::span<const std::uint32_t>
         complete = complete && screen.resources;
     }
     if (!complete) {
-        return false;
+        return found;
     }
+    found.complete = true;
     for (auto& screen : screens) {
         screen.askForDetails(connection);
     }
-
     for (auto& screen : screens) {
-        std::vector<XcbReply<xcb_randr_get_output_info_reply_t>> outputInfos;
-        for (const auto cookie : screen.outputCookies) {
-            outputInfos.emplace_back(xcb_randr_get_output_info_reply(connection, cookie, nullptr));
-        }
-        for (const auto cookie : screen.crtcCookies) {
-            screen.crtcInfos.emplace_back(
-                xcb_randr_get_crtc_info_reply(connection, cookie, nullptr));
-        }
-        for (std::size_t i = 0; i < outputInfos.size(); ++i) {
-            // An output may have vanished between the questions.
-            const auto* info = outputInfos[i].get();
-            const auto* crtc = info ? screen.litCrtc(info->crtc) : nullptr;
-            if (!crtc) {
-                continue;
-            }
-            const auto output = screen.outputs()[i];
-            if (info->connection == XCB_RANDR_CONNECTION_DISCONNECTED) {
-                unplugged.push_back(output);
-                continue;
-            }
-            const bool primary =
-                &screen == &screens.front() && screen.primary && screen.primary->output == output;
-            const DisplayRect bounds{double(crtc->x), double(crtc->y), double(crtc->width),
-                                     double(crtc->height)};
-            lit.push_back({output,
-                           {outputName(*info), {}, info->crtc, 0, bounds, primary},
-                           crtc->mode,
-                           crtc->rotation});
-        }
+        screen.collect(connection, &screen == &screens.front(), found);
     }
-    return true;
+    return found;
 }
 
 } // namespace nocturo

@@ -18,13 +18,16 @@ struct LitOutput {
     std::uint16_t rotation = 0;
 };
 
-/// Lists the outputs of all screens, that of the primary one first among `roots`, that show
-/// something: those with a monitor, and the identifiers of those without. False when the server
-/// does not answer. It takes two round trips however many outputs there are.
-bool findLitOutputs(xcb_connection_t* connection, std::span<const std::uint32_t> roots,
-                    std::vector<LitOutput>& lit, std::vector<std::uint32_t>& unplugged);
+/// The outputs of all screens.
+struct FoundOutputs {
+    bool complete = false;      // false, and nothing else, when the server does not answer
+    std::vector<LitOutput> lit; // that show something and have a monitor
+    std::vector<std::uint32_t> unplugged; // identifiers of those that have none
+    bool ofWaylandGuest = false;          // they are Xwayland's
+};
 
-/// Whether the outputs of a screen are those of Xwayland.
-bool isWaylandGuest(xcb_connection_t* connection, std::uint32_t root);
+/// Lists the outputs of screens, the primary one being that of the first. It takes two round trips
+/// however many outputs there are.
+FoundOutputs findOutputs(xcb_connection_t* connection, std::span<const xcb_window_t> roots);
 
 } // namespace nocturo

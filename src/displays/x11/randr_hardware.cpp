@@ -40,151 +40,142 @@ void makeConnectorUnique(const std::vector<Head>& others, std::string& connector
 
 } // namespace
 
-Result<std::unique_ptr<RandrHardware>, RandrRefusal>
-RandrHardware::open(const std::string& displayName) {
-    if (displayName.empty()) {
+Result<std::unique_ptr<RandrHardware>, RandrRefusal> RandrHardware::open(XConnection* connection) {
+    if (connection == nullptr || connection->isLost()) {
         return tl::unexpected(RandrRefusal::unreachable);
     }
-    int preferredScreen = 0;
-    XcbConnection connection(xcb_connect(displayName.c_str(), &preferredScreen));
-    auto* raw = connection.get();
-    if (xcb_connection_has_error(raw)) {
-        return tl::unexpected(RandrRefusal::unreachable);
-    }
-
+    auto* raw = connection->handle();
     xcb_prefetch_maximum_request_length(raw);
     xcb_prefetch_extension_data(raw, &xcb_randr_id);
     const auto guestCookie = xcb_query_extension(raw, 8, "XWAYLAND");
-    const auto edidCookie = xcb_intern_atom(raw, false, 4, "EDID");
+    std::unique_ptr<RandrHardware> hardware(new RandrHardware(*connection));
     const XcbReply<xcb_query_extension_reply_t> guest(
         xcb_query_extension_reply(raw, guestCookie, nullptr));
-    const XcbReply<xcb_intern_atom_reply_t> edid(xcb_intern_atom_reply(raw, edidCookie, nullptr));
-
     const auto* extension = xcb_get_extension_data(raw, &xcb_randr_id);
     if (!extension || !extension->present) {
         return tl::unexpected(RandrRefusal::noRandr);
     }
+
+    // The outputs are asked for along with the version, so that opening costs no more than listing.
+    const auto versionCookie = xcb_randr_query_version(raw, 1, 5);
+    hardware->listen(extension->first_event, extension->major_opcode);
+    hardware->subscribe(0);
+    FoundOutputs found = findOutputs(raw, connection->roots());
     const XcbReply<xcb_randr_query_version_reply_t> version(
-        xcb_randr_query_version_reply(raw, xcb_randr_query_version(raw, 1, 5), nullptr));
+        xcb_randr_query_version_reply(raw, versionCookie, nullptr));
     const auto revision = [](auto major, auto minor) { return std::pair(major, minor); };
     if (!version || revision(version->major_version, version->minor_version) < revision(1u, 3u)) {
         return tl::unexpected(RandrRefusal::noRandr);
     }
-
-    std::unique_ptr<RandrHardware> hardware(
-        new RandrHardware(std::move(connection), preferredScreen));
-    if ((guest && guest->present) || isWaylandGuest(raw, hardware->roots_.front())) {
+    if ((guest && guest->present) || found.ofWaylandGuest) {
         return tl::unexpected(RandrRefusal::waylandGuest);
     }
-    if (edid) {
-        hardware->edidAtom_ = edid->atom;
+    if (revision(version->major_version, version->minor_version) >= revision(1u, 4u)) {
+        hardware->subscribe(XCB_RANDR_NOTIFY_MASK_RESOURCE_CHANGE);
     }
-    hardware->firstEvent_ = extension->first_event;
+    hardware->found_ = std::move(found);
     hardware->maximumRequestLength_ = xcb_get_maximum_request_length(raw);
-    hardware->subscribe(revision(version->major_version, version->minor_version) >=
-                        revision(1u, 4u));
     return hardware;
 }
 
-RandrHardware::RandrHardware(XcbConnection connection, int preferredScreen)
-    : connection_(std::move(connection)) {
-    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection_.get()));
-    for (int i = 0; screens.rem > 0; ++i, xcb_screen_next(&screens)) {
-        roots_.insert(i == preferredScreen ? roots_.begin() : roots_.end(), screens.data->root);
+RandrHardware::RandrHardware(XConnection& connection)
+    : connection_(connection), edidAtom_(connection.atom("EDID")) {}
+
+void RandrHardware::subscribe(unsigned more) {
+    const unsigned mask = XCB_RANDR_NOTIFY_MASK_SCREEN_CHANGE | XCB_RANDR_NOTIFY_MASK_CRTC_CHANGE |
+                          XCB_RANDR_NOTIFY_MASK_OUTPUT_CHANGE |
+                          XCB_RANDR_NOTIFY_MASK_OUTPUT_PROPERTY | more;
+    for (const auto root : connection_.roots()) {
+        xcb_randr_select_input(connection_.handle(), root, static_cast<std::uint16_t>(mask));
     }
+    xcb_flush(connection_.handle());
 }
 
-void RandrHardware::subscribe(bool withResourceChanges) {
-    unsigned mask = XCB_RANDR_NOTIFY_MASK_SCREEN_CHANGE | XCB_RANDR_NOTIFY_MASK_CRTC_CHANGE |
-                    XCB_RANDR_NOTIFY_MASK_OUTPUT_CHANGE | XCB_RANDR_NOTIFY_MASK_OUTPUT_PROPERTY;
-    if (withResourceChanges) {
-        mask |= XCB_RANDR_NOTIFY_MASK_RESOURCE_CHANGE;
+void RandrHardware::listen(std::uint8_t firstEvent, std::uint8_t majorOpcode) {
+    const unsigned screenChange = firstEvent + unsigned{XCB_RANDR_SCREEN_CHANGE_NOTIFY};
+    const unsigned notify = firstEvent + unsigned{XCB_RANDR_NOTIFY};
+    listeners_ = {
+        connection_.noteEvent(
+            0, [this, majorOpcode](const auto& event) { noteError(event, majorOpcode); }),
+        connection_.noteEvent(screenChange, [this](const auto&) { ++generation_; }),
+        connection_.noteEvent(notify, [this](const auto& event) { noteChange(event); }),
+    };
+    for (const unsigned type : {screenChange, notify}) {
+        listeners_.push_back(connection_.onEvent(type, [this](const auto&) {
+            if (look_) {
+                look_();
+            }
+        }));
     }
-    for (const auto root : roots_) {
-        xcb_randr_select_input(connection_.get(), root, static_cast<std::uint16_t>(mask));
-    }
-    xcb_flush(connection_.get());
 }
 
 std::uint64_t RandrHardware::topologyGeneration() {
-    processEvents();
-    return generation_;
-}
-
-int RandrHardware::descriptor() const {
-    return xcb_get_file_descriptor(connection_.get());
-}
-
-bool RandrHardware::connectionLost() const {
-    return xcb_connection_has_error(connection_.get()) != 0;
-}
-
-void RandrHardware::processEvents() {
-    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
-        handle(*event);
-    }
-    if (connectionLost() && !lossCounted_) {
+    connection_.takeIn();
+    if (connection_.isLost() && !lossCounted_) {
         lossCounted_ = true;
         ++generation_;
     }
+    return generation_;
 }
 
-void RandrHardware::handle(const xcb_generic_event_t& event) {
-    const unsigned type = event.response_type & 0x7fu;
-    if (type == 0) {
-        const auto& error = reinterpret_cast<const xcb_generic_error_t&>(event);
-        if (!refusalLogged_) {
-            logWarning(kLogDisplays,
-                       "The X server refused to change the colours of a display (X error " +
-                           std::to_string(error.error_code) + ").");
-        }
-        refusalLogged_ = true;
+void RandrHardware::whenChanged(std::function<void()> look) {
+    look_ = std::move(look);
+}
+
+void RandrHardware::noteError(const xcb_generic_event_t& event, std::uint8_t majorOpcode) {
+    const auto& error = reinterpret_cast<const xcb_generic_error_t&>(event);
+    if (error.major_code != majorOpcode || error.minor_code != XCB_RANDR_SET_CRTC_GAMMA ||
+        std::exchange(refusalLogged_, true)) {
         return;
     }
-    if (type == firstEvent_ + XCB_RANDR_SCREEN_CHANGE_NOTIFY) {
-        ++generation_;
-        return;
-    }
-    if (type != firstEvent_ + static_cast<unsigned>(XCB_RANDR_NOTIFY)) {
-        return;
-    }
+    logWarning(kLogDisplays, "The X server refused to change the colours of a display (X error " +
+                                 std::to_string(error.error_code) + ").");
+}
+
+void RandrHardware::noteChange(const xcb_generic_event_t& event) {
+    const auto& change = reinterpret_cast<const xcb_randr_notify_event_t&>(event);
     // Brightness keys and the like change properties too, and say nothing about the heads.
-    const auto& notify = reinterpret_cast<const xcb_randr_notify_event_t&>(event);
-    if (notify.subCode == XCB_RANDR_NOTIFY_CRTC_CHANGE) {
-        modes_.note(notify.u.cc.crtc, notify.u.cc.mode, notify.u.cc.rotation);
+    if (change.subCode == XCB_RANDR_NOTIFY_CRTC_CHANGE) {
+        modes_.note(change.u.cc.crtc, change.u.cc.mode, change.u.cc.rotation);
     }
-    if (notify.subCode != XCB_RANDR_NOTIFY_OUTPUT_PROPERTY || notify.u.op.atom == edidAtom_) {
+    if (change.subCode != XCB_RANDR_NOTIFY_OUTPUT_PROPERTY || change.u.op.atom == edidAtom_) {
         ++generation_;
     }
 }
 
 bool RandrHardware::listHeads(std::vector<Head>& heads) {
     heads.clear();
-    std::vector<LitOutput> lit;
-    std::vector<std::uint32_t> unplugged;
-    if (!findLitOutputs(connection_.get(), roots_, lit, unplugged)) {
-        return false;
-    }
+    FoundOutputs found = takeFoundOutputs();
     // What the server knows about connections is as old as its last look, and an output that is lit
     // is more likely connected by now than not. Looking is slow: once for each that stays
     // unplugged.
     const auto confirmed = [this](std::uint32_t output) {
         return std::find(unplugged_.begin(), unplugged_.end(), output) != unplugged_.end();
     };
-    if (!std::all_of(unplugged.begin(), unplugged.end(), confirmed)) {
+    if (!std::all_of(found.unplugged.begin(), found.unplugged.end(), confirmed)) {
         makeServerLook();
-        if (!findLitOutputs(connection_.get(), roots_, lit, unplugged)) {
-            return false;
-        }
+        found = findOutputs(connection_.handle(), connection_.roots());
     }
-    unplugged_ = std::move(unplugged);
-    describe(lit, heads);
-    return !connectionLost();
+    if (!found.complete) {
+        return false;
+    }
+    unplugged_ = std::move(found.unplugged);
+    describe(found.lit, heads);
+    return !connection_.isLost();
+}
+
+// What was found while opening holds until something changes.
+FoundOutputs RandrHardware::takeFoundOutputs() {
+    const bool isNews = topologyGeneration() == kFirstGeneration && found_;
+    FoundOutputs found =
+        isNews ? std::move(*found_) : findOutputs(connection_.handle(), connection_.roots());
+    found_.reset();
+    return found;
 }
 
 void RandrHardware::makeServerLook() {
-    auto* raw = connection_.get();
-    for (const auto root : roots_) {
+    auto* raw = connection_.handle();
+    for (const auto root : connection_.roots()) {
         const auto cookie = xcb_randr_get_screen_resources(raw, root);
         const XcbReply<xcb_randr_get_screen_resources_reply_t> ignored(
             xcb_randr_get_screen_resources_reply(raw, cookie, nullptr));
@@ -192,7 +183,7 @@ void RandrHardware::makeServerLook() {
 }
 
 void RandrHardware::describe(std::vector<LitOutput>& lit, std::vector<Head>& heads) {
-    auto* raw = connection_.get();
+    auto* raw = connection_.handle();
     std::vector<xcb_randr_get_output_property_cookie_t> edidCookies;
     edidCookies.reserve(lit.size());
     for (const auto& each : lit) {
@@ -213,7 +204,7 @@ void RandrHardware::describe(std::vector<LitOutput>& lit, std::vector<Head>& hea
 }
 
 void RandrHardware::fetchGammaSizes(const std::vector<LitOutput>& lit) {
-    auto* raw = connection_.get();
+    auto* raw = connection_.handle();
     std::vector<std::pair<std::uint32_t, xcb_randr_get_crtc_gamma_size_cookie_t>> cookies;
     for (const auto& each : lit) {
         const auto crtc = each.head.crtc;
@@ -241,20 +232,21 @@ std::optional<std::uint32_t> RandrHardware::knownGammaSize(std::uint32_t crtc) c
 
 void RandrHardware::expectReads(std::span<const std::uint32_t> crtcs) {
     for (const auto& [crtc, sequence] : rampsAsked_) {
-        xcb_discard_reply(connection_.get(), sequence);
+        xcb_discard_reply(connection_.handle(), sequence);
     }
     rampsAsked_.clear();
     for (const auto crtc : crtcs) {
-        rampsAsked_.emplace_back(crtc, xcb_randr_get_crtc_gamma(connection_.get(), crtc).sequence);
+        rampsAsked_.emplace_back(crtc,
+                                 xcb_randr_get_crtc_gamma(connection_.handle(), crtc).sequence);
     }
-    xcb_flush(connection_.get());
+    xcb_flush(connection_.handle());
     // The answers arrive one by one, and waiting for them would wake the process up for each; a
     // moment later all are there.
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
 bool RandrHardware::readRamp(std::uint32_t crtc, Ramp& ramp) {
-    auto* raw = connection_.get();
+    auto* raw = connection_.handle();
     const auto asked = std::find_if(rampsAsked_.begin(), rampsAsked_.end(),
                                     [&](const auto& each) { return each.first == crtc; });
     xcb_randr_get_crtc_gamma_cookie_t cookie{};
@@ -307,14 +299,12 @@ bool RandrHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
                      part(ramp.blue.data(), channelBytes),
                      part(nullptr, (4 - bytes % 4) % 4)};
     const xcb_protocol_request_t request{5, &xcb_randr_id, XCB_RANDR_SET_CRTC_GAMMA, true};
-    auto* raw = connection_.get();
+    auto* raw = connection_.handle();
     return xcb_send_request(raw, 0, parts + 2, &request) != 0 && xcb_flush(raw) > 0;
 }
 
 void RandrHardware::waitForWrites() {
-    auto* raw = connection_.get();
-    const XcbReply<xcb_get_input_focus_reply_t> anyReply(
-        xcb_get_input_focus_reply(raw, xcb_get_input_focus(raw), nullptr));
+    connection_.synchronize();
 }
 
 } // namespace nocturo
