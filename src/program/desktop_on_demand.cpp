@@ -79,6 +79,7 @@ Result<DesktopPart*> DesktopOnDemand::load() {
         return tl::unexpected(library.error());
     }
     choosePlatform();
+    trayWatch_.reset(); // the part has one of its own
     part_ = (*library)->start(
         {loop_, controller_, defaults_, centers_, recentDocuments_, menus_, [this] {
              if (sessionIsEnding) {
@@ -229,10 +230,12 @@ void DesktopOnDemand::setStatusItemImage(bool active) {
 
 void DesktopOnDemand::setItemEmbedded(bool embedded) {
     itemEmbedded_ = embedded;
+    trayWatch_.reset();
     if (part_ != nullptr) {
         part_->setItemEmbedded(embedded);
-    } else if (embedded && !xDisplayName().empty()) {
-        partOrWarning(); // trays that embed windows are X11's
+    } else if (embedded) {
+        trayWatch_ = std::make_unique<TrayWatch>(
+            xDisplayName(), loop_, [this] { partOrWarning(); }, [] {});
     }
 }
 

@@ -9,6 +9,7 @@
 #include "bus/tray.h"
 #include "desktop/desktop_library.h"
 #include "documents/recent_documents.h"
+#include "session/tray_watch.h"
 
 #include <functional>
 #include <memory>
@@ -75,6 +76,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     AppMenus menus_;
     std::optional<LauncherMenu> launcherMenu_; // where there is a bus
     Tray tray_;
+    std::unique_ptr<TrayWatch> trayWatch_; // while there is no part to show the item in
     bool inTray_ = false;
     bool itemEmbedded_ = false;
     bool itemActive_ = false;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/menus/tray_color.h"
-#include "desktop/menus/tray_watch.h"
+#include "session/tray_watch.h"
 
 #include <QSystemTrayIcon>
 

@@ -1,10 +1,10 @@
 // Qt decides once, when the first tray icon is made or a tray asked for, which kind of tray this
 // process has, and "none" is for good. At login an application may well be there before the panel,
-// so nobody may ask Qt before there is a tray.
+// so nobody may ask Qt, or load it for that, before there is a tray.
 
-#include "desktop/menus/tray_watch.h"
+#include "session/tray_watch.h"
 
-#include <QMetaObject>
+#include "base/run_loop.h"
 
 #include <utility>
 
@@ -12,15 +12,21 @@ namespace nocturo {
 
 TrayWatch::TrayWatch(const std::string& xDisplay, RunLoop& runLoop, std::function<void()> appeared,
                      std::function<void()> missing)
-    : appeared_(std::move(appeared)), missing_(std::move(missing)) {
+    : runLoop_(runLoop), appeared_(std::move(appeared)), missing_(std::move(missing)) {
     if (!xDisplay.empty()) {
         xEvents_ = XEvents::open(xDisplay, runLoop);
     }
     if (xEvents_ != nullptr) {
         followServer();
     } else {
-        QMetaObject::invokeMethod(this, missing_, Qt::QueuedConnection);
+        callSoon(missing_);
     }
+}
+
+TrayWatch::~TrayWatch() = default;
+
+void TrayWatch::callSoon(std::function<void()> action) {
+    soon_ = runLoop_.scheduleTimer(std::chrono::milliseconds(0), std::move(action));
 }
 
 // A tray window owns a selection, and says so to all when it takes it.
@@ -32,7 +38,7 @@ void TrayWatch::followServer() {
             tell();
         }
     });
-    QMetaObject::invokeMethod(this, &TrayWatch::lookForTrayWindow, Qt::QueuedConnection);
+    callSoon([this] { lookForTrayWindow(); });
 }
 
 void TrayWatch::lookForTrayWindow() {
@@ -51,7 +57,7 @@ void TrayWatch::lookForTrayWindow() {
 void TrayWatch::tell() {
     if (const auto appeared = std::exchange(appeared_, nullptr)) {
         // Whoever is told may have no more use for this object.
-        QMetaObject::invokeMethod(this, appeared, Qt::QueuedConnection);
+        callSoon(appeared);
     }
 }
 
