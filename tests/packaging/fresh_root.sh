@@ -39,5 +39,6 @@ make_root() {
     awk -F '|' -v release="$(this_release)" '$2 == release { print $1; exit }')
   debootstrap --variant=minbase --include=dbus-daemon "$1" "$root" "$mirror" >"$work/debootstrap.log" ||
     { tail "$work/debootstrap.log"; fail "no fresh root could be made"; }
+  mount --bind "$root" "$root" # programs in it may make namespaces of their own then
   mount -t proc proc "$root/proc"
 }
