@@ -89,22 +89,23 @@ void measureMemory(bool inTray) {
     session.showWindows();
     writeSettings(session, inTray);
     std::unique_ptr<rig::Process> panel;
-    const auto items = [&] {
+    const auto watcherSays = [&](const char* property, char part) {
         const std::string watcher = "org.kde.StatusNotifierWatcher";
-        return session
-            .run("gdbus",
-                 {"call", "--session", "-d", watcher, "-o", "/StatusNotifierWatcher", "-m",
-                  "org.freedesktop.DBus.Properties.Get", watcher, "RegisteredStatusNotifierItems"})
-            .output;
+        const rig::RunResult asked = session.run(
+            "gdbus", {"call", "--session", "-d", watcher, "-o", "/StatusNotifierWatcher", "-m",
+                      "org.freedesktop.DBus.Properties.Get", watcher, property});
+        return asked.output.find(part) != std::string::npos;
     };
     if (inTray) {
         const std::string file = session.runtimeDirectory() / "panel.conf";
         std::ofstream(file) << "panels=panel1\n[panel1]\nplugins=statusnotifier\n"
                                "[statusnotifier]\ntype=statusnotifier\n";
         panel = session.start("lxqt-panel", {"-c", file});
+        rig::waitUntil([&] { return watcherSays("IsStatusNotifierHostRegistered", 't'); });
     }
     const auto nocturo = session.startNocturo();
-    if (inTray && !rig::waitUntil([&] { return items().find('/') != std::string::npos; })) {
+    if (inTray &&
+        !rig::waitUntil([&] { return watcherSays("RegisteredStatusNotifierItems", '/'); })) {
         throw std::runtime_error("the tray stays empty");
     }
     std::this_thread::sleep_for(Milliseconds(2000)); // for what is done after a start
