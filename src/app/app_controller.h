@@ -36,9 +36,6 @@ inline constexpr std::string_view kReapplicationNotification = "NocturoReapplica
 inline constexpr std::string_view NSApplicationDidFinishLaunchingNotification =
     "NSApplicationDidFinishLaunchingNotification";
 
-/// The last state of the effect that was saved.
-inline constexpr std::string_view kEffectActive = "EffectActive";
-
 /// Switches the combined effect on and off, keeps one screen controller for each affected online
 /// display while it is on, and applies it again on a timer, after every change of a setting and
 /// when the desktop tells of something that may have touched the displays. Pauses it while the

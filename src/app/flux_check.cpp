@@ -2,6 +2,7 @@
 
 #include "app/desktop_face.h"
 #include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 #include <utility>
 
@@ -9,7 +10,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::string_view kFluxWarned = "ZQFluxWarned";
 constexpr std::string_view kFluxIdentifier = "org.herf.Flux";
 constexpr const char* kOwnName = "Nocturo";
 

@@ -1,6 +1,7 @@
 #include "effects/color_filter_effect.h"
 
 #include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,10 +9,6 @@
 namespace nocturo {
 
 namespace {
-
-constexpr std::string_view kHueKey = "NDColorFilterEffectHue";
-constexpr std::string_view kVividnessKey = "NDColorFilterEffectVividness";
-constexpr float kDefaultVividness = 1.0F;
 
 constexpr float kRedPhase = 0.0F;
 constexpr float kGreenPhase = 1.0F / 3.0F;
@@ -38,21 +35,19 @@ void NDColorFilterEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve) {
 }
 
 float NDColorFilterEffect::hue() {
-    return userDefaults().floatForKey(kHueKey);
+    return userDefaults().floatForKey(kColorFilterHue);
 }
 
 void NDColorFilterEffect::setHue(float hue) {
-    userDefaults().setFloat(hue, kHueKey);
+    userDefaults().setFloat(hue, kColorFilterHue.key);
 }
 
 float NDColorFilterEffect::vividness() {
-    const DefaultsStore& defaults = userDefaults();
-    return defaults.objectForKey(kVividnessKey) == nullptr ? kDefaultVividness
-                                                           : defaults.floatForKey(kVividnessKey);
+    return userDefaults().floatForKey(kColorFilterVividness);
 }
 
 void NDColorFilterEffect::setVividness(float vividness) {
-    userDefaults().setFloat(vividness, kVividnessKey);
+    userDefaults().setFloat(vividness, kColorFilterVividness.key);
 }
 
 } // namespace nocturo

@@ -1,15 +1,9 @@
 #include "effects/dim_effect.h"
 
 #include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 namespace nocturo {
-
-namespace {
-
-constexpr std::string_view kLevelKey = "NDDimEffectLevel";
-constexpr float kDefaultLevel = -0.5F;
-
-} // namespace
 
 void NDDimEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve) {
     const float currentLevel = level();
@@ -21,13 +15,11 @@ void NDDimEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve) {
 }
 
 float NDDimEffect::level() {
-    const DefaultsStore& defaults = userDefaults();
-    return defaults.objectForKey(kLevelKey) == nullptr ? kDefaultLevel
-                                                       : defaults.floatForKey(kLevelKey);
+    return userDefaults().floatForKey(kDimLevel);
 }
 
 void NDDimEffect::setLevel(float level) {
-    userDefaults().setFloat(level, kLevelKey);
+    userDefaults().setFloat(level, kDimLevel.key);
 }
 
 } // namespace nocturo

@@ -2,16 +2,23 @@
 
 #include "effects/effect.h"
 
+#include "settings/settings_keys.h"
+
+#include <array>
 #include <cstddef>
 
 namespace nocturo {
+
+/// The keys of the settings that say how the screens look while the effect is on.
+inline constexpr std::array kEffectSettings = {kGroupEffect, kDimLevel.key, kColorFilterHue.key,
+                                               kColorFilterVividness.key};
 
 /// Applies every selected effect in priority order. The selection is not held here but in the
 /// shared defaults store, as an array of effect class names under "NDGroupEffect": every instance
 /// sees and changes the same one.
 class NDGroupEffect : public NDEffect {
   public:
-    static constexpr std::string_view kName = "NDGroupEffect";
+    static constexpr std::string_view kName = kGroupEffect;
     static NDGroupEffect effect() { return {}; }
 
     /// Registers the empty selection as the default in the shared store; the first instance of the

@@ -1,9 +1,11 @@
 #include "settings/defaults_store.h"
 
 #include "base/notification_center.h"
+#include "settings/settings_keys.h"
 
 #include <cmath>
 #include <utility>
+#include <vector>
 
 namespace nocturo {
 
@@ -51,6 +53,10 @@ float DefaultsStore::floatForKey(std::string_view key) const {
     const PropertyValue* value = objectForKey(key);
     const auto number = value != nullptr ? static_cast<float>(value->number().value_or(0.0)) : 0.0F;
     return std::isfinite(number) ? number : 0.0F;
+}
+
+float DefaultsStore::floatForKey(const RealSetting& setting) const {
+    return objectForKey(setting.key) != nullptr ? floatForKey(setting.key) : setting.whenAbsent;
 }
 
 void DefaultsStore::setObject(PropertyValue value, std::string_view key) {
@@ -104,11 +110,17 @@ void DefaultsStore::mergeUserDomain(PropertyDictionary kept) {
             kept.erase(key);
         }
     }
-    if (kept == userDomain_) {
-        return;
-    }
+    const Batch batch(*this);
+    const auto noteMissing = [this](const PropertyDictionary& from, const PropertyDictionary& in) {
+        for (const auto& [key, value] : from) {
+            if (const auto found = in.find(key); found == in.end() || !(found->second == value)) {
+                batchedKeys_.insert(key);
+            }
+        }
+    };
+    noteMissing(userDomain_, kept);
+    noteMissing(kept, userDomain_);
     userDomain_ = std::move(kept);
-    notificationCenter_.post(NSUserDefaultsDidChangeNotification);
 }
 
 void DefaultsStore::didWrite(std::string_view key, bool changed) {
@@ -118,7 +130,17 @@ void DefaultsStore::didWrite(std::string_view key, bool changed) {
             persistence_->userDomainDidChange();
         }
     }
-    notificationCenter_.post(NSUserDefaultsDidChangeNotification);
+    const Batch batch(*this);
+    batchedKeys_.emplace(key);
+}
+
+void DefaultsStore::endBatch() {
+    if (--batches_ > 0 || batchedKeys_.empty()) {
+        return;
+    }
+    const auto keys = std::exchange(batchedKeys_, {}); // those who are told may write as well
+    const std::vector<std::string_view> subjects(keys.begin(), keys.end());
+    notificationCenter_.post(NSUserDefaultsDidChangeNotification, Subjects(subjects));
 }
 
 } // namespace nocturo

@@ -11,8 +11,10 @@
 namespace nocturo {
 
 class NotificationCenter;
+struct RealSetting;
 
-/// Posted on the store's notification center after every write, before the write returns.
+/// Posted on the store's notification center after every write, before the write returns. Its
+/// subjects are the keys that were written.
 inline constexpr std::string_view NSUserDefaultsDidChangeNotification =
     "NSUserDefaultsDidChangeNotification";
 
@@ -58,6 +60,9 @@ class DefaultsStore {
     /// damaged number can never reach a curve.
     float floatForKey(std::string_view key) const;
 
+    /// The same; what holds when absent is the setting's own.
+    float floatForKey(const RealSetting& setting) const;
+
     void setObject(PropertyValue value, std::string_view key);
     void setBool(bool value, std::string_view key);
     void setInteger(std::int64_t value, std::string_view key);
@@ -68,6 +73,19 @@ class DefaultsStore {
 
     /// Adds to the registered defaults, replacing earlier ones of the same keys. Posts nothing.
     void registerDefaults(const PropertyDictionary& defaults);
+
+    /// While one lives nothing is posted. The end of the last one posts one notification about all
+    /// keys that were written meanwhile, if any was. The store must outlive it.
+    class Batch {
+      public:
+        explicit Batch(DefaultsStore& store) : store_(store) { ++store_.batches_; }
+        ~Batch() { store_.endBatch(); }
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+      private:
+        DefaultsStore& store_;
+    };
 
     /// Asks the persistence to keep everything now; true when there is none.
     bool synchronize();
@@ -84,16 +102,20 @@ class DefaultsStore {
     void markKept() { changedKeys_.clear(); }
 
     /// Takes what another program or the user wrote as the user domain. Keys changed here since the
-    /// last markKept keep this store's value. Posts one notification if anything changed.
+    /// last markKept keep this store's value. Posts one notification about every key that changed,
+    /// if any did.
     void mergeUserDomain(PropertyDictionary kept);
 
   private:
     void didWrite(std::string_view key, bool changed);
+    void endBatch();
 
     NotificationCenter& notificationCenter_;
     PropertyDictionary userDomain_;
     PropertyDictionary registeredDefaults_;
     std::set<std::string, std::less<>> changedKeys_;
+    std::set<std::string, std::less<>> batchedKeys_; // written since the first batch began
+    int batches_ = 0;
     DefaultsPersistence* persistence_ = nullptr;
 };
 

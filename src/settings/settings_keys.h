@@ -4,7 +4,8 @@
 
 namespace nocturo {
 
-// The keys that several rooms share; every other key is its one owner's.
+// The keys of all settings. What each may hold stands in the table (settings_table.h).
+
 inline constexpr std::string_view kActivateAtLaunch = "ActivateAtLaunch";
 inline constexpr std::string_view kActivateOnClick = "ActivateOnClick";
 inline constexpr std::string_view kContinuouslyApply = "ContinuouslyApply";
@@ -15,5 +16,21 @@ inline constexpr std::string_view kUseHotKey = "UseHotKey";
 inline constexpr std::string_view kHotKeyCode = "HotKeyCode";
 inline constexpr std::string_view kHotKeyModifiers = "HotKeyModifiers";
 inline constexpr std::string_view kShowStatusItem = "ShowStatusItem";
+inline constexpr std::string_view kEffectActive = "EffectActive"; // as last saved
+inline constexpr std::string_view kFluxWarned = "ZQFluxWarned";
+inline constexpr std::string_view kGroupEffect = "NDGroupEffect";
+
+/// A setting that is a real number. Users may choose from `lowest` to `highest`; what a file or a
+/// document holds beyond is used as it stands.
+struct RealSetting {
+    std::string_view key;
+    float whenAbsent; // what holds while the user has no value
+    float lowest;
+    float highest;
+};
+inline constexpr RealSetting kDimLevel{"NDDimEffectLevel", -0.5F, -1.0F, 1.0F};
+inline constexpr RealSetting kColorFilterHue{"NDColorFilterEffectHue", 0.0F, 0.0F, 360.0F};
+inline constexpr RealSetting kColorFilterVividness{"NDColorFilterEffectVividness", 1.0F, 0.0F,
+                                                   1.0F};
 
 } // namespace nocturo

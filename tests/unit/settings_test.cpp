@@ -82,6 +82,30 @@ TEST_F(DefaultsStoreTest, NotifiesAfterEveryWriteAndKeepsOnlyTrueChanges) {
     EXPECT_THAT(seen, ElementsAre(0.5F, 0.5F, 0.5F, 0.5F, 0.5F, 0.0F));
 }
 
+TEST_F(DefaultsStoreTest, TellsWhichKeysChangedAndABatchAllOfThemAtOnce) {
+    std::vector<std::string> told;
+    center.addObserver(this, NSUserDefaultsDidChangeNotification, [&](const Subjects& settings) {
+        std::string keys;
+        for (const char* key : {"a", "b", "c", "d"}) {
+            keys += settings.contain(key) ? key : "-";
+        }
+        told.push_back(keys);
+    });
+    store.setBool(true, "a");
+    {
+        const DefaultsStore::Batch outer(store);
+        store.setBool(true, "b");
+        { const DefaultsStore::Batch inner(store); }
+        store.setBool(true, "c");
+    }
+    { const DefaultsStore::Batch nothing(store); }
+    store.markKept();
+    store.mergeUserDomain({{"a", true}, {"c", false}, {"d", true}}); // as by an edit of the file
+    store.mergeUserDomain(PropertyDictionary(store.userDomain()));
+    center.post(NSUserDefaultsDidChangeNotification);
+    EXPECT_THAT(told, ElementsAre("a---", "-bc-", "-bcd", "abcd"));
+}
+
 class SettingsKeeperTest : public DefaultsStoreTest {
   protected:
     SettingsKeeperTest() {
