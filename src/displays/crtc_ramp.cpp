@@ -13,7 +13,18 @@ const Ramp& CrtcRamp::takeAsLeft() {
 }
 
 bool CrtcRamp::write(CGDirectDisplayID effectOf, CGDirectDisplayID writtenFor) {
-    if (!hardware_->writeRamp(id_, draft_)) {
+    return keepWritten(hardware_->writeRamp(id_, draft_), effectOf, writtenFor);
+}
+
+void CrtcRamp::giveBack(const Ramp& ramp, CGDirectDisplayID display) {
+    Ramp fitting = resampledRamp(ramp, size());
+    const bool isHeld = effectOf_ == 0 && read() && draft_ == fitting;
+    draft_ = std::move(fitting);
+    keepWritten(isHeld || hardware_->writeRamp(id_, draft_), 0, display);
+}
+
+bool CrtcRamp::keepWritten(bool isThere, CGDirectDisplayID effectOf, CGDirectDisplayID writtenFor) {
+    if (!isThere) {
         return false;
     }
     std::swap(written_, draft_);

@@ -45,6 +45,10 @@ class CrtcRamp {
     /// back. False on failure. Allocates nothing.
     bool write(CGDirectDisplayID effectOf, CGDirectDisplayID writtenFor);
 
+    /// Gives the CRTC back to a display: writes the ramp, resampled to the CRTC's size. Where no
+    /// effect is the CRTC may hold it already; then nothing is written.
+    void giveBack(const Ramp& ramp, CGDirectDisplayID display);
+
     /// Writes once more what was written last if the CRTC holds something else; whether somebody
     /// else had written that.
     bool takeBack();
@@ -54,6 +58,8 @@ class CrtcRamp {
     bool hasSystemRamp() const { return system_.size() != 0; }
 
   private:
+    bool keepWritten(bool isThere, CGDirectDisplayID effectOf, CGDirectDisplayID writtenFor);
+
     GammaHardware* hardware_;
     std::uint32_t id_;
     Ramp left_;

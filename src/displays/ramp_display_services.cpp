@@ -148,10 +148,16 @@ RampDisplayServices::takeBackDisturbedDisplays(std::span<const CGDirectDisplayID
 void RampDisplayServices::restoreSystemColors() {
     refresh();
     takeCalibrations();
+    std::vector<std::uint32_t> withoutEffect; // are read before they are written
+    for (const auto& [id, crtc] : crtcs_) {
+        if (crtc.effectOf() == 0 && giveBack(crtc).ramp != nullptr) {
+            withoutEffect.push_back(id);
+        }
+    }
+    hardware_->expectReads(withoutEffect);
     for (auto& [id, crtc] : crtcs_) {
         if (const GiveBack back = giveBack(crtc); back.ramp != nullptr) {
-            crtc.draft() = resampledRamp(*back.ramp, crtc.size());
-            crtc.write(0, back.display);
+            crtc.giveBack(*back.ramp, back.display);
         }
     }
     // Whoever is told that the displays are back, or that the program has ended, finds them so.
