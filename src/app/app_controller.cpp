@@ -217,9 +217,12 @@ void NDAppController::updateApplyTimer() {
     }
 }
 
-void NDAppController::defaultsDidChange() {
-    if (effectActive()) {
+void NDAppController::defaultsDidChange(const Subjects& settings) {
+    const bool screens = settings.containAnyOf(kAffectedScreenSettings);
+    if (effectActive() && screens) {
         adjustScreenControllers();
+    }
+    if (screens || settings.containAnyOf(kEffectSettings)) {
         updateEffect();
     }
     updateHotKey();
@@ -228,11 +231,14 @@ void NDAppController::defaultsDidChange() {
 
 void NDAppController::updateHotKey() {
     HXHotKeyCenter& center = HXHotKeyCenter::sharedHotKeyCenter();
-    center.unregisterAllHotKeys();
-    if (recordingHotKey_ || !defaults_.boolForKey(kUseHotKey)) {
+    const bool wanted = !recordingHotKey_ && defaults_.boolForKey(kUseHotKey);
+    const auto hotKey = wanted ? NDSavedHotKey(defaults_) : nullptr;
+    if (hotKey != nullptr &&
+        center.hasRegisteredHotKeyWithKeyCode(hotKey->keyCode(), hotKey->modifierFlags())) {
         return;
     }
-    if (const auto hotKey = NDSavedHotKey(defaults_)) {
+    center.unregisterAllHotKeys();
+    if (hotKey != nullptr) {
         // The center's hot keys end with this controller, which therefore owns itself for them.
         const std::shared_ptr<ActionTarget> target(std::shared_ptr<void>(), this);
         center.registerHotKeyWithKeyCode(hotKey->keyCode(), hotKey->modifierFlags(), target,

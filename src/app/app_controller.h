@@ -155,11 +155,13 @@ class NDAppController : public ActionTarget {
     /// keeps its phase.
     void updateApplyTimer();
 
-    /// Follows a change of settings or screens.
-    void defaultsDidChange();
+    /// Follows a change of the settings named, or of the screens, which may concern everything:
+    /// applies the effect again where one of its settings or the affected screens are named.
+    void defaultsDidChange(const Subjects& settings);
 
-    /// Registers the user's hot key anew with the shared center, or none where "UseHotKey" is not
-    /// set or no key is chosen. One that the desktop refuses leaves the program without a hot key.
+    /// Has the user's hot key registered with the shared center, or none where "UseHotKey" is not
+    /// set or no key is chosen. One that is registered already stays as it is. One that the desktop
+    /// refuses leaves the program without a hot key until the next try.
     void updateHotKey();
 
     /// While a hot key is being recorded none is registered, or it would fire instead of being

@@ -53,7 +53,6 @@ void NDAppController::applicationDidFinishLaunching(std::function<void(bool laun
 
 void NDAppController::bringEffectBack(std::function<void(bool launched)> finished) {
     initDefaults();
-    screenControllers_.emplace();
     globalEffect_ = std::make_shared<NDGroupEffect>();
     // After this pair no announcement of a launch is heard any more, the one that brought us here
     // included.
@@ -89,10 +88,15 @@ void NDAppController::appearOnDesktop() {
 void NDAppController::initDefaults() {
     defaults_.registerDefaults(registeredDefaults());
     NotificationCenter& local = centers_.local;
-    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::defaultsDidChange);
-    observe(local, NSUserDefaultsDidChangeNotification, &NDAppController::updateApplyTimer);
-    observe(local, NSApplicationDidChangeScreenParametersNotification,
-            &NDAppController::defaultsDidChange);
+    local.addObserver(this, NSUserDefaultsDidChangeNotification,
+                      [this](const Subjects& settings) { defaultsDidChange(settings); });
+    local.addObserver(this, NSUserDefaultsDidChangeNotification, [this](const Subjects& settings) {
+        if (settings.contain(kContinuouslyApply)) {
+            updateApplyTimer();
+        }
+    });
+    local.addObserver(this, NSApplicationDidChangeScreenParametersNotification,
+                      [this] { defaultsDidChange({}); });
 }
 
 void NDAppController::restoreEffect() {

@@ -44,10 +44,14 @@ NDScreenOptionMenuManager::NDScreenOptionMenuManager(DefaultsStore& defaults,
     : defaults_(defaults), localCenter_(localCenter), menu_(menu), afterItem_(insertAfterItem),
       titleItem_(titleItem), separator_(separator), hideSingular_(hideSingular), indent_(indent) {
     setupScreenMenu();
-    for (const auto name : {NSUserDefaultsDidChangeNotification,
-                            NSApplicationDidChangeScreenParametersNotification}) {
-        localCenter_.addObserver(this, name, [this] { setupScreenMenu(); });
-    }
+    localCenter_.addObserver(this, NSUserDefaultsDidChangeNotification,
+                             [this](const Subjects& settings) {
+                                 if (settings.containAnyOf(kAffectedScreenSettings)) {
+                                     setupScreenMenu();
+                                 }
+                             });
+    localCenter_.addObserver(this, NSApplicationDidChangeScreenParametersNotification,
+                             [this] { setupScreenMenu(); });
 }
 
 NDScreenOptionMenuManager::~NDScreenOptionMenuManager() {

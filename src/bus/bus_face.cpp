@@ -167,6 +167,7 @@ BusAnswer BusFace::addEffects(const std::vector<std::string>& names) {
     if (auto problem = problemWith(*settingNamed(NDGroupEffect::kName), list)) {
         return refusal(*std::move(problem));
     }
+    const DefaultsStore::Batch oneChange(defaults_);
     for (const std::string& name : names) {
         NDGroupEffect::effect().addEffect(name);
     }
@@ -174,6 +175,7 @@ BusAnswer BusFace::addEffects(const std::vector<std::string>& names) {
 }
 
 BusAnswer BusFace::removeEffects(const std::vector<std::string>& names) {
+    const DefaultsStore::Batch oneChange(defaults_);
     for (const std::string& name : names) {
         NDGroupEffect::effect().removeEffect(name);
     }
@@ -228,6 +230,7 @@ BusAnswer BusFace::setHotKey(const std::string& text) {
         }
         combination = *result;
     }
+    const DefaultsStore::Batch oneChange(defaults_);
     defaults_.setInteger(combination.keyCode, kHotKeyCode);
     defaults_.setInteger(static_cast<std::int64_t>(combination.modifierFlags), kHotKeyModifiers);
     return {};

@@ -1,7 +1,6 @@
 #include "displays/affected_screen_set.h"
 
 #include "settings/defaults_store.h"
-#include "settings/settings_keys.h"
 
 #include <algorithm>
 #include <cmath>
@@ -50,6 +49,7 @@ std::vector<double> affectedScreenSet(const DefaultsStore& defaults) {
 void chooseAffectedScreen(DefaultsStore& defaults, std::int32_t tag) {
     // Read before the older key is written: while the set key is absent that key is the set.
     std::vector<double> numbers = affectedScreenSet(defaults);
+    const DefaultsStore::Batch oneChange(defaults);
     defaults.setInteger(tag, kAffectedScreens);
     if (tag == 0) {
         defaults.setObject(PropertyArray(), kAffectedScreenSet);

@@ -1,11 +1,18 @@
 #pragma once
 
+#include "settings/settings_keys.h"
+
+#include <array>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace nocturo {
 
 class DefaultsStore;
+
+/// The keys that affectedScreenSet reads.
+inline constexpr std::array kAffectedScreenSettings = {kAffectedScreenSet, kAffectedScreens};
 
 /// The displays on which the effect is applied, as identifiers in ascending order; empty means all.
 /// The numbers are as stored: signed, whatever their range, duplicates kept. Read from

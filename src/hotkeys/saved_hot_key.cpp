@@ -2,7 +2,6 @@
 
 #include "hotkeys/hot_key.h"
 #include "settings/defaults_store.h"
-#include "settings/settings_keys.h"
 
 #include <cstdint>
 

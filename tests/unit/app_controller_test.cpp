@@ -208,12 +208,62 @@ TEST_F(AppController, DisplaysEnterAndLeaveTheAffectedSetWhileOn) {
     }
 }
 
+TEST_F(AppController, WritesADisplayOnlyWhenAndAsOftenAsItLooksDifferent) {
+    const auto writes = [&](const std::function<void()>& act) {
+        hardware_.writes.clear();
+        act();
+        std::map<std::uint32_t, int> each;
+        for (const auto& [crtc, ramp] : hardware_.writes) {
+            ++each[crtc];
+        }
+        return each;
+    };
+    const std::map<std::uint32_t, int> none;
+    const std::map<std::uint32_t, int> once{{1, 1}, {2, 1}, {3, 1}};
+    NDAppController savedOff(*store_, centers_, runLoop_);
+    store_->setBool(false, "ActivateAtLaunch");
+    EXPECT_EQ(writes([&] { savedOff.applicationDidFinishLaunching(); }), none);
+    hardware_.ramps[2] = colors(1); // by somebody else, while nothing is on
+    EXPECT_EQ(writes([&] { savedOff.setEffectActive(false, true); }), (decltype(none){{2, 1}}));
+
+    store_->setBool(true, "ActivateAtLaunch");
+    EXPECT_EQ(writes([&] { controller_.applicationDidFinishLaunching(); }), once);
+    EXPECT_EQ(writes([&] { store_->setFloat(0.25F, "NDDimEffectLevel"); }), once);
+    EXPECT_EQ(writes([&] {
+                  const DefaultsStore::Batch document(*store_);
+                  store_->setObject(PropertyArray{std::string("NDDimEffect")}, "NDGroupEffect");
+                  store_->setFloat(0.5F, "NDDimEffectLevel");
+                  store_->setFloat(90, "NDColorFilterEffectHue");
+              }),
+              once);
+    EXPECT_EQ(writes([&] {
+                  store_->setBool(false, "ActivateOnClick");
+                  store_->setInteger(0, "ShowStatusItem");
+                  store_->setObject(std::string("/home"), "NothingOfOurs");
+              }),
+              none);
+    EXPECT_EQ(writes([&] { controller_.toggleGlobalEffect(); }), once);
+    EXPECT_EQ(shown(), "ooo");
+}
+
+TEST_F(AppController, ThePickOfADisplayReplacesTheOlderChoiceInOneStep) {
+    controller_.applicationDidFinishLaunching();
+    store_->setInteger(static_cast<std::int32_t>(id(0)), "AffectedScreens");
+    EXPECT_EQ(shown(), "ioo");
+    hardware_.writes.clear();
+    chooseAffectedScreen(*store_, static_cast<std::int32_t>(id(1)));
+    EXPECT_EQ(shown(), "iio");
+    for (const auto& [crtc, ramp] : hardware_.writes) {
+        EXPECT_NE(ramp, identityRamp(256)) << crtc;
+    }
+}
+
 TEST_F(AppController, AppliesAgainEverySixSecondsWhileAskedTo) {
     controller_.applicationDidFinishLaunching();
     hardware_.ramps[1] = identityRamp(256);
     runLoop_.advance(5999);
     EXPECT_EQ(shown(), "oii");
-    store_->setBool(true, "UseHotKey"); // any change applies at once and keeps the timer's phase
+    store_->setFloat(0, "NDDimEffectLevel"); // a change applies at once, in the timer's own phase
     EXPECT_EQ(shown(), "iii");
     hardware_.ramps[1] = identityRamp(256);
     runLoop_.advance(1);

@@ -139,6 +139,7 @@ void NDPreferencesController::changeHotKey(const HXHotKeyTextField& sender) {
     const auto& hotKey = sender.hotKey();
     const std::int64_t keyCode = hotKey != nullptr ? hotKey->keyCode() : 0;
     const std::uint64_t flags = hotKey != nullptr ? hotKey->modifierFlags() : 0;
+    const DefaultsStore::Batch oneChange(surroundings_.defaults);
     surroundings_.defaults.setInteger(keyCode, kHotKeyCode);
     surroundings_.defaults.setInteger(static_cast<std::int64_t>(flags), kHotKeyModifiers);
 }

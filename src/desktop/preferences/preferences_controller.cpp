@@ -89,9 +89,9 @@ void NDPreferencesController::windowDidLoad() {
     noEffectComfirmed = true;
     listPreviewedDisplays();
     readPreviewedDisplay();
-    update();
+    update({});
     surroundings_.localCenter.addObserver(this, NSUserDefaultsDidChangeNotification,
-                                          [this] { update(); });
+                                          [this](const Subjects& settings) { update(settings); });
 
     // The menu's first item stands for the button itself: its title sums the choice up.
     screensMenu_ = std::make_unique<Menu>();
@@ -159,8 +159,27 @@ bool NDPreferencesController::windowShouldClose() {
     return false;
 }
 
-void NDPreferencesController::update() {
-    const DefaultsStore& defaults = surroundings_.defaults;
+void NDPreferencesController::update(const Subjects& settings) {
+    if (settings.containAnyOf(kAffectedScreenSettings)) {
+        readPreviewedDisplay(); // the effect may have come to it or gone
+        updatePreview();
+    }
+    if (settings.containAnyOf(kEffectSettings)) {
+        updateEffects();
+        updatePreview();
+    }
+    if (settings.containAnyOf(kHotKeySettings)) {
+        ui_->useHotKey->setChecked(surroundings_.defaults.boolForKey(kUseHotKey));
+        const auto saved = NDSavedHotKey(surroundings_.defaults);
+        const auto& shown = ui_->hotKeyField->hotKey();
+        if (saved == nullptr || shown == nullptr || !saved->isEqual(*shown)) {
+            ui_->hotKeyField->setHotKey(saved);
+        }
+    }
+    updateBoxes();
+}
+
+void NDPreferencesController::updateEffects() {
     const auto isSelected = [](std::string_view name) {
         return NDGroupEffect::effect().containsEffect(name);
     };
@@ -177,18 +196,17 @@ void NDPreferencesController::update() {
     ui_->dimScreen->setChecked(dims);
     ui_->dimLevel->setEnabled(dims);
     ui_->dimLevel->setValue(NDDimEffect::level());
+}
 
+void NDPreferencesController::updateBoxes() {
+    const DefaultsStore& defaults = surroundings_.defaults;
     ui_->continuouslyApply->setChecked(defaults.boolForKey(kContinuouslyApply));
     ui_->activateAtLaunch->setChecked(defaults.boolForKey(kActivateAtLaunch));
     ui_->activateOnClick->setChecked(defaults.boolForKey(kActivateOnClick));
     ui_->deactivateForScreenSaver->setChecked(defaults.boolForKey(kDeactivateForScreenSaver));
-    ui_->useHotKey->setChecked(defaults.boolForKey(kUseHotKey));
-    ui_->hotKeyField->setHotKey(NDSavedHotKey(defaults));
     // Every other number means an ordinary application, too.
     const bool inTray = defaults.integerForKey(kShowStatusItem) == kStatusItemRow;
     (inTray ? ui_->showInTray : ui_->showInTaskBar)->setChecked(true);
-    readPreviewedDisplay(); // the effect may have come to it or gone
-    updatePreview();
 }
 
 void NDPreferencesController::displaysDidChange() {

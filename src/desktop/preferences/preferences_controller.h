@@ -26,6 +26,7 @@ class KeyboardLayout;
 class Menu;
 class NDScreenOptionMenuManager;
 class NotificationCenter;
+class Subjects;
 class ParameterSlider;
 class PreferencePanel;
 
@@ -39,8 +40,8 @@ struct PreferenceSurroundings {
 };
 
 /// The preference window. It holds no settings of its own: every control writes straight into the
-/// settings, and after every change of them, whoever made it, all controls are set anew, which
-/// fires no action. The window is made when first needed. Main thread only.
+/// settings, and after every change of one, whoever made it, its control is set anew, which fires
+/// no action. The window is made when first needed. Main thread only.
 ///
 /// Each action takes the control that sends it and reads its value from that.
 class NDPreferencesController : public QObject {
@@ -66,8 +67,8 @@ class NDPreferencesController : public QObject {
     /// Shows the window in front of others, with no field being edited.
     void showWindow();
 
-    /// Sets every control from the settings.
-    void update();
+    /// Sets the controls of the settings named.
+    void update(const Subjects& settings);
 
     /// The displays, their own colours or where the effect is on are others now.
     void displaysDidChange();
@@ -125,6 +126,8 @@ class NDPreferencesController : public QObject {
     void windowDidLoad();
     bool windowShouldClose();
     void resignFirstResponder();
+    void updateEffects();
+    void updateBoxes();
     void setContains(std::string_view effect, const QAbstractButton& sender);
     CGDirectDisplayID displayOfWindow() const;
     void listPreviewedDisplays();

@@ -206,6 +206,7 @@ bool NDPreferencesController::openEffectFile(const QString& path) {
     }
     Q_EMIT documentWasUsed(path);
     using Self = NDPreferencesController;
+    const DefaultsStore::Batch oneChange(surroundings_.defaults);
     const auto check = [this](QCheckBox* box, bool checked,
                               void (Self::*action)(const QAbstractButton&)) {
         box->setChecked(checked);
