@@ -1130,6 +1130,10 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <source>"%@" takes a list of display identifiers.</source>
             <translation>„%@“ nimmt eine Liste von Bildschirmkennungen.</translation>
         </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>„%1$@“ nimmt eine Zahl von %2$@ bis %3$@.</translation>
+        </message>
     </context>
     <context>
         <name>ZQFluxCheck</name>

@@ -1130,6 +1130,10 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <source>"%@" takes a list of display identifiers.</source>
             <translation>«%@» admite una lista de identificadores de pantalla.</translation>
         </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>«%1$@» admite un número de %2$@ a %3$@.</translation>
+        </message>
     </context>
     <context>
         <name>ZQFluxCheck</name>

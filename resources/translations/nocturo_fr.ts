@@ -1130,6 +1130,10 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <source>"%@" takes a list of display identifiers.</source>
             <translation>« %@ » attend une liste d’identifiants d’écrans.</translation>
         </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>« %1$@ » attend un nombre de %2$@ à %3$@.</translation>
+        </message>
     </context>
     <context>
         <name>ZQFluxCheck</name>

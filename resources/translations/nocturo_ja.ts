@@ -1130,6 +1130,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <source>"%@" takes a list of display identifiers.</source>
             <translation>「%@」には画面の識別子のリストを指定します。</translation>
         </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>「%1$@」には %2$@ から %3$@ までの数値を指定してください。</translation>
+        </message>
     </context>
     <context>
         <name>ZQFluxCheck</name>

@@ -1130,6 +1130,10 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <source>"%@" takes a list of display identifiers.</source>
             <translation>“%@” aceita uma lista de identificadores de telas.</translation>
         </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>“%1$@” aceita um número de %2$@ a %3$@.</translation>
+        </message>
     </context>
     <context>
         <name>ZQFluxCheck</name>

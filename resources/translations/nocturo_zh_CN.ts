@@ -1129,6 +1129,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <source>"%@" takes a list of display identifiers.</source>
             <translation>“%@”的值应为屏幕标识符列表。</translation>
         </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>“%1$@”只接受 %2$@ 到 %3$@ 之间的数。</translation>
+        </message>
     </context>
     <context>
         <name>ZQFluxCheck</name>

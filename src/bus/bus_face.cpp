@@ -170,6 +170,9 @@ BusAnswer BusFace::addEffects(const std::vector<std::string>& names) {
     const DefaultsStore::Batch oneChange(defaults_);
     for (const std::string& name : names) {
         NDGroupEffect::effect().addEffect(name);
+        if (!NDGroupEffect::effect().containsEffect(name)) {
+            NDGroupEffect::effect().addEffect(name); // the list was damaged and is none any more
+        }
     }
     return {};
 }

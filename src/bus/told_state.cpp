@@ -114,11 +114,7 @@ BusValue ToldState::colorFilterVividness() const {
 }
 
 BusValue ToldState::affectedScreens() const {
-    std::vector<std::int64_t> numbers;
-    for (const double number : affectedScreenSet(defaults_)) {
-        numbers.push_back(static_cast<std::int64_t>(number));
-    }
-    return numbers;
+    return affectedScreenIdentifiers(defaults_);
 }
 
 BusValue ToldState::hotKey() const {
@@ -142,6 +138,7 @@ BusValue ToldState::settings() const {
     for (const Setting& setting : settingsTable()) {
         dictionary.emplace(setting.key, busValue(effectiveValue(defaults_, setting)));
     }
+    dictionary.insert_or_assign(std::string(kAffectedScreenSet), affectedScreens());
     return dictionary;
 }
 

@@ -3,7 +3,7 @@
 #include "base/texts/translated.h"
 #include "ctl/setting_text.h"
 #include "ctl/text_columns.h"
-#include "effects/effect_registry.h"
+#include "settings/selectable_effects.h"
 #include "settings/settings_table.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "base/texts/translated.h"
 #include "ctl/failure.h"
-#include "effects/effect_registry.h"
+#include "settings/selectable_effects.h"
 
 #include <algorithm>
 #include <charconv>
@@ -67,7 +67,7 @@ PropertyValue fromText(SettingType type, std::string_view text) {
 
 PropertyValue settingFromText(const Setting& setting, std::string_view text) {
     PropertyValue value = fromText(setting.type, text);
-    if (const auto problem = problemWith(setting, value)) {
+    if (const auto problem = problemWithTyped(setting, value)) {
         throw Failure{kUsage, *problem};
     }
     return value;

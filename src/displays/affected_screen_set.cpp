@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -44,6 +45,17 @@ std::vector<double> affectedScreenSet(const DefaultsStore& defaults) {
     }
     const auto single = static_cast<std::int32_t>(defaults.integerForKey(kAffectedScreens));
     return single != 0 ? std::vector<double>{static_cast<double>(single)} : std::vector<double>();
+}
+
+std::vector<std::int64_t> affectedScreenIdentifiers(const DefaultsStore& defaults) {
+    std::vector<std::int64_t> identifiers;
+    for (const double number : affectedScreenSet(defaults)) {
+        if (std::trunc(number) == number && number >= std::numeric_limits<std::int32_t>::min() &&
+            number <= std::numeric_limits<std::uint32_t>::max()) {
+            identifiers.push_back(static_cast<std::int64_t>(number));
+        }
+    }
+    return identifiers;
 }
 
 void chooseAffectedScreen(DefaultsStore& defaults, std::int32_t tag) {

@@ -20,6 +20,10 @@ inline constexpr std::array kAffectedScreenSettings = {kAffectedScreenSet, kAffe
 /// or holds anything but numbers.
 std::vector<double> affectedScreenSet(const DefaultsStore& defaults);
 
+/// The same for those who tell it: the numbers that can be identifiers. All others are skipped, as
+/// they match no display.
+std::vector<std::int64_t> affectedScreenIdentifiers(const DefaultsStore& defaults);
+
 /// What picking a display in a menu does: 0 chooses all displays, an identifier goes into the set
 /// or out of it. Taking the last one out therefore means all displays again. The older key records
 /// the pick, whichever way it went.

@@ -7,6 +7,7 @@
 #include "effects/hide_stripes_effect.h"
 #include "effects/invert_effect.h"
 
+#include <algorithm>
 #include <array>
 #include <new>
 
@@ -33,13 +34,13 @@ constexpr std::array kEffectClasses = {
     effectClass<NDHDTVLuminanceEffect>(), effectClass<NDGroupEffect>(),
 };
 
-constexpr std::array<SelectableEffect, 5> kSelectableEffects = {{
-    {NDInvertEffect::kName, "invert"},
-    {NDHideStripesEffect::kName, "overexposure"},
-    {NDDimEffect::kName, "dim"},
-    {NDColorFilterEffect::kName, "color-filter"},
-    {NDHDTVLuminanceEffect::kName, "hdtv-luminance"},
-}};
+static_assert(std::all_of(kSelectableEffects.begin(), kSelectableEffects.end(),
+                          [](const SelectableEffect& effect) {
+                              return std::any_of(
+                                  kEffectClasses.begin(), kEffectClasses.end(),
+                                  [&](const auto& each) { return each.name == effect.className; });
+                          }),
+              "what can be selected must have a class");
 
 } // namespace
 
@@ -50,10 +51,6 @@ NDEffect* effectNamed(std::string_view className, std::pmr::memory_resource& mem
         }
     }
     return nullptr;
-}
-
-std::span<const SelectableEffect> selectableEffects() {
-    return kSelectableEffects;
 }
 
 } // namespace nocturo

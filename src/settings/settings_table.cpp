@@ -1,13 +1,12 @@
 #include "settings/settings_table.h"
 
-#include "displays/affected_screen_set.h"
-#include "effects/effect_registry.h"
-#include "effects/group_effect.h"
 #include "settings/defaults_store.h"
+#include "settings/selectable_effects.h"
 #include "settings/settings_keys.h"
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -17,11 +16,15 @@ namespace {
 
 constexpr std::int64_t kZero = 0; // an exact type: a plain 0 could become any of them
 
+Setting number(const RealSetting& setting, ListedText meaning) {
+    return {setting.key, SettingType::real, static_cast<double>(setting.whenAbsent),
+            false,       meaning,           SettingRange{setting.lowest, setting.highest}};
+}
+
 const std::array<Setting, 16>& rows() {
     using enum SettingType;
     static const std::array<Setting, 16> table = {{
-        {NDGroupEffect::kName, effectNames, PropertyArray(), true,
-         ListedText("the selected effects")},
+        {kGroupEffect, effectNames, PropertyArray(), true, ListedText("the selected effects")},
         {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
         {kActivateOnClick, boolean, true, true,
          ListedText("starting Nocturo again toggles the effect")},
@@ -33,17 +36,16 @@ const std::array<Setting, 16>& rows() {
         {kShowStatusItem, integer, kZero, true, ListedText("1: run as a tray item")},
         {kHotKeyCode, integer, kZero, false, ListedText("virtual key code of the hot key")},
         {kHotKeyModifiers, integer, kZero, false, ListedText("modifier flags of the hot key")},
-        {"EffectActive", boolean, false, false,
+        {kEffectActive, boolean, false, false,
          ListedText("whether the effect was last switched on")},
         {kAffectedScreenSet, displayNumbers, PropertyArray(), false,
          ListedText("the affected displays; none means all")},
         {kAffectedScreens, integer, kZero, false,
          ListedText("the display last picked; 0 means all")},
-        {"NDDimEffectLevel", real, -0.5, false, ListedText("dim: -1 black, 0 unchanged, 1 white")},
-        {"NDColorFilterEffectHue", real, 0.0, false, ListedText("color filter: hue in degrees")},
-        {"NDColorFilterEffectVividness", real, 1.0, false,
-         ListedText("color filter: strength, 0 to 1")},
-        {"ZQFluxWarned", boolean, false, false, ListedText("the f.lux warning was answered")},
+        number(kDimLevel, ListedText("dim: -1 black, 0 unchanged, 1 white")),
+        number(kColorFilterHue, ListedText("color filter: hue in degrees")),
+        number(kColorFilterVividness, ListedText("color filter: strength, 0 to 1")),
+        {kFluxWarned, boolean, false, false, ListedText("the f.lux warning was answered")},
     }};
     return table;
 }
@@ -60,8 +62,7 @@ Problem problemWithNames(const std::string& key, const PropertyValue& value) {
         if (name == nullptr) {
             return translated("\"%@\" takes a list of effect names.", {key});
         }
-        const auto effects = selectableEffects();
-        if (std::none_of(effects.begin(), effects.end(),
+        if (std::none_of(kSelectableEffects.begin(), kSelectableEffects.end(),
                          [&](const auto& effect) { return effect.className == *name; })) {
             return translated("\"%1$@\" takes effects only, and there is no effect \"%2$@\".",
                               {key, *name});
@@ -85,12 +86,9 @@ bool isFiniteSingle(const PropertyValue& value) {
     return number != nullptr && std::isfinite(static_cast<float>(*number));
 }
 
-PropertyArray numbersAsValues(const std::vector<double>& numbers) {
-    PropertyArray values;
-    for (const double number : numbers) {
-        values.emplace_back(static_cast<std::int64_t>(number));
-    }
-    return values;
+std::string shortestText(double number) {
+    std::array<char, 32> text{};
+    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
 }
 
 } // namespace
@@ -116,9 +114,6 @@ PropertyDictionary registeredDefaults() {
 }
 
 PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setting) {
-    if (setting.key == kAffectedScreenSet) {
-        return numbersAsValues(affectedScreenSet(defaults));
-    }
     if (defaults.objectForKey(setting.key) == nullptr) {
         return setting.whenAbsent;
     }
@@ -158,6 +153,18 @@ std::optional<std::string> problemWith(const Setting& setting, const PropertyVal
                       translated("\"%@\" takes a list of display identifiers.", {key}));
     }
     return std::nullopt;
+}
+
+std::optional<std::string> problemWithTyped(const Setting& setting, const PropertyValue& value) {
+    const auto problem = problemWith(setting, value);
+    const auto number = value.number();
+    if (problem || !setting.range || !number ||
+        (*number >= setting.range->lowest && *number <= setting.range->highest)) {
+        return problem;
+    }
+    return translated("\"%1$@\" takes a number from %2$@ to %3$@.",
+                      {std::string(setting.key), shortestText(setting.range->lowest),
+                       shortestText(setting.range->highest)});
 }
 
 } // namespace nocturo

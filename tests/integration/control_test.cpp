@@ -46,6 +46,8 @@ TEST_F(Control, WrongCommandLinesAreUsageErrors) {
                            "nocturoctl set NDDimEffectLevel nan",
                            "nocturoctl set NDDimEffectLevel 1e99",
                            "nocturoctl set NDDimEffectLevel -0,5",
+                           "nocturoctl set NDDimEffectLevel -1.01",
+                           "nocturoctl set NDColorFilterEffectHue 361",
                            "nocturoctl set AffectedScreenSet 1,x",
                            "nocturoctl reset Nonsense"};
     for (const char* line : lines) {

@@ -65,11 +65,21 @@ void NDPreferencesController::loadWindow() {
     ui_->setupUi(panel_.get());
     using Track = TrackSlider::Track;
     const QString percent = localized(" %");
-    ui_->colorFilterHue->setParameter(
-        {.maximum = 360, .step = 1, .page = 15, .unit = QStringLiteral("°"), .track = Track::Hue});
-    ui_->colorFilterVividness->setParameter({.defaultValue = 1, .scale = 100, .unit = percent});
-    ui_->dimLevel->setParameter({.minimum = -1,
-                                 .defaultValue = -0.5,
+    ui_->colorFilterHue->setParameter({.minimum = kColorFilterHue.lowest,
+                                       .maximum = kColorFilterHue.highest,
+                                       .defaultValue = kColorFilterHue.whenAbsent,
+                                       .step = 1,
+                                       .page = 15,
+                                       .unit = QStringLiteral("°"),
+                                       .track = Track::Hue});
+    ui_->colorFilterVividness->setParameter({.minimum = kColorFilterVividness.lowest,
+                                             .maximum = kColorFilterVividness.highest,
+                                             .defaultValue = kColorFilterVividness.whenAbsent,
+                                             .scale = 100,
+                                             .unit = percent});
+    ui_->dimLevel->setParameter({.minimum = kDimLevel.lowest,
+                                 .maximum = kDimLevel.highest,
+                                 .defaultValue = kDimLevel.whenAbsent,
                                  .scale = 100,
                                  .unit = percent,
                                  .track = Track::Middle});
