@@ -1,15 +1,7 @@
 #include "effects/effect_registry.h"
 
-#include "effects/color_filter_effect.h"
-#include "effects/dim_effect.h"
-#include "effects/group_effect.h"
-#include "effects/hdtv_luminance_effect.h"
-#include "effects/hide_stripes_effect.h"
-#include "effects/invert_effect.h"
-
 #include <algorithm>
 #include <array>
-#include <new>
 
 namespace nocturo {
 
@@ -17,40 +9,40 @@ namespace {
 
 struct EffectClass {
     std::string_view name;
-    NDEffect* (*effect)(std::pmr::memory_resource& memory);
+    SelectedEffect (*effect)();
 };
 
 template <typename Effect>
 constexpr EffectClass effectClass() {
-    return {Effect::kName, [](std::pmr::memory_resource& memory) -> NDEffect* {
-                void* place = memory.allocate(sizeof(Effect), alignof(Effect));
-                return ::new (place) Effect(Effect::effect());
-            }};
+    return {Effect::kName, []() -> SelectedEffect { return Effect::effect(); }};
 }
 
 constexpr std::array kEffectClasses = {
     effectClass<NDInvertEffect>(),        effectClass<NDHideStripesEffect>(),
     effectClass<NDDimEffect>(),           effectClass<NDColorFilterEffect>(),
-    effectClass<NDHDTVLuminanceEffect>(), effectClass<NDGroupEffect>(),
+    effectClass<NDHDTVLuminanceEffect>(),
 };
 
-static_assert(std::all_of(kSelectableEffects.begin(), kSelectableEffects.end(),
-                          [](const SelectableEffect& effect) {
-                              return std::any_of(
-                                  kEffectClasses.begin(), kEffectClasses.end(),
-                                  [&](const auto& each) { return each.name == effect.className; });
-                          }),
-              "what can be selected must have a class");
+static_assert(std::equal(kEffectClasses.begin(), kEffectClasses.end(), kSelectableEffects.begin(),
+                         kSelectableEffects.end(),
+                         [](const EffectClass& each, const SelectableEffect& effect) {
+                             return each.name == effect.className;
+                         }),
+              "what can be selected has a class, and no other has");
 
 } // namespace
 
-NDEffect* effectNamed(std::string_view className, std::pmr::memory_resource& memory) {
+std::optional<SelectedEffect> effectNamed(std::string_view className) {
     for (const EffectClass& candidate : kEffectClasses) {
         if (candidate.name == className) {
-            return candidate.effect(memory);
+            return candidate.effect();
         }
     }
-    return nullptr;
+    return std::nullopt;
+}
+
+NDEffect& baseOf(SelectedEffect& selected) {
+    return std::visit([](NDEffect& effect) -> NDEffect& { return effect; }, selected);
 }
 
 } // namespace nocturo

@@ -1,15 +1,26 @@
 #pragma once
 
-#include "effects/effect.h"
+#include "effects/color_filter_effect.h"
+#include "effects/dim_effect.h"
+#include "effects/hdtv_luminance_effect.h"
+#include "effects/hide_stripes_effect.h"
+#include "effects/invert_effect.h"
 #include "settings/selectable_effects.h"
 
-#include <memory_resource>
+#include <optional>
 #include <string_view>
+#include <variant>
 
 namespace nocturo {
 
-/// A new effect of the class of that name, or null when there is none. It lies in `memory` and ends
-/// with it: effects own nothing, so nobody destroys them.
-NDEffect* effectNamed(std::string_view className, std::pmr::memory_resource& memory);
+/// An effect of any class that can be selected, as a value.
+using SelectedEffect = std::variant<NDInvertEffect, NDHideStripesEffect, NDDimEffect,
+                                    NDColorFilterEffect, NDHDTVLuminanceEffect>;
+
+/// A new effect of the class of that name, or nothing when there is none. Allocates nothing.
+std::optional<SelectedEffect> effectNamed(std::string_view className);
+
+/// The effect as its base class; belongs to `selected`.
+NDEffect& baseOf(SelectedEffect& selected);
 
 } // namespace nocturo

@@ -35,24 +35,20 @@ class SelectedEffects {
         }
         effects_.reserve(names->size());
         for (const PropertyValue& entry : *names) {
-            // A selection that was edited by hand to hold the group itself would never come to an
-            // end, so the group does not count.
+            // The group itself, in a selection that was edited by hand, is no effect either.
             const auto* name = entry.as<std::string>();
-            if (name == nullptr || *name == NDGroupEffect::kName) {
-                continue;
-            }
-            if (NDEffect* effect = effectNamed(*name, memory_)) {
-                effects_.push_back(effect);
+            if (const auto effect = name != nullptr ? effectNamed(*name) : std::nullopt) {
+                effects_.push_back(*effect);
             }
         }
     }
 
-    std::span<NDEffect*> effects() { return effects_; }
+    std::span<SelectedEffect> effects() { return effects_; }
 
   private:
     std::array<std::byte, 1024> stack_;
     std::pmr::monotonic_buffer_resource memory_{stack_.data(), stack_.size()};
-    std::pmr::vector<NDEffect*> effects_{&memory_};
+    std::pmr::vector<SelectedEffect> effects_{&memory_};
 };
 
 } // namespace
@@ -114,20 +110,21 @@ std::size_t NDGroupEffect::effectCount() const {
 
 void NDGroupEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve, double atTime) {
     SelectedEffects selected(selection());
-    const std::span<NDEffect*> effects = selected.effects();
-    std::sort(effects.begin(), effects.end(), [](const NDEffect* left, const NDEffect* right) {
-        return left->priorityCompare(*right) == NSComparisonResult::NSOrderedAscending;
+    const std::span<SelectedEffect> effects = selected.effects();
+    std::sort(effects.begin(), effects.end(), [](SelectedEffect& left, SelectedEffect& right) {
+        return baseOf(left).priorityCompare(baseOf(right)) ==
+               NSComparisonResult::NSOrderedAscending;
     });
-    for (NDEffect* effect : effects) {
-        effect->applyEffectOnGammaCurve(curve, atTime);
+    for (SelectedEffect& effect : effects) {
+        baseOf(effect).applyEffectOnGammaCurve(curve, atTime);
     }
 }
 
 double NDGroupEffect::animationTimeInterval() const {
     double shortest = NDEffect::animationTimeInterval();
     SelectedEffects selected(selection());
-    for (const NDEffect* effect : selected.effects()) {
-        shortest = std::min(shortest, effect->animationTimeInterval());
+    for (SelectedEffect& effect : selected.effects()) {
+        shortest = std::min(shortest, baseOf(effect).animationTimeInterval());
     }
     return shortest * 0.5;
 }
