@@ -6,10 +6,20 @@
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
 #include "effects/invert_effect.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 #include <algorithm>
 
 namespace nocturo {
+
+namespace {
+
+float inRange(float value, const RealSetting& setting) {
+    return std::clamp(value, setting.lowest, setting.highest);
+}
+
+} // namespace
 
 EffectDocument currentEffects() {
     const NDGroupEffect chosen;
@@ -26,15 +36,17 @@ EffectDocument currentEffects() {
 }
 
 void setCurrentEffects(const EffectDocument& document) {
+    const DefaultsStore::Batch oneChange(NDEffect::userDefaults());
     NDGroupEffect chosen;
     chosen.setContains(document.invertScreen, NDInvertEffect::kName);
     chosen.setContains(document.overexposure, NDHideStripesEffect::kName);
     chosen.setContains(document.hdtvLuminance, NDHDTVLuminanceEffect::kName);
     chosen.setContains(document.colorFilter, NDColorFilterEffect::kName);
-    NDColorFilterEffect::setHue(std::clamp(document.colorFilterHue, 0.0F, 360.0F));
-    NDColorFilterEffect::setVividness(std::clamp(document.colorFilterVividness, 0.0F, 1.0F));
+    NDColorFilterEffect::setHue(inRange(document.colorFilterHue, kColorFilterHue));
+    NDColorFilterEffect::setVividness(
+        inRange(document.colorFilterVividness, kColorFilterVividness));
     chosen.setContains(document.dim, NDDimEffect::kName);
-    NDDimEffect::setLevel(std::clamp(document.dimLevel, -1.0F, 1.0F));
+    NDDimEffect::setLevel(inRange(document.dimLevel, kDimLevel));
 }
 
 } // namespace nocturo
