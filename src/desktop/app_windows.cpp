@@ -43,7 +43,8 @@ NDPreferencesController& AppWindows::preferencesController() {
         preferenceController = std::make_unique<NDPreferencesController>(PreferenceSurroundings{
             defaults_, localCenter_,
             [this](CGDirectDisplayID display) { return capturedCurve(display); },
-            [this](bool recording) { controller_.setRecordingHotKey(recording); }});
+            [this](bool recording) { controller_.setRecordingHotKey(recording); },
+            [this] { return documentFolder ? documentFolder() : std::filesystem::path(); }});
         preferenceController->setKeyboardLayout(layout_);
         QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,
                          preferenceController.get(), [this](const QString& path) {

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QString>
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -46,6 +47,9 @@ class AppWindows : public UserInterface {
 
     /// Called with the path of every document that was opened, or saved at the user's wish.
     std::function<void(const QString& path)> documentWasUsed;
+
+    /// Where a document is looked for and put at first; the home directory where that is empty.
+    std::function<std::filesystem::path()> documentFolder;
 
     /// Makes the preference window, if there is none, without showing it.
     void loadPreferences();

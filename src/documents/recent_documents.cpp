@@ -41,6 +41,12 @@ std::vector<std::string> RecentDocuments::paths() const {
     return paths;
 }
 
+std::filesystem::path RecentDocuments::folder() const {
+    const std::vector<std::string> latest = paths();
+    return latest.empty() ? std::filesystem::path()
+                          : std::filesystem::path(latest.front()).parent_path();
+}
+
 void RecentDocuments::note(const std::string& path) const {
     std::vector<std::string> list = paths();
     std::erase(list, path);

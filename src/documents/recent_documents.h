@@ -18,6 +18,9 @@ class RecentDocuments {
     /// The latest first; those that are gone are left out.
     std::vector<std::string> paths() const;
 
+    /// Where the latest one lies; empty where there is none.
+    std::filesystem::path folder() const;
+
     /// Puts the absolute `path` first. A list that cannot be written stays as it was.
     void note(const std::string& path) const;
 

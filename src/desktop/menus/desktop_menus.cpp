@@ -26,10 +26,12 @@ DesktopMenus::DesktopMenus(NDAppController& controller, AppWindows& windows,
     windows_.documentWasUsed = [this](const QString& path) {
         recentDocuments_.note(path.toStdString());
     };
+    windows_.documentFolder = [this] { return recentDocuments_.folder(); };
 }
 
 DesktopMenus::~DesktopMenus() {
     windows_.documentWasUsed = nullptr;
+    windows_.documentFolder = nullptr;
 }
 
 MainMenu::Handlers DesktopMenus::mainMenuHandlers() {

@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -26,9 +27,9 @@ class KeyboardLayout;
 class Menu;
 class NDScreenOptionMenuManager;
 class NotificationCenter;
-class Subjects;
 class ParameterSlider;
 class PreferencePanel;
+class Subjects;
 
 /// What the preference window needs of its surroundings; the references must outlive it.
 struct PreferenceSurroundings {
@@ -37,6 +38,8 @@ struct PreferenceSurroundings {
     CapturedCurve capturedCurve;
     /// Told whether a hot key is being recorded, so that none is registered meanwhile.
     std::function<void(bool)> recordingDidChange;
+    /// Where a document is looked for and put at first; the home directory where that is none.
+    std::function<std::filesystem::path()> documentFolder = {};
 };
 
 /// The preference window. It holds no settings of its own: every control writes straight into the
@@ -137,7 +140,6 @@ class NDPreferencesController : public QObject {
     void openPanelDidEnd(const QFileDialog& panel, int returnCode);
     void documentWasDropped(const QString& path);
     QString documentFolder() const;
-    void rememberDocumentFolder(const QString& path);
 
     PreferenceSurroundings surroundings_;
     KeyboardLayout* layout_ = nullptr;

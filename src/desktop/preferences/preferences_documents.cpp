@@ -21,8 +21,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::string_view kDocumentFolder = "NocturoDocumentFolder";
-
 QString documentSuffix() {
     return QStringLiteral(".") + QLatin1String(kEffectDocumentExtension);
 }
@@ -117,14 +115,10 @@ void NDPreferencesController::connectDocuments() {
 }
 
 QString NDPreferencesController::documentFolder() const {
-    const PropertyValue* stored = surroundings_.defaults.objectForKey(kDocumentFolder);
-    const auto* folder = stored != nullptr ? stored->as<std::string>() : nullptr;
-    const QString path = folder != nullptr ? QString::fromStdString(*folder) : QString();
+    const QString path = surroundings_.documentFolder
+                             ? QString::fromStdString(surroundings_.documentFolder())
+                             : QString();
     return QFileInfo(path).isDir() ? path : QDir::homePath();
-}
-
-void NDPreferencesController::rememberDocumentFolder(const QString& path) {
-    surroundings_.defaults.setObject(QFileInfo(path).absolutePath().toStdString(), kDocumentFolder);
 }
 
 void NDPreferencesController::saveEffect() {
@@ -157,7 +151,6 @@ void NDPreferencesController::savePanelDidEnd(const QFileDialog& panel, int retu
     if (hideExtension) {
         setExtensionHidden(path.toStdString(), true);
     }
-    rememberDocumentFolder(path);
 }
 
 bool NDPreferencesController::writeEffectFile(const QString& path) const {
@@ -185,9 +178,7 @@ void NDPreferencesController::openPanelDidEnd(const QFileDialog& panel, int retu
     if (returnCode != QDialog::Accepted) {
         return;
     }
-    const QString path = panel.selectedFiles().value(0);
-    openEffectFile(path);
-    rememberDocumentFolder(path);
+    openEffectFile(panel.selectedFiles().value(0));
 }
 
 void NDPreferencesController::documentWasDropped(const QString& path) {
