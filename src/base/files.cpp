@@ -161,4 +161,13 @@ std::filesystem::path followLinks(std::filesystem::path path) {
     return path;
 }
 
+void makePrivateDirectories(const std::filesystem::path& directory) {
+    std::error_code ignored;
+    if (directory.empty() || std::filesystem::exists(directory, ignored)) {
+        return;
+    }
+    makePrivateDirectories(directory.parent_path());
+    ::mkdir(directory.c_str(), S_IRWXU);
+}
+
 } // namespace nocturo

@@ -2,7 +2,6 @@
 
 #include "base/files.h"
 #include "base/log.h"
-#include "settings/settings_file.h"
 
 #include <algorithm>
 #include <array>
@@ -18,8 +17,8 @@
 namespace nocturo {
 
 FileWatch::FileWatch(std::filesystem::path file)
-    : file_(std::move(file)), descriptor_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
-    if (descriptor_ < 0) {
+    : file_(std::move(file)), events_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
+    if (events_.get() < 0) {
         explainOnce(errno);
         return;
     }
@@ -27,20 +26,14 @@ FileWatch::FileWatch(std::filesystem::path file)
     renew();
 }
 
-FileWatch::~FileWatch() {
-    if (descriptor_ >= 0) {
-        ::close(descriptor_);
-    }
-}
-
 bool FileWatch::processEvents() {
-    if (descriptor_ < 0) {
+    if (events_.get() < 0) {
         return false;
     }
     bool changed = false;
     std::array<char, 4096> buffer;
     for (;;) {
-        const ssize_t got = ::read(descriptor_, buffer.data(), buffer.size());
+        const ssize_t got = ::read(events_.get(), buffer.data(), buffer.size());
         if (got <= 0) {
             return changed;
         }
@@ -56,7 +49,7 @@ bool FileWatch::processEvents() {
 }
 
 void FileWatch::renew() {
-    if (descriptor_ < 0) {
+    if (events_.get() < 0) {
         return;
     }
     watched_.clear();
@@ -68,7 +61,7 @@ void FileWatch::renew() {
 
 void FileWatch::watch(const std::filesystem::path& file) {
     // The file itself would not do: whoever replaces it leaves the watch on the old one.
-    const int directory = ::inotify_add_watch(descriptor_, file.parent_path().c_str(),
+    const int directory = ::inotify_add_watch(events_.get(), file.parent_path().c_str(),
                                               IN_CLOSE_WRITE | IN_MOVED_TO | IN_ONLYDIR);
     if (directory < 0) {
         explainOnce(errno);

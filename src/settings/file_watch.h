@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/file_descriptor.h"
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,12 +15,9 @@ class FileWatch {
     /// Watches the absolute path `file`, which need not exist; its directory is made when missing.
     /// Where the system does not offer this, that is logged once and nothing is ever noticed.
     explicit FileWatch(std::filesystem::path file);
-    ~FileWatch();
-    FileWatch(const FileWatch&) = delete;
-    FileWatch& operator=(const FileWatch&) = delete;
 
     /// Becomes readable when processEvents has something to do; -1 when nothing is ever noticed.
-    int descriptor() const { return descriptor_; }
+    int descriptor() const { return events_.get(); }
 
     /// Takes what has happened since the last call, without waiting; true when the file was written
     /// or replaced.
@@ -38,7 +37,7 @@ class FileWatch {
     void explainOnce(int errorNumber);
 
     std::filesystem::path file_;
-    int descriptor_;
+    FileDescriptor events_;
     std::vector<Watched> watched_; // the file, and its target where it is a link
     bool explained_ = false;
 };

@@ -63,13 +63,4 @@ Result<std::filesystem::path> setAsideDamagedFile(const std::filesystem::path& p
     }
 }
 
-void makePrivateDirectories(const std::filesystem::path& directory) {
-    std::error_code ignored;
-    if (directory.empty() || std::filesystem::exists(directory, ignored)) {
-        return;
-    }
-    makePrivateDirectories(directory.parent_path());
-    ::mkdir(directory.c_str(), S_IRWXU);
-}
-
 } // namespace nocturo

@@ -17,8 +17,4 @@ Result<FileStamp> writeSettingsFile(const std::filesystem::path& path,
 Result<std::filesystem::path> setAsideDamagedFile(const std::filesystem::path& path,
                                                   std::chrono::system_clock::time_point when);
 
-/// Makes `directory` and the directories above it where they are missing, for the user alone.
-/// Failing is no error here: what needs the directory finds out.
-void makePrivateDirectories(const std::filesystem::path& directory);
-
 } // namespace nocturo

@@ -1,8 +1,7 @@
 #include "displays/simulated/simulated_hardware.h"
 
+#include "base/files.h"
 #include "base/log.h"
-
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <utility>
@@ -15,22 +14,13 @@ constexpr std::uint32_t kRampSize = 256;
 constexpr double kWidth = 1920;
 constexpr double kHeight = 1080;
 
-/// A failure is not told from here: it shows when the first picture is written.
-void createPrivateDirectory(const std::filesystem::path& directory) {
-    std::filesystem::path soFar;
-    for (const std::filesystem::path& part : directory) {
-        soFar /= part;
-        ::mkdir(soFar.c_str(), S_IRWXU);
-    }
-}
-
 } // namespace
 
 SimulatedHardware::SimulatedHardware(unsigned count, std::filesystem::path pictureDirectory,
                                      DrawPicture drawPicture)
     : ramps_(std::clamp(count, 1U, kMaxSimulatedHeads), identityRamp(kRampSize)),
       pictureDirectory_(std::move(pictureDirectory)), drawPicture_(std::move(drawPicture)) {
-    createPrivateDirectory(pictureDirectory_);
+    makePrivateDirectories(pictureDirectory_);
 }
 
 bool SimulatedHardware::listHeads(std::vector<Head>& heads) {
