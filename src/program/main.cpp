@@ -84,8 +84,6 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
         return endAfterHandingOver(claim, documents);
     }
     SettingsKeeper keeper(core.defaults, settingsPath(), core.runLoop);
-    const auto settingsWatch =
-        loop.watch(keeper.fileEventDescriptor(), [&] { keeper.processFileEvents(); });
 
     const auto server = XConnection::open(xDisplayName());
     if (server != nullptr) {

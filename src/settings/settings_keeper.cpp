@@ -24,8 +24,8 @@ std::string errorText(int errorNumber) {
 
 SettingsKeeper::SettingsKeeper(DefaultsStore& store, std::filesystem::path path, RunLoop& runLoop,
                                Clock now)
-    : store_(store), path_(std::move(path)), runLoop_(runLoop), now_(std::move(now)),
-      watch_(path_) {
+    : store_(store), path_(std::move(path)), runLoop_(runLoop), now_(std::move(now)), watch_(path_),
+      edits_(runLoop_.watch(watch_.descriptor(), [this] { processFileEvents(); })) {
     store_.setPersistence(this);
     takeInFile(Reason::start);
 }
@@ -39,8 +39,7 @@ void SettingsKeeper::userDomainDidChange() {
         return;
     }
     timer_ = runLoop_.scheduleTimer(kWriteDelay, [this] {
-        // A timer must not be destroyed by its own action, so it is kept until the next one fires.
-        firedTimer_ = std::move(timer_);
+        timer_.reset();
         write(Reason::timedWrite);
     });
 }
@@ -126,7 +125,7 @@ bool SettingsKeeper::isStillBeingWritten(const std::optional<FileStamp>& stamp, 
     }
     suspect_ = stamp;
     suspectTimer_ = runLoop_.scheduleTimer(kPatienceWithWriters, [this] {
-        firedTimer_ = std::move(suspectTimer_);
+        suspectTimer_.reset();
         lookAgain();
     });
     return true;

@@ -15,6 +15,7 @@ namespace nocturo {
 
 class RunLoop;
 class Timer;
+class Watch;
 
 /// Keeps a store's user domain in a property list file, and follows what others write there.
 ///
@@ -41,19 +42,13 @@ class SettingsKeeper final : public DefaultsPersistence {
     void userDomainDidChange() override;
     bool synchronize() override;
 
-    /// Call processFileEvents whenever this descriptor is readable; -1 where edits of the file
-    /// cannot be noticed.
-    int fileEventDescriptor() const { return watch_.descriptor(); }
-
-    /// Reads the file again if somebody else wrote it, without waiting.
-    void processFileEvents();
-
   private:
     enum class Reason { start, event, secondLook, timedWrite, writeNow };
 
     bool write(Reason reason);
     bool takeInFile(Reason reason);
     bool isStillBeingWritten(const std::optional<FileStamp>& stamp, Reason reason);
+    void processFileEvents();
     void lookAgain();
     bool setAside(Reason reason);
     void tellUnreadable(const std::string& what);
@@ -63,6 +58,7 @@ class SettingsKeeper final : public DefaultsPersistence {
     RunLoop& runLoop_;
     Clock now_;
     FileWatch watch_;
+    std::unique_ptr<Watch> edits_;   // null where they cannot be noticed
     std::optional<FileStamp> known_; // of the file as last read or written
     bool lostFile_ = false;          // set aside while running: the whole is to be written again
     bool toldUnreadable_ = false;
@@ -70,7 +66,6 @@ class SettingsKeeper final : public DefaultsPersistence {
     std::optional<FileStamp> suspect_; // of a file that was found damaged
     std::unique_ptr<Timer> suspectTimer_;
     std::unique_ptr<Timer> timer_;
-    std::unique_ptr<Timer> firedTimer_;
 };
 
 } // namespace nocturo

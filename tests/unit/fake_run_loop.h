@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include <poll.h>
+
 namespace nocturo {
 
 /// A run loop whose time passes only when a test says so.
@@ -24,9 +26,11 @@ class FakeRunLoop final : public RunLoop {
                                          std::function<void()> action) override {
         return schedule({delay, std::chrono::milliseconds(0), std::move(action)});
     }
-    /// Nothing becomes readable here.
-    std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/) override {
-        return std::make_unique<Watch>();
+    std::unique_ptr<Watch> watch(int descriptor, std::function<void()> action) override {
+        auto watch = std::make_unique<FakeWatch>(
+            std::make_shared<Watched>(Watched{descriptor, std::move(action)}));
+        watched_.push_back(watch->watched);
+        return watch;
     }
     std::unique_ptr<Watch> watch(int /*descriptor*/, std::function<void()> /*action*/,
                                  std::function<bool()> /*hasRead*/) override {
@@ -59,6 +63,21 @@ class FakeRunLoop final : public RunLoop {
         now_ = end;
     }
 
+    /// Calls the actions of the descriptors that are readable now; whether there was one. Time
+    /// passes without.
+    bool serveDescriptors() {
+        bool served = false;
+        for (const auto& each : std::vector(watched_)) {
+            const auto watched = each.lock();
+            pollfd source{watched != nullptr ? watched->descriptor : -1, POLLIN, 0};
+            if (::poll(&source, 1, 0) == 1) {
+                watched->action();
+                served = true;
+            }
+        }
+        return served;
+    }
+
     /// Timers that have yet to fire.
     std::size_t pendingTimers() const { return pending().size(); }
 
@@ -68,6 +87,14 @@ class FakeRunLoop final : public RunLoop {
         std::chrono::milliseconds interval; // 0 for a single shot
         std::function<void()> action;
         bool isPending = true;
+    };
+    struct Watched {
+        int descriptor;
+        std::function<void()> action;
+    };
+    struct FakeWatch final : Watch {
+        explicit FakeWatch(std::shared_ptr<Watched> own) : watched(std::move(own)) {}
+        std::shared_ptr<Watched> watched; // gone with the watch
     };
     struct FakeTimer final : Timer {
         explicit FakeTimer(std::shared_ptr<Entry> own) : entry(std::move(own)) {}
@@ -91,6 +118,7 @@ class FakeRunLoop final : public RunLoop {
     }
 
     std::vector<std::weak_ptr<Entry>> entries_; // in the order of scheduling
+    std::vector<std::weak_ptr<Watched>> watched_;
     std::vector<std::function<void()>> soon_;
     std::chrono::milliseconds now_{0};
 };

@@ -13,8 +13,6 @@
 #include <cstdlib>
 #include <limits>
 
-#include <poll.h>
-
 namespace nocturo {
 namespace {
 
@@ -128,12 +126,6 @@ class SettingsKeeperTest : public DefaultsStoreTest {
     }
     Keys onDisk() const { return readPropertyListFile(path).dictionary; }
     void editElsewhere(const Keys& content) const { writeText(path, propertyListXml(content)); }
-    /// Whether an event arrived; true at once where it did, as the kernel queues it within the call
-    /// that causes it.
-    bool eventPending() const {
-        pollfd descriptor{keeper->fileEventDescriptor(), POLLIN, 0};
-        return ::poll(&descriptor, 1, 0) == 1;
-    }
     std::ptrdiff_t setAsideFiles() const {
         const auto names = namesIn(directory);
         return std::count_if(names.begin(), names.end(), [](const std::string& name) {
@@ -195,11 +187,10 @@ TEST_F(SettingsKeeperTest, ABurstOfChangesIsOneWriteWithinASecond) {
     EXPECT_TRUE(store.synchronize());
     EXPECT_EQ(fileStamp(path), last);
 
-    EXPECT_TRUE(eventPending());
     notifications = 0;
-    keeper->processFileEvents();
+    EXPECT_TRUE(runLoop.serveDescriptors()); // at once, as the kernel queues within the call
     EXPECT_EQ(notifications, 0) << "its own writes are no news";
-    EXPECT_FALSE(eventPending());
+    EXPECT_FALSE(runLoop.serveDescriptors());
 }
 
 TEST_F(SettingsKeeperTest, FollowsEditsOnceTheyAreComplete) {
@@ -211,21 +202,21 @@ TEST_F(SettingsKeeperTest, FollowsEditsOnceTheyAreComplete) {
     {
         std::ofstream editor(path);
         editor << xml.substr(0, xml.size() / 2) << std::flush;
-        keeper->processFileEvents();
+        runLoop.serveDescriptors();
         EXPECT_EQ(store.integerForKey("a"), 1) << "half-written";
         editor << xml.substr(xml.size() / 2);
     }
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     EXPECT_EQ(store.integerForKey("a"), 2);
     EXPECT_EQ(notifications, 1);
 
     writeText(directory / "new", propertyListXml({{"a", std::int64_t{3}}}));
     std::filesystem::rename(directory / "new", path);
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     EXPECT_EQ(store.integerForKey("a"), 3);
 
     std::filesystem::remove(path);
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     EXPECT_EQ(store.integerForKey("a"), 3) << "deleting changes nothing";
     store.setBool(true, "b");
     runLoop.advance(1000);
@@ -238,19 +229,19 @@ TEST_F(SettingsKeeperTest, FollowsTheTargetOfALinkAndMakesItsDirectoryAgain) {
     std::filesystem::create_symlink(home / "dotfiles/real", home / "dotfiles/link");
     start();
     writeText(home / "dotfiles/real", propertyListXml({{"a", true}}));
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     EXPECT_TRUE(store.boolForKey("a"));
     store.setBool(false, "a");
     EXPECT_TRUE(store.synchronize());
     EXPECT_TRUE(std::filesystem::is_symlink(path));
     EXPECT_EQ(readPropertyListFile(home / "dotfiles/real").dictionary, (Keys{{"a", false}}));
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     std::filesystem::remove_all(directory);
     store.setBool(true, "b");
     runLoop.advance(1000);
     EXPECT_EQ(onDisk(), (Keys{{"a", false}, {"b", true}}));
     editElsewhere({{"a", true}}); // in the new directory
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     EXPECT_TRUE(store.boolForKey("a"));
 }
 
@@ -261,7 +252,7 @@ TEST_F(SettingsKeeperTest, AnEditIsNoticedThoughTheKernelHadTooMuchToTell) {
         std::ofstream(directory / (left % 2 == 0 ? "even" : "odd")); // equal neighbours are one
     }
     editElsewhere({{"a", true}});
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     EXPECT_TRUE(store.boolForKey("a"));
 }
 
@@ -276,7 +267,7 @@ TEST_F(SettingsKeeperTest, AnEditMadeElsewhereBeforeAWriteIsNotLost) {
     EXPECT_EQ(onDisk(), merged);
     EXPECT_EQ(store.userDomain(), merged);
     editElsewhere({}); // what was written is the user's no longer
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     EXPECT_THAT(store.userDomain(), IsEmpty());
 }
 
@@ -289,9 +280,9 @@ TEST_F(SettingsKeeperTest, ADamagedFileIsSetAsideAndTheSettingsInUseAreSavedAnew
 
     store.setBool(true, "a");
     runLoop.advance(1000);
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     writeText(path, "damaged, then noticed");
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     runLoop.advance(500 + 1000);
     EXPECT_EQ(setAsideFiles(), 2);
     EXPECT_EQ(onDisk(), (Keys{{"a", true}}));
@@ -311,7 +302,7 @@ TEST_F(SettingsKeeperTest, AFileThatIsBeingWrittenInItsPlaceIsWaitedFor) {
     store.setBool(true, "b");
     runLoop.advance(700);
     writeText(path, ""); // as an editor leaves it for a moment
-    keeper->processFileEvents();
+    runLoop.serveDescriptors();
     runLoop.advance(400); // neither the event nor the write that falls due touch it
     EXPECT_EQ(std::filesystem::file_size(path), 0U);
     editElsewhere({{"a", false}, {"theirs", true}});
