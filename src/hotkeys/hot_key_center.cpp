@@ -17,8 +17,7 @@ HotKeyPredicate hasCombination(std::uint16_t keyCode, std::uint64_t modifierFlag
 }
 
 void dispatch(const HotKeyServiceEvent& event, void (HXHotKey::*invoke)(const KeyEvent&) const) {
-    // The set also keeps the record alive while its action replaces or removes the hot key, as it
-    // does whenever the action changes a setting.
+    // The set also keeps the record alive should its action unregister it.
     const HotKeySet hotKeys = HXHotKeyCenter::sharedHotKeyCenter().hotKeysMatchingPredicate(
         [&](const HXHotKey& hotKey) { return hotKey.hotKeyID() == event.hotKeyID.id; });
     if (hotKeys.size() > 1) {
