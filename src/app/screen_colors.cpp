@@ -20,6 +20,7 @@ ScreenColors screenColors(const DefaultsStore& defaults) {
 
 void setScreenColors(DefaultsStore& defaults, const ScreenColors& colors) {
     const ScreenColors current = screenColors(defaults);
+    const DefaultsStore::Batch oneChange(defaults); // of the effects as well
     if (colors.effects && colors.effects != current.effects) {
         defaults.setObject(*colors.effects, NDGroupEffect::kName);
     }

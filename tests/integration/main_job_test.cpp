@@ -76,13 +76,15 @@ TEST_F(MainJob, EveryEffectIsExactToTheLastOfSixteenBits) {
         {"overexposure", &expected::overexposed}};
     for (const auto& [effect, curve] : effects) {
         ctl({"effects", "only", effect});
-        EXPECT_EQ(client_.ramp(output(0)), channelsOf(*curve)) << effect;
+        EXPECT_TRUE(waitUntil([&] { return client_.ramp(output(0)) == channelsOf(*curve); }))
+            << effect;
     }
     ctl({"effects", "add", "invert", "dim", "NDColorFilterEffect", "hdtv-luminance"});
     ctl({"set", "NDDimEffectLevel", "-0.3"});
     ctl({"set", "NDColorFilterEffectHue", "200.5"});
     ctl({"set", "NDColorFilterEffectVividness", "0.7"});
-    EXPECT_EQ(client_.ramp(output(0)), channelsOf(expected::allFive));
+    EXPECT_TRUE(
+        waitUntil([&] { return client_.ramp(output(0)) == channelsOf(expected::allFive); }));
 }
 
 // Re-application every 6 seconds is off, so whatever is put right was put right because the server
