@@ -13,7 +13,7 @@ namespace nocturo {
 
 namespace {
 
-constexpr const char* kInterface = "com.canonical.dbusmenu";
+constexpr const char* kMenuInterface = "com.canonical.dbusmenu";
 constexpr std::size_t kMaxListed = 1000; // of what a caller lists; a menu has a dozen items
 constexpr Menu::Id kMenuItself = Menu::kNone;
 
@@ -173,8 +173,8 @@ const std::array<sd_bus_vtable, 14> MenuExporter::Table::members = {{
 MenuExporter::MenuExporter(Menu& menu, const Bus& bus, RunLoop& runLoop, std::string path)
     : menu_(menu), bus_(bus), runLoop_(runLoop), path_(std::move(path)) {
     sd_bus_slot* slot = nullptr;
-    sd_bus_add_object_vtable(bus.handle(), &slot, path_.c_str(), kInterface, Table::members.data(),
-                             this);
+    sd_bus_add_object_vtable(bus.handle(), &slot, path_.c_str(), kMenuInterface,
+                             Table::members.data(), this);
     object_.reset(slot);
     menu_.changes().addObserver(this, kMenuDidChangeNotification, [this] { menuDidChange(); });
 }
@@ -192,8 +192,8 @@ void MenuExporter::menuDidChange() {
 
 void MenuExporter::tellLayout() {
     change_.reset();
-    sd_bus_emit_signal(bus_.handle(), path_.c_str(), kInterface, "LayoutUpdated", "ui", ++revision_,
-                       kMenuItself);
+    sd_bus_emit_signal(bus_.handle(), path_.c_str(), kMenuInterface, "LayoutUpdated", "ui",
+                       ++revision_, kMenuItself);
 }
 
 int MenuExporter::getLayout(sd_bus_message* call, sd_bus_error* /*error*/) {

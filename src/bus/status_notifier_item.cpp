@@ -29,7 +29,7 @@ std::string_view imageName(bool active) {
 /// The name under which the icon theme has the image, or nothing. Trays take a name that they
 /// cannot find for an item without an image.
 std::string themedName(bool active) {
-    const std::string name = statusIconName(imageName(active));
+    std::string name = statusIconName(imageName(active));
     for (const auto& directory : DesktopEntries::dataDirectories()) {
         std::error_code error;
         if (std::filesystem::exists(directory / "icons/hicolor/symbolic/apps" / (name + ".svg"),

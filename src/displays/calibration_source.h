@@ -31,6 +31,7 @@ class CalibrationSource {
     virtual std::uint64_t generation() = 0;
 
     /// Has `look` called from the event loop when that number may be another.
+    // Others keep it. NOLINTNEXTLINE(performance-unnecessary-value-param)
     virtual void whenChanged(std::function<void()> /*look*/) {}
 
     /// For what cannot wait in an event loop: waits, no longer than that, until all that was asked

@@ -40,6 +40,7 @@ class GammaHardware {
 
     /// Has `look` called from the event loop when that number may be another, for hardware that
     /// hears of changes.
+    // Others keep it. NOLINTNEXTLINE(performance-unnecessary-value-param)
     virtual void whenChanged(std::function<void()> /*look*/) {}
 
     /// The heads that are on, in a stable order; false when they cannot be listed.
