@@ -7,34 +7,15 @@
 
 namespace nocturo {
 
-namespace {
-
-// Takes in what the server sends; the descriptor of one that has gone would be readable for ever.
-template <typename Source>
-std::unique_ptr<Watch> watch(RunLoop& runLoop, Source& source, std::unique_ptr<Watch>& keptIn) {
-    return runLoop.watch(source.descriptor(), [&source, &keptIn] {
-        source.processEvents();
-        if (source.connectionLost()) {
-            keptIn.reset();
-        }
-    });
-}
-
-} // namespace
-
-DesktopHotKeys::DesktopHotKeys(const std::string& xDisplay, RunLoop& runLoop) {
-    if (!xDisplay.empty()) {
-        service_ = X11HotKeyService::open(xDisplay);
-        layout_ = XkbKeyboardLayout::open(xDisplay);
+DesktopHotKeys::DesktopHotKeys(XConnection* server) {
+    if (server != nullptr) {
+        service_ = X11HotKeyService::open(*server);
+        layout_ = std::make_unique<XkbKeyboardLayout>(*server);
     }
     if (service_ != nullptr) {
-        serviceWatch_ = watch(runLoop, *service_, serviceWatch_);
         HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(service_.get());
     } else {
         logInfo(kLogHotKeys, "There is no X server that could offer a global hot key.");
-    }
-    if (layout_ != nullptr) {
-        layoutWatch_ = watch(runLoop, *layout_, layoutWatch_);
     }
 }
 

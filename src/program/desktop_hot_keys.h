@@ -1,14 +1,12 @@
 #pragma once
 
-#include "base/run_loop.h"
-
 #include <memory>
-#include <string>
 
 namespace nocturo {
 
 class KeyboardLayout;
 class X11HotKeyService;
+class XConnection;
 class XkbKeyboardLayout;
 
 /// The hot key service and the keyboard layout of the desktop, in the event loop. Where the desktop
@@ -16,8 +14,8 @@ class XkbKeyboardLayout;
 /// object lives.
 class DesktopHotKeys {
   public:
-    /// `xDisplay` is empty where there is no X server.
-    DesktopHotKeys(const std::string& xDisplay, RunLoop& runLoop);
+    /// `server` is null where there is no X server.
+    explicit DesktopHotKeys(XConnection* server);
     ~DesktopHotKeys();
     DesktopHotKeys(const DesktopHotKeys&) = delete;
     DesktopHotKeys& operator=(const DesktopHotKeys&) = delete;
@@ -28,8 +26,6 @@ class DesktopHotKeys {
   private:
     std::unique_ptr<X11HotKeyService> service_;
     std::unique_ptr<XkbKeyboardLayout> layout_;
-    std::unique_ptr<Watch> serviceWatch_;
-    std::unique_ptr<Watch> layoutWatch_;
 };
 
 } // namespace nocturo

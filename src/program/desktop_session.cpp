@@ -8,8 +8,9 @@
 
 namespace nocturo {
 
-DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays)
-    : core_(core), displays_(displays), applications_(DesktopEntries::dataDirectories()),
+DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays, XConnection* server)
+    : core_(core), displays_(displays), server_(server),
+      applications_(DesktopEntries::dataDirectories()),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);
     core.desktop.sessionIsEnding = [this] { windowRestoration_.save(); };
@@ -44,15 +45,15 @@ void DesktopSession::launch(const std::vector<std::string>& documents,
 
 void DesktopSession::listen() {
     // A grab on the X server of a Wayland session would never see a key.
-    hotKeys_.emplace(waylandDisplayName().empty() ? xDisplayName() : std::string(), core_.runLoop);
+    hotKeys_.emplace(waylandDisplayName().empty() ? server_ : nullptr);
     core_.face.setKeyboardLayout(hotKeys_->layout());
     core_.desktop.setKeyboardLayout(hotKeys_->layout());
     core_.controller.updateHotKey();
     core_.face.launchDidFinish();
     sources_.emplace(core_.centers, core_.runLoop,
-                     DesktopSources::Surroundings{
-                         displays_.areOfXServer() ? xDisplayName() : std::string(), loginSession(),
-                         core_.sessionBus.get(), core_.systemBus.get()});
+                     DesktopSources::Surroundings{displays_.areOfXServer() ? server_ : nullptr,
+                                                  loginSession(), core_.sessionBus.get(),
+                                                  core_.systemBus.get()});
 }
 
 } // namespace nocturo

@@ -18,8 +18,8 @@ struct Core;
 /// What Nocturo shows on the desktop and hears from it.
 class DesktopSession {
   public:
-    /// Both must outlive the session.
-    DesktopSession(Core& core, const ConnectedDisplays& displays);
+    /// All must outlive the session; `server` is null where there is no X server.
+    DesktopSession(Core& core, const ConnectedDisplays& displays, XConnection* server);
     ~DesktopSession();
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;
@@ -38,6 +38,7 @@ class DesktopSession {
 
     Core& core_;
     const ConnectedDisplays& displays_;
+    XConnection* server_;
     const DesktopEntries applications_;
     WindowRestoration windowRestoration_;
     std::optional<DesktopHotKeys> hotKeys_;

@@ -103,7 +103,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     }
     const ConnectedDisplays displays(std::move(*opened), core.centers);
 
-    DesktopSession desktop(core, displays);
+    DesktopSession desktop(core, displays, server.get());
     desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
     finishStartup(xDisplayName(), startupIdentifier); // there may never be a window
     const ProgramWatch programWatch(ownProgram(), loop, [&loop] {

@@ -1,7 +1,6 @@
 #include "session/application_watch.h"
 
 #include "base/run_loop.h"
-#include "x11/x_events.h"
 
 #include <algorithm>
 #include <utility>
@@ -22,26 +21,23 @@ constexpr const char* kNameVanished =
 
 } // namespace
 
-ApplicationWatch::ApplicationWatch(XEvents* events, const Bus* bus, RunLoop& runLoop,
+ApplicationWatch::ApplicationWatch(XConnection* server, const Bus* bus, RunLoop& runLoop,
                                    std::function<void()> quit)
-    : events_(events), bus_(bus), runLoop_(runLoop), quit_(std::move(quit)) {
-    if (events_ == nullptr) {
+    : server_(server), bus_(bus), runLoop_(runLoop), quit_(std::move(quit)) {
+    if (server_ == nullptr) {
         listenToBus(true);
         return;
     }
-    windowListAtom_ = events_->atom("_NET_CLIENT_LIST");
-    events_->onProperty(windowListAtom_, [this] { readWindowList(); });
+    windowListAtom_ = server_->atom("_NET_CLIENT_LIST");
+    windowList_ =
+        server_->onProperty(server_->root(), windowListAtom_, [this] { readWindowList(); });
     readWindowList();
 }
 
-ApplicationWatch::~ApplicationWatch() {
-    if (events_ != nullptr) {
-        events_->onProperty(windowListAtom_, [] {});
-    }
-}
+ApplicationWatch::~ApplicationWatch() = default;
 
 void ApplicationWatch::readWindowList() {
-    auto windows = events_->rootProperty(windowListAtom_);
+    auto windows = server_->property(server_->root(), windowListAtom_);
     if (windows) {
         std::sort(windows->begin(), windows->end());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/bus.h"
+#include "x11/x_connection.h"
 
 #include <cstdint>
 #include <functional>
@@ -12,16 +13,16 @@ namespace nocturo {
 
 class RunLoop;
 class Timer;
-class XEvents;
 
 /// Notices that applications quit: by windows leaving the window manager's list of an X server, or,
 /// where there is no such list, by names leaving the session bus. Connections without a name are
 /// not looked at: nearly every program has some, and drops them while it runs.
 class ApplicationWatch {
   public:
-    /// `events` and `bus` may be null; both must outlive the watch. Calls `quit` from the run loop,
+    /// `server` and `bus` may be null; both must outlive the watch. Calls `quit` from the run loop,
     /// once for all that quit within a moment.
-    ApplicationWatch(XEvents* events, const Bus* bus, RunLoop& runLoop, std::function<void()> quit);
+    ApplicationWatch(XConnection* server, const Bus* bus, RunLoop& runLoop,
+                     std::function<void()> quit);
     ~ApplicationWatch();
     ApplicationWatch(const ApplicationWatch&) = delete;
     ApplicationWatch& operator=(const ApplicationWatch&) = delete;
@@ -31,7 +32,8 @@ class ApplicationWatch {
     void listenToBus(bool listen);
     void announceSoon();
 
-    XEvents* events_;
+    XConnection* server_;
+    XListener windowList_;
     const Bus* bus_;
     RunLoop& runLoop_;
     std::function<void()> quit_;

@@ -8,9 +8,9 @@
 #include "session/screen_saver_state.h"
 #include "session/x_screen_saver.h"
 #include "session/xscreensaver_status.h"
-#include "x11/x_events.h"
 
 #include <optional>
+#include <vector>
 
 namespace nocturo {
 
@@ -18,7 +18,8 @@ struct DesktopSources::Parts {
     explicit Parts(NotificationCenter& distributed) : screenSaver(distributed) {}
 
     ScreenSaverState screenSaver;
-    std::unique_ptr<XEvents> xEvents;
+    XListener xScreenSaver;
+    std::vector<XListener> xScreenSaverStatus;
     std::optional<BusScreenSavers> busScreenSavers;
     std::optional<ApplicationWatch> applications;
     std::optional<LoginSession> login;
@@ -31,17 +32,15 @@ DesktopSources::DesktopSources(const NotificationCenters& centers, RunLoop& runL
         return [&workspace, name] { workspace.post(name); };
     };
     Parts& parts = *parts_;
-    if (!surroundings.xDisplay.empty()) {
-        parts.xEvents = XEvents::open(surroundings.xDisplay, runLoop);
-    }
-    if (parts.xEvents != nullptr) {
-        followXScreenSaver(*parts.xEvents, parts.screenSaver);
-        followXScreenSaverStatus(*parts.xEvents, parts.screenSaver);
+    XConnection* server = surroundings.server;
+    if (server != nullptr) {
+        parts.xScreenSaver = followXScreenSaver(*server, parts.screenSaver);
+        parts.xScreenSaverStatus = followXScreenSaverStatus(*server, parts.screenSaver);
     }
     if (surroundings.sessionBus != nullptr) {
         parts.busScreenSavers.emplace(*surroundings.sessionBus, parts.screenSaver);
     }
-    parts.applications.emplace(parts.xEvents.get(), surroundings.sessionBus, runLoop,
+    parts.applications.emplace(server, surroundings.sessionBus, runLoop,
                                poster(NSWorkspaceDidTerminateApplicationNotification));
     if (surroundings.systemBus != nullptr) {
         parts.login.emplace(
@@ -53,9 +52,6 @@ DesktopSources::DesktopSources(const NotificationCenters& centers, RunLoop& runL
     } else {
         logInfo(kLogWorkspace, "There is no system bus, so Nocturo is not told when the "
                                "computer wakes up.");
-    }
-    if (parts.xEvents != nullptr) {
-        parts.xEvents->processEvents();
     }
 }
 

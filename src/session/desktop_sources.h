@@ -9,6 +9,7 @@ namespace nocturo {
 
 class Bus;
 class RunLoop;
+class XConnection;
 
 /// What the desktop around the application tells: posts on the workspace center when the computer
 /// wakes up, the session becomes active and applications quit, and on the distributed center when
@@ -16,7 +17,7 @@ class RunLoop;
 class DesktopSources {
   public:
     struct Surroundings {
-        std::string xDisplay;  // of the X server that the displays are of; empty for none
+        XConnection* server;   // the X server that the displays are of; null for none
         std::string sessionId; // $XDG_SESSION_ID; empty when not set
         const Bus* sessionBus; // null where there is none
         const Bus* systemBus;
@@ -24,7 +25,7 @@ class DesktopSources {
 
     /// All that is posted comes from the event loop, but for the start of a screen saver of the X
     /// server that runs already: it is posted at once. Make it after the launch. `centers`,
-    /// `runLoop` and the buses must outlive it.
+    /// `runLoop` and the surroundings must outlive it.
     DesktopSources(const NotificationCenters& centers, RunLoop& runLoop,
                    const Surroundings& surroundings);
     ~DesktopSources();

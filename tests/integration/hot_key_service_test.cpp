@@ -1,6 +1,7 @@
 // What an application with one hot key cannot show: several at once, changes while a key is held,
 // and events that arrive along with an answer.
 
+#include "base/event_loop.h"
 #include "hotkeys/keyboard/modifier_flags.h"
 #include "hotkeys/keyboard/xkb_keyboard_layout.h"
 #include "hotkeys/x11/x11_hot_key_service.h"
@@ -28,7 +29,9 @@ class HotKeyServiceTest : public testing::Test {
   protected:
     HotKeyServiceTest() {
         server.setLayout("us");
-        service = X11HotKeyService::open(server.display());
+        connection = XConnection::open(server.display());
+        connection->join(loop);
+        service = X11HotKeyService::open(*connection);
         const auto note = [this](const char* what, const HotKeyServiceEvent& event) {
             events.push_back(event);
             told.push_back(what + std::to_string(event.hotKeyID.id));
@@ -47,17 +50,20 @@ class HotKeyServiceTest : public testing::Test {
     /// the last time.
     Told hears(std::size_t count) {
         do {
-            service->processEvents();
+            loop.dispatchPending();
         } while (told.size() < count && wakesUp());
         return std::exchange(told, {});
     }
-    bool wakesUp() const {
-        pollfd source{service->descriptor(), POLLIN, 0};
-        return poll(&source, 1, static_cast<int>(rig::kPatience.count())) == 1;
+    bool wakesUp() {
+        const bool due = loop.prepare();
+        pollfd source{loop.descriptor(), POLLIN, 0};
+        return due || poll(&source, 1, static_cast<int>(rig::kPatience.count())) == 1;
     }
 
     rig::XServer server{1};
     rig::XClient client{server.display()};
+    EventLoop loop;
+    std::unique_ptr<XConnection> connection;
     std::unique_ptr<X11HotKeyService> service;
     Told told;
     std::vector<HotKeyServiceEvent> events;
@@ -117,7 +123,7 @@ TEST_F(HotKeyServiceTest, survivesRepeatsAndChangesFromItsOwnHandlers) {
     // Nothing but repeats can wake the service now, and each must find the list as it was.
     for (int wakeUps = 0; wakeUps < 10; ++wakeUps) {
         ASSERT_TRUE(wakesUp());
-        service->processEvents();
+        loop.dispatchPending();
         ASSERT_EQ(told, Told{});
     }
     client.release(KEY_F5);
@@ -141,12 +147,11 @@ TEST_F(HotKeyServiceTest, survivesRepeatsAndChangesFromItsOwnHandlers) {
 // What the keys of a full-size board type, by virtual key code: 0 is where us boards have A, 6 Z,
 // 24 the one left of backspace, 33 the one right of P, 50 the one left of 1, 41 right of L.
 TEST_F(HotKeyServiceTest, namesKeysAsTheLayoutEngravesThemUntilTheServerIsGone) {
-    const auto layout = XkbKeyboardLayout::open(server.display());
-    ASSERT_TRUE(layout);
+    XkbKeyboardLayout layout(*connection);
     const auto typed = [&](std::initializer_list<std::uint16_t> keyCodes) {
         std::string texts;
         for (const auto keyCode : keyCodes) {
-            texts += layout->textForKeyDown(keyCode, 0) + " ";
+            texts += layout.textForKeyDown(keyCode, 0) + " ";
         }
         return texts;
     };
@@ -160,7 +165,7 @@ TEST_F(HotKeyServiceTest, namesKeysAsTheLayoutEngravesThemUntilTheServerIsGone) 
     const std::pair<std::uint32_t, const char*> states[] = {
         {2, "A"}, {2 | 4, "a"}, {16, ""}, {1 | 8 | 0xff00, "a"}};
     for (const auto& [modifiers, text] : states) {
-        EXPECT_EQ(layout->textForKeyDown(0, modifiers), text)
+        EXPECT_EQ(layout.textForKeyDown(0, modifiers), text)
             << "2 shift, 4 caps lock, which it undoes, 16 control, others";
     }
     server.setLayout("de");
@@ -170,22 +175,20 @@ TEST_F(HotKeyServiceTest, namesKeysAsTheLayoutEngravesThemUntilTheServerIsGone) 
     client.type({KEY_COMPOSE});
     EXPECT_TRUE(follows("ф я = х ж ё "));
     client.type({KEY_CAPSLOCK});
-    EXPECT_EQ(layout->textForKeyDown(0, 0), "ф") << "what is locked is for the caller to say";
+    EXPECT_EQ(layout.textForKeyDown(0, 0), "ф") << "what is locked is for the caller to say";
 
     const auto handle = add(kF5, cmdKey, 1);
     ASSERT_TRUE(handle);
-    EXPECT_FALSE(service->connectionLost());
+    EXPECT_FALSE(connection->isLost());
     server.kill();
     EXPECT_TRUE(wakesUp());
-    service->processEvents();
-    EXPECT_TRUE(service->connectionLost());
+    loop.dispatchPending();
+    EXPECT_TRUE(connection->isLost());
     EXPECT_FALSE(add(kF6, cmdKey, 2));
     service->unregisterHotKey(*handle);
-    EXPECT_EQ(layout->textForKeyDown(0, 0), "");
-    EXPECT_TRUE(layout->connectionLost());
+    EXPECT_EQ(layout.textForKeyDown(0, 0), "");
     for (const std::string& display : {server.display(), std::string()}) {
-        EXPECT_EQ(X11HotKeyService::open(display), nullptr);
-        EXPECT_EQ(XkbKeyboardLayout::open(display), nullptr);
+        EXPECT_EQ(XConnection::open(display), nullptr);
     }
 }
 

@@ -27,29 +27,21 @@ bool isControlCharacter(const std::string& text) {
 
 } // namespace
 
-std::unique_ptr<XkbKeyboardLayout> XkbKeyboardLayout::open(const std::string& displayName) {
-    if (displayName.empty()) {
-        return nullptr; // to xcb it would mean the environment's
-    }
-    XcbConnection connection(xcb_connect(displayName.c_str(), nullptr));
+void XkbKeyboardLayout::prepare() {
     std::uint8_t firstEvent = 0;
-    if (xcb_connection_has_error(connection.get()) ||
+    if (std::exchange(isPrepared_, true) ||
         !xkb_x11_setup_xkb_extension(
-            connection.get(), XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
+            server_.handle(), XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
             XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, &firstEvent, nullptr)) {
-        return nullptr;
+        return;
     }
-    std::unique_ptr<XkbKeyboardLayout> layout(
-        new XkbKeyboardLayout(std::move(connection), firstEvent));
-    return layout->context_ && layout->subscribe() ? std::move(layout) : nullptr;
+    context_.reset(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES));
+    events_ = server_.noteEvent(firstEvent, [this](const auto& event) { note(event); });
+    subscribe();
 }
 
-XkbKeyboardLayout::XkbKeyboardLayout(XcbConnection connection, std::uint8_t firstEvent)
-    : connection_(std::move(connection)), firstEvent_(firstEvent),
-      context_(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES)) {}
-
 // Of the state only the group is asked for: the modifiers' would come with every key typed.
-bool XkbKeyboardLayout::subscribe() {
+void XkbKeyboardLayout::subscribe() {
     constexpr std::uint16_t kEvents = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY |
                                       XCB_XKB_EVENT_TYPE_MAP_NOTIFY |
                                       XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
@@ -60,31 +52,16 @@ bool XkbKeyboardLayout::subscribe() {
     details.affectNewKeyboard = details.newKeyboardDetails =
         XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_DEVICE_ID;
     details.affectState = details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
-    const auto cookie = xcb_xkb_select_events_aux_checked(connection_.get(), kKeyboard, kEvents, 0,
-                                                          0, kMapParts, kMapParts, &details);
-    const XcbReply<xcb_generic_error_t> error(xcb_request_check(connection_.get(), cookie));
-    return !error && !connectionLost();
+    xcb_xkb_select_events_aux(server_.handle(), kKeyboard, kEvents, 0, 0, kMapParts, kMapParts,
+                              &details);
 }
 
-int XkbKeyboardLayout::descriptor() const {
-    return xcb_get_file_descriptor(connection_.get());
-}
-
-bool XkbKeyboardLayout::connectionLost() const {
-    return xcb_connection_has_error(connection_.get()) != 0;
-}
-
-void XkbKeyboardLayout::processEvents() {
-    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
-        if ((event->response_type & 0x7fu) != firstEvent_) {
-            continue;
-        }
-        // All keyboard events have one number; which it is stands where others have details.
-        if (event->pad0 == XCB_XKB_STATE_NOTIFY) {
-            group_ = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(*event).group;
-        } else {
-            outdated_ = true;
-        }
+void XkbKeyboardLayout::note(const xcb_generic_event_t& event) {
+    // All keyboard events have one number; which it is stands where others have details.
+    if (event.pad0 == XCB_XKB_STATE_NOTIFY) {
+        group_ = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event).group;
+    } else {
+        outdated_ = true;
     }
 }
 
@@ -93,7 +70,7 @@ void XkbKeyboardLayout::processEvents() {
 void XkbKeyboardLayout::readLayout() {
     outdated_ = false;
     state_.reset();
-    auto* raw = connection_.get();
+    auto* raw = server_.handle();
     const auto device = xkb_x11_get_core_keyboard_device_id(raw);
     if (device < 0) {
         return;
@@ -126,12 +103,13 @@ xkb_mod_mask_t XkbKeyboardLayout::modifierMask(std::uint32_t modifierKeyState) c
 
 std::string XkbKeyboardLayout::textForKeyDown(std::uint16_t keyCode,
                                               std::uint32_t modifierKeyState) {
-    processEvents();
-    if (outdated_ && !connectionLost()) {
+    prepare();
+    server_.takeIn();
+    if (events_ != nullptr && outdated_ && !server_.isLost()) {
         readLayout();
     }
     const auto evdevCode = evdevFromVirtualKeyCode(keyCode);
-    if (!state_ || !evdevCode || connectionLost()) {
+    if (!state_ || !evdevCode || server_.isLost()) {
         return {};
     }
     const xkb_keycode_t key = *evdevCode + xkb_keycode_t{kEvdevToX11Offset};

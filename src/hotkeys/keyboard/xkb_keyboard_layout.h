@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hotkeys/keyboard/keyboard_layout.h"
-#include "x11/xcb_handles.h"
+#include "x11/x_connection.h"
 
 #include <array>
 #include <memory>
@@ -11,29 +11,16 @@
 
 namespace nocturo {
 
-/// The layout of an X server's keyboard. It follows layout and group by the server's events, so
-/// that naming a key asks the server nothing, except once after the layout itself has changed.
-///
-/// The connection is its own: events are read where they are needed, at each naming, and a layout
-/// that is read anew disturbs nobody else's events.
-///
-/// A server that goes away makes connectionLost() true and every text empty.
+/// The layout of an X server's keyboard. It is looked at when a key is first named, and followed
+/// from then on by the server's events, so that naming a key asks the server nothing, except once
+/// after the layout itself has changed. Without a keyboard extension (XKB), and after the server
+/// went away, every text is empty.
 class XkbKeyboardLayout final : public KeyboardLayout {
   public:
-    /// Connects to the server of a display name such as ":0". Null when it cannot be reached or has
-    /// no keyboard extension (XKB). The layout itself is read when first needed.
-    static std::unique_ptr<XkbKeyboardLayout> open(const std::string& displayName);
+    /// The connection must outlive the layout.
+    explicit XkbKeyboardLayout(XConnection& server) : server_(server) {}
 
     std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t modifierKeyState) override;
-
-    /// Readable whenever the server sent something, and when it is gone. It stays the layout's.
-    int descriptor() const;
-
-    /// Takes in what the server has sent without waiting for more. Naming does the same; an event
-    /// loop calls it so that a program that names nothing for days does not let events pile up.
-    void processEvents();
-
-    bool connectionLost() const;
 
   private:
     struct Release {
@@ -43,14 +30,15 @@ class XkbKeyboardLayout final : public KeyboardLayout {
     };
     static constexpr std::size_t kModifierCount = 5;
 
-    XkbKeyboardLayout(XcbConnection connection, std::uint8_t firstEvent);
-
-    bool subscribe();
+    void prepare();
+    void subscribe();
+    void note(const xcb_generic_event_t& event);
     void readLayout();
     xkb_mod_mask_t modifierMask(std::uint32_t modifierKeyState) const;
 
-    XcbConnection connection_;
-    std::uint8_t firstEvent_;
+    XConnection& server_;
+    bool isPrepared_ = false;
+    XListener events_; // null until it is prepared, and without the extension
     std::unique_ptr<xkb_context, Release> context_;
     std::unique_ptr<xkb_state, Release> state_; // holds its keymap; null when none could be read
     std::array<xkb_mod_mask_t, kModifierCount> modifierMasks_{};

@@ -14,8 +14,8 @@
 // the key is released: whatever key is pressed meanwhile arrives too, and the release arrives also
 // when the grab itself has been given back.
 //
-// A held key repeats. A client of its own connection may ask for repeats without releases in
-// between, which is one reason to have one; the other is that nobody else reads our events.
+// A held key repeats. The connection asks for repeats without releases in between, which concerns
+// nothing else on it: keys arrive here alone.
 
 namespace nocturo {
 
@@ -53,28 +53,43 @@ bool prepareKeyboard(xcb_connection_t* connection) {
 
 } // namespace
 
-std::unique_ptr<X11HotKeyService> X11HotKeyService::open(const std::string& displayName) {
-    if (displayName.empty()) {
-        return nullptr; // to xcb it would mean the environment's
-    }
-    XcbConnection connection(xcb_connect(displayName.c_str(), nullptr));
-    if (xcb_connection_has_error(connection.get())) {
+std::unique_ptr<X11HotKeyService> X11HotKeyService::open(XConnection& server) {
+    const auto* extension = xcb_get_extension_data(server.handle(), &xcb_xkb_id);
+    if (extension == nullptr || !extension->present || !prepareKeyboard(server.handle())) {
         return nullptr;
     }
-    const auto* extension = xcb_get_extension_data(connection.get(), &xcb_xkb_id);
-    if (extension == nullptr || !extension->present || !prepareKeyboard(connection.get())) {
-        return nullptr;
-    }
-    return std::unique_ptr<X11HotKeyService>(
-        new X11HotKeyService(std::move(connection), extension->first_event));
+    return std::unique_ptr<X11HotKeyService>(new X11HotKeyService(server, extension->first_event));
 }
 
-X11HotKeyService::X11HotKeyService(XcbConnection connection, std::uint8_t firstKeyboardEvent)
-    : connection_(std::move(connection)), firstKeyboardEvent_(firstKeyboardEvent),
-      realModifiers_(lookUpRealModifiers(connection_.get())) {
-    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection_.get()));
-    for (; screens.rem > 0; xcb_screen_next(&screens)) {
-        roots_.push_back(screens.data->root);
+X11HotKeyService::X11HotKeyService(XConnection& server, std::uint8_t firstKeyboardEvent)
+    : server_(server), realModifiers_(lookUpRealModifiers(server.handle())) {
+    listen(firstKeyboardEvent);
+}
+
+void X11HotKeyService::listen(std::uint8_t firstKeyboardEvent) {
+    listeners_ = {
+        server_.onEvent(XCB_KEY_PRESS,
+                        [this](const xcb_generic_event_t& event) {
+                            handlePress(reinterpret_cast<const xcb_key_press_event_t&>(event));
+                        }),
+        server_.onEvent(XCB_KEY_RELEASE,
+                        [this](const xcb_generic_event_t& event) {
+                            handleRelease(reinterpret_cast<const xcb_key_release_event_t&>(event));
+                        }),
+    };
+    // Such changes come in bursts, of which the first handler follows all that was read.
+    for (const unsigned type : {unsigned{XCB_MAPPING_NOTIFY}, unsigned{firstKeyboardEvent}}) {
+        listeners_.push_back(server_.noteEvent(type, [this, type](const auto& event) {
+            // All keyboard events have one number; which it is stands where others have details.
+            mappingChanged_ = mappingChanged_ || type == XCB_MAPPING_NOTIFY ||
+                              event.pad0 == XCB_XKB_NEW_KEYBOARD_NOTIFY ||
+                              event.pad0 == XCB_XKB_MAP_NOTIFY;
+        }));
+        listeners_.push_back(server_.onEvent(type, [this](const auto&) {
+            if (std::exchange(mappingChanged_, false)) {
+                followMapping();
+            }
+        }));
     }
 }
 
@@ -82,7 +97,7 @@ std::optional<HotKeyHandle> X11HotKeyService::registerHotKey(std::uint16_t keyCo
                                                              std::uint32_t modifiers,
                                                              EventHotKeyID hotKeyID) {
     const auto key = serverKeyCode(keyCode);
-    if (!key || connectionLost()) {
+    if (!key || server_.isLost()) {
         return std::nullopt;
     }
     const Combination combination{*key, modifiers & kAllModifiers};
@@ -91,7 +106,7 @@ std::optional<HotKeyHandle> X11HotKeyService::registerHotKey(std::uint16_t keyCo
         return std::nullopt;
     }
     const bool claimed = grab(combination);
-    flushAndWake();
+    xcb_flush(server_.handle());
     if (!claimed) {
         return std::nullopt;
     }
@@ -106,7 +121,7 @@ void X11HotKeyService::unregisterHotKey(HotKeyHandle handle) {
     }
     ungrab(found->combination);
     registrations_.erase(found);
-    flushAndWake();
+    xcb_flush(server_.handle());
 }
 
 void X11HotKeyService::setHandlers(Handler released, Handler pressed) {
@@ -118,7 +133,7 @@ template <class Visit>
 void X11HotKeyService::forEachGrab(const Combination& combination, Visit visit) const {
     const unsigned wanted = modifierStateFromMask(realModifiers_, combination.modifiers);
     const unsigned locks = realModifiers_.locks;
-    for (const auto root : roots_) {
+    for (const auto root : server_.roots()) {
         // Counts down through the sets of locks, the empty one last.
         for (unsigned on = locks;; on = (on - 1) & locks) {
             visit(root, static_cast<std::uint16_t>(wanted | on));
@@ -134,68 +149,25 @@ void X11HotKeyService::forEachGrab(const Combination& combination, Visit visit) 
 bool X11HotKeyService::grab(const Combination& combination) {
     std::vector<xcb_void_cookie_t> cookies;
     forEachGrab(combination, [&](xcb_window_t root, std::uint16_t state) {
-        cookies.push_back(xcb_grab_key_checked(connection_.get(), false, root, state,
+        cookies.push_back(xcb_grab_key_checked(server_.handle(), false, root, state,
                                                combination.keyCode, XCB_GRAB_MODE_ASYNC,
                                                XCB_GRAB_MODE_ASYNC));
     });
     bool claimed = true;
     for (const auto cookie : cookies) {
-        const XcbReply<xcb_generic_error_t> error(xcb_request_check(connection_.get(), cookie));
+        const XcbReply<xcb_generic_error_t> error(xcb_request_check(server_.handle(), cookie));
         claimed = claimed && !error;
     }
     if (!claimed) {
         ungrab(combination);
     }
-    return claimed && !connectionLost();
+    return claimed && !server_.isLost();
 }
 
 void X11HotKeyService::ungrab(const Combination& combination) {
     forEachGrab(combination, [&](xcb_window_t root, std::uint16_t state) {
-        xcb_ungrab_key(connection_.get(), combination.keyCode, root, state);
+        xcb_ungrab_key(server_.handle(), combination.keyCode, root, state);
     });
-}
-
-/// Whoever sends may also read, and what is read then waits in xcb's queue while the descriptor has
-/// nothing to show. The answer to a question that nobody needs makes it readable once more.
-void X11HotKeyService::flushAndWake() {
-    const auto cookie = xcb_get_input_focus(connection_.get());
-    xcb_discard_reply(connection_.get(), cookie.sequence);
-    xcb_flush(connection_.get());
-}
-
-int X11HotKeyService::descriptor() const {
-    return xcb_get_file_descriptor(connection_.get());
-}
-
-bool X11HotKeyService::connectionLost() const {
-    return xcb_connection_has_error(connection_.get()) != 0;
-}
-
-void X11HotKeyService::processEvents() {
-    while (true) {
-        if (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
-            handle(*event);
-        } else if (std::exchange(mappingChanged_, false)) {
-            followMapping();
-        } else {
-            return;
-        }
-    }
-}
-
-void X11HotKeyService::handle(const xcb_generic_event_t& event) {
-    const unsigned type = event.response_type & 0x7fu;
-    if (type == XCB_KEY_PRESS) {
-        handlePress(reinterpret_cast<const xcb_key_press_event_t&>(event));
-    } else if (type == XCB_KEY_RELEASE) {
-        handleRelease(reinterpret_cast<const xcb_key_release_event_t&>(event));
-    } else if (type == XCB_MAPPING_NOTIFY) {
-        mappingChanged_ = true;
-    } else if (type == firstKeyboardEvent_) {
-        // All keyboard events have one number; which it is stands where others have details.
-        mappingChanged_ = mappingChanged_ || event.pad0 == XCB_XKB_NEW_KEYBOARD_NOTIFY ||
-                          event.pad0 == XCB_XKB_MAP_NOTIFY;
-    }
 }
 
 void X11HotKeyService::handlePress(const xcb_key_press_event_t& event) {
@@ -237,8 +209,8 @@ void X11HotKeyService::tell(const Handler& handler, const Combination& combinati
 }
 
 void X11HotKeyService::followMapping() {
-    const RealModifiers real = lookUpRealModifiers(connection_.get());
-    if (connectionLost() || real == realModifiers_) {
+    const RealModifiers real = lookUpRealModifiers(server_.handle());
+    if (server_.isLost() || real == realModifiers_) {
         return;
     }
     for (const auto& registration : registrations_) {
@@ -249,8 +221,8 @@ void X11HotKeyService::followMapping() {
     for (const auto& registration : registrations_) {
         allClaimed = grab(registration.combination) && allClaimed;
     }
-    xcb_flush(connection_.get());
-    if (!allClaimed && !connectionLost()) {
+    xcb_flush(server_.handle());
+    if (!allClaimed && !server_.isLost()) {
         logWarning(kLogHotKeys, "Since the keyboard's modifier keys were changed, another "
                                 "program holds the hot key; choose another one.");
     }

@@ -2,10 +2,9 @@
 
 #include "hotkeys/hot_key_service.h"
 #include "hotkeys/x11/real_modifiers.h"
-#include "x11/xcb_handles.h"
+#include "x11/x_connection.h"
 
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace nocturo {
@@ -18,27 +17,17 @@ namespace nocturo {
 /// combination has by then: a hot key registered anew while it is held down gets its release, one
 /// that was given up or changed stays silent.
 ///
-/// A server that goes away makes connectionLost() true and every registration fail; nothing else
-/// happens.
+/// After the server went away every registration fails; nothing else happens.
 class X11HotKeyService final : public HotKeyService {
   public:
-    /// Connects to the server of a display name such as ":0". Null when it cannot be reached or has
-    /// no keyboard extension (XKB).
-    static std::unique_ptr<X11HotKeyService> open(const std::string& displayName);
+    /// Over a connection, which must outlive it, and on which nobody else grabs keys. Null when the
+    /// server has no keyboard extension (XKB).
+    static std::unique_ptr<X11HotKeyService> open(XConnection& server);
 
     std::optional<HotKeyHandle> registerHotKey(std::uint16_t keyCode, std::uint32_t modifiers,
                                                EventHotKeyID hotKeyID) override;
     void unregisterHotKey(HotKeyHandle handle) override;
     void setHandlers(Handler released, Handler pressed) override;
-
-    /// Readable whenever there may be something for processEvents() to take in, also what arrived
-    /// during other members, and when the server is gone. It stays the service's.
-    int descriptor() const;
-
-    /// Takes in what the server has sent, without waiting for more, and calls the handlers.
-    void processEvents();
-
-    bool connectionLost() const;
 
   private:
     struct Combination {
@@ -52,26 +41,23 @@ class X11HotKeyService final : public HotKeyService {
         EventHotKeyID hotKeyID;
     };
 
-    X11HotKeyService(XcbConnection connection, std::uint8_t firstKeyboardEvent);
+    X11HotKeyService(XConnection& server, std::uint8_t firstKeyboardEvent);
 
     template <class Visit>
     void forEachGrab(const Combination& combination, Visit visit) const;
     bool grab(const Combination& combination);
     void ungrab(const Combination& combination);
-    void flushAndWake();
-
-    void handle(const xcb_generic_event_t& event);
+    void listen(std::uint8_t firstKeyboardEvent);
     void handlePress(const xcb_key_press_event_t& event);
     void handleRelease(const xcb_key_release_event_t& event);
     void tell(const Handler& handler, const Combination& combination,
               const xcb_key_press_event_t& event) const;
     void followMapping();
 
-    XcbConnection connection_;
-    std::uint8_t firstKeyboardEvent_;
-    std::vector<xcb_window_t> roots_;
+    XConnection& server_;
+    std::vector<XListener> listeners_;
     RealModifiers realModifiers_;
-    bool mappingChanged_ = false;
+    bool mappingChanged_ = false; // and was not followed yet
     std::vector<Registration> registrations_;
     std::vector<Combination> held_; // pressed and not released yet
     std::uint64_t lastHandle_ = 0;
