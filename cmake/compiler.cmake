@@ -1,6 +1,6 @@
 # Curve arithmetic is defined to the last bit: no fused multiply-add, no value-changing optimisation.
 add_compile_options(-ffp-contract=off -fno-fast-math -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-                    -Wnon-virtual-dtor -Woverloaded-virtual)
+                    $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor> $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>)
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 sees overlaps that are none in what it inlines of std::string's operator+.

@@ -50,9 +50,9 @@ const std::array<Setting, 16>& rows() {
     return table;
 }
 
-using Problem = std::optional<std::string>;
+using Refusal = std::optional<std::string>;
 
-Problem problemWithNames(const std::string& key, const PropertyValue& value) {
+Refusal problemWithNames(const std::string& key, const PropertyValue& value) {
     const auto* array = value.as<PropertyArray>();
     if (array == nullptr) {
         return translated("\"%@\" takes a list of effects.", {key});
@@ -135,7 +135,7 @@ PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setti
 std::optional<std::string> problemWith(const Setting& setting, const PropertyValue& value) {
     const std::string key(setting.key);
     const auto unless = [](bool fits, const std::string& problem) {
-        return fits ? Problem() : Problem(problem);
+        return fits ? Refusal() : Refusal(problem);
     };
     switch (setting.type) {
     case SettingType::boolean:
