@@ -42,8 +42,7 @@ class QtDesktop : public DesktopPart {
   public:
     explicit QtDesktop(const DesktopSurroundings& around)
         : application_(around.loop), windows_(around.controller, around.defaults, around.centers),
-          menus_(around.controller, windows_, around.recentDocuments, around.menus, around.loop,
-                 qEnvironmentVariable("DISPLAY").toStdString()) {
+          menus_(around.controller, windows_, around.recentDocuments, around.menus, around.server) {
         // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
         const auto startNothing = [](QSessionManager& session) {
             session.setRestartHint(QSessionManager::RestartNever);

@@ -18,6 +18,7 @@ class EventLoop;
 class KeyboardLayout;
 class NDAppController;
 class RecentDocuments;
+class XConnection;
 struct Ramp;
 
 /// What the desktop part is given of the core.
@@ -28,6 +29,7 @@ struct DesktopSurroundings {
     NotificationCenters centers;
     const RecentDocuments& recentDocuments;
     AppMenus& menus;
+    XConnection* server;                   // null where there is no X server
     std::function<void()> sessionIsEnding; // the time to keep what is to come back
 };
 

@@ -79,9 +79,9 @@ Result<DesktopPart*> DesktopOnDemand::load() {
         return tl::unexpected(library.error());
     }
     choosePlatform();
-    trayWatch_.reset(); // the part has one of its own
+    awaitedTray_.reset(); // the part has one of its own
     part_ = (*library)->start(
-        {loop_, controller_, defaults_, centers_, recentDocuments_, menus_, [this] {
+        {loop_, controller_, defaults_, centers_, recentDocuments_, menus_, server_, [this] {
              if (sessionIsEnding) {
                  sessionIsEnding();
              }
@@ -102,6 +102,16 @@ DesktopPart* DesktopOnDemand::partOrWarning() {
         logWarning(kLogApp, part.error().text);
     }
     return part.value_or(nullptr);
+}
+
+void DesktopOnDemand::setXServer(XConnection* server) {
+    server_ = server;
+    if (server == nullptr) {
+        awaitedTray_.reset();
+        if (part_ != nullptr) {
+            part_->setItemEmbedded(false);
+        }
+    }
 }
 
 void DesktopOnDemand::setKeyboardLayout(KeyboardLayout* layout) {
@@ -230,12 +240,18 @@ void DesktopOnDemand::setStatusItemImage(bool active) {
 
 void DesktopOnDemand::setItemEmbedded(bool embedded) {
     itemEmbedded_ = embedded;
-    trayWatch_.reset();
+    awaitedTray_.reset();
     if (part_ != nullptr) {
         part_->setItemEmbedded(embedded);
-    } else if (embedded) {
-        trayWatch_ = std::make_unique<TrayWatch>(
-            xDisplayName(), loop_, [this] { partOrWarning(); }, [] {});
+    } else if (embedded && server_ != nullptr) {
+        awaitedTray_ = std::make_unique<TrayWindow>(*server_, [this] { showItemWhereTrayIs(); });
+        loop_.callSoon([this] { showItemWhereTrayIs(); });
+    }
+}
+
+void DesktopOnDemand::showItemWhereTrayIs() {
+    if (part_ == nullptr && awaitedTray_ != nullptr && awaitedTray_->isThere()) {
+        partOrWarning();
     }
 }
 

@@ -9,7 +9,7 @@
 #include "bus/tray.h"
 #include "desktop/desktop_library.h"
 #include "documents/recent_documents.h"
-#include "session/tray_watch.h"
+#include "session/tray_window.h"
 
 #include <functional>
 #include <memory>
@@ -37,7 +37,8 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     /// Called when the session is about to end, if a window was ever shown.
     std::function<void()> sessionIsEnding;
 
-    /// Must outlive this or be taken away with null.
+    /// Each must outlive this or be taken away with null.
+    void setXServer(XConnection* server);
     void setKeyboardLayout(KeyboardLayout* layout);
 
     std::string whyNoWindows() override;
@@ -64,6 +65,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     Result<DesktopPart*> load();
     DesktopPart* partOrWarning();
     void setItemEmbedded(bool embedded);
+    void showItemWhereTrayIs();
     void popUpStatusMenu(int x, int y);
 
     EventLoop& loop_;
@@ -76,11 +78,12 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     AppMenus menus_;
     std::optional<LauncherMenu> launcherMenu_; // where there is a bus
     Tray tray_;
-    std::unique_ptr<TrayWatch> trayWatch_; // while there is no part to show the item in
+    std::unique_ptr<TrayWindow> awaitedTray_; // while there is no part to show the item in
     bool inTray_ = false;
     bool itemEmbedded_ = false;
     bool itemActive_ = false;
     KeyboardLayout* layout_ = nullptr;
+    XConnection* server_ = nullptr;
     std::optional<OpaqueColor> aboutBoxColor_;
     std::unique_ptr<DesktopPart> part_; // null until it is needed
 };

@@ -13,11 +13,13 @@ DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays, XC
       applications_(DesktopEntries::dataDirectories()),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);
+    core.desktop.setXServer(server);
     core.desktop.sessionIsEnding = [this] { windowRestoration_.save(); };
 }
 
 DesktopSession::~DesktopSession() {
     core_.desktop.setKeyboardLayout(nullptr);
+    core_.desktop.setXServer(nullptr);
     core_.desktop.sessionIsEnding = nullptr;
 }
 

@@ -124,7 +124,7 @@ int run(const QStringList& arguments) {
     }
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
     AppMenus appMenus(controller, defaults, centers.local, [] {});
-    const DesktopMenus menus(controller, windows, recentDocuments, appMenus, runLoop, {});
+    const DesktopMenus menus(controller, windows, recentDocuments, appMenus, nullptr);
     controller.applicationDidFinishLaunching();
     appMenus.setActivateItemTitles(controller.effectActive());
     appMenus.makeScreenMenus();

@@ -14,12 +14,11 @@ namespace nocturo {
 
 DesktopMenus::DesktopMenus(NDAppController& controller, AppWindows& windows,
                            const RecentDocuments& recentDocuments, AppMenus& menus,
-                           RunLoop& runLoop, std::string xDisplay)
+                           XConnection* server)
     : controller_(controller), windows_(windows), recentDocuments_(recentDocuments),
       mainMenu_(menus.effectMenu(), recentDocuments, mainMenuHandlers()),
       drawnStatusMenu_(menus.statusMenu(), statusMenu_),
-      statusItem_(statusMenu_, std::move(xDisplay), runLoop,
-                  [&controller] { controller.activateEffect(); }) {
+      statusItem_(statusMenu_, server, [&controller] { controller.activateEffect(); }) {
     statusMenu_.setObjectName(QStringLiteral("statusMenu"));
     statusItem_.waitingDidChange = [this] { updateStatusItemNotice(); };
     windows_.setMenuBar(mainMenu_.bar());

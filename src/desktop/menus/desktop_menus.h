@@ -21,15 +21,13 @@ class AppMenus;
 class AppWindows;
 class NDAppController;
 class RecentDocuments;
-class RunLoop;
 
 /// Alerts, the main menu, and the status item where it is a window. Needs a QApplication.
 class DesktopMenus {
   public:
-    /// All must outlive this. `xDisplay` is empty where there is no X server.
+    /// All must outlive this. `server` is null where there is no X server.
     DesktopMenus(NDAppController& controller, AppWindows& windows,
-                 const RecentDocuments& recentDocuments, AppMenus& menus, RunLoop& runLoop,
-                 std::string xDisplay);
+                 const RecentDocuments& recentDocuments, AppMenus& menus, XConnection* server);
     ~DesktopMenus();
     DesktopMenus(const DesktopMenus&) = delete;
     DesktopMenus& operator=(const DesktopMenus&) = delete;

@@ -10,10 +10,8 @@
 
 namespace nocturo {
 
-StatusItem::StatusItem(QMenu& menu, std::string xDisplay, RunLoop& runLoop,
-                       std::function<void()> middleClicked)
-    : menu_(menu), xDisplay_(std::move(xDisplay)), runLoop_(runLoop),
-      middleClicked_(std::move(middleClicked)) {}
+StatusItem::StatusItem(QMenu& menu, XConnection* server, std::function<void()> middleClicked)
+    : menu_(menu), server_(server), middleClicked_(std::move(middleClicked)) {}
 
 void StatusItem::setShown(bool shown) {
     if (shown == shown_) {
@@ -21,13 +19,12 @@ void StatusItem::setShown(bool shown) {
     }
     shown_ = shown;
     icon_.reset();
-    trayColor_.reset();
-    trayWatch_.reset();
-    if (shown) {
-        trayWatch_ = std::make_unique<TrayWatch>(
-            xDisplay_, runLoop_, [this] { trayAppeared(); }, [this] { setWaiting(true); });
+    tray_.reset();
+    if (shown && server_ != nullptr) {
+        tray_ = std::make_unique<TrayWindow>(*server_, [this] { trayDidChange(); });
+        trayDidChange();
     }
-    setWaiting(false);
+    setWaiting(shown && icon_ == nullptr);
 }
 
 void StatusItem::setWaiting(bool noTray) {
@@ -41,17 +38,25 @@ void StatusItem::setActive(bool active) {
     setImage();
 }
 
-void StatusItem::trayAppeared() {
-    trayWatch_.reset(); // from here on Qt follows trays that come and go
+// Qt decides once, when the first tray icon is made or a tray asked for, which kind of tray this
+// process has, and "none" is for good. At login an application may well be there before the panel,
+// so nobody may ask Qt before there is a tray. From then on Qt follows trays that come and go.
+void StatusItem::trayDidChange() {
+    if (icon_ != nullptr) {
+        setImage();
+    } else if (tray_->isThere()) {
+        makeIcon();
+        setWaiting(false);
+    }
+}
+
+void StatusItem::makeIcon() {
     icon_ = std::make_unique<QSystemTrayIcon>();
     icon_->setToolTip(QStringLiteral("Nocturo"));
     icon_->setContextMenu(&menu_);
     connect(icon_.get(), &QSystemTrayIcon::activated, this, &StatusItem::wasActivated);
     setImage();
     icon_->show();
-    trayColor_ = std::make_unique<TrayColor>(xDisplay_, runLoop_, [this] { setImage(); });
-    setImage();
-    setWaiting(false);
 }
 
 void StatusItem::setImage() {
@@ -62,7 +67,7 @@ void StatusItem::setImage() {
 
 /// Not valid where the tray does not say.
 QColor StatusItem::imageColor() const {
-    const auto color = trayColor_ != nullptr ? trayColor_->color() : std::nullopt;
+    const auto color = tray_ != nullptr ? tray_->color() : std::nullopt;
     if (!color) {
         return {};
     }

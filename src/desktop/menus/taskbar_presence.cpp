@@ -1,12 +1,11 @@
 #include "desktop/menus/taskbar_presence.h"
 
-#include "x11/xcb_handles.h"
+#include "x11/x_connection.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QWidget>
 
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -17,13 +16,6 @@ namespace {
 xcb_connection_t* serverOfWindows() {
     const auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
     return x11 != nullptr ? x11->connection() : nullptr;
-}
-
-xcb_atom_t atom(xcb_connection_t* server, std::string_view name) {
-    const auto cookie =
-        xcb_intern_atom(server, false, static_cast<std::uint16_t>(name.size()), name.data());
-    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(server, cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 bool isOrdinaryWindow(const QWidget& widget) {
@@ -79,8 +71,8 @@ void TaskbarPresence::tell(const QWidget& window, bool mapped) const {
         return;
     }
     const auto id = static_cast<xcb_window_t>(window.winId());
-    const xcb_atom_t states = atom(server, "_NET_WM_STATE");
-    const xcb_atom_t skip = atom(server, "_NET_WM_STATE_SKIP_TASKBAR");
+    const xcb_atom_t states = internAtom(server, "_NET_WM_STATE");
+    const xcb_atom_t skip = internAtom(server, "_NET_WM_STATE_SKIP_TASKBAR");
     if (!mapped) {
         xcb_change_property(server, XCB_PROP_MODE_APPEND, id, states, XCB_ATOM_ATOM, 32, 1, &skip);
         return;
