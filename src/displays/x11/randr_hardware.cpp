@@ -8,6 +8,7 @@
 #include <thread>
 
 #include <sys/uio.h>
+#include <xcb/bigreq.h>
 #include <xcb/randr.h>
 #include <xcb/xcbext.h>
 
@@ -45,7 +46,7 @@ Result<std::unique_ptr<RandrHardware>, RandrRefusal> RandrHardware::open(XConnec
         return tl::unexpected(RandrRefusal::unreachable);
     }
     auto* raw = connection->handle();
-    xcb_prefetch_maximum_request_length(raw);
+    xcb_prefetch_extension_data(raw, &xcb_big_requests_id); // or asking for the length waits for it
     xcb_prefetch_extension_data(raw, &xcb_randr_id);
     const auto guestCookie = xcb_query_extension(raw, 8, "XWAYLAND");
     std::unique_ptr<RandrHardware> hardware(new RandrHardware(*connection));
@@ -57,6 +58,7 @@ Result<std::unique_ptr<RandrHardware>, RandrRefusal> RandrHardware::open(XConnec
     }
 
     // The outputs are asked for along with the version, so that opening costs no more than listing.
+    xcb_prefetch_maximum_request_length(raw);
     const auto versionCookie = xcb_randr_query_version(raw, 1, 5);
     hardware->listen(extension->first_event, extension->major_opcode);
     hardware->subscribe(0);
@@ -72,6 +74,7 @@ Result<std::unique_ptr<RandrHardware>, RandrRefusal> RandrHardware::open(XConnec
     }
     if (revision(version->major_version, version->minor_version) >= revision(1u, 4u)) {
         hardware->subscribe(XCB_RANDR_NOTIFY_MASK_RESOURCE_CHANGE);
+        xcb_flush(raw);
     }
     hardware->found_ = std::move(found);
     hardware->maximumRequestLength_ = xcb_get_maximum_request_length(raw);
@@ -88,7 +91,6 @@ void RandrHardware::subscribe(unsigned more) {
     for (const auto root : connection_.roots()) {
         xcb_randr_select_input(connection_.handle(), root, static_cast<std::uint16_t>(mask));
     }
-    xcb_flush(connection_.handle());
 }
 
 void RandrHardware::listen(std::uint8_t firstEvent, std::uint8_t majorOpcode) {
