@@ -1,48 +1,40 @@
 #include "effects/effect_registry.h"
 
+#include "effects/color_filter_effect.h"
+#include "effects/dim_effect.h"
+#include "effects/hdtv_luminance_effect.h"
+#include "effects/hide_stripes_effect.h"
+#include "effects/invert_effect.h"
+
 #include <algorithm>
 #include <array>
+#include <tuple>
 
 namespace nocturo {
 
 namespace {
 
-struct EffectClass {
-    std::string_view name;
-    SelectedEffect (*effect)();
+template <typename... Effects>
+struct EffectsOfClasses {
+    static constexpr std::array<std::string_view, sizeof...(Effects)> kNames = {Effects::kName...};
+
+    std::tuple<Effects...> effects;
+    std::array<NDEffect*, sizeof...(Effects)> all = {&std::get<Effects>(effects)...};
 };
+using AllEffects = EffectsOfClasses<NDInvertEffect, NDHideStripesEffect, NDDimEffect,
+                                    NDColorFilterEffect, NDHDTVLuminanceEffect>;
 
-template <typename Effect>
-constexpr EffectClass effectClass() {
-    return {Effect::kName, []() -> SelectedEffect { return Effect::effect(); }};
-}
-
-constexpr std::array kEffectClasses = {
-    effectClass<NDInvertEffect>(),        effectClass<NDHideStripesEffect>(),
-    effectClass<NDDimEffect>(),           effectClass<NDColorFilterEffect>(),
-    effectClass<NDHDTVLuminanceEffect>(),
-};
-
-static_assert(std::equal(kEffectClasses.begin(), kEffectClasses.end(), kSelectableEffects.begin(),
-                         kSelectableEffects.end(),
-                         [](const EffectClass& each, const SelectableEffect& effect) {
-                             return each.name == effect.className;
-                         }),
+static_assert(std::ranges::equal(AllEffects::kNames, kSelectableEffects, {}, {},
+                                 &SelectableEffect::className),
               "what can be selected has a class, and no other has");
 
 } // namespace
 
-std::optional<SelectedEffect> effectNamed(std::string_view className) {
-    for (const EffectClass& candidate : kEffectClasses) {
-        if (candidate.name == className) {
-            return candidate.effect();
-        }
-    }
-    return std::nullopt;
-}
-
-NDEffect& baseOf(SelectedEffect& selected) {
-    return std::visit([](NDEffect& effect) -> NDEffect& { return effect; }, selected);
+NDEffect* effectNamed(std::string_view className) {
+    static AllEffects effects;
+    const auto found = std::ranges::find(AllEffects::kNames, className);
+    return found != AllEffects::kNames.end() ? effects.all[found - AllEffects::kNames.begin()]
+                                             : nullptr;
 }
 
 } // namespace nocturo

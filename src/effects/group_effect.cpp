@@ -25,8 +25,8 @@ const PropertyArray* selection() {
     return NDEffect::userDefaults().arrayForKey(NDGroupEffect::kName);
 }
 
-// The effects of a selection, made for one use. Re-application makes them anew every time, so they
-// lie within this object, on the stack; only an absurdly long selection reaches the heap.
+// The effects of a selection. Re-application looks them up anew every time, so the list of them
+// lies within this object, on the stack; only an absurdly long selection reaches the heap.
 class SelectedEffects {
   public:
     explicit SelectedEffects(const PropertyArray* names) {
@@ -37,18 +37,18 @@ class SelectedEffects {
         for (const PropertyValue& entry : *names) {
             // The group itself, in a selection that was edited by hand, is no effect either.
             const auto* name = entry.as<std::string>();
-            if (const auto effect = name != nullptr ? effectNamed(*name) : std::nullopt) {
-                effects_.push_back(*effect);
+            if (NDEffect* effect = name != nullptr ? effectNamed(*name) : nullptr) {
+                effects_.push_back(effect);
             }
         }
     }
 
-    std::span<SelectedEffect> effects() { return effects_; }
+    std::span<NDEffect*> effects() { return effects_; }
 
   private:
     std::array<std::byte, 1024> stack_;
     std::pmr::monotonic_buffer_resource memory_{stack_.data(), stack_.size()};
-    std::pmr::vector<SelectedEffect> effects_{&memory_};
+    std::pmr::vector<NDEffect*> effects_{&memory_};
 };
 
 } // namespace
@@ -110,21 +110,20 @@ std::size_t NDGroupEffect::effectCount() const {
 
 void NDGroupEffect::applyEffectOnGammaCurve(ZQGammaCurve* curve, double atTime) {
     SelectedEffects selected(selection());
-    const std::span<SelectedEffect> effects = selected.effects();
-    std::sort(effects.begin(), effects.end(), [](SelectedEffect& left, SelectedEffect& right) {
-        return baseOf(left).priorityCompare(baseOf(right)) ==
-               NSComparisonResult::NSOrderedAscending;
+    const std::span<NDEffect*> effects = selected.effects();
+    std::sort(effects.begin(), effects.end(), [](const NDEffect* left, const NDEffect* right) {
+        return left->priorityCompare(*right) == NSComparisonResult::NSOrderedAscending;
     });
-    for (SelectedEffect& effect : effects) {
-        baseOf(effect).applyEffectOnGammaCurve(curve, atTime);
+    for (NDEffect* effect : effects) {
+        effect->applyEffectOnGammaCurve(curve, atTime);
     }
 }
 
 double NDGroupEffect::animationTimeInterval() const {
     double shortest = NDEffect::animationTimeInterval();
     SelectedEffects selected(selection());
-    for (SelectedEffect& effect : selected.effects()) {
-        shortest = std::min(shortest, baseOf(effect).animationTimeInterval());
+    for (const NDEffect* effect : selected.effects()) {
+        shortest = std::min(shortest, effect->animationTimeInterval());
     }
     return shortest * 0.5;
 }
