@@ -98,10 +98,6 @@ int EventLoop::timerFired(sd_event_source* source, std::uint64_t due, void* data
     return 0;
 }
 
-std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> action) {
-    return watch(descriptor, std::move(action), kOrdinary);
-}
-
 std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> action,
                                         std::function<bool()> hasRead) {
     auto watch = this->watch(descriptor, std::move(action));
@@ -132,8 +128,7 @@ int EventLoop::lookAhead(sd_event_source* /*source*/, void* data) {
     return 0;
 }
 
-std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> action,
-                                        Priority priority) {
+std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> action) {
     if (descriptor < 0) {
         return nullptr;
     }
@@ -141,7 +136,6 @@ std::unique_ptr<Watch> EventLoop::watch(int descriptor, std::function<void()> ac
     watch->action = std::make_shared<Action>(Action{std::move(action)});
     sd_event_source* source = nullptr;
     sd_event_add_io(event_.get(), &source, descriptor, EPOLLIN, becameReadable, &watch->action);
-    sd_event_source_set_priority(source, priority);
     watch->source.reset(source);
     return watch;
 }

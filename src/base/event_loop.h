@@ -17,7 +17,8 @@ namespace nocturo {
 class EventLoop final : public RunLoop {
   public:
     /// Sources that are ready at the same time are served in this order.
-    enum Priority : std::int64_t { kSignals = -200, kDisplays = -100, kOrdinary = 0, kBus = 100 };
+    /// Whatever is watched without one has 0.
+    enum Priority : std::int64_t { kSignals = -100, kBus = 100 };
 
     EventLoop();
     ~EventLoop() override;
@@ -31,7 +32,6 @@ class EventLoop final : public RunLoop {
     std::unique_ptr<Watch> watch(int descriptor, std::function<void()> action) override;
     std::unique_ptr<Watch> watch(int descriptor, std::function<void()> action,
                                  std::function<bool()> hasRead) override;
-    std::unique_ptr<Watch> watch(int descriptor, std::function<void()> action, Priority priority);
     void callSoon(std::function<void()> action) override;
 
     /// Blocks signals for the process, so that they wait to be handled. To be called before any
