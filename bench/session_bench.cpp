@@ -18,6 +18,7 @@
 #include "hotkeys/x11/x11_hot_key_service.h"
 #include "rig/session.h"
 #include "settings/defaults_store.h"
+#include "x11/x_connection.h"
 
 #include <chrono>
 #include <ctime>
@@ -115,7 +116,8 @@ void chooseHotKey(DefaultsStore& store) {
 
 /// From the moment that a key's release can be read to the last ramp sent.
 void measureOwnPartOfHotKey(rig::Session& session) {
-    const auto service = X11HotKeyService::open(session.server().display());
+    const auto server = XConnection::open(session.server().display());
+    const auto service = server != nullptr ? X11HotKeyService::open(*server) : nullptr;
     if (service == nullptr) {
         throw std::runtime_error("there is no hot key service");
     }
@@ -124,17 +126,17 @@ void measureOwnPartOfHotKey(rig::Session& session) {
     chooseHotKey(NDEffect::userDefaults());
     rig::XClient keyboard(session.server().display());
     std::vector<double> samples;
-    pollfd source{service->descriptor(), POLLIN, 0};
+    pollfd source{server->descriptor(), POLLIN, 0};
     for (int i = 0; i < 1000; ++i) {
         keyboard.press(KEY_LEFTMETA);
         keyboard.press(KEY_F5);
         keyboard.release(KEY_LEFTMETA);
         poll(&source, 1, -1);
-        service->processEvents();
+        server->processEvents();
         keyboard.release(KEY_F5);
         poll(&source, 1, -1);
         const auto start = SteadyClock::now();
-        service->processEvents();
+        server->processEvents();
         samples.push_back(microsecondsSince(start));
     }
     HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(nullptr);
@@ -143,14 +145,17 @@ void measureOwnPartOfHotKey(rig::Session& session) {
 }
 
 void measureNaming(rig::Session& session) {
-    const auto layout = XkbKeyboardLayout::open(session.server().display());
+    const auto server = XConnection::open(session.server().display());
+    if (server == nullptr) {
+        throw std::runtime_error("there is no X server");
+    }
+    XkbKeyboardLayout layout(*server);
     constexpr int kRounds = 20000;
     const auto start = SteadyClock::now();
     std::size_t length = 0;
     for (int i = 0; i < kRounds; ++i) {
-        length +=
-            HXStringFromKeyCode(static_cast<std::uint16_t>(i % 50), NSCommandKeyMask, layout.get())
-                .size();
+        length += HXStringFromKeyCode(static_cast<std::uint16_t>(i % 50), NSCommandKeyMask, &layout)
+                      .size();
     }
     const double each = microsecondsSince(start) / kRounds;
     if (length == 0) {
