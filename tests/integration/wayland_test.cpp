@@ -65,7 +65,11 @@ TEST_F(Wayland, InvertsTheAffectedScreensAndGivesThemBackHoweverItEnds) {
 TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
     NEEDS("gammastep");
     EXPECT_TRUE(becomes("ii"));
-    sway_->tell({"output", kSecond, "disable"});
+    sway_->tell({"create_output"});
+    EXPECT_TRUE(waitUntil([&] { return sway_->ramp("HEADLESS-3").has_value(); }));
+    for (const char* leaving : {kSecond, "HEADLESS-3"}) {
+        sway_->tell({"output", leaving, "disable"});
+    }
     EXPECT_TRUE(waitUntil([&] { return status()["displays"].size() == 1; }));
     const auto other = session_.start("gammastep", {"-m", "wayland", "-P", "-O", "3500"});
     EXPECT_TRUE(waitUntil([&] { return status()["displays"][0]["heldByOther"] == true; }));

@@ -1,14 +1,10 @@
 // Re-application runs for as long as the effect is on, so it must not allocate.
 
 #include "base/notification_center.h"
-#include "displays/display_functions.h"
-#include "displays/ramp_display_services.h"
-#include "displays/screen_controller.h"
+#include "display_services_fixture.h"
 #include "effects/effect_registry.h"
 #include "effects/group_effect.h"
 #include "settings/defaults_store.h"
-
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <new>
@@ -38,24 +34,10 @@ namespace nocturo {
 
 namespace {
 
-class OneDisplay : public GammaHardware {
-  public:
-    explicit OneDisplay(std::uint32_t size) : size_(size) {}
-    std::string_view name() const override { return "one"; }
-    std::uint64_t topologyGeneration() override { return 1; }
-    bool listHeads(std::vector<Head>& heads) override {
-        heads.resize(1);
-        heads[0].rampSize = size_;
-        return true;
-    }
-    bool readRamp(std::uint32_t, Ramp& ramp) override {
-        ramp = identityRamp(size_);
-        return true;
-    }
-    bool writeRamp(std::uint32_t, const Ramp&) override { return true; }
-
-  private:
-    std::uint32_t size_;
+struct OneDisplay : FakeGammaHardware {
+    explicit OneDisplay(std::uint32_t size) { add("one", 0, size); }
+    // Keeps no record of it, which would allocate.
+    bool writeRamp(std::uint32_t /*crtc*/, const Ramp& /*ramp*/) override { return true; }
 };
 
 TEST(Allocation, UpdateEffectAllocatesNothing) {
