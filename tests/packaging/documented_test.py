@@ -9,6 +9,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import xml.etree.ElementTree as ElementTree
 
 PREFIX = pathlib.Path(sys.argv.pop())
 BIN = PREFIX / "bin"
@@ -29,7 +30,7 @@ def words(path, pattern):
 
 
 def on_the_bus():
-    """What a running Nocturo answers: its state, and the names of its effects."""
+    """What a running Nocturo answers: its state, the names of its effects, what it offers the bus."""
     with tempfile.TemporaryDirectory() as home:
         services = pathlib.Path(home) / "data/dbus-1/services"
         services.mkdir(parents=True)
@@ -42,11 +43,21 @@ def on_the_bus():
             "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"}
         script = ("dbus-send --session --print-reply --dest=org.freedesktop.DBus / "
                   "org.freedesktop.DBus.StartServiceByName string:org.nocturo.Nocturo uint32:0 >&2 && "
-                  "nocturoctl status --json && nocturoctl effects && nocturoctl quit")
+                  "nocturoctl status --json && nocturoctl effects && "
+                  "dbus-send --session --print-reply=literal --dest=org.nocturo.Nocturo /org/nocturo/Nocturo "
+                  "org.freedesktop.DBus.Introspectable.Introspect && nocturoctl quit")
         said = say("dbus-run-session", "--", "sh", "-c", script, env=environment)
         # What the bus starts speaks through the same pipe.
         state, effects = said[said.index("{"):].split("\n", 1)
-        return json.loads(state), set(re.findall(r"\] +(\S+)", effects))
+        interface = re.search(r"<node.*</node>", effects, re.DOTALL).group()
+        return json.loads(state), set(re.findall(r"\] +(\S+)", effects)), members(interface)
+
+
+def members(introspection):
+    interface = ElementTree.fromstring(introspection).find("interface[@name='org.nocturo.Nocturo1']")
+    return {(member.tag, *sorted(member.items()),
+             *(tuple(sorted(argument.items())) for argument in member.iter("arg")))
+            for member in interface if member.tag != "annotation"}
 
 
 class Documented(unittest.TestCase):
@@ -54,13 +65,18 @@ class Documented(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.state, cls.effects = on_the_bus()
+        cls.state, cls.effects, cls.members = on_the_bus()
         cls.verbs = words_of_help = set(
             re.findall(r"^  ([a-z]+) ", say(BIN / "nocturoctl", "--help"), re.MULTILINE))
         assert {"on", "toggle", "quit"} <= words_of_help
 
     def assert_same(self, found, expected, where):
         self.assertEqual(found, expected, where)
+
+    def test_the_bus_is_offered_what_the_contract_says(self):
+        contract = pathlib.Path(__file__).parents[2] / "src/bus/org.nocturo.Nocturo1.xml"
+        self.assertEqual(self.members, members(contract.read_text()))
+        self.assertGreater(len(self.members), 20)
 
     def test_manual_of_nocturoctl_tells_of_every_verb(self):
         found = words(SHARE / "man/man1/nocturoctl.1", r"^\.It Ic ([a-z]+)")
