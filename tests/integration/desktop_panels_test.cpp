@@ -17,8 +17,7 @@ class DesktopPanels : public NocturoOnX {
         session_.showWindows();
         // Nocturo may be installed here, and its icons with it.
         session_.environment()["XDG_DATA_DIRS"] = session_.runtimeDirectory();
-        session_.writeSettings("<key>ShowStatusItem</key><integer>1</integer><key>NDGroupEffect"
-                               "</key><array><string>NDInvertEffect</string></array>");
+        select("NDInvertEffect", "<key>ShowStatusItem</key><integer>1</integer>");
     }
 
     /// The pixels of that color in the corner where panels stand.
@@ -49,6 +48,11 @@ class DesktopPanels : public NocturoOnX {
         xcb_flush(server_.get());
     }
 
+    std::unique_ptr<Process> startTrayer() {
+        return session_.start("trayer", {"--edge", "top", "--align", "left", "--widthtype", "pixel",
+                                         "--width", "100", "--height", "32", "--transparent",
+                                         "true", "--alpha", "0", "--tint", "0"});
+    }
     std::unique_ptr<Process> startLxqtPanel() {
         const std::string file = session_.runtimeDirectory() / "panel.conf";
         std::ofstream(file) << "panels=panel1\n[panel1]\nplugins=statusnotifier\nposition=Top\n"
@@ -62,9 +66,7 @@ class DesktopPanels : public NocturoOnX {
 
 TEST_F(DesktopPanels, ATrayWindowChoosesTheColorOfTheImage) {
     NEEDS("trayer")
-    const auto trayer = session_.start(
-        "trayer", {"--edge", "top", "--align", "left", "--widthtype", "pixel", "--width", "100",
-                   "--height", "32", "--transparent", "true", "--alpha", "0", "--tint", "0"});
+    const auto trayer = startTrayer();
     nocturo_ = session_.startNocturo();
     EXPECT_TRUE(waitUntil([&] { return count(kDark) > 50 && count(0xffffff) > 20; }));
     setTrayColor(0xffff, 0, 0x8080);
@@ -74,11 +76,42 @@ TEST_F(DesktopPanels, ATrayWindowChoosesTheColorOfTheImage) {
     EXPECT_TRUE(waitUntil([&] { return count(0x00ff00) > 100; }));
 }
 
+TEST_F(DesktopPanels, ATrayWindowHoldsTheItemWheneverThereIsOne) {
+    NEEDS("trayer")
+    const auto embeddedBecomes = [&](bool embedded) {
+        return waitUntil([&] {
+            const RunResult tree = session_.run("xwininfo", {"-name", "panel", "-tree"});
+            return (tree.output.find("\"Nocturo\"") != std::string::npos) == embedded;
+        });
+    };
+    nocturo_ = session_.startNocturo();
+    status(); // answered once it has looked for a tray in vain
+    auto trayer = startTrayer();
+    ASSERT_TRUE(embeddedBecomes(true));
+    trayer.reset();
+    trayer = startTrayer();
+    ASSERT_TRUE(embeddedBecomes(true));
+    EXPECT_TRUE(becomes("ii"));
+    xdotool({"mousemove", "12", "16", "click", "2"});
+    EXPECT_TRUE(becomes("oo"));
+    xdotool({"click", "1"});
+    // The menu takes the keyboard; its first item switches.
+    EXPECT_TRUE(waitUntil([&] {
+        xdotool({"key", "Home", "Return"});
+        return shown() == "ii";
+    }));
+    for (const bool isItemShown : {false, true}) {
+        ctl({"set", "ShowStatusItem", isItemShown ? "1" : "0"});
+        EXPECT_TRUE(embeddedBecomes(isItemShown));
+    }
+    EXPECT_EQ(nocturo_->errors(), "");
+}
+
 TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
     NEEDS("lxqt-panel")
     const auto isShown = [&] { return count(kDark) > 20; };
     const auto click = [&](const char* button) {
-        session_.run("xdotool", {"mousemove", "15", "15", "click", button});
+        xdotool({"mousemove", "15", "15", "click", button});
     };
     nocturo_ = session_.startNocturo();
     ASSERT_TRUE(becomes("ii"));
@@ -92,7 +125,11 @@ TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
     ASSERT_EQ(count(kDark), 0);
     panel = startLxqtPanel();
     ASSERT_TRUE(waitUntil(isShown));
-    ctl({"quit"});
+    click("3");
+    EXPECT_TRUE(waitUntil([&] { // the last item of its menu quits
+        xdotool({"key", "Up", "Return"});
+        return !nocturo_->isRunning();
+    }));
     ASSERT_EQ(nocturo_->wait(), 0);
     EXPECT_TRUE(waitUntil([&] { return count(kDark) == 0; }));
 
@@ -101,13 +138,13 @@ TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
     // The panel's own menu, of what the item tells it; its first item switches.
     click("3");
     EXPECT_TRUE(waitUntil([&] {
-        session_.run("xdotool", {"key", "Home", "Return"});
+        xdotool({"key", "Home", "Return"});
         return shown() == "ii";
     }));
     // This panel leaves it to the item to show its menu at the pointer.
     EXPECT_TRUE(waitUntil([&] {
         click("1");
-        session_.run("xdotool", {"mousemove", "60", "30", "click", "1"});
+        xdotool({"mousemove", "60", "30", "click", "1"});
         return shown() == "oo";
     }));
     EXPECT_EQ(nocturo_->errors(), "");

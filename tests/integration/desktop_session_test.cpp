@@ -16,8 +16,7 @@ class DesktopSession : public NocturoOnX {
         environment["PATH"] = prefix_ + "/bin:" + environment["PATH"];
         environment["XDG_DATA_DIRS"] = prefix_ + "/share:/usr/share";
         environment["XDG_CONFIG_DIRS"] = prefix_ + "/etc/xdg";
-        session_.writeSettings(
-            "<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>");
+        select("NDInvertEffect");
     }
 
     void succeed(const std::string& program, const std::vector<std::string>& arguments) {
@@ -26,9 +25,7 @@ class DesktopSession : public NocturoOnX {
     }
 
     bool preferencesAreShown(Milliseconds time = kPatience) {
-        const std::vector<std::string> search = {"search", "--onlyvisible", "--name",
-                                                 "Nocturo Preferences"};
-        return waitUntil([&] { return session_.run("xdotool", search).exit == 0; }, time);
+        return waitUntil([&] { return isShown("Nocturo Preferences"); }, time);
     }
 
     std::string prefix_ = session_.runtimeDirectory() / "installed";
@@ -89,7 +86,7 @@ TEST_F(DesktopSession, WatchersHearOfChangesWhileTheLaunchAsks) {
         ctl({"toggle"});
         return watch->readLine(Milliseconds(50)).has_value();
     }));
-    EXPECT_EQ(session_.run("xdotool", {"search", "--onlyvisible", "--name", "^Nocturo$"}).exit, 0);
+    EXPECT_TRUE(isShown("^Nocturo$"));
 }
 
 } // namespace
