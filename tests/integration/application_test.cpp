@@ -147,7 +147,11 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     desktop.startupMessages();
     session_.environment()["DESKTOP_STARTUP_ID"] = "a launcher's 1st_TIME42";
     EXPECT_EQ(session_.run("nocturo").exit, 0);
-    EXPECT_EQ(desktop.startupMessages(), "remove: ID=\"a launcher's 1st_TIME42\"");
+    std::string told;
+    EXPECT_TRUE(waitUntil([&] {
+        told += desktop.startupMessages();
+        return told == "remove: ID=\"a launcher's 1st_TIME42\"";
+    })) << told;
     EXPECT_TRUE(becomes("ii")) << shown();
 
     activateAction("preferences");

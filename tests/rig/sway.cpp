@@ -85,17 +85,25 @@ Sway::Sway(int outputs, std::uint32_t rampSize) {
     if (!up || !process_->isRunning()) {
         throw std::runtime_error("sway did not start: " + process_->errors());
     }
-    tell({"-t", "get_outputs"});
+    // Clients may connect before its own messages are listened to.
+    const auto answers = [&] { return message({"-t", "get_outputs"})->wait() == 0; };
+    if (!waitUntil([&] { return !process_->isRunning() || answers(); }) || !process_->isRunning()) {
+        throw std::runtime_error("sway answers nothing: " + process_->errors());
+    }
 }
 
 Sway::~Sway() {
     kill();
 }
 
-void Sway::tell(const std::vector<std::string>& command) {
+std::unique_ptr<Process> Sway::message(const std::vector<std::string>& command) const {
     auto environment = cleanEnvironment();
     environment["SWAYSOCK"] = directory_ / "ipc";
-    const auto tool = start(directory_.path(), environment, "swaymsg", command);
+    return start(directory_.path(), environment, "swaymsg", command);
+}
+
+void Sway::tell(const std::vector<std::string>& command) {
+    const auto tool = message(command);
     if (tool->wait() != 0) {
         throw std::runtime_error("swaymsg: " + tool->output() + tool->errors());
     }

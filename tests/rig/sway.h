@@ -35,6 +35,8 @@ class Sway {
     void kill();
 
   private:
+    std::unique_ptr<Process> message(const std::vector<std::string>& command) const;
+
     TemporaryDirectory directory_;
     std::unique_ptr<Process> process_;
 };
