@@ -173,7 +173,7 @@ void NDAppController::setScreenControllerActive(bool active, CGDirectDisplayID f
     }
 }
 
-bool NDAppController::everyAffectedDisplayIsUnreadable() const {
+std::optional<bool> NDAppController::everyAffectedDisplayIsUnreadable() const {
     if (!screenControllers_) {
         return false;
     }
@@ -190,7 +190,7 @@ bool NDAppController::everyAffectedDisplayIsUnreadable() const {
         }
         anyAffected = true;
     }
-    return anyAffected;
+    return anyAffected ? std::optional(true) : std::nullopt;
 }
 
 void NDAppController::updateEffect() {

@@ -140,8 +140,9 @@ class NDAppController : public ActionTarget {
     /// its controller gets that curve back.
     void setScreenControllerActive(bool active, CGDirectDisplayID forScreenID);
 
-    /// Whether the effect is on some display, and no display that it is on can be read.
-    bool everyAffectedDisplayIsUnreadable() const;
+    /// Whether no display that the effect is on can be read. False while it is off; nothing where
+    /// it is on and none of its displays is online.
+    std::optional<bool> everyAffectedDisplayIsUnreadable() const;
 
     /// Applies the effect again on every display that has a controller.
     void updateEffect();

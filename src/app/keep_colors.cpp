@@ -55,9 +55,12 @@ void KeepColors::judge() {
     if (kept_ && kept_ != state.colors) {
         kept_.reset();
     }
-    if (kept_ || !controller_.everyAffectedDisplayIsUnreadable()) {
+    const std::optional<bool> unreadable = controller_.everyAffectedDisplayIsUnreadable();
+    if (kept_ || unreadable == false) {
         accepted_ = std::move(state);
         withdraw();
+    } else if (!unreadable) {
+        return; // no display shows these colors, so nobody has seen that they can be read
     } else if (controller_.desktopFace() == nullptr) {
         considerAsking();
     } else if (!std::exchange(waitsForPointer_, true)) {
@@ -70,8 +73,11 @@ void KeepColors::judge() {
 
 void KeepColors::considerAsking() {
     const State state = now();
-    if (kept_ || !controller_.everyAffectedDisplayIsUnreadable()) {
+    const std::optional<bool> unreadable = controller_.everyAffectedDisplayIsUnreadable();
+    if (kept_ || unreadable == false) {
         withdraw();
+    }
+    if (kept_ || unreadable != true) {
         return;
     }
     questioned_ = state;

@@ -98,7 +98,16 @@ BusValue ToldState::displays() const {
 }
 
 BusValue ToldState::effects() const {
-    return busValue(effectiveValue(defaults_, *settingNamed(NDGroupEffect::kName)));
+    std::vector<std::string> names; // whatever else a damaged list holds is left out
+    const PropertyValue value = effectiveValue(defaults_, *settingNamed(NDGroupEffect::kName));
+    if (const auto* list = value.as<PropertyArray>()) {
+        for (const PropertyValue& element : *list) {
+            if (const auto* name = element.as<std::string>()) {
+                names.push_back(*name);
+            }
+        }
+    }
+    return names;
 }
 
 BusValue ToldState::dimLevel() const {

@@ -269,9 +269,9 @@ bool WaylandConnection::takeIn(int timeoutMs) {
         }
         timeoutMs = 0; // something has come; the caller looks at it before it waits
     }
-    const bool full = wl_display_flush(display_) < 0 && errno == EAGAIN;
+    full_ = wl_display_flush(display_) < 0 && errno == EAGAIN;
     pollfd waiting{wl_display_get_fd(display_),
-                   static_cast<short>(full ? POLLIN | POLLOUT : POLLIN), 0};
+                   static_cast<short>(full_ ? POLLIN | POLLOUT : POLLIN), 0};
     if (poll(&waiting, 1, timeoutMs) > 0 && (waiting.revents & (POLLIN | POLLERR | POLLHUP)) != 0) {
         wl_display_read_events(display_);
     } else {

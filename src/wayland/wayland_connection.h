@@ -77,6 +77,9 @@ class WaylandConnection {
     /// `patience`.
     bool sync(std::chrono::milliseconds patience);
 
+    /// Whether the compositor has taken in so little lately that nothing more can be sent to it.
+    bool isFull() const { return full_; }
+
     /// True once the compositor has gone, or has ended the connection: nothing works any more.
     bool isLost() const;
 
@@ -103,6 +106,7 @@ class WaylandConnection {
     std::list<std::unique_ptr<Output>> outputs_;
     std::uint64_t outputsGeneration_ = 1;
     std::uint64_t lastModeGeneration_ = 0;
+    bool full_ = false;
     std::function<void(const WaylandOutput&)> outputGone_;
 };
 

@@ -4,6 +4,7 @@
 
 #include "app/app_controller.h"
 #include "app/desktop_face.h"
+#include "base/notification_names.h"
 #include "display_services_fixture.h"
 #include "displays/affected_screen_set.h"
 #include "effects/dim_effect.h"
@@ -108,6 +109,17 @@ TEST_F(KeepColorsTest, GoesBackUnlessTheUserKeepsThem) {
         << "another choice, as unreadable";
     desktop_.answer(false);
     EXPECT_THAT(effects(), ElementsAre(named("NDDimEffect")));
+}
+
+TEST_F(KeepColorsTest, GoesBackAlsoWhereAllDisplaysAreAwayForAMoment) {
+    launch(true, "NDInvertEffect");
+    EXPECT_TRUE(isAskedAfter([&] { chooseEffect("NDDimEffect"); }));
+    const std::vector<Head> heads = std::exchange(hardware_.heads, {});
+    EXPECT_TRUE(
+        isAskedAfter([&] { center_.post(NSApplicationDidChangeScreenParametersNotification); }));
+    hardware_.heads = heads;
+    runLoop_.advance(KeepColors::kSeconds * 1000);
+    EXPECT_THAT(effects(), ElementsAre(named("NDInvertEffect")));
 }
 
 TEST_F(KeepColorsTest, AnswersItselfWhenTimeIsUpAndNotOverSomebodyElse) {

@@ -205,6 +205,7 @@ class EffectDocuments : public PreferencesWindow {
         }
         auto* field = panel->findChild<QLineEdit*>("fileNameEdit");
         field->setText(name);
+        field->setFocus(); // as it has where somebody types
         QTest::keyClick(field, Qt::Key_Return);
     }
 

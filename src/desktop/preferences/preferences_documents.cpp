@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -67,7 +68,8 @@ class FilePanel : public QFileDialog {
         if (!path.endsWith(documentSuffix())) {
             path += documentSuffix();
         }
-        selectFile(path);
+        // selectFile() would leave a field alone that has the focus.
+        findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
         const QFileInfo chosen(path);
         if (!chosen.exists()) {
             QFileDialog::accept();

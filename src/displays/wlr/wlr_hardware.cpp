@@ -28,6 +28,8 @@ constexpr auto kPatience = 200ms;
 constexpr int kAttempts = 2;
 // While another program has an output it is asked for again no more often than this.
 constexpr auto kPause = 30s;
+// One that did not answer at all, perhaps because it hangs, is left in peace as long as this.
+constexpr auto kPauseAfterSilence = 5s;
 constexpr std::size_t kMostEdidBytes = 32768;
 
 /// The kernel's copy of the monitor's EDID, which no Wayland protocol passes on. The connector has
@@ -164,7 +166,7 @@ bool WlrHardware::take(std::uint32_t crtc, Control& control) {
         return control.proxy != nullptr;
     }
     const auto now = std::chrono::steady_clock::now();
-    if (control.refused && now < control.askAgain) {
+    if (now < silentUntil_ || (control.refused && now < control.askAgain)) {
         return false;
     }
     control.askAgain = now + kPause;
@@ -175,7 +177,9 @@ bool WlrHardware::take(std::uint32_t crtc, Control& control) {
         compositor_->waitUntil([&] { return control.answered; }, kPatience);
     }
     if (!control.answered) {
-        lose(control);
+        release(control);
+        silentUntil_ = std::chrono::steady_clock::now() + kPauseAfterSilence;
+        logInfo(kLogDisplays, "The compositor does not answer.");
     }
     const bool taken = control.proxy != nullptr;
     if (taken && std::exchange(control.refused, false)) {
@@ -236,7 +240,9 @@ bool WlrHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
         compositor_->processEvents();
         return outputOf(crtc) != nullptr;
     }
-    if (!take(crtc, control) || ramp.size() != control.size) {
+    compositor_->processEvents();
+    // What a compositor that hangs has not taken in must not pile up until the connection breaks.
+    if (compositor_->isFull() || !take(crtc, control) || ramp.size() != control.size) {
         return false;
     }
     const FileDescriptor file = fileWith(ramp);

@@ -60,6 +60,7 @@ class WlrHardware : public GammaHardware {
     wl_proxy* manager_;
     std::map<std::uint32_t, Control> controls_; // by CRTC, which is the output's global
     std::uint64_t ownGeneration_ = 1;           // for what the outputs themselves do not tell
+    std::chrono::steady_clock::time_point silentUntil_{}; // a compositor that did not answer
 };
 
 } // namespace nocturo
