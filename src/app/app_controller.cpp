@@ -178,9 +178,13 @@ std::optional<bool> NDAppController::everyAffectedDisplayIsUnreadable() const {
         return false;
     }
     const OnlineDisplays online;
-    bool anyAffected = false;
+    std::optional<bool> unreadable;
     for (const auto& controller : *screenControllers_) {
-        if (!controller->hasCurve() || !contains(online.ids(), controller->screenID())) {
+        if (!contains(online.ids(), controller->screenID())) {
+            continue;
+        }
+        if (!controller->hasCurve()) {
+            unreadable = unreadable.value_or(false); // it cannot be changed
             continue;
         }
         ZQGammaCurve after = controller->gammaCurve();
@@ -188,9 +192,9 @@ std::optional<bool> NDAppController::everyAffectedDisplayIsUnreadable() const {
         if (!isUnreadable(after)) {
             return false;
         }
-        anyAffected = true;
+        unreadable = true;
     }
-    return anyAffected ? std::optional(true) : std::nullopt;
+    return unreadable;
 }
 
 void NDAppController::updateEffect() {
