@@ -81,8 +81,8 @@ class EventLoop final : public RunLoop {
     static int timerFired(sd_event_source* source, std::uint64_t due, void* data);
     static int becameReadable(sd_event_source* source, int descriptor, std::uint32_t events,
                               void* data);
-    static int callReader(sd_event_source* source, void* action);
-    static int lookAhead(sd_event_source* source, void* action);
+    static int callReader(sd_event_source* source, void* data);
+    static int lookAhead(sd_event_source* source, void* data);
     static int callDeferred(sd_event_source* source, void* self);
     static int signalCame(sd_event_source* source, const struct signalfd_siginfo* info, void* self);
 
