@@ -33,8 +33,8 @@ static_assert(std::ranges::equal(AllEffects::kNames, kSelectableEffects, {}, {},
 NDEffect* effectNamed(std::string_view className) {
     static AllEffects effects;
     const auto found = std::ranges::find(AllEffects::kNames, className);
-    return found != AllEffects::kNames.end() ? effects.all[found - AllEffects::kNames.begin()]
-                                             : nullptr;
+    const auto index = static_cast<std::size_t>(found - AllEffects::kNames.begin());
+    return index < effects.all.size() ? effects.all[index] : nullptr;
 }
 
 } // namespace nocturo

@@ -156,7 +156,7 @@ std::optional<std::string> problemWith(const Setting& setting, const PropertyVal
 }
 
 std::optional<std::string> problemWithTyped(const Setting& setting, const PropertyValue& value) {
-    const auto problem = problemWith(setting, value);
+    auto problem = problemWith(setting, value);
     const auto number = value.number();
     if (problem || !setting.range || !number ||
         (*number >= setting.range->lowest && *number <= setting.range->highest)) {

@@ -53,7 +53,7 @@ void DesktopMenus::updateStatusItemNotice() {
 }
 
 void DesktopMenus::showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) {
-    auto box = shownAlert(alert, [this, answered = std::move(answered)](AlertAnswer answer) {
+    auto box = shownAlert(alert, [this, answered](AlertAnswer answer) {
         alert_.release()->deleteLater(); // the answer may bring the next one
         answered(answer);
     });
