@@ -141,12 +141,14 @@ TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
         xdotool({"key", "Home", "Return"});
         return shown() == "ii";
     }));
-    // This panel leaves it to the item to show its menu at the pointer.
-    EXPECT_TRUE(waitUntil([&] {
-        click("1");
-        xdotool({"mousemove", "60", "30", "click", "1"});
-        return shown() == "oo";
-    }));
+    // Version 1 of the panel leaves it to the item to show its menu at the pointer.
+    if (session_.run("lxqt-panel", {"--version"}).output.find(" 1.") != std::string::npos) {
+        EXPECT_TRUE(waitUntil([&] {
+            click("1");
+            xdotool({"mousemove", "60", "30", "click", "1"});
+            return shown() == "oo";
+        }));
+    }
     EXPECT_EQ(nocturo_->errors(), "");
 }
 

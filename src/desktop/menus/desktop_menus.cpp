@@ -53,12 +53,14 @@ void DesktopMenus::updateStatusItemNotice() {
 }
 
 void DesktopMenus::showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) {
-    auto box = shownAlert(alert, [this, answered](AlertAnswer answer) {
+    const auto toTell =
+        std::make_shared<std::function<void(AlertAnswer answer)>>(std::move(answered));
+    auto box = shownAlert(alert, [this, toTell](AlertAnswer answer) {
         alert_.release()->deleteLater(); // the answer may bring the next one
-        answered(answer);
+        (*toTell)(answer);
     });
     if (box == nullptr) {
-        answered(AlertAnswer::unseen);
+        (*toTell)(AlertAnswer::unseen);
         return;
     }
     alert_ = std::move(box);
