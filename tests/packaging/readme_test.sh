@@ -8,14 +8,14 @@ make_root "$1"
 mount -t tmpfs tmpfs "$root/run"
 mount -t tmpfs tmpfs "$root/dev/shm"
 echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/quickly" # the root does not outlive a crash
-mkdir "$root/root/nocturo"
-tar -C "$(dirname "$0")/../.." --exclude=./build --exclude=./.git -c . | tar -C "$root/root/nocturo" -x
+mkdir "$root/nocturo"
+tar -C "$(dirname "$0")/../.." --exclude=./build --exclude=./.git -c . | tar -C "$root/nocturo" -x
 
 inside apt-get update -q >/dev/null
 inside apt-get install -q -y make git >"$work/apt.log" 2>&1 || { tail "$work/apt.log"; fail "no make"; }
 # shellcheck disable=SC2016 # the inner shell's variables
 inside WERROR="${WERROR:-OFF}" XDG_RUNTIME_DIR=/run dbus-run-session -- sh -ec '
-  cd /root/nocturo
+  cd /nocturo
   nocturoctl=build/release/bin/nocturoctl
   make run &
   until $nocturoctl status 2>/dev/null; do
@@ -26,4 +26,4 @@ inside WERROR="${WERROR:-OFF}" XDG_RUNTIME_DIR=/run dbus-run-session -- sh -ec '
   [ -e /run/nocturo/display-2.png ]
   $nocturoctl quit
   wait $!'
-inside WERROR="${WERROR:-OFF}" make -C /root/nocturo test
+inside WERROR="${WERROR:-OFF}" make -C /nocturo test
