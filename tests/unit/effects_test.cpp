@@ -1,5 +1,6 @@
 #include "base/notification_center.h"
 #include "effects/color_filter_effect.h"
+#include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
 #include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 
 namespace nocturo {
 namespace {
@@ -123,6 +125,33 @@ TEST_F(Effects, TheSelectionLivesInTheStore) {
     group_.addEffect("NDDimEffect");
     EXPECT_EQ(group_.effectCount(), 0U);
     EXPECT_NE(store_->arrayForKey("NDGroupEffect"), nullptr);
+}
+
+// Through the settings, which are singles, and the effect to a 16-bit ramp.
+TEST_F(Effects, EveryTemperatureIsAColorOfTheFilterToTheLastStep) {
+    EXPECT_DOUBLE_EQ(whiteAtTemperature(1000)[1], 0.18172716);
+    EXPECT_DOUBLE_EQ(whiteAtTemperature(3450)[1], (0.76888303 + 0.77987699) / 2);
+    EXPECT_DOUBLE_EQ(whiteAtTemperature(25100)[0], 0.62740336);
+    for (double kelvin = 1000; kelvin <= 25000; kelvin += 50) {
+        SCOPED_TRACE(kelvin);
+        const FilterColor filter = filterAtTemperature(kelvin);
+        NDColorFilterEffect::setHue(static_cast<float>(filter.hue));
+        NDColorFilterEffect::setVividness(static_cast<float>(filter.vividness));
+        ZQGammaCurve curve;
+        curve.sampleCount = 1;
+        curve.redTable[0] = curve.greenTable[0] = curve.blueTable[0] = 1.0F;
+        NDColorFilterEffect::effect().applyEffectOnGammaCurve(&curve);
+        const auto white = whiteAtTemperature(kelvin);
+        const std::array made{curve.redTable[0], curve.greenTable[0], curve.blueTable[0]};
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+            EXPECT_NEAR(std::round(made[channel] * 65535), white[channel] * 65535, 1);
+        }
+        EXPECT_NEAR(temperatureOfFilter(filter).value_or(0), kelvin, 0.5);
+    }
+    EXPECT_EQ(temperatureOfFilter({200.0, 0.0}), kNeutralTemperature); // any hue of no vividness
+    EXPECT_FALSE(temperatureOfFilter({0.0, 1.0}));                     // pure red
+    EXPECT_FALSE(temperatureOfFilter({180.0, 1.0}));                   // no red at all
+    EXPECT_FALSE(temperatureOfFilter({300.0, 0.3}));
 }
 
 } // namespace
