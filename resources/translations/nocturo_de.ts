@@ -493,6 +493,22 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Ein Verb „%@“ gibt es nicht; nocturoctl --help nennt alle.</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>von einem anderen Programm belegt</translation>
+        </message>
+        <message>
+            <source>cannot be given a color profile</source>
+            <translation>nimmt kein Farbprofil an</translation>
+        </message>
+        <message>
+            <source>in HDR mode</source>
+            <translation>im HDR-Modus</translation>
+        </message>
+        <message>
+            <source>refused by the desktop</source>
+            <translation>von der Arbeitsumgebung abgelehnt</translation>
+        </message>
+        <message>
             <source>yes</source>
             <translation>ja</translation>
         </message>
@@ -595,10 +611,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>Hauptbildschirm</translation>
-        </message>
-        <message>
-            <source>held by another program</source>
-            <translation>von einem anderen Programm belegt</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -757,12 +769,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Trotzdem schließen</translation>
         </message>
         <message>
-            <source>Nocturo effects</source>
-            <translation>Nocturo-Effekte</translation>
-        </message>
-        <message>
             <source>OK</source>
             <translation>OK</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Nocturo-Effekte</translation>
         </message>
         <message>
             <source>Save Effect</source>

@@ -493,6 +493,22 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>No existe el verbo «%@»; nocturoctl --help los enumera.</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>en uso por otro programa</translation>
+        </message>
+        <message>
+            <source>cannot be given a color profile</source>
+            <translation>no admite perfil de color</translation>
+        </message>
+        <message>
+            <source>in HDR mode</source>
+            <translation>en modo HDR</translation>
+        </message>
+        <message>
+            <source>refused by the desktop</source>
+            <translation>rechazado por el escritorio</translation>
+        </message>
+        <message>
             <source>yes</source>
             <translation>sí</translation>
         </message>
@@ -595,10 +611,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>principal</translation>
-        </message>
-        <message>
-            <source>held by another program</source>
-            <translation>en uso por otro programa</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -757,12 +769,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Cerrar de todos modos</translation>
         </message>
         <message>
-            <source>Nocturo effects</source>
-            <translation>Efectos de Nocturo</translation>
-        </message>
-        <message>
             <source>OK</source>
             <translation>Aceptar</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Efectos de Nocturo</translation>
         </message>
         <message>
             <source>Save Effect</source>

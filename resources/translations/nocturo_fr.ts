@@ -493,6 +493,22 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Le verbe « %@ » n’existe pas ; nocturoctl --help les énumère.</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>tenu par un autre programme</translation>
+        </message>
+        <message>
+            <source>cannot be given a color profile</source>
+            <translation>n’accepte pas de profil de couleurs</translation>
+        </message>
+        <message>
+            <source>in HDR mode</source>
+            <translation>en mode HDR</translation>
+        </message>
+        <message>
+            <source>refused by the desktop</source>
+            <translation>refusé par le bureau</translation>
+        </message>
+        <message>
             <source>yes</source>
             <translation>oui</translation>
         </message>
@@ -595,10 +611,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>main</source>
             <translation>principal</translation>
-        </message>
-        <message>
-            <source>held by another program</source>
-            <translation>tenu par un autre programme</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -757,12 +769,12 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Fermer quand même</translation>
         </message>
         <message>
-            <source>Nocturo effects</source>
-            <translation>Effets Nocturo</translation>
-        </message>
-        <message>
             <source>OK</source>
             <translation>OK</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Effets Nocturo</translation>
         </message>
         <message>
             <source>Save Effect</source>

@@ -493,6 +493,22 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>「%@」という動詞はありません。nocturoctl --help で一覧を表示できます。</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>ほかのプログラムが使用中</translation>
+        </message>
+        <message>
+            <source>cannot be given a color profile</source>
+            <translation>カラープロファイルを設定できません</translation>
+        </message>
+        <message>
+            <source>in HDR mode</source>
+            <translation>HDR モード</translation>
+        </message>
+        <message>
+            <source>refused by the desktop</source>
+            <translation>デスクトップが拒否しました</translation>
+        </message>
+        <message>
             <source>yes</source>
             <translation>はい</translation>
         </message>
@@ -595,10 +611,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>メイン</translation>
-        </message>
-        <message>
-            <source>held by another program</source>
-            <translation>ほかのプログラムが使用中</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -757,12 +769,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>このまま閉じる</translation>
         </message>
         <message>
-            <source>Nocturo effects</source>
-            <translation>Nocturo の効果</translation>
-        </message>
-        <message>
             <source>OK</source>
             <translation>OK</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Nocturo の効果</translation>
         </message>
         <message>
             <source>Save Effect</source>

@@ -493,6 +493,22 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Não existe o verbo “%@”; nocturoctl --help os lista.</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>em uso por outro programa</translation>
+        </message>
+        <message>
+            <source>cannot be given a color profile</source>
+            <translation>não aceita perfil de cores</translation>
+        </message>
+        <message>
+            <source>in HDR mode</source>
+            <translation>no modo HDR</translation>
+        </message>
+        <message>
+            <source>refused by the desktop</source>
+            <translation>recusado pelo ambiente</translation>
+        </message>
+        <message>
             <source>yes</source>
             <translation>sim</translation>
         </message>
@@ -595,10 +611,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>main</source>
             <translation>principal</translation>
-        </message>
-        <message>
-            <source>held by another program</source>
-            <translation>em uso por outro programa</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -757,12 +769,12 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Fechar mesmo assim</translation>
         </message>
         <message>
-            <source>Nocturo effects</source>
-            <translation>Efeitos do Nocturo</translation>
-        </message>
-        <message>
             <source>OK</source>
             <translation>OK</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Efeitos do Nocturo</translation>
         </message>
         <message>
             <source>Save Effect</source>

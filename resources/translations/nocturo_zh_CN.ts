@@ -493,6 +493,22 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>没有动词“%@”；nocturoctl --help 会列出全部动词。</translation>
         </message>
         <message>
+            <source>held by another program</source>
+            <translation>被其他程序占用</translation>
+        </message>
+        <message>
+            <source>cannot be given a color profile</source>
+            <translation>无法设置颜色配置文件</translation>
+        </message>
+        <message>
+            <source>in HDR mode</source>
+            <translation>处于 HDR 模式</translation>
+        </message>
+        <message>
+            <source>refused by the desktop</source>
+            <translation>被桌面拒绝</translation>
+        </message>
+        <message>
             <source>yes</source>
             <translation>是</translation>
         </message>
@@ -595,10 +611,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>主屏幕</translation>
-        </message>
-        <message>
-            <source>held by another program</source>
-            <translation>被其他程序占用</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -757,12 +769,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>仍然关闭</translation>
         </message>
         <message>
-            <source>Nocturo effects</source>
-            <translation>Nocturo 效果</translation>
-        </message>
-        <message>
             <source>OK</source>
             <translation>确定</translation>
+        </message>
+        <message>
+            <source>Nocturo effects</source>
+            <translation>Nocturo 效果</translation>
         </message>
         <message>
             <source>Save Effect</source>

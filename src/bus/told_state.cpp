@@ -26,6 +26,22 @@ std::string inCapitals(const std::string& text) {
     return capitals.get();
 }
 
+std::string toldObstacle(Obstacle obstacle) {
+    switch (obstacle) {
+    case Obstacle::none:
+        break;
+    case Obstacle::heldByOther:
+        return "held-by-other";
+    case Obstacle::takesNoProfile:
+        return "takes-no-profile";
+    case Obstacle::highDynamicRange:
+        return "high-dynamic-range";
+    case Obstacle::refused:
+        return "refused";
+    }
+    return {};
+}
+
 } // namespace
 
 const std::map<std::string_view, ToldState::Read>& ToldState::properties() {
@@ -83,7 +99,8 @@ BusValue ToldState::displays() const {
                                           static_cast<double>(info.id)) != affected.end();
         const bool applied =
             controllers && std::any_of(controllers->begin(), controllers->end(), [&](auto& each) {
-                return each->screenID() == info.id && each->hasCurve() && !info.heldByOther;
+                return each->screenID() == info.id && each->hasCurve() &&
+                       info.obstacle == Obstacle::none;
             });
         list.push_back({{"number", static_cast<std::int32_t>(i) + 1},
                         {"id", info.id},
@@ -92,7 +109,8 @@ BusValue ToldState::displays() const {
                         {"rampSize", static_cast<std::uint32_t>(info.rampSize)},
                         {"affected", inSet},
                         {"applied", applied},
-                        {"heldByOther", info.heldByOther}});
+                        {"heldByOther", info.obstacle == Obstacle::heldByOther},
+                        {"obstacle", toldObstacle(info.obstacle)}});
     }
     return list;
 }

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <map>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -21,8 +22,8 @@ constexpr std::array<const char*, 11> kStatusOrder = {
     "active",         "displayServices",      "displays",          "effects", "dimLevel",
     "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "hotKey",  "disturbances",
     "disturber"};
-constexpr std::array<const char*, 8> kDisplayOrder = {
-    "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther"};
+constexpr std::array<const char*, 9> kDisplayOrder = {
+    "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther", "obstacle"};
 
 // The named members in that order, then whatever else there is.
 Json ordered(const Json& object, std::span<const char* const> order) {
@@ -34,6 +35,17 @@ Json ordered(const Json& object, std::span<const char* const> order) {
     }
     result.update(object);
     return result;
+}
+
+/// What keeps a display from showing anything, as the bus has it.
+std::string obstacleText(const std::string& obstacle) {
+    static const std::map<std::string_view, ListedText> texts = {
+        {"held-by-other", ListedText("held by another program")},
+        {"takes-no-profile", ListedText("cannot be given a color profile")},
+        {"high-dynamic-range", ListedText("in HDR mode")},
+        {"refused", ListedText("refused by the desktop")}};
+    const auto text = texts.find(obstacle);
+    return text != texts.end() ? text->second.translated() : std::string();
 }
 
 using Row = std::vector<std::string>;
@@ -158,12 +170,12 @@ std::string screensReport(const Json& properties) {
                               translated("ramp"), translated("applied"), "", ""}};
     for (const Json& display : properties["displays"]) {
         const bool hasRamp = display["rampSize"].get<unsigned>() != 0;
-        rows.push_back(
-            {display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
-             plain(display["name"]), plain(display["id"]),
-             hasRamp ? plain(display["rampSize"]) : translated("none"), yesOrNo(display["applied"]),
-             display["main"].get<bool>() ? translated("main") : "",
-             display.value("heldByOther", false) ? translated("held by another program") : ""});
+        rows.push_back({display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
+                        plain(display["name"]), plain(display["id"]),
+                        hasRamp ? plain(display["rampSize"]) : translated("none"),
+                        yesOrNo(display["applied"]),
+                        display["main"].get<bool>() ? translated("main") : "",
+                        obstacleText(display.value("obstacle", ""))});
     }
     return rows.size() > 1 ? table(rows) : "  " + translated("(none)") + '\n';
 }

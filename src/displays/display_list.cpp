@@ -39,7 +39,7 @@ void DisplayList::takeHead(const Head& head, CGDirectDisplayID id) {
     const bool isMain = head.primary && std::none_of(online_.begin(), online_.end(),
                                                      [](const auto& info) { return info.main; });
     const std::uint32_t rampSize = isUsableRampSize(head.rampSize) ? head.rampSize : 0;
-    online_.push_back({id, head.connector, head.bounds, rampSize, isMain, head.heldByOther});
+    online_.push_back({id, head.connector, head.bounds, rampSize, isMain, head.obstacle});
     crtcs_.push_back(head.crtc);
     const auto [mode, isNew] = modes_.try_emplace(id, head.modeGeneration);
     hasNewcomers_ = hasNewcomers_ || isNew;

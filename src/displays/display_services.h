@@ -24,6 +24,15 @@ struct DisplayRect {
     bool operator==(const DisplayRect&) const = default;
 };
 
+/// Why a display shows nothing of what is written to it.
+enum class Obstacle : std::uint8_t {
+    none,
+    heldByOther,      // another program has its ramp to itself
+    takesNoProfile,   // the desktop would need a color profile for it, and it can have none
+    highDynamicRange, // it is in a mode where its color profile does not count
+    refused,          // the desktop did not take what was to be shown
+};
+
 /// An online display.
 struct DisplayInfo {
     CGDirectDisplayID id = 0;
@@ -31,7 +40,7 @@ struct DisplayInfo {
     DisplayRect bounds;
     std::uint32_t rampSize = 0; // entries per channel; 0 when the display has no usable ramp
     bool main = false;          // exactly one display of a list that is not empty
-    bool heldByOther = false;   // another program has its ramp to itself, so nothing shows
+    Obstacle obstacle = Obstacle::none;
     bool operator==(const DisplayInfo&) const = default;
 };
 

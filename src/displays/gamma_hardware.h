@@ -21,8 +21,7 @@ struct Head {
     bool primary = false;
     /// Another number than before whenever a mode was set since, also if it was the same again.
     std::uint64_t modeGeneration = 0;
-    /// Another program has the ramp to itself, so it cannot be written.
-    bool heldByOther = false;
+    Obstacle obstacle = Obstacle::none;
 };
 
 /// Devices with 16-bit gamma ramps per CRTC. What a desktop offers is adapted to this, and

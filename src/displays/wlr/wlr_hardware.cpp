@@ -142,7 +142,9 @@ bool WlrHardware::listHeads(std::vector<Head>& heads) {
                        .width = static_cast<double>(output->width),
                        .height = static_cast<double>(output->height)};
         head.modeGeneration = output->modeGeneration;
-        head.heldByOther = control != controls_.end() && control->second.refused;
+        if (control != controls_.end() && control->second.refused) {
+            head.obstacle = Obstacle::heldByOther;
+        }
     }
     return true;
 }
