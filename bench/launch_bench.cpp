@@ -69,10 +69,12 @@ void measureStart() {
     printFigure("start to the first ramp, in one-shots of redshift", median / peer, 1.3, "");
 }
 
-double megabytesWithGuard(const rig::Process& nocturo) {
+double megabytesWithGuards(const rig::Process& nocturo) {
     double kilobytes = kilobytesOf(nocturo.id(), "Pss:");
-    for (const pid_t guard : rig::childrenNamed(nocturo.id(), "nocturo-guard")) {
-        kilobytes += kilobytesOf(guard, "Pss:");
+    for (const char* name : {"nocturo-guard", "display-keeper"}) {
+        for (const pid_t guard : rig::childrenNamed(nocturo.id(), name)) {
+            kilobytes += kilobytesOf(guard, "Pss:");
+        }
     }
     return kilobytes / 1024;
 }
@@ -110,7 +112,7 @@ void measureMemory(bool inTray) {
     }
     std::this_thread::sleep_for(Milliseconds(2000)); // for what is done after a start
     const std::string where = inTray ? "in LXQt's panel" : "without a window";
-    printFigure("memory with the guard, " + where, megabytesWithGuard(*nocturo), inTray ? 7 : 6,
+    printFigure("memory with the guards, " + where, megabytesWithGuards(*nocturo), inTray ? 7 : 6,
                 "MB");
     printFigure("threads, " + where, static_cast<double>(threadsOf(*nocturo)), 1, "");
     if (!inTray) {

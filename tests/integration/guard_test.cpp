@@ -279,6 +279,9 @@ TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
     start();
     EXPECT_TRUE(nocturo_->waitForError("it does not stay alive"));
     end();
+    for (const pid_t guard : guardsOf(getpid())) {
+        EXPECT_EQ(waitForChild(guard), 1);
+    }
     EXPECT_EQ(shown(), kAllOwn);
 
     fs::remove(elsewhere / "bin" / kGuard);

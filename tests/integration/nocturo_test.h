@@ -109,24 +109,33 @@ class NocturoOnX : public NocturoTest {
         waitUntil(
             [&] {
                 guards = childrenNamed(nocturo_->id(), "nocturo-guard");
-                return !guards.empty();
+                return guards.size() == 1; // the spare one has this name at first, too
             },
             Milliseconds(500));
         return guards.size() == 1 ? guards.front() : -1;
     }
-    void kill(bool guardToo) {
-        nocturo_->signal(SIGSTOP); // or it starts another guard
-        const pid_t guard = guardToo ? guardProcess() : -1;
-        if (guard > 0) {
-            ::kill(guard, SIGKILL);
+    /// With `guardsToo` also the guard and its spare, where they have come so far.
+    void kill(bool guardsToo) {
+        nocturo_->signal(SIGSTOP); // or it starts other guards
+        if (guardsToo) {
+            guardProcess();
+            for (const pid_t guard : guardsOf(nocturo_->id())) {
+                ::kill(guard, SIGKILL);
+            }
         }
         nocturo_->signal(SIGKILL);
         nocturo_->wait();
     }
+    static std::vector<pid_t> guardsOf(pid_t parent) {
+        std::vector<pid_t> guards = childrenNamed(parent, "nocturo-guard");
+        const std::vector<pid_t> spare = childrenNamed(parent, "display-keeper");
+        guards.insert(guards.end(), spare.begin(), spare.end());
+        return guards;
+    }
     /// Waits for the guards that killed applications left to end as they should. Without its server
     /// one that was still about to connect fails.
     void reapGuards(bool serverIsGone = false) {
-        for (const pid_t guard : childrenNamed(getpid(), "nocturo-guard")) {
+        for (const pid_t guard : guardsOf(getpid())) {
             const auto exit = waitForChild(guard);
             EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL || (serverIsGone && exit == 1))
                 << exit.value_or(-1);

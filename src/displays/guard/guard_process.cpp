@@ -17,8 +17,6 @@ namespace nocturo {
 
 namespace {
 
-constexpr const char* kName = "nocturo-guard";
-
 class SpawnSettings {
   public:
     SpawnSettings() {
@@ -51,13 +49,14 @@ class SpawnSettings {
 
 } // namespace
 
-std::filesystem::path guardProgram() {
-    return programFile(kName, NOCTURO_LIBEXEC_FROM_BIN);
+std::filesystem::path guardProgram(const char* name) {
+    return programFile(name, NOCTURO_LIBEXEC_FROM_BIN);
 }
 
 GuardProcess::GuardProcess() : ends_(epoll_create1(EPOLL_CLOEXEC)) {}
 
-Result<void> GuardProcess::start(const std::vector<std::string>& arguments) {
+Result<void> GuardProcess::start(const std::filesystem::path& program,
+                                 const std::vector<std::string>& arguments) {
     if (isRunning()) {
         return {};
     }
@@ -68,7 +67,7 @@ Result<void> GuardProcess::start(const std::vector<std::string>& arguments) {
     FileDescriptor ours(ends[0]);
     const FileDescriptor guards(ends[1]);
 
-    std::vector<std::string> words{guardProgram().string()};
+    std::vector<std::string> words{program.string()};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
     pointers.reserve(words.size() + 1);

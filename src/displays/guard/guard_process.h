@@ -6,20 +6,27 @@
 #include <csignal>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <sys/types.h>
 #include <vector>
 
 namespace nocturo {
 
-/// Where the guard program is: beside the running program, else where it is installed to. The first
+/// Where a guard program is: beside the running program, else where it is installed to. The first
 /// of them when it is in neither place.
-std::filesystem::path guardProgram();
+std::filesystem::path guardProgram(const char* name = "nocturo-guard");
 
 /// Asks a Nocturo that cannot be reached over a bus to switch the effect off.
 inline constexpr int kSwitchOffSignal = SIGUSR2;
 
 /// The guard's end of the connection, from its start on.
 inline constexpr int kGuardDescriptor = 3;
+
+/// The last argument of the guard that is there for when the first one is killed as well, and what
+/// it calls itself (prctl PR_SET_NAME): who kills everything called Nocturo misses it, and it has
+/// ended a moment later.
+inline constexpr std::string_view kSpareGuard = "--spare";
+inline constexpr const char* kSpareGuardName = "display-keeper";
 
 /// A guard process, held by a connection that ends with this process, however it ends. It lives in
 /// a session of its own and takes no signals, so what is sent to a terminal's or a desktop's
@@ -28,8 +35,9 @@ class GuardProcess {
   public:
     GuardProcess();
 
-    /// Starts the guard where none is running.
-    Result<void> start(const std::vector<std::string>& arguments);
+    /// Starts the program as a guard where none is running.
+    Result<void> start(const std::filesystem::path& program,
+                       const std::vector<std::string>& arguments);
 
     bool isRunning() const { return connection_.get() >= 0; }
 

@@ -12,9 +12,6 @@ namespace nocturo {
 
 namespace {
 
-// For as long as displays are changed: a guard that cannot live is not tried for ever.
-constexpr int kMostStarts = 5;
-
 // Without taking anything in, which is the event loop's to do.
 bool hasHungUp(int descriptor) {
     pollfd source{descriptor, POLLRDHUP, 0};
@@ -33,8 +30,12 @@ GuardedHardware::GuardedHardware(std::unique_ptr<RandrHardware> hardware, std::s
     : hardware_(std::move(hardware)), displayName_(std::move(displayName)),
       journalFile_(std::move(journalFile)),
       mark_(hardware_->connection()), ownMark_{randomToken(), mark_.createWindow()},
-      guardsEnd_(runLoop.watch(guard_.endDescriptor(), [this] { replaceEndedGuard(); })),
-      startsLeft_(kMostStarts) {}
+      guards_(guardProgram(),
+              {"--guard", displayName_, journalFile_.string(), std::to_string(ownMark_.token),
+               std::to_string(ownMark_.window)},
+              // The server's end is the guards' as well, and may be told later.
+              runLoop,
+              [this] { return isMarked_ && !hasHungUp(hardware_->connection().descriptor()); }) {}
 
 GuardedHardware::~GuardedHardware() {
     // With its server a ramp has gone as well.
@@ -71,16 +72,8 @@ void GuardedHardware::waitForWrites() {
     if (isMarked_ && !isAnyChanged()) {
         mark_.remove();
         isMarked_ = false;
-        startsLeft_ = kMostStarts;
     }
     hardware_->waitForWrites();
-}
-
-void GuardedHardware::replaceEndedGuard() {
-    // The server's end is the guard's as well, and may be told later.
-    if (guard_.takeEnd() && isMarked_ && !hasHungUp(hardware_->connection().descriptor())) {
-        startGuard();
-    }
 }
 
 bool GuardedHardware::isAnyChanged() const {
@@ -90,32 +83,12 @@ bool GuardedHardware::isAnyChanged() const {
 
 // The order holds whenever this process is killed: who finds the mark finds the journal.
 void GuardedHardware::protect() {
-    startGuard();
+    guards_.start();
     if (journalIsStale_) {
         storeJournal();
     }
     mark_.set(ownMark_);
     isMarked_ = true;
-}
-
-void GuardedHardware::startGuard() {
-    std::string reason = "it does not stay alive";
-    if (guard_.isRunning() || startsLeft_-- > 0) {
-        const Result<void> started =
-            guard_.start({"--guard", displayName_, journalFile_.string(),
-                          std::to_string(ownMark_.token), std::to_string(ownMark_.window)});
-        if (started) {
-            return;
-        }
-        reason = started.error().text;
-    }
-    if (!guardFailureLogged_) {
-        guardFailureLogged_ = true;
-        logWarning(kLogDisplays,
-                   "The guard program " + guardProgram().string() + " cannot be had (" + reason +
-                       "): if Nocturo is killed, the displays get their own colors back "
-                       "only when it starts again or with nocturoctl restore.");
-    }
 }
 
 void GuardedHardware::storeJournal() {

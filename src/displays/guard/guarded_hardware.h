@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/run_loop.h"
-#include "displays/guard/guard_process.h"
+#include "displays/guard/guards.h"
 #include "displays/guard/journal.h"
 #include "displays/guard/server_mark.h"
 #include "displays/x11/randr_hardware.h"
@@ -55,8 +55,6 @@ class GuardedHardware final : public GammaHardware {
 
     bool isAnyChanged() const;
     void protect();
-    void startGuard();
-    void replaceEndedGuard();
     void storeJournal();
 
     std::unique_ptr<RandrHardware> hardware_;
@@ -64,13 +62,10 @@ class GuardedHardware final : public GammaHardware {
     std::filesystem::path journalFile_;
     ServerMark mark_;
     ServerMark::Content ownMark_;
-    GuardProcess guard_;
-    std::unique_ptr<Watch> guardsEnd_;
+    Guards guards_;
     std::map<std::uint32_t, Crtc> crtcs_;
     bool journalIsStale_ = true;
     bool isMarked_ = false;
-    int startsLeft_;
-    bool guardFailureLogged_ = false;
     bool journalFailureLogged_ = false;
 };
 

@@ -14,6 +14,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <sys/prctl.h>
 
 namespace nocturo {
 
@@ -63,7 +64,11 @@ bool parse(std::string_view text, Number& number) {
 
 int main(int argc, char* argv[]) {
     using namespace nocturo;
-    const std::span arguments(argv, static_cast<std::size_t>(argc));
+    std::span arguments(argv, static_cast<std::size_t>(argc));
+    if (arguments.size() > 1 && arguments.back() == kSpareGuard) {
+        prctl(PR_SET_NAME, kSpareGuardName);
+        arguments = arguments.first(arguments.size() - 1);
+    }
     ServerMark::Content nocturo;
     if (arguments.size() == 6 && std::string_view(arguments[1]) == "--guard" &&
         parse(arguments[4], nocturo.token) && parse(arguments[5], nocturo.window)) {
