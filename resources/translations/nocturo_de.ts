@@ -283,6 +283,10 @@
             <translation>Dies sind keine Effektdokumente: %@</translation>
         </message>
         <message>
+            <source>Nocturo answered something that this version does not understand.</source>
+            <translation>Nocturo hat etwas geantwortet, was diese Version nicht versteht.</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo läuft nicht; starten Sie es mit: nocturo &amp;</translation>
         </message>
@@ -293,6 +297,10 @@
         <message>
             <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
             <translation>Es gibt keinen Sitzungsbus, über den Nocturo zu erreichen wäre; starten Sie es innerhalb einer Desktopsitzung mit: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>Das laufende Nocturo antwortet nicht.</translation>
         </message>
         <message>
             <source>Nocturo did not do it: %@</source>
@@ -491,6 +499,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>There is no verb "%@"; nocturoctl --help lists them.</source>
             <translation>Ein Verb „%@“ gibt es nicht; nocturoctl --help nennt alle.</translation>
+        </message>
+        <message>
+            <source>The answer cannot be written: %@.</source>
+            <translation>Die Antwort lässt sich nicht schreiben: %@.</translation>
         </message>
         <message>
             <source>held by another program</source>
@@ -1041,10 +1053,6 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
         <message>
             <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
             <translation>--display-services nimmt auto, randr, wlr, simulated oder simulated:N mit N von 1 bis 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>Das laufende Nocturo antwortet nicht.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

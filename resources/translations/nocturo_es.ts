@@ -283,6 +283,10 @@
             <translation>Estos no son documentos de efecto: %@</translation>
         </message>
         <message>
+            <source>Nocturo answered something that this version does not understand.</source>
+            <translation>Nocturo ha respondido algo que esta versión no entiende.</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo no se está ejecutando; inícielo con: nocturo &amp;</translation>
         </message>
@@ -293,6 +297,10 @@
         <message>
             <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
             <translation>No hay ningún bus de sesión por el que llegar a Nocturo; inícielo dentro de una sesión de escritorio con: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>El Nocturo en ejecución no responde.</translation>
         </message>
         <message>
             <source>Nocturo did not do it: %@</source>
@@ -491,6 +499,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>There is no verb "%@"; nocturoctl --help lists them.</source>
             <translation>No existe el verbo «%@»; nocturoctl --help los enumera.</translation>
+        </message>
+        <message>
+            <source>The answer cannot be written: %@.</source>
+            <translation>No se puede escribir la respuesta: %@.</translation>
         </message>
         <message>
             <source>held by another program</source>
@@ -1041,10 +1053,6 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
         <message>
             <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
             <translation>--display-services admite auto, randr, wlr, simulated o simulated:N con N de 1 a 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>El Nocturo en ejecución no responde.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

@@ -283,6 +283,10 @@
             <translation>Ce ne sont pas des documents d’effet : %@</translation>
         </message>
         <message>
+            <source>Nocturo answered something that this version does not understand.</source>
+            <translation>Nocturo a répondu quelque chose que cette version ne comprend pas.</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo n’est pas en cours d’exécution ; lancez-le avec : nocturo &amp;</translation>
         </message>
@@ -293,6 +297,10 @@
         <message>
             <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
             <translation>Aucun bus de session ne permet de joindre Nocturo ; lancez-le dans une session de bureau avec : nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>Le Nocturo en cours d’exécution ne répond pas.</translation>
         </message>
         <message>
             <source>Nocturo did not do it: %@</source>
@@ -491,6 +499,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>There is no verb "%@"; nocturoctl --help lists them.</source>
             <translation>Le verbe « %@ » n’existe pas ; nocturoctl --help les énumère.</translation>
+        </message>
+        <message>
+            <source>The answer cannot be written: %@.</source>
+            <translation>La réponse ne peut pas être écrite : %@.</translation>
         </message>
         <message>
             <source>held by another program</source>
@@ -1041,10 +1053,6 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
         <message>
             <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
             <translation>--display-services accepte auto, randr, wlr, simulated ou simulated:N avec N de 1 à 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>Le Nocturo en cours d’exécution ne répond pas.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

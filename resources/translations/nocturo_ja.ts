@@ -283,6 +283,10 @@
             <translation>効果のドキュメントではありません: %@</translation>
         </message>
         <message>
+            <source>Nocturo answered something that this version does not understand.</source>
+            <translation>Nocturoの応答をこのバージョンでは解釈できません。</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo は起動していません。次のように起動してください: nocturo &amp;</translation>
         </message>
@@ -293,6 +297,10 @@
         <message>
             <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
             <translation>Nocturo と通信するためのセッションバスがありません。デスクトップセッションの中で次のように起動してください: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>起動中の Nocturo が応答しません。</translation>
         </message>
         <message>
             <source>Nocturo did not do it: %@</source>
@@ -491,6 +499,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>There is no verb "%@"; nocturoctl --help lists them.</source>
             <translation>「%@」という動詞はありません。nocturoctl --help で一覧を表示できます。</translation>
+        </message>
+        <message>
+            <source>The answer cannot be written: %@.</source>
+            <translation>応答を書き込めません: %@</translation>
         </message>
         <message>
             <source>held by another program</source>
@@ -1041,10 +1053,6 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
             <translation>--display-services に指定できるのは auto、randr、wlr、simulated、simulated:N (N は 1～16) です。</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>起動中の Nocturo が応答しません。</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

@@ -283,6 +283,10 @@
             <translation>Estes não são documentos de efeito: %@</translation>
         </message>
         <message>
+            <source>Nocturo answered something that this version does not understand.</source>
+            <translation>O Nocturo respondeu algo que esta versão não entende.</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>O Nocturo não está em execução; inicie-o com: nocturo &amp;</translation>
         </message>
@@ -293,6 +297,10 @@
         <message>
             <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
             <translation>Não há barramento de sessão pelo qual alcançar o Nocturo; inicie-o dentro de uma sessão gráfica com: nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>O Nocturo em execução não responde.</translation>
         </message>
         <message>
             <source>Nocturo did not do it: %@</source>
@@ -491,6 +499,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>There is no verb "%@"; nocturoctl --help lists them.</source>
             <translation>Não existe o verbo “%@”; nocturoctl --help os lista.</translation>
+        </message>
+        <message>
+            <source>The answer cannot be written: %@.</source>
+            <translation>Não é possível escrever a resposta: %@.</translation>
         </message>
         <message>
             <source>held by another program</source>
@@ -1041,10 +1053,6 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
         <message>
             <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
             <translation>--display-services aceita auto, randr, wlr, simulated ou simulated:N com N de 1 a 16.</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>O Nocturo em execução não responde.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

@@ -283,6 +283,10 @@
             <translation>以下不是效果文档：%@</translation>
         </message>
         <message>
+            <source>Nocturo answered something that this version does not understand.</source>
+            <translation>Nocturo 的回答是此版本无法理解的。</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo 未在运行；请用此命令启动：nocturo &amp;</translation>
         </message>
@@ -293,6 +297,10 @@
         <message>
             <source>There is no session bus over which Nocturo could be reached; start it inside a desktop session with: nocturo &amp;</source>
             <translation>没有可用来联系 Nocturo 的会话总线；请在桌面会话中用此命令启动：nocturo &amp;</translation>
+        </message>
+        <message>
+            <source>The Nocturo that runs does not answer.</source>
+            <translation>正在运行的 Nocturo 没有响应。</translation>
         </message>
         <message>
             <source>Nocturo did not do it: %@</source>
@@ -491,6 +499,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>There is no verb "%@"; nocturoctl --help lists them.</source>
             <translation>没有动词“%@”；nocturoctl --help 会列出全部动词。</translation>
+        </message>
+        <message>
+            <source>The answer cannot be written: %@.</source>
+            <translation>无法写出回答：%@。</translation>
         </message>
         <message>
             <source>held by another program</source>
@@ -1040,10 +1052,6 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
             <translation>--display-services 可取 auto、randr、wlr、simulated 或 simulated:N，其中 N 为 1 到 16。</translation>
-        </message>
-        <message>
-            <source>The Nocturo that runs does not answer.</source>
-            <translation>正在运行的 Nocturo 没有响应。</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

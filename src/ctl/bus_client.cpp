@@ -3,6 +3,7 @@
 #include "base/texts/translated.h"
 #include "bus/bus_names.h"
 #include "bus/bus_values.h"
+#include "ctl/answer_check.h"
 #include "ctl/bus_json.h"
 #include "ctl/failure.h"
 
@@ -35,6 +36,7 @@ class BusError {
     BusError& operator=(const BusError&) = delete;
 
     sd_bus_error* get() { return &error_; }
+    bool isSet() const { return sd_bus_error_is_set(&error_) != 0; }
     bool is(const char* name) const { return sd_bus_error_has_name(&error_, name) != 0; }
     std::string sentence() const { return error_.message != nullptr ? error_.message : "unknown"; }
 
@@ -42,45 +44,25 @@ class BusError {
     sd_bus_error error_ = SD_BUS_ERROR_NULL;
 };
 
-struct Watching {
-    const std::function<void(const Json&)>& changed;
-    bool nocturoLeft = false;
-};
-
-int propertiesDidChange(sd_bus_message* message, void* context, sd_bus_error* /*error*/) {
-    const char* interface = nullptr;
-    if (sd_bus_message_read(message, "s", &interface) < 0 ||
-        std::string_view(interface) != kNocturoInterface) {
-        return 0;
+// Waits without end for what the handlers of the bus are given.
+void serve(sd_bus* bus, const bool& isOver) {
+    while (!isOver) {
+        const int processed = sd_bus_process(bus, nullptr);
+        check(processed);
+        if (processed == 0) {
+            check(sd_bus_wait(bus, UINT64_MAX));
+        }
     }
-    static_cast<Watching*>(context)->changed(withSmallFirstLetters(readJson(message)));
-    return 0;
-}
-
-int nameOwnerDidChange(sd_bus_message* message, void* context, sd_bus_error* /*error*/) {
-    const char* name = nullptr;
-    const char* before = nullptr;
-    const char* after = nullptr;
-    if (sd_bus_message_read(message, "sss", &name, &before, &after) >= 0 && *after == '\0') {
-        static_cast<Watching*>(context)->nocturoLeft = true;
-    }
-    return 0;
 }
 
 } // namespace
 
-BusClient::BusClient() {
-    sd_bus* bus = nullptr;
-    if (sd_bus_open_user(&bus) < 0) {
+BusClient::BusClient() : bus_(Bus::connect(sessionBusAddress(), loop_)) {
+    if (bus_ == nullptr) {
         throw Failure{kNotRunning,
                       translated("There is no session bus over which Nocturo could be reached; "
                                  "start it inside a desktop session with: nocturo &")};
     }
-    bus_.reset(bus);
-}
-
-void BusClient::setPatience(std::chrono::microseconds patience) {
-    sd_bus_set_method_call_timeout(bus_.get(), static_cast<std::uint64_t>(patience.count()));
 }
 
 void BusClient::call(const char* method) {
@@ -88,25 +70,25 @@ void BusClient::call(const char* method) {
 }
 
 void BusClient::call(const char* method, bool argument) {
-    const Message message = newCall(kNocturoInterface, method);
+    const BusMessage message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "b", static_cast<int>(argument)));
     send(message);
 }
 
 void BusClient::call(const char* method, std::uint32_t argument) {
-    const Message message = newCall(kNocturoInterface, method);
+    const BusMessage message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "u", argument));
     send(message);
 }
 
 void BusClient::call(const char* method, const std::string& argument) {
-    const Message message = newCall(kNocturoInterface, method);
+    const BusMessage message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "s", argument.c_str()));
     send(message);
 }
 
 void BusClient::call(const char* method, std::span<const std::string> argument) {
-    const Message message = newCall(kNocturoInterface, method);
+    const BusMessage message = newCall(kNocturoInterface, method);
     check(sd_bus_message_open_container(message.get(), 'a', "s"));
     for (const std::string& text : argument) {
         check(sd_bus_message_append(message.get(), "s", text.c_str()));
@@ -116,66 +98,74 @@ void BusClient::call(const char* method, std::span<const std::string> argument) 
 }
 
 void BusClient::callSetSetting(const std::string& key, const PropertyValue& value) {
-    const Message message = newCall(kNocturoInterface, "SetSetting");
+    const BusMessage message = newCall(kNocturoInterface, "SetSetting");
     check(sd_bus_message_append(message.get(), "s", key.c_str()));
     appendVariant(message.get(), busValue(value));
     send(message);
 }
 
 std::string BusClient::renderPreview(std::uint32_t display) {
-    const Message message = newCall(kNocturoInterface, "RenderPreview");
+    const BusMessage message = newCall(kNocturoInterface, "RenderPreview");
     check(sd_bus_message_append(message.get(), "u", display));
-    const Message reply = send(message);
+    const BusMessage reply = send(message);
     const void* bytes = nullptr;
     std::size_t size = 0;
-    check(sd_bus_message_read_array(reply.get(), 'y', &bytes, &size));
+    if (sd_bus_message_read_array(reply.get(), 'y', &bytes, &size) < 0) {
+        failBecauseNotUnderstood();
+    }
     return {static_cast<const char*>(bytes), size};
 }
 
 Json BusClient::properties() {
-    const Message message = newCall(kPropertiesInterface, "GetAll");
+    const BusMessage message = newCall(kPropertiesInterface, "GetAll");
     check(sd_bus_message_append(message.get(), "s", kNocturoInterface));
-    return withSmallFirstLetters(readJson(send(message).get()));
+    Json properties = withSmallFirstLetters(readJson(send(message).get()));
+    checkAnswer(properties, Answer::whole);
+    return properties;
 }
 
 void BusClient::watch(const std::function<void(const Json& properties)>& started,
                       const std::function<void(const Json& properties)>& changed) {
-    Watching watching{changed};
-    sd_bus_slot* slot = nullptr;
-    check(sd_bus_match_signal(bus_.get(), &slot, kBusName, kObjectPath, kPropertiesInterface,
-                              "PropertiesChanged", propertiesDidChange, &watching));
-    const Slot propertiesSlot(slot);
-    const std::string ownerRule =
-        std::string("type='signal',sender='org.freedesktop.DBus',"
-                    "interface='org.freedesktop.DBus',member='NameOwnerChanged',arg0='") +
-        kBusName + "'";
-    check(sd_bus_add_match(bus_.get(), &slot, ownerRule.c_str(), nameOwnerDidChange, &watching));
-    const Slot ownerSlot(slot);
+    bool isOver = false;
+    std::optional<Failure> failure; // nothing may be thrown through the bus's library
+    const auto changes =
+        bus_->onSignal(kBusName, kObjectPath, kPropertiesInterface, "PropertiesChanged",
+                       [&](sd_bus_message* signal) {
+                           const char* interface = nullptr;
+                           if (isOver || sd_bus_message_read(signal, "s", &interface) < 0 ||
+                               std::string_view(interface) != kNocturoInterface) {
+                               return;
+                           }
+                           try {
+                               const Json properties = withSmallFirstLetters(readJson(signal));
+                               checkAnswer(properties, Answer::inPart);
+                               changed(properties);
+                           } catch (const Failure& thrown) {
+                               failure = thrown;
+                               isOver = true;
+                           }
+                       });
+    std::string owner;
+    const auto owners = bus_->followOwner(kBusName, [&](const std::string& name) {
+        isOver = isOver || (!owner.empty() && name.empty());
+        owner = name;
+    });
     started(properties());
-    while (!watching.nocturoLeft) {
-        const int processed = sd_bus_process(bus_.get(), nullptr);
-        check(processed);
-        if (processed == 0) {
-            check(sd_bus_wait(bus_.get(), UINT64_MAX));
-        }
+    serve(bus_->handle(), isOver);
+    if (failure) {
+        throw Failure(*failure);
     }
 }
 
-BusClient::Message BusClient::newCall(const char* interface, const char* method) {
-    sd_bus_message* message = nullptr;
-    check(sd_bus_message_new_method_call(bus_.get(), &message, kBusName, kObjectPath, interface,
-                                         method));
-    Message call(message);
-    check(sd_bus_message_set_auto_start(message, 0));
-    return call;
+BusMessage BusClient::newCall(const char* interface, const char* method) {
+    return bus_->newCall(kBusName, kObjectPath, interface, method);
 }
 
-BusClient::Message BusClient::send(const Message& message) {
-    constexpr std::uint64_t kDefaultTimeout = 0;
+BusMessage BusClient::send(const BusMessage& message) {
     BusError error;
-    sd_bus_message* reply = nullptr;
-    if (sd_bus_call(bus_.get(), message.get(), kDefaultTimeout, error.get(), &reply) >= 0) {
-        return Message(reply);
+    BusMessage reply = bus_->callAndWait(message, static_cast<int>(patience_.count()), error.get());
+    if (reply != nullptr) {
+        return reply;
     }
     if (error.is(SD_BUS_ERROR_SERVICE_UNKNOWN) || error.is(SD_BUS_ERROR_NAME_HAS_NO_OWNER)) {
         failBecauseNotRunning();
@@ -185,6 +175,9 @@ BusClient::Message BusClient::send(const Message& message) {
     }
     if (error.is(kFailedError)) {
         throw Failure{kFailed, error.sentence()};
+    }
+    if (!error.isSet() || error.is(SD_BUS_ERROR_NO_REPLY) || error.is(SD_BUS_ERROR_TIMEOUT)) {
+        throw Failure{kFailed, translated("The Nocturo that runs does not answer.")};
     }
     throw Failure{kFailed, translated("Nocturo did not do it: %@", {error.sentence()})};
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/bus.h"
+#include "base/event_loop.h"
 #include "base/property_value.h"
 
 #include <chrono>
@@ -8,19 +10,19 @@
 #include <nlohmann/json.hpp>
 #include <span>
 #include <string>
-#include <systemd/sd-bus.h>
 
 namespace nocturo {
 
 using Json = nlohmann::ordered_json;
 
-/// The running Nocturo, over the session bus. Every member throws Failure.
+/// The running Nocturo, over the session bus. Every member throws Failure, also where the answer is
+/// none that this version understands.
 class BusClient {
   public:
     BusClient();
 
-    /// How long to wait for an answer, instead of the bus library's 25 seconds.
-    void setPatience(std::chrono::microseconds patience);
+    /// How long to wait for an answer, instead of 5 seconds.
+    void setPatience(std::chrono::milliseconds patience) { patience_ = patience; }
 
     void call(const char* method);
     void call(const char* method, bool argument);
@@ -34,27 +36,23 @@ class BusClient {
     /// `value` is of a type that a setting can have.
     void callSetSetting(const std::string& key, const PropertyValue& value);
 
-    /// All properties, their names with a small first letter: {"active": true, ...}.
+    /// All properties, their names with a small first letter: {"active": true, ...}. Those that
+    /// this version knows are there, and of their types.
     Json properties();
 
     /// Calls `started` once with all properties, and from then on `changed` with those that
     /// changed, each time that some did, until Nocturo leaves the bus. Misses no change in between.
+    /// Those that this version knows are of their types.
     void watch(const std::function<void(const Json& properties)>& started,
                const std::function<void(const Json& properties)>& changed);
 
   private:
-    struct Unref {
-        void operator()(sd_bus* bus) const { sd_bus_flush_close_unref(bus); }
-        void operator()(sd_bus_message* message) const { sd_bus_message_unref(message); }
-        void operator()(sd_bus_slot* slot) const { sd_bus_slot_unref(slot); }
-    };
-    using Message = std::unique_ptr<sd_bus_message, Unref>;
-    using Slot = std::unique_ptr<sd_bus_slot, Unref>;
+    BusMessage newCall(const char* interface, const char* method);
+    BusMessage send(const BusMessage& message);
 
-    Message newCall(const char* interface, const char* method);
-    Message send(const Message& message);
-
-    std::unique_ptr<sd_bus, Unref> bus_;
+    EventLoop loop_;
+    std::unique_ptr<Bus> bus_;
+    std::chrono::milliseconds patience_{5000};
 };
 
 } // namespace nocturo

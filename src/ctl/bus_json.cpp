@@ -1,5 +1,7 @@
 #include "ctl/bus_json.h"
 
+#include "ctl/answer_check.h"
+
 #include <cctype>
 #include <string>
 #include <utility>
@@ -8,18 +10,22 @@ namespace nocturo {
 
 namespace {
 
+// Whatever cannot be read; going on might never end.
+void need(bool isRead) {
+    if (!isRead) {
+        failBecauseNotUnderstood();
+    }
+}
+
 template <typename Value>
 Json readBasic(sd_bus_message* message, char type) {
     Value value{};
-    if (sd_bus_message_read_basic(message, type, &value) <= 0) {
-        return nullptr;
-    }
+    need(sd_bus_message_read_basic(message, type, &value) > 0);
     return Json(value);
 }
 
 Json readBoolean(sd_bus_message* message) {
-    const Json number = readBasic<int>(message, 'b');
-    return number.is_null() ? number : Json(number.get<int>() != 0);
+    return readBasic<int>(message, 'b').get<int>() != 0;
 }
 
 Json readObject(sd_bus_message* message) {
@@ -27,7 +33,7 @@ Json readObject(sd_bus_message* message) {
     while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, nullptr) > 0) {
         const Json key = readJson(message);
         object[key.is_string() ? key.get<std::string>() : key.dump()] = readJson(message);
-        sd_bus_message_exit_container(message);
+        need(sd_bus_message_exit_container(message) >= 0);
     }
     return object;
 }
@@ -41,9 +47,7 @@ Json readArray(sd_bus_message* message) {
 }
 
 Json readContainer(sd_bus_message* message, char type, const char* contents) {
-    if (sd_bus_message_enter_container(message, type, contents) <= 0) {
-        return nullptr;
-    }
+    need(sd_bus_message_enter_container(message, type, contents) > 0);
     Json value;
     if (type == SD_BUS_TYPE_VARIANT) {
         value = readJson(message);
@@ -52,7 +56,7 @@ Json readContainer(sd_bus_message* message, char type, const char* contents) {
     } else {
         value = readArray(message);
     }
-    sd_bus_message_exit_container(message);
+    need(sd_bus_message_exit_container(message) >= 0);
     return value;
 }
 
@@ -61,9 +65,7 @@ Json readContainer(sd_bus_message* message, char type, const char* contents) {
 Json readJson(sd_bus_message* message) {
     char type = 0;
     const char* contents = nullptr;
-    if (sd_bus_message_peek_type(message, &type, &contents) <= 0) {
-        return nullptr;
-    }
+    need(sd_bus_message_peek_type(message, &type, &contents) > 0);
     switch (type) {
     case SD_BUS_TYPE_BOOLEAN:
         return readBoolean(message);
@@ -81,16 +83,22 @@ Json readJson(sd_bus_message* message) {
     case SD_BUS_TYPE_ARRAY:
         return readContainer(message, type, contents);
     default:
-        sd_bus_message_skip(message, nullptr);
+        need(sd_bus_message_skip(message, nullptr) >= 0);
         return nullptr;
     }
 }
 
 Json withSmallFirstLetters(const Json& object) {
+    if (!object.is_object()) {
+        return object;
+    }
     Json result = Json::object();
     for (const auto& [key, value] : object.items()) {
         std::string name = key;
-        name.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(name.front())));
+        if (!name.empty()) {
+            name.front() =
+                static_cast<char>(std::tolower(static_cast<unsigned char>(name.front())));
+        }
         result[name] = value;
     }
     return result;

@@ -2,6 +2,7 @@
 
 #include "ctl/bus_client.h"
 #include "ctl/failure.h"
+#include "ctl/output.h"
 #include "ctl/report.h"
 #include "ctl/restore.h"
 #include "ctl/setting_text.h"
@@ -49,19 +50,23 @@ void runRestore(Arguments arguments) {
     restoreDisplays();
 }
 
+void printLine(const Json& value) {
+    print(value.dump() + '\n');
+}
+
 void runStatus(Arguments arguments) {
     const bool asJson = arguments.size() == 1 && arguments[0] == "--json";
     expect(arguments.empty() || asJson);
     try {
         const Json properties = BusClient().properties();
         if (asJson) {
-            std::cout << statusObject(properties).dump() << '\n';
+            printLine(statusObject(properties));
         } else {
-            std::cout << statusReport(properties);
+            print(statusReport(properties));
         }
     } catch (const Failure& failure) {
         if (asJson && failure.exitStatus == kNotRunning) {
-            std::cout << notRunningObject().dump() << '\n';
+            printLine(notRunningObject());
         }
         throw;
     }
@@ -69,7 +74,7 @@ void runStatus(Arguments arguments) {
 
 void runEffects(Arguments arguments) {
     if (arguments.empty()) {
-        std::cout << effectsReport(BusClient().properties());
+        print(effectsReport(BusClient().properties()));
         return;
     }
     const std::string& how = arguments.front();
@@ -101,7 +106,7 @@ const Setting& settingFromName(const std::string& key) {
 void runGet(Arguments arguments) {
     expect(arguments.size() == 1);
     settingFromName(arguments[0]);
-    std::cout << BusClient().properties()["settings"][arguments[0]].dump() << '\n';
+    printLine(BusClient().properties()["settings"][arguments[0]]);
 }
 
 void runSet(Arguments arguments) {
@@ -118,21 +123,18 @@ void runReset(Arguments arguments) {
 
 // Tells what stands in the way of a chosen hot key.
 void printHotKey(const Json& hotKey) {
-    if (hotKey.empty()) {
-        std::cout << translated("No hot key is chosen.") << '\n';
-        return;
+    std::string line = translated("No hot key is chosen.");
+    if (!hotKey.empty()) {
+        line = hotKey["text"].get<std::string>();
+        if (!hotKey["enabled"].get<bool>()) {
+            line = translated("%@  (not enabled; nocturoctl hotkey enable)", {line});
+        } else if (!hotKey["registered"].get<bool>()) {
+            line = translated("%@  (not in force: another program holds it, or the desktop "
+                              "offers no hot keys)",
+                              {line});
+        }
     }
-    const auto text = hotKey["text"].get<std::string>();
-    if (!hotKey["enabled"].get<bool>()) {
-        std::cout << translated("%@  (not enabled; nocturoctl hotkey enable)", {text});
-    } else if (!hotKey["registered"].get<bool>()) {
-        std::cout << translated("%@  (not in force: another program holds it, or the desktop "
-                                "offers no hot keys)",
-                                {text});
-    } else {
-        std::cout << text;
-    }
-    std::cout << '\n';
+    print(line + '\n');
 }
 
 void runHotKey(Arguments arguments) {
@@ -187,7 +189,7 @@ std::uint32_t displayFromText(const Json& properties, const std::string& text) {
 void runScreens(Arguments arguments) {
     BusClient client;
     if (arguments.empty()) {
-        std::cout << screensReport(client.properties());
+        print(screensReport(client.properties()));
     } else if (arguments[0] == "all" && arguments.size() == 1) {
         client.call("AffectAllScreens");
     } else {
@@ -267,7 +269,7 @@ void printChanges(Json& known, const Json& changed) {
         }
         known["settings"] = value;
     }
-    std::cout << changeObject(line).dump() << std::endl;
+    printLine(changeObject(line));
 }
 
 void runWatch(Arguments arguments) {

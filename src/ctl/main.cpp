@@ -2,9 +2,9 @@
 #include "base/texts/users_language.h"
 #include "ctl/commands.h"
 #include "ctl/failure.h"
+#include "ctl/output.h"
 
 #include <algorithm>
-#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -21,22 +21,20 @@ std::string call(const Command& command) {
 }
 
 void printHelp() {
-    std::cout << translated("Usage: %@", {"nocturoctl VERB [ARGUMENT...]"}) << "\n\n"
-              << translated("Drives the Nocturo that runs in this session.") << "\n\n";
+    std::string text = translated("Usage: %@", {"nocturoctl VERB [ARGUMENT...]"}) + "\n\n" +
+                       translated("Drives the Nocturo that runs in this session.") + "\n\n";
     for (const Command& command : commands()) {
         std::string line = "  " + call(command);
         line.resize(std::max(line.size() + 2, kUsageColumn), ' ');
-        std::cout << line << command.summary.translated() << '\n';
+        text += line + command.summary.translated() + '\n';
     }
-    std::cout << '\n'
-              << translated("nocturoctl VERB --help tells more.") << "\n\n"
-              << translated(
-                     "With --keep, colors that leave every screen hard to read stay. Without "
-                     "it they go back\nafter ten seconds, unless somebody keeps them.")
-              << "\n\n"
-              << translated("Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not "
-                            "running.")
-              << '\n';
+    print(text + '\n' + translated("nocturoctl VERB --help tells more.") + "\n\n" +
+          translated("With --keep, colors that leave every screen hard to read stay. Without "
+                     "it they go back\nafter ten seconds, unless somebody keeps them.") +
+          "\n\n" +
+          translated("Exit status: 0 done, 1 failed, 2 not understood, 3 Nocturo is not "
+                     "running.") +
+          '\n');
 }
 
 std::string usage(const Command& command) {
@@ -44,14 +42,15 @@ std::string usage(const Command& command) {
 }
 
 void printHelp(const Command& command) {
-    std::cout << usage(command) << "\n\n" << command.summary.translated() << '\n';
+    std::string text = usage(command) + "\n\n" + command.summary.translated() + '\n';
     if (!command.details.isEmpty()) {
-        std::cout << '\n' << command.details.translated() << '\n';
+        text += '\n' + command.details.translated() + '\n';
     }
+    print(text);
 }
 
 int tell(const Failure& failure) {
-    std::cerr << "nocturoctl: " << failure.sentence << '\n';
+    std::cerr << "nocturoctl: " << visible(failure.sentence) << '\n';
     return failure.exitStatus;
 }
 
@@ -64,7 +63,7 @@ int run(const std::vector<std::string>& arguments) {
         return kSuccess;
     }
     if (arguments[0] == "--version") {
-        std::cout << "nocturoctl " NOCTURO_VERSION "\n";
+        print("nocturoctl " NOCTURO_VERSION "\n");
         return kSuccess;
     }
     const auto all = commands();
@@ -87,7 +86,10 @@ int run(const std::vector<std::string>& arguments) {
             keepColors();
         }
     } catch (const Failure& failure) {
-        return failure.sentence.empty() ? tell({kUsage, usage(*command)}) : tell(failure);
+        if (failure.sentence.empty()) {
+            return tell({kUsage, usage(*command)});
+        }
+        throw;
     }
     return kSuccess;
 }
@@ -100,8 +102,7 @@ int main(int argc, char* argv[]) {
     try {
         nocturo::setLanguageOfTexts(nocturo::usersLanguage());
         return nocturo::run(std::vector<std::string>(argv + 1, argv + argc));
-    } catch (const std::exception& unexpected) {
-        std::cerr << "nocturoctl: " << unexpected.what() << '\n';
-        return nocturo::kFailed;
+    } catch (const nocturo::Failure& failure) {
+        return nocturo::tell(failure);
     }
 }

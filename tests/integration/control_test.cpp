@@ -2,8 +2,11 @@
 
 #include "nocturo_test.h"
 
+#include <functional>
 #include <iterator>
 #include <sstream>
+
+#include <systemd/sd-bus.h>
 
 namespace nocturo::rig {
 
@@ -21,6 +24,123 @@ class ControlOfRunning : public Control {
   protected:
     ControlOfRunning() { nocturo_ = session_.startNocturo({"--display-services=simulated:3"}); }
 };
+
+/// Answers in Nocturo's name what `answer` appends to each reply.
+class OddNocturo {
+  public:
+    using Answer = std::function<void(sd_bus_message* reply)>;
+
+    explicit OddNocturo(const std::string& address) {
+        sd_bus* raw = nullptr;
+        sd_bus_new(&raw);
+        bus_.reset(raw);
+        sd_bus_set_address(raw, address.c_str());
+        sd_bus_set_bus_client(raw, 1);
+        sd_bus_start(raw);
+        sd_bus_add_filter(raw, nullptr, handle, this);
+        EXPECT_GE(sd_bus_request_name(raw, "org.nocturo.Nocturo", 0), 0);
+    }
+
+    RunResult answer(Session& session, const Arguments& arguments, Answer answer) {
+        answer_ = std::move(answer);
+        const auto caller = session.start("nocturoctl", arguments);
+        while (caller->isRunning()) {
+            sd_bus_wait(bus_.get(), 2000);
+            sd_bus_process(bus_.get(), nullptr);
+        }
+        return {caller->wait().value_or(-1), caller->output(), caller->errors()};
+    }
+
+  private:
+    static int handle(sd_bus_message* call, void* self, sd_bus_error* /*error*/) {
+        sd_bus_message* reply = nullptr;
+        if (sd_bus_message_is_method_call(call, nullptr, nullptr) == 0 ||
+            sd_bus_message_new_method_return(call, &reply) < 0) {
+            return 0;
+        }
+        static_cast<OddNocturo*>(self)->answer_(reply);
+        sd_bus_send(nullptr, reply, nullptr);
+        sd_bus_message_unref(reply);
+        return 1;
+    }
+
+    std::unique_ptr<sd_bus, decltype(&sd_bus_close_unref)> bus_{nullptr, sd_bus_close_unref};
+    Answer answer_;
+};
+
+/// What GetAll answers, but that the display is called so and "Effects" is what `effects` appends.
+void appendProperties(sd_bus_message* reply, const char* name,
+                      const std::function<void()>& effects) {
+    sd_bus_message_open_container(reply, 'a', "{sv}");
+    sd_bus_message_append(reply, "{sv}{sv}{sv}{sv}{sv}", "Active", "b", 1, "DisplayServices", "s",
+                          "odd", "DimLevel", "d", 0.0, "ColorFilterHue", "d", 0.0,
+                          "ColorFilterVividness", "d", 0.0);
+    sd_bus_message_append(reply, "{sv}{sv}{sv}{sv}{sv}", "AffectedScreenSet", "ax", 0, "HotKey",
+                          "a{sv}", 0, "Settings", "a{sv}", 0, "Disturbances", "u", 0U, "Disturber",
+                          "s", "");
+    sd_bus_message_append(reply, "{sv}", "Displays", "aa{sv}", 1, 7, "number", "i", 1, "id", "u",
+                          7U, "name", "s", name, "main", "b", 1, "rampSize", "u", 256U, "affected",
+                          "b", 1, "applied", "b", 0);
+    sd_bus_message_append(reply, "{sv}", "", "v", "g", "a{sv}"); // a later Nocturo may tell more
+    effects();
+    sd_bus_message_close_container(reply);
+}
+
+TEST_F(Control, OddAnswersAreTakenAsSuch) {
+    OddNocturo odd(session_.bus().address());
+    const auto effects = [](sd_bus_message* reply, auto... value) {
+        return [=] { sd_bus_message_append(reply, "{sv}", "Effects", value...); };
+    };
+    const OddNocturo::Answer answers[] = {
+        [](sd_bus_message*) {},
+        [](sd_bus_message* reply) { sd_bus_message_append(reply, "s", "yes"); },
+        [](sd_bus_message* reply) { sd_bus_message_append(reply, "a{sv}", 0); },
+        [&](sd_bus_message* reply) { appendProperties(reply, "x", [] {}); },
+        [&](sd_bus_message* reply) { appendProperties(reply, "x", effects(reply, "s", "dim")); },
+        [&](sd_bus_message* reply) { appendProperties(reply, "x", effects(reply, "as", 0)); },
+        [&](sd_bus_message* reply) { appendProperties(reply, "x", effects(reply, "ai", 1, 5)); },
+    };
+    for (const Arguments& verb : {Arguments{"status"},
+                                  {"status", "--json"},
+                                  {"effects"},
+                                  {"screens"},
+                                  {"hotkey"},
+                                  {"watch"},
+                                  {"screens", "toggle", "1"},
+                                  {"preview", "--png", "/dev/null"}}) {
+        for (std::size_t i = 0; i < std::size(answers); ++i) {
+            SCOPED_TRACE(verb.back() + std::to_string(i));
+            if (i == 5) {
+                continue; // all is well there
+            }
+            const RunResult result = odd.answer(session_, verb, answers[i]);
+            EXPECT_EQ(result.exit, 1);
+            EXPECT_EQ(result.output, "");
+            EXPECT_EQ(result.errors, "nocturoctl: Nocturo answered something that this version "
+                                     "does not understand.\n");
+        }
+    }
+    const std::string name = odd.answer(session_, {"screens"},
+                                        [&](sd_bus_message* reply) {
+                                            appendProperties(reply, "\033]0;\302\233\b\303\251",
+                                                             effects(reply, "as", 0));
+                                        })
+                                 .output;
+    EXPECT_NE(name.find("\\u001b]0;\\u009b\\u0008\303\251"), std::string::npos) << name;
+}
+
+TEST_F(ControlOfRunning, SaysSoWhenItCannotWriteOrIsNotAnswered) {
+    const RunResult full = session_.run(
+        "sh", {"-c", "exec \"$0\" status > /dev/full",
+               std::filesystem::read_symlink("/proc/self/exe").parent_path() / "nocturoctl"});
+    EXPECT_EQ(full.exit, 1);
+    EXPECT_NE(full.errors.find("cannot be written"), std::string::npos) << full.errors;
+    nocturo_->signal(SIGSTOP);
+    const RunResult stopped = session_.run("nocturoctl", {"off"}, Milliseconds(7000));
+    nocturo_->signal(SIGCONT);
+    EXPECT_EQ(stopped.exit, 1);
+    EXPECT_NE(stopped.errors.find("does not answer"), std::string::npos) << stopped.errors;
+}
 
 TEST_F(Control, WrongCommandLinesAreUsageErrors) {
     const char* lines[] = {"nocturo --display-services=nonsense",
