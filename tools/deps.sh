@@ -17,7 +17,6 @@ run          qt6-l10n-tools            ...
 run          python3                   texts of the command line
 run          libqt6svg6                icons
 run          libplist-dev              property lists
-run          libglib2.0-dev            desktop entries
 run          libxcb1-dev               X11
 run          libxcb-randr0-dev         displays
 run          libxcb-screensaver0-dev   screen savers of an X server
@@ -83,7 +82,7 @@ TABLE
 # Libraries have the names that pkg-config gives them.
 elsewhere=$(cat <<'TABLE'
 run          program  g++ make cmake ninja pkg-config python3
-run          library  libplist-2.0 glib-2.0 wayland-client xcb xcb-randr xcb-screensaver xcb-xkb xkbcommon-x11 lcms2
+run          library  libplist-2.0 wayland-client xcb xcb-randr xcb-screensaver xcb-xkb xkbcommon-x11 lcms2
 run          library  libsystemd Qt6Core nlohmann_json
 test         program  Xorg xrandr xset xmodmap setxkbmap xdotool xwininfo trayer lxqt-panel gdbus gio
 test         program  mate-session update-mime-database update-desktop-database xscreensaver dbus-daemon

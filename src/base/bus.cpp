@@ -1,10 +1,10 @@
 #include "base/bus.h"
 
+#include "base/environment.h"
 #include "base/event_loop.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -22,11 +22,6 @@ std::uint64_t microsecondsUntil(std::chrono::steady_clock::time_point deadline) 
     const auto left = std::chrono::duration_cast<std::chrono::microseconds>(
         deadline - std::chrono::steady_clock::now());
     return static_cast<std::uint64_t>(std::max<std::int64_t>(left.count(), 1));
-}
-
-std::string environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value != nullptr ? value : "";
 }
 
 // Shared, because it may be destroyed while it runs.

@@ -4,8 +4,9 @@
 #include "base/event_loop.h"
 #include "base/texts/translated.h"
 
+#include <algorithm>
 #include <array>
-#include <glib.h>
+#include <charconv>
 
 namespace nocturo {
 
@@ -16,16 +17,47 @@ constexpr const char* kApplicationInterface = "org.freedesktop.Application";
 // The one that runs may be asking its user something before it comes to open anything.
 constexpr int kOpenTimeoutMs = 5000;
 
-using GlibText = std::unique_ptr<char, decltype(&g_free)>;
+constexpr std::string_view kFileScheme = "file://";
 
+/// The path of a file's address; what is no such address as it stands.
 std::string pathOf(const std::string& uri) {
-    const GlibText path(g_filename_from_uri(uri.c_str(), nullptr, nullptr), g_free);
-    return path != nullptr ? path.get() : uri;
+    const auto start = uri.find('/', kFileScheme.size()); // after the host
+    if (!uri.starts_with(kFileScheme) || start == std::string::npos) {
+        return uri;
+    }
+    std::string path;
+    for (const char* read = uri.data() + start; *read != '\0'; ++read) {
+        if (*read != '%') {
+            path += *read;
+            continue;
+        }
+        unsigned char byte = 0;
+        const char* digits = read + 1;
+        const char* end = std::min(digits + 2, uri.data() + uri.size());
+        if (std::from_chars(digits, end, byte, 16).ptr != digits + 2 || byte == 0) {
+            return uri;
+        }
+        path += static_cast<char>(byte);
+        read = digits + 1;
+    }
+    return path;
 }
 
+/// The address of the file at an absolute path.
 std::string uriOf(const std::string& path) {
-    const GlibText uri(g_filename_to_uri(path.c_str(), nullptr, nullptr), g_free);
-    return uri != nullptr ? uri.get() : path;
+    constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
+                                        "0123456789-._~/";
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string uri(kFileScheme);
+    for (const char character : path) {
+        if (kPlain.find(character) != std::string_view::npos) {
+            uri += character;
+        } else {
+            const auto byte = static_cast<unsigned char>(character);
+            uri += {'%', kDigits[byte / 16U], kDigits[byte % 16U]};
+        }
+    }
+    return uri;
 }
 
 } // namespace

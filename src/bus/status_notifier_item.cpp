@@ -1,8 +1,8 @@
 #include "bus/status_notifier_item.h"
 
 #include "app/status_image.h"
+#include "base/environment.h"
 #include "base/event_loop.h"
-#include "session/desktop_entries.h"
 
 #include <array>
 #include <cstdlib>
@@ -30,7 +30,7 @@ std::string_view imageName(bool active) {
 /// cannot find for an item without an image.
 std::string themedName(bool active) {
     std::string name = statusIconName(imageName(active));
-    for (const auto& directory : DesktopEntries::dataDirectories()) {
+    for (const auto& directory : dataDirectories()) {
         std::error_code error;
         if (std::filesystem::exists(directory / "icons/hicolor/symbolic/apps" / (name + ".svg"),
                                     error)) {

@@ -7,6 +7,7 @@
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "hotkeys/hot_key_center.h"
+#include "hotkeys/hot_key_text.h"
 #include "hotkeys/key_naming.h"
 #include "hotkeys/saved_hot_key.h"
 #include "settings/defaults_store.h"
@@ -14,17 +15,10 @@
 #include "settings/settings_table.h"
 
 #include <algorithm>
-#include <glib.h>
-#include <memory>
 
 namespace nocturo {
 
 namespace {
-
-std::string inCapitals(const std::string& text) {
-    const std::unique_ptr<char, decltype(&g_free)> capitals(g_utf8_strup(text.c_str(), -1), g_free);
-    return capitals.get();
-}
 
 std::string toldObstacle(Obstacle obstacle) {
     switch (obstacle) {

@@ -5,10 +5,12 @@
 #include "hotkeys/keyboard/modifier_flags.h"
 #include "hotkeys/keyboard/virtual_key_codes.h"
 
+#include <algorithm>
 #include <array>
-#include <cwchar>
-#include <locale>
-#include <stdexcept>
+#include <climits>
+#include <cstdlib>
+#include <cwctype>
+#include <locale.h>
 #include <utility>
 #include <vector>
 
@@ -28,33 +30,38 @@ constexpr auto kModifierNames = std::to_array<std::pair<std::wstring_view, std::
     {L"meta", NSCommandKeyMask},
 });
 
-// Hot keys are shown in capitals, so that "Ö" must find the key that types "ö", whatever locale the
-// user's terminal has.
-const std::locale& unicodeLocale() {
-    static const std::locale locale = [] {
-        try {
-            return std::locale("C.UTF-8");
-        } catch (const std::runtime_error&) {
-            return std::locale::classic();
-        }
-    }();
-    return locale;
+/// Has the C library's functions of text take it for UTF-8, whatever locale the user's terminal
+/// has.
+class UnicodeScope {
+  public:
+    UnicodeScope() {
+        static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+        before_ = uselocale(unicode);
+    }
+    ~UnicodeScope() { uselocale(before_); }
+    UnicodeScope(const UnicodeScope&) = delete;
+    UnicodeScope& operator=(const UnicodeScope&) = delete;
+
+  private:
+    locale_t before_;
+};
+
+// Empty when the text is not valid UTF-8. To be called in a UnicodeScope.
+std::wstring wideText(std::string_view text) {
+    std::wstring wide(text.size(), L'\0');
+    const std::size_t length = std::mbstowcs(wide.data(), std::string(text).c_str(), wide.size());
+    wide.resize(length != static_cast<std::size_t>(-1) ? length : 0);
+    return wide;
 }
 
-// Empty when the text is not valid UTF-8.
+// Hot keys are shown in capitals, so that "Ö" must find the key that types "ö". Empty when the text
+// is not valid UTF-8.
 std::wstring inLowerCase(std::string_view text) {
-    const std::locale& locale = unicodeLocale();
-    std::wstring wide(text.size(), L'\0');
-    std::mbstate_t state = {};
-    const char* read = nullptr;
-    wchar_t* written = nullptr;
-    const auto& codecvt = std::use_facet<std::codecvt<wchar_t, char, std::mbstate_t>>(locale);
-    if (codecvt.in(state, text.data(), text.data() + text.size(), read, wide.data(),
-                   wide.data() + wide.size(), written) != std::codecvt_base::ok) {
-        return {};
+    const UnicodeScope scope;
+    std::wstring wide = wideText(text);
+    for (wchar_t& character : wide) {
+        character = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(character)));
     }
-    wide.resize(static_cast<std::size_t>(written - wide.data()));
-    std::use_facet<std::ctype<wchar_t>>(locale).tolower(wide.data(), wide.data() + wide.size());
     return wide;
 }
 
@@ -108,6 +115,24 @@ std::optional<std::uint16_t> keyCodeTyping(std::string_view text, KeyboardLayout
 }
 
 } // namespace
+
+std::string inCapitals(std::string_view text) {
+    const UnicodeScope scope;
+    const std::wstring wide = wideText(text);
+    if (wide.empty()) {
+        return std::string(text);
+    }
+    std::string capitals;
+    for (const wchar_t character : wide) {
+        const auto capital =
+            static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(character)));
+        std::array<char, MB_LEN_MAX> bytes{};
+        const int length = std::wctomb(bytes.data(), capital);
+        // The only letter on a key whose capital is two.
+        capitals += character == L'ß' ? "SS" : std::string(bytes.data(), std::max(length, 0));
+    }
+    return capitals;
+}
 
 std::string hotKeyTextSyntax() {
     return translated(

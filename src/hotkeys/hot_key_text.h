@@ -16,6 +16,9 @@ struct HotKeyCombination {
     bool operator==(const HotKeyCombination&) const = default;
 };
 
+/// A hot key's text as it is shown. What is not valid UTF-8 stays as it is.
+std::string inCapitals(std::string_view text);
+
 /// What the user may write, for help texts.
 std::string hotKeyTextSyntax();
 

@@ -1,5 +1,6 @@
 #include "program/desktop_session.h"
 
+#include "base/environment.h"
 #include "base/notification_names.h"
 #include "bus/launcher_face.h"
 #include "program/connected_displays.h"
@@ -9,8 +10,7 @@
 namespace nocturo {
 
 DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays, XConnection* server)
-    : core_(core), displays_(displays), server_(server),
-      applications_(DesktopEntries::dataDirectories()),
+    : core_(core), displays_(displays), server_(server), applications_(dataDirectories()),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);
     core.desktop.setXServer(server);

@@ -1,5 +1,6 @@
 #include "program/surroundings.h"
 
+#include "base/environment.h"
 #include "x11/xcb_handles.h"
 
 #include <cstdlib>
@@ -8,18 +9,6 @@
 namespace nocturo {
 
 namespace {
-
-std::string environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
-/// The directory that the variable names, if it does so by an absolute path, or else one in the
-/// user's home.
-std::filesystem::path userDirectory(const char* variable, const char* inHome) {
-    const std::filesystem::path named = environment(variable);
-    return named.is_absolute() ? named : std::filesystem::path(environment("HOME")) / inHome;
-}
 
 /// Whether Qt, which ends the process where it finds no desktop, has one to show windows on.
 bool hasDesktop() {

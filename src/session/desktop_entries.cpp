@@ -1,9 +1,13 @@
 #include "session/desktop_entries.h"
 
-#include <glib.h>
+#include "base/environment.h"
+#include "base/files.h"
+#include "base/texts/users_language.h"
 
+#include <algorithm>
 #include <array>
-#include <memory>
+#include <map>
+#include <unistd.h>
 
 namespace nocturo {
 
@@ -20,45 +24,103 @@ constexpr std::array<PackagedName, 3> kPackagedNames = {{
     {"org.herf.Flux", "f.lux-indicator-applet"},
 }};
 
-struct KeyFileDeleter {
-    void operator()(GKeyFile* file) const { g_key_file_unref(file); }
-};
-using KeyFile = std::unique_ptr<GKeyFile, KeyFileDeleter>;
+/// The keys of an entry's main group, translations among them: "Name[de]".
+using Entry = std::map<std::string, std::string>;
 
-struct TextDeleter {
-    void operator()(char* text) const { g_free(text); }
-};
-using Text = std::unique_ptr<char, TextDeleter>;
+constexpr std::size_t kMostBytes = 1 << 20;
 
-std::string localText(const KeyFile& entry, const char* key) {
-    const Text text(
-        g_key_file_get_locale_string(entry.get(), G_KEY_FILE_DESKTOP_GROUP, key, nullptr, nullptr));
-    return text != nullptr ? text.get() : "";
+std::string_view trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t\r");
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
-// An entry may outlive its program, and says by which file that is to be seen.
-bool isThere(const KeyFile& entry) {
-    const auto* group = G_KEY_FILE_DESKTOP_GROUP;
-    if (g_key_file_get_boolean(entry.get(), group, G_KEY_FILE_DESKTOP_KEY_HIDDEN, nullptr)) {
-        return false;
+std::string unescaped(std::string_view value) {
+    constexpr std::string_view kLetters = "sntr";
+    constexpr std::string_view kMeant = " \n\t\r";
+    std::string text;
+    for (std::size_t i = 0; i < value.size(); ++i) {
+        if (value[i] == '\\' && i + 1 < value.size()) {
+            ++i;
+            const auto place = kLetters.find(value[i]);
+            text += place == std::string_view::npos ? value[i] : kMeant[place];
+        } else {
+            text += value[i];
+        }
     }
-    const Text program(
-        g_key_file_get_string(entry.get(), group, G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, nullptr));
-    return program == nullptr || Text(g_find_program_in_path(program.get())) != nullptr;
+    return text;
+}
+
+/// Nothing where the file is no desktop entry.
+std::optional<Entry> readEntry(const std::filesystem::path& path) {
+    const auto content = openRegularFile(path).and_then(
+        [](const OpenedFile& file) { return readAll(file.descriptor, kMostBytes); });
+    if (!content) {
+        return std::nullopt;
+    }
+    std::optional<Entry> entry;
+    bool isInMainGroup = false;
+    for (std::string_view rest = *content; !rest.empty();) {
+        const auto end = std::min(rest.find('\n'), rest.size());
+        const std::string_view line = trimmed(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+        const auto equals = line.find('=');
+        if (line.starts_with('[')) {
+            isInMainGroup = line == "[Desktop Entry]";
+            entry = isInMainGroup && !entry ? Entry() : std::move(entry);
+        } else if (isInMainGroup && !line.starts_with('#') && equals != std::string_view::npos) {
+            entry->insert_or_assign(std::string(trimmed(line.substr(0, equals))),
+                                    unescaped(trimmed(line.substr(equals + 1))));
+        }
+    }
+    return entry;
+}
+
+std::string textOf(const Entry& entry, const std::string& key) {
+    const auto found = entry.find(key);
+    return found != entry.end() ? found->second : std::string();
+}
+
+/// In the user's language where the entry has it: "de_AT@euro", "de_AT", "de@euro", then "de".
+std::string localText(const Entry& entry, const std::string& key) {
+    for (const std::string& locale : wantedLocales()) {
+        const std::string name = locale.substr(0, locale.find_first_of(".@"));
+        const std::string language = name.substr(0, name.find('_'));
+        const auto at = std::min(locale.find('@'), locale.size());
+        const std::string variety = locale.substr(at);
+        for (const auto& each : {name + variety, name, language + variety, language}) {
+            if (std::string text = textOf(entry, key + "[" + each + "]"); !text.empty()) {
+                return text;
+            }
+        }
+    }
+    return textOf(entry, key);
+}
+
+bool isProgram(const std::filesystem::path& program) {
+    const auto runs = [](const std::filesystem::path& path) {
+        std::error_code error;
+        return access(path.c_str(), X_OK) == 0 && std::filesystem::is_regular_file(path, error);
+    };
+    if (program.string().find('/') != std::string::npos) {
+        return runs(program);
+    }
+    const auto directories = partsOfList(environment("PATH"));
+    return std::any_of(directories.begin(), directories.end(),
+                       [&](const std::filesystem::path& each) { return runs(each / program); });
+}
+
+/// An entry may outlive its program, and says by which file that is to be seen.
+bool isThere(const Entry& entry) {
+    const std::string program = textOf(entry, "TryExec");
+    return textOf(entry, "Hidden") != "true" && (program.empty() || isProgram(program));
 }
 
 } // namespace
 
 DesktopEntries::DesktopEntries(std::vector<std::filesystem::path> dataDirectories)
     : dataDirectories_(std::move(dataDirectories)) {}
-
-std::vector<std::filesystem::path> DesktopEntries::dataDirectories() {
-    std::vector<std::filesystem::path> directories = {g_get_user_data_dir()};
-    for (const char* const* each = g_get_system_data_dirs(); *each != nullptr; ++each) {
-        directories.emplace_back(*each);
-    }
-    return directories;
-}
 
 std::optional<InstalledApplication>
 DesktopEntries::applicationWithBundleIdentifier(std::string_view identifier) const {
@@ -77,23 +139,16 @@ DesktopEntries::applicationWithBundleIdentifier(std::string_view identifier) con
 
 std::optional<InstalledApplication> DesktopEntries::entryNamed(const std::string& name) const {
     for (const auto& directory : dataDirectories_) {
-        const std::string path = directory / "applications" / (name + ".desktop");
-        const KeyFile entry(g_key_file_new());
-        // A file that is no desktop entry hides none further on.
-        if (!g_key_file_load_from_file(entry.get(), path.c_str(), G_KEY_FILE_KEEP_TRANSLATIONS,
-                                       nullptr) ||
-            !g_key_file_has_group(entry.get(), G_KEY_FILE_DESKTOP_GROUP)) {
-            continue;
+        const auto entry = readEntry(directory / "applications" / (name + ".desktop"));
+        if (!entry) {
+            continue; // a file that is no desktop entry hides none further on
         }
-        if (!isThere(entry)) {
+        if (!isThere(*entry)) {
             return std::nullopt;
         }
-        std::string shown = localText(entry, G_KEY_FILE_DESKTOP_KEY_NAME);
-        if (shown.empty()) {
-            shown = name;
-        }
-        return InstalledApplication{std::move(shown),
-                                    localText(entry, G_KEY_FILE_DESKTOP_KEY_ICON)};
+        std::string shown = localText(*entry, "Name");
+        return InstalledApplication{shown.empty() ? name : std::move(shown),
+                                    localText(*entry, "Icon")};
     }
     return std::nullopt;
 }

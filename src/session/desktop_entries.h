@@ -14,9 +14,6 @@ class DesktopEntries final : public InstalledApplications {
     /// Looks into `applications/` of these, the first that has an entry decides.
     explicit DesktopEntries(std::vector<std::filesystem::path> dataDirectories);
 
-    /// Those of the desktop: the user's, then the system's.
-    static std::vector<std::filesystem::path> dataDirectories();
-
     std::optional<InstalledApplication>
     applicationWithBundleIdentifier(std::string_view identifier) const override;
 

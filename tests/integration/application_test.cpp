@@ -29,7 +29,7 @@ class Application : public NocturoOnX {
         xdotool({"mousemove", "--window", alert, "5", "5", "key", "Return"});
     }
     std::string writtenDocument() {
-        const std::string file = session_.runtimeDirectory() / "mine.nocturo";
+        const std::string file = session_.runtimeDirectory() / "mine ö.nocturo";
         EXPECT_TRUE(writeEffectDocument(file, {.invertScreen = true}));
         return file;
     }
@@ -133,7 +133,7 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     const auto open = [&](const std::string& uri) {
         session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1, uri.c_str(), 0);
     };
-    open("file://" + good);
+    open("file://localhost" + session_.runtimeDirectory().string() + "/mine%20%C3%B6.nocturo");
     EXPECT_THROW(open("file:///none.nocturo"), std::runtime_error);
     EXPECT_EQ(session_.run("nocturo", {good}).exit, 0);
     const RunResult refused = session_.run("nocturo", {good, bad});
@@ -206,7 +206,7 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
 TEST_F(Application, DocumentsAndPreviewsNeedNoWindow) {
     select("NDHDTVLuminanceEffect");
     nocturo_ = session_.startNocturo();
-    const auto file = session_.runtimeDirectory() / "mine.nocturo";
+    const auto file = session_.runtimeDirectory() / "mine ö.nocturo";
     ASSERT_TRUE(writeEffectDocument(file, {.invertScreen = true, .dimLevel = 0.25F}));
     ctl({"open", file});
     EXPECT_TRUE(isInverted());

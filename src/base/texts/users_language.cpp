@@ -1,43 +1,22 @@
 #include "base/texts/users_language.h"
 
+#include "base/environment.h"
 #include "base/texts/text_tables.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 namespace nocturo {
 
 namespace {
 
-std::string_view variable(const char* name) {
-    const char* value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
-std::string_view localeOfMessages() {
+std::string localeOfMessages() {
     for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (!variable(name).empty()) {
-            return variable(name);
+        if (std::string locale = environment(name); !locale.empty()) {
+            return locale;
         }
     }
     return {};
-}
-
-std::vector<std::string_view> wantedLanguages() {
-    const std::string_view locale = localeOfMessages();
-    std::string_view list = variable("LANGUAGE");
-    if (list.empty() || locale == "C" || locale == "POSIX") {
-        return {locale};
-    }
-    std::vector<std::string_view> wanted;
-    while (!list.empty()) {
-        const auto end = std::min(list.find(':'), list.size());
-        wanted.push_back(list.substr(0, end));
-        list.remove_prefix(std::min(end + 1, list.size()));
-    }
-    return wanted;
 }
 
 struct Reader {
@@ -82,8 +61,17 @@ std::string languageFor(const Reader& reader) {
 
 } // namespace
 
+std::vector<std::string> wantedLocales() {
+    std::string locale = localeOfMessages();
+    std::vector<std::string> list = partsOfList(environment("LANGUAGE"));
+    if (list.empty() || locale == "C" || locale == "POSIX") {
+        return {std::move(locale)};
+    }
+    return list;
+}
+
 std::string usersLanguage() {
-    for (const std::string_view name : wantedLanguages()) {
+    for (const std::string& name : wantedLocales()) {
         const Reader reader = readerOf(name);
         if (reader.language == "en" || reader.language == "C" || reader.language == "POSIX") {
             break;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace nocturo {
 
@@ -10,5 +11,9 @@ namespace nocturo {
 /// another script. Empty when the texts are to be in English, which is also where English comes
 /// first, and where the locale is "C" or "POSIX", as scripts ask for.
 std::string usersLanguage();
+
+/// What whoever runs this process names by LANGUAGE, or else by LC_ALL, LC_MESSAGES or LANG, best
+/// first: "de_AT.UTF-8" for instance. One of them is empty where nothing is named.
+std::vector<std::string> wantedLocales();
 
 } // namespace nocturo

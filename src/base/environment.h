@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace nocturo {
+
+/// The value of that variable; empty where it is not set.
+std::string environment(const char* name);
+
+/// The directory that the variable names, if it does so by an absolute path, or else one in the
+/// user's home.
+std::filesystem::path userDirectory(const char* variable, const char* inHome);
+
+/// Where what is installed for everybody or for the user alone lies, the user's first.
+std::vector<std::filesystem::path> dataDirectories();
+
+/// The parts between colons, without the empty ones.
+std::vector<std::string> partsOfList(const std::string& list);
+
+} // namespace nocturo
