@@ -275,14 +275,6 @@
             <translation>Einen Bildschirm mit der Kennung %d gibt es nicht.</translation>
         </message>
         <message>
-            <source>A temperature is from 1000 to 25000 K.</source>
-            <translation>Eine Farbtemperatur reicht von 1000 bis 25000 K.</translation>
-        </message>
-        <message>
-            <source>The color filter has a hue and a vividness that are no temperature.</source>
-            <translation>Farbton und Sättigung des Farbfilters ergeben keine Farbtemperatur.</translation>
-        </message>
-        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo wartet auf die Antwort auf die Frage, die es zeigt.</translation>
         </message>
@@ -389,16 +381,6 @@ name. add and remove change the selection, only replaces it.</source>
 einer Klasse. add und remove ändern die Auswahl, only ersetzt sie.</translation>
         </message>
         <message>
-            <source>Show or choose a color temperature</source>
-            <translation>Eine Farbtemperatur zeigen oder wählen</translation>
-        </message>
-        <message>
-            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
-color filter, which is chosen. +N and -N go so far from the one in force.</source>
-            <translation>Von 1000 (Kerze) über 6500 (neutral) bis 25000 (blauer Himmel), als Farbton und
-Sättigung des Farbfilters, der damit gewählt ist. +N und -N gehen von der geltenden aus.</translation>
-        </message>
-        <message>
             <source>Show a setting</source>
             <translation>Eine Einstellung zeigen</translation>
         </message>
@@ -487,10 +469,6 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Die Bildschirme zurückgeben und Nocturo beenden</translation>
-        </message>
-        <message>
-            <source>%@  (the color filter is not chosen)</source>
-            <translation>%@  (der Farbfilter ist nicht gewählt)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -651,12 +629,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Nocturo hat seinen Effekt ausgeschaltet und die Bildschirme zurückgegeben.</translation>
         </message>
         <message>
-            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
-            <translation>Es gibt keinen X-Server, dessen Bildschirme zurückgegeben werden könnten, denn DISPLAY ist nicht gesetzt.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>Die Bildschirme wurden zurückgegeben, aber ein Nocturo, das nicht antwortet, läuft noch und kann sie wieder verändern.</translation>
         </message>
         <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
@@ -667,12 +641,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Die Bildschirme haben jetzt neutrale Farben oder die ihrer Farbprofile.</translation>
         </message>
         <message>
-            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
-            <translation>Die Bildschirme wurden zurückgegeben, aber ein Nocturo, das nicht antwortet, läuft noch und kann sie wieder verändern.</translation>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo hat keinen Bildschirm verändert zurückgelassen, also wurde nichts getan.</translation>
         </message>
         <message>
-            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
-            <translation>Nocturo hatte keinen Bildschirm verändert zurückgelassen; die Bildschirme haben jetzt neutrale Farben oder die ihrer Farbprofile.</translation>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>Es gibt keinen X-Server, dessen Bildschirme zurückgegeben werden könnten, denn DISPLAY ist nicht gesetzt.</translation>
+        </message>
+        <message>
+            <source>The X server %@ does not answer.</source>
+            <translation>Der X-Server %@ antwortet nicht.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1017,6 +995,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo läuft bereits.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
         </message>
         <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in

@@ -275,14 +275,6 @@
             <translation>No hay ninguna pantalla con el identificador %d.</translation>
         </message>
         <message>
-            <source>A temperature is from 1000 to 25000 K.</source>
-            <translation>Una temperatura va de 1000 a 25000 K.</translation>
-        </message>
-        <message>
-            <source>The color filter has a hue and a vividness that are no temperature.</source>
-            <translation>El tono y la viveza del filtro de color no corresponden a ninguna temperatura.</translation>
-        </message>
-        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo espera la respuesta a la pregunta que muestra.</translation>
         </message>
@@ -389,16 +381,6 @@ name. add and remove change the selection, only replaces it.</source>
 clase. add y remove modifican la selección, only la sustituye.</translation>
         </message>
         <message>
-            <source>Show or choose a color temperature</source>
-            <translation>Mostrar o elegir una temperatura de color</translation>
-        </message>
-        <message>
-            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
-color filter, which is chosen. +N and -N go so far from the one in force.</source>
-            <translation>De 1000 (vela) pasando por 6500 (neutra) a 25000 (cielo azul), como tono y viveza del
-filtro de color, que queda elegido. +N y -N parten de la vigente.</translation>
-        </message>
-        <message>
             <source>Show a setting</source>
             <translation>Mostrar un ajuste</translation>
         </message>
@@ -487,10 +469,6 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Devolver las pantallas y terminar Nocturo</translation>
-        </message>
-        <message>
-            <source>%@  (the color filter is not chosen)</source>
-            <translation>%@  (el filtro de color no está elegido)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -651,12 +629,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Nocturo ha desactivado su efecto y devuelto las pantallas.</translation>
         </message>
         <message>
-            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
-            <translation>No hay ningún servidor X cuyas pantallas se puedan devolver, porque DISPLAY no está definida.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>Las pantallas se han devuelto, pero un Nocturo que no responde sigue en ejecución y puede volver a cambiarlas.</translation>
         </message>
         <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
@@ -667,12 +641,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Las pantallas tienen ahora colores neutros, o los de sus perfiles de color.</translation>
         </message>
         <message>
-            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
-            <translation>Las pantallas se han devuelto, pero un Nocturo que no responde sigue en ejecución y puede volver a cambiarlas.</translation>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo no ha dejado ninguna pantalla modificada, así que no se ha hecho nada.</translation>
         </message>
         <message>
-            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
-            <translation>Nocturo no había dejado ninguna pantalla cambiada; las pantallas tienen ahora colores neutros, o los de sus perfiles de color.</translation>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>No hay ningún servidor X cuyas pantallas se puedan devolver, porque DISPLAY no está definida.</translation>
+        </message>
+        <message>
+            <source>The X server %@ does not answer.</source>
+            <translation>El servidor X %@ no responde.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1017,6 +995,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo ya se está ejecutando.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
         </message>
         <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in

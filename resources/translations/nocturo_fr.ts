@@ -275,14 +275,6 @@
             <translation>Aucun écran n’a l’identifiant %d.</translation>
         </message>
         <message>
-            <source>A temperature is from 1000 to 25000 K.</source>
-            <translation>Une température va de 1000 à 25000 K.</translation>
-        </message>
-        <message>
-            <source>The color filter has a hue and a vividness that are no temperature.</source>
-            <translation>La teinte et la vivacité du filtre coloré ne correspondent à aucune température.</translation>
-        </message>
-        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo attend la réponse à la question qu’il affiche.</translation>
         </message>
@@ -389,16 +381,6 @@ name. add and remove change the selection, only replaces it.</source>
 classe. add et remove modifient le choix, only le remplace.</translation>
         </message>
         <message>
-            <source>Show or choose a color temperature</source>
-            <translation>Afficher ou choisir une température de couleur</translation>
-        </message>
-        <message>
-            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
-color filter, which is chosen. +N and -N go so far from the one in force.</source>
-            <translation>De 1000 (bougie) à 25000 (ciel bleu) en passant par 6500 (neutre), comme teinte et
-vivacité du filtre coloré, qui est choisi. +N et -N partent de celle en vigueur.</translation>
-        </message>
-        <message>
             <source>Show a setting</source>
             <translation>Afficher un réglage</translation>
         </message>
@@ -487,10 +469,6 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Rendre les écrans et quitter Nocturo</translation>
-        </message>
-        <message>
-            <source>%@  (the color filter is not chosen)</source>
-            <translation>%@  (le filtre coloré n’est pas choisi)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -651,12 +629,8 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Nocturo a désactivé son effet et rendu les écrans.</translation>
         </message>
         <message>
-            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
-            <translation>Il n’y a pas de serveur X dont les écrans pourraient être rendus, car DISPLAY n’est pas défini.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>Les écrans ont été rendus, mais un Nocturo qui ne répond pas tourne encore et peut les changer de nouveau.</translation>
         </message>
         <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
@@ -667,12 +641,16 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Les écrans ont maintenant des couleurs neutres, ou celles de leurs profils de couleurs.</translation>
         </message>
         <message>
-            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
-            <translation>Les écrans ont été rendus, mais un Nocturo qui ne répond pas tourne encore et peut les changer de nouveau.</translation>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo n’a laissé aucun écran modifié ; rien n’a donc été fait.</translation>
         </message>
         <message>
-            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
-            <translation>Nocturo n’avait laissé aucun écran modifié ; les écrans ont maintenant des couleurs neutres, ou celles de leurs profils de couleurs.</translation>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>Il n’y a pas de serveur X dont les écrans pourraient être rendus, car DISPLAY n’est pas défini.</translation>
+        </message>
+        <message>
+            <source>The X server %@ does not answer.</source>
+            <translation>Le serveur X %@ ne répond pas.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1017,6 +995,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo est déjà en cours d’exécution.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
         </message>
         <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in

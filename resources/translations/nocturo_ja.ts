@@ -275,14 +275,6 @@
             <translation>識別子 %d の画面はありません。</translation>
         </message>
         <message>
-            <source>A temperature is from 1000 to 25000 K.</source>
-            <translation>色温度は 1000～25000 K です。</translation>
-        </message>
-        <message>
-            <source>The color filter has a hue and a vividness that are no temperature.</source>
-            <translation>カラーフィルターの色相と鮮やかさに対応する色温度はありません。</translation>
-        </message>
-        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo は表示している質問への回答を待っています。</translation>
         </message>
@@ -389,16 +381,6 @@ name. add and remove change the selection, only replaces it.</source>
 add と remove は選択に加除し、only は選択を置き換えます。</translation>
         </message>
         <message>
-            <source>Show or choose a color temperature</source>
-            <translation>色温度を表示または選択する</translation>
-        </message>
-        <message>
-            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
-color filter, which is chosen. +N and -N go so far from the one in force.</source>
-            <translation>1000 (ろうそく) から 6500 (中性) を経て 25000 (青空) まで。カラーフィルターの色相と
-鮮やかさとして設定し、フィルターを選択します。+N と -N は今の値から増減します。</translation>
-        </message>
-        <message>
             <source>Show a setting</source>
             <translation>設定を表示する</translation>
         </message>
@@ -487,10 +469,6 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>画面を元に戻して Nocturo を終了する</translation>
-        </message>
-        <message>
-            <source>%@  (the color filter is not chosen)</source>
-            <translation>%@  (カラーフィルターは選択されていません)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -651,12 +629,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Nocturo は効果をオフにし、画面を元に戻しました。</translation>
         </message>
         <message>
-            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
-            <translation>DISPLAY が設定されていないため、画面を元に戻す X サーバーがありません。</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>画面を元に戻しましたが、応答しない Nocturo がまだ動作しており、再び変更する可能性があります。</translation>
         </message>
         <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
@@ -667,12 +641,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>画面は標準の色、またはカラープロファイルの色になりました。</translation>
         </message>
         <message>
-            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
-            <translation>画面を元に戻しましたが、応答しない Nocturo がまだ動作しており、再び変更する可能性があります。</translation>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo が変更したままの画面はないため、何も行いませんでした。</translation>
         </message>
         <message>
-            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
-            <translation>Nocturo が変更したままの画面はありませんでした。画面は標準の色、またはカラープロファイルの色になりました。</translation>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>DISPLAY が設定されていないため、画面を元に戻す X サーバーがありません。</translation>
+        </message>
+        <message>
+            <source>The X server %@ does not answer.</source>
+            <translation>X サーバー %@ が応答しません。</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1017,6 +995,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo はすでに起動しています。</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
         </message>
         <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in

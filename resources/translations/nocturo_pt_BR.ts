@@ -275,14 +275,6 @@
             <translation>Não há tela com o identificador %d.</translation>
         </message>
         <message>
-            <source>A temperature is from 1000 to 25000 K.</source>
-            <translation>Uma temperatura vai de 1000 a 25000 K.</translation>
-        </message>
-        <message>
-            <source>The color filter has a hue and a vividness that are no temperature.</source>
-            <translation>O matiz e a vividez do filtro de cor não correspondem a nenhuma temperatura.</translation>
-        </message>
-        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>O Nocturo espera a resposta à pergunta que está mostrando.</translation>
         </message>
@@ -389,16 +381,6 @@ name. add and remove change the selection, only replaces it.</source>
 classe. add e remove alteram a seleção, only a substitui.</translation>
         </message>
         <message>
-            <source>Show or choose a color temperature</source>
-            <translation>Mostrar ou escolher uma temperatura de cor</translation>
-        </message>
-        <message>
-            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
-color filter, which is chosen. +N and -N go so far from the one in force.</source>
-            <translation>De 1000 (vela), passando por 6500 (neutra), a 25000 (céu azul), como matiz e vividez
-do filtro de cor, que fica escolhido. +N e -N partem da vigente.</translation>
-        </message>
-        <message>
             <source>Show a setting</source>
             <translation>Mostrar uma configuração</translation>
         </message>
@@ -487,10 +469,6 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Devolver as telas e encerrar o Nocturo</translation>
-        </message>
-        <message>
-            <source>%@  (the color filter is not chosen)</source>
-            <translation>%@  (o filtro de cor não está escolhido)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -651,12 +629,8 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>O Nocturo desativou seu efeito e devolveu as telas.</translation>
         </message>
         <message>
-            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
-            <translation>Não há servidor X cujas telas possam ser devolvidas, porque DISPLAY não está definida.</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>As telas foram devolvidas, mas um Nocturo que não responde ainda está em execução e pode alterá-las de novo.</translation>
         </message>
         <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
@@ -667,12 +641,16 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>As telas têm agora cores neutras, ou as de seus perfis de cores.</translation>
         </message>
         <message>
-            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
-            <translation>As telas foram devolvidas, mas um Nocturo que não responde ainda está em execução e pode alterá-las de novo.</translation>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>O Nocturo não deixou nenhuma tela alterada; por isso, nada foi feito.</translation>
         </message>
         <message>
-            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
-            <translation>O Nocturo não havia deixado nenhuma tela alterada; as telas têm agora cores neutras, ou as de seus perfis de cores.</translation>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>Não há servidor X cujas telas possam ser devolvidas, porque DISPLAY não está definida.</translation>
+        </message>
+        <message>
+            <source>The X server %@ does not answer.</source>
+            <translation>O servidor X %@ não responde.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1017,6 +995,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>Nocturo is already running.</source>
             <translation>O Nocturo já está em execução.</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
         </message>
         <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in

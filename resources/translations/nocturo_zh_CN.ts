@@ -275,14 +275,6 @@
             <translation>没有标识符为 %d 的屏幕。</translation>
         </message>
         <message>
-            <source>A temperature is from 1000 to 25000 K.</source>
-            <translation>色温范围为 1000 到 25000 K。</translation>
-        </message>
-        <message>
-            <source>The color filter has a hue and a vividness that are no temperature.</source>
-            <translation>颜色滤镜的色相和鲜艳度不对应任何色温。</translation>
-        </message>
-        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo 正在等待对所显示问题的回答。</translation>
         </message>
@@ -389,16 +381,6 @@ name. add and remove change the selection, only replaces it.</source>
 add 和 remove 更改选择，only 替换选择。</translation>
         </message>
         <message>
-            <source>Show or choose a color temperature</source>
-            <translation>显示或选择色温</translation>
-        </message>
-        <message>
-            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
-color filter, which is chosen. +N and -N go so far from the one in force.</source>
-            <translation>从 1000（烛光）经 6500（中性）到 25000（蓝天），以颜色滤镜的色相和鲜艳度表示，
-并选中该滤镜。+N 和 -N 从当前值开始增减。</translation>
-        </message>
-        <message>
             <source>Show a setting</source>
             <translation>显示一项设置</translation>
         </message>
@@ -487,10 +469,6 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>恢复屏幕并退出 Nocturo</translation>
-        </message>
-        <message>
-            <source>%@  (the color filter is not chosen)</source>
-            <translation>%@  （未选中颜色滤镜）</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -651,12 +629,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Nocturo 已停用效果并恢复了屏幕。</translation>
         </message>
         <message>
-            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
-            <translation>未设置 DISPLAY，因此没有可恢复屏幕的 X 服务器。</translation>
-        </message>
-        <message>
-            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
-            <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
+            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
+            <translation>屏幕已恢复，但仍有一个没有响应的 Nocturo 在运行，可能会再次更改它们。</translation>
         </message>
         <message>
             <source>The displays have their own colors back, as they were before Nocturo changed them.</source>
@@ -667,12 +641,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>屏幕现在使用中性的颜色，或其颜色配置文件的颜色。</translation>
         </message>
         <message>
-            <source>The displays have been given back, but a Nocturo that does not answer still runs and may change them again.</source>
-            <translation>屏幕已恢复，但仍有一个没有响应的 Nocturo 在运行，可能会再次更改它们。</translation>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo 没有留下任何被更改的屏幕，因此未执行任何操作。</translation>
         </message>
         <message>
-            <source>Nocturo had left no display changed; the displays have plain colors now, or those of their color profiles.</source>
-            <translation>Nocturo 没有留下被更改的屏幕；屏幕现在使用中性的颜色，或其颜色配置文件的颜色。</translation>
+            <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
+            <translation>未设置 DISPLAY，因此没有可恢复屏幕的 X 服务器。</translation>
+        </message>
+        <message>
+            <source>The X server %@ does not answer.</source>
+            <translation>X 服务器 %@ 没有响应。</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1017,6 +995,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Nocturo is already running.</source>
             <translation>Nocturo 已在运行。</translation>
+        </message>
+        <message>
+            <source>The runtime directory cannot be used; set XDG_RUNTIME_DIR to one of yours.</source>
+            <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
         </message>
         <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in

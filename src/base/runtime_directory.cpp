@@ -8,19 +8,31 @@
 
 namespace nocturo {
 
+namespace {
+
+bool isOursAlone(const struct stat& status) {
+    return S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
+           (status.st_mode & mode_t{S_IWGRP | S_IWOTH}) == 0;
+}
+
+} // namespace
+
 std::optional<std::filesystem::path> runtimeDirectory() {
     const char* named = std::getenv("XDG_RUNTIME_DIR");
-    const std::filesystem::path directory =
-        named != nullptr && *named == '/'
-            ? std::filesystem::path(named) / "nocturo"
-            : std::filesystem::path("/tmp/nocturo-" + std::to_string(getuid()));
+    std::filesystem::path directory = "/tmp/nocturo-" + std::to_string(geteuid());
+    struct stat status {};
+    if (named != nullptr && *named == '/') {
+        // One that root would make in a user's directory would shut that user out.
+        if (stat(named, &status) != 0 || !isOursAlone(status)) {
+            return std::nullopt;
+        }
+        directory = std::filesystem::path(named) / "nocturo";
+    }
     if (mkdir(directory.c_str(), S_IRWXU) != 0 && errno != EEXIST) {
         return std::nullopt;
     }
     // The temporary directory is everybody's: a link or another user's directory is a trap.
-    struct stat status {};
-    if (lstat(directory.c_str(), &status) != 0 || !S_ISDIR(status.st_mode) ||
-        status.st_uid != getuid()) {
+    if (lstat(directory.c_str(), &status) != 0 || !isOursAlone(status)) {
         return std::nullopt;
     }
     return directory;

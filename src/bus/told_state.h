@@ -37,7 +37,6 @@ class ToldState {
     BusValue dimLevel() const;
     BusValue colorFilterHue() const;
     BusValue colorFilterVividness() const;
-    BusValue temperature() const;
     BusValue affectedScreens() const;
     BusValue hotKey() const;
     BusValue settings() const;

@@ -2,100 +2,118 @@
 
 #include "base/bus.h"
 #include "base/event_loop.h"
-#include "base/runtime_directory.h"
+#include "base/file_descriptor.h"
 #include "base/texts/translated.h"
-#include "ctl/bus_client.h"
+#include "bus/bus_names.h"
 #include "ctl/failure.h"
+#include "ctl/output.h"
 #include "displays/calibration/profile_calibrations.h"
 #include "displays/guard/display_repair.h"
-#include "displays/guard/guard_process.h"
-#include "displays/guard/journal.h"
 #include "displays/x11/opening_problem.h"
 
 #include <csignal>
 #include <cstdlib>
-#include <iostream>
+#include <sys/time.h>
+#include <unistd.h>
+
+// Somebody sits in front of screens that cannot be read, so nothing that may be broken is needed,
+// and nothing that hangs holds it up for long.
 
 namespace nocturo {
 
 namespace {
 
-// Somebody sits in front of screens that cannot be read.
-constexpr std::chrono::seconds kPatience{1};
+constexpr int kPatienceWithBusMs = 1000;
+constexpr timeval kPatienceInAll{2, 900000};
 
 constexpr ListedText kSwitchedOff =
     ListedText("Nocturo has switched its effect off and given the displays back.");
 
-bool switchOffOverTheBus() {
-    try {
-        BusClient client;
-        client.setPatience(kPatience);
-        client.call("SetActive", false);
-        return true;
-    } catch (const Failure&) {
-        return false; // whatever it is, what follows needs no bus
+/// Ends this process with a sentence when all takes too long: a server that is stopped holds up
+/// everybody who asks it something.
+class Deadline {
+  public:
+    explicit Deadline(const std::string& sentence) {
+        sentence_ = "nocturoctl: " + sentence + '\n';
+        std::signal(SIGALRM, tooLate);
+        const itimerval once{{}, kPatienceInAll};
+        setitimer(ITIMER_REAL, &once, nullptr);
     }
+    ~Deadline() {
+        const itimerval none{};
+        setitimer(ITIMER_REAL, &none, nullptr);
+    }
+    Deadline(const Deadline&) = delete;
+    Deadline& operator=(const Deadline&) = delete;
+
+  private:
+    static void tooLate(int /*signal*/) {
+        writeAll(STDERR_FILENO, sentence_);
+        _exit(kFailed);
+    }
+
+    static inline std::string sentence_;
+};
+
+/// Asks whoever is reached over the session bus, which may be one that changes other displays.
+bool switchOffOverTheBus(EventLoop& loop) {
+    const auto bus = Bus::connect(sessionBusAddress(), loop);
+    if (bus == nullptr) {
+        return false;
+    }
+    const BusMessage call = bus->newCall(kBusName, kObjectPath, kNocturoInterface, "SetActive");
+    return sd_bus_message_append(call.get(), "b", 0) >= 0 &&
+           bus->callAndWait(call, kPatienceWithBusMs, nullptr) != nullptr;
 }
 
-// True when a running Nocturo switched off. One that cannot be told from another program by its
-// number, or that has just ended, is sent nothing.
-bool switchOffBySignal(RandrHardware& hardware, const std::filesystem::path& journal) {
-    const auto nocturo = changingProcess(hardware, journal);
-    return nocturo && *nocturo > 0 && kill(*nocturo, kSwitchOffSignal) == 0 &&
-           waitUntilGivenBack(hardware);
+ListedText told(const RestoredByHand& done, bool switchedOff) {
+    switch (done.repair) {
+    case Repair::notNeeded:
+    case Repair::inUse:
+        break;
+    case Repair::ownRamps:
+    case Repair::plainRamps:
+        if (done.askedNocturo) {
+            return ListedText("The displays have been given back, but a Nocturo that does not "
+                              "answer still runs and may change them again.");
+        }
+        return done.repair == Repair::ownRamps
+                   ? ListedText("The displays have their own colors back, as they were before "
+                                "Nocturo changed them.")
+                   : ListedText("The displays have plain colors now, or those of their color "
+                                "profiles.");
+    }
+    return switchedOff || done.askedNocturo
+               ? kSwitchedOff
+               : ListedText("Nocturo has left no display changed, so nothing was done.");
 }
 
-ListedText restoreByHand() {
-    const char* variable = std::getenv("DISPLAY");
-    const std::string display = variable != nullptr ? variable : "";
-    const auto directory = runtimeDirectory();
-    if (display.empty()) {
-        throw Failure{kFailed,
-                      translated("There is no X server whose displays could be given back, "
-                                 "because DISPLAY is not set.")};
-    }
-    if (!directory) {
-        throw Failure{kFailed, translated("The runtime directory cannot be used; set "
-                                          "XDG_RUNTIME_DIR to one of yours.")};
-    }
+ListedText restore(const std::string& display) {
+    EventLoop loop;
+    const bool switchedOff = switchOffOverTheBus(loop);
     const auto server = XConnection::open(display);
-    const auto opened = RandrHardware::open(server.get());
-    if (!opened) {
-        throw Failure{kFailed, openingProblem(opened.error(), display)};
+    const auto hardware = RandrHardware::open(server.get());
+    if (hardware) {
+        const auto systemBus = Bus::connect(systemBusAddress(), loop);
+        ProfileCalibrations calibrations(server.get(), systemBus.get());
+        return told(restoreDisplaysByHand(**hardware, calibrations), switchedOff);
     }
-    RandrHardware& hardware = **opened;
-    const auto journal = journalFile(*directory, display);
-    if (switchOffBySignal(hardware, journal)) {
+    if (switchedOff) {
         return kSwitchedOff;
     }
-    EventLoop loop;
-    const auto systemBus = Bus::connect(systemBusAddress(), loop);
-    ProfileCalibrations calibrations(server.get(), systemBus.get());
-    switch (repairDisplays(hardware, journal, calibrations)) {
-    case Repair::ownRamps:
-        return ListedText(
-            "The displays have their own colors back, as they were before Nocturo changed them.");
-    case Repair::plainRamps:
-        return ListedText("The displays have plain colors now, or those of their color profiles.");
-    case Repair::inUse:
-        overwriteDisplays(hardware, journal, calibrations);
-        return ListedText(
-            "The displays have been given back, but a Nocturo that does not answer still "
-            "runs and may change them again.");
-    case Repair::notNeeded:
-        break;
-    }
-    writePlainRamps(hardware, calibrations);
-    return ListedText(
-        "Nocturo had left no display changed; the displays have plain colors now, or those "
-        "of their color profiles.");
+    throw Failure{kFailed, display.empty()
+                               ? translated("There is no X server whose displays could be given "
+                                            "back, because DISPLAY is not set.")
+                               : openingProblem(hardware.error(), display)};
 }
 
 } // namespace
 
 void restoreDisplays() {
-    const ListedText done = switchOffOverTheBus() ? kSwitchedOff : restoreByHand();
-    std::cout << done.translated() << '\n';
+    const char* variable = std::getenv("DISPLAY");
+    const std::string display = variable != nullptr ? variable : "";
+    const Deadline deadline(translated("The X server %@ does not answer.", {display}));
+    print(restore(display).translated() + '\n');
 }
 
 } // namespace nocturo

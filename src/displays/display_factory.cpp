@@ -6,7 +6,6 @@
 #include "displays/calibration/profile_calibrations.h"
 #include "displays/guard/display_repair.h"
 #include "displays/guard/guarded_hardware.h"
-#include "displays/guard/journal.h"
 #include "displays/guard/server_mark.h"
 #include "displays/ramp_display_services.h"
 #include "displays/simulated/simulated_hardware.h"
@@ -47,14 +46,14 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
         return failedForNow(openingProblem(randr.error(), xDisplay));
     }
     // Before anything is captured, so that no effect is ever taken for a display's own colours.
-    const auto journal = journalFile(surroundings.runtimeDirectory, xDisplay);
-    if (repairDisplays(**randr, journal, *profiles) == Repair::inUse) {
+    if (repairDisplays(**randr, *profiles) == Repair::inUse) {
         return failed(
             translated("Another Nocturo drives the displays of the X server %@.", {xDisplay}));
     }
     OpenedDisplays opened;
+    opened.restoredByHand = ServerMark(*server).takeRestored();
     opened.services = std::make_unique<RampDisplayServices>(
-        std::make_unique<GuardedHardware>(std::move(*randr), xDisplay, journal, runLoop),
+        std::make_unique<GuardedHardware>(std::move(*randr), xDisplay, runLoop, surroundings.letGo),
         std::move(profiles), &runLoop);
     opened.listening = server->onLoss(surroundings.lost);
     logInfo(kLogDisplays, "Displays are those of the X server " + xDisplay + ".");
@@ -102,8 +101,10 @@ OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surround
     OpenedDisplays opened;
     opened.services = std::make_unique<RampDisplayServices>(
         std::make_unique<SimulatedHardware>(count, pictureDirectory, surroundings.drawPicture));
-    opened.notice = translated("Displays are simulated; their pictures are in %@.",
-                               {pictureDirectory.string()});
+    if (!pictureDirectory.empty()) {
+        opened.notice = translated("Displays are simulated; their pictures are in %@.",
+                                   {pictureDirectory.string()});
+    }
     return opened;
 }
 

@@ -31,19 +31,21 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 
 /// What the factory takes from the process's surroundings; all of it outlives what is opened.
 struct DisplaySurroundings {
-    std::string xDisplay;           // $DISPLAY; empty when not set
-    XConnection* xServer = nullptr; // null when it cannot be reached
-    std::string waylandDisplay;     // $WAYLAND_DISPLAY; empty when not set
-    std::string desktop;            // $XDG_CURRENT_DESKTOP; empty when not set
-    std::filesystem::path runtimeDirectory;
-    Bus* systemBus = nullptr;   // null when there is none
-    DrawPicture drawPicture;    // of simulated displays
+    std::string xDisplay;                   // $DISPLAY; empty when not set
+    XConnection* xServer = nullptr;         // null when it cannot be reached
+    std::string waylandDisplay;             // $WAYLAND_DISPLAY; empty when not set
+    std::string desktop;                    // $XDG_CURRENT_DESKTOP; empty when not set
+    std::filesystem::path runtimeDirectory; // empty where there is none that can be used
+    Bus* systemBus = nullptr;               // null when there is none
+    DrawPicture drawPicture;                // of simulated displays
     std::function<void()> lost; // called when the displays' server has gone: nothing works any more
+    std::function<void()> letGo; // called when somebody asks for the displays over their server
 };
 
 struct OpenedDisplays {
     std::unique_ptr<DisplayServices> services;
     std::string notice;                    // one sentence for a user who may want it; may be empty
+    bool restoredByHand = false;           // somebody had them given back, and no start since
     std::shared_ptr<const void> listening; // keeps them in the event loop
 };
 

@@ -74,11 +74,10 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     if (!directory) {
         tell(stderr, translated("The runtime directory cannot be used; set XDG_RUNTIME_DIR to one "
                                 "of yours."));
-        return kFailure;
     }
     Core core(*DefaultsStore::standardUserDefaults(), loop);
     const std::vector<std::string> documents = absolutePaths(options.documents);
-    const SessionClaim claim(core.sessionBus.get(), *directory, documents);
+    const SessionClaim claim(core.sessionBus.get(), directory, documents);
     if (!claim.isGranted()) {
         finishStartup(xDisplayName(), startupIdentifier);
         return endAfterHandingOver(claim, documents);
@@ -89,11 +88,12 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     if (server != nullptr) {
         server->join(loop);
     }
-    Result<OpenedDisplays> opened =
-        openDisplays(options.displays,
-                     {xDisplayName(), server.get(), waylandDisplayName(), desktopName(), *directory,
-                      core.systemBus.get(), drawTestCard, [&] { loop.quit(kFailure); }},
-                     loop);
+    Result<OpenedDisplays> opened = openDisplays(
+        options.displays,
+        {xDisplayName(), server.get(), waylandDisplayName(), desktopName(), directory.value_or(""),
+         core.systemBus.get(), drawTestCard, [&] { loop.quit(kFailure); },
+         [&] { core.controller.setEffectActive(false, true); }},
+        loop);
     if (!opened) {
         tell(stderr, opened.error().text);
         return kFailure;

@@ -15,7 +15,8 @@ constexpr int kPatienceWithBusMs = 500;
 
 } // namespace
 
-SessionClaim::SessionClaim(const Bus* bus, const std::filesystem::path& runtimeDirectory,
+SessionClaim::SessionClaim(const Bus* bus,
+                           const std::optional<std::filesystem::path>& runtimeDirectory,
                            const std::vector<std::string>& documents)
     : bus_(bus) {
     auto claim =
@@ -39,10 +40,13 @@ bool SessionClaim::passOnOverBus(const std::vector<std::string>& documents) {
     return refusal.has_value();
 }
 
-void SessionClaim::askForLock(const std::filesystem::path& runtimeDirectory,
+void SessionClaim::askForLock(const std::optional<std::filesystem::path>& runtimeDirectory,
                               const std::vector<std::string>& documents) {
-    lock_.emplace(runtimeDirectory);
-    granted_ = lock_->isHeld();
+    granted_ = true;
+    if (runtimeDirectory) {
+        lock_.emplace(*runtimeDirectory);
+        granted_ = lock_->isHeld();
+    }
     if (granted_) {
         return;
     }

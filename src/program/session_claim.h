@@ -12,13 +12,14 @@ namespace nocturo {
 class Bus;
 
 /// Claims to be the one Nocturo of the session: its name on the session bus, or a lock where there
-/// is no bus. The name is held until the bus is closed, the lock until this is destroyed.
+/// is no bus; where there is no runtime directory either, nobody is kept out. The name is held
+/// until the bus is closed, the lock until this is destroyed.
 class SessionClaim {
   public:
     /// `bus` is the session bus, or null; one that does not answer counts as none.
     /// Where there is another Nocturo it opens the documents at these absolute paths, or is
     /// re-opened when there are none.
-    SessionClaim(const Bus* bus, const std::filesystem::path& runtimeDirectory,
+    SessionClaim(const Bus* bus, const std::optional<std::filesystem::path>& runtimeDirectory,
                  const std::vector<std::string>& documents);
 
     /// False when there is another Nocturo.
@@ -29,7 +30,7 @@ class SessionClaim {
 
   private:
     bool passOnOverBus(const std::vector<std::string>& documents);
-    void askForLock(const std::filesystem::path& runtimeDirectory,
+    void askForLock(const std::optional<std::filesystem::path>& runtimeDirectory,
                     const std::vector<std::string>& documents);
 
     const Bus* bus_;

@@ -3,10 +3,12 @@
 
 #include "nocturo_test.h"
 
+#include <cstring>
 #include <iostream>
 #include <random>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace nocturo::rig {
 
@@ -17,6 +19,7 @@ namespace fs = std::filesystem;
 constexpr int kDisplays = 4;
 constexpr Milliseconds kWithin{100};
 constexpr const char* kGuard = "nocturo-guard";
+constexpr const char* kSpare = "display-keeper";
 constexpr const char* kAllOwn = "oooo";
 constexpr const char* kAllChanged = "????"; // inverted and dimmed
 
@@ -60,13 +63,36 @@ class Guard : public NocturoOnX {
         return true;
     }
 
-    void killAtRandomMoments(int rounds, int together);
+    /// Kills Nocturo and its guards of these names at once; whether a guard is left.
+    bool killWith(const std::vector<std::string>& names) {
+        nocturo_->signal(SIGSTOP); // or it starts other guards
+        std::vector<pid_t> killed;
+        std::size_t guards = 0;
+        for (const char* name : {kGuard, kSpare, "nocturo"}) { // its own for a moment
+            const auto children = childrenNamed(nocturo_->id(), name);
+            guards += children.size();
+            if (std::find(names.begin(), names.end(), name) != names.end()) {
+                killed.insert(killed.end(), children.begin(), children.end());
+            }
+        }
+        for (const pid_t guard : killed) {
+            ::kill(guard, SIGKILL);
+        }
+        nocturo_->signal(SIGKILL);
+        nocturo_->wait();
+        return guards > killed.size();
+    }
+    void killAtRandomMoments(int rounds);
+    void restoreWhileTheGuardsDo(int rounds);
+
+    std::mt19937 random_{std::random_device{}()};
 };
 
 // What it is doing changes from round to round: starting, toggling, following a slider, nothing.
-void Guard::killAtRandomMoments(int rounds, int together) {
+// So does what is killed with it: nothing, either guard, or one time in ten both.
+void Guard::killAtRandomMoments(int rounds) {
     const std::vector<std::string> drivers[] = {{}, {"100000"}, {"100000", "drag"}, {}};
-    std::mt19937 random(std::random_device{}());
+    const std::vector<std::string> killedToo[] = {{}, {kGuard}, {kSpare}, {kGuard, kSpare}};
     std::uniform_int_distribution<int> moment(0, 60);
     int late = 0;
     startChanging();
@@ -74,23 +100,24 @@ void Guard::killAtRandomMoments(int rounds, int together) {
     for (int round = 0; round < rounds; ++round) {
         SCOPED_TRACE("round " + std::to_string(round));
         const int activity = round % 4;
+        const bool both = round % 10 == 9;
         nocturo_ = activity == 0 ? session_.start("nocturo") : session_.startNocturo();
         if (activity != 0) {
             ctl({"on"});
         }
         const auto driver =
             drivers[activity].empty() ? nullptr : session_.start("toggle_loop", drivers[activity]);
-        ASSERT_EQ(nocturo_->wait(Milliseconds(moment(random))), std::nullopt) << nocturo_->errors();
-        const bool guardToo = round * together / rounds != (round + 1) * together / rounds;
-        kill(guardToo);
-        if (guardToo) {
+        ASSERT_EQ(nocturo_->wait(Milliseconds(moment(random_))), std::nullopt)
+            << nocturo_->errors();
+        const bool nobodyIsLeft = !killWith(killedToo[both ? 3 : round / 4 % 3]);
+        if (nobodyIsLeft) {
             waitForTheBus();
             nocturo_ = session_.startNocturo();
             ctl({"off"});
         }
         late += allOwnWithin(kWithin) ? 0 : 1;
         ASSERT_TRUE(allOwnWithin()) << shown();
-        if (guardToo) {
+        if (nobodyIsLeft) {
             ctl({"on"});
             end();
         }
@@ -104,11 +131,38 @@ void Guard::killAtRandomMoments(int rounds, int together) {
 }
 
 TEST_F(Guard, KilledAtTwentyRandomMoments) {
-    killAtRandomMoments(20, 4);
+    killAtRandomMoments(20);
 }
 
-TEST_F(Guard, SoakKilledAtTwoHundredRandomMoments) {
-    killAtRandomMoments(200, 20);
+TEST_F(Guard, SoakKilledAtTwoThousandRandomMoments) {
+    killAtRandomMoments(2000);
+}
+
+void Guard::restoreWhileTheGuardsDo(int rounds) {
+    std::uniform_int_distribution<int> moment(0, 8);
+    for (int round = 0; round < rounds; ++round) {
+        SCOPED_TRACE("round " + std::to_string(round));
+        startChanging(); // a killed one may have left its choice unwritten
+        const auto restore = round % 2 == 0 ? session_.start("nocturoctl", {"restore"}) : nullptr;
+        if (restore != nullptr) {
+            restore->wait(Milliseconds(moment(random_)));
+        }
+        killWith({});
+        const RunResult result = session_.run("nocturoctl", {"restore"});
+        EXPECT_EQ(result.exit, 0) << result.errors;
+        ASSERT_TRUE(allOwnWithin()) << shown() << result.output;
+        reapGuards();
+        waitForTheBus();
+        EXPECT_EQ(shown(), kAllOwn);
+    }
+}
+
+TEST_F(Guard, ARestoreBesideThemLosesNoColors) {
+    restoreWhileTheGuardsDo(5);
+}
+
+TEST_F(Guard, SoakFiveHundredRestoresBesideThemLoseNoColors) {
+    restoreWhileTheGuardsDo(500);
 }
 
 TEST_F(Guard, IsThereWhileADisplayIsChangedAndIsReplacedWhenItIsKilled) {
@@ -118,13 +172,14 @@ TEST_F(Guard, IsThereWhileADisplayIsChangedAndIsReplacedWhenItIsKilled) {
     const pid_t guard = guardProcess();
     ASSERT_GT(guard, 0);
     EXPECT_EQ(getsid(guard), guard);
-    EXPECT_TRUE(fs::exists(journal()));
+    EXPECT_TRUE(isMarked());
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         ::kill(guard, number);
     }
     end();
     EXPECT_EQ(waitForChild(guard), 0);
-    EXPECT_FALSE(fs::exists(journal()));
+    EXPECT_FALSE(isMarked());
+    EXPECT_TRUE(journal().empty());
     EXPECT_EQ(shown(), kAllOwn);
 
     startChanging();
@@ -182,8 +237,7 @@ TEST_F(Guard, KilledWithTheServerItEndsToo) {
 
 TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
     startChanging();
-    const fs::path old = session_.runtimeDirectory() / "old";
-    fs::copy_file(journal(), old);
+    const auto old = journal();
     kill(true);
     waitForTheBus();
     damageJournal();
@@ -192,7 +246,6 @@ TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
     session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_);
     ctl({"off"});
     EXPECT_TRUE(allArePlain());
-    EXPECT_TRUE(fs::exists(journal().native() + ".damaged"));
     end();
 
     for (int i = 0; i < kDisplays; ++i) {
@@ -200,11 +253,11 @@ TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
         std::swap(other[0], other[1]);
         setOwn(i, other);
     }
-    fs::copy_file(old, journal());
+    client_.setRootBytes(kJournal, old);
     startChanging(); // no display was left changed: it is not even read
     kill(true);
     waitForTheBus();
-    fs::copy_file(old, journal(), fs::copy_options::overwrite_existing);
+    client_.setRootBytes(kJournal, old);
     nocturo_ = session_.startNocturo();
     ctl({"off"});
     EXPECT_TRUE(allArePlain());
@@ -243,8 +296,103 @@ TEST_F(Guard, RestoreByHandWorksInEverySituation) {
     says("own colors back");
     EXPECT_EQ(shown(), kAllOwn);
 
-    says("plain colors now");
-    EXPECT_TRUE(allArePlain());
+    const Channels anothers = reversed(own_[1]);
+    client_.setRamp(output(0), anothers);
+    says("nothing was done");
+    EXPECT_EQ(client_.ramp(output(0)), anothers) << "it is not Nocturo's";
+}
+
+// Another server's Nocturo, or whoever else has the name, says that it has done it.
+TEST_F(Guard, RestoreLooksAtTheServerAfterItHasAsked) {
+    startChanging();
+    kill(true);
+    waitForTheBus();
+    const auto simulated = session_.startNocturo({"--display-services=simulated"});
+    EXPECT_EQ(shown(), kAllChanged);
+    EXPECT_NE(ctl({"restore"}).output.find("own colors back"), std::string::npos);
+    EXPECT_EQ(shown(), kAllOwn);
+}
+
+TEST_F(Guard, RestoreNeedsNothingAndNeverTakesLong) {
+    const auto restoreWithin = [&](Milliseconds limit) {
+        const auto start = std::chrono::steady_clock::now();
+        const RunResult result = session_.run("nocturoctl", {"restore"});
+        const auto taken = std::chrono::steady_clock::now() - start;
+        EXPECT_LT(taken, limit) << result.output << result.errors;
+        return result.exit;
+    };
+    constexpr Milliseconds kAtMost{3000};
+    const auto leaveThemChanged = [&] {
+        startChanging();
+        kill(true);
+        waitForTheBus();
+        EXPECT_EQ(shown(), kAllChanged);
+    };
+    const auto environment = session_.environment();
+    for (const char* directory : {"/proc/none", "/dev/null", "relative", ""}) {
+        leaveThemChanged();
+        session_.environment()["XDG_RUNTIME_DIR"] = directory;
+        session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
+        EXPECT_EQ(restoreWithin(kAtMost), 0) << directory;
+        EXPECT_EQ(shown(), kAllOwn) << directory;
+        session_.environment() = environment;
+    }
+    leaveThemChanged();
+    session_.bus().signal(SIGSTOP);
+    EXPECT_EQ(restoreWithin(kAtMost), 0);
+    EXPECT_EQ(shown(), kAllOwn);
+    session_.bus().signal(SIGCONT);
+    session_.server().signal(SIGSTOP);
+    EXPECT_EQ(restoreWithin(kAtMost), 1);
+    session_.server().signal(SIGCONT);
+}
+
+TEST_F(Guard, WithoutARuntimeDirectoryItLivesAllTheSame) {
+    session_.environment()["XDG_RUNTIME_DIR"] = "/proc/none";
+    startChanging();
+    EXPECT_TRUE(nocturo_->waitForError("The runtime directory cannot be used"));
+    kill(false);
+    EXPECT_TRUE(allOwnWithin());
+}
+
+// The numbers of windows go from those that end to those that come.
+TEST_F(Guard, AWindowThatIsSomebodyElsesByNowIsNotTakenForItsOwner) {
+    startChanging();
+    kill(true);
+    waitForTheBus();
+    auto mark = client_.rootBytes(kMark);
+    std::vector<std::uint32_t> numbers(mark.size() / sizeof(std::uint32_t));
+    std::memcpy(numbers.data(), mark.data(), mark.size());
+    numbers.at(2) = client_.root();
+    client_.setRootProperty(kMark, numbers);
+    nocturo_ = session_.startNocturo();
+    ctl({"off"});
+    EXPECT_EQ(shown(), kAllOwn);
+}
+
+TEST_F(Guard, ALostConnectionAloneLosesNoColors) {
+    startChanging();
+    const auto mark = client_.rootBytes(kMark);
+    std::uint32_t window = 0;
+    std::memcpy(&window, &mark.at(2 * sizeof window), sizeof window);
+    client_.killOwner(window);
+    EXPECT_TRUE(allOwnWithin());
+    EXPECT_EQ(nocturo_->wait(), 1);
+}
+
+// What it has to say may have to wait for whoever reads it.
+TEST_F(Guard, AFullPipeHoldsUpNobodyElse) {
+    startChanging();
+    kill(true);
+    waitForTheBus();
+    damageJournal();
+    const fs::path pipe = session_.runtimeDirectory() / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const auto stuck = session_.start(
+        "/bin/sh", {"-c", "exec 3<>\"$1\"; head -c 65536 /dev/zero >&3; exec \"$2\" 2>&3", "sh",
+                    pipe, NOCTURO_BIN_DIR "/nocturo"});
+    EXPECT_TRUE(waitUntil([&] { return allArePlain(); }));
+    EXPECT_TRUE(stuck->isRunning());
 }
 
 // Nocturo copied elsewhere, with whatever stands for the guard.
@@ -258,6 +406,7 @@ TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
     const auto start = [&] {
         nocturo_ = session_.start(elsewhere / "bin/nocturo");
         ASSERT_TRUE(session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_));
+        ctl({"on"}); // after a restore it starts switched off
         ASSERT_TRUE(becomes("iiii"));
     };
     start(); // there is none

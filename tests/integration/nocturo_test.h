@@ -146,13 +146,16 @@ class NocturoOnX : public NocturoTest {
         ASSERT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 3; }));
     }
 
-    std::filesystem::path journal() {
-        return session_.runtimeDirectory() / "nocturo" /
-               ("ramps" + session_.environment().at("DISPLAY"));
-    }
+    std::vector<std::uint8_t> journal() { return client_.rootBytes(kJournal); }
     void damageJournal() {
-        std::fstream(journal(), std::ios::in | std::ios::out).seekp(1000) << "?";
+        auto bytes = journal();
+        bytes.at(1000) ^= 1;
+        client_.setRootBytes(kJournal, bytes);
     }
+    bool isMarked() { return !client_.rootBytes(kMark).empty(); }
+
+    static constexpr const char* kJournal = "_NOCTURO_OWN_RAMPS";
+    static constexpr const char* kMark = "_NOCTURO_CHANGED_DISPLAYS";
 
     XClient client_{session_.server().display()};
     std::vector<Channels> own_;

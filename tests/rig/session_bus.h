@@ -18,6 +18,8 @@ class SessionBus {
     /// Throws std::runtime_error when the bus does not start.
     SessionBus();
 
+    void signal(int number) { process_->signal(number); }
+
     /// For DBUS_SESSION_BUS_ADDRESS.
     const std::string& address() const { return address_; }
 

@@ -27,6 +27,8 @@ class XClient {
     void setRamp(std::uint32_t crtc, const Channels& ramp);
     void setRamp(const std::string& output, const Channels& ramp) { setRamp(crtcOf(output), ramp); }
 
+    std::uint32_t root() const { return root_; }
+
     /// Makes the numbers a property of the root window, as a window manager would.
     void setRootProperty(const std::string& name, const std::vector<std::uint32_t>& numbers) {
         setRootProperty(name, 32, numbers.size(), numbers.data());
@@ -35,6 +37,10 @@ class XClient {
     void setRootBytes(const std::string& name, const std::vector<std::uint8_t>& bytes) {
         setRootProperty(name, 8, bytes.size(), bytes.data());
     }
+    /// What the property of the root window holds, whatever its format; empty without one.
+    std::vector<std::uint8_t> rootBytes(const std::string& name);
+    /// Ends the connection of the program that made the window, as xkill does.
+    void killOwner(std::uint32_t window);
     void setEdid(const std::string& output, const std::vector<std::uint8_t>& edid);
     std::uint32_t atom(const std::string& name);
 

@@ -37,6 +37,8 @@ class XServer {
     /// As setxkbmap takes them: "us,ru", "dvorak,". The menu key goes from one to the next.
     void setLayout(const std::string& layouts, const std::string& variants = {});
 
+    void signal(int number) { process_->signal(number); }
+
     /// Ends the server as a crash would.
     void kill();
 

@@ -3,6 +3,7 @@
 #include "displays/calibration/calibration_profile.h"
 #include "displays/calibration/profile_file.h"
 #include "displays/guard/journal.h"
+#include "displays/guard/journal_file.h"
 #include "rig/color_profile.h"
 #include "temporary_directory.h"
 
@@ -25,12 +26,12 @@ Ramp countingRamp(std::uint32_t size, std::uint16_t first) {
 }
 
 Journal someJournal() {
-    return {0xfedcba9876543210U, 4711, {{63, countingRamp(5, 300)}, {64, countingRamp(2, 65530)}}};
+    return {0xfedcba9876543210U, {{63, countingRamp(5, 300)}, {64, countingRamp(2, 65530)}}};
 }
 
 TEST(Journal, ComesBackAsItWas) {
     for (const Journal& journal :
-         {Journal{}, someJournal(), Journal{1, 2, {{7, countingRamp(kMaxRampSize, 0)}}}}) {
+         {Journal{}, someJournal(), Journal{1, {{7, countingRamp(kMaxRampSize, 0)}}}}) {
         EXPECT_TRUE(journalFromBytes(journalBytes(journal)) == journal);
     }
 }
@@ -51,43 +52,47 @@ TEST(Journal, CutExtendedOrChangedItIsRefused) {
 // With a checksum that fits, as somebody who means harm would make it.
 TEST(Journal, SizesBeyondTheDataAreRefused) {
     for (const std::uint32_t size : {0U, 1U, kMaxRampSize + 1}) {
-        EXPECT_FALSE(journalFromBytes(journalBytes({1, 2, {{7, Ramp(size)}}}))) << size;
+        EXPECT_FALSE(journalFromBytes(journalBytes({1, {{7, Ramp(size)}}}))) << size;
     }
     Journal uneven = someJournal();
     uneven.entries[1].ramp.blue.clear();
     EXPECT_FALSE(journalFromBytes(journalBytes(uneven)));
 }
 
-TEST(Journal, AFileIsReplacedAndReadBackUnlessItIsNoPlainFile) {
+TEST(JournalFile, IsReplacedAndReadBackUnlessItIsNoPlainFile) {
+    namespace fs = std::filesystem;
     const TemporaryDirectory directory;
-    const auto file = directory / "ramps";
-    EXPECT_EQ(readJournal(file).error().errorNumber, ENOENT);
-    EXPECT_TRUE(writeJournal(file, Journal{}));
-    EXPECT_TRUE(writeJournal(file, someJournal()));
-    EXPECT_TRUE(readJournal(file) == someJournal());
-    using std::filesystem::perms;
-    EXPECT_EQ(std::filesystem::status(file).permissions(), perms::owner_read | perms::owner_write);
-    EXPECT_EQ(writeJournal(directory / "none/ramps", Journal{}).error().errorNumber, ENOENT);
+    const JournalFile file(directory.path(), "ramps");
+    const auto writeTo = [](const JournalFile& to, std::string_view bytes) {
+        return to.write(bytes, Durability::lastsWhileTheSystemRuns);
+    };
+    EXPECT_EQ(file.read().error().errorNumber, ENOENT);
+    EXPECT_TRUE(writeTo(file, "one") && writeTo(file, "two"));
+    EXPECT_EQ(file.read(), "two");
+    EXPECT_EQ(fs::status(file.path()).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
 
-    std::filesystem::create_symlink(file, directory / "link");
-    writeText(directory / "other", "something else");
-    for (const auto& damaged : {directory / "link", directory / "other", directory.path()}) {
-        ASSERT_FALSE(readJournal(damaged)) << damaged;
-        EXPECT_NE(readJournal(damaged).error().errorNumber, ENOENT) << damaged;
+    fs::create_symlink(file.path(), directory / "link");
+    fs::create_directory(directory / "directory");
+    ASSERT_EQ(mkfifo((directory / "fifo").c_str(), 0600), 0);
+    for (const char* name : {"link", "directory", "fifo"}) {
+        const JournalFile other(directory.path(), name);
+        ASSERT_FALSE(other.read()) << name;
+        EXPECT_NE(other.read().error().errorNumber, ENOENT) << name;
     }
     // Only root can give files away, and only to others is a file of root's another user's.
-    const bool given = ::chown(file.c_str(), 12345, 12345) == 0;
-    const auto theirs = readJournal(given ? file : "/etc/passwd");
-    ASSERT_FALSE(theirs);
-    EXPECT_EQ(theirs.error().text, "it is another user's");
-}
+    const bool given = ::chown(file.path().c_str(), 12345, 12345) == 0;
+    const auto theirs = (given ? file : JournalFile("/etc", "passwd")).read();
+    EXPECT_NE(theirs.error().text.find("another user's"), std::string::npos);
+    EXPECT_TRUE(file.remove() && file.remove());
+    EXPECT_EQ(file.read().error().errorNumber, ENOENT);
 
-TEST(Journal, OneFileForAllScreensOfAServer) {
-    EXPECT_EQ(journalFile("/run", ":0.1"), journalFile("/run", ":0"));
-    EXPECT_EQ(journalFile("/run", "a.b:1.0"), journalFile("/run", "a.b:1"));
-    EXPECT_NE(journalFile("/run", "a.b:1"), journalFile("/run", "a:1"));
-    EXPECT_NE(journalFile("/run", ":1"), journalFile("/run", ":10"));
-    EXPECT_EQ(journalFile("/run", "unix/../../etc:0").parent_path(), "/run");
+    fs::create_directory_symlink(directory.path(), directory / "way");
+    fs::permissions(directory / "directory", fs::perms::all);
+    for (const char* name : {"way", "directory", "none"}) {
+        const JournalFile inside(directory / name, "ramps");
+        EXPECT_FALSE(writeTo(inside, "x") || inside.read() || inside.remove()) << name;
+    }
 }
 
 using rig::Channels;

@@ -4,14 +4,11 @@
 #include "displays/guard/server_mark.h"
 #include "displays/x11/randr_hardware.h"
 
-#include <filesystem>
-#include <optional>
-#include <sys/types.h>
-
 namespace nocturo {
 
 // What gives the displays of an X server back when the Nocturo that changed them has ended without
-// doing so. Every member of it may be interrupted at any moment and be done again.
+// doing so. Every member of it may be interrupted at any moment and be done again, and several may
+// do it at once. Where no Nocturo has left a mark nothing is written.
 //
 // A plain ramp is the calibration of a display, where its source knows one within half a second,
 // and the identity where it does not.
@@ -25,27 +22,21 @@ enum class Repair {
 
 /// Gives back what an ended Nocturo left. One whose connection the server still has is waited for,
 /// for two seconds.
-Repair repairDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile,
-                      CalibrationSource& calibrations);
+Repair repairDisplays(RandrHardware& hardware, CalibrationSource& calibrations);
 
-/// The same after the Nocturo with that mark only, which has ended for sure, even though the server
-/// may not have noticed it yet, and without calibrations.
-Repair repairDisplaysAfter(const ServerMark::Content& ended, RandrHardware& hardware,
-                           const std::filesystem::path& journalFile);
+/// The same after that Nocturo only, which has ended for sure, even though the server may not have
+/// noticed it yet, and without calibrations.
+Repair repairDisplaysAfter(const ServerMark::Owner& ended, RandrHardware& hardware);
 
-/// The process of the Nocturo that changes the displays now, 0 where that is not to be told;
-/// nothing when there is none.
-std::optional<pid_t> changingProcess(RandrHardware& hardware,
-                                     const std::filesystem::path& journalFile);
+struct RestoredByHand {
+    Repair repair = Repair::notNeeded;
+    /// True where a Nocturo had not ended: it was asked to give the displays back. It has done so
+    /// where no repair was needed, and may change them again where one was.
+    bool askedNocturo = false;
+};
 
-/// Waits until nobody changes the displays any more; false when it took longer than half a second.
-bool waitUntilGivenBack(RandrHardware& hardware);
-
-/// Writes what the journal has, else plain ramps, and leaves the rest to the Nocturo that goes on.
-Repair overwriteDisplays(RandrHardware& hardware, const std::filesystem::path& journalFile,
-                         CalibrationSource& calibrations);
-
-/// Gives the displays that Nocturo would drive plain ramps.
-void writePlainRamps(RandrHardware& hardware, CalibrationSource& calibrations);
+/// Gives the displays back whatever has become of the Nocturo that changed them. Takes 2 seconds at
+/// most, unless the server itself does not answer. The next start learns of a repair.
+RestoredByHand restoreDisplaysByHand(RandrHardware& hardware, CalibrationSource& calibrations);
 
 } // namespace nocturo

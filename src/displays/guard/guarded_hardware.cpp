@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <poll.h>
-#include <random>
-#include <unistd.h>
 #include <utility>
 
 namespace nocturo {
@@ -18,41 +16,29 @@ bool hasHungUp(int descriptor) {
     return poll(&source, 1, 0) > 0;
 }
 
-std::uint64_t randomToken() {
-    std::random_device random;
-    return std::uint64_t{random()} << 32 | random();
-}
-
 } // namespace
 
-GuardedHardware::GuardedHardware(std::unique_ptr<RandrHardware> hardware, std::string displayName,
-                                 std::filesystem::path journalFile, RunLoop& runLoop)
-    : hardware_(std::move(hardware)), displayName_(std::move(displayName)),
-      journalFile_(std::move(journalFile)),
-      mark_(hardware_->connection()), ownMark_{randomToken(), mark_.createWindow()},
+GuardedHardware::GuardedHardware(std::unique_ptr<RandrHardware> hardware,
+                                 const std::string& displayName, RunLoop& runLoop,
+                                 std::function<void()> letGo)
+    : hardware_(std::move(hardware)), mark_(hardware_->connection()), self_{mark_.createOwner()},
+      letGoAsked_(mark_.onLetGo(self_, std::move(letGo))),
       guards_(guardProgram(),
-              {"--guard", displayName_, journalFile_.string(), std::to_string(ownMark_.token),
-               std::to_string(ownMark_.window)},
+              {"--guard", displayName, std::to_string(self_.token), std::to_string(self_.window)},
               // The server's end is the guards' as well, and may be told later.
               runLoop,
               [this] { return isMarked_ && !hasHungUp(hardware_->connection().descriptor()); }) {}
 
 GuardedHardware::~GuardedHardware() {
-    // With its server a ramp has gone as well.
-    if (!isAnyChanged() || hardware_->connection().isLost()) {
-        waitForWrites();
-        std::error_code ignored;
-        std::filesystem::remove(journalFile_, ignored);
-    }
+    waitForWrites();
 }
 
 void GuardedHardware::keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) {
     Crtc& known = crtcs_[crtc];
     if (known.system != ramp) {
         known.system = ramp;
-        journalIsStale_ = true;
         if (isMarked_) {
-            storeJournal();
+            keepJournal();
         }
     }
 }
@@ -84,25 +70,19 @@ bool GuardedHardware::isAnyChanged() const {
 // The order holds whenever this process is killed: who finds the mark finds the journal.
 void GuardedHardware::protect() {
     guards_.start();
-    if (journalIsStale_) {
-        storeJournal();
-    }
-    mark_.set(ownMark_);
+    keepJournal();
+    mark_.set(self_);
     isMarked_ = true;
 }
 
-void GuardedHardware::storeJournal() {
-    Journal journal{ownMark_.token, getpid(), {}};
+void GuardedHardware::keepJournal() {
+    Journal journal{self_.token, {}};
     for (const auto& [crtc, known] : crtcs_) {
         journal.entries.push_back({crtc, known.system});
     }
-    const Result<void> written = writeJournal(journalFile_, journal);
-    journalIsStale_ = !written;
-    if (!written && !journalFailureLogged_) {
-        journalFailureLogged_ = true;
-        logWarning(kLogDisplays, "The displays' own colors cannot be kept in " +
-                                     journalFile_.string() + " (" + written.error().text +
-                                     "): if Nocturo is killed, the displays get plain ones.");
+    if (!mark_.keep(journal) && !std::exchange(journalFailureLogged_, true)) {
+        logWarning(kLogDisplays, "The displays' own colors are more than the X server can keep: if "
+                                 "Nocturo is killed, the displays get plain ones.");
     }
 }
 

@@ -2,11 +2,9 @@
 
 #include "base/run_loop.h"
 #include "displays/guard/guards.h"
-#include "displays/guard/journal.h"
 #include "displays/guard/server_mark.h"
 #include "displays/x11/randr_hardware.h"
 
-#include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
@@ -17,18 +15,19 @@
 namespace nocturo {
 
 /// The displays of an X server, given back even when this process is killed: before a CRTC gets
-/// another ramp than the system's, its own is in the journal and a guard process is there that
-/// writes it back when this process ends. Where that cannot be had, a sentence says so and the
+/// another ramp than the system's, the server keeps its own and guard processes are there, which
+/// write it back when this process ends. Where that cannot be had, a sentence says so and the
 /// displays are driven all the same.
 ///
 /// Displays that were left changed are to be repaired before one is made.
 class GuardedHardware final : public GammaHardware {
   public:
-    /// The loop must outlive it.
-    GuardedHardware(std::unique_ptr<RandrHardware> hardware, std::string displayName,
-                    std::filesystem::path journalFile, RunLoop& runLoop);
+    /// The loop must outlive it. From it `letGo` is called when another program asks that the
+    /// displays be given back.
+    GuardedHardware(std::unique_ptr<RandrHardware> hardware, const std::string& displayName,
+                    RunLoop& runLoop, std::function<void()> letGo);
 
-    /// Ends the guard. It gives back what was not given back until now.
+    /// Ends the guards. They give back what was not given back until now.
     ~GuardedHardware() override;
 
     std::string_view name() const override { return hardware_->name(); }
@@ -55,16 +54,14 @@ class GuardedHardware final : public GammaHardware {
 
     bool isAnyChanged() const;
     void protect();
-    void storeJournal();
+    void keepJournal();
 
     std::unique_ptr<RandrHardware> hardware_;
-    std::string displayName_;
-    std::filesystem::path journalFile_;
     ServerMark mark_;
-    ServerMark::Content ownMark_;
+    ServerMark::Owner self_;
+    XListener letGoAsked_;
     Guards guards_;
     std::map<std::uint32_t, Crtc> crtcs_;
-    bool journalIsStale_ = true;
     bool isMarked_ = false;
     bool journalFailureLogged_ = false;
 };

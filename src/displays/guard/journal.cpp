@@ -1,22 +1,14 @@
 #include "displays/guard/journal.h"
 
-#include "base/files.h"
-
-#include <algorithm>
 #include <cstring>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <type_traits>
-#include <unistd.h>
 #include <utility>
 
 namespace nocturo {
 
 namespace {
 
-constexpr std::string_view kMagic = "Nocturo\1"; // the last byte is the version of the layout
-// More than the ramps of any machine; a file beyond is not worth reading.
-constexpr std::size_t kLongestJournal = 64U << 20U;
+constexpr std::string_view kMagic = "Nocturo\2"; // the last byte is the version of the layout
 
 // FNV-1a: each byte's step can be undone, so a single wrong byte never goes unseen.
 std::uint64_t checksum(std::string_view bytes) {
@@ -70,7 +62,6 @@ class Reader {
 std::string journalBytes(const Journal& journal) {
     std::string body;
     append(body, journal.token);
-    append(body, journal.process);
     append(body, static_cast<std::uint32_t>(journal.entries.size()));
     for (const auto& [crtc, ramp] : journal.entries) {
         append(body, crtc);
@@ -96,7 +87,6 @@ std::optional<Journal> journalFromBytes(std::string_view bytes) {
     }
     Journal journal;
     journal.token = reader.number<std::uint64_t>();
-    journal.process = reader.number<pid_t>();
     for (auto left = reader.number<std::uint32_t>(); left > 0; --left) {
         const auto crtc = reader.number<std::uint32_t>();
         const auto size = reader.number<std::uint32_t>();
@@ -111,38 +101,6 @@ std::optional<Journal> journalFromBytes(std::string_view bytes) {
         journal.entries.push_back({crtc, std::move(ramp)});
     }
     return reader.isAtEnd() ? std::optional(std::move(journal)) : std::nullopt;
-}
-
-std::filesystem::path journalFile(const std::filesystem::path& runtimeDirectory,
-                                  std::string_view displayName) {
-    // "host:0.1" is screen 1 of the server "host:0".
-    const auto colon = displayName.rfind(':');
-    const auto screen = colon == std::string_view::npos ? colon : displayName.find('.', colon);
-    std::string server(displayName.substr(0, screen));
-    std::replace(server.begin(), server.end(), '/', '_');
-    return runtimeDirectory / ("ramps" + server);
-}
-
-Result<void> writeJournal(const std::filesystem::path& file, const Journal& journal) {
-    const auto written = replaceFile(file, journalBytes(journal), S_IRUSR | S_IWUSR,
-                                     Durability::lastsWhileTheSystemRuns);
-    return written.map([](const auto&) {});
-}
-
-Result<Journal> readJournal(const std::filesystem::path& file) {
-    const auto opened = openRegularFile(file, O_NOFOLLOW);
-    if (!opened) {
-        return tl::unexpected(opened.error());
-    }
-    if (opened->status.st_uid != geteuid()) {
-        return failed("it is another user's");
-    }
-    const auto bytes = readAll(opened->descriptor, kLongestJournal);
-    if (!bytes) {
-        return tl::unexpected(bytes.error());
-    }
-    auto journal = journalFromBytes(*bytes);
-    return journal ? Result<Journal>(std::move(*journal)) : failed("it is damaged");
 }
 
 } // namespace nocturo

@@ -39,14 +39,14 @@ bool waitForNocturo(XConnection& connection) {
 }
 
 // Says nothing of a server that cannot be reached: Nocturo cannot reach it either, and says so.
-int guard(const std::string& display, const char* journal, const ServerMark::Content& nocturo) {
+int guard(const std::string& display, const ServerMark::Owner& nocturo) {
     const auto connection = XConnection::open(display);
     const auto hardware = RandrHardware::open(connection.get());
     if (!hardware) {
         return kFailed;
     }
     if (waitForNocturo(*connection)) {
-        repairDisplaysAfter(nocturo, **hardware, journal);
+        repairDisplaysAfter(nocturo, **hardware);
     }
     return kDone;
 }
@@ -69,10 +69,10 @@ int main(int argc, char* argv[]) {
         prctl(PR_SET_NAME, kSpareGuardName);
         arguments = arguments.first(arguments.size() - 1);
     }
-    ServerMark::Content nocturo;
-    if (arguments.size() == 6 && std::string_view(arguments[1]) == "--guard" &&
-        parse(arguments[4], nocturo.token) && parse(arguments[5], nocturo.window)) {
-        return guard(arguments[2], arguments[3], nocturo);
+    ServerMark::Owner nocturo;
+    if (arguments.size() == 5 && std::string_view(arguments[1]) == "--guard" &&
+        parse(arguments[3], nocturo.token) && parse(arguments[4], nocturo.window)) {
+        return guard(arguments[2], nocturo);
     }
     std::fputs("Nocturo starts this program by itself; nocturoctl restore is what you may want.\n",
                stderr);

@@ -57,6 +57,9 @@ bool SimulatedHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
 }
 
 void SimulatedHardware::draw(std::uint32_t crtc) {
+    if (pictureDirectory_.empty()) {
+        return;
+    }
     const auto picture = pictureDirectory_ / ("display-" + std::to_string(crtc + 1) + ".png");
     if (!drawPicture_(ramps_[crtc], picture) && !std::exchange(drawingFailureSaid_, true)) {
         logWarning(kLogDisplays, "The pictures of the simulated displays cannot be written to " +

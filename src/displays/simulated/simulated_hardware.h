@@ -17,7 +17,8 @@ inline constexpr unsigned kMaxSimulatedHeads = 16;
 class SimulatedHardware : public GammaHardware {
   public:
     /// `count` is 1 to kMaxSimulatedHeads. The directory is created, for this user alone, where it
-    /// does not exist. When pictures cannot be written that is said once and the ramps still work.
+    /// does not exist. When pictures cannot be written that is said once and the ramps still work;
+    /// an empty path asks for none.
     SimulatedHardware(unsigned count, std::filesystem::path pictureDirectory,
                       DrawPicture drawPicture);
 
