@@ -8,7 +8,7 @@ _nocturoctl_displays() {
 _nocturoctl() {
   local cur prev words cword
   _init_completion -n : || return
-  local verbs='on off toggle status effects get set reset screens hotkey watch restore quit
+  local verbs='on off toggle status effects temperature get set reset screens hotkey watch restore quit
     open save preferences about preview'
   local effects='invert overexposure dim color-filter hdtv-luminance'
   local switches='ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver
@@ -44,7 +44,7 @@ _nocturoctl() {
         esac
         ;;
     esac
-    if [[ $cur == -* && ' on toggle effects set reset screens open ' == *" ${words[1]} "* ]]; then
+    if [[ $cur == -* && ' on toggle effects temperature set reset screens open ' == *" ${words[1]} "* ]]; then
       choices='--keep --help'
     fi
     [[ $cur != -* || -n $choices ]] || choices='--help'

@@ -24,6 +24,7 @@ complete -c nocturoctl -n __fish_use_subcommand -a off -d 'Switch the effect off
 complete -c nocturoctl -n __fish_use_subcommand -a toggle -d 'Switch the effect on or off'
 complete -c nocturoctl -n __fish_use_subcommand -a status -d 'Show the state of everything'
 complete -c nocturoctl -n __fish_use_subcommand -a effects -d 'List or choose the effects'
+complete -c nocturoctl -n __fish_use_subcommand -a temperature -d 'Show or choose a color temperature'
 complete -c nocturoctl -n __fish_use_subcommand -a get -d 'Show a setting'
 complete -c nocturoctl -n __fish_use_subcommand -a set -d 'Change a setting'
 complete -c nocturoctl -n __fish_use_subcommand -a reset -d 'Give a setting its default value again'
@@ -38,7 +39,7 @@ complete -c nocturoctl -n __fish_use_subcommand -a preferences -d 'Show the pref
 complete -c nocturoctl -n __fish_use_subcommand -a about -d 'Show the box about Nocturo'
 complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a display shows into a picture'
 
-complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects set reset screens open' -l keep -d 'Keep the colors even if hard to read'
+complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects temperature set reset screens open' -l keep -d 'Keep the colors even if hard to read'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'
 complete -c nocturoctl -n '__nocturoctl_at effects 0' -a 'add remove only'
 complete -c nocturoctl -n '__fish_seen_subcommand_from effects; and not __nocturoctl_at effects 0' -a "$effects"

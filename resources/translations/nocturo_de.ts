@@ -275,6 +275,14 @@
             <translation>Einen Bildschirm mit der Kennung %d gibt es nicht.</translation>
         </message>
         <message>
+            <source>A temperature is from 1000 to 25000 K.</source>
+            <translation>Eine Farbtemperatur reicht von 1000 bis 25000 K.</translation>
+        </message>
+        <message>
+            <source>The color filter has a hue and a vividness that are no temperature.</source>
+            <translation>Farbton und Sättigung des Farbfilters ergeben keine Farbtemperatur.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo wartet auf die Antwort auf die Frage, die es zeigt.</translation>
         </message>
@@ -381,6 +389,16 @@ name. add and remove change the selection, only replaces it.</source>
 einer Klasse. add und remove ändern die Auswahl, only ersetzt sie.</translation>
         </message>
         <message>
+            <source>Show or choose a color temperature</source>
+            <translation>Eine Farbtemperatur zeigen oder wählen</translation>
+        </message>
+        <message>
+            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
+color filter, which is chosen. +N and -N go so far from the one in force.</source>
+            <translation>Von 1000 (Kerze) über 6500 (neutral) bis 25000 (blauer Himmel), als Farbton und
+Sättigung des Farbfilters, der damit gewählt ist. +N und -N gehen von der geltenden aus.</translation>
+        </message>
+        <message>
             <source>Show a setting</source>
             <translation>Eine Einstellung zeigen</translation>
         </message>
@@ -469,6 +487,10 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Die Bildschirme zurückgeben und Nocturo beenden</translation>
+        </message>
+        <message>
+            <source>%@  (the color filter is not chosen)</source>
+            <translation>%@  (der Farbfilter ist nicht gewählt)</translation>
         </message>
         <message>
             <source>Usage: %@</source>

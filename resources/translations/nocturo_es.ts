@@ -275,6 +275,14 @@
             <translation>No hay ninguna pantalla con el identificador %d.</translation>
         </message>
         <message>
+            <source>A temperature is from 1000 to 25000 K.</source>
+            <translation>Una temperatura va de 1000 a 25000 K.</translation>
+        </message>
+        <message>
+            <source>The color filter has a hue and a vividness that are no temperature.</source>
+            <translation>El tono y la viveza del filtro de color no corresponden a ninguna temperatura.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo espera la respuesta a la pregunta que muestra.</translation>
         </message>
@@ -381,6 +389,16 @@ name. add and remove change the selection, only replaces it.</source>
 clase. add y remove modifican la selección, only la sustituye.</translation>
         </message>
         <message>
+            <source>Show or choose a color temperature</source>
+            <translation>Mostrar o elegir una temperatura de color</translation>
+        </message>
+        <message>
+            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
+color filter, which is chosen. +N and -N go so far from the one in force.</source>
+            <translation>De 1000 (vela) pasando por 6500 (neutra) a 25000 (cielo azul), como tono y viveza del
+filtro de color, que queda elegido. +N y -N parten de la vigente.</translation>
+        </message>
+        <message>
             <source>Show a setting</source>
             <translation>Mostrar un ajuste</translation>
         </message>
@@ -469,6 +487,10 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Devolver las pantallas y terminar Nocturo</translation>
+        </message>
+        <message>
+            <source>%@  (the color filter is not chosen)</source>
+            <translation>%@  (el filtro de color no está elegido)</translation>
         </message>
         <message>
             <source>Usage: %@</source>

@@ -275,6 +275,14 @@
             <translation>Aucun écran n’a l’identifiant %d.</translation>
         </message>
         <message>
+            <source>A temperature is from 1000 to 25000 K.</source>
+            <translation>Une température va de 1000 à 25000 K.</translation>
+        </message>
+        <message>
+            <source>The color filter has a hue and a vividness that are no temperature.</source>
+            <translation>La teinte et la vivacité du filtre coloré ne correspondent à aucune température.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo attend la réponse à la question qu’il affiche.</translation>
         </message>
@@ -381,6 +389,16 @@ name. add and remove change the selection, only replaces it.</source>
 classe. add et remove modifient le choix, only le remplace.</translation>
         </message>
         <message>
+            <source>Show or choose a color temperature</source>
+            <translation>Afficher ou choisir une température de couleur</translation>
+        </message>
+        <message>
+            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
+color filter, which is chosen. +N and -N go so far from the one in force.</source>
+            <translation>De 1000 (bougie) à 25000 (ciel bleu) en passant par 6500 (neutre), comme teinte et
+vivacité du filtre coloré, qui est choisi. +N et -N partent de celle en vigueur.</translation>
+        </message>
+        <message>
             <source>Show a setting</source>
             <translation>Afficher un réglage</translation>
         </message>
@@ -469,6 +487,10 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Rendre les écrans et quitter Nocturo</translation>
+        </message>
+        <message>
+            <source>%@  (the color filter is not chosen)</source>
+            <translation>%@  (le filtre coloré n’est pas choisi)</translation>
         </message>
         <message>
             <source>Usage: %@</source>

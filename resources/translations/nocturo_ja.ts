@@ -275,6 +275,14 @@
             <translation>識別子 %d の画面はありません。</translation>
         </message>
         <message>
+            <source>A temperature is from 1000 to 25000 K.</source>
+            <translation>色温度は 1000～25000 K です。</translation>
+        </message>
+        <message>
+            <source>The color filter has a hue and a vividness that are no temperature.</source>
+            <translation>カラーフィルターの色相と鮮やかさに対応する色温度はありません。</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo は表示している質問への回答を待っています。</translation>
         </message>
@@ -381,6 +389,16 @@ name. add and remove change the selection, only replaces it.</source>
 add と remove は選択に加除し、only は選択を置き換えます。</translation>
         </message>
         <message>
+            <source>Show or choose a color temperature</source>
+            <translation>色温度を表示または選択する</translation>
+        </message>
+        <message>
+            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
+color filter, which is chosen. +N and -N go so far from the one in force.</source>
+            <translation>1000 (ろうそく) から 6500 (中性) を経て 25000 (青空) まで。カラーフィルターの色相と
+鮮やかさとして設定し、フィルターを選択します。+N と -N は今の値から増減します。</translation>
+        </message>
+        <message>
             <source>Show a setting</source>
             <translation>設定を表示する</translation>
         </message>
@@ -469,6 +487,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>画面を元に戻して Nocturo を終了する</translation>
+        </message>
+        <message>
+            <source>%@  (the color filter is not chosen)</source>
+            <translation>%@  (カラーフィルターは選択されていません)</translation>
         </message>
         <message>
             <source>Usage: %@</source>

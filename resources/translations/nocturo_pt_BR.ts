@@ -275,6 +275,14 @@
             <translation>Não há tela com o identificador %d.</translation>
         </message>
         <message>
+            <source>A temperature is from 1000 to 25000 K.</source>
+            <translation>Uma temperatura vai de 1000 a 25000 K.</translation>
+        </message>
+        <message>
+            <source>The color filter has a hue and a vividness that are no temperature.</source>
+            <translation>O matiz e a vividez do filtro de cor não correspondem a nenhuma temperatura.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>O Nocturo espera a resposta à pergunta que está mostrando.</translation>
         </message>
@@ -381,6 +389,16 @@ name. add and remove change the selection, only replaces it.</source>
 classe. add e remove alteram a seleção, only a substitui.</translation>
         </message>
         <message>
+            <source>Show or choose a color temperature</source>
+            <translation>Mostrar ou escolher uma temperatura de cor</translation>
+        </message>
+        <message>
+            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
+color filter, which is chosen. +N and -N go so far from the one in force.</source>
+            <translation>De 1000 (vela), passando por 6500 (neutra), a 25000 (céu azul), como matiz e vividez
+do filtro de cor, que fica escolhido. +N e -N partem da vigente.</translation>
+        </message>
+        <message>
             <source>Show a setting</source>
             <translation>Mostrar uma configuração</translation>
         </message>
@@ -469,6 +487,10 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>Devolver as telas e encerrar o Nocturo</translation>
+        </message>
+        <message>
+            <source>%@  (the color filter is not chosen)</source>
+            <translation>%@  (o filtro de cor não está escolhido)</translation>
         </message>
         <message>
             <source>Usage: %@</source>

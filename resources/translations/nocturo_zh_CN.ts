@@ -275,6 +275,14 @@
             <translation>没有标识符为 %d 的屏幕。</translation>
         </message>
         <message>
+            <source>A temperature is from 1000 to 25000 K.</source>
+            <translation>色温范围为 1000 到 25000 K。</translation>
+        </message>
+        <message>
+            <source>The color filter has a hue and a vividness that are no temperature.</source>
+            <translation>颜色滤镜的色相和鲜艳度不对应任何色温。</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo 正在等待对所显示问题的回答。</translation>
         </message>
@@ -381,6 +389,16 @@ name. add and remove change the selection, only replaces it.</source>
 add 和 remove 更改选择，only 替换选择。</translation>
         </message>
         <message>
+            <source>Show or choose a color temperature</source>
+            <translation>显示或选择色温</translation>
+        </message>
+        <message>
+            <source>From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the
+color filter, which is chosen. +N and -N go so far from the one in force.</source>
+            <translation>从 1000（烛光）经 6500（中性）到 25000（蓝天），以颜色滤镜的色相和鲜艳度表示，
+并选中该滤镜。+N 和 -N 从当前值开始增减。</translation>
+        </message>
+        <message>
             <source>Show a setting</source>
             <translation>显示一项设置</translation>
         </message>
@@ -469,6 +487,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>Give the displays back and end Nocturo</source>
             <translation>恢复屏幕并退出 Nocturo</translation>
+        </message>
+        <message>
+            <source>%@  (the color filter is not chosen)</source>
+            <translation>%@  （未选中颜色滤镜）</translation>
         </message>
         <message>
             <source>Usage: %@</source>

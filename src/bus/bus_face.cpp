@@ -27,10 +27,6 @@ namespace {
 // Long enough for a busy first instance, short enough for the user who waits for the second.
 constexpr int kReopenTimeoutMs = 2000;
 
-tl::unexpected<BusFailure> refusal(std::string sentence) {
-    return tl::unexpected(BusFailure{kInvalidArgumentError, std::move(sentence)});
-}
-
 tl::unexpected<BusFailure> noSetting(const std::string& key) {
     return refusal(translated("There is no setting \"%@\".", {key}));
 }
@@ -49,10 +45,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 31> members;
+    static const std::array<sd_bus_vtable, 35> members;
 };
 
-const std::array<sd_bus_vtable, 31> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 35> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
@@ -61,6 +57,7 @@ const std::array<sd_bus_vtable, 31> BusFace::Table::members = {{
     SD_BUS_PROPERTY("DimLevel", "d", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("ColorFilterHue", "d", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("ColorFilterVividness", "d", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Temperature", "u", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("AffectedScreenSet", "ax", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("HotKey", "a{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Settings", "a{sv}", tellProperty, 0, kTold),
@@ -74,6 +71,12 @@ const std::array<sd_bus_vtable, 31> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::addEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::removeEffects>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SetEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::setEffects>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SetTemperature", SD_BUS_ARGS("u", kelvin), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::setTemperature>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("StepTemperature", SD_BUS_ARGS("i", kelvin), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::stepTemperature>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetSetting", SD_BUS_ARGS("s", key, "v", value), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::setSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ResetSetting", SD_BUS_ARGS("s", key), SD_BUS_NO_RESULT,
@@ -159,29 +162,6 @@ BusAnswer BusFace::setActive(bool active) {
 
 BusAnswer BusFace::toggle() {
     controller_.toggleGlobalEffect();
-    return {};
-}
-
-BusAnswer BusFace::addEffects(const std::vector<std::string>& names) {
-    const PropertyArray list(names.begin(), names.end());
-    if (auto problem = problemWith(*settingNamed(NDGroupEffect::kName), list)) {
-        return refusal(*std::move(problem));
-    }
-    const DefaultsStore::Batch oneChange(defaults_);
-    for (const std::string& name : names) {
-        NDGroupEffect::effect().addEffect(name);
-        if (!NDGroupEffect::effect().containsEffect(name)) {
-            NDGroupEffect::effect().addEffect(name); // the list was damaged and is none any more
-        }
-    }
-    return {};
-}
-
-BusAnswer BusFace::removeEffects(const std::vector<std::string>& names) {
-    const DefaultsStore::Batch oneChange(defaults_);
-    for (const std::string& name : names) {
-        NDGroupEffect::effect().removeEffect(name);
-    }
     return {};
 }
 

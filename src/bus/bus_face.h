@@ -51,6 +51,9 @@ class BusFace {
     BusAnswer toggle();
     BusAnswer addEffects(const std::vector<std::string>& names);
     BusAnswer removeEffects(const std::vector<std::string>& names);
+    BusAnswer setEffects(const std::vector<std::string>& names);
+    BusAnswer setTemperature(std::uint32_t kelvin);
+    BusAnswer stepTemperature(std::int32_t kelvin);
     BusAnswer setSetting(const std::string& key, const std::optional<PropertyValue>& value);
     BusAnswer resetSetting(const std::string& key);
     BusAnswer toggleScreen(std::uint32_t display);

@@ -24,6 +24,11 @@ inline tl::unexpected<BusFailure> failure(std::string sentence) {
     return tl::unexpected(BusFailure{kFailedError, std::move(sentence)});
 }
 
+/// The same for arguments that cannot be taken.
+inline tl::unexpected<BusFailure> refusal(std::string sentence) {
+    return tl::unexpected(BusFailure{kInvalidArgumentError, std::move(sentence)});
+}
+
 namespace detail {
 
 template <auto Method, bool whenReady>

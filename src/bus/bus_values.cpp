@@ -179,6 +179,10 @@ bool readArgument(sd_bus_message* call, bool& value) {
     return read;
 }
 
+bool readArgument(sd_bus_message* call, std::int32_t& value) {
+    return sd_bus_message_read(call, "i", &value) > 0;
+}
+
 bool readArgument(sd_bus_message* call, std::uint32_t& value) {
     return sd_bus_message_read(call, "u", &value) > 0;
 }

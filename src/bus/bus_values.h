@@ -47,6 +47,7 @@ inline constexpr std::size_t kLongestList = 1000;
 
 // Read the next argument of a call; false when it is of another type, or a list too long.
 bool readArgument(sd_bus_message* call, bool& value);
+bool readArgument(sd_bus_message* call, std::int32_t& value);
 bool readArgument(sd_bus_message* call, std::uint32_t& value);
 bool readArgument(sd_bus_message* call, std::string& value);
 bool readArgument(sd_bus_message* call, std::vector<std::string>& value);

@@ -6,6 +6,7 @@
 #include "displays/display_functions.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
+#include "effects/effect_choices.h"
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/hot_key_text.h"
 #include "hotkeys/key_naming.h"
@@ -15,6 +16,7 @@
 #include "settings/settings_table.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace nocturo {
 
@@ -47,6 +49,7 @@ const std::map<std::string_view, ToldState::Read>& ToldState::properties() {
         {"DimLevel", &ToldState::dimLevel},
         {"ColorFilterHue", &ToldState::colorFilterHue},
         {"ColorFilterVividness", &ToldState::colorFilterVividness},
+        {"Temperature", &ToldState::temperature},
         {"AffectedScreenSet", &ToldState::affectedScreens},
         {"HotKey", &ToldState::hotKey},
         {"Settings", &ToldState::settings},
@@ -132,6 +135,10 @@ BusValue ToldState::colorFilterHue() const {
 
 BusValue ToldState::colorFilterVividness() const {
     return shortestReal(NDColorFilterEffect::vividness());
+}
+
+BusValue ToldState::temperature() const {
+    return static_cast<std::uint32_t>(std::lround(filterTemperature().value_or(0.0)));
 }
 
 BusValue ToldState::affectedScreens() const {

@@ -37,6 +37,7 @@ class ToldState {
     BusValue dimLevel() const;
     BusValue colorFilterHue() const;
     BusValue colorFilterVividness() const;
+    BusValue temperature() const;
     BusValue affectedScreens() const;
     BusValue hotKey() const;
     BusValue settings() const;

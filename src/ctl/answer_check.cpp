@@ -90,6 +90,7 @@ void checkAnswer(const Json& properties, Answer answer) {
                                {"dimLevel", isNumber},
                                {"colorFilterHue", isNumber},
                                {"colorFilterVividness", isNumber},
+                               {"temperature", isCount, true},
                                {"affectedScreenSet", isListOf<isInteger>},
                                {"hotKey", isHotKey},
                                {"settings", isObject},

@@ -75,6 +75,12 @@ void BusClient::call(const char* method, bool argument) {
     send(message);
 }
 
+void BusClient::call(const char* method, std::int32_t argument) {
+    const BusMessage message = newCall(kNocturoInterface, method);
+    check(sd_bus_message_append(message.get(), "i", argument));
+    send(message);
+}
+
 void BusClient::call(const char* method, std::uint32_t argument) {
     const BusMessage message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "u", argument));

@@ -26,6 +26,7 @@ class BusClient {
 
     void call(const char* method);
     void call(const char* method, bool argument);
+    void call(const char* method, std::int32_t argument);
     void call(const char* method, std::uint32_t argument);
     void call(const char* method, const std::string& argument);
     void call(const char* method, std::span<const std::string> argument);

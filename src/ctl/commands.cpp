@@ -1,6 +1,7 @@
 #include "ctl/commands.h"
 
 #include "ctl/bus_client.h"
+#include "ctl/effect_verbs.h"
 #include "ctl/failure.h"
 #include "ctl/output.h"
 #include "ctl/report.h"
@@ -22,12 +23,6 @@
 namespace nocturo {
 
 namespace {
-
-void expect(bool argumentsFit) {
-    if (!argumentsFit) {
-        throw Failure{kUsage, ""};
-    }
-}
 
 template <bool active>
 void runSwitch(Arguments arguments) {
@@ -69,27 +64,6 @@ void runStatus(Arguments arguments) {
             printLine(notRunningObject());
         }
         throw;
-    }
-}
-
-void runEffects(Arguments arguments) {
-    if (arguments.empty()) {
-        print(effectsReport(BusClient().properties()));
-        return;
-    }
-    const std::string& how = arguments.front();
-    expect(arguments.size() > 1 && (how == "add" || how == "remove" || how == "only"));
-    std::vector<std::string> names;
-    for (const std::string& name : arguments.subspan(1)) {
-        const std::string className = effectFromText(name);
-        if (std::find(names.begin(), names.end(), className) == names.end()) {
-            names.push_back(className);
-        }
-    }
-    if (how == "only") {
-        BusClient().callSetSetting("NDGroupEffect", PropertyArray(names.begin(), names.end()));
-    } else {
-        BusClient().call(how == "add" ? "AddEffects" : "RemoveEffects", names);
     }
 }
 
@@ -292,6 +266,11 @@ constexpr std::array kCommands = std::to_array<Command>({
      ListedText("NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
                 "name. add and remove change the selection, only replaces it."),
      runEffects, true},
+    {"temperature", "[KELVIN | +N | -N]", ListedText("Show or choose a color temperature"),
+     ListedText(
+         "From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the\n"
+         "color filter, which is chosen. +N and -N go so far from the one in force."),
+     runTemperature, true},
     {"get", "KEY", ListedText("Show a setting"), ListedText("nocturoctl status lists the keys."),
      runGet},
     {"set", "KEY VALUE", ListedText("Change a setting"),

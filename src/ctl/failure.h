@@ -16,4 +16,11 @@ struct Failure {
     std::string sentence;
 };
 
+/// Throws a Failure without a sentence, which tells of the verb's usage, unless the arguments fit.
+inline void expect(bool argumentsFit) {
+    if (!argumentsFit) {
+        throw Failure{kUsage, ""};
+    }
+}
+
 } // namespace nocturo

@@ -18,10 +18,18 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::array<const char*, 11> kStatusOrder = {
-    "active",         "displayServices",      "displays",          "effects", "dimLevel",
-    "colorFilterHue", "colorFilterVividness", "affectedScreenSet", "hotKey",  "disturbances",
-    "disturber"};
+constexpr std::array<const char*, 12> kStatusOrder = {"active",
+                                                      "displayServices",
+                                                      "displays",
+                                                      "effects",
+                                                      "dimLevel",
+                                                      "colorFilterHue",
+                                                      "colorFilterVividness",
+                                                      "temperature",
+                                                      "affectedScreenSet",
+                                                      "hotKey",
+                                                      "disturbances",
+                                                      "disturber"};
 constexpr std::array<const char*, 9> kDisplayOrder = {
     "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther", "obstacle"};
 

@@ -167,7 +167,8 @@ TEST_F(Control, WrongCommandLinesAreUsageErrors) {
                            "nocturoctl set AffectedScreenSet 1,x",
                            "nocturoctl set AffectedScreenSet 2147483648",
                            "nocturoctl set NDGroupEffect NDGroupEffect",
-                           "nocturoctl reset Nonsense"};
+                           "nocturoctl reset Nonsense",
+                           "nocturoctl temperature warm"};
     for (const char* line : lines) {
         SCOPED_TRACE(line);
         std::istringstream words(line);
@@ -250,6 +251,30 @@ TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
                                    "/org/nocturo/Nocturo", "org.nocturo.Nocturo1.SetSetting",
                                    "string:UseHotKey", "variant:double:1"});
     EXPECT_NE(direct.errors.find("org.nocturo.Error.InvalidArgument"), std::string::npos);
+}
+
+// What each of these lines does to members of the status, in order, one after the other.
+TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
+    const struct {
+        const char* line;
+        const char* member;
+        const char* becomes;
+    } steps[] = {
+        {"effects add color-filter", "temperature", "3500"},
+        {"temperature 2700", "temperature", "2700"},
+        {"temperature +250", "temperature", "2950"},
+        {"temperature -30000", "temperature", "1000"},
+        {"set NDColorFilterEffectHue 200", "temperature", "0"},
+        {"effects only invert", "effects", R"(["NDInvertEffect"])"},
+        {"temperature -250", "temperature", "6250"},
+        {"temperature 6500K", "effects", R"(["NDInvertEffect","NDColorFilterEffect"])"},
+    };
+    for (const auto& [line, member, becomes] : steps) {
+        std::istringstream words(line);
+        ctl({std::istream_iterator<std::string>(words), {}});
+        EXPECT_EQ(status()[member].dump(), becomes) << line;
+    }
+    EXPECT_EQ(ctl({"temperature"}).output, "6500 K\n");
 }
 
 TEST_F(ControlOfRunning, SpeaksTheUsersLanguageInAlignedColumns) {

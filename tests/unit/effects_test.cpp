@@ -2,6 +2,7 @@
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
+#include "effects/effect_choices.h"
 #include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
@@ -152,6 +153,38 @@ TEST_F(Effects, EveryTemperatureIsAColorOfTheFilterToTheLastStep) {
     EXPECT_FALSE(temperatureOfFilter({0.0, 1.0}));                     // pure red
     EXPECT_FALSE(temperatureOfFilter({180.0, 1.0}));                   // no red at all
     EXPECT_FALSE(temperatureOfFilter({300.0, 0.3}));
+}
+
+TEST_F(Effects, ATemperatureIsOneChangeOfTheFilterAndStepsGoFromWhatIsInForce) {
+    select({});
+    int changes = 0;
+    center_.addObserver(this, NSUserDefaultsDidChangeNotification, [&] { ++changes; });
+    EXPECT_FALSE(filterTemperature()); // pure red
+    EXPECT_TRUE(stepFilterTemperature(-250));
+    EXPECT_NEAR(*filterTemperature(), 6250, 0.5); // neutral before, as the filter was not chosen
+    EXPECT_TRUE(group_.containsEffect("NDColorFilterEffect"));
+    EXPECT_EQ(changes, 1);
+    for (int step = 0; step < 30; ++step) {
+        EXPECT_TRUE(stepFilterTemperature(-250));
+    }
+    EXPECT_NEAR(*filterTemperature(), 1000, 0.5);
+    EXPECT_TRUE(stepFilterTemperature(40));
+    EXPECT_NEAR(*filterTemperature(), 1040, 0.5);
+    NDColorFilterEffect::setHue(300);
+    EXPECT_FALSE(stepFilterTemperature(250));
+    EXPECT_EQ(NDColorFilterEffect::hue(), 300);
+}
+
+TEST_F(Effects, AFilterThatWasNeverSetIsOfferedAGentleTint) {
+    offerGentleTint();
+    EXPECT_NEAR(filterTemperature().value_or(0), 3500, 0.5);
+    for (const char* key : {"NDColorFilterEffectHue", "NDColorFilterEffectVividness"}) {
+        store_->removeObjectForKey("NDColorFilterEffectHue");
+        store_->removeObjectForKey("NDColorFilterEffectVividness");
+        store_->setFloat(0.5F, key);
+        offerGentleTint();
+        EXPECT_FALSE(filterTemperature()) << key;
+    }
 }
 
 } // namespace

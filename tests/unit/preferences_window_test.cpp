@@ -103,6 +103,7 @@ TEST_F(PreferencesWindow, BoxesChangeTheirSettingAndFollowIt) {
         EXPECT_TRUE(isChecked(name));
         NDGroupEffect::effect().removeEffect(effect);
     }
+    EXPECT_NEAR(slider("colorFilterVividness").value(), 0.45, 0.01) << "offered at the first tick";
     for (const auto& [name, key] :
          {std::pair("activateAtLaunch", "ActivateAtLaunch"),
           std::pair("activateOnClick", "ActivateOnClick"),

@@ -4,6 +4,7 @@
 #include "desktop/preferences/preferences_controller.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
+#include "effects/effect_choices.h"
 #include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
@@ -82,6 +83,10 @@ void NDPreferencesController::changeHDTVLuminance(const QAbstractButton& sender)
 }
 
 void NDPreferencesController::changeColorFilter(const QAbstractButton& sender) {
+    const DefaultsStore::Batch oneChange(surroundings_.defaults);
+    if (sender.isChecked()) {
+        offerGentleTint();
+    }
     setContains(NDColorFilterEffect::kName, sender);
 }
 

@@ -1,0 +1,74 @@
+// What callers on the bus do with the effects.
+
+#include "base/texts/translated.h"
+#include "bus/bus_face.h"
+#include "effects/color_filter_effect.h"
+#include "effects/color_temperature.h"
+#include "effects/effect_choices.h"
+#include "effects/group_effect.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_table.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+std::optional<std::string> problemWithEffects(const std::vector<std::string>& names) {
+    return problemWith(*settingNamed(NDGroupEffect::kName),
+                       PropertyArray(names.begin(), names.end()));
+}
+
+} // namespace
+
+BusAnswer BusFace::addEffects(const std::vector<std::string>& names) {
+    if (auto problem = problemWithEffects(names)) {
+        return refusal(*std::move(problem));
+    }
+    const DefaultsStore::Batch oneChange(defaults_);
+    for (const std::string& name : names) {
+        chooseEffect(name);
+    }
+    return {};
+}
+
+BusAnswer BusFace::removeEffects(const std::vector<std::string>& names) {
+    const DefaultsStore::Batch oneChange(defaults_);
+    for (const std::string& name : names) {
+        NDGroupEffect::effect().removeEffect(name);
+    }
+    return {};
+}
+
+BusAnswer BusFace::setEffects(const std::vector<std::string>& names) {
+    if (auto problem = problemWithEffects(names)) {
+        return refusal(*std::move(problem));
+    }
+    const DefaultsStore::Batch oneChange(defaults_);
+    const bool hadFilter = NDGroupEffect::effect().containsEffect(NDColorFilterEffect::kName);
+    if (!hadFilter && std::ranges::find(names, NDColorFilterEffect::kName) != names.end()) {
+        offerGentleTint();
+    }
+    defaults_.setObject(PropertyArray(names.begin(), names.end()), NDGroupEffect::kName);
+    return {};
+}
+
+BusAnswer BusFace::setTemperature(std::uint32_t kelvin) {
+    if (kelvin < kLowestTemperature || kelvin > kHighestTemperature) {
+        return refusal(translated("A temperature is from 1000 to 25000 K."));
+    }
+    setFilterTemperature(kelvin);
+    return {};
+}
+
+BusAnswer BusFace::stepTemperature(std::int32_t kelvin) {
+    if (!stepFilterTemperature(kelvin)) {
+        return failure(translated("The color filter has a hue and a vividness that are no "
+                                  "temperature."));
+    }
+    return {};
+}
+
+} // namespace nocturo

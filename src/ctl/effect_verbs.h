@@ -1,0 +1,12 @@
+#pragma once
+
+#include "ctl/commands.h"
+
+namespace nocturo {
+
+// The verbs that choose effects and how strong they are. Each runs with what follows the verb.
+
+void runEffects(Arguments arguments);
+void runTemperature(Arguments arguments);
+
+} // namespace nocturo
