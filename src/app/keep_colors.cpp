@@ -9,6 +9,8 @@
 #include "base/log.h"
 #include "base/notification_names.h"
 #include "base/run_loop.h"
+#include "displays/affected_screen_set.h"
+#include "effects/group_effect.h"
 #include "settings/defaults_store.h"
 
 #include <chrono>
@@ -26,14 +28,19 @@ KeepColors::KeepColors(NDAppController& controller, DefaultsStore& defaults,
         wasSwitched_ = true;
         settler_.note();
     });
-    for (const auto name : {NSUserDefaultsDidChangeNotification,
-                            NSApplicationDidChangeScreenParametersNotification}) {
-        localCenter_.addObserver(this, name, [this] {
-            if (wasSwitched_) {
-                settler_.note();
-            }
-        });
-    }
+    const auto note = [this] {
+        if (wasSwitched_) {
+            settler_.note();
+        }
+    };
+    localCenter_.addObserver(this, NSApplicationDidChangeScreenParametersNotification, note);
+    localCenter_.addObserver(this, NSUserDefaultsDidChangeNotification,
+                             [note](const Subjects& settings) {
+                                 if (settings.containAnyOf(kEffectSettings) ||
+                                     settings.containAnyOf(kAffectedScreenSettings)) {
+                                     note();
+                                 }
+                             });
 }
 
 KeepColors::~KeepColors() {
