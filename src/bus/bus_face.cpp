@@ -131,16 +131,20 @@ void BusFace::setKeyboardLayout(KeyboardLayout* layout) {
 }
 
 void BusFace::announceChanges() {
-    announced_ = state_.allProperties();
-    for (const auto name :
-         {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
-          NSApplicationDidChangeScreenParametersNotification, kDisturbanceNotification}) {
-        localCenter_.addObserver(this, name, [this] { announceSoon(); });
+    for (const std::string_view name : ToldState::names()) {
+        announced_.emplace(name, state_.property(name));
+    }
+    localCenter_.addObserver(
+        this, NSUserDefaultsDidChangeNotification,
+        [this](const Subjects& settings) { announceSoon(ToldState::namesConcernedBy(settings)); });
+    for (const auto name : {kEffectActivationNotification, kDisturbanceNotification,
+                            NSApplicationDidChangeScreenParametersNotification}) {
+        localCenter_.addObserver(this, name, [this] { announceSoon(ToldState::names()); });
     }
 }
 
 void BusFace::launchDidFinish() {
-    announceSoon(); // what the launch itself changed without a word
+    announceSoon(ToldState::names()); // what the launch itself changed without a word
     launcherFace_.launchDidFinish();
 }
 
@@ -279,25 +283,26 @@ BusAnswer BusFace::quit() {
     return {};
 }
 
-void BusFace::announceSoon() {
-    if (bus_ != nullptr && !std::exchange(announcing_, true)) {
+void BusFace::announceSoon(const std::vector<std::string_view>& properties) {
+    if (bus_ != nullptr && unannounced_.empty() && !properties.empty()) {
         loop_.callSoon([this] { announce(); });
     }
+    unannounced_.insert(properties.begin(), properties.end());
 }
 
 void BusFace::announce() {
-    announcing_ = false;
-    BusDictionary current = state_.allProperties();
     BusDictionary changed;
-    for (const auto& [name, value] : current) {
-        if (announced_[name] != value) {
-            changed.emplace(name, value);
+    for (const std::string_view name : std::exchange(unannounced_, {})) {
+        BusValue value = state_.property(name);
+        BusValue& told = announced_[std::string(name)];
+        if (told != value) {
+            told = value;
+            changed.emplace(name, std::move(value));
         }
     }
     if (changed.empty()) {
         return;
     }
-    announced_ = std::move(current);
     sd_bus_message* message = nullptr;
     sd_bus_message_new_signal(bus_->handle(), &message, kObjectPath,
                               "org.freedesktop.DBus.Properties", "PropertiesChanged");

@@ -8,7 +8,9 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace nocturo {
@@ -72,7 +74,7 @@ class BusFace {
                             const char* property, sd_bus_message* reply, void* self,
                             sd_bus_error* error);
 
-    void announceSoon();
+    void announceSoon(const std::vector<std::string_view>& properties);
     void announce();
 
     NDAppController& controller_;
@@ -87,7 +89,7 @@ class BusFace {
     LauncherFace launcherFace_;
     std::unique_ptr<sd_bus_slot, BusRelease> object_;
     BusDictionary announced_;
-    bool announcing_ = false; // soon
+    std::set<std::string_view> unannounced_; // what may have changed, to be looked at soon
 };
 
 /// Has the application that owns its name on the bus be re-opened; false when it does not answer.

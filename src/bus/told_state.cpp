@@ -16,6 +16,7 @@
 #include "settings/settings_table.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace nocturo {
@@ -40,34 +41,56 @@ std::string toldObstacle(Obstacle obstacle) {
 
 } // namespace
 
-const std::map<std::string_view, ToldState::Read>& ToldState::properties() {
-    static const std::map<std::string_view, Read> table = {
-        {"Active", &ToldState::active},
-        {"DisplayServices", &ToldState::displayServicesName},
-        {"Displays", &ToldState::displays},
-        {"Effects", &ToldState::effects},
-        {"DimLevel", &ToldState::dimLevel},
-        {"ColorFilterHue", &ToldState::colorFilterHue},
-        {"ColorFilterVividness", &ToldState::colorFilterVividness},
-        {"Temperature", &ToldState::temperature},
-        {"AffectedScreenSet", &ToldState::affectedScreens},
-        {"HotKey", &ToldState::hotKey},
-        {"Settings", &ToldState::settings},
-        {"Disturbances", &ToldState::disturbances},
-        {"Disturber", &ToldState::disturber}};
+const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
+    static constexpr std::span<const std::string_view> kNone;
+    static constexpr std::array kEffects = {kGroupEffect};
+    static constexpr std::array kDim = {kDimLevel.key};
+    static constexpr std::array kHue = {kColorFilterHue.key};
+    static constexpr std::array kVividness = {kColorFilterVividness.key};
+    static const std::vector<std::string_view> all = [] {
+        std::vector<std::string_view> keys;
+        for (const Setting& setting : settingsTable()) {
+            keys.push_back(setting.key);
+        }
+        return keys;
+    }();
+    static const std::map<std::string_view, Property> table = {
+        {"Active", {&ToldState::active, kNone}},
+        {"DisplayServices", {&ToldState::displayServicesName, kNone}},
+        {"Displays", {&ToldState::displays, kAffectedScreenSettings}},
+        {"Effects", {&ToldState::effects, kEffects}},
+        {"DimLevel", {&ToldState::dimLevel, kDim}},
+        {"ColorFilterHue", {&ToldState::colorFilterHue, kHue}},
+        {"ColorFilterVividness", {&ToldState::colorFilterVividness, kVividness}},
+        {"Temperature", {&ToldState::temperature, kEffectSettings}},
+        {"AffectedScreenSet", {&ToldState::affectedScreens, kAffectedScreenSettings}},
+        {"HotKey", {&ToldState::hotKey, kHotKeySettings}},
+        {"Settings", {&ToldState::settings, all}},
+        {"Disturbances", {&ToldState::disturbances, kNone}},
+        {"Disturber", {&ToldState::disturber, kNone}}};
     return table;
 }
 
 BusValue ToldState::property(std::string_view name) const {
-    return (this->*properties().at(name))();
+    return (this->*properties().at(name).read)();
 }
 
-BusDictionary ToldState::allProperties() const {
-    BusDictionary all;
-    for (const auto& [name, read] : properties()) {
-        all.emplace(name, (this->*read)());
+std::vector<std::string_view> ToldState::names() {
+    std::vector<std::string_view> all;
+    for (const auto& [name, property] : properties()) {
+        all.push_back(name);
     }
     return all;
+}
+
+std::vector<std::string_view> ToldState::namesConcernedBy(const Subjects& settings) {
+    std::vector<std::string_view> concerned;
+    for (const auto& [name, property] : properties()) {
+        if (settings.containAnyOf(property.settings)) {
+            concerned.push_back(name);
+        }
+    }
+    return concerned;
 }
 
 BusValue ToldState::active() const {

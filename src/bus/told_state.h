@@ -1,8 +1,12 @@
 #pragma once
 
+#include "base/notification_center.h"
 #include "bus/bus_values.h"
 
+#include <map>
+#include <span>
 #include <string_view>
+#include <vector>
 
 namespace nocturo {
 
@@ -24,11 +28,18 @@ class ToldState {
     void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
 
     BusValue property(std::string_view name) const;
-    BusDictionary allProperties() const;
+
+    static std::vector<std::string_view> names();
+
+    /// Those that a change of these settings may change.
+    static std::vector<std::string_view> namesConcernedBy(const Subjects& settings);
 
   private:
-    using Read = BusValue (ToldState::*)() const;
-    static const std::map<std::string_view, Read>& properties();
+    struct Property {
+        BusValue (ToldState::*read)() const;
+        std::span<const std::string_view> settings; // that it is made of
+    };
+    static const std::map<std::string_view, Property>& properties();
 
     BusValue active() const;
     BusValue displayServicesName() const;
