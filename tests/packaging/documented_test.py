@@ -30,7 +30,8 @@ def words(path, pattern):
 
 
 def on_the_bus():
-    """What a running Nocturo answers: its state, the names of its effects, what it offers the bus."""
+    """What a running Nocturo answers: its state, which is that of a fresh user, the ranges of its
+    settings, the names of its effects, what it offers the bus."""
     with tempfile.TemporaryDirectory() as home:
         services = pathlib.Path(home) / "data/dbus-1/services"
         services.mkdir(parents=True)
@@ -43,14 +44,18 @@ def on_the_bus():
             "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"}
         script = ("dbus-send --session --print-reply --dest=org.freedesktop.DBus / "
                   "org.freedesktop.DBus.StartServiceByName string:org.nocturo.Nocturo uint32:0 >&2 && "
-                  "nocturoctl status --json && nocturoctl effects && "
+                  "nocturoctl reset EffectActive && nocturoctl status --json && nocturoctl effects && "
+                  # Beyond every range, which the refusal tells; nothing else takes it either.
+                  "for key in $(nocturoctl status --json | grep -o '\"[A-Z]\\w*\":' | tr -d '\":'); do "
+                  "nocturoctl set $key 1e9 2>&1 || true; done && "
                   "dbus-send --session --print-reply=literal --dest=org.nocturo.Nocturo /org/nocturo/Nocturo "
                   "org.freedesktop.DBus.Introspectable.Introspect && nocturoctl quit")
         said = say("dbus-run-session", "--", "sh", "-c", script, env=environment)
         # What the bus starts speaks through the same pipe.
         state, effects = said[said.index("{"):].split("\n", 1)
         interface = re.search(r"<node.*</node>", effects, re.DOTALL).group()
-        return json.loads(state), set(re.findall(r"\] +(\S+)", effects)), members(interface)
+        ranges = dict(re.findall(r'"(\w+)" takes a number from (\S+ to \S+)\.$', effects, re.MULTILINE))
+        return (json.loads(state), ranges, set(re.findall(r"\] +(\S+)", effects)), members(interface))
 
 
 def members(introspection):
@@ -65,7 +70,7 @@ class Documented(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.state, cls.effects, cls.members = on_the_bus()
+        cls.state, cls.ranges, cls.effects, cls.members = on_the_bus()
         cls.verbs = words_of_help = set(
             re.findall(r"^  ([a-z]+) ", say(BIN / "nocturoctl", "--help"), re.MULTILINE))
         assert {"on", "toggle", "quit"} <= words_of_help
@@ -96,6 +101,15 @@ class Documented(unittest.TestCase):
                 self.assertIn(option, path.with_name(path.name.replace("nocturoctl", "nocturo"))
                               .read_text(), shell)
 
+    def test_manual_tells_type_range_and_default_of_every_setting(self):
+        text = (SHARE / "man/man1/nocturo.1").read_text().replace("\\-", "-")
+        self.assertGreater(len(self.ranges), 2)
+        for key, value in self.state["settings"].items():
+            kind = ("True or false" if isinstance(value, bool) else "A list" if isinstance(value, list)
+                    else f"A number from {self.ranges[key]}" if key in self.ranges else "A whole number")
+            default = "empty" if value == [] else f"{value:g}" if kind.startswith("A n") else str(value).lower()
+            self.assertIn(f"\n.It Sy {key}\n{kind}, {default} by default.\n", text)
+
     def test_completions_know_every_verb_setting_and_effect(self):
         bash = COMPLETIONS["bash"].read_text()
         verbs = set(re.search(r"verbs='([^']*)'", bash).group(1).split())
@@ -104,6 +118,11 @@ class Documented(unittest.TestCase):
                          "fish")
         zsh = re.search(r"verbs=\((.*?)^\)", COMPLETIONS["zsh"].read_text(), re.M | re.S).group(1)
         self.assert_same(set(re.findall(r"'([a-z]+):", zsh)), self.verbs, "zsh")
+        switches = {key for key, value in self.state["settings"].items() if isinstance(value, bool)}
+        for shell, pattern in {"bash": r"switches='([^']*)'", "zsh": r"([\w|]+)\)\s+compadd true false",
+                               "fish": r"set -l switches (.*)"}.items():
+            listed = re.search(pattern, COMPLETIONS[shell].read_text()).group(1)
+            self.assert_same(set(re.findall(r"\w+", listed)), switches, shell)
         for shell, path in COMPLETIONS.items():
             text = set(re.findall(r"[\w-]+", path.read_text()))
             self.assertLessEqual(self.effects | set(self.state["settings"]), text, shell)
