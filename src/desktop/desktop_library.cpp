@@ -11,6 +11,7 @@
 #include <QLoggingCategory>
 #include <QSessionManager>
 
+#include <cstdlib>
 #include <utility>
 
 namespace nocturo {
@@ -20,6 +21,13 @@ namespace {
 char programName[] = "nocturo";
 char* arguments[] = {programName, nullptr};
 int argumentCount = 1;
+
+/// Qt ends the process by itself when the X server goes, if it notices before the displays do. What
+/// is to be done then; nothing once the part has gone.
+std::function<void()>& atSuddenEnd() {
+    static std::function<void()> action;
+    return action;
+}
 
 /// Qt's application, in whose loop the core's runs.
 class Application {
@@ -43,6 +51,12 @@ class QtDesktop : public DesktopPart {
     explicit QtDesktop(const DesktopSurroundings& around)
         : application_(around.loop), windows_(around.controller, around.defaults, around.centers),
           menus_(around.controller, windows_, around.recentDocuments, around.menus, around.server) {
+        atSuddenEnd() = around.serverIsLost;
+        std::atexit([] {
+            if (const auto action = std::exchange(atSuddenEnd(), nullptr)) {
+                action();
+            }
+        });
         // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
         const auto startNothing = [](QSessionManager& session) {
             session.setRestartHint(QSessionManager::RestartNever);
@@ -54,6 +68,10 @@ class QtDesktop : public DesktopPart {
                              keep();
                          });
     }
+
+    ~QtDesktop() override { atSuddenEnd() = nullptr; }
+    QtDesktop(const QtDesktop&) = delete;
+    QtDesktop& operator=(const QtDesktop&) = delete;
 
     UserInterface& windows() override { return windows_; }
     void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override {

@@ -31,6 +31,7 @@ struct DesktopSurroundings {
     AppMenus& menus;
     XConnection* server;                   // null where there is no X server
     std::function<void()> sessionIsEnding; // the time to keep what is to come back
+    std::function<void()> serverIsLost;    // Qt ends the process after it; may be none
 };
 
 /// Everything that is made of Qt, from when it is first needed until the program ends.

@@ -78,14 +78,16 @@ Result<DesktopPart*> DesktopOnDemand::load() {
     if (!library) {
         return tl::unexpected(library.error());
     }
-    choosePlatform();
+    choosePlatform(server_);
     awaitedTray_.reset(); // the part has one of its own
-    part_ = (*library)->start(
-        {loop_, controller_, defaults_, centers_, recentDocuments_, menus_, server_, [this] {
-             if (sessionIsEnding) {
-                 sessionIsEnding();
-             }
-         }});
+    part_ = (*library)->start({loop_, controller_, defaults_, centers_, recentDocuments_, menus_,
+                               server_,
+                               [this] {
+                                   if (sessionIsEnding) {
+                                       sessionIsEnding();
+                                   }
+                               },
+                               serverIsLost});
     part_->setKeyboardLayout(layout_);
     part_->setInTray(inTray_);
     part_->setItemImage(itemActive_);
@@ -178,7 +180,7 @@ std::vector<std::uint8_t> DesktopOnDemand::previewPicture(CGDirectDisplayID disp
 
 void DesktopOnDemand::showAlert(const Alert& alert,
                                 std::function<void(AlertAnswer answer)> answered) {
-    auto* part = canShowWindows() ? partOrWarning() : nullptr;
+    auto* part = canShowWindows(server_) ? partOrWarning() : nullptr;
     if (part != nullptr) {
         part->showAlert(alert, std::move(answered));
         return;
@@ -188,7 +190,7 @@ void DesktopOnDemand::showAlert(const Alert& alert,
 }
 
 void DesktopOnDemand::askToKeepColors(int secondsLeft, std::function<void(bool keep)> answered) {
-    if (!canShowWindows()) {
+    if (!canShowWindows(server_)) {
         return;
     }
     // Silent where there is none, as this comes every second.
@@ -212,7 +214,7 @@ void DesktopOnDemand::whenPointerIsReleased(std::function<void()> action) {
 }
 
 void DesktopOnDemand::showRefusedDocuments(const std::vector<std::string>& paths) {
-    auto* part = canShowWindows() ? partOrWarning() : nullptr;
+    auto* part = canShowWindows(server_) ? partOrWarning() : nullptr;
     if (part != nullptr) {
         part->showRefusedDocuments(paths);
     }

@@ -37,6 +37,10 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     /// Called when the session is about to end, if a window was ever shown.
     std::function<void()> sessionIsEnding;
 
+    /// What is to be done before Qt ends the process, as it does when it loses the X server. To be
+    /// set before anything is shown.
+    std::function<void()> serverIsLost;
+
     /// Each must outlive this or be taken away with null.
     void setXServer(XConnection* server);
     void setKeyboardLayout(KeyboardLayout* layout);

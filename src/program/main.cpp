@@ -38,24 +38,6 @@ void tellOfLostServer() {
     tell(stderr, translated("The display server has gone, so Nocturo ends."));
 }
 
-bool inEventLoop = false;
-
-/// Qt ends the process by itself when the X server goes, if it notices before the displays do.
-void endWithServer() {
-    if (inEventLoop) {
-        DefaultsStore::standardUserDefaults()->synchronize();
-        tellOfLostServer();
-    }
-}
-
-int runEventLoop(EventLoop& loop) {
-    std::atexit(endWithServer);
-    inEventLoop = true;
-    const int result = loop.run();
-    inEventLoop = false;
-    return result;
-}
-
 /// What is left to do where another Nocturo has the session.
 int endAfterHandingOver(const SessionClaim& claim, const std::vector<std::string>& documents) {
     if (!claim.problem().empty()) {
@@ -79,7 +61,9 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     const std::vector<std::string> documents = absolutePaths(options.documents);
     const SessionClaim claim(core.sessionBus.get(), directory, documents);
     if (!claim.isGranted()) {
-        finishStartup(xDisplayName(), startupIdentifier);
+        if (!startupIdentifier.empty()) {
+            finishStartup(XConnection::open(xDisplayName()).get(), startupIdentifier);
+        }
         return endAfterHandingOver(claim, documents);
     }
     SettingsKeeper keeper(core.defaults, settingsPath(), core.runLoop);
@@ -103,14 +87,18 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     }
     const ConnectedDisplays displays(std::move(*opened), core.centers);
 
+    core.desktop.serverIsLost = [&core] {
+        core.defaults.synchronize();
+        tellOfLostServer();
+    };
     DesktopSession desktop(core, displays, server.get());
     desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
-    finishStartup(xDisplayName(), startupIdentifier); // there may never be a window
+    finishStartup(server.get(), startupIdentifier); // there may never be a window
     const ProgramWatch programWatch(ownProgram(), loop, [&loop] {
         logWarning(kLogApp, "Nocturo has been removed, so it gives the displays back and ends.");
         loop.quit();
     });
-    const int result = runEventLoop(loop);
+    const int result = loop.run();
     if (result == kSuccess) {
         desktop.end();
     }

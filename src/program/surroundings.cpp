@@ -1,7 +1,7 @@
 #include "program/surroundings.h"
 
 #include "base/environment.h"
-#include "x11/xcb_handles.h"
+#include "x11/x_connection.h"
 
 #include <cstdlib>
 #include <system_error>
@@ -11,23 +11,19 @@ namespace nocturo {
 namespace {
 
 /// Whether Qt, which ends the process where it finds no desktop, has one to show windows on.
-bool hasDesktop() {
-    if (!environment("WAYLAND_DISPLAY").empty()) {
-        return true;
-    }
-    return !xDisplayName().empty() &&
-           xcb_connection_has_error(XcbConnection(xcb_connect(nullptr, nullptr)).get()) == 0;
+bool hasDesktop(const XConnection* server) {
+    return !environment("WAYLAND_DISPLAY").empty() || (server != nullptr && !server->isLost());
 }
 
 } // namespace
 
-bool canShowWindows() {
+bool canShowWindows(const XConnection* server) {
     const std::string platform = environment("QT_QPA_PLATFORM");
-    return platform.empty() ? hasDesktop() : !platform.starts_with("offscreen");
+    return platform.empty() ? hasDesktop(server) : !platform.starts_with("offscreen");
 }
 
-void choosePlatform() {
-    if (environment("QT_QPA_PLATFORM").empty() && !hasDesktop()) {
+void choosePlatform(const XConnection* server) {
+    if (environment("QT_QPA_PLATFORM").empty() && !hasDesktop(server)) {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
     }
 }

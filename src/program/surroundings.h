@@ -6,13 +6,15 @@
 
 namespace nocturo {
 
+class XConnection;
+
 // What the process finds around itself. Everything else is handed what it needs of it.
 
-/// Whether there is a desktop that windows can be shown on.
-bool canShowWindows();
+/// Whether there is a desktop that windows can be shown on; `server` is the X server, or null.
+bool canShowWindows(const XConnection* server);
 
 /// Lets Qt draw into memory where there is none. To be called before the desktop part is started.
-void choosePlatform();
+void choosePlatform(const XConnection* server);
 
 /// The X server's name; empty where there is none.
 std::string xDisplayName();

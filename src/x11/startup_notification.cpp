@@ -24,9 +24,8 @@ std::string quoted(const std::string& text) {
 
 } // namespace
 
-void finishStartup(const std::string& displayName, const std::string& startupIdentifier) {
-    const auto connection = startupIdentifier.empty() ? nullptr : XConnection::open(displayName);
-    if (connection == nullptr) {
+void finishStartup(XConnection* connection, const std::string& startupIdentifier) {
+    if (connection == nullptr || startupIdentifier.empty()) {
         return;
     }
     auto* server = connection->handle();
@@ -50,6 +49,7 @@ void finishStartup(const std::string& displayName, const std::string& startupIde
                        reinterpret_cast<const char*>(&message));
         message.type = more;
     }
+    xcb_destroy_window(server, sender);
     // A server drops what it has not read yet of a client that goes.
     connection->synchronize();
 }
