@@ -4,17 +4,15 @@
 #include "documents/effect_document_file.h"
 #include "nocturo_test.h"
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 constexpr const char* kName = "org.nocturo.Nocturo";
 constexpr const char* kPath = "/org/nocturo/Nocturo";
 constexpr const char* kApplication = "org.freedesktop.Application";
 constexpr const char* kAlert = "^Nocturo$";
 
-class Application : public NocturoOnX {
-  protected:
+struct Application : NocturoOnX {
     Application() : NocturoOnX(2) { session_.showWindows(); }
 
     bool isInverted() {
@@ -272,7 +270,3 @@ TEST_F(Application, WithoutItsLibraryItSaysWhatWindowsComeWith) {
     EXPECT_EQ(refused.errors, "nocturoctl: " + sentence);
     end();
 }
-
-} // namespace
-
-} // namespace nocturo::rig

@@ -7,13 +7,11 @@
 #include "nocturo_test.h"
 #include "rig/color_profile.h"
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 /// Calibrations and the profiles that hold them go by numbers.
-class ColorProfiles : public NocturoOnX {
-  protected:
+struct ColorProfiles : NocturoOnX {
     ColorProfiles() : NocturoOnX(2) {}
 
     void start() {
@@ -77,8 +75,7 @@ constexpr const char* kColordPath = "/org/freedesktop/ColorManager";
 constexpr const char* kDevice = "org.freedesktop.ColorManager.Device";
 constexpr const char* kScope = "normal"; // outlives the connection that made it
 
-class ColorProfilesOfColord : public ColorProfiles {
-  protected:
+struct ColorProfilesOfColord : ColorProfiles {
     // Its database is at a fixed place, so that place is another one for it.
     void SetUp() override {
         auto& bus = session_.systemBus();
@@ -203,7 +200,3 @@ TEST_F(ColorProfilesOfColord, ThatAreBrokenAreRefusedWithASentence) {
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 3) << said; // and no effect
     EXPECT_NE(said.find("_ICC_PROFILE is not used"), std::string::npos) << said;
 }
-
-} // namespace
-
-} // namespace nocturo::rig

@@ -3,16 +3,14 @@
 #include "nocturo_test.h"
 #include "x11/xcb_handles.h"
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 /// A color as an X server of 24 bits holds it.
 using Pixel = std::uint32_t;
 constexpr Pixel kDark = 0x363636; // of the image, where no color is asked for
 
-class DesktopPanels : public NocturoOnX {
-  protected:
+struct DesktopPanels : NocturoOnX {
     DesktopPanels() : NocturoOnX(2) {
         session_.showWindows();
         // Nocturo may be installed here, and its icons with it.
@@ -166,7 +164,3 @@ TEST_F(DesktopPanels, DocksTellSeveralClicksAtOnce) {
     call("EventGroup", "a(isvu)", 2, 0, "opened", "s", "", 0, 1, "clicked", "s", "", 0);
     EXPECT_TRUE(becomes("oo"));
 }
-
-} // namespace
-
-} // namespace nocturo::rig

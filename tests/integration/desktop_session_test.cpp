@@ -3,12 +3,10 @@
 #include "documents/effect_document_file.h"
 #include "nocturo_test.h"
 
-namespace nocturo::rig {
+using namespace nocturo;
+using namespace nocturo::rig;
 
-namespace {
-
-class DesktopSession : public NocturoOnX {
-  protected:
+struct DesktopSession : NocturoOnX {
     DesktopSession() : NocturoOnX(2) {
         session_.showWindows();
         succeed("cmake", {"--install", NOCTURO_BIN_DIR "/..", "--prefix", prefix_});
@@ -88,7 +86,3 @@ TEST_F(DesktopSession, WatchersHearOfChangesWhileTheLaunchAsks) {
     }));
     EXPECT_TRUE(isShown("^Nocturo$"));
 }
-
-} // namespace
-
-} // namespace nocturo::rig

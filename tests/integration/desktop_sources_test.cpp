@@ -3,9 +3,8 @@
 
 #include "nocturo_test.h"
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 constexpr const char* kMock = "org.freedesktop.DBus.Mock";
 constexpr const char* kLogin = "org.freedesktop.login1";
@@ -13,8 +12,7 @@ constexpr const char* kLoginPath = "/org/freedesktop/login1";
 constexpr const char* kLoginSession = "/org/freedesktop/login1/session/c1";
 constexpr const char* kGnome = "org.gnome.ScreenSaver";
 
-class DesktopSources : public NocturoOnX {
-  protected:
+struct DesktopSources : NocturoOnX {
     DesktopSources() : NocturoOnX(2) {}
 
     /// Leaves the effect on, inverting, with nothing that applies it again by itself.
@@ -226,7 +224,3 @@ TEST_F(DesktopSources, ALockedSessionPausesWhereNothingElseTells) {
     setGnomeActive(false);
     EXPECT_TRUE(isOn());
 }
-
-} // namespace
-
-} // namespace nocturo::rig

@@ -16,8 +16,7 @@
 #include <linux/input-event-codes.h>
 #include <poll.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 constexpr std::uint16_t kF5 = 96;
 constexpr std::uint16_t kF6 = 97;
@@ -25,8 +24,7 @@ constexpr std::uint16_t kF6 = 97;
 using Told = std::vector<std::string>; // "press 1", "release 1"
 
 /// A service that writes down what it is told, and the keyboard of a user.
-class HotKeyServiceTest : public testing::Test {
-  protected:
+struct HotKeyServiceTest : testing::Test {
     HotKeyServiceTest() {
         server.setLayout("us");
         connection = XConnection::open(server.display());
@@ -180,6 +178,3 @@ TEST_F(HotKeyServiceTest, namesKeysAsTheLayoutEngravesThemUntilTheServerIsGone) 
         EXPECT_EQ(XConnection::open(display), nullptr);
     }
 }
-
-} // namespace
-} // namespace nocturo

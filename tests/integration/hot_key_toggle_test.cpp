@@ -4,9 +4,8 @@
 
 #include <linux/input-event-codes.h>
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 using Json = nlohmann::json;
 
@@ -14,8 +13,7 @@ constexpr int kControl = XCB_MOD_MASK_CONTROL;
 constexpr int kCapsOn = XCB_MOD_MASK_LOCK;
 constexpr int kNumOn = XCB_MOD_MASK_2;
 
-class HotKeyToggle : public NocturoOnX {
-  protected:
+struct HotKeyToggle : NocturoOnX {
     HotKeyToggle() : NocturoOnX(1) {
         session_.server().setLayout("us");
         nocturo_ = session_.startNocturo();
@@ -119,7 +117,3 @@ TEST_F(HotKeyToggle, WorksWhateverIsLockedAndWhereverTheModifiersAre) {
     ASSERT_EQ(client_.modifiers(), XCB_MOD_MASK_4);
     expectToggles({KEY_LEFTMETA, KEY_F5});
 }
-
-} // namespace
-
-} // namespace nocturo::rig

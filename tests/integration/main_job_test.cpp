@@ -6,9 +6,8 @@
 
 #include <random>
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 using Json = nlohmann::json;
 
@@ -27,8 +26,7 @@ Channels ownRamp(int display) {
     return own;
 }
 
-class MainJob : public NocturoOnX {
-  protected:
+struct MainJob : NocturoOnX {
     static constexpr int kDisplays = 4;
 
     MainJob() : NocturoOnX(kDisplays) {
@@ -219,7 +217,3 @@ TEST_F(MainJob, TenThousandTogglesLeaveNoTrace) {
     ctl({"off"});
     EXPECT_TRUE(becomes("oooo")) << shown();
 }
-
-} // namespace
-
-} // namespace nocturo::rig

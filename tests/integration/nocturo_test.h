@@ -25,8 +25,7 @@ inline Channels reversed(Channels channels) {
 }
 
 /// A session whose Nocturo is told what to do as users tell it. With 0 displays it has no X server.
-class NocturoTest : public testing::Test {
-  protected:
+struct NocturoTest : testing::Test {
     explicit NocturoTest(int displays) : session_(displays) {}
 
     RunResult ctl(const std::vector<std::string>& arguments) {
@@ -65,8 +64,7 @@ class NocturoTest : public testing::Test {
 };
 
 /// The same on a real X server, whose ramps it looks at. Nocturo and its guard may be killed.
-class NocturoOnX : public NocturoTest {
-  protected:
+struct NocturoOnX : NocturoTest {
     explicit NocturoOnX(int displays) : NocturoTest(displays) {
         inheritOrphans();
         for (int display = 0; display < displays; ++display) {

@@ -6,8 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using rig::XServer;
 
@@ -72,6 +71,3 @@ TEST(RandrHardware, ListsTheLitOutputsAndReachesTheirRamps) {
     EXPECT_EQ(warnings, 1);
     EXPECT_FALSE(connection->isLost());
 }
-
-} // namespace
-} // namespace nocturo

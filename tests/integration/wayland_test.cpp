@@ -4,15 +4,13 @@
 #include "nocturo_test.h"
 #include "rig/sway.h"
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 constexpr const char* kFirst = "HEADLESS-1";
 constexpr const char* kSecond = "HEADLESS-2";
 
-class Wayland : public NocturoTest {
-  protected:
+struct Wayland : NocturoTest {
     Wayland() : NocturoTest(0) {}
     void SetUp() override {
         if (const std::string why = Sway::whyMissing(); !why.empty()) {
@@ -88,7 +86,3 @@ TEST_F(Wayland, EndsWithTheCompositorAndKeepsTheSettings) {
     EXPECT_NE(nocturo_->errors().find("The display server has gone"), std::string::npos);
     EXPECT_NE(readText(session_.settingsFile()).find("NDDimEffect"), std::string::npos);
 }
-
-} // namespace
-
-} // namespace nocturo::rig

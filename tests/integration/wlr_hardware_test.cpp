@@ -6,8 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using rig::Sway;
 using rig::waitUntil;
@@ -71,6 +70,3 @@ TEST(WlrHardware, WritesRampsOfTheOutputsOwnSizeAndGivesTheOutputUpAfterwards) {
         }
     }
 }
-
-} // namespace
-} // namespace nocturo

@@ -8,15 +8,13 @@
 #include <QDialog>
 #include <QTextBlock>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 BundleInformation bundle(PropertyDictionary values) {
     return {std::move(values), "/opt/moon"};
 }
 
-class AboutBox : public testing::Test {
-  protected:
+struct AboutBox : testing::Test {
     AboutBox() {
         writeText(directory / "Credits.html",
                   "<meta charset='iso-8859-1'><p style='font-family:Lucida Grande'>Caf\xe9</p>"
@@ -77,8 +75,5 @@ TEST_F(AboutBox, OpensWebLinksAloneOutside) {
     EXPECT_EQ(recorder.opened, QStringList("https://a/"));
     EXPECT_EQ(text(0), "Moon");
 }
-
-} // namespace
-} // namespace nocturo
 
 #include "about_box_test.moc"

@@ -1,42 +1,21 @@
 // What the application does at its launch, with its settings and when the desktop tells it
 // something.
 
-#include "app/app_controller.h"
-
-#include "app/desktop_face.h"
 #include "app/disturbance_watch.h"
 #include "app/flux_check.h"
 #include "app/user_interface.h"
 #include "app/wake_repeater.h"
-#include "base/notification_names.h"
-#include "display_services_fixture.h"
-#include "displays/affected_screen_set.h"
-#include "fake_run_loop.h"
-#include "hotkeys/hot_key_center.h"
-#include "hotkeys/hot_key_service.h"
+#include "controller_fixture.h"
 #include "session/installed_applications.h"
-#include "settings/defaults_store.h"
 
-#include <gmock/gmock.h>
-
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// An application controller over three displays in memory, with the invert effect selected.
-class AppController : public DisplayServicesFixture {
-  protected:
-    void SetUp() override {
-        for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
-            hardware_.add("D" + std::to_string(crtc), crtc);
-        }
-        start();
-        NDEffect::setUserDefaults(store_);
-        store_->setObject(PropertyArray{std::string("NDInvertEffect")}, "NDGroupEffect");
-    }
-    void TearDown() override { NDEffect::setUserDefaults(nullptr); }
+/// An application controller over three displays, with the invert effect selected.
+struct AppController : ControllerFixture {
+    AppController() : ControllerFixture(3) { chooseEffects({"NDInvertEffect"}); }
 
     /// One letter per CRTC: i inverted, o its own ramp.
     std::string shown() const {
@@ -46,18 +25,16 @@ class AppController : public DisplayServicesFixture {
         }
         return letters;
     }
-
-    NotificationCenter center_;
-    NotificationCenter workspace_;
-    NotificationCenter distributed_;
-    NotificationCenters centers_{center_, workspace_, distributed_};
-    std::shared_ptr<DefaultsStore> store_ = std::make_shared<DefaultsStore>(center_);
-    FakeRunLoop runLoop_;
-    NDAppController controller_{*store_, centers_, runLoop_};
+    /// The displays lose the effect, as after a driver's reset.
+    void resetRamps() {
+        for (auto& [crtc, ramp] : hardware_.ramps) {
+            ramp = identityRamp(256);
+        }
+    }
 };
 
 /// Everything that the launch has to do with: windows, alerts and what is installed.
-struct Surroundings : UserInterface, DesktopFace, InstalledApplications {
+struct Surroundings : UserInterface, BlindDesktop, InstalledApplications {
     void showPreferences() override { log.emplace_back("preferences"); }
     void showAboutBox() override { log.emplace_back("about"); }
     void setAboutBoxBackgroundColor(const OpaqueColor& color) override {
@@ -76,17 +53,12 @@ struct Surroundings : UserInterface, DesktopFace, InstalledApplications {
         whileAsking();
         answered(answer);
     }
-    void askToKeepColors(int /*secondsLeft*/,
-                         std::function<void(bool keep)> /*answered*/) override {}
-    void withdrawKeepColors() override {}
-    void whenPointerIsReleased(std::function<void()> action) override { action(); }
     void setActivateItemTitles(bool active) override { log.emplace_back(active ? "on" : "off"); }
     void setStatusItemShown(bool shown) override { log.emplace_back(shown ? "item" : "no item"); }
     void setStatusItemImage(bool active) override {
         log.emplace_back(active ? "image on" : "image off");
     }
     void makeScreenMenus() override { log.emplace_back("screen menus"); }
-    void showRefusedDocuments(const std::vector<std::string>& /*paths*/) override {}
 
     std::optional<InstalledApplication>
     applicationWithBundleIdentifier(std::string_view identifier) const override {
@@ -101,8 +73,7 @@ struct Surroundings : UserInterface, DesktopFace, InstalledApplications {
     std::vector<std::string> log;
 };
 
-class Launch : public AppController {
-  protected:
+struct Launch : AppController {
     Launch() {
         controller_.setUserInterface(&around_);
         controller_.setDesktopFace(&around_);
@@ -131,7 +102,7 @@ TEST_F(Launch, GoesStepByStep) {
         controller_.updateStatusItem(); // not yet
         controller_.warnIfNoEffects();  // not a second time
     };
-    store_->setObject(PropertyArray{}, "NDGroupEffect");
+    chooseEffects({});
     store_->setInteger(1, "ShowStatusItem");
     center_.addObserver(this, NSUserDefaultsDidChangeNotification, [&] {
         around_.log.emplace_back(store_->boolForKey("EffectActive") ? "saved on" : "saved");
@@ -174,29 +145,30 @@ TEST_F(Launch, TouchesNothingBeforeTheUserContinuesWithFlux) {
 }
 
 TEST_F(AppController, WritesADisplayOnlyWhenAndAsOftenAsItLooksDifferent) {
+    using Times = std::map<std::uint32_t, int>; // by CRTC
     const auto writes = [&](const std::function<void()>& act) {
         hardware_.writes.clear();
         act();
-        std::map<std::uint32_t, int> each;
+        Times each;
         for (const auto& [crtc, ramp] : hardware_.writes) {
             ++each[crtc];
         }
         return each;
     };
-    const std::map<std::uint32_t, int> none;
-    const std::map<std::uint32_t, int> once{{1, 1}, {2, 1}, {3, 1}};
+    const Times none;
+    const Times once{{1, 1}, {2, 1}, {3, 1}};
     NDAppController savedOff(*store_, centers_, runLoop_);
     store_->setBool(false, "ActivateAtLaunch");
     EXPECT_EQ(writes([&] { savedOff.applicationDidFinishLaunching(); }), none);
     hardware_.ramps[2] = colors(1); // by somebody else, while nothing is on
-    EXPECT_EQ(writes([&] { savedOff.setEffectActive(false, true); }), (decltype(none){{2, 1}}));
+    EXPECT_EQ(writes([&] { savedOff.setEffectActive(false, true); }), (Times{{2, 1}}));
 
     store_->setBool(true, "ActivateAtLaunch");
     EXPECT_EQ(writes([&] { controller_.applicationDidFinishLaunching(); }), once);
     EXPECT_EQ(writes([&] { store_->setFloat(0.25F, "NDDimEffectLevel"); }), once);
     EXPECT_EQ(writes([&] {
                   const DefaultsStore::Batch document(*store_);
-                  store_->setObject(PropertyArray{std::string("NDDimEffect")}, "NDGroupEffect");
+                  chooseEffects({"NDDimEffect"});
                   store_->setFloat(0.5F, "NDDimEffectLevel");
                   store_->setFloat(90, "NDColorFilterEffectHue");
               }),
@@ -242,34 +214,6 @@ TEST_F(AppController, AppliesAgainEverySixSecondsWhileAskedTo) {
     EXPECT_EQ(runLoop_.pendingTimers(), 0U);
 }
 
-struct ClaimCounter : HotKeyService {
-    std::optional<HotKeyHandle> registerHotKey(std::uint16_t /*keyCode*/,
-                                               std::uint32_t /*modifiers*/,
-                                               EventHotKeyID /*hotKeyID*/) override {
-        ++claims;
-        return HotKeyHandle{1};
-    }
-    void unregisterHotKey(HotKeyHandle /*handle*/) override { --claims; }
-    void setHandlers(Handler /*released*/, Handler /*pressed*/) override {}
-
-    int claims = 0;
-};
-
-TEST_F(AppController, ClaimsNoHotKeyWhileOneIsRecorded) {
-    ClaimCounter service;
-    HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(&service);
-    store_->setInteger(96, "HotKeyCode");
-    store_->setBool(true, "UseHotKey");
-    controller_.updateHotKey();
-    EXPECT_EQ(service.claims, 1);
-    controller_.setRecordingHotKey(true);
-    controller_.updateHotKey(); // whatever changed meanwhile
-    EXPECT_EQ(service.claims, 0);
-    controller_.setRecordingHotKey(false);
-    EXPECT_EQ(service.claims, 1);
-    HXHotKeyCenter::sharedHotKeyCenter().setHotKeyService(nullptr);
-}
-
 TEST_F(AppController, AffectedScreenSetReadsEitherKey) {
     using Set = std::vector<double>;
     const auto read = [&](const PropertyValue& set, std::int64_t older) {
@@ -282,40 +226,29 @@ TEST_F(AppController, AffectedScreenSetReadsEitherKey) {
     EXPECT_EQ(read(noArray, 5), Set{5});
     EXPECT_EQ(read(PropertyArray{3LL, 1LL, 3LL}, 5), (Set{1, 3, 3}));
     EXPECT_EQ(read(PropertyArray{}, 5), Set{});
-    EXPECT_EQ(read(PropertyArray{1LL, std::string("x")}, 5), Set{5});
+    EXPECT_EQ(read(PropertyArray{1LL, "x"}, 5), Set{5});
     EXPECT_EQ(read(PropertyArray{1LL, true}, 5), Set{5});
     EXPECT_EQ(read(noArray, std::int64_t{1} << 32), Set{});
     EXPECT_EQ(read(noArray, 0xFFFFFFFF), Set{-1}); // signed storage: never equals a display
 }
 
-class DesktopEvents : public AppController {
-  protected:
-    /// The displays lose the effect, as after a driver's reset.
-    void resetRamps() {
-        for (auto& [crtc, ramp] : hardware_.ramps) {
-            ramp = identityRamp(256);
-        }
-    }
-    std::string afterSaver(const char* what) {
+TEST_F(AppController, TheUserHasTheLastWordOverTheScreenSaver) {
+    const auto afterSaver = [&](const char* what) {
         distributed_.post(std::string("com.apple.screensaver.did") + what);
         return shown();
-    }
-    bool saved() const { return store_->boolForKey("EffectActive"); }
-};
-
-TEST_F(DesktopEvents, TheUserHasTheLastWordOverTheScreenSaver) {
+    };
     controller_.applicationDidFinishLaunching();
     EXPECT_EQ(afterSaver("stop"), "iii");     // of one that nobody saw start
     controller_.setEffectActive(true, false); // a second registration
     EXPECT_EQ(afterSaver("start"), "ooo");
     controller_.toggleGlobalEffect();
     controller_.toggleGlobalEffect();
-    EXPECT_FALSE(saved());
+    EXPECT_FALSE(store_->boolForKey("EffectActive"));
     EXPECT_EQ(afterSaver("stop"), "ooo");
     EXPECT_EQ(afterSaver("start") + afterSaver("stop"), "oooooo"); // nothing to resume
 }
 
-TEST_F(DesktopEvents, AModeChangeIsAnsweredAtOnceAndOnceMore) {
+TEST_F(AppController, AModeChangeIsAnsweredAtOnceAndOnceMore) {
     controller_.applicationDidFinishLaunching();
     resetRamps();
     callReconfigurationCallbacks({{id(0)}, false, {}});
@@ -327,7 +260,7 @@ TEST_F(DesktopEvents, AModeChangeIsAnsweredAtOnceAndOnceMore) {
     EXPECT_EQ(shown(), "iii");
 }
 
-TEST_F(DesktopEvents, ColorProfilesAreFollowedUntilTheFirstSwitchOff) {
+TEST_F(AppController, ColorProfilesAreFollowedUntilTheFirstSwitchOff) {
     controller_.applicationDidFinishLaunching();
     resetRamps();
     distributed_.post("NSScreenColorSpaceDidChangeNotification");
@@ -339,7 +272,7 @@ TEST_F(DesktopEvents, ColorProfilesAreFollowedUntilTheFirstSwitchOff) {
     EXPECT_EQ(shown(), "ooo");
 }
 
-TEST_F(DesktopEvents, AWakeIsFollowedByAFewLateReapplications) {
+TEST_F(AppController, AWakeIsFollowedByAFewLateReapplications) {
     store_->setBool(false, "ContinuouslyApply");
     controller_.applicationDidFinishLaunching();
     const WakeRepeater repeater(controller_, centers_, runLoop_);
@@ -358,7 +291,7 @@ TEST_F(DesktopEvents, AWakeIsFollowedByAFewLateReapplications) {
     EXPECT_EQ(runLoop_.pendingTimers(), 0U);
 }
 
-TEST_F(DesktopEvents, OverwrittenRampsAreCounted) {
+TEST_F(AppController, OverwrittenRampsAreCounted) {
     std::function<void(const std::string&)> answer;
     DisturbanceWatch watch(controller_, center_, [&](auto reply) { answer = std::move(reply); });
     controller_.applicationDidFinishLaunching();
@@ -372,24 +305,21 @@ TEST_F(DesktopEvents, OverwrittenRampsAreCounted) {
 
     // What is done between the ticks by ourselves, or to a display that is not there or not
     // affected, disturbs nobody.
-    store_->setObject(PropertyArray{std::string("NDDimEffect")}, "NDGroupEffect");
+    chooseEffects({"NDDimEffect"});
     hardware_.remove("D2");
     hardware_.ramps[2] = Ramp(256);
     chooseAffectedScreen(*store_, static_cast<std::int32_t>(id(0)));
-    const Ramp another = hardware_.ramps[3] = colors(5);
+    hardware_.ramps[3] = colors(5);
     runLoop_.advance(6000);
     EXPECT_EQ(watch.count(), 1U);
-    EXPECT_EQ(hardware_.ramps[3], another);
+    EXPECT_EQ(hardware_.ramps[3], colors(5));
 }
 
-TEST_F(DesktopEvents, HardwareThatKeepsFewerBitsIsNoDisturbance) {
+TEST_F(AppController, HardwareThatKeepsFewerBitsIsNoDisturbance) {
     hardware_.keptBits = 0xFFC0;
     const DisturbanceWatch watch(controller_, center_, [](const auto&) {});
-    store_->setObject(PropertyArray{std::string("NDDimEffect")}, "NDGroupEffect");
+    chooseEffects({"NDDimEffect"});
     controller_.applicationDidFinishLaunching();
     runLoop_.advance(60000);
     EXPECT_EQ(watch.count(), 0U);
 }
-
-} // namespace
-} // namespace nocturo

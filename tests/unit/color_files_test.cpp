@@ -14,8 +14,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 Ramp countingRamp(std::uint32_t size, std::uint16_t first) {
     Ramp ramp(size);
@@ -143,6 +142,3 @@ TEST(ColorProfile, OnlyRegularFilesOfASensibleSizeAreRead) {
         EXPECT_NE(file.error().text, "") << path;
     }
 }
-
-} // namespace
-} // namespace nocturo

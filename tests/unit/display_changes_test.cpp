@@ -6,8 +6,7 @@
 
 #include <gmock/gmock.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -37,8 +36,7 @@ struct FakeCalibrations : CalibrationSource {
     std::uint64_t lastGeneration = 1;
 };
 
-class DisplayChangesTest : public DisplayServicesFixture {
-  protected:
+struct DisplayChangesTest : DisplayServicesFixture {
     DisplayChangesTest() {
         add("A", 1, colors(1));
         add("B", 2, colors(2));
@@ -221,6 +219,3 @@ TEST_F(DisplayChangesTest, TheHardwareIsToldWhatToGiveBackBeforeAnyWrite) {
     EXPECT_EQ(hardware_.kept[2], colors(7));
     EXPECT_EQ(hardware_.kept[1], colors(7)); // still dark with A's effect in it
 }
-
-} // namespace
-} // namespace nocturo

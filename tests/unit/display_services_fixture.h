@@ -4,16 +4,11 @@
 #include "displays/ramp_display_services.h"
 #include "displays/screen_controller.h"
 #include "effects/invert_effect.h"
-
-#include <gtest/gtest.h>
+#include "settings_fixture.h"
 
 #include <algorithm>
 #include <functional>
 #include <map>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace nocturo {
 
@@ -54,6 +49,13 @@ class FakeGammaHardware : public GammaHardware {
         }
         ++generation;
     }
+    /// Heads D1, D2 and so on, each with the CRTC of its number, until there are that many.
+    void addUpTo(std::uint32_t count) {
+        while (heads.size() < count) {
+            const auto crtc = static_cast<std::uint32_t>(heads.size()) + 1;
+            add("D" + std::to_string(crtc), crtc);
+        }
+    }
     /// Sets the same mode again.
     void setMode(const std::string& connector) {
         for (Head& head : heads) {
@@ -86,9 +88,8 @@ class FakeGammaHardware : public GammaHardware {
     bool writeRamp(std::uint32_t crtc, const Ramp& ramp) override {
         Ramp& shown = ramps[crtc] = ramp;
         for (auto* channel : {&shown.red, &shown.green, &shown.blue}) {
-            for (std::uint16_t& entry : *channel) {
-                entry &= keptBits;
-            }
+            std::for_each(channel->begin(), channel->end(),
+                          [&](auto& entry) { entry &= keptBits; });
         }
         writes.emplace_back(crtc, ramp);
         writesNotProvidedFor += kept.count(crtc) == 0 ? 1 : 0;
@@ -110,8 +111,7 @@ class FakeGammaHardware : public GammaHardware {
 };
 
 /// Display services over hardware in memory.
-class DisplayServicesFixture : public testing::Test {
-  protected:
+struct DisplayServicesFixture : SettingsFixture {
     ~DisplayServicesFixture() override { setDisplayServices(nullptr); }
 
     /// Starts the services on what the hardware shows now.

@@ -14,8 +14,7 @@
 
 #include <sys/stat.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist "
                                    "version=\"1.0\">";
@@ -240,8 +239,7 @@ TEST(PropertyListTest, RefusesBinaryListsThatAreDamaged) {
 
 const EffectDocument kEverything{true, true, true, true, 359.9F, 0.1F, true, -1.0F / 3.0F};
 
-class EffectDocumentTest : public testing::Test {
-  protected:
+struct EffectDocumentTest : testing::Test {
     /// A document of that format and those other entries.
     std::optional<EffectDocument> reading(const std::string& format,
                                           const std::string& entries = "") const {
@@ -329,6 +327,3 @@ TEST_F(EffectDocumentTest, IsReplacedAsAWholeOrNotAtAll) {
     EXPECT_EQ(readEffectDocument(path), kEverything);
     EXPECT_THAT(namesIn(home.path()), testing::ElementsAre("evening.nocturo"));
 }
-
-} // namespace
-} // namespace nocturo

@@ -1,39 +1,20 @@
-#include "base/notification_center.h"
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
 #include "effects/effect_choices.h"
-#include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
 #include "effects/invert_effect.h"
 #include "expected/expected_curves.h"
-#include "settings/defaults_store.h"
-
-#include <gtest/gtest.h>
+#include "settings_fixture.h"
 
 #include <algorithm>
 #include <bit>
 #include <cmath>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
-class Effects : public testing::Test {
-  protected:
-    void SetUp() override { NDEffect::setUserDefaults(store_); }
-    void TearDown() override { NDEffect::setUserDefaults(nullptr); }
-
-    void select(std::initializer_list<const char*> names) {
-        PropertyArray array;
-        for (const char* name : names) {
-            array.emplace_back(std::string(name));
-        }
-        store_->setObject(std::move(array), "NDGroupEffect");
-    }
-
-    NotificationCenter center_;
-    std::shared_ptr<DefaultsStore> store_ = std::make_shared<DefaultsStore>(center_);
+struct Effects : SettingsFixture {
     NDGroupEffect group_;
 };
 
@@ -99,8 +80,8 @@ TEST_F(Effects, AGroupAppliesItsEffectsByPriorityWhateverTheirOrder) {
     NDColorFilterEffect::setHue(200.5F);
     NDColorFilterEffect::setVividness(0.7F);
     // Names without an effect and the group itself are passed over.
-    select({"NDHDTVLuminanceEffect", "NDColorFilterEffect", "NDNoSuchEffect", "NDDimEffect",
-            "NDGroupEffect", "NDHideStripesEffect", "NDInvertEffect"});
+    chooseEffects({"NDHDTVLuminanceEffect", "NDColorFilterEffect", "NDNoSuchEffect", "NDDimEffect",
+                   "NDGroupEffect", "NDHideStripesEffect", "NDInvertEffect"});
     check(NDGroupEffect(), expected::plain, expected::allFive);
     ZQGammaCurve curve = curveFrom(expected::plain);
     group_.applyEffectOnGammaCurve(&curve); // the form without a time does nothing
@@ -118,7 +99,7 @@ TEST_F(Effects, TheSelectionLivesInTheStore) {
     EXPECT_EQ(group_.effectCount(), 0U);
 
     // A duplicate can only come from an edited file; the entry behind a removed one is skipped.
-    select({"NDDimEffect", "NDDimEffect", "NDInvertEffect"});
+    chooseEffects({"NDDimEffect", "NDDimEffect", "NDInvertEffect"});
     group_.removeEffect("NDDimEffect");
     EXPECT_EQ(group_.effectCount(), 2U);
     EXPECT_TRUE(group_.containsEffect("NDDimEffect"));
@@ -156,7 +137,7 @@ TEST_F(Effects, EveryTemperatureIsAColorOfTheFilterToTheLastStep) {
 }
 
 TEST_F(Effects, ATemperatureIsOneChangeOfTheFilterAndStepsGoFromWhatIsInForce) {
-    select({});
+    chooseEffects({});
     int changes = 0;
     center_.addObserver(this, NSUserDefaultsDidChangeNotification, [&] { ++changes; });
     EXPECT_FALSE(filterTemperature()); // pure red
@@ -186,6 +167,3 @@ TEST_F(Effects, AFilterThatWasNeverSetIsOfferedAGentleTint) {
         EXPECT_FALSE(filterTemperature()) << key;
     }
 }
-
-} // namespace
-} // namespace nocturo

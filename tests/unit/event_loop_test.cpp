@@ -14,9 +14,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace nocturo {
-
-namespace {
+using namespace nocturo;
 
 using namespace std::chrono_literals;
 using std::chrono::steady_clock;
@@ -170,7 +168,3 @@ TEST(EventLoop, RunsInsideAnotherLoopThatAddsToItBetweenItsRounds) {
     EXPECT_EQ(loop.run(), 3);
     EXPECT_TRUE(fired);
 }
-
-} // namespace
-
-} // namespace nocturo

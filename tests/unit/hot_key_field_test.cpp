@@ -8,8 +8,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 struct FakeLayout : KeyboardLayout {
     std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t) override {
@@ -28,8 +27,7 @@ constexpr Key kF5{Qt::Key_F5, 71};
 constexpr Key kReturn{Qt::Key_Return, 36, "\r"};
 constexpr Key kEscape{Qt::Key_Escape, 9, "\x1b"};
 
-class HotKeyField : public testing::Test {
-  protected:
+struct HotKeyField : testing::Test {
     HotKeyField() {
         auto* box = new QVBoxLayout(&window);
         for (QLineEdit* widget :
@@ -168,6 +166,3 @@ TEST_F(HotKeyField, EndsHoweverTheFieldIsLeft) {
     delete field; // before the key is up
     EXPECT_EQ(said, "edited ended ");
 }
-
-} // namespace
-} // namespace nocturo

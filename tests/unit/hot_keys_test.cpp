@@ -11,8 +11,7 @@
 
 #include <map>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -149,8 +148,7 @@ struct RecordingTarget : ActionTarget {
     std::shared_ptr<void> lastObject;
 };
 
-class HotKeyCenter : public testing::Test {
-  protected:
+struct HotKeyCenter : testing::Test {
     HotKeyCenter() { center.setHotKeyService(&service); }
     ~HotKeyCenter() override {
         center.setHotKeyService(nullptr);
@@ -216,6 +214,3 @@ TEST(SavedHotKey, IsNoneOnlyWhenBothNumbersSayNothing) {
     EXPECT_EQ(saved(0, 0x100000)->modifierFlags(), 0x100000U);
     EXPECT_EQ(saved(-1, -1)->modifierFlags(), ~0ULL);
 }
-
-} // namespace
-} // namespace nocturo

@@ -22,14 +22,12 @@
 
 #include <optional>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class RecentlyOpened : public testing::Test {
-  protected:
+struct RecentlyOpened : testing::Test {
     std::string document(const std::string& name) {
         writeText(directory / name, "anything");
         return directory / name;
@@ -89,8 +87,7 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     EXPECT_THAT(documents.paths(), IsEmpty());
 }
 
-class ScreenOptionMenu : public DisplayServicesFixture {
-  protected:
+struct ScreenOptionMenu : DisplayServicesFixture {
     ScreenOptionMenu() {
         for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
             hardware_.add("D" + std::to_string(crtc), crtc);
@@ -252,6 +249,3 @@ TEST(TaskbarPresence, HidesWindowsThatNoTaskBarBringsBack) {
     window.setWindowState(Qt::WindowMinimized);
     EXPECT_TRUE(window.isVisible());
 }
-
-} // namespace
-} // namespace nocturo

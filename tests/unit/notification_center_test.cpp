@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 TEST(NotificationCenter, ObserversComeAndGoWhileOthersAreTold) {
     NotificationCenter center;
@@ -27,6 +26,3 @@ TEST(NotificationCenter, ObserversComeAndGoWhileOthersAreTold) {
     center.post("outer");
     EXPECT_EQ(told, "(i)()new");
 }
-
-} // namespace
-} // namespace nocturo

@@ -19,11 +19,9 @@
 #include <bit>
 #include <limits>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
-class ParameterRow : public testing::Test {
-  protected:
+struct ParameterRow : testing::Test {
     ParameterRow() {
         auto* box = new QVBoxLayout(&window);
         auto* label = new QLabel("&Dim:");
@@ -223,6 +221,3 @@ TEST(EffectPreview, IsDescribedInWords) {
               "bright tones clipped");
     EXPECT_EQ(heard({}), "Screen 1: The colors of this screen cannot be changed.");
 }
-
-} // namespace
-} // namespace nocturo

@@ -27,13 +27,11 @@
 #include <QTest>
 #include <QUrl>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using testing::ElementsAre;
 
-class PreferencesWindow : public DisplayServicesFixture {
-  protected:
+struct PreferencesWindow : DisplayServicesFixture {
     PreferencesWindow() {
         NDEffect::setUserDefaults(store);
         NDGroupEffect::initialize();
@@ -188,8 +186,7 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained)
         "hotKeyField showInTaskBar previewDisplay openButton saveButton closeButton");
 }
 
-class EffectDocuments : public PreferencesWindow {
-  protected:
+struct EffectDocuments : PreferencesWindow {
     QString path(const char* name) const { return QString::fromStdString(directory / name); }
     QString written(const EffectDocument& content) const {
         EXPECT_TRUE(writeEffectDocument(directory / "a.nocturo", content));
@@ -310,6 +307,3 @@ TEST_F(PreferencesWindow, TheQuestionAboutColorsStandsOverIt) {
     EXPECT_EQ(sheet(), nullptr);
     EXPECT_EQ(answers, (std::vector{false, true, false}));
 }
-
-} // namespace
-} // namespace nocturo

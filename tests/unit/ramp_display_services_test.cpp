@@ -8,8 +8,7 @@
 #include <limits>
 #include <numeric>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 TEST(Ramp, EverySixteenBitValueSurvivesReadingAndWriting) {
     std::vector<std::uint16_t> channel(65536);
@@ -214,6 +213,3 @@ TEST(DisplayIdentifiers, TwinsTakeNeighboursAndKeepThem) {
     EXPECT_EQ(identify(identifiers, {{"DP-3", edid(9, 9)}, {"DP-2", twin}, {"DP-1", twin}})[2],
               both[0]);
 }
-
-} // namespace
-} // namespace nocturo

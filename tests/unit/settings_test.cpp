@@ -13,16 +13,14 @@
 #include <cstdlib>
 #include <limits>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using Keys = PropertyDictionary;
 
-class DefaultsStoreTest : public testing::Test {
-  protected:
+struct DefaultsStoreTest : testing::Test {
     NotificationCenter center;
     DefaultsStore store{center};
 };
@@ -104,8 +102,7 @@ TEST_F(DefaultsStoreTest, TellsWhichKeysChangedAndABatchAllOfThemAtOnce) {
     EXPECT_THAT(told, ElementsAre("a---", "-bc-", "-bcd", "abcd"));
 }
 
-class SettingsKeeperTest : public DefaultsStoreTest {
-  protected:
+struct SettingsKeeperTest : DefaultsStoreTest {
     SettingsKeeperTest() {
         setLogSink([this](LogLevel level, std::string_view, std::string_view sentence) {
             if (level == LogLevel::warning) {
@@ -345,6 +342,3 @@ TEST_F(SettingsKeeperTest, AFileThatCannotBeReadIsNeverWrittenOver) {
     EXPECT_TRUE(store.synchronize());
     EXPECT_EQ(onDisk(), (Keys{{"mine", true}, {"theirs", true}}));
 }
-
-} // namespace
-} // namespace nocturo

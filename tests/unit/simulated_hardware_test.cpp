@@ -9,8 +9,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 /// Red is reversed, green halved, blue squared: each channel tells a swap from the other two.
 Ramp threeCurves() {
@@ -53,6 +52,3 @@ TEST(SimulatedHardware, PicturesShowTheTestCardThroughEachRamp) {
     }
     EXPECT_EQ(wrong, 0);
 }
-
-} // namespace
-} // namespace nocturo

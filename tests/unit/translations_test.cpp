@@ -9,8 +9,7 @@
 
 #include <array>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 TEST(UsersLanguage, IsTheFirstThatThereAreTextsFor) {
     const auto chosen = [](const char* wanted) {
@@ -74,6 +73,3 @@ TEST(InstalledTranslations, AreThoseOfTheEnvironment) {
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight)
         << "texts in German are not to be mirrored because Arabic was wished for first";
 }
-
-} // namespace
-} // namespace nocturo
