@@ -105,14 +105,6 @@ CASES = {
 }
 
 
-def literals(values, width):
-    values = list(values)
-    return "\n".join(
-        "     " + "".join(f" {v}," for v in values[i:i + width])
-        for i in range(0, len(values), width)
-    )
-
-
 def main():
     # A ramp as real servers have it, not quite reaching full, with a different one for blue.
     ramp = [[256 * i for i in range(SIZE)] for _ in range(2)]
@@ -120,20 +112,18 @@ def main():
     own = [[single(Fraction(entry, 65535)) for entry in channel] for channel in ramp]
     print("#pragma once\n\n#include <array>\n#include <cstdint>\n")
     print("namespace nocturo::expected {\n")
-    print("struct Curve {")
-    print("    std::array<std::array<std::uint32_t, 256>, 3> singles;")
-    print("    std::array<std::array<std::uint16_t, 256>, 3> ramp;")
-    print("};\n")
+    print("struct Curve {\n    std::array<std::array<std::uint32_t, 256>, 3> singles;")
+    print("    std::array<std::array<std::uint16_t, 256>, 3> ramp;\n};\n")
     for name, steps in CASES.items():
         curve = own
         for step in steps:
             curve = step(curve)
         print(f"inline constexpr Curve {name} = {{{{{{")
         for channel in curve:
-            print("    {{\n" + literals(map(bits, channel), 8) + "\n    }},")
+            print("    {{", ", ".join(map(str, map(bits, channel))), "}},")
         print("}}, {{")
         for channel in curve:
-            print("    {{\n" + literals(map(ramp_entry, channel), 12) + "\n    }},")
+            print("    {{", ", ".join(map(str, map(ramp_entry, channel))), "}},")
         print("}}};\n")
     print("} // namespace nocturo::expected")
 

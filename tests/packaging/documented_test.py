@@ -75,9 +75,6 @@ class Documented(unittest.TestCase):
             re.findall(r"^  ([a-z]+) ", say(BIN / "nocturoctl", "--help"), re.MULTILINE))
         assert {"on", "toggle", "quit"} <= words_of_help
 
-    def assert_same(self, found, expected, where):
-        self.assertEqual(found, expected, where)
-
     def test_the_bus_is_offered_what_the_contract_says(self):
         contract = pathlib.Path(__file__).parents[2] / "src/bus/org.nocturo.Nocturo1.xml"
         self.assertEqual(self.members, members(contract.read_text()))
@@ -85,7 +82,7 @@ class Documented(unittest.TestCase):
 
     def test_manual_of_nocturoctl_tells_of_every_verb(self):
         found = words(SHARE / "man/man1/nocturoctl.1", r"^\.It Ic ([a-z]+)")
-        self.assert_same(found, self.verbs, "nocturoctl.1")
+        self.assertEqual(found, self.verbs, "nocturoctl.1")
 
     def test_manual_of_nocturo_tells_of_every_setting_effect_and_option(self):
         manual = SHARE / "man/man1/nocturo.1"
@@ -113,16 +110,16 @@ class Documented(unittest.TestCase):
     def test_completions_know_every_verb_setting_and_effect(self):
         bash = COMPLETIONS["bash"].read_text()
         verbs = set(re.search(r"verbs='([^']*)'", bash).group(1).split())
-        self.assert_same(verbs, self.verbs, "bash")
-        self.assert_same(words(COMPLETIONS["fish"], r"__fish_use_subcommand -a ([a-z]+)"), self.verbs,
+        self.assertEqual(verbs, self.verbs, "bash")
+        self.assertEqual(words(COMPLETIONS["fish"], r"__fish_use_subcommand -a ([a-z]+)"), self.verbs,
                          "fish")
         zsh = re.search(r"verbs=\((.*?)^\)", COMPLETIONS["zsh"].read_text(), re.M | re.S).group(1)
-        self.assert_same(set(re.findall(r"'([a-z]+):", zsh)), self.verbs, "zsh")
+        self.assertEqual(set(re.findall(r"'([a-z]+):", zsh)), self.verbs, "zsh")
         switches = {key for key, value in self.state["settings"].items() if isinstance(value, bool)}
         for shell, pattern in {"bash": r"switches='([^']*)'", "zsh": r"([\w|]+)\)\s+compadd true false",
                                "fish": r"set -l switches (.*)"}.items():
             listed = re.search(pattern, COMPLETIONS[shell].read_text()).group(1)
-            self.assert_same(set(re.findall(r"\w+", listed)), switches, shell)
+            self.assertEqual(set(re.findall(r"\w+", listed)), switches, shell)
         for shell, path in COMPLETIONS.items():
             text = set(re.findall(r"[\w-]+", path.read_text()))
             self.assertLessEqual(self.effects | set(self.state["settings"]), text, shell)

@@ -42,23 +42,22 @@ std::uint8_t serverKey(int key) {
 } // namespace
 
 XClient::XClient(const std::string& display) : connection_(xcb_connect(display.c_str(), nullptr)) {
-    auto* raw = connection_.get();
-    if (xcb_connection_has_error(raw)) {
+    if (xcb_connection_has_error(raw_)) {
         throw std::runtime_error("no X server at " + display);
     }
-    root_ = xcb_setup_roots_iterator(xcb_get_setup(raw)).data->root;
+    root_ = xcb_setup_roots_iterator(xcb_get_setup(raw_)).data->root;
     // Newer requests than the version asked for are refused.
-    answer(raw, xcb_randr_query_version(raw, 1, 5), xcb_randr_query_version_reply);
+    answer(raw_, xcb_randr_query_version(raw_, 1, 5), xcb_randr_query_version_reply);
 }
 
 XClient::Output XClient::outputCalled(const std::string& name) {
-    auto* raw = connection_.get();
-    const auto resources = answer(raw, xcb_randr_get_screen_resources_current(raw, root_),
+    const auto resources = answer(raw_, xcb_randr_get_screen_resources_current(raw_, root_),
                                   xcb_randr_get_screen_resources_current_reply);
     const auto* outputs = xcb_randr_get_screen_resources_current_outputs(resources.get());
     for (int i = 0; i < resources->num_outputs; ++i) {
-        const auto info = answer(raw, xcb_randr_get_output_info(raw, outputs[i], XCB_CURRENT_TIME),
-                                 xcb_randr_get_output_info_reply);
+        const auto info =
+            answer(raw_, xcb_randr_get_output_info(raw_, outputs[i], XCB_CURRENT_TIME),
+                   xcb_randr_get_output_info_reply);
         const auto* itsName = xcb_randr_get_output_info_name(info.get());
         if (std::string(itsName, itsName + info->name_len) == name) {
             return {outputs[i], *xcb_randr_get_output_info_crtcs(info.get())};
@@ -68,9 +67,8 @@ XClient::Output XClient::outputCalled(const std::string& name) {
 }
 
 Channels XClient::ramp(std::uint32_t crtc) {
-    auto* raw = connection_.get();
     const auto reply =
-        answer(raw, xcb_randr_get_crtc_gamma(raw, crtc), xcb_randr_get_crtc_gamma_reply);
+        answer(raw_, xcb_randr_get_crtc_gamma(raw_, crtc), xcb_randr_get_crtc_gamma_reply);
     const auto* red = xcb_randr_get_crtc_gamma_red(reply.get());
     const auto* green = xcb_randr_get_crtc_gamma_green(reply.get());
     const auto* blue = xcb_randr_get_crtc_gamma_blue(reply.get());
@@ -79,25 +77,22 @@ Channels XClient::ramp(std::uint32_t crtc) {
 }
 
 void XClient::setRamp(std::uint32_t crtc, const Channels& ramp) {
-    auto* raw = connection_.get();
-    check(raw,
-          xcb_randr_set_crtc_gamma_checked(raw, crtc, static_cast<std::uint16_t>(ramp[0].size()),
+    check(raw_,
+          xcb_randr_set_crtc_gamma_checked(raw_, crtc, static_cast<std::uint16_t>(ramp[0].size()),
                                            ramp[0].data(), ramp[1].data(), ramp[2].data()),
           "ramp");
 }
 
 std::uint32_t XClient::atom(const std::string& name) {
-    auto* raw = connection_.get();
     const auto length = static_cast<std::uint16_t>(name.size());
-    return answer(raw, xcb_intern_atom(raw, false, length, name.data()), xcb_intern_atom_reply)
+    return answer(raw_, xcb_intern_atom(raw_, false, length, name.data()), xcb_intern_atom_reply)
         ->atom;
 }
 
 void XClient::setRootProperty(const std::string& name, std::uint8_t format, std::size_t count,
                               const void* data) {
-    auto* raw = connection_.get();
-    check(raw,
-          xcb_change_property_checked(raw, XCB_PROP_MODE_REPLACE, root_, atom(name),
+    check(raw_,
+          xcb_change_property_checked(raw_, XCB_PROP_MODE_REPLACE, root_, atom(name),
                                       XCB_ATOM_CARDINAL, format, static_cast<std::uint32_t>(count),
                                       data),
           "property");
@@ -118,18 +113,16 @@ void XClient::killOwner(std::uint32_t window) {
 }
 
 void XClient::setEdid(const std::string& output, const std::vector<std::uint8_t>& edid) {
-    auto* raw = connection_.get();
-    check(raw,
+    check(raw_,
           xcb_randr_change_output_property_checked(
-              raw, outputCalled(output).id, atom("EDID"), XCB_ATOM_INTEGER, 8,
+              raw_, outputCalled(output).id, atom("EDID"), XCB_ATOM_INTEGER, 8,
               XCB_PROP_MODE_REPLACE, static_cast<std::uint32_t>(edid.size()), edid.data()),
           "EDID");
 }
 
 void XClient::fake(std::uint8_t event, int key) {
-    auto* raw = connection_.get();
-    check(raw,
-          xcb_test_fake_input_checked(raw, event, serverKey(key), XCB_CURRENT_TIME, XCB_NONE, 0, 0,
+    check(raw_,
+          xcb_test_fake_input_checked(raw_, event, serverKey(key), XCB_CURRENT_TIME, XCB_NONE, 0, 0,
                                       0),
           "key");
 }
@@ -141,13 +134,12 @@ void XClient::type(const std::vector<int>& keys) {
 
 std::string XClient::startupMessages() {
     constexpr std::uint32_t kBroadcasts = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    auto* raw = connection_.get();
-    check(raw, xcb_change_window_attributes_checked(raw, root_, XCB_CW_EVENT_MASK, &kBroadcasts),
+    check(raw_, xcb_change_window_attributes_checked(raw_, root_, XCB_CW_EVENT_MASK, &kBroadcasts),
           "listening to the root window");
     const auto begin = atom("_NET_STARTUP_INFO_BEGIN");
     const auto more = atom("_NET_STARTUP_INFO");
     std::string text;
-    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(raw)}) {
+    while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(raw_)}) {
         const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(*event);
         if ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE &&
             (message.type == begin || message.type == more)) {
@@ -159,23 +151,21 @@ std::string XClient::startupMessages() {
 }
 
 int XClient::modifiers() {
-    auto* raw = connection_.get();
-    const auto state = answer(raw, xcb_query_pointer(raw, root_), xcb_query_pointer_reply)->mask;
+    const auto state = answer(raw_, xcb_query_pointer(raw_, root_), xcb_query_pointer_reply)->mask;
     return state & 0xff; // the others are buttons
 }
 
 bool XClient::grab(int key, int modifiers) {
-    auto* raw = connection_.get();
     return !isRefused(
-        raw, xcb_grab_key_checked(raw, false, root_, static_cast<std::uint16_t>(modifiers),
-                                  serverKey(key), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+        raw_, xcb_grab_key_checked(raw_, false, root_, static_cast<std::uint16_t>(modifiers),
+                                   serverKey(key), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
 }
 
 void XClient::ungrab(int key, int modifiers) {
-    auto* raw = connection_.get();
-    check(raw,
-          xcb_ungrab_key_checked(raw, serverKey(key), root_, static_cast<std::uint16_t>(modifiers)),
-          "giving a key back");
+    check(
+        raw_,
+        xcb_ungrab_key_checked(raw_, serverKey(key), root_, static_cast<std::uint16_t>(modifiers)),
+        "giving a key back");
 }
 
 } // namespace nocturo::rig

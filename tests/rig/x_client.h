@@ -3,7 +3,6 @@
 #include "x11/xcb_handles.h"
 
 #include <array>
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -70,6 +69,7 @@ class XClient {
     Output outputCalled(const std::string& name);
 
     XcbConnection connection_;
+    xcb_connection_t* raw_ = connection_.get();
     std::uint32_t root_ = 0;
 };
 
