@@ -31,6 +31,12 @@ struct Application : NocturoOnX {
         EXPECT_TRUE(writeEffectDocument(file, {.invertScreen = true}));
         return file;
     }
+    void refuses(const std::string& program, const std::vector<std::string>& arguments,
+                 const std::string& sentence) {
+        const RunResult refused = session_.run(program, arguments);
+        EXPECT_EQ(refused.exit, 1);
+        EXPECT_EQ(refused.errors, program + ": " + sentence + "\n");
+    }
     void activateAction(const char* action) {
         session_.bus().call(kName, kPath, kApplication, "ActivateAction", "sava{sv}", action, 0, 0);
     }
@@ -43,7 +49,11 @@ TEST_F(Application, AFreshUserIsLedToThePreferencesWhichComeBack) {
     EXPECT_TRUE(becomes("ii")) << shown(); // the question holds up nothing
     ctl({"restore"});
     EXPECT_TRUE(becomes("oo")) << shown();
-    ctl({"toggle"});
+    const auto watch = session_.start("nocturoctl", {"watch"});
+    EXPECT_TRUE(waitUntil([&] { // until it listens, nothing can be heard
+        ctl({"toggle"});
+        return watch->readLine(Milliseconds(50)).has_value();
+    }));
     end(); // which is no answer
     EXPECT_EQ(shown(), "oo");
     EXPECT_EQ(nocturo_->errors(), "");
@@ -77,10 +87,8 @@ TEST_F(Application, FluxIsWarnedOfBeforeAnythingIsTouched) {
     const auto before = status();
     using Command = std::vector<std::string>;
     for (const Command& command : {Command{"toggle"}, {"off"}, {"set", "UseHotKey", "true"}}) {
-        const RunResult refused = session_.run("nocturoctl", command);
-        EXPECT_EQ(refused.exit, 1) << "nothing was done";
-        EXPECT_EQ(refused.errors,
-                  "nocturoctl: Nocturo waits for the answer to the question that it shows.\n");
+        refuses("nocturoctl", command,
+                "Nocturo waits for the answer to the question that it shows.");
     }
     nocturo_->signal(SIGUSR2); // what switches off where there is no bus
     EXPECT_EQ(status(), before);
@@ -122,8 +130,17 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     // The dock's menu, whose first item switches.
     const char* menu = "/org/nocturo/Nocturo/LauncherMenu";
     const char* dbusmenu = "com.canonical.dbusmenu";
-    session_.bus().call(kName, menu, dbusmenu, "GetLayout", "iias", 0, -1, 0);
-    session_.bus().call(kName, menu, dbusmenu, "Event", "isvu", 1, "clicked", "s", "", 0);
+    const auto tell = [&](const char* method, const char* types, auto... arguments) {
+        session_.bus().call(kName, menu, dbusmenu, method, types, arguments...);
+    };
+    tell("GetLayout", "iias", 0, -1, 0);
+    tell("Event", "isvu", 1, "clicked", "s", "", 0);
+    EXPECT_TRUE(becomes("oo"));
+    EXPECT_THROW(tell("EventGroup", "a(i)", 1, 1), std::runtime_error); // and nothing more
+    // On the menu itself, and on the first item.
+    tell("EventGroup", "a(isvu)", 2, 0, "opened", "s", "", 0, 1, "clicked", "s", "", 0);
+    EXPECT_TRUE(becomes("ii"));
+    activateAction("toggle");
     EXPECT_TRUE(becomes("oo"));
 
     const std::string good = writtenDocument();
@@ -134,9 +151,7 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     open("file://localhost" + session_.runtimeDirectory().string() + "/mine%20%C3%B6.nocturo");
     EXPECT_THROW(open("file:///none.nocturo"), std::runtime_error);
     EXPECT_EQ(session_.run("nocturo", {good}).exit, 0);
-    const RunResult refused = session_.run("nocturo", {good, bad});
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_EQ(refused.errors, "nocturo: \"" + bad + "\" is not an effect document.\n");
+    refuses("nocturo", {good, bad}, "\"" + bad + "\" is not an effect document.");
     EXPECT_FALSE(windowCalled(kAlert).empty()) << "whoever opened it with a click sees no stderr";
     // None of these loads the window or switches, as a start without a document does.
     EXPECT_EQ(shown(), "oo");
@@ -187,8 +202,12 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
     }
     press("alt+i"); // otherwise the mnemonic of a box
     EXPECT_TRUE(hotKeyBecomes("⌥I"));
+    press("Return"); // once more, where whatever else changes does not claim the old one
+    EXPECT_TRUE(waitUntil([&] { return status()["hotKey"]["registered"] == false; }));
+    ctl({"set", "NDDimEffectLevel", "-0.3"});
+    press("alt+i");
     EXPECT_FALSE(isInverted());
-    press("Return"); // once more
+    press("Return");
     press("ctrl+w"); // otherwise closes the window
     EXPECT_TRUE(hotKeyBecomes("⌃W"));
     EXPECT_TRUE(isShown("Preferences"));
@@ -201,9 +220,16 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
     EXPECT_TRUE(waitUntil([&] { return !isShown("Preferences"); }));
 }
 
-TEST_F(Application, DocumentsAndPreviewsNeedNoWindow) {
+TEST_F(Application, DocumentsNeedNoWindowAndQtComesWithThePreview) {
+    const auto namesQt = [](const std::string& text) {
+        return text.find("libQt") != std::string::npos;
+    };
+    EXPECT_FALSE(namesQt(session_.run("ldd", {NOCTURO_BIN_DIR "/nocturo"}).output));
     select("NDHDTVLuminanceEffect");
     nocturo_ = session_.startNocturo();
+    const auto hasQt = [&] {
+        return namesQt(readText("/proc/" + std::to_string(nocturo_->id()) + "/maps"));
+    };
     const auto file = session_.runtimeDirectory() / "mine ö.nocturo";
     ASSERT_TRUE(writeEffectDocument(file, {.invertScreen = true, .dimLevel = 0.25F}));
     ctl({"open", file});
@@ -212,12 +238,14 @@ TEST_F(Application, DocumentsAndPreviewsNeedNoWindow) {
     ctl({"save", saved});
     EXPECT_EQ(readEffectDocument(saved), readEffectDocument(file));
     EXPECT_EQ(session_.run("nocturoctl", {"save", "/proc/no.nocturo"}).exit, 1);
+    ctl({"set", "UseHotKey", "true"});
+    ctl({"toggle"});
+    ctl({"toggle"});
 
     writeText(file, "no document");
-    const RunResult refused = session_.run("nocturoctl", {"open", file});
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_EQ(refused.errors, "nocturoctl: \"" + file.string() + "\" is not an effect document.\n");
+    refuses("nocturoctl", {"open", file}, "\"" + file.string() + "\" is not an effect document.");
     EXPECT_TRUE(isInverted());
+    EXPECT_FALSE(hasQt());
 
     const auto picture = [&] {
         ctl({"preview", "--png", file, "--display", "2"});
@@ -225,31 +253,10 @@ TEST_F(Application, DocumentsAndPreviewsNeedNoWindow) {
     };
     const std::string inverted = picture();
     EXPECT_EQ(inverted.substr(1, 3), "PNG");
+    EXPECT_TRUE(hasQt());
     ctl({"effects", "only", "dim"});
     EXPECT_NE(picture(), inverted);
     EXPECT_EQ(session_.run("nocturoctl", {"preview", "--png", file, "--display", "7"}).exit, 2);
-}
-
-TEST_F(Application, QtComesWithTheFirstWindow) {
-    const auto namesQt = [](const std::string& text) {
-        return text.find("libQt") != std::string::npos;
-    };
-    EXPECT_FALSE(namesQt(session_.run("ldd", {NOCTURO_BIN_DIR "/nocturo"}).output));
-    select("NDDimEffect");
-    nocturo_ = session_.startNocturo();
-    const auto hasQt = [&] {
-        return namesQt(readText("/proc/" + std::to_string(nocturo_->id()) + "/maps"));
-    };
-    ctl({"open", writtenDocument()});
-    EXPECT_TRUE(becomes("ii"));
-    ctl({"save", session_.runtimeDirectory() / "saved.nocturo"});
-    ctl({"set", "UseHotKey", "true"});
-    ctl({"toggle"});
-    ctl({"status"});
-    EXPECT_FALSE(hasQt());
-    ctl({"preferences"});
-    EXPECT_FALSE(windowCalled("Nocturo Preferences").empty());
-    EXPECT_TRUE(hasQt());
 }
 
 TEST_F(Application, WithoutItsLibraryItSaysWhatWindowsComeWith) {
@@ -261,12 +268,10 @@ TEST_F(Application, WithoutItsLibraryItSaysWhatWindowsComeWith) {
     nocturo_ = session_.start(alone / "nocturo");
     EXPECT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 0; }));
     const std::string sentence =
-        "Windows come with the package nocturo-desktop, which is not installed.\n";
-    EXPECT_EQ(nocturo_->errors(), "nocturo.app: " + sentence + kNoEffectSentence);
+        "Windows come with the package nocturo-desktop, which is not installed.";
+    EXPECT_EQ(nocturo_->errors(), "nocturo.app: " + sentence + "\n" + kNoEffectSentence);
     ctl({"open", writtenDocument()});
     EXPECT_TRUE(becomes("ii"));
-    const RunResult refused = session_.run("nocturoctl", {"preferences"});
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_EQ(refused.errors, "nocturoctl: " + sentence);
+    refuses("nocturoctl", {"preferences"}, sentence);
     end();
 }

@@ -46,8 +46,7 @@ TEST_F(ColorProfiles, OnTheRootWindowAreFollowed) {
     setProperty("_ICC_PROFILE", 4);
     ctl({"on"});
     EXPECT_TRUE(waitUntil([&] { return shows(0, reversed(calibration(4))); }));
-    ctl({"quit"});
-    EXPECT_EQ(nocturo_->wait(), 0);
+    end();
     EXPECT_TRUE(calibrated(4, 3));
 }
 
@@ -103,11 +102,6 @@ struct ColorProfilesOfColord : ColorProfiles {
                      kScope, 1, "Filename", path.c_str());
         bus.call(kColord, device.c_str(), kDevice, "AddProfile", "so", "hard", profile.c_str());
         bus.call(kColord, device.c_str(), kDevice, "MakeProfileDefault", "o", profile.c_str());
-    }
-    void remove(const std::string& connector) {
-        session_.systemBus().call(kColord, kColordPath, kColord, "DeleteDevice", "o",
-                                  devices_.at(connector).c_str());
-        devices_.erase(connector);
     }
     std::filesystem::path file(unsigned number) const {
         const auto path = session_.runtimeDirectory() / (std::to_string(number) + ".icc");
@@ -173,13 +167,13 @@ TEST_F(ColorProfilesOfColord, ComeFirst) {
     assign("DUMMY0", 5);
     EXPECT_TRUE(shows(0, reversed(calibration(1)))) << "a running effect keeps its curve";
     EXPECT_TRUE(offEndsCalibrated(5, 3));
-    remove("DUMMY0");
+    session_.systemBus().call(kColord, kColordPath, kColord, "DeleteDevice", "o",
+                              std::exchange(devices_["DUMMY0"], {}).c_str());
     EXPECT_TRUE(offEndsCalibrated(9, 3));
     assign("DUMMY0", 6);
     EXPECT_TRUE(offEndsCalibrated(6, 3));
     ctl({"on"});
-    nocturo_->signal(SIGTERM);
-    nocturo_->wait();
+    end();
     EXPECT_TRUE(calibrated(6, 3));
     EXPECT_EQ(nocturo_->errors(), kNoEffectSentence);
 }

@@ -149,18 +149,3 @@ TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
     }
     EXPECT_EQ(nocturo_->errors(), "");
 }
-
-TEST_F(DesktopPanels, DocksTellSeveralClicksAtOnce) {
-    nocturo_ = session_.startNocturo();
-    ctl({"status"}); // answered after the launch
-    ASSERT_EQ(shown(), "ii");
-    const auto call = [&](const char* method, const char* types, auto... arguments) {
-        session_.bus().call("org.nocturo.Nocturo", "/org/nocturo/Nocturo/LauncherMenu",
-                            "com.canonical.dbusmenu", method, types, arguments...);
-    };
-    call("GetLayout", "iias", 0, -1, 0);
-    EXPECT_THROW(call("EventGroup", "a(i)", 1, 1), std::runtime_error); // and nothing more
-    // On the menu itself, and on the first item, which switches.
-    call("EventGroup", "a(isvu)", 2, 0, "opened", "s", "", 0, 1, "clicked", "s", "", 0);
-    EXPECT_TRUE(becomes("oo"));
-}

@@ -75,14 +75,3 @@ TEST_F(DesktopSession, LoggingOutAndInBringsEverythingBack) {
     EXPECT_EQ(shown(), "oo"); // as it was left
     logOut(*desktop);
 }
-
-TEST_F(DesktopSession, WatchersHearOfChangesWhileTheLaunchAsks) {
-    session_.writeSettings("");
-    nocturo_ = session_.startNocturo();
-    const auto watch = session_.start("nocturoctl", {"watch"});
-    EXPECT_TRUE(waitUntil([&] { // until it listens, nothing can be heard
-        ctl({"toggle"});
-        return watch->readLine(Milliseconds(50)).has_value();
-    }));
-    EXPECT_TRUE(isShown("^Nocturo$"));
-}
