@@ -99,17 +99,15 @@ void XClient::setRootProperty(const std::string& name, std::uint8_t format, std:
 }
 
 std::vector<std::uint8_t> XClient::rootBytes(const std::string& name) {
-    auto* raw = connection_.get();
-    const auto cookie = xcb_get_property(raw, false, root_, atom(name), XCB_GET_PROPERTY_TYPE_ANY,
+    const auto cookie = xcb_get_property(raw_, false, root_, atom(name), XCB_GET_PROPERTY_TYPE_ANY,
                                          0, UINT32_MAX / 4);
-    const auto reply = answer(raw, cookie, xcb_get_property_reply);
+    const auto reply = answer(raw_, cookie, xcb_get_property_reply);
     const auto* bytes = static_cast<const std::uint8_t*>(xcb_get_property_value(reply.get()));
     return {bytes, bytes + xcb_get_property_value_length(reply.get())};
 }
 
 void XClient::killOwner(std::uint32_t window) {
-    auto* raw = connection_.get();
-    check(raw, xcb_kill_client_checked(raw, window), "kill");
+    check(raw_, xcb_kill_client_checked(raw_, window), "kill");
 }
 
 void XClient::setEdid(const std::string& output, const std::vector<std::uint8_t>& edid) {

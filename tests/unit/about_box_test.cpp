@@ -10,10 +10,6 @@
 
 using namespace nocturo;
 
-BundleInformation bundle(PropertyDictionary values) {
-    return {std::move(values), "/opt/moon"};
-}
-
 struct AboutBox : testing::Test {
     AboutBox() {
         writeText(directory / "Credits.html",
@@ -28,10 +24,11 @@ struct AboutBox : testing::Test {
     }
 
     TemporaryDirectory directory;
-    ZQAboutBoxController about{bundle({{"CFBundleName", std::string("Moon")},
-                                       {"CFBundleShortVersionString", std::string("4.0")},
-                                       {"CFBundleVersion", std::string("300")},
-                                       {"NSHumanReadableCopyright", std::string("(c) us")}}),
+    ZQAboutBoxController about{{{{"CFBundleName", "Moon"},
+                                 {"CFBundleShortVersionString", "4.0"},
+                                 {"CFBundleVersion", "300"},
+                                 {"NSHumanReadableCopyright", "(c) us"}},
+                                "/opt/moon"},
                                QString::fromStdString(directory / "Credits.html")};
 };
 
@@ -49,7 +46,7 @@ TEST_F(AboutBox, FillsTheTemplateEachTimeAnew) {
         about.textView()->document()->resource(QTextDocument::ImageResource, QUrl("/etc/hostname"));
     EXPECT_EQ(picture.value<QImage>().size(), QSize(1, 1));
 
-    ZQAboutBoxController bare(bundle({}), "/nowhere/Credits.html");
+    ZQAboutBoxController bare({{}, "/opt/moon"}, "/nowhere/Credits.html");
     bare.showWindow();
     EXPECT_EQ(bare.textView()->toPlainText(), "moon\nVersion (null) ((null))\n\n");
     EXPECT_EQ(applicationName(BundleInformation::mainBundle()), "Nocturo");

@@ -1,19 +1,14 @@
 // Re-application runs for as long as the effect is on, so it must not allocate.
 
-#include "base/notification_center.h"
 #include "display_services_fixture.h"
 #include "effects/effect_registry.h"
-#include "effects/group_effect.h"
-#include "settings/defaults_store.h"
 
 #include <cstdlib>
 #include <new>
 
-namespace {
+using namespace nocturo;
 
-long allocations = 0;
-
-} // namespace
+static long allocations = 0;
 
 // Inlined, GCC would take free() for the wrong end of what new gave.
 [[gnu::noinline]] void* operator new(std::size_t size) {
@@ -30,19 +25,13 @@ long allocations = 0;
     std::free(memory);
 }
 
-namespace nocturo {
-
-namespace {
-
 struct OneDisplay : FakeGammaHardware {
     explicit OneDisplay(std::uint32_t size) { add("one", 0, size); }
     // Keeps no record of it, which would allocate.
     bool writeRamp(std::uint32_t /*crtc*/, const Ramp& /*ramp*/) override { return true; }
 };
 
-TEST(Allocation, UpdateEffectAllocatesNothing) {
-    NotificationCenter center;
-    NDEffect::setUserDefaults(std::make_shared<DefaultsStore>(center));
+TEST_F(SettingsFixture, UpdateEffectAllocatesNothing) {
     const auto group = std::make_shared<NDGroupEffect>();
     for (const std::uint32_t size : {256U, 1024U}) {
         RampDisplayServices services(std::make_unique<OneDisplay>(size));
@@ -63,9 +52,4 @@ TEST(Allocation, UpdateEffectAllocatesNothing) {
         }
     }
     setDisplayServices(nullptr);
-    NDEffect::setUserDefaults(nullptr);
 }
-
-} // namespace
-
-} // namespace nocturo

@@ -52,8 +52,8 @@ class FakeGammaHardware : public GammaHardware {
     /// Heads D1, D2 and so on, each with the CRTC of its number, until there are that many.
     void addUpTo(std::uint32_t count) {
         while (heads.size() < count) {
-            const auto crtc = static_cast<std::uint32_t>(heads.size()) + 1;
-            add("D" + std::to_string(crtc), crtc);
+            ++numbered;
+            add("D" + std::to_string(numbered), numbered);
         }
     }
     /// Sets the same mode again.
@@ -104,6 +104,7 @@ class FakeGammaHardware : public GammaHardware {
     int writesNotProvidedFor = 0;       // before it was said what to give back
     std::uint64_t generation = 1;
     std::uint64_t modes = 0;         // set so far
+    std::uint32_t numbered = 0;      // D1 and so on
     std::function<void()> afterRead; // once, when set
     bool lists = true;
     bool reads = true;

@@ -3,11 +3,6 @@
 #include "base/run_loop.h"
 
 #include <algorithm>
-#include <chrono>
-#include <cstddef>
-#include <cstdint>
-#include <functional>
-#include <memory>
 #include <utility>
 #include <vector>
 

@@ -30,8 +30,7 @@ constexpr Key kEscape{Qt::Key_Escape, 9, "\x1b"};
 struct HotKeyField : testing::Test {
     HotKeyField() {
         auto* box = new QVBoxLayout(&window);
-        for (QLineEdit* widget :
-             std::initializer_list<QLineEdit*>{&other, &before, field, &after}) {
+        for (QLineEdit* widget : std::array<QLineEdit*, 4>{&other, &before, field, &after}) {
             box->addWidget(widget);
         }
         using Field = HXHotKeyTextField;
@@ -66,13 +65,7 @@ struct HotKeyField : testing::Test {
 };
 
 TEST_F(HotKeyField, RecordsKeysWithAModifierAndFunctionKeysAlone) {
-    struct Case {
-        Key key;
-        Qt::KeyboardModifiers modifiers;
-        int keyCode;
-        std::uint64_t flags;
-        const char* text;
-    };
+    using Case = std::tuple<Key, Qt::KeyboardModifiers, int, std::uint64_t, const char*>;
     const Qt::KeyboardModifiers none;
     for (const auto& [key, modifiers, keyCode, flags, text] : {
              Case{kK, Qt::ShiftModifier | Qt::MetaModifier, 40, 0x120000, "⇧⌘K"},

@@ -33,11 +33,7 @@ struct FakeLayout : KeyboardLayout {
 
 TEST(KeyNaming, NamesKeysAfterTheirModifiers) {
     FakeLayout layout({{0, "a"}, {12, "é"}, {36, "\r"}, {55, "x"}});
-    struct Case {
-        std::uint16_t keyCode;
-        std::uint64_t flags;
-        const char* text;
-    };
+    using Case = std::tuple<std::uint16_t, std::uint64_t, const char*>;
     for (const auto& [keyCode, flags, text] : {
              Case{0, 0x1E0000, "⌃⌥⇧⌘a"},
              Case{0, 0x810000, "a"}, // caps lock and function show nothing
@@ -61,19 +57,14 @@ TEST(KeyNaming, NamesKeysAfterTheirModifiers) {
     EXPECT_EQ(HXCarbonModifierFlagsWithAlphaLock(~0ULL), 0x1F00U);
 }
 
-// A few keys of a French board; the keypad types digits as well.
-FakeLayout frenchLayout() {
-    return FakeLayout({{12, "a"}, {40, "k"}, {19, "é"}, {24, "+"}, {87, "5"}, {69, "+"}});
-}
+struct HotKeyText : testing::Test {
+    // A few keys of a French board; the keypad types digits as well.
+    FakeLayout french{{{12, "a"}, {40, "k"}, {19, "é"}, {24, "+"}, {87, "5"}, {69, "+"}}};
+};
 
-TEST(HotKeyText, ReadsNamesAndCharactersInAnyOrderAndCase) {
-    FakeLayout french = frenchLayout();
+TEST_F(HotKeyText, ReadsNamesAndCharactersInAnyOrderAndCase) {
     FakeLayout russian({{40, "л"}, {41, "ж"}});
-    struct Case {
-        const char* text;
-        std::uint16_t keyCode;
-        std::uint64_t flags;
-    };
+    using Case = std::tuple<const char*, std::uint16_t, std::uint64_t>;
     for (const auto& [text, keyCode, flags] : {
              Case{"F5 + Super + CTRL", 96, 0x140000},
              Case{"control+option+shift+command+space", 49, 0x1E0000},
@@ -85,15 +76,13 @@ TEST(HotKeyText, ReadsNamesAndCharactersInAnyOrderAndCase) {
              Case{"ctrl++", 24, 0x40000},
              Case{"shift+keypad5", 87, 0x20000},
          }) {
-        const auto result = parseHotKeyText(text, &french);
-        EXPECT_EQ(result, (HotKeyCombination{keyCode, flags})) << text;
+        EXPECT_EQ(parseHotKeyText(text, &french), (HotKeyCombination{keyCode, flags})) << text;
     }
     EXPECT_EQ(parseHotKeyText("super+Л", &russian), (HotKeyCombination{40, kCommand}));
     EXPECT_EQ(parseHotKeyText("super+f20", nullptr), (HotKeyCombination{90, kCommand}));
 }
 
-TEST(HotKeyText, SaysWhatIsWrong) {
-    FakeLayout french = frenchLayout();
+TEST_F(HotKeyText, SaysWhatIsWrong) {
     for (const auto& [text, error] : {
              std::pair("", "No hot key"),
              std::pair("ctrl+", "plus sign"),
@@ -101,8 +90,7 @@ TEST(HotKeyText, SaysWhatIsWrong) {
              std::pair("ctrl+shift", "no key besides its modifiers"),
              std::pair("ctrl+ctl+f5", "\"ctl\" and \"f5\" are both keys"),
              std::pair("ctrl+F21", "\"F21\" is not a key's name"),
-             std::pair("ctrl+5",
-                       "no key of the current keyboard layout types it"), // not the keypad
+             std::pair("ctrl+5", "no key of the current keyboard layout"), // not the keypad
              std::pair("ctrl+\xFF", "is not a key's name"),
              std::pair("k", "needs a modifier"),
          }) {
@@ -117,9 +105,8 @@ struct FakeService : HotKeyService {
     std::optional<HotKeyHandle> registerHotKey(std::uint16_t /*keyCode*/,
                                                std::uint32_t /*modifiers*/,
                                                EventHotKeyID hotKeyID) override {
-        const HotKeyHandle handle{++handles};
-        claims[handle] = hotKeyID;
-        return handle;
+        claims[HotKeyHandle{++handles}] = hotKeyID;
+        return HotKeyHandle{handles};
     }
     void unregisterHotKey(HotKeyHandle handle) override { EXPECT_EQ(claims.erase(handle), 1U); }
     void setHandlers(Handler onRelease, Handler onPress) override {

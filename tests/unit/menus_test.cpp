@@ -1,7 +1,6 @@
 // The main menu with the documents that it remembers, and the run of screens in other menus.
 
 #include "app/screen_option_menu_manager.h"
-#include "base/notification_center.h"
 #include "base/notification_names.h"
 #include "desktop/menus/drawn_menu.h"
 #include "desktop/menus/main_menu.h"
@@ -9,7 +8,6 @@
 #include "desktop/menus/taskbar_presence.h"
 #include "display_services_fixture.h"
 #include "documents/recent_documents.h"
-#include "settings/defaults_store.h"
 #include "temporary_directory.h"
 
 #include <QApplication>
@@ -89,39 +87,38 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
 
 struct ScreenOptionMenu : DisplayServicesFixture {
     ScreenOptionMenu() {
-        for (std::uint32_t crtc = 1; crtc <= 3; ++crtc) {
-            hardware_.add("D" + std::to_string(crtc), crtc);
-        }
+        hardware_.addUpTo(3);
         start();
         for (const char* text : {"above", "below"}) {
-            MenuItem item;
-            item.text = text;
-            model.append(std::move(item));
+            append(text);
         }
     }
 
+    Menu::Id append(const char* text, bool isVisible = true) {
+        MenuItem item;
+        item.text = text;
+        item.isVisible = isVisible;
+        return model.append(std::move(item));
+    }
     void make(bool separator = false, bool hideSingular = false) {
-        MenuItem hidden;
-        hidden.isVisible = false;
-        title = model.append(std::move(hidden));
-        manager.emplace(store, center, model, model.entries().front().id, title, separator,
+        title = append("", false);
+        manager.emplace(*store_, center_, model, model.entries().front().id, title, separator,
                         hideSingular, 0);
     }
     std::int64_t number(std::size_t index) { return id(index); }
     void removeDisplay(const char* name) {
         hardware_.remove(name);
-        center.post(NSApplicationDidChangeScreenParametersNotification);
+        center_.post(NSApplicationDidChangeScreenParametersNotification);
     }
     /// The menu's texts with checked ones in brackets, separators as a line.
     std::string shown() const {
         QStringList texts;
         for (const QAction* item : menu.actions()) {
-            if (!item->isVisible()) {
-                continue;
+            if (item->isVisible()) {
+                texts << (item->isSeparator() ? "-"
+                          : item->isChecked() ? "[" + item->text() + "]"
+                                              : item->text());
             }
-            texts << (item->isSeparator() ? "-"
-                      : item->isChecked() ? "[" + item->text() + "]"
-                                          : item->text());
         }
         return texts.join(" ").toStdString();
     }
@@ -133,8 +130,6 @@ struct ScreenOptionMenu : DisplayServicesFixture {
         QTest::mouseClick(&menu, Qt::LeftButton, {}, place);
     }
 
-    NotificationCenter center;
-    DefaultsStore store{center};
     Menu model;
     QMenu menu;
     DrawnMenu drawn{model, menu};
@@ -151,7 +146,7 @@ TEST_F(ScreenOptionMenu, FollowsTheSetAndSumsItUp) {
                      "All Screens [Screen 1] Screen 2 [Screen 3]", "Screen 1, 3"),
           std::tuple(PropertyArray{7LL}, "All Screens Screen 1 Screen 2 Screen 3", "None"),
           std::tuple(PropertyArray{}, "[All Screens] Screen 1 Screen 2 Screen 3", "All Screens")}) {
-        store.setObject(set, "AffectedScreenSet");
+        store_->setObject(set, "AffectedScreenSet");
         EXPECT_EQ(shown(), std::string("above ") + run + " below");
         EXPECT_EQ(model.item(title)->text, summary);
     }
@@ -160,13 +155,11 @@ TEST_F(ScreenOptionMenu, FollowsTheSetAndSumsItUp) {
 
 TEST_F(ScreenOptionMenu, FollowsTheArrangement) {
     make();
-    store.setObject(PropertyArray{number(2)}, "AffectedScreenSet");
+    store_->setObject(PropertyArray{number(2)}, "AffectedScreenSet");
     removeDisplay("D1");
     EXPECT_EQ(shown(), "above All Screens Screen 1 [Screen 2] below");
     EXPECT_EQ(item(3)->toolTip(), "D3");
-    for (std::uint32_t crtc = 4; crtc <= 13; ++crtc) {
-        hardware_.add("D" + std::to_string(crtc), crtc);
-    }
+    hardware_.addUpTo(12);
     removeDisplay("D2");
     EXPECT_EQ(menu.actions().size(), 2 + 1 + 10 + 1); // an eleventh display is not offered
     hardware_.lists = false;
@@ -188,7 +181,7 @@ TEST_F(ScreenOptionMenu, HidesTheRunOfASingleDisplayAlsoWhileThatIsPicked) {
 
 TEST_F(ScreenOptionMenu, PicksToggleAndAllScreensResets) {
     make();
-    store.setInteger(number(2), "AffectedScreens"); // as the older key alone says it
+    store_->setInteger(number(2), "AffectedScreens"); // as the older key alone says it
     EXPECT_EQ(shown(), "above All Screens Screen 1 Screen 2 [Screen 3] below");
     for (const auto& [index, run, last] :
          {std::tuple(2, "All Screens [Screen 1] Screen 2 [Screen 3]", number(0)),
@@ -199,11 +192,11 @@ TEST_F(ScreenOptionMenu, PicksToggleAndAllScreensResets) {
           std::tuple(1, "[All Screens] Screen 1 Screen 2 Screen 3", std::int64_t{0})}) {
         click(index);
         EXPECT_EQ(shown(), std::string("above ") + run + " below");
-        EXPECT_EQ(store.integerForKey("AffectedScreens"), last);
+        EXPECT_EQ(store_->integerForKey("AffectedScreens"), last);
     }
     manager.reset();
     click(2); // its items outlive it and do nothing
-    EXPECT_EQ(store.integerForKey("AffectedScreens"), 0);
+    EXPECT_EQ(store_->integerForKey("AffectedScreens"), 0);
 }
 
 /// The part of the pixels of two gray images that are clearly told apart.

@@ -160,12 +160,7 @@ ZQGammaCurve straight(const ZQChannelValues& from, const ZQChannelValues& to) {
 
 TEST(Readability, IsWhatTheHardwareLeavesOfTheRange) {
     constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
-    struct Case {
-        ZQChannelValues black;
-        ZQChannelValues white;
-        double contrast;
-        bool unreadable;
-    };
+    using Case = std::tuple<ZQChannelValues, ZQChannelValues, double, bool>;
     for (const auto& [black, white, contrast, unreadable] : {
              Case{{0, 0, 0}, {1, 1, 1}, 1.0, false},
              Case{{1, 1, 1}, {0, 0, 0}, 1.0, false},

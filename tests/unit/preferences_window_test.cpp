@@ -1,4 +1,3 @@
-#include "base/notification_center.h"
 #include "desktop/controls/parameter_slider.h"
 #include "desktop/hotkey_field/hot_key_text_field.h"
 #include "desktop/preferences/keep_colors_box.h"
@@ -9,8 +8,6 @@
 #include "documents/effect_document_file.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
-#include "effects/group_effect.h"
-#include "settings/defaults_store.h"
 #include "temporary_directory.h"
 
 #include <gmock/gmock.h>
@@ -29,17 +26,12 @@
 
 using namespace nocturo;
 
-using testing::ElementsAre;
-
 struct PreferencesWindow : DisplayServicesFixture {
     PreferencesWindow() {
-        NDEffect::setUserDefaults(store);
         NDGroupEffect::initialize();
-        hardware_.add("ONE", 1);
-        hardware_.add("TWO", 2);
+        hardware_.addUpTo(2);
         start();
     }
-    ~PreferencesWindow() override { NDEffect::setUserDefaults(nullptr); }
 
     void show() {
         controller.showWindow();
@@ -58,13 +50,12 @@ struct PreferencesWindow : DisplayServicesFixture {
 
     /// The message that is shown, or null.
     QMessageBox* sheet() {
-        for (QMessageBox* box : controller.window()->findChildren<QMessageBox*>()) {
-            if (box->isVisible()) {
-                return box;
-            }
-        }
-        return nullptr;
+        const auto boxes = controller.window()->findChildren<QMessageBox*>();
+        const auto shown = std::find_if(boxes.begin(), boxes.end(),
+                                        [](const QMessageBox* box) { return box->isVisible(); });
+        return shown == boxes.end() ? nullptr : *shown;
     }
+    QString said() { return sheet() == nullptr ? QString() : sheet()->informativeText(); }
     void answer(const QString& text) {
         ASSERT_NE(sheet(), nullptr);
         for (QAbstractButton* button : sheet()->buttons()) {
@@ -74,52 +65,46 @@ struct PreferencesWindow : DisplayServicesFixture {
             }
         }
     }
-    PropertyArray effects() const { return *store->arrayForKey(NDGroupEffect::kName); }
-    static PropertyValue named(const char* effect) { return std::string(effect); }
-
-    NotificationCenter center;
-    std::shared_ptr<DefaultsStore> store = std::make_shared<DefaultsStore>(center);
     ZQGammaCurve captured; // nothing while the effect is off
     NDPreferencesController controller{PreferenceSurroundings{
-        *store, center,
+        *store_, center_,
         [this](CGDirectDisplayID) { return captured.sampleCount > 0 ? &captured : nullptr; },
         [](bool /*recording*/) {}}};
 };
 
 TEST_F(PreferencesWindow, BoxesChangeTheirSettingAndFollowIt) {
     show();
+    using Box = std::pair<const char*, const char*>;
     for (const auto& [name, effect] :
-         {std::pair("invertScreen", "NDInvertEffect"),
-          std::pair("hideStripes", "NDHideStripesEffect"),
-          std::pair("hdtvLuminance", "NDHDTVLuminanceEffect"),
-          std::pair("colorFilter", "NDColorFilterEffect"), std::pair("dimScreen", "NDDimEffect")}) {
+         {Box{"invertScreen", "NDInvertEffect"}, Box{"hideStripes", "NDHideStripesEffect"},
+          Box{"hdtvLuminance", "NDHDTVLuminanceEffect"}, Box{"colorFilter", "NDColorFilterEffect"},
+          Box{"dimScreen", "NDDimEffect"}}) {
         click(name);
-        EXPECT_THAT(effects(), ElementsAre(named(effect)));
+        EXPECT_EQ(chosenEffects(), PropertyArray{effect});
         click(name);
-        EXPECT_THAT(effects(), ElementsAre()) << name;
+        EXPECT_EQ(chosenEffects(), PropertyArray{}) << name;
         NDGroupEffect::effect().addEffect(effect);
         EXPECT_TRUE(isChecked(name));
         NDGroupEffect::effect().removeEffect(effect);
     }
     EXPECT_NEAR(slider("colorFilterVividness").value(), 0.45, 0.01) << "offered at the first tick";
     for (const auto& [name, key] :
-         {std::pair("activateAtLaunch", "ActivateAtLaunch"),
-          std::pair("activateOnClick", "ActivateOnClick"),
-          std::pair("continuouslyApply", "ContinuouslyApply"),
-          std::pair("deactivateForScreenSaver", "NDDeactivateForScreenSaver")}) {
+         {Box{"activateAtLaunch", "ActivateAtLaunch"}, Box{"activateOnClick", "ActivateOnClick"},
+          Box{"continuouslyApply", "ContinuouslyApply"},
+          Box{"deactivateForScreenSaver", "NDDeactivateForScreenSaver"}}) {
         click(name);
-        EXPECT_TRUE(store->boolForKey(key)) << key;
-        store->setBool(false, key);
+        EXPECT_TRUE(store_->boolForKey(key)) << key;
+        store_->setBool(false, key);
         EXPECT_FALSE(isChecked(name)) << key;
     }
     click("showInTray");
-    EXPECT_EQ(store->integerForKey("ShowStatusItem"), 1);
-    store->setInteger(0, "ShowStatusItem");
+    EXPECT_EQ(store_->integerForKey("ShowStatusItem"), 1);
+    store_->setInteger(0, "ShowStatusItem");
     EXPECT_TRUE(isChecked("showInTaskBar"));
 }
 
 TEST_F(PreferencesWindow, SlidersAreThereWithTheirEffectAndKeepTheirValueWithoutIt) {
-    store->setFloat(210.25F, "NDColorFilterEffectHue");
+    store_->setFloat(210.25F, "NDColorFilterEffectHue");
     show();
     EXPECT_FALSE(slider("dimLevel").isEnabled());
     EXPECT_EQ(slider("dimLevel").value(), -0.5F);
@@ -146,7 +131,6 @@ TEST_F(PreferencesWindow, AsksBeforeItClosesWithoutAnEffectThatTheUserTookAway) 
     click("invertScreen");
     click("invertScreen");
     controller.window()->close();
-    ASSERT_NE(sheet(), nullptr);
     EXPECT_EQ(sheet()->text(), "No effect has been chosen.");
     answer("Cancel");
     EXPECT_TRUE(controller.window()->isVisible());
@@ -162,7 +146,7 @@ TEST_F(PreferencesWindow, PreviewsTheEffectOnceWhileTheScreenShowsIt) {
     EXPECT_EQ(preview.seenThrough.sampleCount, 0U);
     captured.sampleCount = kGammaCurveCapacity;
     captured.redTable[255] = 1;
-    store->setObject(PropertyArray{1LL}, "AffectedScreenSet"); // which puts it on this screen
+    store_->setObject(PropertyArray{1LL}, "AffectedScreenSet"); // which puts it on this screen
     EXPECT_EQ(preview.before.redTable[255], 1.0F);
     EXPECT_EQ(preview.seenThrough.redTable[0], 1.0F);
 }
@@ -215,14 +199,14 @@ TEST_F(EffectDocuments, SetEveryControlOfAWindowThatIsLoaded) {
     int used = 0;
     QObject::connect(&controller, &NDPreferencesController::documentWasUsed, [&] { ++used; });
     EXPECT_TRUE(controller.openEffectFile(written(document)));
-    EXPECT_THAT(effects(), ElementsAre()) << "the window is not loaded";
+    EXPECT_EQ(chosenEffects(), PropertyArray{}) << "the window is not loaded";
     EXPECT_EQ(used, 0) << "and nothing to open again";
     EXPECT_FALSE(controller.isWindowLoaded());
 
     controller.loadWindow();
     EXPECT_TRUE(controller.openEffectFile(written(document)));
-    EXPECT_THAT(effects(), ElementsAre(named("NDInvertEffect"), named("NDHDTVLuminanceEffect"),
-                                       named("NDColorFilterEffect")));
+    EXPECT_EQ(chosenEffects(),
+              (PropertyArray{"NDInvertEffect", "NDHDTVLuminanceEffect", "NDColorFilterEffect"}));
     EXPECT_EQ(NDColorFilterEffect::hue(), 33.3F);
     EXPECT_EQ(NDDimEffect::level(), 0.1F);
     EXPECT_TRUE(controller.openEffectFile(written({.dimLevel = -1.5F})));
@@ -242,8 +226,7 @@ TEST_F(EffectDocuments, AreDroppedOntoTheWindow) {
     drop(written(document));
     EXPECT_TRUE(isChecked("invertScreen"));
     drop("/no/such.nocturo");
-    ASSERT_NE(sheet(), nullptr);
-    EXPECT_EQ(sheet()->informativeText(), "“such.nocturo” is not an effect document.");
+    EXPECT_EQ(said(), "“such.nocturo” is not an effect document.");
 }
 
 TEST_F(EffectDocuments, PanelsSaveAndOpen) {
@@ -260,7 +243,6 @@ TEST_F(EffectDocuments, PanelsSaveAndOpen) {
     EXPECT_TRUE(readEffectDocument(directory / "plain.txt.nocturo"));
     click("invertScreen");
     choose("saveButton", "mine"); // which is there
-    ASSERT_NE(sheet(), nullptr);
     answer("Yes");
     EXPECT_FALSE(readEffectDocument(saved).value().invertScreen);
     click("invertScreen");
@@ -272,14 +254,12 @@ TEST_F(EffectDocuments, PanelsSaveAndOpen) {
     EXPECT_TRUE(isChecked("invertScreen"));
 
     choose("openButton", "/proc/nowhere"); // must not wait for the answer
-    ASSERT_NE(sheet(), nullptr);
-    EXPECT_EQ(sheet()->informativeText(), "“nowhere” is not an effect document.");
+    EXPECT_EQ(said(), "“nowhere” is not an effect document.");
     answer("OK");
     controller.window()->findChild<QFileDialog*>()->reject();
 
     choose("saveButton", "/proc/mine.nocturo");
-    ASSERT_NE(sheet(), nullptr);
-    EXPECT_EQ(sheet()->informativeText(), "Could not save settings at this location.");
+    EXPECT_EQ(said(), "Could not save settings at this location.");
 }
 
 TEST_F(PreferencesWindow, TheQuestionAboutColorsStandsOverIt) {
@@ -290,18 +270,16 @@ TEST_F(PreferencesWindow, TheQuestionAboutColorsStandsOverIt) {
         box.show(controller.window(), seconds, [&](bool keep) { answers.push_back(keep); });
     };
     ask(10);
-    ASSERT_NE(sheet(), nullptr);
     EXPECT_EQ(sheet()->text(), "Keep these colors?");
     ask(9);
     EXPECT_TRUE(sheet()->informativeText().contains("9 s"));
     QTest::keyClick(sheet(), Qt::Key_Escape);
     box.withdraw();
-    ask(10);
-    answer("Keep");
-    box.withdraw();
-    ask(10);
-    answer("Go back");
-    box.withdraw();
+    for (const char* words : {"Keep", "Go back"}) {
+        ask(10);
+        answer(words);
+        box.withdraw();
+    }
     ask(10);
     box.withdraw();
     EXPECT_EQ(sheet(), nullptr);

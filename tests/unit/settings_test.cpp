@@ -26,12 +26,7 @@ struct DefaultsStoreTest : testing::Test {
 };
 
 TEST_F(DefaultsStoreTest, ReadsEachTypeWithItsOwnConversions) {
-    struct Case {
-        PropertyValue value;
-        bool asBool;
-        std::int64_t asInteger;
-        float asFloat;
-    };
+    using Case = std::tuple<PropertyValue, bool, std::int64_t, float>;
     for (const auto& [value, asBool, asInteger, asFloat] : {
              Case{true, true, 0, 0.0F},
              Case{std::int64_t{-7}, true, -7, -7.0F},
@@ -39,7 +34,7 @@ TEST_F(DefaultsStoreTest, ReadsEachTypeWithItsOwnConversions) {
              Case{0.25, true, 0, 0.25F},
              Case{1e300, true, 0, 0.0F}, // infinite in single precision
              Case{std::numeric_limits<double>::quiet_NaN(), true, 0, 0.0F},
-             Case{std::string("1"), false, 0, 0.0F},
+             Case{"1", false, 0, 0.0F},
              Case{PropertyArray{true}, false, 0, 0.0F},
          }) {
         SCOPED_TRACE(value.index());
@@ -53,7 +48,7 @@ TEST_F(DefaultsStoreTest, ReadsEachTypeWithItsOwnConversions) {
 TEST_F(DefaultsStoreTest, ARegisteredDefaultHoldsWhereTheUserSaidNothing) {
     store.registerDefaults({{"level", 0.5}, {"other", true}});
     store.registerDefaults({{"level", 0.75}});
-    store.setObject(std::string("not a number"), "level");
+    store.setObject("not a number", "level");
     EXPECT_EQ(store.floatForKey("level"), 0.0F) << "a wrong type does not fall back";
     store.removeObjectForKey("level");
     EXPECT_EQ(store.floatForKey("level"), 0.75F);
@@ -129,7 +124,6 @@ struct SettingsKeeperTest : DefaultsStoreTest {
             return name.starts_with("settings.plist.damaged-");
         });
     }
-
     TemporaryDirectory home;
     std::filesystem::path directory = home / "nocturo";
     std::filesystem::path path = directory / "settings.plist";
@@ -152,8 +146,7 @@ TEST_F(SettingsKeeperTest, MakesAPrivateFileInADirectoryOfItsOwn) {
 TEST_F(SettingsKeeperTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {
     ::setenv("TZ", "XYZ-3", 1); // three hours ahead of UTC
     ::tzset();
-    const auto when = std::chrono::sys_days(std::chrono::November / 21 / 2026) +
-                      std::chrono::hours(6) + std::chrono::minutes(8) + std::chrono::seconds(38);
+    const std::chrono::system_clock::time_point when{std::chrono::seconds(1795241318)};
     for (const char* content : {"first", "second"}) {
         writeText(path, content);
         EXPECT_TRUE(setAsideDamagedFile(path, when));

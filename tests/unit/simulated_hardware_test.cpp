@@ -11,28 +11,23 @@
 
 using namespace nocturo;
 
-/// Red is reversed, green halved, blue squared: each channel tells a swap from the other two.
-Ramp threeCurves() {
-    Ramp ramp(256);
-    for (std::size_t i = 0; i < 256; ++i) {
-        const double x = static_cast<double>(i) / 255;
-        ramp.red[i] = static_cast<std::uint16_t>(std::lround((1 - x) * 65535));
-        ramp.green[i] = static_cast<std::uint16_t>(std::lround(x / 2 * 65535));
-        ramp.blue[i] = static_cast<std::uint16_t>(std::lround(x * x * 65535));
-    }
-    return ramp;
-}
-
 TEST(SimulatedHardware, PicturesShowTheTestCardThroughEachRamp) {
     const TemporaryDirectory directory;
     const auto pictures = directory / "deep/pictures";
     SimulatedHardware hardware(2, pictures, writeTestCard);
     EXPECT_EQ(std::filesystem::status(pictures).permissions(), std::filesystem::perms::owner_all);
+    // Red is reversed, green halved, blue squared: each channel tells a swap from the other two.
+    Ramp curves = identityRamp(256);
+    std::reverse(curves.red.begin(), curves.red.end());
+    for (std::size_t i = 0; i < 256; ++i) {
+        curves.green[i] /= 2;
+        curves.blue[i] = static_cast<std::uint16_t>(curves.blue[i] * i / 255);
+    }
     ASSERT_TRUE(hardware.writeRamp(0, identityRamp(256)));
-    ASSERT_TRUE(hardware.writeRamp(1, threeCurves()));
+    ASSERT_TRUE(hardware.writeRamp(1, curves));
     Ramp read(256);
     ASSERT_TRUE(hardware.readRamp(1, read));
-    EXPECT_EQ(read, threeCurves());
+    EXPECT_EQ(read, curves);
     EXPECT_FALSE(hardware.writeRamp(1, identityRamp(257)));
 
     const QImage card = QImage(":/simulated/test-card.png");
