@@ -8,6 +8,9 @@
 #include "documents/effect_document_file.h"
 #include "documents/recent_documents.h"
 
+#include <QCursor>
+#include <QGuiApplication>
+
 #include <utility>
 
 namespace nocturo {
@@ -50,6 +53,13 @@ void DesktopMenus::updateStatusItemNotice() {
     windows_.setNotice(waiting ? localized("This desktop shows no tray at the moment; Nocturo can "
                                            "be reached through the applications menu.")
                                : QString());
+}
+
+void DesktopMenus::popUpStatusMenu(int x, int y) {
+    // Some panels tell a place as seen from their own window. The click was at the pointer, which
+    // Wayland keeps to itself.
+    const bool isPointerKnown = QGuiApplication::platformName() == QStringLiteral("xcb");
+    statusMenu_.popup(isPointerKnown ? QCursor::pos() : QPoint(x, y));
 }
 
 void DesktopMenus::showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) {

@@ -43,7 +43,7 @@ class DesktopMenus {
     void setInTray(bool inTray) { taskbarPresence_.setHidden(inTray); }
     void setItemEmbedded(bool embedded) { statusItem_.setShown(embedded); }
     void setItemImage(bool active) { statusItem_.setActive(active); }
-    void popUpStatusMenu(int x, int y) { statusMenu_.popup({x, y}); }
+    void popUpStatusMenu(int x, int y);
 
   private:
     MainMenu::Handlers mainMenuHandlers();
