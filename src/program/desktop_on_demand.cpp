@@ -9,6 +9,7 @@
 #include "documents/effect_document_file.h"
 #include "program/surroundings.h"
 
+#include <chrono>
 #include <dlfcn.h>
 #include <string_view>
 #include <utility>
@@ -18,6 +19,9 @@ namespace nocturo {
 namespace {
 
 constexpr const char* kLibrary = "libnocturo-desktop.so";
+
+// Many panels embed windows and show items of the bus; which they are ready for first is chance.
+constexpr std::chrono::milliseconds kPanelsHaste(500);
 
 /// The library stays loaded until the process ends: Qt cannot be unloaded.
 Result<const DesktopLibrary*> loadLibrary() {
@@ -243,11 +247,15 @@ void DesktopOnDemand::setStatusItemImage(bool active) {
 void DesktopOnDemand::setItemEmbedded(bool embedded) {
     itemEmbedded_ = embedded;
     awaitedTray_.reset();
+    trayLook_.reset();
     if (part_ != nullptr) {
         part_->setItemEmbedded(embedded);
     } else if (embedded && server_ != nullptr) {
-        awaitedTray_ = std::make_unique<TrayWindow>(*server_, [this] { showItemWhereTrayIs(); });
-        loop_.callSoon([this] { showItemWhereTrayIs(); });
+        const auto lookSoon = [this] {
+            trayLook_ = loop_.scheduleTimer(kPanelsHaste, [this] { showItemWhereTrayIs(); });
+        };
+        awaitedTray_ = std::make_unique<TrayWindow>(*server_, lookSoon);
+        lookSoon();
     }
 }
 
