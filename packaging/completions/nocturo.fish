@@ -1,4 +1,5 @@
 complete -c nocturo -f
+complete -c nocturo -l off -d 'Start with the effect off'
 complete -c nocturo -l display-services -x -a 'auto\t"what this session offers" randr\t"an X server" wlr\t"a Wayland compositor like sway" simulated\t"displays in memory"' -d 'Where the displays come from'
 complete -c nocturo -l help -d 'Show a short text'
 complete -c nocturo -l version -d 'Show the version'

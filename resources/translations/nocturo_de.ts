@@ -1023,6 +1023,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Das Laufzeitverzeichnis kann nicht benutzt werden; setzen Sie XDG_RUNTIME_DIR auf ein eigenes Verzeichnis.</translation>
         </message>
         <message>
+            <source>Nocturo starts switched off, because nocturoctl restore gave the displays back.</source>
+            <translation>Nocturo startet ausgeschaltet, weil nocturoctl restore die Bildschirme zurückgegeben hat.</translation>
+        </message>
+        <message>
+            <source>Nocturo starts switched off.</source>
+            <translation>Nocturo startet ausgeschaltet.</translation>
+        </message>
+        <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
 the HDTV range or through a color filter. Runs until it is told to quit, and
 gives every display back then. Drive it with nocturoctl.</source>

@@ -1023,6 +1023,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>No se puede usar el directorio de ejecución; ponga en XDG_RUNTIME_DIR un directorio suyo.</translation>
         </message>
         <message>
+            <source>Nocturo starts switched off, because nocturoctl restore gave the displays back.</source>
+            <translation>Nocturo se inicia desactivado porque nocturoctl restore devolvió las pantallas.</translation>
+        </message>
+        <message>
+            <source>Nocturo starts switched off.</source>
+            <translation>Nocturo se inicia desactivado.</translation>
+        </message>
+        <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
 the HDTV range or through a color filter. Runs until it is told to quit, and
 gives every display back then. Drive it with nocturoctl.</source>

@@ -1023,6 +1023,14 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Le répertoire d’exécution est inutilisable ; indiquez dans XDG_RUNTIME_DIR un répertoire qui vous appartient.</translation>
         </message>
         <message>
+            <source>Nocturo starts switched off, because nocturoctl restore gave the displays back.</source>
+            <translation>Nocturo démarre désactivé, car nocturoctl restore a rendu les écrans.</translation>
+        </message>
+        <message>
+            <source>Nocturo starts switched off.</source>
+            <translation>Nocturo démarre désactivé.</translation>
+        </message>
+        <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
 the HDTV range or through a color filter. Runs until it is told to quit, and
 gives every display back then. Drive it with nocturoctl.</source>

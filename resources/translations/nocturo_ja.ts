@@ -1023,6 +1023,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>ランタイムディレクトリを使用できません。XDG_RUNTIME_DIR に自分のディレクトリを指定してください。</translation>
         </message>
         <message>
+            <source>Nocturo starts switched off, because nocturoctl restore gave the displays back.</source>
+            <translation>nocturoctl restore で画面が元に戻されたため、Nocturo をオフの状態で起動しました。</translation>
+        </message>
+        <message>
+            <source>Nocturo starts switched off.</source>
+            <translation>Nocturo をオフの状態で起動しました。</translation>
+        </message>
+        <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
 the HDTV range or through a color filter. Runs until it is told to quit, and
 gives every display back then. Drive it with nocturoctl.</source>

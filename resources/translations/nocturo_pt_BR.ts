@@ -1023,6 +1023,14 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>O diretório de execução não pode ser usado; defina em XDG_RUNTIME_DIR um diretório seu.</translation>
         </message>
         <message>
+            <source>Nocturo starts switched off, because nocturoctl restore gave the displays back.</source>
+            <translation>O Nocturo inicia desativado porque nocturoctl restore devolveu as telas.</translation>
+        </message>
+        <message>
+            <source>Nocturo starts switched off.</source>
+            <translation>O Nocturo inicia desativado.</translation>
+        </message>
+        <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
 the HDTV range or through a color filter. Runs until it is told to quit, and
 gives every display back then. Drive it with nocturoctl.</source>

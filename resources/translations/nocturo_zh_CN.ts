@@ -1023,6 +1023,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>运行时目录无法使用；请将 XDG_RUNTIME_DIR 设为您自己的目录。</translation>
         </message>
         <message>
+            <source>Nocturo starts switched off, because nocturoctl restore gave the displays back.</source>
+            <translation>由于 nocturoctl restore 已还原屏幕，Nocturo 以关闭状态启动。</translation>
+        </message>
+        <message>
+            <source>Nocturo starts switched off.</source>
+            <translation>Nocturo 以关闭状态启动。</translation>
+        </message>
+        <message>
             <source>Changes how whole screens look: inverted, overexposed, dimmed or lightened, in
 the HDTV range or through a color filter. Runs until it is told to quit, and
 gives every display back then. Drive it with nocturoctl.</source>

@@ -65,6 +65,9 @@ class NDAppController : public ActionTarget {
 
     // Launch and end
 
+    /// Has the launch leave the effect off, whatever the settings say, and save that it is.
+    void startSwitchedOff() { startsSwitchedOff_ = true; }
+
     /// Warns of f.lux, registers the defaults, switches the effect as "ActivateAtLaunch" and the
     /// saved "EffectActive" say, warns when no effect is selected, registers the hot key, shows the
     /// status item if it is wanted, makes the screen menus, and starts following the workspace and
@@ -207,6 +210,7 @@ class NDAppController : public ActionTarget {
     UserInterface* userInterface_ = nullptr;
     DesktopFace* desktop_ = nullptr;
     const InstalledApplications* installedApplications_ = nullptr;
+    bool startsSwitchedOff_ = false;
     bool didCheckForNoEffectsAtStartup_ = false;
     bool statusItemReady_ = false;
     bool statusItemShown_ = false;

@@ -100,7 +100,9 @@ void NDAppController::initDefaults() {
 }
 
 void NDAppController::restoreEffect() {
-    if (defaults_.boolForKey(kActivateAtLaunch)) {
+    if (startsSwitchedOff_) {
+        setEffectActive(false, true);
+    } else if (defaults_.boolForKey(kActivateAtLaunch)) {
         setEffectActive(true, true);
     } else if (defaults_.boolForKey(kEffectActive)) {
         setEffectActive(true, false);

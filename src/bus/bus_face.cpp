@@ -25,7 +25,6 @@ namespace nocturo {
 namespace {
 
 // Long enough for a busy first instance, short enough for the user who waits for the second.
-constexpr int kReopenTimeoutMs = 2000;
 
 tl::unexpected<BusFailure> noSetting(const std::string& key) {
     return refusal(translated("There is no setting \"%@\".", {key}));
@@ -311,11 +310,6 @@ void BusFace::announce() {
     appendDictionary(message, changed);
     sd_bus_message_append(message, "as", 0);
     sd_bus_message_send(message);
-}
-
-bool reopenRunningApplication(const Bus& bus) {
-    const BusMessage call = bus.newCall(kBusName, kObjectPath, kNocturoInterface, "Reopen");
-    return bus.callAndWait(call, kReopenTimeoutMs, nullptr) != nullptr;
 }
 
 } // namespace nocturo

@@ -92,7 +92,4 @@ class BusFace {
     std::set<std::string_view> unannounced_; // what may have changed, to be looked at soon
 };
 
-/// Has the application that owns its name on the bus be re-opened; false when it does not answer.
-bool reopenRunningApplication(const Bus& bus);
-
 } // namespace nocturo

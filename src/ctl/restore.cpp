@@ -4,7 +4,7 @@
 #include "base/event_loop.h"
 #include "base/file_descriptor.h"
 #include "base/texts/translated.h"
-#include "bus/bus_names.h"
+#include "bus/running_application.h"
 #include "ctl/failure.h"
 #include "ctl/output.h"
 #include "displays/calibration/profile_calibrations.h"
@@ -58,12 +58,7 @@ class Deadline {
 /// Asks whoever is reached over the session bus, which may be one that changes other displays.
 bool switchOffOverTheBus(EventLoop& loop) {
     const auto bus = Bus::connect(sessionBusAddress(), loop);
-    if (bus == nullptr) {
-        return false;
-    }
-    const BusMessage call = bus->newCall(kBusName, kObjectPath, kNocturoInterface, "SetActive");
-    return sd_bus_message_append(call.get(), "b", 0) >= 0 &&
-           bus->callAndWait(call, kPatienceWithBusMs, nullptr) != nullptr;
+    return bus != nullptr && switchRunningApplicationOff(*bus, kPatienceWithBusMs);
 }
 
 ListedText told(const RestoredByHand& done, bool switchedOff) {

@@ -1,6 +1,5 @@
 #include "program/core.h"
 
-#include "displays/guard/guard_process.h"
 #include "program/instance_lock.h"
 
 #include <csignal>
@@ -9,7 +8,7 @@
 namespace nocturo {
 
 std::array<int, 5> Core::signalNumbers() {
-    return {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal, kSwitchOffSignal};
+    return {SIGINT, SIGTERM, SIGHUP, InstanceLock::kReopenSignal, InstanceLock::kSwitchOffSignal};
 }
 
 Core::Core(DefaultsStore& store, EventLoop& loop)
@@ -30,7 +29,7 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
 void Core::signalWasSent(int number) {
     if (number == InstanceLock::kReopenSignal) {
         controller.applicationShouldHandleReopen(false);
-    } else if (number == kSwitchOffSignal) {
+    } else if (number == InstanceLock::kSwitchOffSignal) {
         controller.setEffectActive(false, true);
     } else {
         runLoop.quit();

@@ -21,6 +21,7 @@ struct flock wholeFile() {
 } // namespace
 
 const int InstanceLock::kReopenSignal = SIGUSR1;
+const int InstanceLock::kSwitchOffSignal = SIGUSR2;
 
 InstanceLock::InstanceLock(const std::filesystem::path& directory)
     : file_(open((directory / "lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
@@ -28,10 +29,10 @@ InstanceLock::InstanceLock(const std::filesystem::path& directory)
     held_ = fcntl(file_.get(), F_SETLK, &lock) == 0 || (errno != EACCES && errno != EAGAIN);
 }
 
-void InstanceLock::askHolderToReopen() const {
+void InstanceLock::askHolder(int signal) const {
     struct flock holder = wholeFile();
     if (fcntl(file_.get(), F_GETLK, &holder) == 0 && holder.l_type != F_UNLCK && holder.l_pid > 0) {
-        kill(holder.l_pid, kReopenSignal);
+        kill(holder.l_pid, signal);
     }
 }
 

@@ -17,10 +17,11 @@ class InstanceLock {
     /// run.
     bool isHeld() const { return held_; }
 
-    /// Asks the process that holds the lock to be re-opened, by the signal below.
-    void askHolderToReopen() const;
+    /// Sends one of the signals below to the process that holds the lock.
+    void askHolder(int signal) const;
 
     static const int kReopenSignal;
+    static const int kSwitchOffSignal;
 
   private:
     FileDescriptor file_;

@@ -59,7 +59,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     }
     Core core(*DefaultsStore::standardUserDefaults(), loop);
     const std::vector<std::string> documents = absolutePaths(options.documents);
-    const SessionClaim claim(core.sessionBus.get(), directory, documents);
+    const SessionClaim claim(core.sessionBus.get(), directory, documents, options.switchedOff);
     if (!claim.isGranted()) {
         if (!startupIdentifier.empty()) {
             finishStartup(XConnection::open(xDisplayName()).get(), startupIdentifier);
@@ -84,6 +84,13 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     }
     if (!opened->notice.empty()) {
         tell(stdout, opened->notice);
+    }
+    if (options.switchedOff || opened->restoredByHand) {
+        tell(stdout, opened->restoredByHand
+                         ? translated("Nocturo starts switched off, because nocturoctl restore "
+                                      "gave the displays back.")
+                         : translated("Nocturo starts switched off."));
+        core.controller.startSwitchedOff();
     }
     const ConnectedDisplays displays(std::move(*opened), core.centers);
 

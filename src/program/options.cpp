@@ -20,8 +20,9 @@ std::string helpText() {
     constexpr std::size_t kMeaning = 28;
     constexpr std::size_t kMeaningOfChoice = 45;
     const std::string indent(kMeaning + 2, ' ');
-    return translated("Usage: %@",
-                      {"nocturo [--display-services=auto|randr|wlr|simulated[:N]] [FILE...]"}) +
+    return translated(
+               "Usage: %@",
+               {"nocturo [--off] [--display-services=auto|randr|wlr|simulated[:N]] [FILE...]"}) +
            "\n\n" +
            translated("Changes how whole screens look: inverted, overexposed, dimmed or lightened, "
                       "in\nthe HDTV range or through a color filter. Runs until it is told to "
@@ -63,6 +64,10 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         }
         if (argument == "--version") {
             return PrintAndExit{"nocturo " NOCTURO_VERSION "\n"};
+        }
+        if (argument == "--off") {
+            options.switchedOff = true;
+            continue;
         }
         if (!argument.starts_with(kDisplayServices)) {
             return UsageError{

@@ -12,6 +12,7 @@ namespace nocturo {
 /// what is wrong with it.
 struct RunOptions {
     DisplayChoice displays;
+    bool switchedOff = false;           // whatever the settings say
     std::vector<std::string> documents; // paths, as they were given
 };
 struct PrintAndExit {

@@ -3,22 +3,23 @@
 #include "base/bus.h"
 #include "base/log.h"
 #include "base/texts/translated.h"
-#include "bus/bus_face.h"
 #include "bus/bus_names.h"
 #include "bus/launcher_face.h"
+#include "bus/running_application.h"
 
 namespace nocturo {
 
 namespace {
 
 constexpr int kPatienceWithBusMs = 500;
+constexpr int kPatienceWithAnother = 2000; // milliseconds, too
 
 } // namespace
 
 SessionClaim::SessionClaim(const Bus* bus,
                            const std::optional<std::filesystem::path>& runtimeDirectory,
-                           const std::vector<std::string>& documents)
-    : bus_(bus) {
+                           const std::vector<std::string>& documents, bool switchedOff)
+    : bus_(bus), switchedOff_(switchedOff) {
     auto claim =
         bus_ != nullptr ? bus_->claimName(kBusName, kPatienceWithBusMs) : Bus::Claim::busIsSilent;
     if (claim == Bus::Claim::taken && !passOnOverBus(documents)) {
@@ -32,6 +33,9 @@ SessionClaim::SessionClaim(const Bus* bus,
 }
 
 bool SessionClaim::passOnOverBus(const std::vector<std::string>& documents) {
+    if (switchedOff_) {
+        return switchRunningApplicationOff(*bus_, kPatienceWithAnother);
+    }
     if (documents.empty()) {
         return reopenRunningApplication(*bus_);
     }
@@ -50,8 +54,10 @@ void SessionClaim::askForLock(const std::optional<std::filesystem::path>& runtim
     if (granted_) {
         return;
     }
-    if (documents.empty()) {
-        lock_->askHolderToReopen();
+    if (switchedOff_) {
+        lock_->askHolder(InstanceLock::kSwitchOffSignal);
+    } else if (documents.empty()) {
+        lock_->askHolder(InstanceLock::kReopenSignal);
     } else {
         problem_ =
             translated("Without a session bus the Nocturo that runs cannot be given a document.");

@@ -18,9 +18,9 @@ class SessionClaim {
   public:
     /// `bus` is the session bus, or null; one that does not answer counts as none.
     /// Where there is another Nocturo it opens the documents at these absolute paths, or is
-    /// re-opened when there are none.
+    /// re-opened when there are none. With `switchedOff` it is switched off instead of that.
     SessionClaim(const Bus* bus, const std::optional<std::filesystem::path>& runtimeDirectory,
-                 const std::vector<std::string>& documents);
+                 const std::vector<std::string>& documents, bool switchedOff);
 
     /// False when there is another Nocturo.
     bool isGranted() const { return granted_; }
@@ -34,6 +34,7 @@ class SessionClaim {
                     const std::vector<std::string>& documents);
 
     const Bus* bus_;
+    bool switchedOff_;
     std::optional<InstanceLock> lock_;
     bool granted_ = false;
     std::string problem_;

@@ -18,8 +18,6 @@ namespace fs = std::filesystem;
 
 constexpr int kDisplays = 4;
 constexpr Milliseconds kWithin{100};
-constexpr const char* kGuard = "nocturo-guard";
-constexpr const char* kSpare = "display-keeper";
 constexpr const char* kAllOwn = "oooo";
 constexpr const char* kAllChanged = "????"; // inverted and dimmed
 
@@ -63,25 +61,6 @@ class Guard : public NocturoOnX {
         return true;
     }
 
-    /// Kills Nocturo and its guards of these names at once; whether a guard is left.
-    bool killWith(const std::vector<std::string>& names) {
-        nocturo_->signal(SIGSTOP); // or it starts other guards
-        std::vector<pid_t> killed;
-        std::size_t guards = 0;
-        for (const char* name : {kGuard, kSpare, "nocturo"}) { // its own for a moment
-            const auto children = childrenNamed(nocturo_->id(), name);
-            guards += children.size();
-            if (std::find(names.begin(), names.end(), name) != names.end()) {
-                killed.insert(killed.end(), children.begin(), children.end());
-            }
-        }
-        for (const pid_t guard : killed) {
-            ::kill(guard, SIGKILL);
-        }
-        nocturo_->signal(SIGKILL);
-        nocturo_->wait();
-        return guards > killed.size();
-    }
     void killAtRandomMoments(int rounds);
     void restoreWhileTheGuardsDo(int rounds);
 
@@ -300,6 +279,30 @@ TEST_F(Guard, RestoreByHandWorksInEverySituation) {
     client_.setRamp(output(0), anothers);
     says("nothing was done");
     EXPECT_EQ(client_.ramp(output(0)), anothers) << "it is not Nocturo's";
+}
+
+TEST_F(Guard, ARestoreOrAnOptionKeepsTheNextStartSwitchedOff) {
+    const auto startSays = [&](const std::vector<std::string>& options, std::string_view words) {
+        nocturo_ = session_.startNocturo(options);
+        EXPECT_EQ(nocturo_->readLine().value_or(""), words);
+        EXPECT_EQ(status()["active"], false);
+        EXPECT_EQ(shown(), kAllOwn);
+        ctl({"on"}); // once somebody wants it, it comes back
+        EXPECT_TRUE(becomes("iiii"));
+    };
+    select("NDInvertEffect");
+    startSays({"--off"}, "nocturo: Nocturo starts switched off.");
+    EXPECT_EQ(session_.run("nocturo", {"--off"}).exit, 0);
+    EXPECT_EQ(shown(), kAllOwn) << "the one that runs is switched off";
+    ctl({"on"});
+    kill(true);
+    waitForTheBus();
+    ctl({"restore"});
+    startSays({}, "nocturo: Nocturo starts switched off, because nocturoctl restore gave the "
+                  "displays back.");
+    end();
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(becomes("iiii"));
 }
 
 // Another server's Nocturo, or whoever else has the name, says that it has done it.

@@ -112,30 +112,46 @@ struct NocturoOnX : NocturoTest {
             Milliseconds(500));
         return guards.size() == 1 ? guards.front() : -1;
     }
-    /// With `guardsToo` also the guard and its spare, where they have come so far.
+    /// With `guardsToo` also all guards.
     void kill(bool guardsToo) {
-        nocturo_->signal(SIGSTOP); // or it starts other guards
         if (guardsToo) {
-            guardProcess();
-            for (const pid_t guard : guardsOf(nocturo_->id())) {
-                ::kill(guard, SIGKILL);
+            guardProcess(); // waits for it
+        }
+        killWith(guardsToo ? std::vector<std::string>{kGuard, kSpare, kNoNameYet}
+                           : std::vector<std::string>{});
+    }
+    /// Kills Nocturo and its guards of these names at once; whether a guard is left.
+    bool killWith(const std::vector<std::string>& names) {
+        nocturo_->signal(SIGSTOP); // or it starts other guards
+        std::vector<pid_t> killed;
+        std::size_t guards = 0;
+        for (const char* name : {kGuard, kSpare, kNoNameYet}) {
+            const auto children = childrenNamed(nocturo_->id(), name);
+            guards += children.size();
+            if (std::find(names.begin(), names.end(), name) != names.end()) {
+                killed.insert(killed.end(), children.begin(), children.end());
             }
+        }
+        for (const pid_t guard : killed) {
+            ::kill(guard, SIGKILL);
         }
         nocturo_->signal(SIGKILL);
         nocturo_->wait();
+        return guards > killed.size();
     }
     static std::vector<pid_t> guardsOf(pid_t parent) {
-        std::vector<pid_t> guards = childrenNamed(parent, "nocturo-guard");
-        const std::vector<pid_t> spare = childrenNamed(parent, "display-keeper");
+        std::vector<pid_t> guards = childrenNamed(parent, kGuard);
+        const std::vector<pid_t> spare = childrenNamed(parent, kSpare);
         guards.insert(guards.end(), spare.begin(), spare.end());
         return guards;
     }
     /// Waits for the guards that killed applications left to end as they should. Without its server
     /// one that was still about to connect fails.
     void reapGuards(bool serverIsGone = false) {
+        serverIsGone_ = serverIsGone_ || serverIsGone;
         for (const pid_t guard : guardsOf(getpid())) {
             const auto exit = waitForChild(guard);
-            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL || (serverIsGone && exit == 1))
+            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL || (serverIsGone_ && exit == 1))
                 << exit.value_or(-1);
         }
     }
@@ -152,9 +168,13 @@ struct NocturoOnX : NocturoTest {
     }
     bool isMarked() { return !client_.rootBytes(kMark).empty(); }
 
+    static constexpr const char* kGuard = "nocturo-guard";
+    static constexpr const char* kSpare = "display-keeper";
+    static constexpr const char* kNoNameYet = "nocturo"; // of a guard, for a moment
     static constexpr const char* kJournal = "_NOCTURO_OWN_RAMPS";
     static constexpr const char* kMark = "_NOCTURO_CHANGED_DISPLAYS";
 
+    bool serverIsGone_ = false;
     XClient client_{session_.server().display()};
     std::vector<Channels> own_;
 };

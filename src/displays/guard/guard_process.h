@@ -3,7 +3,6 @@
 #include "base/file_descriptor.h"
 #include "base/result.h"
 
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -15,9 +14,6 @@ namespace nocturo {
 /// Where a guard program is: beside the running program, else where it is installed to. The first
 /// of them when it is in neither place.
 std::filesystem::path guardProgram(const char* name = "nocturo-guard");
-
-/// Asks a Nocturo that cannot be reached over a bus to switch the effect off.
-inline constexpr int kSwitchOffSignal = SIGUSR2;
 
 /// The guard's end of the connection, from its start on.
 inline constexpr int kGuardDescriptor = 3;
