@@ -18,9 +18,10 @@ namespace nocturo {
 double remainingContrast(const ZQGammaCurve& after);
 
 /// Whether somebody who sees only this may fail to find the way back: less than an eighth of the
-/// range is left. White that is dimmed to an eighth gives a hundredth of its light, which the
-/// reflections on a screen in daylight outshine. A negative, a single channel at full strength
-/// and the video range are far from it. False without samples.
+/// range is left to all levels but a few, one in 64, which may stray from the others. White that is
+/// dimmed to an eighth gives a hundredth of its light, which the reflections on a screen in
+/// daylight outshine. A negative, a single channel at full strength and the video range are far
+/// from it. False without samples.
 bool isUnreadable(const ZQGammaCurve& after);
 
 } // namespace nocturo

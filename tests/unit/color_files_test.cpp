@@ -123,9 +123,16 @@ TEST(ColorProfile, WhatIsNoneIsRefused) {
         EXPECT_NE(reading.error().text, "") << size;
     }
     EXPECT_FALSE(readCalibration(Bytes(100000, 0), 256));
-    Channels dark;
-    dark.fill(std::vector<std::uint16_t>(256));
-    EXPECT_FALSE(readCalibration(rig::colorProfile(dark), 256));
+    // Black, black with white or nearly black at the end, white from the second entry on.
+    for (const auto [second, last] :
+         {std::array<std::uint16_t, 2>{0, 0}, {0, 65535}, {0, 1}, {65535, 65535}}) {
+        std::vector<std::uint16_t> flat(256, second);
+        flat.front() = 0;
+        flat.back() = last;
+        for (const std::uint32_t size : {256U, 1024U}) {
+            EXPECT_FALSE(readCalibration(rig::colorProfile({flat, flat, flat}), size)) << last;
+        }
+    }
 }
 
 TEST(ColorProfile, OnlyRegularFilesOfASensibleSizeAreRead) {

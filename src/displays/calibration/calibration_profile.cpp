@@ -1,5 +1,7 @@
 #include "displays/calibration/calibration_profile.h"
 
+#include "displays/readability.h"
+
 #include <array>
 #include <memory>
 #include <vector>
@@ -24,9 +26,19 @@ bool isCutShort(std::span<const std::uint8_t> profile) {
     return size > profile.size();
 }
 
+// A calibration that falls is none, however readable it would be.
 bool risesOnNoChannel(const Ramp& ramp) {
     return ramp.red.back() <= ramp.red.front() && ramp.green.back() <= ramp.green.front() &&
            ramp.blue.back() <= ramp.blue.front();
+}
+
+bool isUnreadable(const Ramp& ramp) {
+    ZQGammaCurve curve;
+    curve.sampleCount = kGammaCurveCapacity;
+    tableFromChannel(ramp.red, curve.sampleCount, curve.redTable.data());
+    tableFromChannel(ramp.green, curve.sampleCount, curve.greenTable.data());
+    tableFromChannel(ramp.blue, curve.sampleCount, curve.blueTable.data());
+    return isUnreadable(curve);
 }
 
 } // namespace
@@ -62,7 +74,7 @@ Result<std::optional<Ramp>> readCalibration(std::span<const std::uint8_t> profil
         }
         channelFromTable(table.data(), rampSize, *channels[channel]);
     }
-    if (risesOnNoChannel(ramp)) {
+    if (risesOnNoChannel(ramp) || isUnreadable(ramp)) {
         return failed("its calibration would leave the screen unreadable");
     }
     return ramp;
