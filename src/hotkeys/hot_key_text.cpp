@@ -124,12 +124,14 @@ std::string inCapitals(std::string_view text) {
     }
     std::string capitals;
     for (const wchar_t character : wide) {
-        const auto capital =
-            static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(character)));
+        if (character == L'ß') {
+            capitals += "SS"; // the only letter on a key whose capital is two
+            continue;
+        }
+        const auto capital = std::towupper(static_cast<std::wint_t>(character));
         std::array<char, MB_LEN_MAX> bytes{};
-        const int length = std::wctomb(bytes.data(), capital);
-        // The only letter on a key whose capital is two.
-        capitals += character == L'ß' ? "SS" : std::string(bytes.data(), std::max(length, 0));
+        const int length = std::wctomb(bytes.data(), static_cast<wchar_t>(capital));
+        capitals.append(bytes.data(), static_cast<std::size_t>(std::max(length, 0)));
     }
     return capitals;
 }

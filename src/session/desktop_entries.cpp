@@ -90,7 +90,9 @@ std::string localText(const Entry& entry, const std::string& key) {
         const auto at = std::min(locale.find('@'), locale.size());
         const std::string variety = locale.substr(at);
         for (const auto& each : {name + variety, name, language + variety, language}) {
-            if (std::string text = textOf(entry, key + "[" + each + "]"); !text.empty()) {
+            std::string translation = key;
+            translation.append("[").append(each).append("]");
+            if (std::string text = textOf(entry, translation); !text.empty()) {
                 return text;
             }
         }
@@ -147,8 +149,10 @@ std::optional<InstalledApplication> DesktopEntries::entryNamed(const std::string
             return std::nullopt;
         }
         std::string shown = localText(*entry, "Name");
-        return InstalledApplication{shown.empty() ? name : std::move(shown),
-                                    localText(*entry, "Icon")};
+        if (shown.empty()) {
+            shown = name;
+        }
+        return InstalledApplication{std::move(shown), localText(*entry, "Icon")};
     }
     return std::nullopt;
 }
