@@ -5,10 +5,14 @@ _nocturoctl_displays() {
   nocturoctl screens 2>/dev/null | sed -n 's/^ *\[[x ]\] *\([0-9]*\) *\([^ ]*\).*/\1 \2/p'
 }
 
+_nocturoctl_looks() {
+  nocturoctl look list --json 2>/dev/null | grep -o '"name":"[^"]*"' | cut -d '"' -f 4
+}
+
 _nocturoctl() {
   local cur prev words cword
   _init_completion -n : || return
-  local verbs='on off toggle status effects temperature get set reset screens hotkey watch restore quit
+  local verbs='on off toggle status effects temperature look get set reset screens hotkey watch restore quit
     open save preferences about preview'
   local effects='invert overexposure dim color-filter hdtv-luminance'
   local switches='ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver
@@ -24,6 +28,18 @@ _nocturoctl() {
       status:2) choices='--json' ;;
       effects:2) choices='add remove only' ;;
       effects:*) choices=$effects ;;
+      look:*)
+        [[ $cword != 2 ]] || choices='next previous back list save delete rename move'
+        [[ $cword:$prev != 3:list ]] || choices='--json'
+        if ((cword == 2)) || [[ $cword:$prev =~ ^3:(delete|rename|move)$ ]]; then
+          local IFS=$'\n' look
+          mapfile -t COMPREPLY < <(compgen -W "${choices// /$IFS}$IFS$(_nocturoctl_looks)" -- "$cur")
+          for look in "${!COMPREPLY[@]}"; do
+            COMPREPLY[look]=$(printf '%q' "${COMPREPLY[look]}")
+          done
+          return
+        fi
+        ;;
       get:2 | set:2 | reset:2) choices=$settings ;;
       set:3) [[ " $switches " != *[[:space:]]"$prev"[[:space:]]* ]] || choices='true false' ;;
       screens:2) choices='all toggle' ;;
@@ -44,7 +60,7 @@ _nocturoctl() {
         esac
         ;;
     esac
-    if [[ $cur == -* && ' on toggle effects temperature set reset screens open ' == *" ${words[1]} "* ]]; then
+    if [[ $cur == -* && ' on toggle effects temperature look set reset screens open ' == *" ${words[1]} "* ]]; then
       choices='--keep --help'
     fi
     [[ $cur != -* || -n $choices ]] || choices='--help'

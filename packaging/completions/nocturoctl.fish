@@ -2,6 +2,10 @@ function __nocturoctl_displays
     nocturoctl screens 2>/dev/null | string replace -rf '^ *\[[x ]\] *([0-9]+) *(\S+).*' '$1\t$2'
 end
 
+function __nocturoctl_looks
+    nocturoctl look list --json 2>/dev/null | string match -ar '"name":"[^"]*"' | string replace -r '"name":"(.*)"' '$1'
+end
+
 function __nocturoctl_at -d 'True where the given verb was written and so many words follow it'
     set -l words (commandline -opc)
     test (count $words) -eq (math 2 + $argv[2]); and test "$words[2]" = $argv[1]
@@ -25,6 +29,7 @@ complete -c nocturoctl -n __fish_use_subcommand -a toggle -d 'Switch the effect 
 complete -c nocturoctl -n __fish_use_subcommand -a status -d 'Show the state of everything'
 complete -c nocturoctl -n __fish_use_subcommand -a effects -d 'List or choose the effects'
 complete -c nocturoctl -n __fish_use_subcommand -a temperature -d 'Show or choose a color temperature'
+complete -c nocturoctl -n __fish_use_subcommand -a look -d 'Show, choose or keep a combination of effects'
 complete -c nocturoctl -n __fish_use_subcommand -a get -d 'Show a setting'
 complete -c nocturoctl -n __fish_use_subcommand -a set -d 'Change a setting'
 complete -c nocturoctl -n __fish_use_subcommand -a reset -d 'Give a setting its default value again'
@@ -39,10 +44,16 @@ complete -c nocturoctl -n __fish_use_subcommand -a preferences -d 'Show the pref
 complete -c nocturoctl -n __fish_use_subcommand -a about -d 'Show the box about Nocturo'
 complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a display shows into a picture'
 
-complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects temperature set reset screens open' -l keep -d 'Keep the colors even if hard to read'
+complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects temperature look set reset screens open' -l keep -d 'Keep the colors even if hard to read'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'
 complete -c nocturoctl -n '__nocturoctl_at effects 0' -a 'add remove only'
 complete -c nocturoctl -n '__fish_seen_subcommand_from effects; and not __nocturoctl_at effects 0' -a "$effects"
+complete -c nocturoctl -n '__nocturoctl_at look 0' -a 'next previous back list save delete rename move'
+complete -c nocturoctl -n '__nocturoctl_at look 0' -a '(__nocturoctl_looks)'
+for how in delete rename move
+    complete -c nocturoctl -n "__nocturoctl_after look $how" -a '(__nocturoctl_looks)'
+end
+complete -c nocturoctl -n '__nocturoctl_after look list' -l json -d 'One list for programs'
 for verb in get set reset
     complete -c nocturoctl -n "__nocturoctl_at $verb 0" -a "$settings"
 end

@@ -239,6 +239,10 @@
             <translation>Effekt einschalten</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Looks</translation>
+        </message>
+        <message>
             <source>All Screens</source>
             <translation>Alle Bildschirme</translation>
         </message>
@@ -397,6 +401,22 @@ einer Klasse. add und remove ändern die Auswahl, only ersetzt sie.</translation
 color filter, which is chosen. +N and -N go so far from the one in force.</source>
             <translation>Von 1000 (Kerze) über 6500 (neutral) bis 25000 (blauer Himmel), als Farbton und
 Sättigung des Farbfilters, der damit gewählt ist. +N und -N gehen von der geltenden aus.</translation>
+        </message>
+        <message>
+            <source>Show, choose or keep a combination of effects</source>
+            <translation>Eine Verbindung von Effekten zeigen, wählen oder behalten</translation>
+        </message>
+        <message>
+            <source>list [--json]      all of them, those that come with Nocturo and your own
+next, previous     the one after or before the one in force
+back               what the last look replaced
+save NAME          keep the effects as a look of your own
+rename NAME NEW, delete NAME, move NAME PLACE</source>
+            <translation>list [--json]      alle, die von Nocturo und die eigenen
+next, previous     der nach oder vor dem geltenden
+back               was der letzte Look ersetzt hat
+save NAME          die Effekte als eigenen Look behalten
+rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>Show a setting</source>
@@ -645,6 +665,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>Hauptbildschirm</translation>
+        </message>
+        <message>
+            <source>own</source>
+            <translation>eigener</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -965,6 +989,50 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ cannot be reached.</source>
             <translation>Der X-Server %@ ist nicht erreichbar.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>Einen Look „%@“ gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>There are no looks.</source>
+            <translation>Es gibt keine Looks.</translation>
+        </message>
+        <message>
+            <source>No look was applied from which one could go back.</source>
+            <translation>Es wurde kein Look angewandt, von dem aus man zurückgehen könnte.</translation>
+        </message>
+        <message>
+            <source>Night reading</source>
+            <translation>Lesen bei Nacht</translation>
+        </message>
+        <message>
+            <source>Warm evening</source>
+            <translation>Warmer Abend</translation>
+        </message>
+        <message>
+            <source>Red night vision</source>
+            <translation>Rotes Nachtsehen</translation>
+        </message>
+        <message>
+            <source>Just dimmer</source>
+            <translation>Nur dunkler</translation>
+        </message>
+        <message>
+            <source>Paper tint</source>
+            <translation>Papierton</translation>
+        </message>
+        <message>
+            <source>"%@" cannot be the name of a look.</source>
+            <translation>„%@“ kann nicht der Name eines Looks sein.</translation>
+        </message>
+        <message>
+            <source>The look "%@" comes with Nocturo and stays as it is.</source>
+            <translation>Der Look „%@“ gehört zu Nocturo und bleibt, wie er ist.</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>Einen Look „%@“ gibt es schon.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

@@ -239,6 +239,10 @@
             <translation>Activar el efecto</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Aspectos</translation>
+        </message>
+        <message>
             <source>All Screens</source>
             <translation>Todas las pantallas</translation>
         </message>
@@ -397,6 +401,22 @@ clase. add y remove modifican la selección, only la sustituye.</translation>
 color filter, which is chosen. +N and -N go so far from the one in force.</source>
             <translation>De 1000 (vela) pasando por 6500 (neutra) a 25000 (cielo azul), como tono y viveza del
 filtro de color, que queda elegido. +N y -N parten de la vigente.</translation>
+        </message>
+        <message>
+            <source>Show, choose or keep a combination of effects</source>
+            <translation>Mostrar, elegir o guardar una combinación de efectos</translation>
+        </message>
+        <message>
+            <source>list [--json]      all of them, those that come with Nocturo and your own
+next, previous     the one after or before the one in force
+back               what the last look replaced
+save NAME          keep the effects as a look of your own
+rename NAME NEW, delete NAME, move NAME PLACE</source>
+            <translation>list [--json]      todos, los que vienen con Nocturo y los propios
+next, previous     el siguiente o el anterior al vigente
+back               lo que sustituyó el último aspecto
+save NAME          guardar los efectos como aspecto propio
+rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>Show a setting</source>
@@ -645,6 +665,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>principal</translation>
+        </message>
+        <message>
+            <source>own</source>
+            <translation>propio</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -965,6 +989,50 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ cannot be reached.</source>
             <translation>No se puede acceder al servidor X %@.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>No existe el aspecto «%@».</translation>
+        </message>
+        <message>
+            <source>There are no looks.</source>
+            <translation>No hay aspectos.</translation>
+        </message>
+        <message>
+            <source>No look was applied from which one could go back.</source>
+            <translation>No se ha aplicado ningún aspecto desde el que volver.</translation>
+        </message>
+        <message>
+            <source>Night reading</source>
+            <translation>Lectura nocturna</translation>
+        </message>
+        <message>
+            <source>Warm evening</source>
+            <translation>Tarde cálida</translation>
+        </message>
+        <message>
+            <source>Red night vision</source>
+            <translation>Visión nocturna roja</translation>
+        </message>
+        <message>
+            <source>Just dimmer</source>
+            <translation>Solo más oscuro</translation>
+        </message>
+        <message>
+            <source>Paper tint</source>
+            <translation>Tono papel</translation>
+        </message>
+        <message>
+            <source>"%@" cannot be the name of a look.</source>
+            <translation>«%@» no puede ser el nombre de un aspecto.</translation>
+        </message>
+        <message>
+            <source>The look "%@" comes with Nocturo and stays as it is.</source>
+            <translation>El aspecto «%@» viene con Nocturo y se queda como está.</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>Ya existe un aspecto «%@».</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

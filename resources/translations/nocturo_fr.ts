@@ -239,6 +239,10 @@
             <translation>Activer l’effet</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Apparences</translation>
+        </message>
+        <message>
             <source>All Screens</source>
             <translation>Tous les écrans</translation>
         </message>
@@ -397,6 +401,22 @@ classe. add et remove modifient le choix, only le remplace.</translation>
 color filter, which is chosen. +N and -N go so far from the one in force.</source>
             <translation>De 1000 (bougie) à 25000 (ciel bleu) en passant par 6500 (neutre), comme teinte et
 vivacité du filtre coloré, qui est choisi. +N et -N partent de celle en vigueur.</translation>
+        </message>
+        <message>
+            <source>Show, choose or keep a combination of effects</source>
+            <translation>Afficher, choisir ou garder une combinaison d’effets</translation>
+        </message>
+        <message>
+            <source>list [--json]      all of them, those that come with Nocturo and your own
+next, previous     the one after or before the one in force
+back               what the last look replaced
+save NAME          keep the effects as a look of your own
+rename NAME NEW, delete NAME, move NAME PLACE</source>
+            <translation>list [--json]      toutes, celles de Nocturo et les vôtres
+next, previous     celle qui suit ou précède celle en vigueur
+back               ce que la dernière apparence a remplacé
+save NAME          garder les effets comme apparence à vous
+rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>Show a setting</source>
@@ -645,6 +665,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>main</source>
             <translation>principal</translation>
+        </message>
+        <message>
+            <source>own</source>
+            <translation>à vous</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -965,6 +989,50 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The X server %@ cannot be reached.</source>
             <translation>Le serveur X %@ est injoignable.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>L’apparence « %@ » n’existe pas.</translation>
+        </message>
+        <message>
+            <source>There are no looks.</source>
+            <translation>Il n’y a pas d’apparences.</translation>
+        </message>
+        <message>
+            <source>No look was applied from which one could go back.</source>
+            <translation>Aucune apparence n’a été appliquée d’où l’on puisse revenir.</translation>
+        </message>
+        <message>
+            <source>Night reading</source>
+            <translation>Lecture de nuit</translation>
+        </message>
+        <message>
+            <source>Warm evening</source>
+            <translation>Soirée chaude</translation>
+        </message>
+        <message>
+            <source>Red night vision</source>
+            <translation>Vision nocturne rouge</translation>
+        </message>
+        <message>
+            <source>Just dimmer</source>
+            <translation>Juste plus sombre</translation>
+        </message>
+        <message>
+            <source>Paper tint</source>
+            <translation>Teinte papier</translation>
+        </message>
+        <message>
+            <source>"%@" cannot be the name of a look.</source>
+            <translation>« %@ » ne peut pas être le nom d’une apparence.</translation>
+        </message>
+        <message>
+            <source>The look "%@" comes with Nocturo and stays as it is.</source>
+            <translation>L’apparence « %@ » est fournie avec Nocturo et reste telle quelle.</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>L’apparence « %@ » existe déjà.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

@@ -239,6 +239,10 @@
             <translation>効果をオンにする</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>ルック</translation>
+        </message>
+        <message>
             <source>All Screens</source>
             <translation>すべての画面</translation>
         </message>
@@ -397,6 +401,22 @@ add と remove は選択に加除し、only は選択を置き換えます。</t
 color filter, which is chosen. +N and -N go so far from the one in force.</source>
             <translation>1000 (ろうそく) から 6500 (中性) を経て 25000 (青空) まで。カラーフィルターの色相と
 鮮やかさとして設定し、フィルターを選択します。+N と -N は今の値から増減します。</translation>
+        </message>
+        <message>
+            <source>Show, choose or keep a combination of effects</source>
+            <translation>効果の組み合わせを表示、選択、保存する</translation>
+        </message>
+        <message>
+            <source>list [--json]      all of them, those that come with Nocturo and your own
+next, previous     the one after or before the one in force
+back               what the last look replaced
+save NAME          keep the effects as a look of your own
+rename NAME NEW, delete NAME, move NAME PLACE</source>
+            <translation>list [--json]      すべて (付属のものと自作のもの)
+next, previous     今のルックの次または前
+back               最後のルックに置き換えられる前の状態
+save NAME          今の効果を自作のルックとして保存
+rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>Show a setting</source>
@@ -645,6 +665,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>メイン</translation>
+        </message>
+        <message>
+            <source>own</source>
+            <translation>自作</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -965,6 +989,50 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ cannot be reached.</source>
             <translation>X サーバー %@ に接続できません。</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>「%@」というルックはありません。</translation>
+        </message>
+        <message>
+            <source>There are no looks.</source>
+            <translation>ルックがありません。</translation>
+        </message>
+        <message>
+            <source>No look was applied from which one could go back.</source>
+            <translation>戻れるルックは適用されていません。</translation>
+        </message>
+        <message>
+            <source>Night reading</source>
+            <translation>夜の読書</translation>
+        </message>
+        <message>
+            <source>Warm evening</source>
+            <translation>暖かな夕べ</translation>
+        </message>
+        <message>
+            <source>Red night vision</source>
+            <translation>赤い暗視</translation>
+        </message>
+        <message>
+            <source>Just dimmer</source>
+            <translation>暗くするだけ</translation>
+        </message>
+        <message>
+            <source>Paper tint</source>
+            <translation>紙の色合い</translation>
+        </message>
+        <message>
+            <source>"%@" cannot be the name of a look.</source>
+            <translation>「%@」はルックの名前にできません。</translation>
+        </message>
+        <message>
+            <source>The look "%@" comes with Nocturo and stays as it is.</source>
+            <translation>ルック「%@」は Nocturo に付属するもので、変更できません。</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>「%@」というルックはすでにあります。</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

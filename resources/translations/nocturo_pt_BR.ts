@@ -239,6 +239,10 @@
             <translation>Ativar o efeito</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Visuais</translation>
+        </message>
+        <message>
             <source>All Screens</source>
             <translation>Todas as telas</translation>
         </message>
@@ -397,6 +401,22 @@ classe. add e remove alteram a seleção, only a substitui.</translation>
 color filter, which is chosen. +N and -N go so far from the one in force.</source>
             <translation>De 1000 (vela), passando por 6500 (neutra), a 25000 (céu azul), como matiz e vividez
 do filtro de cor, que fica escolhido. +N e -N partem da vigente.</translation>
+        </message>
+        <message>
+            <source>Show, choose or keep a combination of effects</source>
+            <translation>Mostrar, escolher ou guardar uma combinação de efeitos</translation>
+        </message>
+        <message>
+            <source>list [--json]      all of them, those that come with Nocturo and your own
+next, previous     the one after or before the one in force
+back               what the last look replaced
+save NAME          keep the effects as a look of your own
+rename NAME NEW, delete NAME, move NAME PLACE</source>
+            <translation>list [--json]      todos, os que vêm com o Nocturo e os próprios
+next, previous     o seguinte ou o anterior ao vigente
+back               o que o último visual substituiu
+save NAME          guardar os efeitos como visual próprio
+rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>Show a setting</source>
@@ -645,6 +665,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>main</source>
             <translation>principal</translation>
+        </message>
+        <message>
+            <source>own</source>
+            <translation>próprio</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -965,6 +989,50 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The X server %@ cannot be reached.</source>
             <translation>Não é possível acessar o servidor X %@.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>Não existe o visual “%@”.</translation>
+        </message>
+        <message>
+            <source>There are no looks.</source>
+            <translation>Não há visuais.</translation>
+        </message>
+        <message>
+            <source>No look was applied from which one could go back.</source>
+            <translation>Nenhum visual foi aplicado do qual se possa voltar.</translation>
+        </message>
+        <message>
+            <source>Night reading</source>
+            <translation>Leitura noturna</translation>
+        </message>
+        <message>
+            <source>Warm evening</source>
+            <translation>Noite aconchegante</translation>
+        </message>
+        <message>
+            <source>Red night vision</source>
+            <translation>Visão noturna vermelha</translation>
+        </message>
+        <message>
+            <source>Just dimmer</source>
+            <translation>Apenas mais escuro</translation>
+        </message>
+        <message>
+            <source>Paper tint</source>
+            <translation>Tom de papel</translation>
+        </message>
+        <message>
+            <source>"%@" cannot be the name of a look.</source>
+            <translation>“%@” não pode ser o nome de um visual.</translation>
+        </message>
+        <message>
+            <source>The look "%@" comes with Nocturo and stays as it is.</source>
+            <translation>O visual “%@” vem com o Nocturo e permanece como está.</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>Já existe um visual “%@”.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

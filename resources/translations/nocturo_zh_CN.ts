@@ -239,6 +239,10 @@
             <translation>启用效果</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>外观方案</translation>
+        </message>
+        <message>
             <source>All Screens</source>
             <translation>所有屏幕</translation>
         </message>
@@ -397,6 +401,22 @@ add 和 remove 更改选择，only 替换选择。</translation>
 color filter, which is chosen. +N and -N go so far from the one in force.</source>
             <translation>从 1000（烛光）经 6500（中性）到 25000（蓝天），以颜色滤镜的色相和鲜艳度表示，
 并选中该滤镜。+N 和 -N 从当前值开始增减。</translation>
+        </message>
+        <message>
+            <source>Show, choose or keep a combination of effects</source>
+            <translation>显示、选择或保存效果组合</translation>
+        </message>
+        <message>
+            <source>list [--json]      all of them, those that come with Nocturo and your own
+next, previous     the one after or before the one in force
+back               what the last look replaced
+save NAME          keep the effects as a look of your own
+rename NAME NEW, delete NAME, move NAME PLACE</source>
+            <translation>list [--json]      全部，包括随 Nocturo 提供的和自有的
+next, previous     当前外观方案的下一个或上一个
+back               上一个外观方案所取代的状态
+save NAME          将当前效果保存为自有外观方案
+rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>Show a setting</source>
@@ -645,6 +665,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>main</source>
             <translation>主屏幕</translation>
+        </message>
+        <message>
+            <source>own</source>
+            <translation>自有</translation>
         </message>
         <message>
             <source>Nocturo has switched its effect off and given the displays back.</source>
@@ -965,6 +989,50 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ cannot be reached.</source>
             <translation>无法连接 X 服务器 %@。</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>没有外观方案“%@”。</translation>
+        </message>
+        <message>
+            <source>There are no looks.</source>
+            <translation>没有外观方案。</translation>
+        </message>
+        <message>
+            <source>No look was applied from which one could go back.</source>
+            <translation>尚未应用可以返回的外观方案。</translation>
+        </message>
+        <message>
+            <source>Night reading</source>
+            <translation>夜间阅读</translation>
+        </message>
+        <message>
+            <source>Warm evening</source>
+            <translation>温暖傍晚</translation>
+        </message>
+        <message>
+            <source>Red night vision</source>
+            <translation>红色夜视</translation>
+        </message>
+        <message>
+            <source>Just dimmer</source>
+            <translation>仅调暗</translation>
+        </message>
+        <message>
+            <source>Paper tint</source>
+            <translation>纸张色调</translation>
+        </message>
+        <message>
+            <source>"%@" cannot be the name of a look.</source>
+            <translation>“%@”不能用作外观方案的名称。</translation>
+        </message>
+        <message>
+            <source>The look "%@" comes with Nocturo and stays as it is.</source>
+            <translation>外观方案“%@”随 Nocturo 提供，不能更改。</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>已有外观方案“%@”。</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

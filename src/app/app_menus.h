@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/looks_menu.h"
 #include "app/menu.h"
 #include "app/screen_option_menu_manager.h"
 
@@ -8,6 +9,7 @@
 
 namespace nocturo {
 
+class ChosenLook;
 class DefaultsStore;
 class NDAppController;
 class NotificationCenter;
@@ -17,7 +19,7 @@ class AppMenus {
   public:
     /// All must outlive the menus; `quit` is what the quit items do.
     AppMenus(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
-             std::function<void()> quit);
+             ChosenLook& chosenLook, std::function<void()> quit);
 
     /// The part of the main menu that switches the effect.
     Menu& effectMenu() { return effectMenu_; }
@@ -31,7 +33,8 @@ class AppMenus {
     /// Gives the activate items the title for an effect that is on or off.
     void setActivateItemTitles(bool active);
 
-    /// Fills the choice of screens in below the activate items.
+    /// Fills in, below the activate items, the choice of screens and, where the user looks for it,
+    /// that of looks.
     void makeScreenMenus();
 
   private:
@@ -40,12 +43,15 @@ class AppMenus {
     NDAppController& controller_;
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
+    ChosenLook& chosenLook_;
     Menu effectMenu_;
     Menu dockMenu_;
     Menu statusMenu_;
     Menu::Id activateItem_;
     Menu::Id dockActivateItem_;
     Menu::Id statusActivateItem_;
+    std::optional<LooksMenu> mainLooks_;
+    std::optional<LooksMenu> statusLooks_;
     std::optional<NDScreenOptionMenuManager> mainScreens_;
     std::optional<NDScreenOptionMenuManager> dockScreens_;
     std::optional<NDScreenOptionMenuManager> statusScreens_;

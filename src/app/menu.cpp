@@ -20,8 +20,8 @@ MenuItem MenuItem::separator() {
 
 bool MenuItem::showsTheSameAs(const MenuItem& other) const {
     const auto shown = [](const MenuItem& item) {
-        return std::tie(item.text, item.toolTip, item.indent, item.isSeparator, item.isVisible,
-                        item.isCheckable, item.isChecked);
+        return std::tie(item.text, item.toolTip, item.indent, item.under, item.isSeparator,
+                        item.isVisible, item.isCheckable, item.isChecked);
     };
     return shown(*this) == shown(other);
 }
@@ -35,6 +35,11 @@ std::size_t Menu::indexOf(Id id) const {
 const MenuItem* Menu::item(Id id) const {
     const std::size_t index = indexOf(id);
     return index < entries_.size() ? &entries_[index].item : nullptr;
+}
+
+bool Menu::hasSubmenu(Id id) const {
+    return std::any_of(entries_.begin(), entries_.end(),
+                       [&](const Entry& each) { return id != kNone && each.item.under == id; });
 }
 
 Menu::Id Menu::insertAt(std::size_t index, MenuItem item) {

@@ -20,6 +20,7 @@ struct MenuItem {
     std::string text; // "&" stands before the letter that picks the item, "&&" for itself
     std::string toolTip;
     int indent = 0; // in levels
+    int under = 0;  // the number of the item whose submenu it is in; 0 for the menu itself
     bool isSeparator = false;
     bool isVisible = true;
     bool isCheckable = false;
@@ -50,6 +51,9 @@ class Menu {
 
     /// Null where there is none of that number.
     const MenuItem* item(Id id) const;
+
+    /// Whether there are items under that one, which then opens a submenu.
+    bool hasSubmenu(Id id) const;
 
     Id append(MenuItem item);
 

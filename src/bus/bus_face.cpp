@@ -11,6 +11,8 @@
 #include "bus/bus_names.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
+#include "documents/chosen_look.h"
+#include "documents/looks.h"
 #include "hotkeys/hot_key_text.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keys.h"
@@ -44,10 +46,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 35> members;
+    static const std::array<sd_bus_vtable, 46> members;
 };
 
-const std::array<sd_bus_vtable, 35> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 46> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
@@ -57,6 +59,8 @@ const std::array<sd_bus_vtable, 35> BusFace::Table::members = {{
     SD_BUS_PROPERTY("ColorFilterHue", "d", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("ColorFilterVividness", "d", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Temperature", "u", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Look", "s", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Looks", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("AffectedScreenSet", "ax", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("HotKey", "a{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Settings", "a{sv}", tellProperty, 0, kTold),
@@ -76,6 +80,23 @@ const std::array<sd_bus_vtable, 35> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::setTemperature>, kFree),
     SD_BUS_METHOD_WITH_ARGS("StepTemperature", SD_BUS_ARGS("i", kelvin), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::stepTemperature>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ApplyLook", SD_BUS_ARGS("s", name), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::applyLook>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ApplyNextLook", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::applyNextLook>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ApplyPreviousLook", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::applyPreviousLook>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("GoBackFromLook", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::goBackFromLook>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SaveLook", SD_BUS_ARGS("s", name), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::saveLook>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("RenameLook", SD_BUS_ARGS("s", name, "s", to), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::renameLook>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("DeleteLook", SD_BUS_ARGS("s", name), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::deleteLook>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("MoveLook", SD_BUS_ARGS("s", name, "u", place), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::moveLook>, kFree),
+    SD_BUS_SIGNAL_WITH_ARGS("LookChanged", SD_BUS_ARGS("s", name), 0),
     SD_BUS_METHOD_WITH_ARGS("SetSetting", SD_BUS_ARGS("s", key, "v", value), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::setSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ResetSetting", SD_BUS_ARGS("s", key), SD_BUS_NO_RESULT,
@@ -107,11 +128,12 @@ const std::array<sd_bus_vtable, 35> BusFace::Table::members = {{
 
 BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
                  NotificationCenter& localCenter, const DisturbanceWatch& disturbances,
-                 UserInterface& userInterface, KeepColors& keepColors, const Bus* bus,
-                 EventLoop& loop)
+                 UserInterface& userInterface, KeepColors& keepColors, ChosenLook& chosenLook,
+                 const Bus* bus, EventLoop& loop)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter),
-      userInterface_(userInterface), keepColors_(keepColors), bus_(bus), loop_(loop),
-      state_(controller, defaults, disturbances), launcherFace_(controller, bus, loop) {
+      userInterface_(userInterface), keepColors_(keepColors), chosenLook_(chosenLook), bus_(bus),
+      loop_(loop), state_(controller, defaults, disturbances, chosenLook),
+      launcherFace_(controller, bus, loop) {
     if (bus_ != nullptr) {
         sd_bus_slot* slot = nullptr;
         sd_bus_add_object_vtable(bus_->handle(), &slot, kObjectPath, kNocturoInterface,
@@ -131,13 +153,16 @@ void BusFace::setKeyboardLayout(KeyboardLayout* layout) {
 
 void BusFace::announceChanges() {
     for (const std::string_view name : ToldState::names()) {
-        announced_.emplace(name, state_.property(name));
+        if (!ToldState::isOfLooks(name)) { // nobody is to wait for their files at a start
+            announced_.emplace(name, state_.property(name));
+        }
     }
     localCenter_.addObserver(
         this, NSUserDefaultsDidChangeNotification,
         [this](const Subjects& settings) { announceSoon(ToldState::namesConcernedBy(settings)); });
-    for (const auto name : {kEffectActivationNotification, kDisturbanceNotification,
-                            NSApplicationDidChangeScreenParametersNotification}) {
+    for (const auto name :
+         {kEffectActivationNotification, kDisturbanceNotification, kLooksDidChangeNotification,
+          NSApplicationDidChangeScreenParametersNotification}) {
         localCenter_.addObserver(this, name, [this] { announceSoon(ToldState::names()); });
     }
 }
@@ -301,6 +326,10 @@ void BusFace::announce() {
     }
     if (changed.empty()) {
         return;
+    }
+    if (const auto look = changed.find("Look"); look != changed.end()) {
+        sd_bus_emit_signal(bus_->handle(), kObjectPath, kNocturoInterface, "LookChanged", "s",
+                           std::get<std::string>(look->second).c_str());
     }
     sd_bus_message* message = nullptr;
     sd_bus_message_new_signal(bus_->handle(), &message, kObjectPath,

@@ -15,6 +15,7 @@
 
 namespace nocturo {
 
+class ChosenLook;
 class EventLoop;
 class KeepColors;
 class NotificationCenter;
@@ -28,7 +29,7 @@ class BusFace {
     /// may call; calls wait until the event loop runs. `bus` may be null.
     BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
             const DisturbanceWatch& disturbances, UserInterface& userInterface,
-            KeepColors& keepColors, const Bus* bus, EventLoop& loop);
+            KeepColors& keepColors, ChosenLook& chosenLook, const Bus* bus, EventLoop& loop);
     ~BusFace();
     BusFace(const BusFace&) = delete;
     BusFace& operator=(const BusFace&) = delete;
@@ -56,6 +57,14 @@ class BusFace {
     BusAnswer setEffects(const std::vector<std::string>& names);
     BusAnswer setTemperature(std::uint32_t kelvin);
     BusAnswer stepTemperature(std::int32_t kelvin);
+    BusAnswer applyLook(const std::string& name);
+    BusAnswer applyNextLook();
+    BusAnswer applyPreviousLook();
+    BusAnswer goBackFromLook();
+    BusAnswer saveLook(const std::string& name);
+    BusAnswer renameLook(const std::string& name, const std::string& to);
+    BusAnswer deleteLook(const std::string& name);
+    BusAnswer moveLook(const std::string& name, std::uint32_t place);
     BusAnswer setSetting(const std::string& key, const std::optional<PropertyValue>& value);
     BusAnswer resetSetting(const std::string& key);
     BusAnswer toggleScreen(std::uint32_t display);
@@ -82,6 +91,7 @@ class BusFace {
     NotificationCenter& localCenter_;
     UserInterface& userInterface_;
     KeepColors& keepColors_;
+    ChosenLook& chosenLook_;
     const Bus* bus_;
     EventLoop& loop_;
     ToldState state_;

@@ -1,7 +1,9 @@
-// What callers on the bus do with the effects.
+// What callers on the bus do with the effects and looks.
 
 #include "base/texts/translated.h"
 #include "bus/bus_face.h"
+#include "documents/chosen_look.h"
+#include "documents/looks.h"
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/effect_choices.h"
@@ -19,6 +21,13 @@ namespace {
 std::optional<std::string> problemWithEffects(const std::vector<std::string>& names) {
     return problemWith(*settingNamed(NDGroupEffect::kName),
                        PropertyArray(names.begin(), names.end()));
+}
+
+BusAnswer answerOf(Result<void> done) {
+    if (!done) {
+        return failure(std::move(done.error().text));
+    }
+    return {};
 }
 
 } // namespace
@@ -69,6 +78,38 @@ BusAnswer BusFace::stepTemperature(std::int32_t kelvin) {
                                   "temperature."));
     }
     return {};
+}
+
+BusAnswer BusFace::applyLook(const std::string& name) {
+    return answerOf(chosenLook_.apply(name));
+}
+
+BusAnswer BusFace::applyNextLook() {
+    return answerOf(chosenLook_.applyNext());
+}
+
+BusAnswer BusFace::applyPreviousLook() {
+    return answerOf(chosenLook_.applyPrevious());
+}
+
+BusAnswer BusFace::goBackFromLook() {
+    return answerOf(chosenLook_.goBack());
+}
+
+BusAnswer BusFace::saveLook(const std::string& name) {
+    return answerOf(chosenLook_.save(name));
+}
+
+BusAnswer BusFace::renameLook(const std::string& name, const std::string& to) {
+    return answerOf(chosenLook_.rename(name, to));
+}
+
+BusAnswer BusFace::deleteLook(const std::string& name) {
+    return answerOf(chosenLook_.looks().remove(name));
+}
+
+BusAnswer BusFace::moveLook(const std::string& name, std::uint32_t place) {
+    return answerOf(chosenLook_.looks().move(name, place));
 }
 
 } // namespace nocturo

@@ -1,4 +1,4 @@
-// The menus are flat and short, so what is changed is always told as a whole. sd-bus compares the
+// The menus are short, so what is changed is always told as a whole. sd-bus compares the
 // types of a call with those of the table before it calls anything here.
 
 #include "bus/menu_exporter.h"
@@ -43,11 +43,13 @@ void appendFlag(sd_bus_message* message, const char* name, bool value) {
 }
 
 /// As the type a{sv}; nothing in it where there is no item.
-void appendProperties(sd_bus_message* message, Menu::Id id, const MenuItem* item) {
+void appendProperties(sd_bus_message* message, const Menu& menu, Menu::Id id) {
+    const MenuItem* item = menu.item(id);
     sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "{sv}");
-    if (id == kMenuItself) {
+    if (id == kMenuItself || menu.hasSubmenu(id)) {
         appendText(message, "children-display", "submenu");
-    } else if (item != nullptr && item->isSeparator) {
+    }
+    if (item != nullptr && item->isSeparator) {
         appendText(message, "type", "separator");
     } else if (item != nullptr) {
         appendText(message, "label", label(*item));
@@ -65,10 +67,10 @@ void appendProperties(sd_bus_message* message, Menu::Id id, const MenuItem* item
 void appendLayout(sd_bus_message* message, const Menu& menu, Menu::Id id) {
     sd_bus_message_open_container(message, SD_BUS_TYPE_STRUCT, "ia{sv}av");
     sd_bus_message_append(message, "i", id);
-    appendProperties(message, id, menu.item(id));
+    appendProperties(message, menu, id);
     sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "v");
-    if (id == kMenuItself) {
-        for (const Menu::Entry& entry : menu.entries()) {
+    for (const Menu::Entry& entry : menu.entries()) {
+        if (entry.item.under == id) {
             sd_bus_message_open_container(message, SD_BUS_TYPE_VARIANT, "(ia{sv}av)");
             appendLayout(message, menu, entry.id);
             sd_bus_message_close_container(message);
@@ -215,7 +217,7 @@ int MenuExporter::getGroupProperties(sd_bus_message* call, sd_bus_error* error) 
     const auto append = [&](Menu::Id id) {
         sd_bus_message_open_container(reply.get(), SD_BUS_TYPE_STRUCT, "ia{sv}");
         sd_bus_message_append(reply.get(), "i", id);
-        appendProperties(reply.get(), id, menu_.item(id));
+        appendProperties(reply.get(), menu_, id);
         sd_bus_message_close_container(reply.get());
     };
     if (ids->empty()) {
@@ -249,7 +251,12 @@ int MenuExporter::getProperty(sd_bus_message* call, sd_bus_error* /*error*/) {
         sd_bus_message_append(reply.get(), "v", "i", item->isChecked ? 1 : 0);
     } else {
         const bool isLine = item != nullptr && wanted == "type" && item->isSeparator;
-        sd_bus_message_append(reply.get(), "v", "s", isLine ? "separator" : "");
+        const bool isMenu =
+            wanted == "children-display" && (id == kMenuItself || menu_.hasSubmenu(id));
+        sd_bus_message_append(reply.get(), "v", "s",
+                              isLine   ? "separator"
+                              : isMenu ? "submenu"
+                                       : "");
     }
     return send(reply);
 }

@@ -4,6 +4,8 @@
 #include "app/disturbance_watch.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
+#include "documents/chosen_look.h"
+#include "documents/looks.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "effects/effect_choices.h"
@@ -63,6 +65,8 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
         {"ColorFilterHue", {&ToldState::colorFilterHue, kHue}},
         {"ColorFilterVividness", {&ToldState::colorFilterVividness, kVividness}},
         {"Temperature", {&ToldState::temperature, kEffectSettings}},
+        {"Look", {&ToldState::look, kEffectSettings}},
+        {"Looks", {&ToldState::looks, kNone}},
         {"AffectedScreenSet", {&ToldState::affectedScreens, kAffectedScreenSettings}},
         {"HotKey", {&ToldState::hotKey, kHotKeySettings}},
         {"Settings", {&ToldState::settings, all}},
@@ -162,6 +166,19 @@ BusValue ToldState::colorFilterVividness() const {
 
 BusValue ToldState::temperature() const {
     return static_cast<std::uint32_t>(std::lround(filterTemperature().value_or(0.0)));
+}
+
+BusValue ToldState::look() const {
+    const Look* look = chosenLook_.inForce();
+    return look != nullptr ? look->name : std::string();
+}
+
+BusValue ToldState::looks() const {
+    std::vector<BusDictionary> list;
+    for (const Look& look : chosenLook_.looks().all()) {
+        list.push_back({{"name", look.name}, {"title", look.title}, {"own", look.isOwn}});
+    }
+    return list;
 }
 
 BusValue ToldState::affectedScreens() const {

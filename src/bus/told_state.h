@@ -10,6 +10,7 @@
 
 namespace nocturo {
 
+class ChosenLook;
 class DefaultsStore;
 class DisturbanceWatch;
 class KeyboardLayout;
@@ -21,8 +22,9 @@ class ToldState {
   public:
     /// All must outlive the state.
     ToldState(const NDAppController& controller, const DefaultsStore& defaults,
-              const DisturbanceWatch& disturbances)
-        : controller_(controller), defaults_(defaults), disturbances_(disturbances) {}
+              const DisturbanceWatch& disturbances, ChosenLook& chosenLook)
+        : controller_(controller), defaults_(defaults), disturbances_(disturbances),
+          chosenLook_(chosenLook) {}
 
     /// Names keys by this layout, which must outlive the state; null for none.
     void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
@@ -33,6 +35,9 @@ class ToldState {
 
     /// Those that a change of these settings may change.
     static std::vector<std::string_view> namesConcernedBy(const Subjects& settings);
+
+    /// Whether reading it may have to read the files of looks.
+    static bool isOfLooks(std::string_view name) { return name.starts_with("Look"); }
 
   private:
     struct Property {
@@ -49,6 +54,8 @@ class ToldState {
     BusValue colorFilterHue() const;
     BusValue colorFilterVividness() const;
     BusValue temperature() const;
+    BusValue look() const;
+    BusValue looks() const;
     BusValue affectedScreens() const;
     BusValue hotKey() const;
     BusValue settings() const;
@@ -58,6 +65,7 @@ class ToldState {
     const NDAppController& controller_;
     const DefaultsStore& defaults_;
     const DisturbanceWatch& disturbances_;
+    ChosenLook& chosenLook_;
     KeyboardLayout* layout_ = nullptr;
 };
 

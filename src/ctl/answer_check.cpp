@@ -79,6 +79,12 @@ bool isHotKey(const Json& value) {
     return value.is_object() && (value.empty() || fit(value, kMembers, Answer::whole));
 }
 
+bool isLook(const Json& value) {
+    static constexpr auto kMembers =
+        std::to_array<Member>({{"name", isText}, {"title", isText}, {"own", isBoolean}});
+    return fit(value, kMembers, Answer::whole);
+}
+
 } // namespace
 
 void checkAnswer(const Json& properties, Answer answer) {
@@ -91,6 +97,8 @@ void checkAnswer(const Json& properties, Answer answer) {
                                {"colorFilterHue", isNumber},
                                {"colorFilterVividness", isNumber},
                                {"temperature", isCount, true},
+                               {"look", isText, true},
+                               {"looks", isListOf<isLook>, true},
                                {"affectedScreenSet", isListOf<isInteger>},
                                {"hotKey", isHotKey},
                                {"settings", isObject},

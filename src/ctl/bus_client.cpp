@@ -93,6 +93,18 @@ void BusClient::call(const char* method, const std::string& argument) {
     send(message);
 }
 
+void BusClient::call(const char* method, const std::string& first, const std::string& second) {
+    const BusMessage message = newCall(kNocturoInterface, method);
+    check(sd_bus_message_append(message.get(), "ss", first.c_str(), second.c_str()));
+    send(message);
+}
+
+void BusClient::call(const char* method, const std::string& first, std::uint32_t second) {
+    const BusMessage message = newCall(kNocturoInterface, method);
+    check(sd_bus_message_append(message.get(), "su", first.c_str(), second));
+    send(message);
+}
+
 void BusClient::call(const char* method, std::span<const std::string> argument) {
     const BusMessage message = newCall(kNocturoInterface, method);
     check(sd_bus_message_open_container(message.get(), 'a', "s"));

@@ -29,6 +29,8 @@ class BusClient {
     void call(const char* method, std::int32_t argument);
     void call(const char* method, std::uint32_t argument);
     void call(const char* method, const std::string& argument);
+    void call(const char* method, const std::string& first, const std::string& second);
+    void call(const char* method, const std::string& first, std::uint32_t second);
     void call(const char* method, std::span<const std::string> argument);
 
     /// A picture in PNG of what the effects do on the display of that identifier.

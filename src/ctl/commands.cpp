@@ -3,6 +3,7 @@
 #include "ctl/bus_client.h"
 #include "ctl/effect_verbs.h"
 #include "ctl/failure.h"
+#include "ctl/look_verb.h"
 #include "ctl/output.h"
 #include "ctl/report.h"
 #include "ctl/restore.h"
@@ -271,6 +272,14 @@ constexpr std::array kCommands = std::to_array<Command>({
          "From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the\n"
          "color filter, which is chosen. +N and -N go so far from the one in force."),
      runTemperature, true},
+    {"look", "[NAME | next | previous | back | list...]",
+     ListedText("Show, choose or keep a combination of effects"),
+     ListedText("list [--json]      all of them, those that come with Nocturo and your own\n"
+                "next, previous     the one after or before the one in force\n"
+                "back               what the last look replaced\n"
+                "save NAME          keep the effects as a look of your own\n"
+                "rename NAME NEW, delete NAME, move NAME PLACE"),
+     runLook, true},
     {"get", "KEY", ListedText("Show a setting"), ListedText("nocturoctl status lists the keys."),
      runGet},
     {"set", "KEY VALUE", ListedText("Change a setting"),

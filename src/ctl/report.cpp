@@ -3,6 +3,7 @@
 #include "base/texts/translated.h"
 #include "ctl/setting_text.h"
 #include "ctl/text_columns.h"
+#include "documents/looks.h"
 #include "settings/selectable_effects.h"
 #include "settings/settings_table.h"
 
@@ -18,18 +19,10 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::array<const char*, 12> kStatusOrder = {"active",
-                                                      "displayServices",
-                                                      "displays",
-                                                      "effects",
-                                                      "dimLevel",
-                                                      "colorFilterHue",
-                                                      "colorFilterVividness",
-                                                      "temperature",
-                                                      "affectedScreenSet",
-                                                      "hotKey",
-                                                      "disturbances",
-                                                      "disturber"};
+constexpr std::array kStatusOrder = std::to_array<const char*>(
+    {"active", "displayServices", "displays", "effects", "dimLevel", "colorFilterHue",
+     "colorFilterVividness", "temperature", "look", "looks", "affectedScreenSet", "hotKey",
+     "disturbances", "disturber"});
 constexpr std::array<const char*, 9> kDisplayOrder = {
     "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther", "obstacle"};
 
@@ -186,6 +179,37 @@ std::string screensReport(const Json& properties) {
                         obstacleText(display.value("obstacle", ""))});
     }
     return rows.size() > 1 ? table(rows) : "  " + translated("(none)") + '\n';
+}
+
+std::string looksReport(const Json& properties) {
+    std::vector<Row> rows;
+    for (const Json& look : looksArray(properties)) {
+        const std::string name = plain(look["name"]);
+        rows.push_back({look["inForce"].get<bool>() ? "[x]" : "[ ]", plain(look["title"]),
+                        look["title"] != look["name"] ? name : "",
+                        look["own"].get<bool>() ? translated("own") : ""});
+    }
+    return rows.empty() ? "  " + translated("(none)") + '\n' : table(rows);
+}
+
+std::string lookInForce(const Json& properties) {
+    for (const Json& look : looksArray(properties)) {
+        if (look["inForce"].get<bool>()) {
+            return plain(look["title"]) + '\n';
+        }
+    }
+    return translated("(none)") + '\n';
+}
+
+Json looksArray(const Json& properties) {
+    Json looks = properties.value("looks", Json::array());
+    for (Json& look : looks) {
+        look = {{"name", look["name"]},
+                {"title", lookTitle(plain(look["name"]), look["own"].get<bool>())},
+                {"own", look["own"]},
+                {"inForce", look["name"] == properties.value("look", "")}};
+    }
+    return looks;
 }
 
 Json statusObject(const Json& properties) {

@@ -18,6 +18,13 @@ std::string effectsReport(const Json& properties);
 /// The displays, with a mark at the affected ones.
 std::string screensReport(const Json& properties);
 
+/// Every look in order, with a mark at the one in force, and that one alone.
+std::string looksReport(const Json& properties);
+std::string lookInForce(const Json& properties);
+
+/// The looks for programs: name, title, own, and which is in force.
+Json looksArray(const Json& properties);
+
 /// The properties as one object for programs: "running" first, then in a fixed order.
 Json statusObject(const Json& properties);
 

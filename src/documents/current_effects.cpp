@@ -35,18 +35,25 @@ EffectDocument currentEffects() {
     return document;
 }
 
-void setCurrentEffects(const EffectDocument& document) {
+EffectDocument withinRanges(EffectDocument document) {
+    document.colorFilterHue = inRange(document.colorFilterHue, kColorFilterHue);
+    document.colorFilterVividness = inRange(document.colorFilterVividness, kColorFilterVividness);
+    document.dimLevel = inRange(document.dimLevel, kDimLevel);
+    return document;
+}
+
+void setCurrentEffects(const EffectDocument& anyDocument) {
+    const EffectDocument document = withinRanges(anyDocument);
     const DefaultsStore::Batch oneChange(NDEffect::userDefaults());
     NDGroupEffect chosen;
     chosen.setContains(document.invertScreen, NDInvertEffect::kName);
     chosen.setContains(document.overexposure, NDHideStripesEffect::kName);
     chosen.setContains(document.hdtvLuminance, NDHDTVLuminanceEffect::kName);
     chosen.setContains(document.colorFilter, NDColorFilterEffect::kName);
-    NDColorFilterEffect::setHue(inRange(document.colorFilterHue, kColorFilterHue));
-    NDColorFilterEffect::setVividness(
-        inRange(document.colorFilterVividness, kColorFilterVividness));
+    NDColorFilterEffect::setHue(document.colorFilterHue);
+    NDColorFilterEffect::setVividness(document.colorFilterVividness);
     chosen.setContains(document.dim, NDDimEffect::kName);
-    NDDimEffect::setLevel(inRange(document.dimLevel, kDimLevel));
+    NDDimEffect::setLevel(document.dimLevel);
 }
 
 } // namespace nocturo

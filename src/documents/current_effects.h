@@ -7,7 +7,10 @@ namespace nocturo {
 /// The combination of effects that the settings hold now.
 EffectDocument currentEffects();
 
-/// Puts a combination into the settings, as the window would: numbers go as far as its sliders do.
+/// The combination with its numbers as far as the window's sliders go.
+EffectDocument withinRanges(EffectDocument document);
+
+/// Puts a combination into the settings, as the window would, within these ranges. One change.
 void setCurrentEffects(const EffectDocument& document);
 
 } // namespace nocturo

@@ -60,6 +60,16 @@ struct Reader {
 
 } // namespace
 
+bool looksTheSame(const EffectDocument& left, const EffectDocument& right) {
+    const auto withoutIdleNumbers = [](EffectDocument document) {
+        document.colorFilterHue = document.colorFilter ? document.colorFilterHue : 0.0F;
+        document.colorFilterVividness = document.colorFilter ? document.colorFilterVividness : 0.0F;
+        document.dimLevel = document.dim ? document.dimLevel : 0.0F;
+        return document;
+    };
+    return withoutIdleNumbers(left) == withoutIdleNumbers(right);
+}
+
 PropertyDictionary propertyDictionary(const EffectDocument& document) {
     PropertyDictionary root{{std::string(kSaveFormat), kFormat}};
     forEachEntry(document, Writer{root});

@@ -20,6 +20,9 @@ struct EffectDocument {
     bool operator==(const EffectDocument&) const = default;
 };
 
+/// Whether both make the same of a picture: numbers of effects that are not chosen do not count.
+bool looksTheSame(const EffectDocument& left, const EffectDocument& right);
+
 /// The root of the document's file: its eight values and the format marker.
 PropertyDictionary propertyDictionary(const EffectDocument& document);
 

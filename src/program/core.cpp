@@ -1,6 +1,8 @@
 #include "program/core.h"
 
+#include "base/program_files.h"
 #include "program/instance_lock.h"
+#include "program/surroundings.h"
 
 #include <csignal>
 #include <utility>
@@ -19,10 +21,11 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       controller(defaults, centers, runLoop), wakeRepeater(controller, centers, runLoop),
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
-      desktop(runLoop, sessionBus.get(), controller, defaults, centers),
+      looks(programFile("looks", NOCTURO_DATA_FROM_BIN), dataDirectory() / "looks", centers.local),
+      desktop(runLoop, sessionBus.get(), controller, defaults, centers, chosenLook),
       keepColors(controller, defaults, centers.local, runLoop),
-      face(controller, defaults, centers.local, disturbances, desktop, keepColors, sessionBus.get(),
-           loop) {
+      face(controller, defaults, centers.local, disturbances, desktop, keepColors, chosenLook,
+           sessionBus.get(), loop) {
     runLoop.handleSignals(signalNumbers(), [this](int number) { signalWasSent(number); });
 }
 

@@ -8,6 +8,8 @@
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "bus/bus_face.h"
+#include "documents/chosen_look.h"
+#include "documents/looks.h"
 #include "program/desktop_on_demand.h"
 #include "session/disturber_finder.h"
 
@@ -39,6 +41,8 @@ struct Core {
     const WakeRepeater wakeRepeater;
     DisturberFinder disturberFinder{sessionBus.get()};
     const DisturbanceWatch disturbances;
+    Looks looks;
+    ChosenLook chosenLook{looks};
     DesktopOnDemand desktop;
     KeepColors keepColors;
     BusFace face;

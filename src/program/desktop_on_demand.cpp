@@ -57,10 +57,11 @@ bool drawTestCard(const Ramp& ramp, const std::filesystem::path& picture) {
 }
 
 DesktopOnDemand::DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppController& controller,
-                                 DefaultsStore& defaults, const NotificationCenters& centers)
+                                 DefaultsStore& defaults, const NotificationCenters& centers,
+                                 ChosenLook& chosenLook)
     : loop_(loop), bus_(bus), controller_(controller), defaults_(defaults), centers_(centers),
       recentDocuments_(stateDirectory() / "recent-documents.plist"),
-      menus_(controller, defaults, centers.local, [&loop] { loop.quit(); }),
+      menus_(controller, defaults, centers.local, chosenLook, [&loop] { loop.quit(); }),
       tray_(menus_.statusMenu(), loop, sessionBusAddress(),
             {[this](bool shown) { setItemEmbedded(shown); },
              [this](int x, int y) { popUpStatusMenu(x, y); }},

@@ -19,6 +19,7 @@
 
 namespace nocturo {
 
+class ChosenLook;
 class DefaultsStore;
 class EventLoop;
 class KeyboardLayout;
@@ -31,7 +32,8 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
   public:
     /// All must outlive this; `bus` may be null.
     DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppController& controller,
-                    DefaultsStore& defaults, const NotificationCenters& centers);
+                    DefaultsStore& defaults, const NotificationCenters& centers,
+                    ChosenLook& chosenLook);
     ~DesktopOnDemand() override;
 
     /// Called when the session is about to end, if a window was ever shown.

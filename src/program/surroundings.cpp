@@ -52,6 +52,10 @@ std::filesystem::path stateDirectory() {
     return userDirectory("XDG_STATE_HOME", ".local/state") / "nocturo";
 }
 
+std::filesystem::path dataDirectory() {
+    return userDirectory("XDG_DATA_HOME", ".local/share") / "nocturo";
+}
+
 std::vector<std::string> absolutePaths(const std::vector<std::string>& paths) {
     std::vector<std::string> absolute;
     for (const std::string& path : paths) {

@@ -33,6 +33,9 @@ std::filesystem::path settingsPath();
 /// Where what is no setting outlives a run. Need not exist.
 std::filesystem::path stateDirectory();
 
+/// Where what the user made is kept. Need not exist.
+std::filesystem::path dataDirectory();
+
 std::vector<std::string> absolutePaths(const std::vector<std::string>& paths);
 
 } // namespace nocturo

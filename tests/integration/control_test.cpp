@@ -1,10 +1,16 @@
 // nocturoctl and the command line of nocturo, as users and scripts meet them.
 
+#include "base/file_descriptor.h"
 #include "nocturo_test.h"
 
+#include <array>
+#include <cstring>
 #include <functional>
 #include <iterator>
 #include <sstream>
+
+#include <sys/inotify.h>
+#include <unistd.h>
 
 #include <systemd/sd-bus.h>
 
@@ -168,7 +174,10 @@ TEST_F(Control, WrongCommandLinesAreUsageErrors) {
                            "nocturoctl set AffectedScreenSet 2147483648",
                            "nocturoctl set NDGroupEffect NDGroupEffect",
                            "nocturoctl reset Nonsense",
-                           "nocturoctl temperature warm"};
+                           "nocturoctl temperature warm",
+                           "nocturoctl look save",
+                           "nocturoctl look rename Mine",
+                           "nocturoctl look move Mine first"};
     for (const char* line : lines) {
         SCOPED_TRACE(line);
         std::istringstream words(line);
@@ -266,6 +275,11 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
         {"temperature -30000", "temperature", "1000"},
         {"set NDColorFilterEffectHue 200", "temperature", "0"},
         {"effects only invert", "effects", R"(["NDInvertEffect"])"},
+        {"look Just dimmer", "effects", R"(["NDDimEffect"])"},
+        {"look save Mine", "look", R"("Mine")"},
+        {"look rename Mine Dusk", "look", R"("Dusk")"},
+        {"look delete Dusk", "look", R"("Just dimmer")"},
+        {"look back", "effects", R"(["NDInvertEffect"])"},
         {"temperature -250", "temperature", "6250"},
         {"temperature 6500K", "effects", R"(["NDInvertEffect","NDColorFilterEffect"])"},
     };
@@ -275,6 +289,41 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
         EXPECT_EQ(status()[member].dump(), becomes) << line;
     }
     EXPECT_EQ(ctl({"temperature"}).output, "6500 K\n");
+}
+
+// Nothing between two combinations of effects is ever on a display.
+TEST_F(ControlOfRunning, ALookOrADocumentIsOneWriteADisplay) {
+    const auto directory = session_.runtimeDirectory() / "nocturo";
+    const FileDescriptor events(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    ::inotify_add_watch(events.get(), directory.c_str(), IN_MOVED_TO);
+    const auto picturesSince = [&] {
+        std::array<char, 65536> buffer{};
+        const ssize_t size = ::read(events.get(), buffer.data(), buffer.size());
+        int count = 0;
+        for (ssize_t at = 0; at < size;) {
+            inotify_event event{};
+            std::memcpy(&event, buffer.data() + at, sizeof event);
+            count += std::string(buffer.data() + at + sizeof event).starts_with("display-") ? 1 : 0;
+            at += static_cast<ssize_t>(sizeof event + event.len);
+        }
+        return count;
+    };
+    const std::string document = directory / "evening.nocturo";
+    ctl({"look", "Night", "reading"});
+    ctl({"save", document});
+    for (const Arguments& line : {Arguments{"look", "Red night vision"},
+                                  {"look", "back"},
+                                  {"look", "next"},
+                                  {"open", document},
+                                  {"preferences"},
+                                  {"look", "Paper tint"},
+                                  {"open", document}}) {
+        picturesSince();
+        ctl(line);
+        EXPECT_EQ(picturesSince(), line[0] == "preferences" ? 0 : 3) << Json(line);
+    }
+    EXPECT_EQ(ctl({"look"}).output, "Night reading\n");
+    EXPECT_EQ(status()["look"], "Night reading");
 }
 
 TEST_F(ControlOfRunning, SpeaksTheUsersLanguageInAlignedColumns) {

@@ -85,6 +85,29 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     EXPECT_THAT(documents.paths(), IsEmpty());
 }
 
+TEST(Submenu, IsDrawnBelowItsItemAndFollowsIt) {
+    Menu model;
+    QMenu menu;
+    const DrawnMenu drawn(model, menu);
+    const auto add = [&](const char* text, Menu::Id under) {
+        MenuItem item;
+        item.text = text;
+        item.under = under;
+        return model.append(std::move(item));
+    };
+    const Menu::Id looks = add("Looks", Menu::kNone);
+    add("first", looks);
+    const Menu::Id second = add("second", looks);
+    add("below", Menu::kNone);
+    ASSERT_EQ(menu.actions().size(), 2);
+    const QMenu* submenu = menu.actions()[0]->menu();
+    ASSERT_NE(submenu, nullptr);
+    EXPECT_EQ(menu.actions()[1]->text(), "below");
+    EXPECT_EQ(submenu->actions().value(1)->text(), "second");
+    model.remove(second);
+    EXPECT_EQ(submenu->actions().size(), 1);
+}
+
 struct ScreenOptionMenu : DisplayServicesFixture {
     ScreenOptionMenu() {
         hardware_.addUpTo(3);

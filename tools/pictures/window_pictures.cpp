@@ -13,6 +13,8 @@
 #include "desktop/test_card/test_card.h"
 #include "displays/display_factory.h"
 #include "displays/display_functions.h"
+#include "documents/chosen_look.h"
+#include "documents/looks.h"
 #include "documents/recent_documents.h"
 #include "effects/color_filter_effect.h"
 #include "effects/group_effect.h"
@@ -123,7 +125,9 @@ int run(const QStringList& arguments) {
         NDGroupEffect::effect().addEffect("NDDimEffect");
     }
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
-    AppMenus appMenus(controller, defaults, centers.local, [] {});
+    Looks looks(QCoreApplication::applicationDirPath().toStdString() + "/looks", "", centers.local);
+    ChosenLook chosenLook(looks);
+    AppMenus appMenus(controller, defaults, centers.local, chosenLook, [] {});
     const DesktopMenus menus(controller, windows, recentDocuments, appMenus, nullptr);
     controller.applicationDidFinishLaunching();
     appMenus.setActivateItemTitles(controller.effectActive());

@@ -37,18 +37,30 @@ void DrawnMenu::draw() {
         return;
     }
     removeGone();
-    qsizetype index = 0;
+    std::map<Menu::Id, qsizetype> places; // the next one in each menu
     for (const auto& [id, item] : menu_.entries()) {
         QAction* present = action(id);
         if (present == nullptr) {
             present = added(id);
         }
         show(item, *present);
-        if (drawn_->actions().value(index) != present) {
-            drawn_->insertAction(drawn_->actions().value(index), present);
+        QMenu& menu = drawnUnder(item.under);
+        QAction* there = menu.actions().value(places[item.under]++);
+        if (there != present) {
+            menu.insertAction(there, present);
         }
-        ++index;
     }
+}
+
+QMenu& DrawnMenu::drawnUnder(Menu::Id id) {
+    QAction* parent = action(id);
+    if (parent == nullptr) {
+        return *drawn_;
+    }
+    if (parent->menu() == nullptr) {
+        parent->setMenu(new QMenu(drawn_));
+    }
+    return *parent->menu();
 }
 
 void DrawnMenu::removeGone() {
@@ -58,7 +70,9 @@ void DrawnMenu::removeGone() {
             return false;
         }
         if (action != nullptr) {
-            drawn_->removeAction(action);
+            for (QObject* menu : action->associatedObjects()) {
+                qobject_cast<QWidget*>(menu)->removeAction(action);
+            }
             action->deleteLater(); // it may be the one whose pick is under way
         }
         return true;

@@ -9,7 +9,8 @@
 
 namespace nocturo {
 
-/// Shows a menu of the core as a QMenu: items are changed in place, and picked ones passed on.
+/// Shows a menu of the core as a QMenu, with its submenus: items are changed in place, and picked
+/// ones passed on.
 /// Needs a QApplication.
 class DrawnMenu : public QObject {
   public:
@@ -22,6 +23,7 @@ class DrawnMenu : public QObject {
 
   private:
     void draw();
+    QMenu& drawnUnder(Menu::Id id);
     void removeGone();
     QAction* added(Menu::Id id);
     void wasPicked(Menu::Id id);
