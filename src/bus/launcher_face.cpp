@@ -1,6 +1,8 @@
 #include "bus/launcher_face.h"
 
 #include "app/app_controller.h"
+#include "base/activation_token.h"
+#include "base/bus_dictionary.h"
 #include "base/event_loop.h"
 #include "base/texts/translated.h"
 
@@ -62,6 +64,19 @@ std::string uriOf(const std::string& path) {
 
 } // namespace
 
+static bool readArgument(sd_bus_message* call, PlatformData& data) {
+    return forEachEntry(call, [&](std::string_view key) {
+        std::string text = readTextVariant(call);
+        if (key == "activation-token") {
+            data.activationToken = std::move(text);
+        }
+    });
+}
+
+static bool readArgument(sd_bus_message* call, IgnoredParameters& /*parameters*/) {
+    return sd_bus_message_skip(call, "av") >= 0;
+}
+
 struct LauncherFace::Table {
     // Everybody on the session bus is its user.
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
@@ -105,14 +120,16 @@ BusAnswer LauncherFace::whetherReady() const {
     return nocturo::whetherReady(controller_);
 }
 
-BusAnswer LauncherFace::activate() {
+BusAnswer LauncherFace::activate(const PlatformData& platform) {
+    keepActivationToken(platform.activationToken);
     if (launched_) {
         controller_.applicationShouldHandleReopen(false);
     }
     return {};
 }
 
-BusAnswer LauncherFace::open(const std::vector<std::string>& uris) {
+BusAnswer LauncherFace::open(const std::vector<std::string>& uris, const PlatformData& platform) {
+    keepActivationToken(platform.activationToken);
     std::vector<std::string> paths;
     paths.reserve(uris.size());
     for (const std::string& uri : uris) {
@@ -125,7 +142,10 @@ BusAnswer LauncherFace::open(const std::vector<std::string>& uris) {
     return {};
 }
 
-BusAnswer LauncherFace::activateAction(const std::string& name) {
+BusAnswer LauncherFace::activateAction(const std::string& name,
+                                       const IgnoredParameters& /*parameters*/,
+                                       const PlatformData& platform) {
+    keepActivationToken(platform.activationToken);
     if (name == "toggle" && launched_) {
         controller_.toggleGlobalEffect();
     } else if (name == "preferences" && controller_.isReady()) {

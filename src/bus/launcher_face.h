@@ -13,8 +13,15 @@ namespace nocturo {
 class EventLoop;
 class NDAppController;
 
+/// What a launcher tells of itself along with a call.
+struct PlatformData {
+    std::string activationToken;
+};
+struct IgnoredParameters {};
+
 /// What launchers and file managers see of the application on the session bus: the interface
-/// org.freedesktop.Application on the application's object. Platform data is not looked at.
+/// org.freedesktop.Application on the application's object. Of platform data only the token counts
+/// that lets a window come to the front.
 ///
 /// A launcher starts the application by asking for one of these. What was asked before the launch
 /// was done is therefore the launch itself, and switches nothing.
@@ -35,14 +42,15 @@ class LauncherFace {
     struct Table;
 
     /// The user starts the application: what starting it a second time does.
-    BusAnswer activate();
+    BusAnswer activate(const PlatformData& platform);
 
     /// Opens effect documents and shows no window for them. Those that are refused are named in one
     /// sentence (org.nocturo.Error.Failed) and a message; the others are opened nevertheless.
-    BusAnswer open(const std::vector<std::string>& uris);
+    BusAnswer open(const std::vector<std::string>& uris, const PlatformData& platform);
 
     /// "toggle", "preferences", "about" or "quit"; others are ignored, and so are parameters.
-    BusAnswer activateAction(const std::string& name);
+    BusAnswer activateAction(const std::string& name, const IgnoredParameters& parameters,
+                             const PlatformData& platform);
 
     NDAppController& controller_;
     const Bus* bus_;

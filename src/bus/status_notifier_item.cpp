@@ -1,11 +1,11 @@
 #include "bus/status_notifier_item.h"
 
 #include "app/status_image.h"
+#include "base/activation_token.h"
 #include "base/environment.h"
 #include "base/event_loop.h"
 
 #include <array>
-#include <cstdlib>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -88,7 +88,7 @@ struct StatusNotifierItem::Table {
     static int takeToken(sd_bus_message* call, void* /*self*/, sd_bus_error* /*error*/) {
         const char* token = "";
         sd_bus_message_read(call, "s", &token);
-        setenv("XDG_ACTIVATION_TOKEN", token, 1);
+        keepActivationToken(token);
         return sd_bus_reply_method_return(call, nullptr);
     }
 

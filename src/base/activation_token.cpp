@@ -1,0 +1,13 @@
+#include "base/activation_token.h"
+
+#include <cstdlib>
+
+namespace nocturo {
+
+void keepActivationToken(const std::string& token) {
+    if (!token.empty()) {
+        setenv("XDG_ACTIVATION_TOKEN", token.c_str(), 1); // where Qt looks for it
+    }
+}
+
+} // namespace nocturo

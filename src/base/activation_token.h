@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace nocturo {
+
+/// Keeps what a Wayland desktop gives along with a user's wish, so that the window which comes of
+/// it next may come to the front. Nothing where it is empty.
+void keepActivationToken(const std::string& token);
+
+} // namespace nocturo
