@@ -29,6 +29,18 @@ struct WaylandConnection::Output : WaylandOutput {
     std::int32_t modeHeight = 0;
 };
 
+/// A question to which the compositor's answer comes after those to all earlier ones.
+struct WaylandConnection::RoundTrip {
+    RoundTrip(wl_display* display, std::function<void()> whenAnswered)
+        : callback(wl_display_sync(display)), action(std::move(whenAnswered)) {}
+    ~RoundTrip() { wl_callback_destroy(callback); }
+    RoundTrip(const RoundTrip&) = delete;
+    RoundTrip& operator=(const RoundTrip&) = delete;
+
+    wl_callback* callback;
+    std::function<void()> action;
+};
+
 /// What libwayland calls. `data` is an Output, or the connection for globals.
 struct WaylandConnection::Listeners {
     static void global(void* data, wl_registry* /*registry*/, std::uint32_t number,
@@ -100,6 +112,17 @@ struct WaylandConnection::Listeners {
     }
     static void placeDescription(void* /*data*/, wl_proxy* /*place*/, const char* /*text*/) {}
 
+    static void answered(void* data, wl_callback* callback, std::uint32_t /*serial*/) {
+        auto& roundTrips = static_cast<WaylandConnection*>(data)->roundTrips_;
+        const auto found =
+            std::find_if(roundTrips.begin(), roundTrips.end(),
+                         [&](const auto& roundTrip) { return roundTrip->callback == callback; });
+        const auto ended = std::move(*found);
+        roundTrips.erase(found);
+        ended->action();
+    }
+
+    static constexpr wl_callback_listener kAnswer = {answered};
     static constexpr wl_registry_listener kRegistry = {global, globalRemoved};
     static constexpr wl_output_listener kOutput = {geometry, mode,       done,
                                                    scale,    outputName, outputDescription};
@@ -128,6 +151,7 @@ WaylandConnection::WaylandConnection(wl_display* display)
 }
 
 WaylandConnection::~WaylandConnection() {
+    roundTrips_.clear();
     for (const auto& output : outputs_) {
         wl_proxy_destroy(output->place != nullptr ? output->place
                                                   : reinterpret_cast<wl_proxy*>(output->proxy));
@@ -142,20 +166,34 @@ WaylandConnection::~WaylandConnection() {
     wl_display_disconnect(display_);
 }
 
-bool WaylandConnection::offers(std::string_view interface) const {
-    return std::any_of(globals_.begin(), globals_.end(),
-                       [&](const Global& global) { return global.interface == interface; });
+bool WaylandConnection::offers(std::string_view interface, std::uint32_t version) const {
+    return std::any_of(globals_.begin(), globals_.end(), [&](const Global& global) {
+        return global.interface == interface && global.version >= version;
+    });
 }
 
 wl_proxy* WaylandConnection::bind(const wl_interface& interface, std::uint32_t version) const {
     const auto found = std::find_if(globals_.begin(), globals_.end(), [&](const Global& global) {
         return global.interface == interface.name;
     });
-    if (found == globals_.end()) {
-        return nullptr;
-    }
+    return found != globals_.end() ? bind(*found, interface, version) : nullptr;
+}
+
+wl_proxy* WaylandConnection::bind(const Global& global, const wl_interface& interface,
+                                  std::uint32_t version) const {
     return static_cast<wl_proxy*>(
-        wl_registry_bind(registry_, found->number, &interface, std::min(version, found->version)));
+        wl_registry_bind(registry_, global.number, &interface, std::min(version, global.version)));
+}
+
+void WaylandConnection::follow(const wl_interface& interface, std::uint32_t version,
+                               std::function<void(wl_proxy*, std::uint32_t)> came,
+                               std::function<void(std::uint32_t)> gone) {
+    followed_ = {&interface, version, std::move(came), std::move(gone)};
+    for (const Global& global : globals_) {
+        if (global.interface == interface.name) {
+            followed_.came(bind(global, interface, version), global.number);
+        }
+    }
 }
 
 std::vector<const WaylandOutput*> WaylandConnection::outputs() const {
@@ -182,6 +220,9 @@ void WaylandConnection::addGlobal(const Global& global) {
         for (const auto& output : outputs_) {
             describe(*output);
         }
+    }
+    if (followed_.interface != nullptr && global.interface == followed_.interface->name) {
+        followed_.came(bind(global, *followed_.interface, followed_.version), global.number);
     }
     if (global.interface != wl_output_interface.name) {
         return;
@@ -223,6 +264,9 @@ void WaylandConnection::outputDescribed(Output& output) {
 
 void WaylandConnection::removeGlobal(std::uint32_t number) {
     std::erase_if(globals_, [&](const Global& global) { return global.number == number; });
+    if (followed_.gone) {
+        followed_.gone(number);
+    }
     const auto found = std::find_if(outputs_.begin(), outputs_.end(),
                                     [&](const auto& output) { return output->global == number; });
     if (found == outputs_.end()) {
@@ -247,6 +291,10 @@ void WaylandConnection::processEvents() {
     takeIn(0);
 }
 
+void WaylandConnection::flush() {
+    full_ = wl_display_flush(display_) < 0 && errno == EAGAIN;
+}
+
 bool WaylandConnection::waitUntil(const std::function<bool()>& condition,
                                   std::chrono::milliseconds patience) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
@@ -269,7 +317,7 @@ bool WaylandConnection::takeIn(int timeoutMs) {
         }
         timeoutMs = 0; // something has come; the caller looks at it before it waits
     }
-    full_ = wl_display_flush(display_) < 0 && errno == EAGAIN;
+    flush();
     pollfd waiting{wl_display_get_fd(display_),
                    static_cast<short>(full_ ? POLLIN | POLLOUT : POLLIN), 0};
     if (poll(&waiting, 1, timeoutMs) > 0 && (waiting.revents & (POLLIN | POLLERR | POLLHUP)) != 0) {
@@ -277,20 +325,21 @@ bool WaylandConnection::takeIn(int timeoutMs) {
     } else {
         wl_display_cancel_read(display_);
     }
-    return wl_display_dispatch_pending(display_) >= 0;
+    const bool connected = wl_display_dispatch_pending(display_) >= 0;
+    flush(); // what was asked for because of an event is not to wait for the next one
+    return connected;
 }
 
 bool WaylandConnection::sync(std::chrono::milliseconds patience) {
-    static constexpr wl_callback_listener kAnswer = {
-        [](void* data, wl_callback* /*callback*/, std::uint32_t /*serial*/) {
-            *static_cast<bool*>(data) = true;
-        }};
-    bool answered = false;
-    wl_callback* callback = wl_display_sync(display_);
-    wl_callback_add_listener(callback, &kAnswer, &answered);
-    waitUntil([&] { return answered; }, patience);
-    wl_callback_destroy(callback);
-    return answered;
+    const auto answered = std::make_shared<bool>(false); // the answer may come later
+    afterAnswers([answered] { *answered = true; });
+    return waitUntil([&] { return *answered; }, patience);
+}
+
+void WaylandConnection::afterAnswers(std::function<void()> action) {
+    auto& roundTrip =
+        roundTrips_.emplace_back(std::make_unique<RoundTrip>(display_, std::move(action)));
+    wl_callback_add_listener(roundTrip->callback, &Listeners::kAnswer, this);
 }
 
 bool WaylandConnection::isLost() const {

@@ -43,12 +43,18 @@ class WaylandConnection {
     WaylandConnection(const WaylandConnection&) = delete;
     WaylandConnection& operator=(const WaylandConnection&) = delete;
 
-    /// Whether the compositor has a global of that interface.
-    bool offers(std::string_view interface) const;
+    /// Whether the compositor has a global of that interface, in that version at least.
+    bool offers(std::string_view interface, std::uint32_t version = 1) const;
 
     /// Binds the first global of that interface; null when there is none. `version` is the highest
     /// that is understood.
     wl_proxy* bind(const wl_interface& interface, std::uint32_t version) const;
+
+    /// Binds each global of that interface, now and whenever one comes. `came` has it and the
+    /// number of its global, which `gone` is told when that goes. For one interface.
+    void follow(const wl_interface& interface, std::uint32_t version,
+                std::function<void(wl_proxy*, std::uint32_t)> came,
+                std::function<void(std::uint32_t)> gone);
 
     /// The outputs that have been described, in the order in which they came.
     std::vector<const WaylandOutput*> outputs() const;
@@ -70,12 +76,19 @@ class WaylandConnection {
     /// Sends what was asked for and takes in what has come, without waiting.
     void processEvents();
 
+    /// Sends what was asked for, as far as the compositor takes it in.
+    void flush();
+
     /// Takes events in until `condition` holds; false when it did not within `patience`.
     bool waitUntil(const std::function<bool()>& condition, std::chrono::milliseconds patience);
 
     /// Returns once the compositor has taken in all that was sent; false when it did not within
     /// `patience`.
     bool sync(std::chrono::milliseconds patience);
+
+    /// Has `action` called from within events once the compositor has answered all that was sent
+    /// before.
+    void afterAnswers(std::function<void()> action);
 
     /// Whether the compositor has taken in so little lately that nothing more can be sent to it.
     bool isFull() const { return full_; }
@@ -89,10 +102,19 @@ class WaylandConnection {
         std::string interface;
         std::uint32_t version;
     };
+    struct Followed {
+        const wl_interface* interface = nullptr;
+        std::uint32_t version = 0;
+        std::function<void(wl_proxy*, std::uint32_t)> came;
+        std::function<void(std::uint32_t)> gone;
+    };
     struct Output;
+    struct RoundTrip;
     struct Listeners;
 
     explicit WaylandConnection(wl_display* display);
+    wl_proxy* bind(const Global& global, const wl_interface& interface,
+                   std::uint32_t version) const;
     void addGlobal(const Global& global);
     void removeGlobal(std::uint32_t number);
     void describe(Output& output);
@@ -103,6 +125,8 @@ class WaylandConnection {
     wl_registry* registry_ = nullptr;
     wl_proxy* placeManager_ = nullptr; // zxdg_output_manager_v1; null where there is none
     std::vector<Global> globals_;
+    Followed followed_;
+    std::list<std::unique_ptr<RoundTrip>> roundTrips_;
     std::list<std::unique_ptr<Output>> outputs_;
     std::uint64_t outputsGeneration_ = 1;
     std::uint64_t lastModeGeneration_ = 0;
