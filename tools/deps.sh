@@ -29,6 +29,7 @@ run          nlohmann-json3-dev        status --json
 run          libexpected-dev           results
 test         libgtest-dev              tests
 test         libgmock-dev              matchers
+test         libwayland-dev            a compositor of the tests' own
 test         xserver-xorg-core         real X server
 test         xserver-xorg-video-dummy  displays without hardware
 test         libxcb-xtest0-dev         real key presses
@@ -86,7 +87,7 @@ run          library  libplist-2.0 wayland-client xcb xcb-randr xcb-screensaver 
 run          library  libsystemd Qt6Core nlohmann_json
 test         program  Xorg xrandr xset xmodmap setxkbmap xdotool xwininfo trayer lxqt-panel gdbus gio
 test         program  mate-session update-mime-database update-desktop-database xscreensaver dbus-daemon
-test         library  gtest gmock xcb-xtest
+test         library  gtest gmock xcb-xtest wayland-server
 lint         program  git clang-format clang-tidy shellcheck
 fuzz         program  clang++
 bench        program  redshift

@@ -683,12 +683,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Die Bildschirme haben ihre eigenen Farben zurück, wie sie waren, bevor Nocturo sie änderte.</translation>
         </message>
         <message>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo hat keinen Bildschirm verändert zurückgelassen, also wurde nichts getan.</translation>
+        </message>
+        <message>
             <source>The displays have plain colors now, or those of their color profiles.</source>
             <translation>Die Bildschirme haben jetzt neutrale Farben oder die ihrer Farbprofile.</translation>
         </message>
         <message>
-            <source>Nocturo has left no display changed, so nothing was done.</source>
-            <translation>Nocturo hat keinen Bildschirm verändert zurückgelassen, also wurde nichts getan.</translation>
+            <source>The desktop does not take the color profiles of the displays back; choose them in its settings.</source>
+            <translation>Die Arbeitsumgebung nimmt die Farbprofile der Bildschirme nicht zurück; wählen Sie sie in ihren Einstellungen.</translation>
         </message>
         <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
@@ -697,6 +701,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ does not answer.</source>
             <translation>Der X-Server %@ antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>The compositor %@ does not answer.</source>
+            <translation>Der Compositor %@ antwortet nicht.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -967,6 +975,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Kein Wayland-Compositor antwortet.</translation>
         </message>
         <message>
+            <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
+            <translation>Plasma 5 bietet Nocturo unter Wayland keine Möglichkeit, die Farben von Bildschirmen zu ändern; wählen Sie beim Anmelden seine X11-Sitzung oder verwenden Sie Plasma 6.</translation>
+        </message>
+        <message>
             <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
             <translation>%@ bietet Nocturo unter Wayland keinen Weg, die Farben von Bildschirmen zu ändern.</translation>
         </message>
@@ -1127,6 +1139,10 @@ und gibt dann jedem Bildschirm seine Farben zurück. Gesteuert wird es mit noctu
             <translation>ein Wayland-Compositor wie sway</translation>
         </message>
         <message>
+            <source>KDE Plasma 6</source>
+            <translation>KDE Plasma 6</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N Bildschirme, 1 bis 16 (Vorgabe: 2),</translation>
         </message>
@@ -1153,8 +1169,8 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <translation>Eine Option „%@“ gibt es nicht; siehe nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services nimmt auto, randr, wlr, simulated oder simulated:N mit N von 1 bis 16.</translation>
+            <source>--display-services takes %@ or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services nimmt %@ oder simulated:N mit N von 1 bis 16.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

@@ -683,12 +683,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Las pantallas han recuperado sus propios colores, como estaban antes de que Nocturo los cambiara.</translation>
         </message>
         <message>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo no ha dejado ninguna pantalla modificada, así que no se ha hecho nada.</translation>
+        </message>
+        <message>
             <source>The displays have plain colors now, or those of their color profiles.</source>
             <translation>Las pantallas tienen ahora colores neutros, o los de sus perfiles de color.</translation>
         </message>
         <message>
-            <source>Nocturo has left no display changed, so nothing was done.</source>
-            <translation>Nocturo no ha dejado ninguna pantalla modificada, así que no se ha hecho nada.</translation>
+            <source>The desktop does not take the color profiles of the displays back; choose them in its settings.</source>
+            <translation>El escritorio no vuelve a aceptar los perfiles de color de las pantallas; elíjalos en su configuración.</translation>
         </message>
         <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
@@ -697,6 +701,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ does not answer.</source>
             <translation>El servidor X %@ no responde.</translation>
+        </message>
+        <message>
+            <source>The compositor %@ does not answer.</source>
+            <translation>El compositor %@ no responde.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -967,6 +975,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Ningún compositor de Wayland responde.</translation>
         </message>
         <message>
+            <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
+            <translation>Plasma 5 no ofrece a Nocturo ninguna forma de cambiar los colores de las pantallas en Wayland; elija su sesión de X11 al iniciar sesión o use Plasma 6.</translation>
+        </message>
+        <message>
             <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
             <translation>%@ no ofrece a Nocturo ninguna forma de cambiar los colores de las pantallas en Wayland.</translation>
         </message>
@@ -1127,6 +1139,10 @@ se le pide salir, y entonces devuelve cada pantalla. Se maneja con nocturoctl.</
             <translation>un compositor de Wayland como sway</translation>
         </message>
         <message>
+            <source>KDE Plasma 6</source>
+            <translation>KDE Plasma 6</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N pantallas, de 1 a 16 (2 si no se indica),</translation>
         </message>
@@ -1153,8 +1169,8 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <translation>No existe la opción «%@»; vea nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services admite auto, randr, wlr, simulated o simulated:N con N de 1 a 16.</translation>
+            <source>--display-services takes %@ or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services admite %@ o simulated:N con N de 1 a 16.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

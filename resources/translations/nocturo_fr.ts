@@ -683,12 +683,16 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Les écrans ont retrouvé leurs propres couleurs, telles qu’avant que Nocturo ne les change.</translation>
         </message>
         <message>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo n’a laissé aucun écran modifié ; rien n’a donc été fait.</translation>
+        </message>
+        <message>
             <source>The displays have plain colors now, or those of their color profiles.</source>
             <translation>Les écrans ont maintenant des couleurs neutres, ou celles de leurs profils de couleurs.</translation>
         </message>
         <message>
-            <source>Nocturo has left no display changed, so nothing was done.</source>
-            <translation>Nocturo n’a laissé aucun écran modifié ; rien n’a donc été fait.</translation>
+            <source>The desktop does not take the color profiles of the displays back; choose them in its settings.</source>
+            <translation>Le bureau ne reprend pas les profils de couleurs des écrans ; choisissez-les dans ses réglages.</translation>
         </message>
         <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
@@ -697,6 +701,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The X server %@ does not answer.</source>
             <translation>Le serveur X %@ ne répond pas.</translation>
+        </message>
+        <message>
+            <source>The compositor %@ does not answer.</source>
+            <translation>Le compositeur %@ ne répond pas.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -967,6 +975,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Aucun compositeur Wayland ne répond.</translation>
         </message>
         <message>
+            <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
+            <translation>Plasma 5 n’offre à Nocturo aucun moyen de modifier les couleurs des écrans sous Wayland ; choisissez sa session X11 à la connexion ou utilisez Plasma 6.</translation>
+        </message>
+        <message>
             <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
             <translation>%@ n’offre à Nocturo aucun moyen de changer les couleurs des écrans sous Wayland.</translation>
         </message>
@@ -1127,6 +1139,10 @@ et rend alors à chaque écran ses couleurs. Se commande avec nocturoctl.</trans
             <translation>un compositeur Wayland comme sway</translation>
         </message>
         <message>
+            <source>KDE Plasma 6</source>
+            <translation>KDE Plasma 6</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N écrans, de 1 à 16 (2 par défaut),</translation>
         </message>
@@ -1153,8 +1169,8 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <translation>L’option « %@ » n’existe pas ; voir nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services accepte auto, randr, wlr, simulated ou simulated:N avec N de 1 à 16.</translation>
+            <source>--display-services takes %@ or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services accepte %@ ou simulated:N avec N de 1 à 16.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

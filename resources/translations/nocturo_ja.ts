@@ -683,12 +683,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>画面の色は、Nocturo が変更する前の状態に戻りました。</translation>
         </message>
         <message>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo が変更したままの画面はないため、何も行いませんでした。</translation>
+        </message>
+        <message>
             <source>The displays have plain colors now, or those of their color profiles.</source>
             <translation>画面は標準の色、またはカラープロファイルの色になりました。</translation>
         </message>
         <message>
-            <source>Nocturo has left no display changed, so nothing was done.</source>
-            <translation>Nocturo が変更したままの画面はないため、何も行いませんでした。</translation>
+            <source>The desktop does not take the color profiles of the displays back; choose them in its settings.</source>
+            <translation>デスクトップがディスプレイのカラープロファイルを元に戻せません。デスクトップの設定で選択してください。</translation>
         </message>
         <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
@@ -697,6 +701,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ does not answer.</source>
             <translation>X サーバー %@ が応答しません。</translation>
+        </message>
+        <message>
+            <source>The compositor %@ does not answer.</source>
+            <translation>コンポジター %@ が応答しません。</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -967,6 +975,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>応答する Wayland コンポジターがありません。</translation>
         </message>
         <message>
+            <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
+            <translation>Plasma 5 の Wayland では、Nocturo がディスプレイの色を変更する手段がありません。ログイン時に X11 セッションを選ぶか、Plasma 6 をお使いください。</translation>
+        </message>
+        <message>
             <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
             <translation>%@ には、Wayland で Nocturo がディスプレイの色を変える手段がありません。</translation>
         </message>
@@ -1127,6 +1139,10 @@ nocturoctl で操作します。</translation>
             <translation>sway などの Wayland コンポジター</translation>
         </message>
         <message>
+            <source>KDE Plasma 6</source>
+            <translation>KDE Plasma 6</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N 個の画面、1～16 (既定は 2)、</translation>
         </message>
@@ -1153,8 +1169,8 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>「%@」というオプションはありません。nocturo --help を参照してください。</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services に指定できるのは auto、randr、wlr、simulated、simulated:N (N は 1～16) です。</translation>
+            <source>--display-services takes %@ or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services に指定できるのは %@、simulated:N (N は 1～16) です。</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

@@ -683,12 +683,16 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>As telas recuperaram suas próprias cores, como estavam antes de o Nocturo alterá-las.</translation>
         </message>
         <message>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>O Nocturo não deixou nenhuma tela alterada; por isso, nada foi feito.</translation>
+        </message>
+        <message>
             <source>The displays have plain colors now, or those of their color profiles.</source>
             <translation>As telas têm agora cores neutras, ou as de seus perfis de cores.</translation>
         </message>
         <message>
-            <source>Nocturo has left no display changed, so nothing was done.</source>
-            <translation>O Nocturo não deixou nenhuma tela alterada; por isso, nada foi feito.</translation>
+            <source>The desktop does not take the color profiles of the displays back; choose them in its settings.</source>
+            <translation>O ambiente não aceita de volta os perfis de cores das telas; escolha-os nas configurações dele.</translation>
         </message>
         <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
@@ -697,6 +701,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The X server %@ does not answer.</source>
             <translation>O servidor X %@ não responde.</translation>
+        </message>
+        <message>
+            <source>The compositor %@ does not answer.</source>
+            <translation>O compositor %@ não responde.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -967,6 +975,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Nenhum compositor Wayland responde.</translation>
         </message>
         <message>
+            <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
+            <translation>O Plasma 5 não oferece ao Nocturo nenhum meio de mudar as cores das telas no Wayland; escolha a sessão X11 dele ao entrar ou use o Plasma 6.</translation>
+        </message>
+        <message>
             <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
             <translation>%@ não oferece ao Nocturo um meio de mudar as cores das telas no Wayland.</translation>
         </message>
@@ -1127,6 +1139,10 @@ para sair e então devolve cada tela. É controlado com o nocturoctl.</translati
             <translation>um compositor Wayland como o sway</translation>
         </message>
         <message>
+            <source>KDE Plasma 6</source>
+            <translation>KDE Plasma 6</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N telas, de 1 a 16 (padrão: 2),</translation>
         </message>
@@ -1153,8 +1169,8 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <translation>Não existe a opção “%@”; veja nocturo --help.</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services aceita auto, randr, wlr, simulated ou simulated:N com N de 1 a 16.</translation>
+            <source>--display-services takes %@ or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services aceita %@ ou simulated:N com N de 1 a 16.</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

@@ -683,12 +683,16 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>屏幕已恢复为 Nocturo 更改之前其原本的颜色。</translation>
         </message>
         <message>
+            <source>Nocturo has left no display changed, so nothing was done.</source>
+            <translation>Nocturo 没有留下任何被更改的屏幕，因此未执行任何操作。</translation>
+        </message>
+        <message>
             <source>The displays have plain colors now, or those of their color profiles.</source>
             <translation>屏幕现在使用中性的颜色，或其颜色配置文件的颜色。</translation>
         </message>
         <message>
-            <source>Nocturo has left no display changed, so nothing was done.</source>
-            <translation>Nocturo 没有留下任何被更改的屏幕，因此未执行任何操作。</translation>
+            <source>The desktop does not take the color profiles of the displays back; choose them in its settings.</source>
+            <translation>桌面不接受恢复显示器的颜色配置文件；请在桌面的设置中选择它们。</translation>
         </message>
         <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
@@ -697,6 +701,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The X server %@ does not answer.</source>
             <translation>X 服务器 %@ 没有响应。</translation>
+        </message>
+        <message>
+            <source>The compositor %@ does not answer.</source>
+            <translation>合成器 %@ 没有响应。</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -967,6 +975,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>没有 Wayland 合成器应答。</translation>
         </message>
         <message>
+            <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
+            <translation>Plasma 5 在 Wayland 下没有为 Nocturo 提供更改显示器颜色的方法；请在登录时选择其 X11 会话，或使用 Plasma 6。</translation>
+        </message>
+        <message>
             <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
             <translation>%@ 在 Wayland 下没有为 Nocturo 提供更改显示器颜色的途径。</translation>
         </message>
@@ -1126,6 +1138,10 @@ gives every display back then. Drive it with nocturoctl.</source>
             <translation>sway 之类的 Wayland 合成器</translation>
         </message>
         <message>
+            <source>KDE Plasma 6</source>
+            <translation>KDE Plasma 6</translation>
+        </message>
+        <message>
             <source>N displays, 1 to 16 (default 2),</source>
             <translation>N 个屏幕，1 到 16（默认为 2），</translation>
         </message>
@@ -1152,8 +1168,8 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>没有选项“%@”；请参阅 nocturo --help。</translation>
         </message>
         <message>
-            <source>--display-services takes auto, randr, wlr, simulated or simulated:N with N from 1 to 16.</source>
-            <translation>--display-services 可取 auto、randr、wlr、simulated 或 simulated:N，其中 N 为 1 到 16。</translation>
+            <source>--display-services takes %@ or simulated:N with N from 1 to 16.</source>
+            <translation>--display-services 可取 %@ 或 simulated:N，其中 N 为 1 到 16。</translation>
         </message>
         <message>
             <source>Without a session bus the Nocturo that runs cannot be given a document.</source>

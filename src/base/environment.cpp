@@ -15,6 +15,10 @@ std::filesystem::path userDirectory(const char* variable, const char* inHome) {
     return named.is_absolute() ? named : std::filesystem::path(environment("HOME")) / inHome;
 }
 
+std::filesystem::path stateDirectory() {
+    return userDirectory("XDG_STATE_HOME", ".local/state") / "nocturo";
+}
+
 std::vector<std::filesystem::path> dataDirectories() {
     std::vector<std::filesystem::path> directories = {
         userDirectory("XDG_DATA_HOME", ".local/share")};

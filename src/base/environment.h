@@ -13,6 +13,9 @@ std::string environment(const char* name);
 /// user's home.
 std::filesystem::path userDirectory(const char* variable, const char* inHome);
 
+/// Where what is no setting outlives a run. Need not exist.
+std::filesystem::path stateDirectory();
+
 /// Where what is installed for everybody or for the user alone lies, the user's first.
 std::vector<std::filesystem::path> dataDirectories();
 

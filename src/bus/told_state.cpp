@@ -123,7 +123,7 @@ BusValue ToldState::displays() const {
                                           static_cast<double>(info.id)) != affected.end();
         const bool applied =
             controllers && std::any_of(controllers->begin(), controllers->end(), [&](auto& each) {
-                return each->screenID() == info.id && each->hasCurve() &&
+                return each->screenID() == info.id && each->hasCurve() && info.rampSize != 0 &&
                        info.obstacle == Obstacle::none;
             });
         list.push_back({{"number", static_cast<std::int32_t>(i) + 1},

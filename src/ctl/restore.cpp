@@ -1,6 +1,7 @@
 #include "ctl/restore.h"
 
 #include "base/bus.h"
+#include "base/environment.h"
 #include "base/event_loop.h"
 #include "base/file_descriptor.h"
 #include "base/texts/translated.h"
@@ -9,10 +10,12 @@
 #include "ctl/output.h"
 #include "displays/calibration/profile_calibrations.h"
 #include "displays/guard/display_repair.h"
+#include "displays/kde/output_devices.h"
+#include "displays/kde/restore_profiles.h"
 #include "displays/x11/opening_problem.h"
 
 #include <csignal>
-#include <cstdlib>
+#include <optional>
 #include <sys/time.h>
 #include <unistd.h>
 
@@ -28,6 +31,14 @@ constexpr timeval kPatienceInAll{2, 900000};
 
 constexpr ListedText kSwitchedOff =
     ListedText("Nocturo has switched its effect off and given the displays back.");
+
+constexpr ListedText kMayChangeAgain =
+    ListedText("The displays have been given back, but a Nocturo that does not answer still runs "
+               "and may change them again.");
+constexpr ListedText kOwnColors = ListedText(
+    "The displays have their own colors back, as they were before Nocturo changed them.");
+constexpr ListedText kNothingChanged =
+    ListedText("Nocturo has left no display changed, so nothing was done.");
 
 /// Ends this process with a sentence when all takes too long: a server that is stopped holds up
 /// everybody who asks it something.
@@ -69,23 +80,45 @@ ListedText told(const RestoredByHand& done, bool switchedOff) {
     case Repair::ownRamps:
     case Repair::plainRamps:
         if (done.askedNocturo) {
-            return ListedText("The displays have been given back, but a Nocturo that does not "
-                              "answer still runs and may change them again.");
+            return kMayChangeAgain;
         }
         return done.repair == Repair::ownRamps
-                   ? ListedText("The displays have their own colors back, as they were before "
-                                "Nocturo changed them.")
+                   ? kOwnColors
                    : ListedText("The displays have plain colors now, or those of their color "
                                 "profiles.");
     }
-    return switchedOff || done.askedNocturo
-               ? kSwitchedOff
-               : ListedText("Nocturo has left no display changed, so nothing was done.");
+    return switchedOff || done.askedNocturo ? kSwitchedOff : kNothingChanged;
 }
 
-ListedText restore(const std::string& display) {
+/// Under KWin; nothing elsewhere.
+std::optional<ListedText> restoreProfiles(const std::string& display, bool switchedOff) {
+    const auto compositor = display.empty() ? nullptr : WaylandConnection::open(display);
+    if (compositor == nullptr || !OutputDevices::areOfferedBy(*compositor)) {
+        return std::nullopt;
+    }
+    const auto directory = stateDirectory();
+    const bool asked = !switchedOff && askProfileChanger(directory);
+    if (asked && waitUntilProfilesAreBack(*compositor)) {
+        return kSwitchedOff;
+    }
+    switch (restoreProfiles(*compositor, directory)) {
+    case ProfileRepair::restored:
+        return asked ? kMayChangeAgain : kOwnColors;
+    case ProfileRepair::notNeeded:
+        return switchedOff ? kSwitchedOff : kNothingChanged;
+    case ProfileRepair::failed:
+        break;
+    }
+    throw Failure{kFailed, translated("The desktop does not take the color profiles of the "
+                                      "displays back; choose them in its settings.")};
+}
+
+ListedText restore(const std::string& display, const std::string& waylandDisplay) {
     EventLoop loop;
     const bool switchedOff = switchOffOverTheBus(loop);
+    if (const auto done = restoreProfiles(waylandDisplay, switchedOff)) {
+        return *done;
+    }
     const auto server = XConnection::open(display);
     const auto hardware = RandrHardware::open(server.get());
     if (hardware) {
@@ -105,10 +138,13 @@ ListedText restore(const std::string& display) {
 } // namespace
 
 void restoreDisplays() {
-    const char* variable = std::getenv("DISPLAY");
-    const std::string display = variable != nullptr ? variable : "";
-    const Deadline deadline(translated("The X server %@ does not answer.", {display}));
-    print(restore(display).translated() + '\n');
+    const std::string display = environment("DISPLAY");
+    const std::string waylandDisplay = environment("WAYLAND_DISPLAY");
+    const Deadline deadline(
+        waylandDisplay.empty()
+            ? translated("The X server %@ does not answer.", {display})
+            : translated("The compositor %@ does not answer.", {waylandDisplay}));
+    print(restore(display, waylandDisplay).translated() + '\n');
 }
 
 } // namespace nocturo

@@ -7,6 +7,7 @@
 #include "displays/guard/display_repair.h"
 #include "displays/guard/guarded_hardware.h"
 #include "displays/guard/server_mark.h"
+#include "displays/kde/kde_hardware.h"
 #include "displays/ramp_display_services.h"
 #include "displays/simulated/simulated_hardware.h"
 #include "displays/wlr/wlr_hardware.h"
@@ -62,12 +63,11 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
 
 constexpr const char* kEdidDirectory = "/sys/class/drm";
 
-OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection, RunLoop& runLoop,
-                           std::function<void()> lost) {
+/// Services that live on that connection, which they own.
+OpenedDisplays waylandDisplays(WaylandConnection* compositor,
+                               std::unique_ptr<RampDisplayServices> services, RunLoop& runLoop,
+                               std::function<void()> lost) {
     OpenedDisplays opened;
-    WaylandConnection* compositor = connection.get(); // lives as long as the services
-    auto services = std::make_unique<RampDisplayServices>(
-        std::make_unique<WlrHardware>(std::move(connection), kEdidDirectory), nullptr, &runLoop);
     opened.listening = runLoop.watch(
         compositor->descriptor(), [displays = services.get(), compositor, lost = std::move(lost)] {
             displays->lookForChanges();
@@ -76,24 +76,57 @@ OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection, RunLoo
             }
         });
     opened.services = std::move(services);
-    logInfo(kLogDisplays, "Displays are those of a Wayland compositor with wlr-gamma-control.");
     return opened;
 }
 
-Result<OpenedDisplays> openWayland(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection,
+                           const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+    WaylandConnection* compositor = connection.get();
+    auto services = std::make_unique<RampDisplayServices>(
+        std::make_unique<WlrHardware>(std::move(connection), kEdidDirectory), nullptr, &runLoop);
+    logInfo(kLogDisplays, "Displays are those of a Wayland compositor with wlr-gamma-control.");
+    return waylandDisplays(compositor, std::move(services), runLoop, surroundings.lost);
+}
+
+OpenedDisplays kdeDisplays(std::unique_ptr<WaylandConnection> connection,
+                           const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+    WaylandConnection* compositor = connection.get();
+    auto hardware = std::make_unique<KdeHardware>(std::move(connection),
+                                                  KdePlaces{surroundings.waylandDisplay,
+                                                            surroundings.runtimeDirectory,
+                                                            surroundings.stateDirectory},
+                                                  runLoop);
+    auto calibrations = std::make_unique<KdeCalibrations>(hardware->profiles());
+    auto services = std::make_unique<RampDisplayServices>(std::move(hardware),
+                                                          std::move(calibrations), &runLoop);
+    logInfo(kLogDisplays, "Displays are those of KWin, by their color profiles.");
+    return waylandDisplays(compositor, std::move(services), runLoop, surroundings.lost);
+}
+
+Result<OpenedDisplays> openWayland(DisplayChoice::Kind kind,
+                                   const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+    using Kind = DisplayChoice::Kind;
     auto compositor = surroundings.waylandDisplay.empty()
                           ? nullptr
                           : WaylandConnection::open(surroundings.waylandDisplay);
     if (compositor == nullptr) {
         return failedForNow(translated("No Wayland compositor answers."));
     }
-    if (!WlrHardware::isOfferedBy(*compositor)) {
-        const std::string& desktop = surroundings.desktop;
-        return failedForNow(
-            translated("%@ offers Nocturo no way to change the colors of displays under Wayland.",
-                       {desktop.empty() ? translated("This desktop") : desktop}));
+    if (kind != Kind::kde && WlrHardware::isOfferedBy(*compositor)) {
+        return wlrDisplays(std::move(compositor), surroundings, runLoop);
     }
-    return wlrDisplays(std::move(compositor), runLoop, surroundings.lost);
+    if (kind != Kind::wlr && KdeHardware::isOfferedBy(*compositor)) {
+        return kdeDisplays(std::move(compositor), surroundings, runLoop);
+    }
+    if (KdeHardware::isTooOld(*compositor)) {
+        return failedForNow(
+            translated("Plasma 5 offers Nocturo no way to change the colors of displays under "
+                       "Wayland; choose its X11 session when logging in, or use Plasma 6."));
+    }
+    const std::string& desktop = surroundings.desktop;
+    return failedForNow(
+        translated("%@ offers Nocturo no way to change the colors of displays under Wayland.",
+                   {desktop.empty() ? translated("This desktop") : desktop}));
 }
 
 OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surroundings) {
@@ -122,6 +155,9 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
     if (text == "wlr") {
         return DisplayChoice{Kind::wlr};
     }
+    if (text == "kde") {
+        return DisplayChoice{Kind::kde};
+    }
     if (!text.starts_with(kSimulated)) {
         return std::nullopt;
     }
@@ -146,7 +182,8 @@ Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
     case Kind::simulated:
         return openSimulated(choice.simulatedCount, surroundings);
     case Kind::wlr:
-        return openWayland(surroundings, runLoop);
+    case Kind::kde:
+        return openWayland(choice.kind, surroundings, runLoop);
     case Kind::randr:
         return openRandr(surroundings, runLoop);
     case Kind::automatic:
@@ -154,7 +191,7 @@ Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
     }
     // An X server in a Wayland session has windows, and no displays.
     return surroundings.waylandDisplay.empty() ? openRandr(surroundings, runLoop)
-                                               : openWayland(surroundings, runLoop);
+                                               : openWayland(choice.kind, surroundings, runLoop);
 }
 
 } // namespace nocturo

@@ -19,14 +19,14 @@ class XConnection;
 
 /// Which display services the user wants.
 struct DisplayChoice {
-    enum class Kind { automatic, randr, wlr, simulated };
+    enum class Kind { automatic, randr, wlr, kde, simulated };
 
     Kind kind = Kind::automatic;
     unsigned simulatedCount = 2;
 };
 
-/// Reads "auto", "randr", "wlr", "simulated" or "simulated:N" with N from 1 to 16; nothing for all
-/// else.
+/// Reads "auto", "randr", "wlr", "kde", "simulated" or "simulated:N" with N from 1 to 16; nothing
+/// for all else.
 std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 
 /// What the factory takes from the process's surroundings; all of it outlives what is opened.
@@ -36,6 +36,7 @@ struct DisplaySurroundings {
     std::string waylandDisplay;             // $WAYLAND_DISPLAY; empty when not set
     std::string desktop;                    // $XDG_CURRENT_DESKTOP; empty when not set
     std::filesystem::path runtimeDirectory; // empty where there is none that can be used
+    std::filesystem::path stateDirectory;   // need not exist
     Bus* systemBus = nullptr;               // null when there is none
     DrawPicture drawPicture;                // of simulated displays
     std::function<void()> lost; // called when the displays' server has gone: nothing works any more

@@ -1,6 +1,7 @@
 #include "program/desktop_on_demand.h"
 
 #include "app/app_controller.h"
+#include "base/environment.h"
 #include "base/event_loop.h"
 #include "base/log.h"
 #include "base/program_files.h"

@@ -1,3 +1,4 @@
+#include "base/environment.h"
 #include "base/event_loop.h"
 #include "base/log.h"
 #include "base/program_watch.h"
@@ -75,7 +76,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     Result<OpenedDisplays> opened = openDisplays(
         options.displays,
         {xDisplayName(), server.get(), waylandDisplayName(), desktopName(), directory.value_or(""),
-         core.systemBus.get(), drawTestCard, [&] { loop.quit(kFailure); },
+         stateDirectory(), core.systemBus.get(), drawTestCard, [&] { loop.quit(kFailure); },
          [&] { core.controller.setEffectActive(false, true); }},
         loop);
     if (!opened) {

@@ -20,9 +20,9 @@ std::string helpText() {
     constexpr std::size_t kMeaning = 28;
     constexpr std::size_t kMeaningOfChoice = 45;
     const std::string indent(kMeaning + 2, ' ');
-    return translated(
-               "Usage: %@",
-               {"nocturo [--off] [--display-services=auto|randr|wlr|simulated[:N]] [FILE...]"}) +
+    return translated("Usage: %@",
+                      {"nocturo [--off] [--display-services=auto|randr|wlr|kde|simulated[:N]] "
+                       "[FILE...]"}) +
            "\n\n" +
            translated("Changes how whole screens look: inverted, overexposed, dimmed or lightened, "
                       "in\nthe HDTV range or through a color filter. Runs until it is told to "
@@ -34,6 +34,7 @@ std::string helpText() {
                 translated("what this session offers (default)")) +
            line(indent + "randr", kMeaningOfChoice, translated("an X server")) +
            line(indent + "wlr", kMeaningOfChoice, translated("a Wayland compositor like sway")) +
+           line(indent + "kde", kMeaningOfChoice, translated("KDE Plasma 6")) +
            line(indent + "simulated[:N]", kMeaningOfChoice,
                 translated("N displays, 1 to 16 (default 2),")) +
            line("", kMeaningOfChoice, translated("in memory, drawn into pictures")) +
@@ -76,8 +77,9 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         const auto choice =
             parseDisplayChoice(std::string_view(argument).substr(kDisplayServices.size()));
         if (!choice) {
-            return UsageError{translated("--display-services takes auto, randr, wlr, simulated or "
-                                         "simulated:N with N from 1 to 16.")};
+            return UsageError{
+                translated("--display-services takes %@ or simulated:N with N from 1 to 16.",
+                           {"auto, randr, wlr, kde, simulated"})};
         }
         options.displays = *choice;
     }

@@ -48,10 +48,6 @@ std::filesystem::path settingsPath() {
     return userDirectory("XDG_CONFIG_HOME", ".config") / "nocturo" / "settings.plist";
 }
 
-std::filesystem::path stateDirectory() {
-    return userDirectory("XDG_STATE_HOME", ".local/state") / "nocturo";
-}
-
 std::filesystem::path dataDirectory() {
     return userDirectory("XDG_DATA_HOME", ".local/share") / "nocturo";
 }

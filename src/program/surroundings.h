@@ -30,9 +30,6 @@ std::string loginSession();
 
 std::filesystem::path settingsPath();
 
-/// Where what is no setting outlives a run. Need not exist.
-std::filesystem::path stateDirectory();
-
 /// Where what the user made is kept. Need not exist.
 std::filesystem::path dataDirectory();
 

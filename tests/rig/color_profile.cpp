@@ -1,6 +1,7 @@
 #include "rig/color_profile.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 
@@ -41,6 +42,27 @@ std::vector<std::uint8_t> colorProfile(const Channels& calibration) {
         throw std::runtime_error("no calibration can be put into a profile");
     }
     return bytesOf(profile);
+}
+
+std::optional<Channels> calibrationIn(const std::string& file) {
+    if (!std::filesystem::is_regular_file(file)) {
+        return std::nullopt;
+    }
+    const Profile profile(cmsOpenProfileFromFile(file.c_str(), "r"), cmsCloseProfile);
+    if (profile == nullptr) {
+        return std::nullopt;
+    }
+    const auto* curves =
+        static_cast<cmsToneCurve* const*>(cmsReadTag(profile.get(), cmsSigVcgtTag));
+    Channels channels;
+    for (unsigned channel = 0; channel < 3; ++channel) {
+        for (unsigned i = 0; i < 256; ++i) {
+            const auto entry = static_cast<std::uint16_t>(i * 257);
+            channels.at(channel).push_back(
+                curves != nullptr ? cmsEvalToneCurve16(curves[channel], entry) : entry);
+        }
+    }
+    return channels;
 }
 
 Channels calibration(unsigned number) {

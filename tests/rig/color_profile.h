@@ -3,6 +3,8 @@
 #include "rig/x_client.h"
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace nocturo::rig {
@@ -12,6 +14,10 @@ std::vector<std::uint8_t> colorProfile(const Channels& calibration);
 
 /// A profile without a calibration.
 std::vector<std::uint8_t> plainColorProfile();
+
+/// The calibration in the profile in that file, at 256 entries; the identity where it has none.
+/// Nothing where there is no profile.
+std::optional<Channels> calibrationIn(const std::string& file);
 
 /// A calibration of 256 entries, rising, another one for every number up to 1000.
 Channels calibration(unsigned number);
