@@ -36,7 +36,7 @@ take() {
 
 if [ -n "$looks" ]; then
   mkdir -p "$looks"
-  for window in preferences about keep no-effect save screens status-menu; do
+  for window in preferences switching curves about keep no-effect save screens status-menu; do
     take 1 "$window" "$looks/$window.png"
     take 1 "$window" "$looks/$window-dark.png" dark
     take 2 "$window" "$looks/$window-200.png"
@@ -44,7 +44,7 @@ if [ -n "$looks" ]; then
     take 1 "$window" "$looks/$window-long.png" long
   done
 else
-  for window in preferences about keep status-menu; do
+  for window in preferences switching about keep status-menu; do
     take 1 "$window" "docs/images/$window.png"
   done
   take 1 preferences docs/images/preferences-dark.png dark

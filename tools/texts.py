@@ -157,12 +157,26 @@ def faults_of_text(english, translation):
             yield f"should end like the English text with “{mark}” or not"
 
 
-def clashes(table):
-    """Mnemonics that two controls of one window share, and ones that belong to no known window."""
+def windows(root):
+    """Each with the texts of other windows that are in it, and those that it never shows."""
+    panel = ElementTree.parse(root / f"resources/{PANEL}.ui")
+    pages = [{text.text for text in page.iter("string")}
+             for page in panel.iter("widget") if page.get("class") == "nocturo::PageArea"]
     for window, also in WINDOWS.items():
+        if window == PANEL:  # one page at a time
+            for page in pages:
+                yield window, also, set().union(*pages) - page
+        else:
+            yield window, also, set()
+
+
+def clashes(table, root):
+    """Mnemonics that two controls of one window share, and ones that belong to no known window."""
+    for window, also, hidden in windows(root):
         keys = collections.defaultdict(list)
         for (context, english), translation in table.items():
-            if context == window or (context == DEFAULT_TABLE and english in also):
+            if ((context == window and english not in hidden)
+                    or (context == DEFAULT_TABLE and english in also)):
                 for key in MNEMONIC.findall(translation):
                     keys[key.casefold()].append(english)
         yield from (f"{window}: {', '.join(shared)} share Alt+{key}"
@@ -175,7 +189,7 @@ def clashes(table):
 
 def faults(root):
     program = texts_of_program(root)
-    yield from clashes({key: key[1] for key in program})
+    yield from clashes({key: key[1] for key in program}, root)
     for language in languages(root):
         table = {}
         for context in ElementTree.parse(table_path(root, language)).iter("context"):
@@ -193,7 +207,7 @@ def faults(root):
         for key in program:
             if is_for(language, key[1]) and key not in table:
                 yield f"{language}: {key} is missing"
-        yield from (f"{language}: {clash}" for clash in clashes(table))
+        yield from (f"{language}: {clash}" for clash in clashes(table, root))
 
 
 if __name__ == "__main__":

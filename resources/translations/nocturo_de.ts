@@ -8,6 +8,18 @@
             <translation>Nocturo-Einstellungen</translation>
         </message>
         <message>
+            <source>Switches the effect on or off (Ctrl+E)</source>
+            <translation>Schaltet den Effekt ein oder aus (Strg+E)</translation>
+        </message>
+        <message>
+            <source>Effect</source>
+            <translation>Effekt</translation>
+        </message>
+        <message>
+            <source>Looks and effects</source>
+            <translation>Looks und Effekte</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Effekte</translation>
         </message>
@@ -42,6 +54,14 @@
         <message>
             <source>Tints the screen as colored glass would</source>
             <translation>Färbt den Bildschirm wie ein farbiges Glas</translation>
+        </message>
+        <message>
+            <source>&amp;Temperature:</source>
+            <translation>Te&amp;mperatur:</translation>
+        </message>
+        <message>
+            <source>The color filter as warm or cool light, from candles to the sky; empty while it is another color</source>
+            <translation>Der Farbfilter als warmes oder kühles Licht, von der Kerze bis zum Himmel; leer, solange er eine andere Farbe hat</translation>
         </message>
         <message>
             <source>H&amp;ue:</source>
@@ -86,6 +106,14 @@
         <message>
             <source>The screen whose curves are shown</source>
             <translation>Der Bildschirm, dessen Kurven gezeigt werden</translation>
+        </message>
+        <message>
+            <source>Cu&amp;rves</source>
+            <translation>&amp;Kurven</translation>
+        </message>
+        <message>
+            <source>Shows beside the picture what becomes of each color channel</source>
+            <translation>Zeigt neben dem Bild, was aus jedem Farbkanal wird</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -257,6 +285,62 @@
         <message>
             <source>None</source>
             <translation>Keine</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Invertieren</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Überbelichten</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>HDTV-Bereich</translation>
+        </message>
+        <message>
+            <source>Lighten %@</source>
+            <translation>Aufhellen %@</translation>
+        </message>
+        <message>
+            <source>Dim %@</source>
+            <translation>Abdunkeln %@</translation>
+        </message>
+        <message>
+            <source>Color filter %1$@° %2$@ %%</source>
+            <translation>Farbfilter %1$@° %2$@ %%</translation>
+        </message>
+        <message>
+            <source>all screens</source>
+            <translation>allen Bildschirmen</translation>
+        </message>
+        <message>
+            <source>screens that are not connected</source>
+            <translation>nicht angeschlossenen Bildschirmen</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>Pause: Bildschirmschoner</translation>
+        </message>
+        <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Aus. Wählen Sie Effekte und schalten Sie dann ein</translation>
+        </message>
+        <message>
+            <source>Off. Switched on: %@</source>
+            <translation>Aus. Eingeschaltet: %@</translation>
+        </message>
+        <message>
+            <source>On, but no effect is chosen</source>
+            <translation>Ein, aber es ist kein Effekt gewählt</translation>
+        </message>
+        <message>
+            <source>On: %1$@ on %2$@</source>
+            <translation>Ein: %1$@ auf %2$@</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -811,6 +895,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Ü&amp;ber Nocturo</translation>
         </message>
         <message>
+            <source>red</source>
+            <translation>Rot</translation>
+        </message>
+        <message>
+            <source>orange</source>
+            <translation>Orange</translation>
+        </message>
+        <message>
+            <source>yellow</source>
+            <translation>Gelb</translation>
+        </message>
+        <message>
+            <source>lime</source>
+            <translation>Hellgrün</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>Grün</translation>
+        </message>
+        <message>
+            <source>sea green</source>
+            <translation>Seegrün</translation>
+        </message>
+        <message>
+            <source>cyan</source>
+            <translation>Cyan</translation>
+        </message>
+        <message>
+            <source>azure</source>
+            <translation>Azurblau</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>Blau</translation>
+        </message>
+        <message>
+            <source>violet</source>
+            <translation>Violett</translation>
+        </message>
+        <message>
+            <source>magenta</source>
+            <translation>Magenta</translation>
+        </message>
+        <message>
+            <source>pink</source>
+            <translation>Rosa</translation>
+        </message>
+        <message>
+            <source>candle</source>
+            <translation>Kerze</translation>
+        </message>
+        <message>
+            <source>tungsten</source>
+            <translation>Glühlampe</translation>
+        </message>
+        <message>
+            <source>sunset</source>
+            <translation>Sonnenuntergang</translation>
+        </message>
+        <message>
+            <source>daylight</source>
+            <translation>Tageslicht</translation>
+        </message>
+        <message>
             <source>The screens are hard to read now. They go back by themselves in %d s.</source>
             <translation>Die Bildschirme sind jetzt schwer zu lesen. In %d s werden die vorherigen Farben wiederhergestellt.</translation>
         </message>
@@ -903,24 +1051,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Vorschau</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
             <source>brightness from %@ to %@</source>
             <translation>Helligkeit von %@ bis %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>Rot</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>Grün</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>Blau</translation>
         </message>
         <message>
             <source>%@ strongest</source>

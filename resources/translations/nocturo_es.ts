@@ -8,6 +8,18 @@
             <translation>Preferencias de Nocturo</translation>
         </message>
         <message>
+            <source>Switches the effect on or off (Ctrl+E)</source>
+            <translation>Activa o desactiva el efecto (Ctrl+E)</translation>
+        </message>
+        <message>
+            <source>Effect</source>
+            <translation>Efecto</translation>
+        </message>
+        <message>
+            <source>Looks and effects</source>
+            <translation>Aspectos y efectos</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Efectos</translation>
         </message>
@@ -42,6 +54,14 @@
         <message>
             <source>Tints the screen as colored glass would</source>
             <translation>Tiñe la pantalla como lo haría un cristal de color</translation>
+        </message>
+        <message>
+            <source>&amp;Temperature:</source>
+            <translation>Temperat&amp;ura:</translation>
+        </message>
+        <message>
+            <source>The color filter as warm or cool light, from candles to the sky; empty while it is another color</source>
+            <translation>El filtro de color como luz cálida o fría, de las velas al cielo; vacío mientras es otro color</translation>
         </message>
         <message>
             <source>H&amp;ue:</source>
@@ -86,6 +106,14 @@
         <message>
             <source>The screen whose curves are shown</source>
             <translation>La pantalla cuyas curvas se muestran</translation>
+        </message>
+        <message>
+            <source>Cu&amp;rves</source>
+            <translation>&amp;Curvas</translation>
+        </message>
+        <message>
+            <source>Shows beside the picture what becomes of each color channel</source>
+            <translation>Muestra junto a la imagen qué pasa con cada canal de color</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -257,6 +285,62 @@
         <message>
             <source>None</source>
             <translation>Ninguna</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Invertir</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Sobreexponer</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>Rango HDTV</translation>
+        </message>
+        <message>
+            <source>Lighten %@</source>
+            <translation>Aclarar %@</translation>
+        </message>
+        <message>
+            <source>Dim %@</source>
+            <translation>Atenuar %@</translation>
+        </message>
+        <message>
+            <source>Color filter %1$@° %2$@ %%</source>
+            <translation>Filtro de color %1$@° %2$@ %%</translation>
+        </message>
+        <message>
+            <source>all screens</source>
+            <translation>todas las pantallas</translation>
+        </message>
+        <message>
+            <source>screens that are not connected</source>
+            <translation>pantallas que no están conectadas</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>En pausa: salvapantallas</translation>
+        </message>
+        <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Desactivado. Elija efectos y luego actívelo</translation>
+        </message>
+        <message>
+            <source>Off. Switched on: %@</source>
+            <translation>Desactivado. Al activarlo: %@</translation>
+        </message>
+        <message>
+            <source>On, but no effect is chosen</source>
+            <translation>Activado, pero no hay ningún efecto elegido</translation>
+        </message>
+        <message>
+            <source>On: %1$@ on %2$@</source>
+            <translation>Activado: %1$@ en %2$@</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -811,6 +895,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>&amp;Acerca de Nocturo</translation>
         </message>
         <message>
+            <source>red</source>
+            <translation>rojo</translation>
+        </message>
+        <message>
+            <source>orange</source>
+            <translation>naranja</translation>
+        </message>
+        <message>
+            <source>yellow</source>
+            <translation>amarillo</translation>
+        </message>
+        <message>
+            <source>lime</source>
+            <translation>lima</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>verde</translation>
+        </message>
+        <message>
+            <source>sea green</source>
+            <translation>verde mar</translation>
+        </message>
+        <message>
+            <source>cyan</source>
+            <translation>cian</translation>
+        </message>
+        <message>
+            <source>azure</source>
+            <translation>azul celeste</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>azul</translation>
+        </message>
+        <message>
+            <source>violet</source>
+            <translation>violeta</translation>
+        </message>
+        <message>
+            <source>magenta</source>
+            <translation>magenta</translation>
+        </message>
+        <message>
+            <source>pink</source>
+            <translation>rosa</translation>
+        </message>
+        <message>
+            <source>candle</source>
+            <translation>vela</translation>
+        </message>
+        <message>
+            <source>tungsten</source>
+            <translation>bombilla</translation>
+        </message>
+        <message>
+            <source>sunset</source>
+            <translation>atardecer</translation>
+        </message>
+        <message>
+            <source>daylight</source>
+            <translation>luz de día</translation>
+        </message>
+        <message>
             <source>The screens are hard to read now. They go back by themselves in %d s.</source>
             <translation>Ahora cuesta leer las pantallas. Los colores anteriores se restaurarán en %d s.</translation>
         </message>
@@ -903,24 +1051,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Vista previa</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
             <source>brightness from %@ to %@</source>
             <translation>brillo del %@ al %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>rojo</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>verde</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>azul</translation>
         </message>
         <message>
             <source>%@ strongest</source>

@@ -8,6 +8,18 @@
             <translation>Préférences de Nocturo</translation>
         </message>
         <message>
+            <source>Switches the effect on or off (Ctrl+E)</source>
+            <translation>Active ou désactive l’effet (Ctrl+E)</translation>
+        </message>
+        <message>
+            <source>Effect</source>
+            <translation>Effet</translation>
+        </message>
+        <message>
+            <source>Looks and effects</source>
+            <translation>Apparences et effets</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Effets</translation>
         </message>
@@ -42,6 +54,14 @@
         <message>
             <source>Tints the screen as colored glass would</source>
             <translation>Teinte l’écran comme le ferait un verre coloré</translation>
+        </message>
+        <message>
+            <source>&amp;Temperature:</source>
+            <translation>Te&amp;mpérature :</translation>
+        </message>
+        <message>
+            <source>The color filter as warm or cool light, from candles to the sky; empty while it is another color</source>
+            <translation>Le filtre de couleur comme lumière chaude ou froide, de la bougie au ciel ; vide tant que c’est une autre couleur</translation>
         </message>
         <message>
             <source>H&amp;ue:</source>
@@ -86,6 +106,14 @@
         <message>
             <source>The screen whose curves are shown</source>
             <translation>L’écran dont les courbes sont affichées</translation>
+        </message>
+        <message>
+            <source>Cu&amp;rves</source>
+            <translation>Cou&amp;rbes</translation>
+        </message>
+        <message>
+            <source>Shows beside the picture what becomes of each color channel</source>
+            <translation>Montre à côté de l’image ce que devient chaque canal de couleur</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -257,6 +285,62 @@
         <message>
             <source>None</source>
             <translation>Aucun</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Inverser</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Surexposer</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>Plage HDTV</translation>
+        </message>
+        <message>
+            <source>Lighten %@</source>
+            <translation>Éclaircir %@</translation>
+        </message>
+        <message>
+            <source>Dim %@</source>
+            <translation>Assombrir %@</translation>
+        </message>
+        <message>
+            <source>Color filter %1$@° %2$@ %%</source>
+            <translation>Filtre de couleur %1$@° %2$@ %%</translation>
+        </message>
+        <message>
+            <source>all screens</source>
+            <translation>tous les écrans</translation>
+        </message>
+        <message>
+            <source>screens that are not connected</source>
+            <translation>des écrans qui ne sont pas connectés</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>En pause : écran de veille</translation>
+        </message>
+        <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Désactivé. Choisissez des effets, puis activez</translation>
+        </message>
+        <message>
+            <source>Off. Switched on: %@</source>
+            <translation>Désactivé. Une fois activé : %@</translation>
+        </message>
+        <message>
+            <source>On, but no effect is chosen</source>
+            <translation>Activé, mais aucun effet n’est choisi</translation>
+        </message>
+        <message>
+            <source>On: %1$@ on %2$@</source>
+            <translation>Activé : %1$@ sur %2$@</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -811,6 +895,70 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>À &amp;propos de Nocturo</translation>
         </message>
         <message>
+            <source>red</source>
+            <translation>rouge</translation>
+        </message>
+        <message>
+            <source>orange</source>
+            <translation>orange</translation>
+        </message>
+        <message>
+            <source>yellow</source>
+            <translation>jaune</translation>
+        </message>
+        <message>
+            <source>lime</source>
+            <translation>citron vert</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>vert</translation>
+        </message>
+        <message>
+            <source>sea green</source>
+            <translation>vert marin</translation>
+        </message>
+        <message>
+            <source>cyan</source>
+            <translation>cyan</translation>
+        </message>
+        <message>
+            <source>azure</source>
+            <translation>azur</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>bleu</translation>
+        </message>
+        <message>
+            <source>violet</source>
+            <translation>violet</translation>
+        </message>
+        <message>
+            <source>magenta</source>
+            <translation>magenta</translation>
+        </message>
+        <message>
+            <source>pink</source>
+            <translation>rose</translation>
+        </message>
+        <message>
+            <source>candle</source>
+            <translation>bougie</translation>
+        </message>
+        <message>
+            <source>tungsten</source>
+            <translation>ampoule</translation>
+        </message>
+        <message>
+            <source>sunset</source>
+            <translation>coucher du soleil</translation>
+        </message>
+        <message>
+            <source>daylight</source>
+            <translation>lumière du jour</translation>
+        </message>
+        <message>
             <source>The screens are hard to read now. They go back by themselves in %d s.</source>
             <translation>Les écrans sont maintenant difficiles à lire. Les couleurs précédentes seront rétablies dans %d s.</translation>
         </message>
@@ -903,24 +1051,8 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Aperçu</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
             <source>brightness from %@ to %@</source>
             <translation>luminosité de %@ à %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>rouge</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>vert</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>bleu</translation>
         </message>
         <message>
             <source>%@ strongest</source>

@@ -8,6 +8,18 @@
             <translation>Nocturo の設定</translation>
         </message>
         <message>
+            <source>Switches the effect on or off (Ctrl+E)</source>
+            <translation>効果のオンとオフを切り替えます (Ctrl+E)</translation>
+        </message>
+        <message>
+            <source>Effect</source>
+            <translation>効果</translation>
+        </message>
+        <message>
+            <source>Looks and effects</source>
+            <translation>ルックと効果</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>効果</translation>
         </message>
@@ -42,6 +54,14 @@
         <message>
             <source>Tints the screen as colored glass would</source>
             <translation>色付きのガラスを通したように画面に色を付けます</translation>
+        </message>
+        <message>
+            <source>&amp;Temperature:</source>
+            <translation>色温度(&amp;T):</translation>
+        </message>
+        <message>
+            <source>The color filter as warm or cool light, from candles to the sky; empty while it is another color</source>
+            <translation>カラーフィルターを、ろうそくから空までの暖かい光や冷たい光として表します。ほかの色の間は空です</translation>
         </message>
         <message>
             <source>H&amp;ue:</source>
@@ -86,6 +106,14 @@
         <message>
             <source>The screen whose curves are shown</source>
             <translation>カーブを表示する画面</translation>
+        </message>
+        <message>
+            <source>Cu&amp;rves</source>
+            <translation>カーブ(&amp;R)</translation>
+        </message>
+        <message>
+            <source>Shows beside the picture what becomes of each color channel</source>
+            <translation>画像の横に、各色チャンネルがどう変わるかを表示します</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -257,6 +285,62 @@
         <message>
             <source>None</source>
             <translation>なし</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>反転</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>露出オーバー</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>HDTV レンジ</translation>
+        </message>
+        <message>
+            <source>Lighten %@</source>
+            <translation>明るく %@</translation>
+        </message>
+        <message>
+            <source>Dim %@</source>
+            <translation>暗く %@</translation>
+        </message>
+        <message>
+            <source>Color filter %1$@° %2$@ %%</source>
+            <translation>カラーフィルター %1$@° %2$@%%</translation>
+        </message>
+        <message>
+            <source>all screens</source>
+            <translation>すべての画面</translation>
+        </message>
+        <message>
+            <source>screens that are not connected</source>
+            <translation>接続されていない画面</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>一時停止中: スクリーンセーバー</translation>
+        </message>
+        <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>オフ。効果を選んでからオンにしてください</translation>
+        </message>
+        <message>
+            <source>Off. Switched on: %@</source>
+            <translation>オフ。オンにすると: %@</translation>
+        </message>
+        <message>
+            <source>On, but no effect is chosen</source>
+            <translation>オンですが、効果が選ばれていません</translation>
+        </message>
+        <message>
+            <source>On: %1$@ on %2$@</source>
+            <translation>オン: %2$@に%1$@</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -811,6 +895,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Nocturo について(&amp;A)</translation>
         </message>
         <message>
+            <source>red</source>
+            <translation>赤</translation>
+        </message>
+        <message>
+            <source>orange</source>
+            <translation>オレンジ</translation>
+        </message>
+        <message>
+            <source>yellow</source>
+            <translation>黄</translation>
+        </message>
+        <message>
+            <source>lime</source>
+            <translation>黄緑</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>緑</translation>
+        </message>
+        <message>
+            <source>sea green</source>
+            <translation>青緑</translation>
+        </message>
+        <message>
+            <source>cyan</source>
+            <translation>シアン</translation>
+        </message>
+        <message>
+            <source>azure</source>
+            <translation>空色</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>青</translation>
+        </message>
+        <message>
+            <source>violet</source>
+            <translation>紫</translation>
+        </message>
+        <message>
+            <source>magenta</source>
+            <translation>マゼンタ</translation>
+        </message>
+        <message>
+            <source>pink</source>
+            <translation>ピンク</translation>
+        </message>
+        <message>
+            <source>candle</source>
+            <translation>ろうそく</translation>
+        </message>
+        <message>
+            <source>tungsten</source>
+            <translation>白熱灯</translation>
+        </message>
+        <message>
+            <source>sunset</source>
+            <translation>夕日</translation>
+        </message>
+        <message>
+            <source>daylight</source>
+            <translation>昼光</translation>
+        </message>
+        <message>
             <source>The screens are hard to read now. They go back by themselves in %d s.</source>
             <translation>画面が読みにくくなっています。%d 秒後に元の色に戻ります。</translation>
         </message>
@@ -903,24 +1051,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>プレビュー</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
             <source>brightness from %@ to %@</source>
             <translation>明るさ %@～%@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>赤</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>緑</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>青</translation>
         </message>
         <message>
             <source>%@ strongest</source>

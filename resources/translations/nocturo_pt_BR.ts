@@ -8,6 +8,18 @@
             <translation>Preferências do Nocturo</translation>
         </message>
         <message>
+            <source>Switches the effect on or off (Ctrl+E)</source>
+            <translation>Liga ou desliga o efeito (Ctrl+E)</translation>
+        </message>
+        <message>
+            <source>Effect</source>
+            <translation>Efeito</translation>
+        </message>
+        <message>
+            <source>Looks and effects</source>
+            <translation>Visuais e efeitos</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Efeitos</translation>
         </message>
@@ -42,6 +54,14 @@
         <message>
             <source>Tints the screen as colored glass would</source>
             <translation>Tinge a tela como faria um vidro colorido</translation>
+        </message>
+        <message>
+            <source>&amp;Temperature:</source>
+            <translation>&amp;Temperatura:</translation>
+        </message>
+        <message>
+            <source>The color filter as warm or cool light, from candles to the sky; empty while it is another color</source>
+            <translation>O filtro de cor como luz quente ou fria, da vela ao céu; vazio enquanto for outra cor</translation>
         </message>
         <message>
             <source>H&amp;ue:</source>
@@ -86,6 +106,14 @@
         <message>
             <source>The screen whose curves are shown</source>
             <translation>A tela cujas curvas são mostradas</translation>
+        </message>
+        <message>
+            <source>Cu&amp;rves</source>
+            <translation>&amp;Curvas</translation>
+        </message>
+        <message>
+            <source>Shows beside the picture what becomes of each color channel</source>
+            <translation>Mostra ao lado da imagem o que acontece com cada canal de cor</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -257,6 +285,62 @@
         <message>
             <source>None</source>
             <translation>Nenhuma</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Inverter</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Superexpor</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>Faixa HDTV</translation>
+        </message>
+        <message>
+            <source>Lighten %@</source>
+            <translation>Clarear %@</translation>
+        </message>
+        <message>
+            <source>Dim %@</source>
+            <translation>Escurecer %@</translation>
+        </message>
+        <message>
+            <source>Color filter %1$@° %2$@ %%</source>
+            <translation>Filtro de cor %1$@° %2$@ %%</translation>
+        </message>
+        <message>
+            <source>all screens</source>
+            <translation>todas as telas</translation>
+        </message>
+        <message>
+            <source>screens that are not connected</source>
+            <translation>telas que não estão conectadas</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>Em pausa: protetor de tela</translation>
+        </message>
+        <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Desligado. Escolha efeitos e depois ligue</translation>
+        </message>
+        <message>
+            <source>Off. Switched on: %@</source>
+            <translation>Desligado. Ao ligar: %@</translation>
+        </message>
+        <message>
+            <source>On, but no effect is chosen</source>
+            <translation>Ligado, mas nenhum efeito foi escolhido</translation>
+        </message>
+        <message>
+            <source>On: %1$@ on %2$@</source>
+            <translation>Ligado: %1$@ em %2$@</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -811,6 +895,70 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>&amp;Sobre o Nocturo</translation>
         </message>
         <message>
+            <source>red</source>
+            <translation>vermelho</translation>
+        </message>
+        <message>
+            <source>orange</source>
+            <translation>laranja</translation>
+        </message>
+        <message>
+            <source>yellow</source>
+            <translation>amarelo</translation>
+        </message>
+        <message>
+            <source>lime</source>
+            <translation>lima</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>verde</translation>
+        </message>
+        <message>
+            <source>sea green</source>
+            <translation>verde-mar</translation>
+        </message>
+        <message>
+            <source>cyan</source>
+            <translation>ciano</translation>
+        </message>
+        <message>
+            <source>azure</source>
+            <translation>azul-celeste</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>azul</translation>
+        </message>
+        <message>
+            <source>violet</source>
+            <translation>violeta</translation>
+        </message>
+        <message>
+            <source>magenta</source>
+            <translation>magenta</translation>
+        </message>
+        <message>
+            <source>pink</source>
+            <translation>rosa</translation>
+        </message>
+        <message>
+            <source>candle</source>
+            <translation>vela</translation>
+        </message>
+        <message>
+            <source>tungsten</source>
+            <translation>lâmpada</translation>
+        </message>
+        <message>
+            <source>sunset</source>
+            <translation>pôr do sol</translation>
+        </message>
+        <message>
+            <source>daylight</source>
+            <translation>luz do dia</translation>
+        </message>
+        <message>
             <source>The screens are hard to read now. They go back by themselves in %d s.</source>
             <translation>As telas estão difíceis de ler agora. As cores anteriores voltarão sozinhas em %d s.</translation>
         </message>
@@ -903,24 +1051,8 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Pré-visualização</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
             <source>brightness from %@ to %@</source>
             <translation>brilho de %@ a %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>vermelho</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>verde</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>azul</translation>
         </message>
         <message>
             <source>%@ strongest</source>

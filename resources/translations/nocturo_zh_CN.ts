@@ -8,6 +8,18 @@
             <translation>Nocturo 首选项</translation>
         </message>
         <message>
+            <source>Switches the effect on or off (Ctrl+E)</source>
+            <translation>打开或关闭效果（Ctrl+E）</translation>
+        </message>
+        <message>
+            <source>Effect</source>
+            <translation>效果</translation>
+        </message>
+        <message>
+            <source>Looks and effects</source>
+            <translation>外观与效果</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>效果</translation>
         </message>
@@ -42,6 +54,14 @@
         <message>
             <source>Tints the screen as colored glass would</source>
             <translation>像隔着彩色玻璃一样为屏幕着色</translation>
+        </message>
+        <message>
+            <source>&amp;Temperature:</source>
+            <translation>色温(&amp;T)：</translation>
+        </message>
+        <message>
+            <source>The color filter as warm or cool light, from candles to the sky; empty while it is another color</source>
+            <translation>将颜色滤镜表示为从烛光到天空的暖光或冷光；为其他颜色时为空</translation>
         </message>
         <message>
             <source>H&amp;ue:</source>
@@ -86,6 +106,14 @@
         <message>
             <source>The screen whose curves are shown</source>
             <translation>显示其曲线的屏幕</translation>
+        </message>
+        <message>
+            <source>Cu&amp;rves</source>
+            <translation>曲线(&amp;R)</translation>
+        </message>
+        <message>
+            <source>Shows beside the picture what becomes of each color channel</source>
+            <translation>在图片旁显示每个颜色通道的变化</translation>
         </message>
         <message>
             <source>Screens</source>
@@ -257,6 +285,62 @@
         <message>
             <source>None</source>
             <translation>无</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>反转</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>过度曝光</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>HDTV 范围</translation>
+        </message>
+        <message>
+            <source>Lighten %@</source>
+            <translation>调亮 %@</translation>
+        </message>
+        <message>
+            <source>Dim %@</source>
+            <translation>调暗 %@</translation>
+        </message>
+        <message>
+            <source>Color filter %1$@° %2$@ %%</source>
+            <translation>颜色滤镜 %1$@° %2$@%%</translation>
+        </message>
+        <message>
+            <source>all screens</source>
+            <translation>所有屏幕</translation>
+        </message>
+        <message>
+            <source>screens that are not connected</source>
+            <translation>未连接的屏幕</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>已暂停：屏幕保护程序</translation>
+        </message>
+        <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>已关闭。请选择效果，然后打开</translation>
+        </message>
+        <message>
+            <source>Off. Switched on: %@</source>
+            <translation>已关闭。打开后：%@</translation>
+        </message>
+        <message>
+            <source>On, but no effect is chosen</source>
+            <translation>已打开，但未选择任何效果</translation>
+        </message>
+        <message>
+            <source>On: %1$@ on %2$@</source>
+            <translation>已打开：%2$@上应用 %1$@</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -811,6 +895,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>关于 Nocturo(&amp;A)</translation>
         </message>
         <message>
+            <source>red</source>
+            <translation>红色</translation>
+        </message>
+        <message>
+            <source>orange</source>
+            <translation>橙色</translation>
+        </message>
+        <message>
+            <source>yellow</source>
+            <translation>黄色</translation>
+        </message>
+        <message>
+            <source>lime</source>
+            <translation>黄绿色</translation>
+        </message>
+        <message>
+            <source>green</source>
+            <translation>绿色</translation>
+        </message>
+        <message>
+            <source>sea green</source>
+            <translation>海绿色</translation>
+        </message>
+        <message>
+            <source>cyan</source>
+            <translation>青色</translation>
+        </message>
+        <message>
+            <source>azure</source>
+            <translation>天蓝色</translation>
+        </message>
+        <message>
+            <source>blue</source>
+            <translation>蓝色</translation>
+        </message>
+        <message>
+            <source>violet</source>
+            <translation>紫色</translation>
+        </message>
+        <message>
+            <source>magenta</source>
+            <translation>品红色</translation>
+        </message>
+        <message>
+            <source>pink</source>
+            <translation>粉红色</translation>
+        </message>
+        <message>
+            <source>candle</source>
+            <translation>烛光</translation>
+        </message>
+        <message>
+            <source>tungsten</source>
+            <translation>钨丝灯</translation>
+        </message>
+        <message>
+            <source>sunset</source>
+            <translation>日落</translation>
+        </message>
+        <message>
+            <source>daylight</source>
+            <translation>日光</translation>
+        </message>
+        <message>
             <source>The screens are hard to read now. They go back by themselves in %d s.</source>
             <translation>屏幕现在难以看清，%d 秒后将自动还原。</translation>
         </message>
@@ -903,24 +1051,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>预览</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
             <source>brightness from %@ to %@</source>
             <translation>亮度从 %@ 到 %@</translation>
-        </message>
-        <message>
-            <source>red</source>
-            <translation>红色</translation>
-        </message>
-        <message>
-            <source>green</source>
-            <translation>绿色</translation>
-        </message>
-        <message>
-            <source>blue</source>
-            <translation>蓝色</translation>
         </message>
         <message>
             <source>%@ strongest</source>

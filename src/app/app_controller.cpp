@@ -115,6 +115,11 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
     if (saveState) {
         defaults_.setBool(active, kEffectActive);
     }
+    paused_ = false;
+    switchEffect(active);
+}
+
+void NDAppController::switchEffect(bool active) {
     if (active) {
         if (!screenControllers_) {
             screenControllers_.emplace();
@@ -257,7 +262,8 @@ void NDAppController::setRecordingHotKey(bool recording) {
 
 void NDAppController::screenSaverDidStart() {
     if (defaults_.boolForKey(kDeactivateForScreenSaver)) {
-        setEffectActive(false, false);
+        paused_ = true;
+        switchEffect(false);
         observe(centers_.distributed, kScreenSaverDidStopNotification,
                 &NDAppController::screenSaverDidStop);
     }

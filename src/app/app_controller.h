@@ -130,6 +130,9 @@ class NDAppController : public ActionTarget {
     void setEffectActive(bool active, bool saveState);
     bool effectActive() const { return screenControllers_.has_value(); }
 
+    /// Whether the effect is off only for as long as the screen saver runs.
+    bool isPaused() const { return paused_; }
+
     /// False while the launch may still be forbidden by the answer to a question: nothing can be
     /// switched, and nobody is to write settings.
     bool isReady() const { return globalEffect_ != nullptr; }
@@ -201,6 +204,7 @@ class NDAppController : public ActionTarget {
     void observe(NotificationCenter& center, std::string_view name, Handler handler);
     void bringEffectBack(std::function<void(bool launched)> finished);
     void restoreEffect();
+    void switchEffect(bool active);
     void appearOnDesktop();
     void setActivateItemTitles();
 
@@ -215,6 +219,7 @@ class NDAppController : public ActionTarget {
     bool statusItemReady_ = false;
     bool statusItemShown_ = false;
     bool recordingHotKey_ = false;
+    bool paused_ = false;
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
     std::unique_ptr<Timer> continuousApplyTimer_;

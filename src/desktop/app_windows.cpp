@@ -1,6 +1,7 @@
 #include "desktop/app_windows.h"
 
 #include "app/app_controller.h"
+#include "app/state_sentence.h"
 #include "base/notification_names.h"
 #include "desktop/about/about_box_controller.h"
 #include "desktop/about/about_box_views.h"
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPalette>
+#include <QSettings>
 
 #include <algorithm>
 
@@ -23,6 +25,8 @@ namespace nocturo {
 namespace {
 
 constexpr QSize kPictureSize(640, 400);
+constexpr auto kGeometry = "Geometry";
+constexpr auto kPage = "Page";
 
 } // namespace
 
@@ -34,6 +38,9 @@ AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
 }
 
 AppWindows::~AppWindows() {
+    if (preferencesVisible()) {
+        savePlace();
+    }
     localCenter_.removeObserver(this);
     distributedCenter_.removeObserver(this);
 }
@@ -44,6 +51,9 @@ NDPreferencesController& AppWindows::preferencesController() {
             defaults_, localCenter_,
             [this](CGDirectDisplayID display) { return capturedCurve(display); },
             [this](bool recording) { controller_.setRecordingHotKey(recording); },
+            [this] { return controller_.effectActive(); },
+            [this] { controller_.toggleGlobalEffect(); },
+            [this] { return stateSentence(controller_, defaults_); },
             [this] { return documentFolder ? documentFolder() : std::filesystem::path(); }});
         preferenceController->setKeyboardLayout(layout_);
         QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,
@@ -153,8 +163,26 @@ void AppWindows::setAboutBoxBackgroundColor(const OpaqueColor& color) {
 }
 
 void AppWindows::loadPreferences() {
-    preferencesController().loadWindow();
+    NDPreferencesController& preferences = preferencesController();
+    if (!preferences.isWindowLoaded()) {
+        preferences.loadWindow();
+        if (!placeFile.empty()) {
+            const QSettings kept(QString::fromStdString(placeFile), QSettings::IniFormat);
+            preferences.window()->restoreGeometry(kept.value(kGeometry).toByteArray());
+            preferences.showPage(kept.value(kPage).toInt());
+        }
+        QObject::connect(preferences.window(), &PreferencePanel::closed, &preferences,
+                         [this] { savePlace(); });
+    }
     furnishPreferences();
+}
+
+void AppWindows::savePlace() const {
+    if (!placeFile.empty()) {
+        QSettings kept(QString::fromStdString(placeFile), QSettings::IniFormat);
+        kept.setValue(kGeometry, preferenceController->window()->saveGeometry());
+        kept.setValue(kPage, preferenceController->page());
+    }
 }
 
 bool AppWindows::openEffectFile(const std::string& path) {

@@ -51,6 +51,9 @@ class AppWindows : public UserInterface {
     /// Where a document is looked for and put at first; the home directory where that is empty.
     std::function<std::filesystem::path()> documentFolder;
 
+    /// Keeps where the preference window is, its size and page; nothing is kept where it is empty.
+    std::filesystem::path placeFile;
+
     /// Makes the preference window, if there is none, without showing it.
     void loadPreferences();
 
@@ -67,6 +70,7 @@ class AppWindows : public UserInterface {
   private:
     NDPreferencesController& preferencesController();
     void furnishPreferences();
+    void savePlace() const;
     const ZQGammaCurve* capturedCurve(CGDirectDisplayID display) const;
 
     NDAppController& controller_;

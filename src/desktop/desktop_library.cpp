@@ -51,6 +51,7 @@ class QtDesktop : public DesktopPart {
     explicit QtDesktop(const DesktopSurroundings& around)
         : application_(around.loop), windows_(around.controller, around.defaults, around.centers),
           menus_(around.controller, windows_, around.recentDocuments, around.menus, around.server) {
+        windows_.placeFile = around.stateDirectory / "window.ini";
         atSuddenEnd() = around.serverIsLost;
         std::atexit([] {
             if (const auto action = std::exchange(atSuddenEnd(), nullptr)) {

@@ -28,6 +28,7 @@ struct DesktopSurroundings {
     DefaultsStore& defaults;
     NotificationCenters centers;
     const RecentDocuments& recentDocuments;
+    std::filesystem::path stateDirectory; // for what windows remember
     AppMenus& menus;
     XConnection* server;                   // null where there is no X server
     std::function<void()> sessionIsEnding; // the time to keep what is to come back

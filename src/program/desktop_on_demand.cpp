@@ -86,8 +86,8 @@ Result<DesktopPart*> DesktopOnDemand::load() {
     }
     choosePlatform(server_);
     awaitedTray_.reset(); // the part has one of its own
-    part_ = (*library)->start({loop_, controller_, defaults_, centers_, recentDocuments_, menus_,
-                               server_,
+    part_ = (*library)->start({loop_, controller_, defaults_, centers_, recentDocuments_,
+                               stateDirectory(), menus_, server_,
                                [this] {
                                    if (sessionIsEnding) {
                                        sessionIsEnding();

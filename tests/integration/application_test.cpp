@@ -182,10 +182,10 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
     const std::string window = windowCalled("Nocturo Preferences");
     // The first box is somewhere below the title of its group, whatever the fonts.
     const auto clickAt = [&](int y) {
-        xdotool({"mousemove", "--window", window, "32", std::to_string(y), "click", "1"});
+        xdotool({"mousemove", "--window", window, "44", std::to_string(y), "click", "1"});
         return waitUntil([&] { return isInverted(); }, Milliseconds(300));
     };
-    EXPECT_TRUE(clickAt(36) || clickAt(44) || clickAt(52) || clickAt(60));
+    EXPECT_TRUE(clickAt(110) || clickAt(118) || clickAt(126) || clickAt(134) || clickAt(142));
     press("alt+i");
     EXPECT_TRUE(turns(false));
 
@@ -195,7 +195,8 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
             return hotKey.is_object() && hotKey["text"] == text;
         });
     };
-    press("alt+k"); // the box of the hot key, whose field waits for one then
+    press("ctrl+Tab"); // to the other page
+    press("alt+k");    // the box of the hot key, whose field waits for one then
     ASSERT_TRUE(waitUntil([&] { return status()["settings"]["UseHotKey"] == true; }));
     for (const char* key : {"k", "Tab", "space"}) { // neither hot keys nor ways out of the field
         press(key);
@@ -211,6 +212,7 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
     press("ctrl+w"); // otherwise closes the window
     EXPECT_TRUE(hotKeyBecomes("⌃W"));
     EXPECT_TRUE(isShown("Preferences"));
+    press("ctrl+Tab");
     press("alt+i");
     EXPECT_TRUE(turns(true));
     press("ctrl+w"); // what is registered now is nobody else's

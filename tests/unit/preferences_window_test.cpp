@@ -7,6 +7,7 @@
 #include "display_services_fixture.h"
 #include "documents/effect_document_file.h"
 #include "effects/color_filter_effect.h"
+#include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
 #include "temporary_directory.h"
 
@@ -16,6 +17,7 @@
 #include <QCheckBox>
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -65,11 +67,17 @@ struct PreferencesWindow : DisplayServicesFixture {
             }
         }
     }
+    bool on = false;
     ZQGammaCurve captured; // nothing while the effect is off
     NDPreferencesController controller{PreferenceSurroundings{
         *store_, center_,
         [this](CGDirectDisplayID) { return captured.sampleCount > 0 ? &captured : nullptr; },
-        [](bool /*recording*/) {}}};
+        [](bool /*recording*/) {}, [this] { return on; },
+        [this] {
+            on = !on;
+            controller.updateState();
+        },
+        [this] { return std::string(on ? "On: nothing" : "Off"); }}};
 };
 
 TEST_F(PreferencesWindow, BoxesChangeTheirSettingAndFollowIt) {
@@ -153,21 +161,66 @@ TEST_F(PreferencesWindow, PreviewsTheEffectOnceWhileTheScreenShowsIt) {
 
 TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained) {
     show();
-    auto& first = find<QWidget>("invertScreen");
-    first.setFocus();
-    QStringList order;
-    do {
-        const QWidget* control = QApplication::focusWidget();
-        order << control->objectName();
-        EXPECT_TRUE(!control->toolTip().isEmpty() || order.back() == "closeButton")
-            << order.back().toStdString();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    } while (!first.hasFocus() && order.size() < 40);
+    const auto tabbed = [](QWidget& first) {
+        first.setFocus();
+        QStringList order;
+        do {
+            const QWidget* control = QApplication::focusWidget();
+            const QString name = control->objectName();
+            order << (name.isEmpty() ? control->parentWidget()->objectName() : name);
+            EXPECT_TRUE(!control->toolTip().isEmpty() || name.isEmpty() || name == "closeButton" ||
+                        name == "qt_tabwidget_tabbar")
+                << name.toStdString();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        } while (!first.hasFocus() && order.size() < 40);
+        order.removeDuplicates(); // a slider and its field
+        return order.join(' ').toStdString();
+    };
     EXPECT_EQ(
-        order.join(' ').toStdString(),
-        "invertScreen hideStripes hdtvLuminance colorFilter dimScreen affectedScreens "
-        "activateAtLaunch activateOnClick continuouslyApply deactivateForScreenSaver useHotKey "
-        "hotKeyField showInTaskBar previewDisplay openButton saveButton closeButton");
+        tabbed(find<QWidget>("effectSwitch")),
+        "effectSwitch qt_tabwidget_tabbar invertScreen hideStripes hdtvLuminance colorFilter "
+        "temperature dimScreen affectedScreens previewDisplay showCurves openButton saveButton "
+        "closeButton");
+    controller.showPage(1);
+    EXPECT_EQ(tabbed(find<QWidget>("effectSwitch")),
+              "effectSwitch qt_tabwidget_tabbar activateAtLaunch activateOnClick continuouslyApply "
+              "deactivateForScreenSaver useHotKey hotKeyField showInTaskBar openButton saveButton "
+              "closeButton");
+}
+
+TEST_F(PreferencesWindow, HasASwitchThatFollowsTheEffect) {
+    show();
+    QTest::keyClick(controller.window(), Qt::Key_E, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return on; }));
+    EXPECT_EQ(find<QLabel>("stateSentence").text(), "On: nothing");
+    on = false;
+    controller.updateState();
+    EXPECT_FALSE(isChecked("effectSwitch"));
+}
+
+TEST_F(PreferencesWindow, TemperaturesAreColorsOfTheFilterAndNoneIsAnEmptyField) {
+    show();
+    EXPECT_TRUE(slider("temperature").isEmpty());
+    slider("temperature").moveTo(2700);
+    EXPECT_EQ(chosenEffects(), PropertyArray{"NDColorFilterEffect"});
+    EXPECT_NEAR(NDColorFilterEffect::hue(), filterAtTemperature(2700).hue, 1e-4);
+    EXPECT_EQ(find<QLabel>("temperatureWord").text(), "tungsten");
+    NDColorFilterEffect::setHue(300);
+    EXPECT_TRUE(slider("temperature").isEmpty());
+    EXPECT_EQ(find<QLabel>("hueWord").text(), "magenta");
+    NDColorFilterEffect::setHue(static_cast<float>(filterAtTemperature(2700).hue));
+    EXPECT_NEAR(slider("temperature").value(), 2700, 1);
+}
+
+// 960 x 500 points at 150 % text.
+TEST_F(PreferencesWindow, FitsASmallScreen) {
+    controller.loadWindow();
+    QFont large = controller.window()->font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    controller.window()->setFont(large);
+    const QSize least = controller.window()->minimumSizeHint();
+    EXPECT_LE(least.width(), 960);
+    EXPECT_LE(least.height(), 500);
 }
 
 struct EffectDocuments : PreferencesWindow {

@@ -25,6 +25,7 @@
 #include <QPixmap>
 #include <QScreen>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
 #include <QTranslator>
@@ -94,6 +95,10 @@ void show(AppWindows& windows, const QString& window) {
         press("saveButton");
     } else if (window == QLatin1String("screens")) {
         press("affectedScreens");
+    } else if (window == QLatin1String("switching")) {
+        windows.shownPreferences()->findChild<QTabWidget*>()->setCurrentIndex(1);
+    } else if (window == QLatin1String("curves")) {
+        press("showCurves");
     }
 }
 
@@ -109,7 +114,7 @@ int run(const QStringList& arguments) {
     controller.setUserInterface(&windows);
     const auto displays = openDisplays(
         *parseDisplayChoice("simulated:2"),
-        {"", nullptr, "", "", *runtimeDirectory(), nullptr, writeTestCard, {}}, runLoop);
+        {"", nullptr, "", "", *runtimeDirectory(), nullptr, writeTestCard, {}, {}}, runLoop);
     setDisplayServices(displays->services.get());
     NDGroupEffect::effect();
     if (arguments[1] == QLatin1String("preferences")) {

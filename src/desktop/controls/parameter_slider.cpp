@@ -38,7 +38,7 @@ class SliderAccessible : public QAccessibleWidget, public QAccessibleValueInterf
                                                    : QAccessibleWidget::interface_cast(type);
     }
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? row_.shownText() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Value ? row_.spokenText() : QAccessibleWidget::text(kind);
     }
     QVariant currentValue() const override { return shown(static_cast<double>(row_.value())); }
     void setCurrentValue(const QVariant& value) override {
@@ -85,7 +85,8 @@ void ParameterSlider::setParameter(const Parameter& parameter) {
     slider_->setTrack(parameter.track);
     slider_->setSingleStep(positions(parameter.step));
     slider_->setPageStep(positions(parameter.page));
-    slider_->setDefaultPosition(positions(parameter.defaultValue - parameter.minimum));
+    slider_->setDefaultPosition(
+        static_cast<int>(std::lround(shareOf(parameter.defaultValue) * TrackSlider::kPositions)));
     const QSignalBlocker quiet(field_);
     field_->setUnit(parameter.unit);
     field_->setSigned(parameter.track == TrackSlider::Track::Middle);
@@ -98,7 +99,7 @@ void ParameterSlider::setParameter(const Parameter& parameter) {
     const int text = std::max(width(field_->textFromValue(field_->minimum())),
                               width(field_->textFromValue(field_->maximum())));
     field_->setFixedWidth(field_->sizeHint().width() - text +
-                          std::max(text, width(QStringLiteral("+000 %"))));
+                          std::max(text, width(QStringLiteral("00,000 K"))));
     value_ = limited(static_cast<double>(value_));
     showValue();
 }
@@ -108,21 +109,44 @@ float ParameterSlider::limited(double value) const {
         std::clamp(std::isnan(value) ? 0.0 : value, parameter_.minimum, parameter_.maximum));
 }
 
+double ParameterSlider::shareOf(double value) const {
+    const double low = parameter_.minimum;
+    const double high = parameter_.maximum;
+    return parameter_.reciprocal ? (1 / low - 1 / value) / (1 / low - 1 / high)
+                                 : (value - low) / (high - low);
+}
+
+double ParameterSlider::valueAt(double share) const {
+    const double low = parameter_.minimum;
+    const double high = parameter_.maximum;
+    return parameter_.reciprocal ? 1 / (1 / low - (1 / low - 1 / high) * share)
+                                 : low + (high - low) * share;
+}
+
 QString ParameterSlider::shownText() const {
-    return field_->textFromValue(static_cast<double>(value_) * parameter_.scale);
+    return empty_ ? QString()
+                  : field_->textFromValue(static_cast<double>(value_) * parameter_.scale);
+}
+
+void ParameterSlider::setEmpty() {
+    empty_ = true;
+    slider_->setHandleShown(false);
+    field_->clear();
 }
 
 void ParameterSlider::setValue(float value) {
     const float before = std::exchange(value_, limited(static_cast<double>(value)));
-    if (std::bit_cast<std::uint32_t>(before) != std::bit_cast<std::uint32_t>(value_)) {
+    const bool wasEmpty = std::exchange(empty_, false);
+    if (wasEmpty || std::bit_cast<std::uint32_t>(before) != std::bit_cast<std::uint32_t>(value_)) {
         showValue();
     }
 }
 
 void ParameterSlider::moveTo(double value) {
     const float before = std::exchange(value_, limited(value));
+    const bool wasEmpty = std::exchange(empty_, false);
     showValue();
-    if (value_ != before) {
+    if (wasEmpty || value_ != before) {
         Q_EMIT valueChangedByUser(value_);
     }
 }
@@ -130,15 +154,15 @@ void ParameterSlider::moveTo(double value) {
 /// The slider stands at its new position and has told nobody else yet.
 void ParameterSlider::takeMove() {
     const double share = 1.0 * slider_->sliderPosition() / TrackSlider::kPositions;
-    moveTo(parameter_.minimum + (parameter_.maximum - parameter_.minimum) * share);
+    moveTo(valueAt(share));
 }
 
 void ParameterSlider::showValue() {
     const QSignalBlocker quietSlider(slider_);
     const QSignalBlocker quietField(field_);
     const double value = static_cast<double>(value_);
-    const double share = (value - parameter_.minimum) / (parameter_.maximum - parameter_.minimum);
-    slider_->setValue(static_cast<int>(std::lround(share * TrackSlider::kPositions)));
+    slider_->setHandleShown(true);
+    slider_->setValue(static_cast<int>(std::lround(shareOf(value) * TrackSlider::kPositions)));
     field_->setValue(value * parameter_.scale);
     if (field_->hasFocus()) {
         field_->selectAll();

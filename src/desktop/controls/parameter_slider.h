@@ -24,6 +24,7 @@ class ParameterSlider : public QWidget {
         double scale = 1.0; // what is shown and typed is the value times this: 100 for per cent
         QString unit = {};
         TrackSlider::Track track = TrackSlider::Track::Fill; // with Middle the number has a sign
+        bool reciprocal = false; // positions are even in 1 / value, as mired are of kelvin
     };
 
     explicit ParameterSlider(QWidget* parent = nullptr);
@@ -35,11 +36,31 @@ class ParameterSlider : public QWidget {
     /// The value that was set, to the last bit, whatever is shown.
     float value() const { return value_; }
     QString shownText() const;
+    QString spokenText() const {
+        return word_.isEmpty() ? shownText() : shownText() + ", " + word_;
+    }
 
     /// Limited to the range; what is no number becomes the value nearest to 0. Emits nothing. The
     /// value it already has leaves a number alone that is just being typed; another one replaces
     /// it.
     void setValue(float value);
+
+    /// There is no value to show: the field is empty and the slider without a handle. Whoever sets
+    /// or moves it gives it one again.
+    void setEmpty();
+    bool isEmpty() const { return empty_; }
+
+    /// What a screen reader says after the value: "orange".
+    void setWord(const QString& word) { word_ = word; }
+
+    /// Colors of the track, from the minimum to the maximum.
+    void setColors(QGradientStops colors) { slider_->setColors(std::move(colors)); }
+
+    /// Where on the track a value stands, 0 to 1.
+    double shareOf(double value) const;
+
+    /// The value that stands there.
+    double valueAt(double share) const;
 
     /// The same, as the user's doing.
     void moveTo(double value);
@@ -60,6 +81,8 @@ class ParameterSlider : public QWidget {
 
     Parameter parameter_;
     float value_ = 0.0F;
+    bool empty_ = false;
+    QString word_;
     TrackSlider* slider_;
     NumberField* field_;
 };

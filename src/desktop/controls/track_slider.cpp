@@ -1,7 +1,6 @@
 #include "desktop/controls/track_slider.h"
 
 #include "desktop/mixed_color.h"
-#include "effects/color_filter_effect.h"
 
 #include <QApplication>
 #include <QLinearGradient>
@@ -11,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace nocturo {
 
@@ -20,22 +20,6 @@ constexpr int kWheelNotch = 120;
 constexpr double kMiddlePull = 3.0; // logical pixels
 constexpr double kTrackEnd = 4.0;   // beyond where the handle's middle gets
 constexpr int kLeastLength = 12;    // handles
-
-/// White light through the filter: the very colors that the effect makes.
-QGradientStops hueStops() {
-    constexpr int kStops = 72;
-    const auto filter = NDColorFilterEffect::effect();
-    QGradientStops stops;
-    for (int i = 0; i <= kStops; ++i) {
-        const float turn = static_cast<float>(i) / kStops;
-        const auto amount = [&](float phase) {
-            return filter.colorAmmountForHue(turn * 360.0F, phase);
-        };
-        stops.append({static_cast<double>(turn),
-                      QColor::fromRgbF(amount(0.0F), amount(1.0F / 3), amount(2.0F / 3))});
-    }
-    return stops;
-}
 
 } // namespace
 
@@ -48,6 +32,19 @@ TrackSlider::TrackSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
 void TrackSlider::setTrack(Track track) {
     track_ = track;
     update();
+}
+
+void TrackSlider::setColors(QGradientStops colors) {
+    if (colors != colors_) {
+        colors_ = std::move(colors);
+        update();
+    }
+}
+
+void TrackSlider::setHandleShown(bool shown) {
+    if (std::exchange(handleShown_, shown) != shown) {
+        update();
+    }
 }
 
 double TrackSlider::Way::at(int position) const {
@@ -143,11 +140,11 @@ void TrackSlider::paintEvent(QPaintEvent* /*event*/) {
     paintTrack(painter);
     QStyleOptionSlider option;
     initStyleOption(&option);
-    option.subControls = QStyle::SC_SliderHandle;
+    option.subControls = handleShown_ ? QStyle::SC_SliderHandle : QStyle::SC_None;
     option.activeSubControls = isSliderDown() ? QStyle::SC_SliderHandle : QStyle::SC_None;
     option.state.setFlag(QStyle::State_Sunken, isSliderDown());
     painter.drawComplexControl(QStyle::CC_Slider, option);
-    if (hasFocus()) { // some styles show the focus with the groove alone
+    if (hasFocus() && handleShown_) { // some styles show the focus with the groove alone
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter.drawRoundedRect(QRectF(handle()).adjusted(1, 1, -1, -1), 3, 3);
@@ -156,7 +153,8 @@ void TrackSlider::paintEvent(QPaintEvent* /*event*/) {
 
 void TrackSlider::paintTrack(QPainter& painter) const {
     const auto [start, length, mirrored] = way();
-    const double height = track_ == Track::Hue ? 10.0 : 6.0;
+    const bool isColored = track_ == Track::Hue || track_ == Track::Temperature;
+    const double height = isColored ? 10.0 : 6.0;
     const double middle = QRectF(rect()).center().y();
     const QRectF track(start - kTrackEnd, middle - height / 2, length + 2 * kTrackEnd, height);
     const QColor ink = palette().color(QPalette::Active, QPalette::WindowText);
@@ -166,16 +164,15 @@ void TrackSlider::paintTrack(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(mixedColor(paper, ink, isEnabled() ? 0.45F : 0.3F), 1));
     painter.setBrush(mixedColor(paper, ink, 0.12F));
-    if (track_ == Track::Hue) {
-        static const QGradientStops stops = hueStops();
+    if (isColored) {
         QLinearGradient colors(mirrored ? start + length : start, 0,
                                mirrored ? start : start + length, 0);
-        colors.setStops(stops);
+        colors.setStops(colors_);
         painter.setOpacity(isEnabled() ? 1.0 : 0.4);
         painter.setBrush(colors);
     }
     painter.drawRoundedRect(track.adjusted(0.5, 0.5, -0.5, -0.5), height / 2, height / 2);
-    if (track_ != Track::Hue && isEnabled()) {
+    if (!isColored && isEnabled()) {
         const bool fromMiddle = track_ == Track::Middle;
         const double from = way().at(fromMiddle ? kPositions / 2 : 0);
         const double to = way().at(sliderPosition());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QGradient>
 #include <QSlider>
 
 namespace nocturo {
@@ -15,8 +16,8 @@ class TrackSlider : public QSlider {
   public:
     /// Fill: from the minimum. Middle: from the middle, which is marked and catches the dragged
     /// handle within three pixels. Hue: 0 to 360 degrees as the colours that the color filter makes
-    /// of white.
-    enum class Track { Fill, Middle, Hue };
+    /// of white. Temperature: from warm to cool.
+    enum class Track { Fill, Middle, Hue, Temperature };
 
     /// Positions go from 0 to this: a whole number of positions for every step of a parameter.
     static constexpr int kPositions = 100'800;
@@ -25,6 +26,12 @@ class TrackSlider : public QSlider {
 
     void setTrack(Track track);
     void setDefaultPosition(int position) { defaultPosition_ = position; }
+
+    /// Colors of the track, from the minimum to the maximum, for Hue and Temperature.
+    void setColors(QGradientStops colors);
+
+    /// Without a handle it stands nowhere, until the user moves it.
+    void setHandleShown(bool shown);
 
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override { return minimumSizeHint(); }
@@ -50,6 +57,8 @@ class TrackSlider : public QSlider {
     void paintTrack(QPainter& painter) const;
 
     Track track_ = Track::Fill;
+    QGradientStops colors_;
+    bool handleShown_ = true;
     int defaultPosition_ = 0;
     int wheelRest_ = 0;
     double grip_ = 0.0; // from the handle's middle to the mouse that drags it

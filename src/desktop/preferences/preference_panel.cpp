@@ -62,6 +62,9 @@ void PreferencePanel::timerEvent(QTimerEvent* /*event*/) {
 
 void PreferencePanel::closeEvent(QCloseEvent* event) {
     event->setAccepted(closingDirectly_ || !shouldClose || shouldClose());
+    if (event->isAccepted()) {
+        Q_EMIT closed();
+    }
 }
 
 void PreferencePanel::dragEnterEvent(QDragEnterEvent* event) {

@@ -27,6 +27,9 @@ class PreferencePanel : public QWidget {
     /// The window came to the front.
     void activated();
 
+    /// It was closed, and is about to be hidden.
+    void closed();
+
     /// It is on another screen now.
     void screenChanged();
 

@@ -36,6 +36,7 @@ void NDPreferencesController::connectEffects() {
     };
     connectSlider(ui_->colorFilterHue, &Self::changeColorFilterHue);
     connectSlider(ui_->colorFilterVividness, &Self::changeColorFilterVividness);
+    connectSlider(ui_->temperature, &Self::changeTemperature);
     connectSlider(ui_->dimLevel, &Self::changeDimLevel);
     connect(ui_->previewDisplay, &QComboBox::currentIndexChanged, this, [this] {
         readPreviewedDisplay();
@@ -100,6 +101,10 @@ void NDPreferencesController::changeColorFilterHue(const ParameterSlider& sender
 
 void NDPreferencesController::changeColorFilterVividness(const ParameterSlider& sender) {
     NDColorFilterEffect::setVividness(sender.value());
+}
+
+void NDPreferencesController::changeTemperature(const ParameterSlider& sender) {
+    setFilterTemperature(static_cast<double>(sender.value()));
 }
 
 void NDPreferencesController::changeDimLevel(const ParameterSlider& sender) {

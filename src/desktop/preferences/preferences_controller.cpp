@@ -3,13 +3,16 @@
 #include "app/screen_option_menu_manager.h"
 #include "base/notification_center.h"
 #include "desktop/menus/drawn_menu.h"
+#include "desktop/preferences/filter_colors.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/sheet.h"
 #include "desktop/qt/localized.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
 #include "effects/color_filter_effect.h"
+#include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
+#include "effects/effect_choices.h"
 #include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
@@ -19,11 +22,14 @@
 #include "settings/settings_keys.h"
 #include "ui_NocturoPreferencePanel.h"
 
+#include <QAccessible>
 #include <QButtonGroup>
 #include <QMenu>
 #include <QScreen>
 #include <QSignalBlocker>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace nocturo {
@@ -63,6 +69,20 @@ void NDPreferencesController::loadWindow() {
     panel_ = std::make_unique<PreferencePanel>();
     ui_ = std::make_unique<Ui::NocturoPreferencePanel>();
     ui_->setupUi(panel_.get());
+    setUpSliders();
+    for (QWidget* control : panel_->findChildren<QWidget*>()) {
+        control->setWhatsThis(control->toolTip());
+    }
+    ui_->showStatusItem->setId(ui_->showInTaskBar, 0);
+    ui_->showStatusItem->setId(ui_->showInTray, kStatusItemRow);
+    ui_->hotKeyField->setKeyboardLayout(layout_);
+    connectEffects();
+    connectSettings();
+    connectDocuments();
+    windowDidLoad();
+}
+
+void NDPreferencesController::setUpSliders() {
     using Track = TrackSlider::Track;
     const QString percent = localized(" %");
     ui_->colorFilterHue->setParameter({.minimum = kColorFilterHue.lowest,
@@ -77,26 +97,49 @@ void NDPreferencesController::loadWindow() {
                                              .defaultValue = kColorFilterVividness.whenAbsent,
                                              .scale = 100,
                                              .unit = percent});
+    ui_->temperature->setParameter({.minimum = kLowestTemperature,
+                                    .maximum = kHighestTemperature,
+                                    .defaultValue = kNeutralTemperature,
+                                    .step = 50,
+                                    .page = 500,
+                                    .unit = QStringLiteral(" K"),
+                                    .track = Track::Temperature,
+                                    .reciprocal = true});
     ui_->dimLevel->setParameter({.minimum = kDimLevel.lowest,
                                  .maximum = kDimLevel.highest,
                                  .defaultValue = kDimLevel.whenAbsent,
                                  .scale = 100,
                                  .unit = percent,
                                  .track = Track::Middle});
-    for (QWidget* control : panel_->findChildren<QWidget*>()) {
-        control->setWhatsThis(control->toolTip());
+    // As wide as the longest word, so that the sliders keep their length.
+    int width = 0;
+    for (int degrees = 0; degrees < 360; degrees += 30) {
+        width = std::max(width, ui_->hueWord->fontMetrics().horizontalAdvance(hueWord(degrees)));
     }
-    ui_->showStatusItem->setId(ui_->showInTaskBar, 0);
-    ui_->showStatusItem->setId(ui_->showInTray, kStatusItemRow);
-    ui_->hotKeyField->setKeyboardLayout(layout_);
-    connectEffects();
-    connectSettings();
-    connectDocuments();
-    windowDidLoad();
+    for (const double kelvin : {1900.0, 2700.0, 4000.0, kNeutralTemperature}) {
+        width =
+            std::max(width, ui_->hueWord->fontMetrics().horizontalAdvance(temperatureWord(kelvin)));
+    }
+    ui_->hueWord->setFixedWidth(width);
+    strips_.setSingleShot(true);
+    constexpr int kFrameMilliseconds = 16;
+    strips_.setInterval(kFrameMilliseconds);
+    connect(&strips_, &QTimer::timeout, this, &NDPreferencesController::updateStrips);
 }
 
 void NDPreferencesController::windowDidLoad() {
     noEffectComfirmed = true;
+    ui_->effectSwitch->setVisible(static_cast<bool>(surroundings_.toggle));
+    connect(ui_->effectSwitch, &QAbstractButton::clicked, this, [this] {
+        surroundings_.toggle();
+        updateState(); // which may be as it was
+    });
+    connect(ui_->showCurves, &QAbstractButton::toggled, this, [this](bool shown) {
+        const auto folded = panel_->isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
+        ui_->showCurves->setArrowType(shown ? Qt::DownArrow : folded);
+        ui_->preview->setPlotShown(shown);
+    });
+    Q_EMIT ui_->showCurves->toggled(false);
     listPreviewedDisplays();
     readPreviewedDisplay();
     update({});
@@ -131,6 +174,10 @@ void NDPreferencesController::windowDidLoad() {
 void NDPreferencesController::showWindow() {
     loadWindow();
     const bool wasVisible = panel_->isVisible();
+    if (!panel_->testAttribute(Qt::WA_Resized)) {
+        // Qt by itself would give it two thirds of the screen at most.
+        panel_->resize(panel_->sizeHint().boundedTo(panel_->screen()->availableSize() * 0.95));
+    }
     panel_->setWindowState(panel_->windowState() & ~Qt::WindowMinimized);
     panel_->show();
     panel_->raise();
@@ -138,6 +185,14 @@ void NDPreferencesController::showWindow() {
     if (!wasVisible || ui_->hotKeyField->isRecording()) {
         resignFirstResponder();
     }
+}
+
+int NDPreferencesController::page() const {
+    return ui_->pages->currentIndex();
+}
+
+void NDPreferencesController::showPage(int page) {
+    ui_->pages->setCurrentIndex(page);
 }
 
 void NDPreferencesController::resignFirstResponder() {
@@ -187,6 +242,7 @@ void NDPreferencesController::update(const Subjects& settings) {
         }
     }
     updateBoxes();
+    updateState();
 }
 
 void NDPreferencesController::updateEffects() {
@@ -199,13 +255,45 @@ void NDPreferencesController::updateEffects() {
     const bool filters = isSelected(NDColorFilterEffect::kName);
     ui_->colorFilter->setChecked(filters);
     ui_->colorFilterHue->setEnabled(filters);
-    ui_->colorFilterHue->setValue(NDColorFilterEffect::hue());
     ui_->colorFilterVividness->setEnabled(filters);
-    ui_->colorFilterVividness->setValue(NDColorFilterEffect::vividness());
+    updateFilter();
     const bool dims = isSelected(NDDimEffect::kName);
     ui_->dimScreen->setChecked(dims);
     ui_->dimLevel->setEnabled(dims);
     ui_->dimLevel->setValue(NDDimEffect::level());
+}
+
+void NDPreferencesController::updateFilter() {
+    const float hue = NDColorFilterEffect::hue();
+    const float vividness = NDColorFilterEffect::vividness();
+    ui_->colorFilterHue->setValue(hue);
+    ui_->colorFilterHue->setWord(hueWord(static_cast<double>(hue)));
+    ui_->hueWord->setText(hueWord(static_cast<double>(hue)));
+    ui_->hueWord->setEnabled(ui_->colorFilterHue->isEnabled());
+    ui_->colorFilterVividness->setValue(vividness);
+    const auto kelvin = ui_->colorFilter->isChecked() ? filterTemperature() : std::nullopt;
+    const QString word = kelvin ? temperatureWord(*kelvin) : QString();
+    if (!kelvin) {
+        ui_->temperature->setEmpty();
+    } else if (std::lround(*kelvin) !=
+               std::lround(static_cast<double>(ui_->temperature->value()))) {
+        ui_->temperature->setValue(static_cast<float>(*kelvin));
+    }
+    ui_->temperature->setWord(word);
+    ui_->temperatureWord->setText(word);
+}
+
+void NDPreferencesController::updateState() {
+    if (!isWindowLoaded() || !surroundings_.toggle) {
+        return;
+    }
+    ui_->effectSwitch->setChecked(surroundings_.isOn());
+    const QString sentence = QString::fromStdString(surroundings_.stateSentence());
+    if (ui_->stateSentence->text() != sentence) {
+        ui_->stateSentence->setText(sentence);
+        QAccessibleEvent news(ui_->stateSentence, QAccessible::Alert);
+        QAccessible::updateAccessibility(&news);
+    }
 }
 
 void NDPreferencesController::updateBoxes() {
@@ -224,6 +312,7 @@ void NDPreferencesController::displaysDidChange() {
         listPreviewedDisplays();
         readPreviewedDisplay();
         updatePreview();
+        updateState();
     }
 }
 
@@ -279,6 +368,19 @@ void NDPreferencesController::updatePreview() {
     PreviewCurves curves = previewCurves(previewed_);
     curves.seenThrough = seenWithEffect_ ? previewCurves(seenOn_).after : seenOn_;
     ui_->preview->setCurves(curves);
+    if (!strips_.isActive()) {
+        strips_.start();
+    }
+}
+
+void NDPreferencesController::updateStrips() {
+    PreviewCurves display;
+    display.before = seenOn_;
+    display.seenThrough = ui_->preview->curves().seenThrough;
+    const auto levels = pictureLevels(display);
+    ui_->colorFilterHue->setColors(hueStops(levels));
+    ui_->temperature->setColors(temperatureStops(
+        levels, [this](double share) { return ui_->temperature->valueAt(share); }));
 }
 
 } // namespace nocturo

@@ -3,10 +3,12 @@
 #include "desktop/preferences/previewed_display.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -38,6 +40,11 @@ struct PreferenceSurroundings {
     CapturedCurve capturedCurve;
     /// Told whether a hot key is being recorded, so that none is registered meanwhile.
     std::function<void(bool)> recordingDidChange;
+    /// The switch of the window: whether the effect is on, what switches it, and the sentence
+    /// beside it. Without them it has none.
+    std::function<bool()> isOn = {};
+    std::function<void()> toggle = {};
+    std::function<std::string()> stateSentence = {};
     /// Where a document is looked for and put at first; the home directory where that is none.
     std::function<std::filesystem::path()> documentFolder = {};
 };
@@ -70,6 +77,13 @@ class NDPreferencesController : public QObject {
     /// Shows the window in front of others, with no field being edited.
     void showWindow();
 
+    /// The pages of the loaded window are counted from 0; one that is none stays away.
+    int page() const;
+    void showPage(int page);
+
+    /// Shows anew whether the effect is on, and says so to screen readers where that is news.
+    void updateState();
+
     /// Sets the controls of the settings named.
     void update(const Subjects& settings);
 
@@ -86,6 +100,8 @@ class NDPreferencesController : public QObject {
     void changeDim(const QAbstractButton& sender);
     void changeColorFilterHue(const ParameterSlider& sender);
     void changeColorFilterVividness(const ParameterSlider& sender);
+    /// Chooses the color filter, too: who asks for warm light wants to see it.
+    void changeTemperature(const ParameterSlider& sender);
     void changeDimLevel(const ParameterSlider& sender);
 
     // Actions of the other settings
@@ -130,6 +146,9 @@ class NDPreferencesController : public QObject {
     bool windowShouldClose();
     void resignFirstResponder();
     void updateEffects();
+    void updateFilter();
+    void updateStrips();
+    void setUpSliders();
     void updateBoxes();
     void setContains(std::string_view effect, const QAbstractButton& sender);
     CGDirectDisplayID displayOfWindow() const;
@@ -152,6 +171,7 @@ class NDPreferencesController : public QObject {
     ZQGammaCurve previewed_; // without the effect
     ZQGammaCurve seenOn_;    // of the display that the window is on, without the effect
     bool seenWithEffect_ = false;
+    QTimer strips_; // of color are drawn once for many steps of a slider
 };
 
 } // namespace nocturo

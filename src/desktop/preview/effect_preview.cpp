@@ -151,6 +151,11 @@ void EffectPreview::setCurves(const PreviewCurves& curves) {
     update();
 }
 
+void EffectPreview::setPlotShown(bool shown) {
+    plotShown_ = shown;
+    update();
+}
+
 void EffectPreview::setDisplayName(const QString& displayName) {
     displayName_ = displayName;
 }
@@ -172,7 +177,13 @@ QSize EffectPreview::minimumSizeHint() const {
 void EffectPreview::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setLayoutDirection(layoutDirection());
-    paintEffectPreview(painter, QRectF(rect()), curves_, palette());
+    if (plotShown_) {
+        paintEffectPreview(painter, QRectF(rect()), curves_, palette());
+        return;
+    }
+    QRectF picture = pictureIn(QRectF(rect()));
+    picture.moveCenter(QRectF(rect()).center());
+    paintPicture(painter, picture, curves_, palette());
 }
 
 } // namespace nocturo

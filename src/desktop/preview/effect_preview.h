@@ -35,6 +35,9 @@ class EffectPreview : public QWidget {
     void setCurves(const PreviewCurves& curves);
     const PreviewCurves& curves() const { return curves_; }
 
+    /// Whether the plot stands beside the picture, which alone is larger. It does at first.
+    void setPlotShown(bool shown);
+
     /// How the description calls the display: "Screen 1".
     void setDisplayName(const QString& displayName);
 
@@ -50,6 +53,7 @@ class EffectPreview : public QWidget {
   private:
     PreviewCurves curves_;
     QString displayName_;
+    bool plotShown_ = true;
 };
 
 } // namespace nocturo
