@@ -55,6 +55,7 @@ class WaylandConnection {
     void follow(const wl_interface& interface, std::uint32_t version,
                 std::function<void(wl_proxy*, std::uint32_t)> came,
                 std::function<void(std::uint32_t)> gone);
+    void stopFollowing() { followed_ = {}; }
 
     /// The outputs that have been described, in the order in which they came.
     std::vector<const WaylandOutput*> outputs() const;

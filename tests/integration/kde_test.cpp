@@ -162,9 +162,8 @@ TEST_F(Kde, GivesTheProfileBackAfterKills) {
     session_.writeSettings("<key>EffectActive</key><false/>");
     start();
     EXPECT_TRUE(has(own, 1));
-    EXPECT_TRUE(
-        namesIn(session_.settingsFile().parent_path().parent_path().parent_path() / "STATE/nocturo")
-            .empty());
+    const auto state = session_.settingsFile().parent_path() / "../../STATE/nocturo";
+    EXPECT_TRUE(waitUntil([&] { return namesIn(state).empty(); }));
 }
 
 TEST_F(Kde, TellsOfOutputsThatShowNothing) {

@@ -147,7 +147,7 @@ bool OutputDevices::areOfferedBy(const WaylandConnection& compositor) {
     return compositor.offers(kOutputManagementInterface.name, kManagementWithProfiles);
 }
 
-OutputDevices::OutputDevices(WaylandConnection& compositor) {
+OutputDevices::OutputDevices(WaylandConnection& compositor) : compositor_(compositor) {
     if (compositor.offers(kOutputRegistryInterface.name, kRegistryVersion)) {
         registry_ = compositor.bind(kOutputRegistryInterface, kRegistryVersion);
         wl_proxy_add_dispatcher(registry_, Events::ofRegistry, nullptr, this);
@@ -165,6 +165,8 @@ OutputDevices::~OutputDevices() {
     devices_.clear();
     if (registry_ != nullptr) {
         wl_proxy_destroy(registry_);
+    } else {
+        compositor_.stopFollowing();
     }
 }
 

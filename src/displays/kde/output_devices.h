@@ -74,6 +74,7 @@ class OutputDevices {
     void remove(const std::function<bool(const Device&)>& condition);
     void noteChange();
 
+    WaylandConnection& compositor_;
     wl_proxy* registry_ = nullptr; // kde_output_device_registry_v2; null where devices are globals
     std::list<std::unique_ptr<Device>> devices_;
     std::uint64_t generation_ = 1;

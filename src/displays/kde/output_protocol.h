@@ -104,7 +104,7 @@ inline const wl_message kDeviceEvents[] = {
     {"edr_policy", "16u", kNoTypes},
     {"sharpness", "17u", kNoTypes},
     {"priority", "18u", kNoTypes},
-    {"hdr_profile", "20u", kNoTypes},
+    {"auto_brightness", "20u", kNoTypes},
     {"removed", "21", kNoTypes},
 };
 
