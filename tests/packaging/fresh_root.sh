@@ -37,7 +37,9 @@ make_root() {
   # shellcheck disable=SC2016 # apt's variables
   mirror=$(apt-get indextargets --format '$(SITE)|$(RELEASE)' "Created-By: Packages" |
     awk -F '|' -v release="$(this_release)" '$2 == release { print $1; exit }')
-  debootstrap --variant=minbase --include=dbus-daemon "$1" "$root" "$mirror" >"$work/debootstrap.log" ||
+  local scripts=/usr/share/debootstrap/scripts
+  [ -e "$scripts/$1" ] || set -- "$1" "$scripts/sid" # a release that this debootstrap does not know
+  debootstrap --variant=minbase --include=dbus-daemon "$1" "$root" "$mirror" "${@:2}" >"$work/debootstrap.log" ||
     { tail "$work/debootstrap.log"; fail "no fresh root could be made"; }
   mount --bind "$root" "$root" # programs in it may make namespaces of their own then
   mount -t proc proc "$root/proc"
