@@ -27,7 +27,7 @@ namespace nocturo {
 namespace {
 
 constexpr int kPatienceWithBusMs = 1000;
-constexpr timeval kPatienceInAll{2, 900000};
+constexpr timeval kPatienceInAll{2, 700000};
 
 constexpr ListedText kSwitchedOff =
     ListedText("Nocturo has switched its effect off and given the displays back.");

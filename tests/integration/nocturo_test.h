@@ -73,6 +73,7 @@ struct NocturoOnX : NocturoTest {
     }
     ~NocturoOnX() override {
         nocturo_.reset();
+        waitUntil([] { return childrenNamed(getpid(), kNoNameYet).empty(); }, Milliseconds(500));
         reapGuards();
     }
 

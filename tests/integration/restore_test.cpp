@@ -1,0 +1,172 @@
+// nocturoctl restore, whatever has become of Nocturo and of what else there is.
+
+#include "four_displays.h"
+
+#include <iostream>
+#include <random>
+
+#include <unistd.h>
+
+namespace nocturo::rig {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class Restore : public FourDisplays {
+  protected:
+    void restoreWhileTheGuardsDo(int rounds);
+};
+
+TEST_F(Restore, WorksInEverySituation) {
+    const auto says = [&](const char* part) {
+        const RunResult result = session_.run("nocturoctl", {"restore"});
+        EXPECT_EQ(result.exit, 0) << result.errors;
+        EXPECT_NE(result.output.find(part), std::string::npos) << result.output;
+        EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 1);
+    };
+    startChanging();
+    says("switched its effect off");
+    EXPECT_EQ(shown(), kAllOwn);
+
+    ctl({"on"});
+    const auto environment = session_.environment();
+    session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
+    says("switched its effect off");
+    EXPECT_EQ(shown(), kAllOwn);
+    session_.environment() = environment;
+
+    ctl({"on"});
+    // A server drops what a stopped or killed program sent and it has not read yet.
+    EXPECT_TRUE(becomes(kAllChanged));
+    nocturo_->signal(SIGSTOP);
+    says("does not answer");
+    EXPECT_EQ(shown(), kAllOwn);
+
+    nocturo_->signal(SIGCONT);
+    ctl({"on"});
+    EXPECT_TRUE(becomes(kAllChanged));
+    kill(true);
+    EXPECT_EQ(shown(), kAllChanged);
+    says("own colors back");
+    EXPECT_EQ(shown(), kAllOwn);
+
+    const Channels anothers = reversed(own_[1]);
+    client_.setRamp(output(0), anothers);
+    says("nothing was done");
+    EXPECT_EQ(client_.ramp(output(0)), anothers) << "it is not Nocturo's";
+}
+
+TEST_F(Restore, OrAnOptionKeepsTheNextStartSwitchedOff) {
+    const auto startSays = [&](const std::vector<std::string>& options, std::string_view words) {
+        nocturo_ = session_.startNocturo(options);
+        EXPECT_EQ(nocturo_->readLine().value_or(""), words);
+        EXPECT_EQ(status()["active"], false);
+        EXPECT_EQ(shown(), kAllOwn);
+        ctl({"on"}); // once somebody wants it, it comes back
+        EXPECT_TRUE(becomes("iiii"));
+    };
+    select("NDInvertEffect");
+    startSays({"--off"}, "nocturo: Nocturo starts switched off.");
+    EXPECT_EQ(session_.run("nocturo", {"--off"}).exit, 0);
+    EXPECT_EQ(shown(), kAllOwn) << "the one that runs is switched off";
+    ctl({"on"});
+    kill(true);
+    waitForTheBus();
+    ctl({"restore"});
+    startSays({}, "nocturo: Nocturo starts switched off, because nocturoctl restore gave the "
+                  "displays back.");
+    end();
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(becomes("iiii"));
+}
+
+// Another server's Nocturo, or whoever else has the name, says that it has done it.
+TEST_F(Restore, LooksAtTheServerAfterItHasAsked) {
+    startChanging();
+    kill(true);
+    waitForTheBus();
+    const auto simulated = session_.startNocturo({"--display-services=simulated"});
+    EXPECT_EQ(shown(), kAllChanged);
+    EXPECT_NE(ctl({"restore"}).output.find("own colors back"), std::string::npos);
+    EXPECT_EQ(shown(), kAllOwn);
+}
+
+TEST_F(Restore, NeedsNothingAndNeverTakesLong) {
+    constexpr Milliseconds kAtMost{3000};
+    Milliseconds longest{0};
+    const auto restore = [&] {
+        const auto start = std::chrono::steady_clock::now();
+        const RunResult result = session_.run("nocturoctl", {"restore"});
+        const auto taken = std::chrono::steady_clock::now() - start;
+        longest = std::max(longest, std::chrono::duration_cast<Milliseconds>(taken));
+        return result.exit;
+    };
+    const auto leaveThemChanged = [&] {
+        startChanging();
+        kill(true);
+        waitForTheBus();
+        EXPECT_EQ(shown(), kAllChanged);
+    };
+    const auto environment = session_.environment();
+    const fs::path anothers = session_.runtimeDirectory() / "anothers";
+    fs::create_directory(anothers);
+    // Only root can give it away; to all others "/root" is another's.
+    const bool given = ::chown(anothers.c_str(), 12345, 12345) == 0;
+    for (const std::string& directory :
+         {std::string(), std::string("/proc/none"), std::string("/dev/null"),
+          given ? anothers.string() : "/root"}) {
+        leaveThemChanged();
+        session_.environment()["XDG_RUNTIME_DIR"] = directory;
+        session_.environment().erase("DBUS_SESSION_BUS_ADDRESS");
+        EXPECT_EQ(restore(), 0) << directory;
+        EXPECT_EQ(shown(), kAllOwn) << directory;
+        session_.environment() = environment;
+    }
+    leaveThemChanged();
+    session_.bus().signal(SIGSTOP);
+    EXPECT_EQ(restore(), 0);
+    EXPECT_EQ(shown(), kAllOwn);
+    session_.bus().signal(SIGCONT);
+    startChanging();
+    nocturo_->signal(SIGSTOP);
+    EXPECT_EQ(restore(), 0);
+    nocturo_->signal(SIGCONT);
+    session_.server().signal(SIGSTOP);
+    EXPECT_EQ(restore(), 1);
+    session_.server().signal(SIGCONT);
+    std::cout << "the longest restore took " << longest.count() << " ms\n";
+    EXPECT_LE(longest, kAtMost);
+}
+
+void Restore::restoreWhileTheGuardsDo(int rounds) {
+    std::mt19937 random{std::random_device{}()};
+    std::uniform_int_distribution<int> moment(0, 8);
+    for (int round = 0; round < rounds; ++round) {
+        SCOPED_TRACE("round " + std::to_string(round));
+        startChanging(); // a killed one may have left its choice unwritten
+        const auto restore = round % 2 == 0 ? session_.start("nocturoctl", {"restore"}) : nullptr;
+        if (restore != nullptr) {
+            restore->wait(Milliseconds(moment(random)));
+        }
+        killWith({});
+        const RunResult result = session_.run("nocturoctl", {"restore"});
+        EXPECT_EQ(result.exit, 0) << result.errors;
+        ASSERT_TRUE(allOwnWithin()) << shown() << result.output;
+        reapGuards();
+        waitForTheBus();
+        EXPECT_EQ(shown(), kAllOwn);
+    }
+}
+
+TEST_F(Restore, BesideTheGuardsLosesNoColors) {
+    restoreWhileTheGuardsDo(5);
+}
+
+TEST_F(Restore, SoakFiveHundredTimesBesideTheGuardsLosesNoColors) {
+    restoreWhileTheGuardsDo(500);
+}
+
+} // namespace
+
+} // namespace nocturo::rig
