@@ -42,6 +42,7 @@ test         libglib2.0-bin            gdbus, which speaks to menus, and gio, wh
 test         mate-session-manager      a session to log out of
 test         sway                      a real Wayland compositor
 test         libwlroots-dev            ... whose outputs are given ramps, where it is 0.15
+test         mutter                    GNOME's displays
 test         gammastep                 a program that wants the same outputs
 test         x11-xserver-utils         xrandr lights displays, xset starts screen savers, xmodmap moves keys
 test         locales                   one with a comma in its numbers

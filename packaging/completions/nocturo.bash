@@ -7,7 +7,7 @@ _nocturo() {
   _init_completion -s -n : || return
   case $prev in
     --display-services)
-      mapfile -t COMPREPLY < <(compgen -W 'auto randr wlr kde simulated' -- "$cur")
+      mapfile -t COMPREPLY < <(compgen -W 'auto randr wlr gnome kde simulated' -- "$cur")
       return
       ;;
   esac

@@ -779,6 +779,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Die Arbeitsumgebung nimmt die Farbprofile der Bildschirme nicht zurück; wählen Sie sie in ihren Einstellungen.</translation>
         </message>
         <message>
+            <source>%@ does not tell Nocturo of its displays.</source>
+            <translation>%@ sagt Nocturo nichts über seine Bildschirme.</translation>
+        </message>
+        <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
             <translation>Es gibt keinen X-Server, dessen Bildschirme zurückgegeben werden könnten, denn DISPLAY ist nicht gesetzt.</translation>
         </message>
@@ -1095,6 +1099,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Um zu sehen, was die Effekte bewirken, starten Sie es mit --display-services=simulated.</translation>
         </message>
         <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ bietet Nocturo unter Wayland keinen Weg, die Farben von Bildschirmen zu ändern.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Dieser Desktop</translation>
+        </message>
+        <message>
             <source>There is no X server to work with, because DISPLAY is not set.</source>
             <translation>Es gibt keinen X-Server, denn DISPLAY ist nicht gesetzt.</translation>
         </message>
@@ -1103,20 +1115,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Ein anderes Nocturo steuert die Bildschirme des X-Servers %@.</translation>
         </message>
         <message>
+            <source>Another Nocturo drives the displays of %@.</source>
+            <translation>Ein anderes Nocturo steuert die Bildschirme von %@.</translation>
+        </message>
+        <message>
+            <source>Neither GNOME nor Cinnamon is on the session bus.</source>
+            <translation>Weder GNOME noch Cinnamon ist am Sitzungsbus.</translation>
+        </message>
+        <message>
             <source>No Wayland compositor answers.</source>
             <translation>Kein Wayland-Compositor antwortet.</translation>
         </message>
         <message>
             <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
             <translation>Plasma 5 bietet Nocturo unter Wayland keine Möglichkeit, die Farben von Bildschirmen zu ändern; wählen Sie beim Anmelden seine X11-Sitzung oder verwenden Sie Plasma 6.</translation>
-        </message>
-        <message>
-            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
-            <translation>%@ bietet Nocturo unter Wayland keinen Weg, die Farben von Bildschirmen zu ändern.</translation>
-        </message>
-        <message>
-            <source>This desktop</source>
-            <translation>Dieser Desktop</translation>
         </message>
         <message>
             <source>Displays are simulated; their pictures are in %@.</source>
@@ -1269,6 +1281,10 @@ und gibt dann jedem Bildschirm seine Farben zurück. Gesteuert wird es mit noctu
         <message>
             <source>a Wayland compositor like sway</source>
             <translation>ein Wayland-Compositor wie sway</translation>
+        </message>
+        <message>
+            <source>GNOME or Cinnamon</source>
+            <translation>GNOME oder Cinnamon</translation>
         </message>
         <message>
             <source>KDE Plasma 6</source>

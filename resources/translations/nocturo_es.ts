@@ -779,6 +779,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>El escritorio no vuelve a aceptar los perfiles de color de las pantallas; elíjalos en su configuración.</translation>
         </message>
         <message>
+            <source>%@ does not tell Nocturo of its displays.</source>
+            <translation>%@ no informa a Nocturo de sus pantallas.</translation>
+        </message>
+        <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
             <translation>No hay ningún servidor X cuyas pantallas se puedan devolver, porque DISPLAY no está definida.</translation>
         </message>
@@ -1095,6 +1099,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Para ver qué hacen los efectos, inícielo con --display-services=simulated.</translation>
         </message>
         <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ no ofrece a Nocturo ninguna forma de cambiar los colores de las pantallas en Wayland.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Este escritorio</translation>
+        </message>
+        <message>
             <source>There is no X server to work with, because DISPLAY is not set.</source>
             <translation>No hay ningún servidor X que usar, porque DISPLAY no está definida.</translation>
         </message>
@@ -1103,20 +1115,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Otro Nocturo maneja las pantallas del servidor X %@.</translation>
         </message>
         <message>
+            <source>Another Nocturo drives the displays of %@.</source>
+            <translation>Otro Nocturo maneja las pantallas de %@.</translation>
+        </message>
+        <message>
+            <source>Neither GNOME nor Cinnamon is on the session bus.</source>
+            <translation>Ni GNOME ni Cinnamon están en el bus de la sesión.</translation>
+        </message>
+        <message>
             <source>No Wayland compositor answers.</source>
             <translation>Ningún compositor de Wayland responde.</translation>
         </message>
         <message>
             <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
             <translation>Plasma 5 no ofrece a Nocturo ninguna forma de cambiar los colores de las pantallas en Wayland; elija su sesión de X11 al iniciar sesión o use Plasma 6.</translation>
-        </message>
-        <message>
-            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
-            <translation>%@ no ofrece a Nocturo ninguna forma de cambiar los colores de las pantallas en Wayland.</translation>
-        </message>
-        <message>
-            <source>This desktop</source>
-            <translation>Este escritorio</translation>
         </message>
         <message>
             <source>Displays are simulated; their pictures are in %@.</source>
@@ -1269,6 +1281,10 @@ se le pide salir, y entonces devuelve cada pantalla. Se maneja con nocturoctl.</
         <message>
             <source>a Wayland compositor like sway</source>
             <translation>un compositor de Wayland como sway</translation>
+        </message>
+        <message>
+            <source>GNOME or Cinnamon</source>
+            <translation>GNOME o Cinnamon</translation>
         </message>
         <message>
             <source>KDE Plasma 6</source>

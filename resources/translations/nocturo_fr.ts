@@ -779,6 +779,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Le bureau ne reprend pas les profils de couleurs des écrans ; choisissez-les dans ses réglages.</translation>
         </message>
         <message>
+            <source>%@ does not tell Nocturo of its displays.</source>
+            <translation>%@ n’indique pas ses écrans à Nocturo.</translation>
+        </message>
+        <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
             <translation>Il n’y a pas de serveur X dont les écrans pourraient être rendus, car DISPLAY n’est pas défini.</translation>
         </message>
@@ -1095,6 +1099,14 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Pour voir ce que font les effets, lancez-le avec --display-services=simulated.</translation>
         </message>
         <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ n’offre à Nocturo aucun moyen de changer les couleurs des écrans sous Wayland.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Ce bureau</translation>
+        </message>
+        <message>
             <source>There is no X server to work with, because DISPLAY is not set.</source>
             <translation>Il n’y a pas de serveur X à utiliser, car DISPLAY n’est pas défini.</translation>
         </message>
@@ -1103,20 +1115,20 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Un autre Nocturo commande les écrans du serveur X %@.</translation>
         </message>
         <message>
+            <source>Another Nocturo drives the displays of %@.</source>
+            <translation>Un autre Nocturo commande les écrans de %@.</translation>
+        </message>
+        <message>
+            <source>Neither GNOME nor Cinnamon is on the session bus.</source>
+            <translation>Ni GNOME ni Cinnamon n’est sur le bus de session.</translation>
+        </message>
+        <message>
             <source>No Wayland compositor answers.</source>
             <translation>Aucun compositeur Wayland ne répond.</translation>
         </message>
         <message>
             <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
             <translation>Plasma 5 n’offre à Nocturo aucun moyen de modifier les couleurs des écrans sous Wayland ; choisissez sa session X11 à la connexion ou utilisez Plasma 6.</translation>
-        </message>
-        <message>
-            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
-            <translation>%@ n’offre à Nocturo aucun moyen de changer les couleurs des écrans sous Wayland.</translation>
-        </message>
-        <message>
-            <source>This desktop</source>
-            <translation>Ce bureau</translation>
         </message>
         <message>
             <source>Displays are simulated; their pictures are in %@.</source>
@@ -1269,6 +1281,10 @@ et rend alors à chaque écran ses couleurs. Se commande avec nocturoctl.</trans
         <message>
             <source>a Wayland compositor like sway</source>
             <translation>un compositeur Wayland comme sway</translation>
+        </message>
+        <message>
+            <source>GNOME or Cinnamon</source>
+            <translation>GNOME ou Cinnamon</translation>
         </message>
         <message>
             <source>KDE Plasma 6</source>

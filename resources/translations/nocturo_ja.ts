@@ -779,6 +779,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>デスクトップがディスプレイのカラープロファイルを元に戻せません。デスクトップの設定で選択してください。</translation>
         </message>
         <message>
+            <source>%@ does not tell Nocturo of its displays.</source>
+            <translation>%@ が画面の情報を Nocturo に返しません。</translation>
+        </message>
+        <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
             <translation>DISPLAY が設定されていないため、画面を元に戻す X サーバーがありません。</translation>
         </message>
@@ -1095,6 +1099,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>効果の働きを見るには --display-services=simulated を付けて起動してください。</translation>
         </message>
         <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ には、Wayland で Nocturo がディスプレイの色を変える手段がありません。</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>このデスクトップ</translation>
+        </message>
+        <message>
             <source>There is no X server to work with, because DISPLAY is not set.</source>
             <translation>DISPLAY が設定されていないため、使用できる X サーバーがありません。</translation>
         </message>
@@ -1103,20 +1115,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>別の Nocturo が X サーバー %@ の画面を制御しています。</translation>
         </message>
         <message>
+            <source>Another Nocturo drives the displays of %@.</source>
+            <translation>別の Nocturo が %@ の画面を制御しています。</translation>
+        </message>
+        <message>
+            <source>Neither GNOME nor Cinnamon is on the session bus.</source>
+            <translation>セッションバスに GNOME も Cinnamon もありません。</translation>
+        </message>
+        <message>
             <source>No Wayland compositor answers.</source>
             <translation>応答する Wayland コンポジターがありません。</translation>
         </message>
         <message>
             <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
             <translation>Plasma 5 の Wayland では、Nocturo がディスプレイの色を変更する手段がありません。ログイン時に X11 セッションを選ぶか、Plasma 6 をお使いください。</translation>
-        </message>
-        <message>
-            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
-            <translation>%@ には、Wayland で Nocturo がディスプレイの色を変える手段がありません。</translation>
-        </message>
-        <message>
-            <source>This desktop</source>
-            <translation>このデスクトップ</translation>
         </message>
         <message>
             <source>Displays are simulated; their pictures are in %@.</source>
@@ -1269,6 +1281,10 @@ nocturoctl で操作します。</translation>
         <message>
             <source>a Wayland compositor like sway</source>
             <translation>sway などの Wayland コンポジター</translation>
+        </message>
+        <message>
+            <source>GNOME or Cinnamon</source>
+            <translation>GNOME または Cinnamon</translation>
         </message>
         <message>
             <source>KDE Plasma 6</source>

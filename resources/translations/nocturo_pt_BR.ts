@@ -779,6 +779,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>O ambiente não aceita de volta os perfis de cores das telas; escolha-os nas configurações dele.</translation>
         </message>
         <message>
+            <source>%@ does not tell Nocturo of its displays.</source>
+            <translation>%@ não informa suas telas ao Nocturo.</translation>
+        </message>
+        <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
             <translation>Não há servidor X cujas telas possam ser devolvidas, porque DISPLAY não está definida.</translation>
         </message>
@@ -1095,6 +1099,14 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Para ver o que os efeitos fazem, inicie-o com --display-services=simulated.</translation>
         </message>
         <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ não oferece ao Nocturo um meio de mudar as cores das telas no Wayland.</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>Este ambiente</translation>
+        </message>
+        <message>
             <source>There is no X server to work with, because DISPLAY is not set.</source>
             <translation>Não há servidor X para usar, porque DISPLAY não está definida.</translation>
         </message>
@@ -1103,20 +1115,20 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Outro Nocturo controla as telas do servidor X %@.</translation>
         </message>
         <message>
+            <source>Another Nocturo drives the displays of %@.</source>
+            <translation>Outro Nocturo controla as telas de %@.</translation>
+        </message>
+        <message>
+            <source>Neither GNOME nor Cinnamon is on the session bus.</source>
+            <translation>Nem o GNOME nem o Cinnamon estão no barramento da sessão.</translation>
+        </message>
+        <message>
             <source>No Wayland compositor answers.</source>
             <translation>Nenhum compositor Wayland responde.</translation>
         </message>
         <message>
             <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
             <translation>O Plasma 5 não oferece ao Nocturo nenhum meio de mudar as cores das telas no Wayland; escolha a sessão X11 dele ao entrar ou use o Plasma 6.</translation>
-        </message>
-        <message>
-            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
-            <translation>%@ não oferece ao Nocturo um meio de mudar as cores das telas no Wayland.</translation>
-        </message>
-        <message>
-            <source>This desktop</source>
-            <translation>Este ambiente</translation>
         </message>
         <message>
             <source>Displays are simulated; their pictures are in %@.</source>
@@ -1269,6 +1281,10 @@ para sair e então devolve cada tela. É controlado com o nocturoctl.</translati
         <message>
             <source>a Wayland compositor like sway</source>
             <translation>um compositor Wayland como o sway</translation>
+        </message>
+        <message>
+            <source>GNOME or Cinnamon</source>
+            <translation>GNOME ou Cinnamon</translation>
         </message>
         <message>
             <source>KDE Plasma 6</source>

@@ -779,6 +779,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>桌面不接受恢复显示器的颜色配置文件；请在桌面的设置中选择它们。</translation>
         </message>
         <message>
+            <source>%@ does not tell Nocturo of its displays.</source>
+            <translation>%@ 没有向 Nocturo 提供其屏幕的信息。</translation>
+        </message>
+        <message>
             <source>There is no X server whose displays could be given back, because DISPLAY is not set.</source>
             <translation>未设置 DISPLAY，因此没有可恢复屏幕的 X 服务器。</translation>
         </message>
@@ -1095,6 +1099,14 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>要查看效果的作用，请使用 --display-services=simulated 启动。</translation>
         </message>
         <message>
+            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
+            <translation>%@ 在 Wayland 下没有为 Nocturo 提供更改显示器颜色的途径。</translation>
+        </message>
+        <message>
+            <source>This desktop</source>
+            <translation>此桌面</translation>
+        </message>
+        <message>
             <source>There is no X server to work with, because DISPLAY is not set.</source>
             <translation>未设置 DISPLAY，因此没有可用的 X 服务器。</translation>
         </message>
@@ -1103,20 +1115,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>另一个 Nocturo 正在控制 X 服务器 %@ 的屏幕。</translation>
         </message>
         <message>
+            <source>Another Nocturo drives the displays of %@.</source>
+            <translation>另一个 Nocturo 正在控制 %@ 的屏幕。</translation>
+        </message>
+        <message>
+            <source>Neither GNOME nor Cinnamon is on the session bus.</source>
+            <translation>会话总线上既没有 GNOME 也没有 Cinnamon。</translation>
+        </message>
+        <message>
             <source>No Wayland compositor answers.</source>
             <translation>没有 Wayland 合成器应答。</translation>
         </message>
         <message>
             <source>Plasma 5 offers Nocturo no way to change the colors of displays under Wayland; choose its X11 session when logging in, or use Plasma 6.</source>
             <translation>Plasma 5 在 Wayland 下没有为 Nocturo 提供更改显示器颜色的方法；请在登录时选择其 X11 会话，或使用 Plasma 6。</translation>
-        </message>
-        <message>
-            <source>%@ offers Nocturo no way to change the colors of displays under Wayland.</source>
-            <translation>%@ 在 Wayland 下没有为 Nocturo 提供更改显示器颜色的途径。</translation>
-        </message>
-        <message>
-            <source>This desktop</source>
-            <translation>此桌面</translation>
         </message>
         <message>
             <source>Displays are simulated; their pictures are in %@.</source>
@@ -1268,6 +1280,10 @@ gives every display back then. Drive it with nocturoctl.</source>
         <message>
             <source>a Wayland compositor like sway</source>
             <translation>sway 之类的 Wayland 合成器</translation>
+        </message>
+        <message>
+            <source>GNOME or Cinnamon</source>
+            <translation>GNOME 或 Cinnamon</translation>
         </message>
         <message>
             <source>KDE Plasma 6</source>

@@ -4,11 +4,13 @@
 #include "base/environment.h"
 #include "base/event_loop.h"
 #include "base/file_descriptor.h"
+#include "base/runtime_directory.h"
 #include "base/texts/translated.h"
 #include "bus/running_application.h"
 #include "ctl/failure.h"
 #include "ctl/output.h"
 #include "displays/calibration/profile_calibrations.h"
+#include "displays/gnome/shell_journal.h"
 #include "displays/guard/display_repair.h"
 #include "displays/kde/output_devices.h"
 #include "displays/kde/restore_profiles.h"
@@ -113,11 +115,41 @@ std::optional<ListedText> restoreProfiles(const std::string& display, bool switc
                                       "displays back; choose them in its settings.")};
 }
 
+/// The displays of GNOME or Cinnamon; nothing where there is no such shell, or where they are an X
+/// server's, which needs no bus.
+std::optional<RestoredByHand> restoreOverTheBus(EventLoop& loop) {
+    const auto directory = runtimeDirectory();
+    const bool isWayland = !environment("WAYLAND_DISPLAY").empty();
+    const bool mayHaveDisplays = directory && (isWayland || hasShellJournals(*directory));
+    const auto bus = mayHaveDisplays ? Bus::connect(sessionBusAddress(), loop) : nullptr;
+    const auto shell = bus != nullptr ? findShell(*bus, kPatienceWithBusMs) : std::nullopt;
+    if (!shell) {
+        return std::nullopt;
+    }
+    switch (repairShell(*bus, *shell, shellJournalFile(*directory, *bus, *shell), {}, true)) {
+    case ShellRepair::notNeeded:
+        break;
+    case ShellRepair::ownRamps:
+        return RestoredByHand{Repair::ownRamps, false};
+    case ShellRepair::plainRamps:
+        return RestoredByHand{Repair::plainRamps, false};
+    case ShellRepair::inUse:
+        return RestoredByHand{Repair::ownRamps, true};
+    case ShellRepair::failed:
+        throw Failure{kFailed, translated("%@ does not tell Nocturo of its displays.",
+                                          {shell->names->desktop})};
+    }
+    return isWayland ? std::optional(RestoredByHand{}) : std::nullopt;
+}
+
 ListedText restore(const std::string& display, const std::string& waylandDisplay) {
     EventLoop loop;
     const bool switchedOff = switchOffOverTheBus(loop);
     if (const auto done = restoreProfiles(waylandDisplay, switchedOff)) {
         return *done;
+    }
+    if (const auto done = restoreOverTheBus(loop)) {
+        return told(*done, switchedOff);
     }
     const auto server = XConnection::open(display);
     const auto hardware = RandrHardware::open(server.get());

@@ -1,13 +1,16 @@
 #include "displays/display_factory.h"
 
+#include "base/bus.h"
+#include "base/event_loop.h"
 #include "base/log.h"
-#include "base/run_loop.h"
 #include "base/texts/translated.h"
 #include "displays/calibration/profile_calibrations.h"
+#include "displays/gnome/gnome_hardware.h"
 #include "displays/guard/display_repair.h"
 #include "displays/guard/guarded_hardware.h"
 #include "displays/guard/server_mark.h"
 #include "displays/kde/kde_hardware.h"
+#include "displays/kernel_edid.h"
 #include "displays/ramp_display_services.h"
 #include "displays/simulated/simulated_hardware.h"
 #include "displays/wlr/wlr_hardware.h"
@@ -27,6 +30,11 @@ tl::unexpected<Problem> failedForNow(const std::string& problem) {
     return failed(problem + ' ' +
                   translated("To see what the effects do, start it with "
                              "--display-services=simulated."));
+}
+
+std::string offersNoWay(const std::string& desktop) {
+    return translated("%@ offers Nocturo no way to change the colors of displays under Wayland.",
+                      {desktop.empty() ? translated("This desktop") : desktop});
 }
 
 Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
@@ -61,8 +69,6 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
     return opened;
 }
 
-constexpr const char* kEdidDirectory = "/sys/class/drm";
-
 /// Services that live on that connection, which they own.
 OpenedDisplays waylandDisplays(WaylandConnection* compositor,
                                std::unique_ptr<RampDisplayServices> services, RunLoop& runLoop,
@@ -83,7 +89,7 @@ OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection,
                            const DisplaySurroundings& surroundings, RunLoop& runLoop) {
     WaylandConnection* compositor = connection.get();
     auto services = std::make_unique<RampDisplayServices>(
-        std::make_unique<WlrHardware>(std::move(connection), kEdidDirectory), nullptr, &runLoop);
+        std::make_unique<WlrHardware>(std::move(connection), kKernelConnectors), nullptr, &runLoop);
     logInfo(kLogDisplays, "Displays are those of a Wayland compositor with wlr-gamma-control.");
     return waylandDisplays(compositor, std::move(services), runLoop, surroundings.lost);
 }
@@ -103,30 +109,94 @@ OpenedDisplays kdeDisplays(std::unique_ptr<WaylandConnection> connection,
     return waylandDisplays(compositor, std::move(services), runLoop, surroundings.lost);
 }
 
+struct FoundShell {
+    std::unique_ptr<Bus> bus; // of its own, see GnomeHardware
+    Shell shell;
+};
+
+std::optional<FoundShell> shellOn(const std::string& sessionBus, EventLoop& loop) {
+    constexpr int kPatienceMs = 1000;
+    auto bus = Bus::connect(sessionBus, loop);
+    auto shell = bus != nullptr ? findShell(*bus, kPatienceMs) : std::nullopt;
+    return shell ? std::optional(FoundShell{std::move(bus), std::move(*shell)}) : std::nullopt;
+}
+
+/// `compositor`, which may be null, only tells when the session ends.
+Result<OpenedDisplays> shellsDisplays(FoundShell found,
+                                      std::shared_ptr<WaylandConnection> compositor,
+                                      const DisplaySurroundings& surroundings, EventLoop& loop) {
+    const std::string desktop = found.shell.names->desktop;
+    const JournalFile journal =
+        shellJournalFile(surroundings.runtimeDirectory, *found.bus, found.shell);
+    const ShellRepair repaired = repairShell(*found.bus, found.shell, journal);
+    if (repaired == ShellRepair::inUse) {
+        return failed(translated("Another Nocturo drives the displays of %@.", {desktop}));
+    }
+    const char* connection = "";
+    sd_bus_get_unique_name(found.bus->handle(), &connection);
+    auto guard = std::make_unique<ShellGuard>(found.shell, journal, connection, loop);
+    auto hardware = std::make_unique<GnomeHardware>(std::move(found.bus), std::move(found.shell),
+                                                    std::move(guard), kKernelConnectors, loop);
+    if (repaired == ShellRepair::failed || !hardware->waitForShell()) {
+        return failedForNow(translated("%@ does not tell Nocturo of its displays.", {desktop}));
+    }
+    if (hardware->isNested()) {
+        return failedForNow(offersNoWay(desktop));
+    }
+    OpenedDisplays opened;
+    opened.services = std::make_unique<RampDisplayServices>(
+        std::move(hardware), std::make_unique<ProfileCalibrations>(nullptr, surroundings.systemBus),
+        &loop);
+    if (compositor != nullptr) {
+        opened.listening =
+            loop.watch(compositor->descriptor(), [compositor, lost = surroundings.lost] {
+                compositor->processEvents();
+                if (compositor->isLost()) {
+                    lost();
+                }
+            });
+    }
+    logInfo(kLogDisplays, "Displays are those of " + desktop + ".");
+    return opened;
+}
+
+std::unique_ptr<WaylandConnection> compositorOf(const DisplaySurroundings& surroundings) {
+    const std::string& display = surroundings.waylandDisplay;
+    return display.empty() ? nullptr : WaylandConnection::open(display);
+}
+
+Result<OpenedDisplays> openGnome(const DisplaySurroundings& surroundings, EventLoop& loop) {
+    auto found = shellOn(surroundings.sessionBus, loop);
+    if (!found) {
+        return failedForNow(translated("Neither GNOME nor Cinnamon is on the session bus."));
+    }
+    return shellsDisplays(std::move(*found), compositorOf(surroundings), surroundings, loop);
+}
+
 Result<OpenedDisplays> openWayland(DisplayChoice::Kind kind,
-                                   const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+                                   const DisplaySurroundings& surroundings, EventLoop& loop) {
     using Kind = DisplayChoice::Kind;
-    auto compositor = surroundings.waylandDisplay.empty()
-                          ? nullptr
-                          : WaylandConnection::open(surroundings.waylandDisplay);
+    auto compositor = compositorOf(surroundings);
     if (compositor == nullptr) {
         return failedForNow(translated("No Wayland compositor answers."));
     }
     if (kind != Kind::kde && WlrHardware::isOfferedBy(*compositor)) {
-        return wlrDisplays(std::move(compositor), surroundings, runLoop);
+        return wlrDisplays(std::move(compositor), surroundings, loop);
     }
     if (kind != Kind::wlr && KdeHardware::isOfferedBy(*compositor)) {
-        return kdeDisplays(std::move(compositor), surroundings, runLoop);
+        return kdeDisplays(std::move(compositor), surroundings, loop);
+    }
+    if (kind == Kind::automatic) {
+        if (auto found = shellOn(surroundings.sessionBus, loop)) {
+            return shellsDisplays(std::move(*found), std::move(compositor), surroundings, loop);
+        }
     }
     if (KdeHardware::isTooOld(*compositor)) {
         return failedForNow(
             translated("Plasma 5 offers Nocturo no way to change the colors of displays under "
                        "Wayland; choose its X11 session when logging in, or use Plasma 6."));
     }
-    const std::string& desktop = surroundings.desktop;
-    return failedForNow(
-        translated("%@ offers Nocturo no way to change the colors of displays under Wayland.",
-                   {desktop.empty() ? translated("This desktop") : desktop}));
+    return failedForNow(offersNoWay(surroundings.desktop));
 }
 
 OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surroundings) {
@@ -155,6 +225,9 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
     if (text == "wlr") {
         return DisplayChoice{Kind::wlr};
     }
+    if (text == "gnome") {
+        return DisplayChoice{Kind::gnome};
+    }
     if (text == "kde") {
         return DisplayChoice{Kind::kde};
     }
@@ -176,22 +249,24 @@ std::optional<DisplayChoice> parseDisplayChoice(std::string_view text) {
 }
 
 Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
-                                    const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+                                    const DisplaySurroundings& surroundings, EventLoop& loop) {
     using Kind = DisplayChoice::Kind;
     switch (choice.kind) {
     case Kind::simulated:
         return openSimulated(choice.simulatedCount, surroundings);
     case Kind::wlr:
     case Kind::kde:
-        return openWayland(choice.kind, surroundings, runLoop);
+        return openWayland(choice.kind, surroundings, loop);
+    case Kind::gnome:
+        return openGnome(surroundings, loop);
     case Kind::randr:
-        return openRandr(surroundings, runLoop);
+        return openRandr(surroundings, loop);
     case Kind::automatic:
         break;
     }
     // An X server in a Wayland session has windows, and no displays.
-    return surroundings.waylandDisplay.empty() ? openRandr(surroundings, runLoop)
-                                               : openWayland(choice.kind, surroundings, runLoop);
+    return surroundings.waylandDisplay.empty() ? openRandr(surroundings, loop)
+                                               : openWayland(choice.kind, surroundings, loop);
 }
 
 } // namespace nocturo

@@ -14,19 +14,19 @@
 namespace nocturo {
 
 class Bus;
-class RunLoop;
+class EventLoop;
 class XConnection;
 
 /// Which display services the user wants.
 struct DisplayChoice {
-    enum class Kind { automatic, randr, wlr, kde, simulated };
+    enum class Kind { automatic, randr, wlr, gnome, kde, simulated };
 
     Kind kind = Kind::automatic;
     unsigned simulatedCount = 2;
 };
 
-/// Reads "auto", "randr", "wlr", "kde", "simulated" or "simulated:N" with N from 1 to 16; nothing
-/// for all else.
+/// Reads "auto", "randr", "wlr", "gnome", "kde", "simulated" or "simulated:N" with N from 1 to 16;
+/// nothing for all else.
 std::optional<DisplayChoice> parseDisplayChoice(std::string_view text);
 
 /// What the factory takes from the process's surroundings; all of it outlives what is opened.
@@ -37,6 +37,7 @@ struct DisplaySurroundings {
     std::string desktop;                    // $XDG_CURRENT_DESKTOP; empty when not set
     std::filesystem::path runtimeDirectory; // empty where there is none that can be used
     std::filesystem::path stateDirectory;   // need not exist
+    std::string sessionBus;                 // its address; empty when there is none
     Bus* systemBus = nullptr;               // null when there is none
     DrawPicture drawPicture;                // of simulated displays
     std::function<void()> lost; // called when the displays' server has gone: nothing works any more
@@ -50,9 +51,9 @@ struct OpenedDisplays {
     std::shared_ptr<const void> listening; // keeps them in the event loop
 };
 
-/// Opens what was chosen, and logs it; the problem is a sentence for the user. The run loop must
+/// Opens what was chosen, and logs it; the problem is a sentence for the user. The loop must
 /// outlive what is opened.
 Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
-                                    const DisplaySurroundings& surroundings, RunLoop& runLoop);
+                                    const DisplaySurroundings& surroundings, EventLoop& loop);
 
 } // namespace nocturo

@@ -76,8 +76,8 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     Result<OpenedDisplays> opened = openDisplays(
         options.displays,
         {xDisplayName(), server.get(), waylandDisplayName(), desktopName(), directory.value_or(""),
-         stateDirectory(), core.systemBus.get(), drawTestCard, [&] { loop.quit(kFailure); },
-         [&] { core.controller.setEffectActive(false, true); }},
+         stateDirectory(), sessionBusAddress(), core.systemBus.get(), drawTestCard,
+         [&] { loop.quit(kFailure); }, [&] { core.controller.setEffectActive(false, true); }},
         loop);
     if (!opened) {
         tell(stderr, opened.error().text);

@@ -20,9 +20,10 @@ std::string helpText() {
     constexpr std::size_t kMeaning = 28;
     constexpr std::size_t kMeaningOfChoice = 45;
     const std::string indent(kMeaning + 2, ' ');
-    return translated("Usage: %@",
-                      {"nocturo [--off] [--display-services=auto|randr|wlr|kde|simulated[:N]] "
-                       "[FILE...]"}) +
+    return translated(
+               "Usage: %@",
+               {"nocturo [--off] [--display-services=auto|randr|wlr|gnome|kde|simulated[:N]] "
+                "[FILE...]"}) +
            "\n\n" +
            translated("Changes how whole screens look: inverted, overexposed, dimmed or lightened, "
                       "in\nthe HDTV range or through a color filter. Runs until it is told to "
@@ -34,6 +35,7 @@ std::string helpText() {
                 translated("what this session offers (default)")) +
            line(indent + "randr", kMeaningOfChoice, translated("an X server")) +
            line(indent + "wlr", kMeaningOfChoice, translated("a Wayland compositor like sway")) +
+           line(indent + "gnome", kMeaningOfChoice, translated("GNOME or Cinnamon")) +
            line(indent + "kde", kMeaningOfChoice, translated("KDE Plasma 6")) +
            line(indent + "simulated[:N]", kMeaningOfChoice,
                 translated("N displays, 1 to 16 (default 2),")) +
@@ -79,7 +81,7 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         if (!choice) {
             return UsageError{
                 translated("--display-services takes %@ or simulated:N with N from 1 to 16.",
-                           {"auto, randr, wlr, kde, simulated"})};
+                           {"auto, randr, wlr, gnome, kde, simulated"})};
         }
         options.displays = *choice;
     }

@@ -118,7 +118,7 @@ struct NocturoOnX : NocturoTest {
         if (guardsToo) {
             guardProcess(); // waits for it
         }
-        killWith(guardsToo ? std::vector<std::string>{kGuard, kSpare, kNoNameYet}
+        killWith(guardsToo ? std::vector<std::string>{kGuard, kBusGuard, kSpare, kNoNameYet}
                            : std::vector<std::string>{});
     }
     /// Kills Nocturo and its guards of these names at once; whether a guard is left.
@@ -126,7 +126,7 @@ struct NocturoOnX : NocturoTest {
         nocturo_->signal(SIGSTOP); // or it starts other guards
         std::vector<pid_t> killed;
         std::size_t guards = 0;
-        for (const char* name : {kGuard, kSpare, kNoNameYet}) {
+        for (const char* name : {kGuard, kBusGuard, kSpare, kNoNameYet}) {
             const auto children = childrenNamed(nocturo_->id(), name);
             guards += children.size();
             if (std::find(names.begin(), names.end(), name) != names.end()) {
@@ -141,9 +141,11 @@ struct NocturoOnX : NocturoTest {
         return guards > killed.size();
     }
     static std::vector<pid_t> guardsOf(pid_t parent) {
-        std::vector<pid_t> guards = childrenNamed(parent, kGuard);
-        const std::vector<pid_t> spare = childrenNamed(parent, kSpare);
-        guards.insert(guards.end(), spare.begin(), spare.end());
+        std::vector<pid_t> guards;
+        for (const char* name : {kGuard, kBusGuard, kSpare}) {
+            const std::vector<pid_t> found = childrenNamed(parent, name);
+            guards.insert(guards.end(), found.begin(), found.end());
+        }
         return guards;
     }
     /// Waits for the guards that killed applications left to end as they should. Without its server
@@ -170,6 +172,7 @@ struct NocturoOnX : NocturoTest {
     bool isMarked() { return !client_.rootBytes(kMark).empty(); }
 
     static constexpr const char* kGuard = "nocturo-guard";
+    static constexpr const char* kBusGuard = "nocturo-bus-guard";
     static constexpr const char* kSpare = "display-keeper";
     static constexpr const char* kNoNameYet = "nocturo"; // of a guard, for a moment
     static constexpr const char* kJournal = "_NOCTURO_OWN_RAMPS";

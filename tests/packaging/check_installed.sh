@@ -123,7 +123,7 @@ destination() {
   DESTDIR=$work cmake --install "$1" --prefix /usr >/dev/null
   [ "$(ls "$work")" = $'etc\nusr' ] || fail "files beside /etc and /usr"
   local file
-  for file in usr/bin/nocturo usr/bin/nocturoctl usr/libexec/nocturo-guard \
+  for file in usr/bin/nocturo usr/bin/nocturoctl usr/libexec/nocturo-guard usr/libexec/nocturo-bus-guard \
     usr/libexec/nocturo-profile-guard; do
     [ -x "$work/$file" ] || fail "$file is missing"
   done

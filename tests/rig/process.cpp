@@ -135,7 +135,7 @@ std::vector<pid_t> childrenNamed(pid_t parent, const std::string& name) {
     for (pid_t child = 0; list >> child;) {
         std::string itsName;
         std::getline(std::ifstream("/proc/" + std::to_string(child) + "/comm"), itsName);
-        if (itsName == name) {
+        if (itsName == name.substr(0, 15)) {
             children.push_back(child);
         }
     }

@@ -2,14 +2,12 @@
 
 #include "base/file_descriptor.h"
 #include "base/log.h"
+#include "displays/kernel_edid.h"
 #include "displays/wlr/gamma_control_protocol.h"
 #include "wayland/wayland_connection.h"
 
 #include <sys/mman.h>
 
-#include <fstream>
-#include <iterator>
-#include <system_error>
 #include <utility>
 
 // Who asks for an output that another program controls is told so, by the event `failed`, but not
@@ -30,27 +28,6 @@ constexpr int kAttempts = 2;
 constexpr auto kPause = 30s;
 // One that did not answer at all, perhaps because it hangs, is left in peace as long as this.
 constexpr auto kPauseAfterSilence = 5s;
-constexpr std::size_t kMostEdidBytes = 32768;
-
-/// The kernel's copy of the monitor's EDID, which no Wayland protocol passes on. The connector has
-/// the kernel's name in compositors of this family.
-std::vector<std::uint8_t> edidOf(const std::filesystem::path& directory,
-                                 const std::string& connector) {
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(directory, error)) {
-        const std::string name = entry.path().filename(); // card0-DP-1
-        const auto dash = name.find('-');
-        if (dash == std::string::npos || name.substr(dash + 1) != connector) {
-            continue;
-        }
-        std::ifstream file(entry.path() / "edid", std::ios::binary);
-        std::vector<std::uint8_t> edid(std::istreambuf_iterator<char>(file), {});
-        if (!edid.empty() && edid.size() <= kMostEdidBytes) {
-            return edid;
-        }
-    }
-    return {};
-}
 
 /// A file in memory with the ramp as the protocol wants it: all red, all green, all blue. A new one
 /// for each write, because the compositor reads it whenever it likes.
@@ -134,7 +111,7 @@ bool WlrHardware::listHeads(std::vector<Head>& heads) {
         const auto control = controls_.find(output->global);
         Head& head = heads.emplace_back();
         head.connector = output->name;
-        head.edid = edidOf(edidDirectory_, output->name);
+        head.edid = kernelEdid(edidDirectory_, output->name);
         head.crtc = output->global;
         head.rampSize = control != controls_.end() ? control->second.size : kAssumedSize;
         head.bounds = {.x = static_cast<double>(output->x),
