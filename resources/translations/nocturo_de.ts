@@ -811,6 +811,18 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_de.html</translation>
         </message>
         <message>
+            <source>Copy</source>
+            <translation>Kopieren</translation>
+        </message>
+        <message>
+            <source>Change...</source>
+            <translation>Ändern...</translation>
+        </message>
+        <message>
+            <source>Ask</source>
+            <translation>Fragen</translation>
+        </message>
+        <message>
             <source>Type a shortcut</source>
             <translation>Tasten drücken</translation>
         </message>
@@ -1191,6 +1203,30 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Einen Look „%@“ gibt es schon.</translation>
         </message>
         <message>
+            <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>
+            <translation>Dieser Desktop nimmt Tastenkürzel aus seinen eigenen Einstellungen. Legen Sie dort eines für diesen Befehl an:</translation>
+        </message>
+        <message>
+            <source>This desktop takes hot keys from its own configuration. Put this line there:</source>
+            <translation>Dieser Desktop nimmt Tastenkürzel aus seiner eigenen Konfiguration. Schreiben Sie diese Zeile hinein:</translation>
+        </message>
+        <message>
+            <source>The desktop is asked whether Nocturo may have it.</source>
+            <translation>Der Desktop wird gefragt, ob Nocturo es haben darf.</translation>
+        </message>
+        <message>
+            <source>This desktop has not been asked for it yet.</source>
+            <translation>Dieser Desktop ist noch nicht danach gefragt worden.</translation>
+        </message>
+        <message>
+            <source>The desktop has refused it.</source>
+            <translation>Der Desktop hat es abgelehnt.</translation>
+        </message>
+        <message>
+            <source>The desktop has it as %@.</source>
+            <translation>Der Desktop führt es als %@.</translation>
+        </message>
+        <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
             <translation>Ein Tastenkürzel ist eine Taste mit beliebigen der Zusatztasten ctrl, alt (oder option), shift und super (oder command), verbunden mit +, etwa ctrl+super+F5. Tasten sind f1 bis f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 bis keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear oder das Zeichen, das eine Taste schreibt.</translation>
         </message>
@@ -1221,6 +1257,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>„%@“ braucht eine Zusatztaste: Nur Funktions-, Pfeil- und Navigationstasten können allein Tastenkürzel sein.</translation>
+        </message>
+        <message>
+            <source>Activate or Deactivate Effect</source>
+            <translation>Effekt ein- oder ausschalten</translation>
         </message>
         <message>
             <source>Windows come with the package nocturo-desktop, which is not installed.</source>

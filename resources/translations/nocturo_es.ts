@@ -811,6 +811,18 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_es.html</translation>
         </message>
         <message>
+            <source>Copy</source>
+            <translation>Copiar</translation>
+        </message>
+        <message>
+            <source>Change...</source>
+            <translation>Cambiar...</translation>
+        </message>
+        <message>
+            <source>Ask</source>
+            <translation>Preguntar</translation>
+        </message>
+        <message>
             <source>Type a shortcut</source>
             <translation>Pulse un atajo</translation>
         </message>
@@ -1191,6 +1203,30 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Ya existe un aspecto «%@».</translation>
         </message>
         <message>
+            <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>
+            <translation>Este escritorio toma los atajos de su propia configuración. Añada allí un atajo para esta orden:</translation>
+        </message>
+        <message>
+            <source>This desktop takes hot keys from its own configuration. Put this line there:</source>
+            <translation>Este escritorio toma los atajos de su propio archivo de configuración. Ponga allí esta línea:</translation>
+        </message>
+        <message>
+            <source>The desktop is asked whether Nocturo may have it.</source>
+            <translation>Se ha preguntado al escritorio si Nocturo puede usarlo.</translation>
+        </message>
+        <message>
+            <source>This desktop has not been asked for it yet.</source>
+            <translation>Aún no se ha pedido a este escritorio.</translation>
+        </message>
+        <message>
+            <source>The desktop has refused it.</source>
+            <translation>El escritorio lo ha rechazado.</translation>
+        </message>
+        <message>
+            <source>The desktop has it as %@.</source>
+            <translation>El escritorio lo tiene como %@.</translation>
+        </message>
+        <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
             <translation>Un atajo es una tecla con cualesquiera de ctrl, alt (u option), shift y super (o command), unidas por +, como ctrl+super+F5. Las teclas son f1 a f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, o el carácter que escribe una tecla.</translation>
         </message>
@@ -1221,6 +1257,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>«%@» necesita una modificadora: solo las teclas de función, de flecha y de navegación pueden ser atajos por sí solas.</translation>
+        </message>
+        <message>
+            <source>Activate or Deactivate Effect</source>
+            <translation>Activar o desactivar el efecto</translation>
         </message>
         <message>
             <source>Windows come with the package nocturo-desktop, which is not installed.</source>

@@ -811,6 +811,18 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Credits_fr.html</translation>
         </message>
         <message>
+            <source>Copy</source>
+            <translation>Copier</translation>
+        </message>
+        <message>
+            <source>Change...</source>
+            <translation>Modifier...</translation>
+        </message>
+        <message>
+            <source>Ask</source>
+            <translation>Demander</translation>
+        </message>
+        <message>
             <source>Type a shortcut</source>
             <translation>Saisir un raccourci</translation>
         </message>
@@ -1191,6 +1203,30 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>L’apparence « %@ » existe déjà.</translation>
         </message>
         <message>
+            <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>
+            <translation>Ce bureau prend les raccourcis dans ses propres réglages. Ajoutez-y un raccourci pour cette commande :</translation>
+        </message>
+        <message>
+            <source>This desktop takes hot keys from its own configuration. Put this line there:</source>
+            <translation>Ce bureau prend les raccourcis dans sa propre configuration. Mettez-y cette ligne :</translation>
+        </message>
+        <message>
+            <source>The desktop is asked whether Nocturo may have it.</source>
+            <translation>Il est demandé au bureau si Nocturo peut l’avoir.</translation>
+        </message>
+        <message>
+            <source>This desktop has not been asked for it yet.</source>
+            <translation>Il n’a pas encore été demandé à ce bureau.</translation>
+        </message>
+        <message>
+            <source>The desktop has refused it.</source>
+            <translation>Le bureau l’a refusé.</translation>
+        </message>
+        <message>
+            <source>The desktop has it as %@.</source>
+            <translation>Le bureau l’a enregistré comme %@.</translation>
+        </message>
+        <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
             <translation>Un raccourci est une touche avec n’importe lesquelles de ctrl, alt (ou option), shift et super (ou command), jointes par +, comme ctrl+super+F5. Les touches sont f1 à f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 à keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, ou le caractère que tape une touche.</translation>
         </message>
@@ -1221,6 +1257,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>« %@ » exige une touche de modification : seules les touches de fonction, fléchées et de navigation peuvent servir seules de raccourci.</translation>
+        </message>
+        <message>
+            <source>Activate or Deactivate Effect</source>
+            <translation>Activer ou désactiver l’effet</translation>
         </message>
         <message>
             <source>Windows come with the package nocturo-desktop, which is not installed.</source>

@@ -811,6 +811,18 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_ja.html</translation>
         </message>
         <message>
+            <source>Copy</source>
+            <translation>コピー</translation>
+        </message>
+        <message>
+            <source>Change...</source>
+            <translation>変更...</translation>
+        </message>
+        <message>
+            <source>Ask</source>
+            <translation>問い合わせる</translation>
+        </message>
+        <message>
             <source>Type a shortcut</source>
             <translation>キーを押してください</translation>
         </message>
@@ -1191,6 +1203,30 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>「%@」というルックはすでにあります。</translation>
         </message>
         <message>
+            <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>
+            <translation>このデスクトップはホットキーを自身の設定から読み込みます。そこにこのコマンドのショートカットを追加してください:</translation>
+        </message>
+        <message>
+            <source>This desktop takes hot keys from its own configuration. Put this line there:</source>
+            <translation>このデスクトップはホットキーを自身の設定ファイルから読み込みます。次の行をそこに書いてください:</translation>
+        </message>
+        <message>
+            <source>The desktop is asked whether Nocturo may have it.</source>
+            <translation>Nocturo が使用してよいかをデスクトップに問い合わせています。</translation>
+        </message>
+        <message>
+            <source>This desktop has not been asked for it yet.</source>
+            <translation>このデスクトップにはまだ問い合わせていません。</translation>
+        </message>
+        <message>
+            <source>The desktop has refused it.</source>
+            <translation>デスクトップに拒否されました。</translation>
+        </message>
+        <message>
+            <source>The desktop has it as %@.</source>
+            <translation>デスクトップでは %@ として登録されています。</translation>
+        </message>
+        <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
             <translation>ショートカットキーは、1 つのキーと任意の ctrl、alt (または option)、shift、super (または command) を + でつないだものです (例: ctrl+super+F5)。キーは f1～f20、left、right、up、down、home、end、pageup、pagedown、insert、delete、backspace、tab、space、return、escape、menu、volumeup、volumedown、mute、eisu、kana、keypad0～keypad9、keypadplus、keypadminus、keypadmultiply、keypaddivide、keypaddecimal、keypadcomma、keypadequals、keypadenter、keypadclear、またはキーで入力される文字です。</translation>
         </message>
@@ -1221,6 +1257,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>「%@」には修飾キーが必要です。単独で使えるのはファンクションキー、矢印キー、ナビゲーションキーだけです。</translation>
+        </message>
+        <message>
+            <source>Activate or Deactivate Effect</source>
+            <translation>効果をオンまたはオフにする</translation>
         </message>
         <message>
             <source>Windows come with the package nocturo-desktop, which is not installed.</source>

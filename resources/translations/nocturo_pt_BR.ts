@@ -811,6 +811,18 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Credits_pt_BR.html</translation>
         </message>
         <message>
+            <source>Copy</source>
+            <translation>Copiar</translation>
+        </message>
+        <message>
+            <source>Change...</source>
+            <translation>Alterar...</translation>
+        </message>
+        <message>
+            <source>Ask</source>
+            <translation>Perguntar</translation>
+        </message>
+        <message>
             <source>Type a shortcut</source>
             <translation>Digite um atalho</translation>
         </message>
@@ -1191,6 +1203,30 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Já existe um visual “%@”.</translation>
         </message>
         <message>
+            <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>
+            <translation>Esta área de trabalho usa os atalhos de suas próprias configurações. Adicione lá um atalho para este comando:</translation>
+        </message>
+        <message>
+            <source>This desktop takes hot keys from its own configuration. Put this line there:</source>
+            <translation>Esta área de trabalho usa os atalhos de seu próprio arquivo de configuração. Coloque lá esta linha:</translation>
+        </message>
+        <message>
+            <source>The desktop is asked whether Nocturo may have it.</source>
+            <translation>A área de trabalho está sendo consultada se o Nocturo pode usá-lo.</translation>
+        </message>
+        <message>
+            <source>This desktop has not been asked for it yet.</source>
+            <translation>Ele ainda não foi pedido a esta área de trabalho.</translation>
+        </message>
+        <message>
+            <source>The desktop has refused it.</source>
+            <translation>A área de trabalho o recusou.</translation>
+        </message>
+        <message>
+            <source>The desktop has it as %@.</source>
+            <translation>A área de trabalho o registrou como %@.</translation>
+        </message>
+        <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
             <translation>Um atalho é uma tecla com quaisquer de ctrl, alt (ou option), shift e super (ou command), unidas por +, como ctrl+super+F5. As teclas são f1 a f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, ou o caractere que uma tecla digita.</translation>
         </message>
@@ -1221,6 +1257,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>“%@” precisa de uma modificadora: só teclas de função, de seta e de navegação podem ser atalhos sozinhas.</translation>
+        </message>
+        <message>
+            <source>Activate or Deactivate Effect</source>
+            <translation>Ativar ou desativar o efeito</translation>
         </message>
         <message>
             <source>Windows come with the package nocturo-desktop, which is not installed.</source>

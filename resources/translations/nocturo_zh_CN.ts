@@ -811,6 +811,18 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_zh_CN.html</translation>
         </message>
         <message>
+            <source>Copy</source>
+            <translation>复制</translation>
+        </message>
+        <message>
+            <source>Change...</source>
+            <translation>更改...</translation>
+        </message>
+        <message>
+            <source>Ask</source>
+            <translation>询问</translation>
+        </message>
+        <message>
             <source>Type a shortcut</source>
             <translation>请按快捷键</translation>
         </message>
@@ -1191,6 +1203,30 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>已有外观方案“%@”。</translation>
         </message>
         <message>
+            <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>
+            <translation>此桌面使用自己设置中的快捷键。请在那里为以下命令添加快捷键：</translation>
+        </message>
+        <message>
+            <source>This desktop takes hot keys from its own configuration. Put this line there:</source>
+            <translation>此桌面使用自己配置文件中的快捷键。请将以下一行写入其中：</translation>
+        </message>
+        <message>
+            <source>The desktop is asked whether Nocturo may have it.</source>
+            <translation>正在询问桌面 Nocturo 是否可以使用它。</translation>
+        </message>
+        <message>
+            <source>This desktop has not been asked for it yet.</source>
+            <translation>尚未向此桌面请求使用它。</translation>
+        </message>
+        <message>
+            <source>The desktop has refused it.</source>
+            <translation>桌面已拒绝。</translation>
+        </message>
+        <message>
+            <source>The desktop has it as %@.</source>
+            <translation>桌面将其登记为 %@。</translation>
+        </message>
+        <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
             <translation>快捷键是一个按键加任意的 ctrl、alt（或 option）、shift 和 super（或 command），以 + 连接，例如 ctrl+super+F5。按键为 f1到f20、left、right、up、down、home、end、pageup、pagedown、insert、delete、backspace、tab、space、return、escape、menu、volumeup、volumedown、mute、eisu、kana、keypad0到keypad9、keypadplus、keypadminus、keypadmultiply、keypaddivide、keypaddecimal、keypadcomma、keypadequals、keypadenter、keypadclear，或按键所输入的字符。</translation>
         </message>
@@ -1221,6 +1257,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>“%@”需要修饰键：只有功能键、方向键和导航键可以单独作为快捷键。</translation>
+        </message>
+        <message>
+            <source>Activate or Deactivate Effect</source>
+            <translation>启用或停用效果</translation>
         </message>
         <message>
             <source>Windows come with the package nocturo-desktop, which is not installed.</source>

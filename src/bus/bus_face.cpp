@@ -13,6 +13,7 @@
 #include "displays/display_functions.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
+#include "hotkeys/hot_key_grant.h"
 #include "hotkeys/hot_key_text.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keys.h"
@@ -162,7 +163,7 @@ void BusFace::announceChanges() {
         [this](const Subjects& settings) { announceSoon(ToldState::namesConcernedBy(settings)); });
     for (const auto name :
          {kEffectActivationNotification, kDisturbanceNotification, kLooksDidChangeNotification,
-          NSApplicationDidChangeScreenParametersNotification}) {
+          NSApplicationDidChangeScreenParametersNotification, kHotKeyGrantNotification}) {
         localCenter_.addObserver(this, name, [this] { announceSoon(ToldState::names()); });
     }
 }

@@ -192,13 +192,22 @@ BusValue ToldState::hotKey() const {
     }
     const std::uint16_t keyCode = saved->keyCode();
     const std::uint64_t flags = saved->modifierFlags();
-    const bool registered =
-        HXHotKeyCenter::sharedHotKeyCenter().hasRegisteredHotKeyWithKeyCode(keyCode, flags);
-    return BusDictionary{{"text", inCapitals(HXStringFromKeyCode(keyCode, flags, layout_))},
-                         {"keyCode", static_cast<std::int32_t>(keyCode)},
-                         {"modifierFlags", static_cast<std::int64_t>(flags)},
-                         {"enabled", defaults_.boolForKey(kUseHotKey)},
-                         {"registered", registered}};
+    const auto grant = HXHotKeyCenter::sharedHotKeyCenter().grantWithKeyCode(keyCode, flags);
+    BusDictionary told = {{"text", inCapitals(HXStringFromKeyCode(keyCode, flags, layout_))},
+                          {"keyCode", static_cast<std::int32_t>(keyCode)},
+                          {"modifierFlags", static_cast<std::int64_t>(flags)},
+                          {"enabled", defaults_.boolForKey(kUseHotKey)},
+                          {"registered", grant && grant->state == HotKeyGrant::State::inForce}};
+    if (grant && grant->state != HotKeyGrant::State::inForce) {
+        told.emplace("standing", std::string(nameOf(grant->state)));
+    }
+    if (grant && !grant->trigger.empty()) {
+        told.emplace("trigger", grant->trigger);
+    }
+    if (grant && !grant->configuration.empty()) {
+        told.emplace("configuration", grant->configuration);
+    }
+    return told;
 }
 
 BusValue ToldState::settings() const {

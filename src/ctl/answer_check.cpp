@@ -74,8 +74,12 @@ bool isDisplay(const Json& value) {
 }
 
 bool isHotKey(const Json& value) {
-    static constexpr auto kMembers = std::to_array<Member>(
-        {{"text", isText}, {"enabled", isBoolean}, {"registered", isBoolean}});
+    static constexpr auto kMembers = std::to_array<Member>({{"text", isText},
+                                                            {"enabled", isBoolean},
+                                                            {"registered", isBoolean},
+                                                            {"standing", isText, true},
+                                                            {"trigger", isText, true},
+                                                            {"configuration", isText, true}});
     return value.is_object() && (value.empty() || fit(value, kMembers, Answer::whole));
 }
 

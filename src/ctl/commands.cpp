@@ -8,6 +8,7 @@
 #include "ctl/report.h"
 #include "ctl/restore.h"
 #include "ctl/setting_text.h"
+#include "hotkeys/hot_key_grant.h"
 #include "hotkeys/hot_key_text.h"
 #include "settings/settings_table.h"
 
@@ -96,6 +97,11 @@ void runReset(Arguments arguments) {
     BusClient().call("ResetSetting", arguments[0]);
 }
 
+HotKeyGrant grantIn(const Json& hotKey) {
+    return {grantStateNamed(hotKey.value("standing", "")), hotKey.value("trigger", ""),
+            hotKey.value("configuration", "")};
+}
+
 // Tells what stands in the way of a chosen hot key.
 void printHotKey(const Json& hotKey) {
     std::string line = translated("No hot key is chosen.");
@@ -103,6 +109,11 @@ void printHotKey(const Json& hotKey) {
         line = hotKey["text"].get<std::string>();
         if (!hotKey["enabled"].get<bool>()) {
             line = translated("%@  (not enabled; nocturoctl hotkey enable)", {line});
+        } else if (const std::string told = sentenceOn(grantIn(hotKey)); !told.empty()) {
+            line += '\n' + told;
+            if (hotKey.contains("configuration")) {
+                line += '\n' + hotKey["configuration"].get<std::string>();
+            }
         } else if (!hotKey["registered"].get<bool>()) {
             line = translated("%@  (not in force: another program holds it, or the desktop "
                               "offers no hot keys)",

@@ -163,6 +163,21 @@ void HXHotKeyCenter::unregisterHotKeyWithKeyCode(std::uint16_t keyCode,
     unregisterHotKeysMatchingPredicate(hasCombination(keyCode, modifierFlags));
 }
 
+std::optional<HotKeyGrant> HXHotKeyCenter::grantWithKeyCode(std::uint16_t keyCode,
+                                                            std::uint64_t modifierFlags) const {
+    const HotKeySet found = hotKeysMatchingPredicate(hasCombination(keyCode, modifierFlags));
+    if (service_ == nullptr || found.empty()) {
+        return std::nullopt;
+    }
+    return service_->grantOf(*(*found.begin())->hotKeyRef());
+}
+
+void HXHotKeyCenter::askDesktopAgain() {
+    for (const auto& hotKey : registeredHotKeys()) {
+        service_->askAgain(*hotKey->hotKeyRef());
+    }
+}
+
 void HXHotKeyCenter::unregisterAllHotKeys() {
     for (const auto& hotKey : HotKeySet(registeredHotKeys_)) {
         unregisterHotKey(*hotKey);

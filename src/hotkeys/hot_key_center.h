@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_set>
 
@@ -54,6 +55,13 @@ class HXHotKeyCenter {
     void setHotKeyService(HotKeyService* service);
 
     bool hasRegisteredHotKeyWithKeyCode(std::uint16_t keyCode, std::uint64_t modifierFlags) const;
+
+    /// What the desktop has made of it; nothing when it is not registered.
+    std::optional<HotKeyGrant> grantWithKeyCode(std::uint16_t keyCode,
+                                                std::uint64_t modifierFlags) const;
+
+    /// HotKeyService::askAgain for every hot key.
+    void askDesktopAgain();
 
     // False when the same key code and flags are registered already, or when the service refuses.
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hotkeys/hot_key_grant.h"
+
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -43,6 +45,13 @@ class HotKeyService {
     /// handlers before; null for nobody. A key held down is one press and one release. Handlers may
     /// register and unregister hot keys, the one they are told of included.
     virtual void setHandlers(Handler released, Handler pressed) = 0;
+
+    // Of a desktop that has a say in hot keys; elsewhere what is claimed is in force.
+
+    virtual HotKeyGrant grantOf(HotKeyHandle /*handle*/) const { return {}; }
+
+    /// The user wants it: asks the desktop again, or has it show how the key is changed.
+    virtual void askAgain(HotKeyHandle /*handle*/) {}
 };
 
 } // namespace nocturo

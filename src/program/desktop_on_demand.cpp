@@ -268,7 +268,9 @@ void DesktopOnDemand::showItemWhereTrayIs() {
 }
 
 void DesktopOnDemand::popUpStatusMenu(int x, int y) {
-    if (auto* part = partOrWarning()) {
+    if (!waylandDisplayName().empty()) {
+        showPreferences(); // there a point of the screen means nothing to a window
+    } else if (auto* part = partOrWarning()) {
         part->popUpStatusMenu(x, y);
     }
 }

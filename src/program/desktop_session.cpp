@@ -13,7 +13,7 @@ DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays, XC
     : core_(core), displays_(displays), server_(server), applications_(dataDirectories()),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);
-    core.desktop.setXServer(server);
+    core.desktop.setXServer(waylandDisplayName().empty() ? server : nullptr);
     core.desktop.sessionIsEnding = [this] { windowRestoration_.save(); };
 }
 
@@ -46,11 +46,13 @@ void DesktopSession::launch(const std::vector<std::string>& documents,
 }
 
 void DesktopSession::listen() {
-    // A grab on the X server of a Wayland session would never see a key.
-    hotKeys_.emplace(waylandDisplayName().empty() ? server_ : nullptr);
+    hotKeys_.emplace(DesktopHotKeys::Surroundings{server_, waylandDisplayName(), desktopName(),
+                                                  core_.sessionBus.get(), core_.runLoop,
+                                                  core_.centers.local});
     core_.face.setKeyboardLayout(hotKeys_->layout());
     core_.desktop.setKeyboardLayout(hotKeys_->layout());
     core_.controller.updateHotKey();
+    hotKeys_->launchDidFinish();
     core_.face.launchDidFinish();
     sources_.emplace(core_.centers, core_.runLoop,
                      DesktopSources::Surroundings{displays_.areOfXServer() ? server_ : nullptr,

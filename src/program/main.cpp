@@ -51,6 +51,12 @@ int endAfterHandingOver(const SessionClaim& claim, const std::vector<std::string
     return kSuccess;
 }
 
+/// In a Wayland session an X server has nothing that is needed, and may only start because of us.
+std::string xServerOfDisplays(const DisplayChoice& choice) {
+    const bool isWanted = waylandDisplayName().empty() || choice.kind == DisplayChoice::Kind::randr;
+    return isWanted ? xDisplayName() : std::string();
+}
+
 /// Runs the application in its event loop until it is told to end.
 int run(const RunOptions& options, EventLoop& loop, const std::string& startupIdentifier) {
     const auto directory = runtimeDirectory();
@@ -63,13 +69,13 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     const SessionClaim claim(core.sessionBus.get(), directory, documents, options.switchedOff);
     if (!claim.isGranted()) {
         if (!startupIdentifier.empty()) {
-            finishStartup(XConnection::open(xDisplayName()).get(), startupIdentifier);
+            finishStartup(XConnection::open(xServerOfDisplays({})).get(), startupIdentifier);
         }
         return endAfterHandingOver(claim, documents);
     }
     SettingsKeeper keeper(core.defaults, settingsPath(), core.runLoop);
 
-    const auto server = XConnection::open(xDisplayName());
+    const auto server = XConnection::open(xServerOfDisplays(options.displays));
     if (server != nullptr) {
         server->join(loop);
     }

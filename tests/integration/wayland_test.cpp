@@ -18,6 +18,7 @@ struct Wayland : NocturoTest {
         }
         sway_.emplace(2, 1024);
         session_.environment()["WAYLAND_DISPLAY"] = sway_->display();
+        session_.environment()["XDG_CURRENT_DESKTOP"] = "sway";
         select("NDInvertEffect");
         nocturo_ = session_.startNocturo();
     }
@@ -76,6 +77,15 @@ TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
     ctl({"on"});
     EXPECT_TRUE(becomes("io"));
     EXPECT_EQ(status()["displays"][0]["heldByOther"], false);
+}
+
+TEST_F(Wayland, GivesTheLineForADesktopThatGrantsNoHotKey) {
+    ctl({"hotkey", "set", "ctrl+super+k"}); // by the keymap
+    ctl({"hotkey", "enable"});
+    EXPECT_TRUE(waitUntil([&] {
+        return ctl({"hotkey"}).output.find("\nbindsym Ctrl+Mod4+k exec nocturoctl toggle\n") !=
+               std::string::npos;
+    }));
 }
 
 TEST_F(Wayland, EndsWithTheCompositorAndKeepsTheSettings) {

@@ -2,6 +2,7 @@
 
 #include "app/screen_option_menu_manager.h"
 #include "base/notification_center.h"
+#include "desktop/hotkey_field/hot_key_grant_row.h"
 #include "desktop/menus/drawn_menu.h"
 #include "desktop/preferences/filter_colors.h"
 #include "desktop/preferences/preference_panel.h"
@@ -17,6 +18,7 @@
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
 #include "effects/invert_effect.h"
+#include "hotkeys/hot_key_grant.h"
 #include "hotkeys/saved_hot_key.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keys.h"
@@ -76,6 +78,8 @@ void NDPreferencesController::loadWindow() {
     ui_->showStatusItem->setId(ui_->showInTaskBar, 0);
     ui_->showStatusItem->setId(ui_->showInTray, kStatusItemRow);
     ui_->hotKeyField->setKeyboardLayout(layout_);
+    hotKeyGrant_ = new HotKeyGrantRow;
+    ui_->hotKeyLayout->addWidget(hotKeyGrant_);
     connectEffects();
     connectSettings();
     connectDocuments();
@@ -145,6 +149,8 @@ void NDPreferencesController::windowDidLoad() {
     update({});
     surroundings_.localCenter.addObserver(this, NSUserDefaultsDidChangeNotification,
                                           [this](const Subjects& settings) { update(settings); });
+    surroundings_.localCenter.addObserver(this, kHotKeyGrantNotification,
+                                          [this] { hotKeyGrant_->update(surroundings_.defaults); });
 
     // The menu's first item stands for the button itself: its title sums the choice up.
     screensMenu_ = std::make_unique<Menu>();
@@ -240,6 +246,7 @@ void NDPreferencesController::update(const Subjects& settings) {
         if (saved == nullptr || shown == nullptr || !saved->isEqual(*shown)) {
             ui_->hotKeyField->setHotKey(saved);
         }
+        hotKeyGrant_->update(surroundings_.defaults);
     }
     updateBoxes();
     updateState();

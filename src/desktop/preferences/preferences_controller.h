@@ -24,6 +24,7 @@ namespace nocturo {
 
 class DefaultsStore;
 class DrawnMenu;
+class HotKeyGrantRow;
 class HXHotKeyTextField;
 class KeyboardLayout;
 class Menu;
@@ -165,6 +166,7 @@ class NDPreferencesController : public QObject {
     bool noEffectComfirmed = false;
     std::unique_ptr<Ui::NocturoPreferencePanel> ui_;
     std::unique_ptr<PreferencePanel> panel_;
+    HotKeyGrantRow* hotKeyGrant_ = nullptr; // of the panel
     std::unique_ptr<Menu> screensMenu_;
     std::unique_ptr<DrawnMenu> drawnScreensMenu_;
     std::unique_ptr<NDScreenOptionMenuManager> _screensMenuManager;

@@ -19,6 +19,10 @@ class KeyboardLayout {
     /// The low byte of `modifierKeyState` holds the modifiers held down: 1 command, 2 shift, 4 caps
     /// lock, 8 option, 16 control. Bits above it select nothing.
     virtual std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t modifierKeyState) = 0;
+
+    /// What XKB calls the symbol that the key types alone ("F5", "a", "KP_5"); empty where
+    /// that cannot be told.
+    virtual std::string keySymName(std::uint16_t /*keyCode*/) { return {}; }
 };
 
 } // namespace nocturo

@@ -1,6 +1,5 @@
 #include "hotkeys/keyboard/xkb_keyboard_layout.h"
 
-#include "hotkeys/keyboard/virtual_key_codes.h"
 #include "x11/xcb_xkb.h"
 
 #include <utility>
@@ -12,18 +11,6 @@ namespace nocturo {
 namespace {
 
 constexpr xcb_xkb_device_spec_t kKeyboard = XCB_XKB_ID_USE_CORE_KBD;
-
-// In the order of the bits that callers give.
-constexpr std::array kModifierNames = {XKB_MOD_NAME_LOGO, XKB_MOD_NAME_SHIFT, XKB_MOD_NAME_CAPS,
-                                       XKB_MOD_NAME_ALT, XKB_MOD_NAME_CTRL};
-
-// What the keypad's Enter is known by: it types a control character, and is not Return.
-constexpr const char* kEnterGlyph = "⌤";
-
-bool isControlCharacter(const std::string& text) {
-    const auto first = static_cast<unsigned char>(text.front());
-    return first < 0x20 || first == 0x7f;
-}
 
 } // namespace
 
@@ -69,14 +56,14 @@ void XkbKeyboardLayout::note(const xcb_generic_event_t& event) {
 // the group ends up as the last of them says.
 void XkbKeyboardLayout::readLayout() {
     outdated_ = false;
-    state_.reset();
+    keymap_.set(nullptr);
     auto* raw = server_.handle();
     const auto device = xkb_x11_get_core_keyboard_device_id(raw);
     if (device < 0) {
         return;
     }
     const auto groupCookie = xcb_xkb_get_state(raw, kKeyboard);
-    const std::unique_ptr<xkb_keymap, Release> keymap(
+    const std::unique_ptr<xkb_keymap, Keymap::Release> keymap(
         xkb_x11_keymap_new_from_device(context_.get(), raw, device, XKB_KEYMAP_COMPILE_NO_FLAGS));
     const XcbReply<xcb_xkb_get_state_reply_t> state(
         xcb_xkb_get_state_reply(raw, groupCookie, nullptr));
@@ -84,48 +71,25 @@ void XkbKeyboardLayout::readLayout() {
         return;
     }
     group_ = state->group;
-    state_.reset(xkb_state_new(keymap.get()));
-    for (std::size_t i = 0; i < kModifierCount; ++i) {
-        const auto index = xkb_keymap_mod_get_index(keymap.get(), kModifierNames[i]);
-        modifierMasks_[i] = index != XKB_MOD_INVALID ? xkb_mod_mask_t{1} << index : 0;
-    }
-    const auto lock = xkb_keymap_mod_get_index(keymap.get(), XKB_MOD_NAME_NUM);
-    numLockMask_ = lock != XKB_MOD_INVALID ? xkb_mod_mask_t{1} << lock : 0;
+    keymap_.set(keymap);
 }
 
-xkb_mod_mask_t XkbKeyboardLayout::modifierMask(std::uint32_t modifierKeyState) const {
-    xkb_mod_mask_t mask = 0;
-    for (std::size_t i = 0; i < kModifierCount; ++i) {
-        mask |= (modifierKeyState >> i & 1u) != 0 ? modifierMasks_[i] : 0;
-    }
-    return mask;
-}
-
-std::string XkbKeyboardLayout::textForKeyDown(std::uint16_t keyCode,
-                                              std::uint32_t modifierKeyState) {
+bool XkbKeyboardLayout::isThere() {
     prepare();
     server_.takeIn();
     if (events_ != nullptr && outdated_ && !server_.isLost()) {
         readLayout();
     }
-    const auto evdevCode = evdevFromVirtualKeyCode(keyCode);
-    if (!state_ || !evdevCode || server_.isLost()) {
-        return {};
-    }
-    const xkb_keycode_t key = *evdevCode + xkb_keycode_t{kEvdevToX11Offset};
-    // The lock makes digits of the keypad's arrows, and changes no other key.
-    xkb_state_update_mask(state_.get(), modifierMask(modifierKeyState), 0, numLockMask_, 0, 0,
-                          group_);
-    if (xkb_state_key_get_one_sym(state_.get(), key) == XKB_KEY_KP_Enter) {
-        return kEnterGlyph;
-    }
-    std::array<char, 64> text{};
-    const int length = xkb_state_key_get_utf8(state_.get(), key, text.data(), text.size());
-    if (length <= 0 || static_cast<std::size_t>(length) >= text.size()) {
-        return {};
-    }
-    std::string typed(text.data(), static_cast<std::size_t>(length));
-    return isControlCharacter(typed) ? std::string() : typed;
+    return !server_.isLost();
+}
+
+std::string XkbKeyboardLayout::textForKeyDown(std::uint16_t keyCode,
+                                              std::uint32_t modifierKeyState) {
+    return isThere() ? keymap_.text(keyCode, modifierKeyState, group_) : std::string();
+}
+
+std::string XkbKeyboardLayout::keySymName(std::uint16_t keyCode) {
+    return isThere() ? keymap_.keySymName(keyCode, group_) : std::string();
 }
 
 } // namespace nocturo

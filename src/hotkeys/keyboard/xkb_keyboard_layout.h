@@ -1,13 +1,11 @@
 #pragma once
 
 #include "hotkeys/keyboard/keyboard_layout.h"
+#include "hotkeys/keyboard/keymap.h"
 #include "x11/x_connection.h"
 
-#include <array>
 #include <memory>
 #include <string>
-
-#include <xkbcommon/xkbcommon.h>
 
 namespace nocturo {
 
@@ -21,28 +19,20 @@ class XkbKeyboardLayout final : public KeyboardLayout {
     explicit XkbKeyboardLayout(XConnection& server) : server_(server) {}
 
     std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t modifierKeyState) override;
+    std::string keySymName(std::uint16_t keyCode) override;
 
   private:
-    struct Release {
-        void operator()(xkb_context* context) const { xkb_context_unref(context); }
-        void operator()(xkb_keymap* keymap) const { xkb_keymap_unref(keymap); }
-        void operator()(xkb_state* state) const { xkb_state_unref(state); }
-    };
-    static constexpr std::size_t kModifierCount = 5;
-
     void prepare();
     void subscribe();
     void note(const xcb_generic_event_t& event);
     void readLayout();
-    xkb_mod_mask_t modifierMask(std::uint32_t modifierKeyState) const;
+    bool isThere();
 
     XConnection& server_;
     bool isPrepared_ = false;
     XListener events_; // null until it is prepared, and without the extension
-    std::unique_ptr<xkb_context, Release> context_;
-    std::unique_ptr<xkb_state, Release> state_; // holds its keymap; null when none could be read
-    std::array<xkb_mod_mask_t, kModifierCount> modifierMasks_{};
-    xkb_mod_mask_t numLockMask_ = 0;
+    std::unique_ptr<xkb_context, Keymap::Release> context_;
+    Keymap keymap_;
     xkb_layout_index_t group_ = 0;
     bool outdated_ = true;
 };
