@@ -6,6 +6,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <map>
+#include <poll.h>
+#include <sys/ioctl.h>
 #include <system_error>
 #include <utility>
 
@@ -15,6 +18,7 @@ namespace {
 
 constexpr const char* kBusService = "org.freedesktop.DBus";
 constexpr const char* kBusPath = "/org/freedesktop/DBus";
+constexpr std::chrono::milliseconds kPatienceAtTheEnd{50};
 constexpr const char* kDefaultSystemBus = "unix:path=/run/dbus/system_bus_socket";
 
 // At least 1, because sd-bus takes 0 for its own choice.
@@ -41,6 +45,47 @@ class HandledSlot : public BusSlot {
     Handler handler;
     std::unique_ptr<sd_bus_slot, BusRelease> slot;
 };
+
+/// Everybody who waits for an answer before calling again has one call here, so what one caller
+/// sends in a row says how far it runs ahead of the answers.
+class CallersAhead {
+  public:
+    /// True while the caller of this message may go on; otherwise it has been refused.
+    bool admits(sd_bus_message* call) {
+        sd_bus* bus = sd_bus_message_get_bus(call);
+        const char* sender = sd_bus_message_get_sender(call);
+        const auto now = std::chrono::steady_clock::now();
+        int waiting = 0;
+        if (now > forgotten_ + kMemory ||
+            (ioctl(sd_bus_get_fd(bus), FIONREAD, &waiting) == 0 && waiting == 0)) {
+            forgotten_ = now;
+            calls_.clear();
+        }
+        if (sender == nullptr || ++calls_[sender] <= kMostCalls) {
+            return true;
+        }
+        sd_bus_reply_method_errorf(call, SD_BUS_ERROR_LIMITS_EXCEEDED, "Wait for the answers.");
+        return false;
+    }
+
+    static int filter(sd_bus_message* message, void* self, sd_bus_error* /*error*/) {
+        return sd_bus_message_is_method_call(message, nullptr, nullptr) > 0 &&
+                       !static_cast<CallersAhead*>(self)->admits(message)
+                   ? 1
+                   : 0;
+    }
+
+  private:
+    static constexpr int kMostCalls = 100;
+    static constexpr std::chrono::seconds kMemory{10};
+
+    std::map<std::string, int> calls_; // since nothing waited to be read, by sender
+    std::chrono::steady_clock::time_point forgotten_;
+};
+
+int takeLater(sd_bus_message* /*answer*/, void* /*data*/, sd_bus_error* /*error*/) {
+    return 0; // whoever has the name by then keeps it
+}
 
 struct FollowedOwner : BusSlot {
     std::unique_ptr<BusSlot> changes;
@@ -77,13 +122,20 @@ std::unique_ptr<Bus> Bus::connect(const std::string& address, EventLoop& loop) {
         sd_bus_attach_event(created, loop.handle(), EventLoop::kBus) < 0) {
         return nullptr;
     }
-    return std::unique_ptr<Bus>(new Bus(std::move(bus)));
+    auto callers = std::make_shared<CallersAhead>();
+    sd_bus_add_filter(created, nullptr, CallersAhead::filter, callers.get());
+    return std::unique_ptr<Bus>(new Bus(std::move(bus), std::move(callers)));
 }
 
 Bus::~Bus() {
-    // Flushing one that has not said hello would wait for it.
-    if (sd_bus_is_ready(bus_.get()) > 0) {
-        sd_bus_flush(bus_.get());
+    // Flushing would wait for a bus that hangs, or whose other clients do not read.
+    const auto deadline = std::chrono::steady_clock::now() + kPatienceAtTheEnd;
+    std::uint64_t waiting = 0;
+    pollfd writable{sd_bus_get_fd(bus_.get()), POLLOUT, 0};
+    while (sd_bus_is_ready(bus_.get()) > 0 &&
+           sd_bus_get_n_queued_write(bus_.get(), &waiting) >= 0 && waiting > 0 &&
+           poll(&writable, 1, static_cast<int>(microsecondsUntil(deadline) / 1000)) > 0 &&
+           sd_bus_process(bus_.get(), nullptr) >= 0) {
     }
 }
 
@@ -96,6 +148,7 @@ Bus::Claim Bus::claimName(const char* name, int patienceMs) const {
     const BusMessage answer = callAndWait(request, patienceMs, nullptr);
     std::uint32_t result = 0;
     if (answer == nullptr || sd_bus_message_read(answer.get(), "u", &result) <= 0) {
+        sd_bus_request_name_async(bus_.get(), nullptr, name, 0, takeLater, nullptr);
         return Claim::busIsSilent;
     }
     return result == kOwned || result == kOwnedAlready ? Claim::granted : Claim::taken;

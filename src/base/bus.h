@@ -33,9 +33,12 @@ class BusSlot {
     virtual ~BusSlot() = default;
 };
 
-/// A connection to a message bus in the event loop. Only claimName(), callAndWait() and
-/// serveUntil() wait; a bus
-/// that is silent or goes away is the same as one where nobody answers. Main thread only.
+/// A connection to a message bus in the event loop. Only claimName(), callAndWait(), serveUntil()
+/// and, for 50 ms at most, the end wait; a bus that is silent or goes away is the same as one where
+/// nobody answers.
+///
+/// Who calls what is on it a hundred times without waiting for answers is refused from then on
+/// (LimitsExceeded), until all that came has been read or 10 seconds are over. Main thread only.
 class Bus {
   public:
     /// Null when nothing listens at the address. The loop must outlive the bus.
@@ -48,7 +51,7 @@ class Bus {
     sd_bus* handle() const { return bus_.get(); }
 
     /// Takes the name for this connection. Waits for the bus for so long at most, and then counts
-    /// it as silent.
+    /// it as silent; the name is taken all the same when it answers and nobody has it.
     enum class Claim { granted, taken, busIsSilent };
     Claim claimName(const char* name, int patienceMs) const;
 
@@ -84,11 +87,13 @@ class Bus {
     bool serveUntil(const std::function<bool()>& isDone, std::chrono::milliseconds patience) const;
 
   private:
-    explicit Bus(BusHandle bus) : bus_(std::move(bus)) {}
+    Bus(BusHandle bus, std::shared_ptr<void> callers)
+        : callers_(std::move(callers)), bus_(std::move(bus)) {}
 
     using Deadline = std::chrono::steady_clock::time_point;
     bool saysHelloBefore(Deadline deadline) const;
 
+    std::shared_ptr<void> callers_; // who runs how far ahead of the answers; outlives the bus
     BusHandle bus_;
 };
 

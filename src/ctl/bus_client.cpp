@@ -41,7 +41,7 @@ class BusError {
     std::string sentence() const { return error_.message != nullptr ? error_.message : "unknown"; }
 
   private:
-    sd_bus_error error_ = SD_BUS_ERROR_NULL;
+    sd_bus_error error_{};
 };
 
 // Waits without end for what the handlers of the bus are given.

@@ -14,6 +14,7 @@
 #include "displays/ramp_display_services.h"
 #include "displays/simulated/simulated_hardware.h"
 #include "displays/wlr/wlr_hardware.h"
+#include "displays/x11/display_claim.h"
 #include "displays/x11/opening_problem.h"
 #include "displays/x11/randr_hardware.h"
 #include "wayland/wayland_connection.h"
@@ -55,7 +56,7 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
         return failedForNow(openingProblem(randr.error(), xDisplay));
     }
     // Before anything is captured, so that no effect is ever taken for a display's own colours.
-    if (repairDisplays(**randr, *profiles) == Repair::inUse) {
+    if (repairDisplays(**randr, *profiles) == Repair::inUse || !claimDisplays(*server)) {
         return failed(
             translated("Another Nocturo drives the displays of the X server %@.", {xDisplay}));
     }

@@ -113,11 +113,10 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
         loop.quit();
     });
     const int result = loop.run();
+    core.controller.applicationWillTerminate(); // the displays come before all that is written
     if (result == kSuccess) {
         desktop.end();
-    }
-    core.controller.applicationWillTerminate();
-    if (result != kSuccess) {
+    } else {
         tellOfLostServer();
     }
     return result;

@@ -11,7 +11,8 @@ namespace nocturo {
 
 namespace {
 
-constexpr int kPatienceWithBusMs = 500;
+// A bus that hangs must not delay the first effect; one that is only slow is joined later.
+constexpr int kPatienceWithBusMs = 100;
 constexpr int kPatienceWithAnother = 2000; // milliseconds, too
 
 } // namespace
@@ -26,8 +27,10 @@ SessionClaim::SessionClaim(const Bus* bus,
         claim = bus_->claimName(kBusName, kPatienceWithBusMs); // one just killed may be gone by now
     }
     granted_ = claim == Bus::Claim::granted;
-    if (claim == Bus::Claim::busIsSilent) {
-        logInfo(kLogBus, "There is no session bus, so nocturoctl cannot reach Nocturo.");
+    if (granted_ && runtimeDirectory) {
+        lock_.emplace(*runtimeDirectory); // for the next one, should the bus be silent for it
+    } else if (claim == Bus::Claim::busIsSilent) {
+        logInfo(kLogBus, "The session bus is silent, so nocturoctl cannot reach Nocturo.");
         askForLock(runtimeDirectory, documents);
     }
 }

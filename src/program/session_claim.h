@@ -16,7 +16,8 @@ class Bus;
 /// until the bus is closed, the lock until this is destroyed.
 class SessionClaim {
   public:
-    /// `bus` is the session bus, or null; one that does not answer counts as none.
+    /// `bus` is the session bus, or null. One that does not answer within 0.1 s counts as none, and
+    /// gives the name when it answers.
     /// Where there is another Nocturo it opens the documents at these absolute paths, or is
     /// re-opened when there are none. With `switchedOff` it is switched off instead of that.
     SessionClaim(const Bus* bus, const std::optional<std::filesystem::path>& runtimeDirectory,

@@ -354,6 +354,96 @@ TEST_F(ControlOfRunning, WatchTellsEachChange) {
     EXPECT_EQ(nocturo_->wait(), 0);
 }
 
+class FloodedOnX : public NocturoOnX {
+  protected:
+    FloodedOnX() : NocturoOnX(2) {
+        select("NDInvertEffect");
+        nocturo_ = session_.startNocturo();
+    }
+
+    /// In kB.
+    long memory() {
+        std::ifstream status("/proc/" + std::to_string(nocturo_->id()) + "/status");
+        std::string word;
+        while (status >> word && word != "VmRSS:") {
+        }
+        long size = -1;
+        status >> size;
+        return size;
+    }
+    std::vector<std::unique_ptr<Process>> floods(const Arguments& kinds) {
+        std::vector<std::unique_ptr<Process>> started;
+        for (const std::string& kind : kinds) {
+            started.push_back(session_.start("flood", {kind}));
+        }
+        return started;
+    }
+
+    /// Others call it without end for so long, and once more while it is to end.
+    void flood(Milliseconds time) {
+        ctl({"status"});
+        const long before = memory();
+        auto others = floods({"toggle", "ask", "open"});
+        EXPECT_FALSE(nocturo_->wait(time)) << "it ended by itself";
+        others.clear();
+        EXPECT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"on"}).exit == 0; }))
+            << "deaf for longer than 10 s";
+        EXPECT_TRUE(becomes("ii"));
+        EXPECT_TRUE(waitUntil([&] { return memory() <= before * 11 / 10; })) << before << memory();
+        others = floods({"ask", "open"});
+        EXPECT_FALSE(nocturo_->wait(Milliseconds(500)));
+        nocturo_->signal(SIGTERM);
+        EXPECT_TRUE(allOwnWithin(Milliseconds(200)));
+        EXPECT_EQ(nocturo_->wait(), 0);
+    }
+};
+
+TEST_F(FloodedOnX, MindsSignalsAndGivesBackWhatItTook) {
+    flood(Milliseconds(1000));
+}
+
+TEST_F(FloodedOnX, SoakOfAMinute) {
+    flood(Milliseconds(60000));
+}
+
+class BusTrouble : public NocturoOnX {
+  protected:
+    BusTrouble() : NocturoOnX(2) { select("NDInvertEffect"); }
+    ~BusTrouble() override { session_.bus().signal(SIGCONT); }
+};
+
+TEST_F(BusTrouble, BusThatHangsDelaysNothing) {
+    session_.bus().signal(SIGSTOP);
+    nocturo_ = session_.start("nocturo");
+    EXPECT_TRUE(becomes("ii", Milliseconds(1000)));
+    EXPECT_EQ(session_.run("nocturo").exit, 0); // a second start, told by the lock
+    EXPECT_TRUE(allOwnWithin());
+    EXPECT_EQ(session_.run("nocturo").exit, 0);
+    EXPECT_TRUE(becomes("ii"));
+    session_.bus().signal(SIGCONT);
+    EXPECT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 0; }));
+    session_.bus().signal(SIGSTOP);
+    nocturo_->signal(SIGTERM);
+    EXPECT_TRUE(allOwnWithin(Milliseconds(200)));
+    EXPECT_EQ(nocturo_->wait(Milliseconds(1000)), 0);
+}
+
+TEST_F(BusTrouble, OneNocturoDrivesTheDisplays) {
+    nocturo_ = session_.startNocturo();
+    ASSERT_TRUE(becomes("ii"));
+    ctl({"off"});
+    const SessionBus other;
+    session_.environment()["DBUS_SESSION_BUS_ADDRESS"] = other.address();
+    session_.environment()["XDG_RUNTIME_DIR"] = session_.environment()["HOME"];
+    const RunResult second = session_.run("nocturo");
+    EXPECT_EQ(second.exit, 1);
+    EXPECT_NE(second.errors.find("Another Nocturo"), std::string::npos) << second.errors;
+    EXPECT_TRUE(allOwnWithin(Milliseconds(0)));
+    nocturo_->signal(SIGKILL); // which the server hears of a little later
+    nocturo_ = session_.start("nocturo");
+    EXPECT_TRUE(becomes("ii"));
+}
+
 } // namespace
 
 } // namespace nocturo::rig
