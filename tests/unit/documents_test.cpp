@@ -1,6 +1,7 @@
 // Property lists and the documents that are made of them. Both may come from anybody.
 
 #include "settings/property_lists/property_list.h"
+#include "settings/property_lists/property_list_file.h"
 
 #include "documents/effect_document_file.h"
 #include "temporary_directory.h"
@@ -8,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <bit>
+#include <cerrno>
 #include <clocale>
 #include <cstdlib>
 #include <limits>
@@ -91,6 +93,27 @@ TEST(PropertyListTest, RefusesWhatIsNoListOrIsBuiltToExhaustIt) {
     }
     EXPECT_TRUE(parsePropertyList(nested(100)));
     EXPECT_TRUE(parsePropertyList(xmlWith("<string>" + repeated("&amp;", 5000) + "</string>")));
+}
+
+TEST(PropertyListTest, WhatCouldNotBeReadBackIsNeitherReadNorWritten) {
+    const TemporaryDirectory directory;
+    const std::filesystem::path file = directory / "list";
+    ASSERT_TRUE(writePropertyListFile(file, {{"a", true}}, 0600));
+    const PropertyDictionary lists[] = {
+        {{"a", PropertyArray(100000, std::int64_t{7})}},
+        {{"a", std::string(20000, '&')}},
+        {{"a", PropertyArray(20000, PropertyArray{true})}},
+    };
+    for (const PropertyDictionary& list : lists) {
+        EXPECT_FALSE(parsePropertyList(propertyListXml(list)));
+        EXPECT_EQ(writePropertyListFile(file, list, 0600).error().errorNumber, EFBIG);
+        EXPECT_EQ(readPropertyListFile(file).dictionary, (PropertyDictionary{{"a", true}}));
+    }
+    // Shorter than it would be once it is written.
+    const std::string compact =
+        xmlWith("<array>" + repeated("<integer>7</integer>", 47000) + "</array>");
+    ASSERT_LT(compact.size(), kLongestPropertyList);
+    EXPECT_FALSE(parsePropertyList(compact));
 }
 
 /// What another program makes of the list.
@@ -187,6 +210,9 @@ TEST(PropertyListTest, RefusesBinaryListsThatWouldExhaustIt) {
     }
     EXPECT_TRUE(parsePropertyList(chain(2, 200)));
     EXPECT_FALSE(parsePropertyList(chain(3, 200))) << "eight million arrays";
+    EXPECT_FALSE(parsePropertyList(
+        withRootDictionary({"\x5F\x12" + bigEndian(20000, 4) + std::string(20000, '&')})))
+        << "more than XML may spell out";
     const std::string text = "\x5F\x12" + bigEndian(500000, 4) + std::string(500000, 'x');
     EXPECT_TRUE(parsePropertyList(withRootDictionary({container(0xA, 2, {3, 3}), text})));
     EXPECT_FALSE(parsePropertyList(

@@ -15,7 +15,6 @@
 #include <clocale>
 #include <cstddef>
 #include <cstdlib>
-#include <limits>
 #include <locale.h>
 #include <memory>
 #include <new>
@@ -246,8 +245,7 @@ std::size_t occurrences(std::string_view text, std::string_view part) {
 
 plist_t parsedXml(std::string_view xml) {
     plist_t parsed = nullptr;
-    if (xml.find('\0') == xml.npos && occurrences(xml, "&") <= kMostEntities &&
-        occurrences(xml, "<dict") + occurrences(xml, "<array") <= kMostContainers) {
+    if (xml.find('\0') == xml.npos && isWithinLimits(xml)) {
         plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &parsed);
     }
     return parsed;
@@ -276,13 +274,25 @@ std::string propertyListXml(const PropertyDictionary& dictionary) {
     return {text, length};
 }
 
+bool isWithinLimits(std::string_view xml) {
+    const auto filled = [xml](std::string_view start, std::string_view empty) {
+        return occurrences(xml, start) - occurrences(xml, empty);
+    };
+    return xml.size() <= kLongestPropertyList && occurrences(xml, "&") <= kMostEntities &&
+           filled("<dict", "<dict/>") + filled("<array", "<array/>") <= kMostContainers;
+}
+
 std::optional<PropertyDictionary> parsePropertyList(std::string_view bytes) {
-    if (bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
+    if (bytes.size() > kLongestPropertyList) {
         return std::nullopt;
     }
     const CLocaleScope cLocale;
     const OwnedPlist root(bytes.starts_with("bplist") ? parsedBinary(bytes) : parsedXml(bytes));
-    return PLIST_IS_DICT(root.get()) ? membersOf(root.get(), 0) : std::nullopt;
+    auto members = PLIST_IS_DICT(root.get()) ? membersOf(root.get(), 0) : std::nullopt;
+    if (members && !isWithinLimits(propertyListXml(*members))) {
+        return std::nullopt; // it would be longer than this once it is written
+    }
+    return members;
 }
 
 } // namespace nocturo

@@ -2,6 +2,7 @@
 
 #include "base/property_value.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,8 +16,18 @@ namespace nocturo {
 /// is kept, rounded down) and whatever follows a NUL in a string.
 std::string propertyListXml(const PropertyDictionary& dictionary);
 
+/// What a list may come to in XML, whatever form it is read in: hundreds of times what the settings
+/// need, and still read without a noticeable wait.
+inline constexpr std::size_t kLongestPropertyList = std::size_t{1} << 20;
+
+/// Whether the text that propertyListXml() made can be read again: it is not too long, and has no
+/// more than ten thousand arrays and dictionaries that hold anything, and of characters that XML
+/// spells out.
+bool isWithinLimits(std::string_view xml);
+
 /// The root dictionary of a property list in XML or in the binary form, or nothing when the bytes
 /// are no such list: cut off, of another format, with another root, or built to exhaust the reader.
+/// What is read is within the limits, so that it can be written and read again.
 /// A dictionary below the root whose only key is CF$UID is the XML form of a PropertyUid and reads
 /// as one. An unsigned integer beyond the signed 64 bits wraps around.
 std::optional<PropertyDictionary> parsePropertyList(std::string_view bytes);

@@ -4,16 +4,13 @@
 #include "settings/property_lists/property_list.h"
 
 #include <cerrno>
-#include <cstddef>
+#include <string>
 #include <sys/stat.h>
 #include <utility>
 
 namespace nocturo {
 
 namespace {
-
-// Hundreds of times what the settings need, and still read without a noticeable wait.
-constexpr std::size_t kLargestFile = std::size_t{1} << 20;
 
 FileStamp stampOf(const struct stat& status) {
     return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec,
@@ -44,7 +41,7 @@ PropertyListFileContents readPropertyListFile(const std::filesystem::path& path)
         return file.error().errorNumber == ENOENT ? contents : unreadable(file.error().errorNumber);
     }
     contents.stamp = stampOf(file->status);
-    const auto content = readAll(file->descriptor, kLargestFile);
+    const auto content = readAll(file->descriptor, kLongestPropertyList);
     if (!content && content.error().errorNumber != EFBIG) {
         return unreadable(content.error().errorNumber);
     }
@@ -59,8 +56,11 @@ PropertyListFileContents readPropertyListFile(const std::filesystem::path& path)
 
 Result<FileStamp> writePropertyListFile(const std::filesystem::path& path,
                                         const PropertyDictionary& dictionary, mode_t newFileMode) {
-    return replaceFile(followLinks(path), propertyListXml(dictionary), newFileMode,
-                       Durability::survivesPowerCuts)
+    const std::string xml = propertyListXml(dictionary);
+    if (!isWithinLimits(xml)) {
+        return failedWith(EFBIG); // it would be taken for a damaged one
+    }
+    return replaceFile(followLinks(path), xml, newFileMode, Durability::survivesPowerCuts)
         .map(stampOf);
 }
 

@@ -43,7 +43,8 @@ PropertyListFileContents readPropertyListFile(const std::filesystem::path& path)
 /// Replaces the file at `path` as a whole by XML, so that readers and a power cut find either the
 /// old content or the new one. A link at `path` stays and its target is replaced. The permissions
 /// of an existing file are kept; those of a new one are `newFileMode` less the process's umask. On
-/// failure the old file is as it was and nothing else is left behind. Returns the new file's stamp.
+/// failure the old file is as it was and nothing else is left behind; EFBIG is the one for what
+/// could not be read again. Returns the new file's stamp.
 Result<FileStamp> writePropertyListFile(const std::filesystem::path& path,
                                         const PropertyDictionary& dictionary, mode_t newFileMode);
 
