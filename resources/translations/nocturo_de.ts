@@ -267,6 +267,10 @@
             <translation>Effekt einschalten</translation>
         </message>
         <message>
+            <source>and %d more</source>
+            <translation>und %d weitere</translation>
+        </message>
+        <message>
             <source>Looks</source>
             <translation>Looks</translation>
         </message>
@@ -345,6 +349,10 @@
         <message>
             <source>There is no setting "%@".</source>
             <translation>Eine Einstellung „%@“ gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>"%@" is no absolute path.</source>
+            <translation>„%@“ ist kein absoluter Pfad.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>

@@ -267,6 +267,10 @@
             <translation>Activar el efecto</translation>
         </message>
         <message>
+            <source>and %d more</source>
+            <translation>y %d más</translation>
+        </message>
+        <message>
             <source>Looks</source>
             <translation>Aspectos</translation>
         </message>
@@ -345,6 +349,10 @@
         <message>
             <source>There is no setting "%@".</source>
             <translation>No existe el ajuste «%@».</translation>
+        </message>
+        <message>
+            <source>"%@" is no absolute path.</source>
+            <translation>«%@» no es una ruta absoluta.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>

@@ -267,6 +267,10 @@
             <translation>Activer l’effet</translation>
         </message>
         <message>
+            <source>and %d more</source>
+            <translation>et %d autres</translation>
+        </message>
+        <message>
             <source>Looks</source>
             <translation>Apparences</translation>
         </message>
@@ -345,6 +349,10 @@
         <message>
             <source>There is no setting "%@".</source>
             <translation>Le réglage « %@ » n’existe pas.</translation>
+        </message>
+        <message>
+            <source>"%@" is no absolute path.</source>
+            <translation>« %@ » n’est pas un chemin absolu.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>

@@ -267,6 +267,10 @@
             <translation>効果をオンにする</translation>
         </message>
         <message>
+            <source>and %d more</source>
+            <translation>ほか%d件</translation>
+        </message>
+        <message>
             <source>Looks</source>
             <translation>ルック</translation>
         </message>
@@ -345,6 +349,10 @@
         <message>
             <source>There is no setting "%@".</source>
             <translation>「%@」という設定はありません。</translation>
+        </message>
+        <message>
+            <source>"%@" is no absolute path.</source>
+            <translation>“%@”は絶対パスではありません。</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>

@@ -267,6 +267,10 @@
             <translation>Ativar o efeito</translation>
         </message>
         <message>
+            <source>and %d more</source>
+            <translation>e mais %d</translation>
+        </message>
+        <message>
             <source>Looks</source>
             <translation>Visuais</translation>
         </message>
@@ -345,6 +349,10 @@
         <message>
             <source>There is no setting "%@".</source>
             <translation>Não existe a configuração “%@”.</translation>
+        </message>
+        <message>
+            <source>"%@" is no absolute path.</source>
+            <translation>“%@” não é um caminho absoluto.</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>

@@ -267,6 +267,10 @@
             <translation>启用效果</translation>
         </message>
         <message>
+            <source>and %d more</source>
+            <translation>以及另外 %d 个</translation>
+        </message>
+        <message>
             <source>Looks</source>
             <translation>外观方案</translation>
         </message>
@@ -345,6 +349,10 @@
         <message>
             <source>There is no setting "%@".</source>
             <translation>没有设置“%@”。</translation>
+        </message>
+        <message>
+            <source>"%@" is no absolute path.</source>
+            <translation>“%@”不是绝对路径。</translation>
         </message>
         <message>
             <source>No setting takes a value of this type.</source>

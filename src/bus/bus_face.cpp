@@ -33,6 +33,15 @@ tl::unexpected<BusFailure> noSetting(const std::string& key) {
     return refusal(translated("There is no setting \"%@\".", {key}));
 }
 
+// Relative ones would be so to the directory that Nocturo happened to be started in.
+bool isAbsolute(const std::string& path) {
+    return path.starts_with('/');
+}
+
+tl::unexpected<BusFailure> notAbsolute(const std::string& path) {
+    return refusal(translated("\"%@\" is no absolute path.", {path}));
+}
+
 bool isOnline(CGDirectDisplayID display) {
     DisplayServices* services = displayServices();
     const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
@@ -249,6 +258,9 @@ BusAnswer BusFace::setHotKey(const std::string& text) {
 }
 
 BusAnswer BusFace::openFile(const std::string& path) {
+    if (!isAbsolute(path)) {
+        return notAbsolute(path);
+    }
     if (!userInterface_.applyEffectFile(path)) {
         return failure(translated("\"%@\" is not an effect document.", {path}));
     }
@@ -256,6 +268,9 @@ BusAnswer BusFace::openFile(const std::string& path) {
 }
 
 BusAnswer BusFace::saveFile(const std::string& path) {
+    if (!isAbsolute(path)) {
+        return notAbsolute(path);
+    }
     if (!userInterface_.saveEffectFile(path)) {
         return failure(translated("Could not save settings at \"%@\".", {path}));
     }

@@ -1,6 +1,7 @@
 #include "bus/launcher_face.h"
 
 #include "app/app_controller.h"
+#include "app/listed_names.h"
 #include "base/activation_token.h"
 #include "base/bus_dictionary.h"
 #include "base/event_loop.h"
@@ -181,10 +182,12 @@ std::string openDocuments(NDAppController& controller, const std::vector<std::st
         return translated("\"%@\" is not an effect document.", {refused.front()});
     }
     std::string names;
-    for (const std::string& path : refused) {
+    for (const std::string& path : firstNames(refused)) {
         names += (names.empty() ? "" : ", ") + path;
     }
-    return translated("These are not effect documents: %@", {names});
+    const std::string more = howManyMore(refused);
+    return translated("These are not effect documents: %@",
+                      {names + (more.empty() ? "" : ", ") + more});
 }
 
 std::optional<std::string> openInRunningApplication(const Bus& bus,
@@ -197,7 +200,7 @@ std::optional<std::string> openInRunningApplication(const Bus& bus,
     const BusMessage call = bus.newCall(kBusName, kObjectPath, kApplicationInterface, "Open");
     appendValue(call.get(), uris);
     appendDictionary(call.get(), {});
-    sd_bus_error error = SD_BUS_ERROR_NULL;
+    sd_bus_error error{};
     const BusMessage answer = bus.callAndWait(call, kOpenTimeoutMs, &error);
     std::optional<std::string> refusal;
     if (answer != nullptr) {

@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/app_menus.h"
+#include "app/listed_names.h"
 #include "desktop/app_windows.h"
 #include "desktop/menus/alert_box.h"
 #include "desktop/qt/localized.h"
@@ -82,9 +83,12 @@ void DesktopMenus::askToKeepColors(int secondsLeft, std::function<void(bool keep
 
 void DesktopMenus::showRefusedDocuments(const std::vector<std::string>& paths) {
     QStringList sentences;
-    for (const std::string& path : paths) {
+    for (const std::string& path : firstNames(paths)) {
         sentences.append(filled(localized("“%@” is not an effect document."),
                                 {QString::fromStdString(documentDisplayName(path))}));
+    }
+    if (const std::string more = howManyMore(paths); !more.empty()) {
+        sentences.append(QString::fromStdString(more));
     }
     refusal_ = shownMessage(localized("Opening failed"), sentences.join(u'\n'));
 }

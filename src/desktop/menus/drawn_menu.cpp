@@ -1,6 +1,7 @@
 #include "desktop/menus/drawn_menu.h"
 
 #include <QAction>
+#include <QTextDocument>
 
 namespace nocturo {
 
@@ -12,10 +13,14 @@ void show(const MenuItem& item, QAction& action) {
     action.setCheckable(item.isCheckable);
     action.setChecked(item.isChecked);
     action.setText(QString::fromStdString(indentedText(item)));
-    action.setToolTip(QString::fromStdString(item.toolTip));
+    action.setToolTip(plainToolTip(QString::fromStdString(item.toolTip)));
 }
 
 } // namespace
+
+QString plainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
 
 DrawnMenu::DrawnMenu(Menu& menu, QMenu& drawn) : menu_(menu), drawn_(&drawn) {
     drawn.setToolTipsVisible(true);

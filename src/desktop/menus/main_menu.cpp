@@ -1,5 +1,7 @@
 #include "desktop/menus/main_menu.h"
 
+#include "desktop/menus/drawn_menu.h"
+
 #include "desktop/qt/localized.h"
 #include "documents/recent_documents.h"
 
@@ -34,7 +36,7 @@ void fillRecent(QMenu& menu, const RecentDocuments& documents,
         const QString file = QString::fromStdString(path);
         QAction* item =
             menu.addAction(QFileInfo(file).fileName().replace(u'&', QStringLiteral("&&")));
-        item->setToolTip(file);
+        item->setToolTip(plainToolTip(file));
         QObject::connect(item, &QAction::triggered, item, [open, file] { open(file); });
     }
     const bool any = !menu.isEmpty();

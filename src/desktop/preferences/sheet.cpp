@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QSpacerItem>
 
 namespace nocturo {
@@ -22,6 +23,9 @@ void showSheet(QMessageBox& sheet) {
 }
 
 void widenMessage(QMessageBox& message) {
+    for (QLabel* label : message.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText); // what looks like markup is a file's name
+    }
     // Left to itself the box is as narrow as its title, and the explanation a column.
     if (auto* grid = qobject_cast<QGridLayout*>(message.layout())) {
         const int width = message.fontMetrics().averageCharWidth() * 60;

@@ -12,7 +12,8 @@ QMessageBox* newSheet(QWidget* window, QMessageBox::Icon icon, const QString& ti
 /// Shows it once it has its buttons.
 void showSheet(QMessageBox& sheet);
 
-/// Makes a message, complete but for being shown, wide enough for sentences to be read as such.
+/// Makes a message, complete but for being shown, wide enough for sentences to be read as such, and
+/// its texts plain ones.
 void widenMessage(QMessageBox& message);
 
 } // namespace nocturo
