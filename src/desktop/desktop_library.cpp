@@ -10,8 +10,11 @@
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QSessionManager>
+#include <QThread>
 
+#include <chrono>
 #include <cstdlib>
+#include <semaphore>
 #include <utility>
 
 namespace nocturo {
@@ -27,6 +30,31 @@ int argumentCount = 1;
 std::function<void()>& atSuddenEnd() {
     static std::function<void()> action;
     return action;
+}
+
+void endSuddenly() {
+    if (const auto action = std::exchange(atSuddenEnd(), nullptr)) {
+        action();
+    }
+}
+
+QtMessageHandler printMessage = nullptr;
+std::binary_semaphore hasEnded(0);
+
+/// Where a Wayland compositor goes, Qt ends the process past all that exit() does. This is its last
+/// word before, of its own thread and of the main one. Only that one may touch anything; the other
+/// gives it the time.
+void noteMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    printMessage(type, context, message);
+    if (!message.contains(QLatin1String("Wayland connection"))) {
+        return;
+    }
+    if (QThread::currentThread() == QCoreApplication::instance()->thread()) {
+        endSuddenly();
+        hasEnded.release();
+    } else {
+        static_cast<void>(hasEnded.try_acquire_for(std::chrono::seconds(1)));
+    }
 }
 
 /// Qt's application, in whose loop the core's runs.
@@ -53,11 +81,8 @@ class QtDesktop : public DesktopPart {
           menus_(around.controller, windows_, around.recentDocuments, around.menus, around.server) {
         windows_.placeFile = around.stateDirectory / "window.ini";
         atSuddenEnd() = around.serverIsLost;
-        std::atexit([] {
-            if (const auto action = std::exchange(atSuddenEnd(), nullptr)) {
-                action();
-            }
-        });
+        std::atexit(endSuddenly);
+        printMessage = qInstallMessageHandler(noteMessage);
         // The desktop starts Nocturo by its autostart entry; a second start would be a toggle.
         const auto startNothing = [](QSessionManager& session) {
             session.setRestartHint(QSessionManager::RestartNever);
@@ -70,7 +95,10 @@ class QtDesktop : public DesktopPart {
                          });
     }
 
-    ~QtDesktop() override { atSuddenEnd() = nullptr; }
+    ~QtDesktop() override {
+        atSuddenEnd() = nullptr;
+        qInstallMessageHandler(nullptr);
+    }
     QtDesktop(const QtDesktop&) = delete;
     QtDesktop& operator=(const QtDesktop&) = delete;
 

@@ -88,6 +88,17 @@ TEST_F(Wayland, GivesTheLineForADesktopThatGrantsNoHotKey) {
     }));
 }
 
+TEST_F(Wayland, KeepsTheSettingsWhereItsWindowsEndWithTheCompositorFirst) {
+    end();
+    session_.environment()["QT_QPA_PLATFORM"] = "wayland";
+    nocturo_ = session_.startNocturo();
+    ctl({"preferences"});
+    ctl({"effects", "add", "dim"});
+    sway_->kill();
+    EXPECT_EQ(nocturo_->wait(), 1);
+    EXPECT_NE(readText(session_.settingsFile()).find("NDDimEffect"), std::string::npos);
+}
+
 TEST_F(Wayland, EndsWithTheCompositorAndKeepsTheSettings) {
     EXPECT_TRUE(becomes("ii"));
     ctl({"effects", "add", "dim"});
