@@ -166,6 +166,26 @@ TEST_F(Kde, GivesTheProfileBackAfterKills) {
     EXPECT_TRUE(waitUntil([&] { return namesIn(state).empty(); }));
 }
 
+TEST_F(Kde, FollowsOutputsThatComeAndGoWithTheProfileThatTheyWereLeft) {
+    for (const Kind kind : {Kind::kwin, Kind::kwinWithRegistry}) {
+        const std::string own = calibrated(1);
+        startOn(kind, {{}, {.name = "DP-2", .path = own, .source = 1}});
+        ASSERT_TRUE(shows(reversed(calibration(1)), 1));
+        const auto left = kwin_->outputs().back();
+        kwin_->unplug();
+        EXPECT_TRUE(waitUntil([&] { return status()["displays"].size() == 1; }));
+        kwin_->plug({.name = "DP-3"});
+        EXPECT_TRUE(shows(reversed(identity()), 1));
+        kwin_->plug(left);
+        EXPECT_TRUE(shows(reversed(calibration(1)), 2));
+        kwin_->unplug();
+        ctl({"off"});
+        kwin_->plug(left); // KWin keeps what it had
+        EXPECT_TRUE(has(own, 1, 2));
+        end();
+    }
+}
+
 TEST_F(Kde, TellsOfOutputsThatShowNothing) {
     startOn(Kind::kwin, {{.takesProfiles = false}});
     EXPECT_EQ(obstacle(), "takes-no-profile");

@@ -21,7 +21,6 @@ namespace nocturo::rig {
 
 struct Compositor::State {
     struct Shown : Output {
-        State* state = nullptr;
         wl_global* global = nullptr;
         wl_global* device = nullptr;
         std::vector<wl_resource*> devices{};
@@ -39,6 +38,8 @@ struct Compositor::State {
     wl_display* display = nullptr;
     std::vector<std::unique_ptr<Shown>> outputs;
     std::vector<Configuration*> configurations; // that live
+    std::vector<wl_resource*> registries;
+    std::vector<std::unique_ptr<Shown>> unplugged;
     int asked = 0;
     int mostAtATime = 0;
     int wake = -1;
@@ -120,13 +121,21 @@ struct Compositor::State {
     static void bindRegistry(wl_client* client, void* data, std::uint32_t version,
                              std::uint32_t id) {
         auto* state = static_cast<State*>(data);
-        wl_resource* made =
-            resource(client, kOutputRegistryInterface, static_cast<int>(version), id, ignore, data);
+        wl_resource* made = resource(
+            client, kOutputRegistryInterface, static_cast<int>(version), id, ignore, data,
+            [](wl_resource* gone) {
+                std::erase(static_cast<State*>(wl_resource_get_user_data(gone))->registries, gone);
+            });
+        state->registries.push_back(made);
         for (const auto& output : state->outputs) {
-            wl_resource* announced = device(client, *output, static_cast<int>(version), 0);
-            wl_resource_post_event(made, kRegistryOutput, announced);
-            describeAll(*output, announced);
+            announce(*output, made);
         }
+    }
+    static void announce(Shown& output, wl_resource* registry) {
+        wl_resource* announced =
+            device(wl_resource_get_client(registry), output, wl_resource_get_version(registry), 0);
+        wl_resource_post_event(registry, kRegistryOutput, announced);
+        describeAll(output, announced);
     }
 
     static void bindManagement(wl_client* client, void* data, std::uint32_t version,
@@ -243,15 +252,34 @@ struct Compositor::State {
         return 0;
     }
 
-    void offer() {
-        for (const auto& output : outputs) {
-            output->global =
-                wl_global_create(display, &wl_output_interface, 4, output.get(), bindOutput);
-            if (kind == Kind::kwin) {
-                output->device = wl_global_create(display, &kOutputDeviceInterface, 18,
-                                                  output.get(), bindDevice);
+    void plug(Output output) {
+        auto& shown = outputs.emplace_back(std::make_unique<Shown>());
+        static_cast<Output&>(*shown) = std::move(output);
+        shown->global = wl_global_create(display, &wl_output_interface, 4, shown.get(), bindOutput);
+        if (kind == Kind::kwin) {
+            shown->device =
+                wl_global_create(display, &kOutputDeviceInterface, 18, shown.get(), bindDevice);
+        }
+        for (wl_resource* registry : registries) {
+            announce(*shown, registry);
+        }
+    }
+    void unplug() {
+        Shown& gone = *outputs.back();
+        wl_global_remove(gone.global);
+        if (gone.device != nullptr) {
+            wl_global_remove(gone.device);
+        }
+        for (wl_resource* device : gone.devices) {
+            if (kind == Kind::kwinWithRegistry) {
+                wl_resource_post_event(device, kDeviceRemoved);
             }
         }
+        unplugged.push_back(std::move(outputs.back())); // clients may ask it something still
+        outputs.pop_back();
+    }
+
+    void offer() {
         if (kind == Kind::kwinWithRegistry) {
             wl_global_create(display, &kOutputRegistryInterface, 21, this, bindRegistry);
         }
@@ -268,11 +296,7 @@ Compositor::Compositor(Kind kind, std::vector<Output> outputs, std::uint32_t gam
     : state_(std::make_unique<State>()) {
     state_->kind = kind;
     state_->gammaSize = gammaSize;
-    for (Output& output : outputs) {
-        auto& shown = state_->outputs.emplace_back(std::make_unique<State::Shown>());
-        static_cast<Output&>(*shown) = std::move(output);
-        shown->state = state_.get();
-    }
+
     state_->display = wl_display_create();
     const int listening = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_un address{};
@@ -285,6 +309,9 @@ Compositor::Compositor(Kind kind, std::vector<Output> outputs, std::uint32_t gam
     state_->wake = eventfd(0, EFD_CLOEXEC);
     wl_event_loop_add_fd(wl_display_get_event_loop(state_->display), state_->wake,
                          WL_EVENT_READABLE, State::act, state_.get());
+    for (Output& output : outputs) {
+        state_->plug(std::move(output));
+    }
     state_->offer();
     state_->thread = std::thread(wl_display_run, state_->display);
 }
@@ -331,6 +358,14 @@ void Compositor::change(const std::function<void(Output&)>& change, std::size_t 
         change(changed);
         State::set(*state_->outputs.at(output), changed);
     });
+}
+
+void Compositor::unplug() {
+    run([&] { state_->unplug(); });
+}
+
+void Compositor::plug(Output output) {
+    run([&] { state_->plug(std::move(output)); });
 }
 
 int Compositor::configurations() const {

@@ -55,6 +55,10 @@ class Compositor {
     /// As its user does in its settings; or else a monitor does.
     void change(const std::function<void(Output&)>& change, std::size_t output = 0);
 
+    /// Takes the last output away, or brings one.
+    void unplug();
+    void plug(Output output);
+
     /// Configurations so far, and the most that were under way at a time.
     int configurations() const;
     int mostAtATime() const;

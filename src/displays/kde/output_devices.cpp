@@ -58,9 +58,9 @@ struct OutputDevices::Device : OutputDevice {
         }
     }
 
-    OutputDevices* devices = nullptr;
-    std::uint32_t global = 0;     // 0 for one that the registry of devices announced
-    std::vector<wl_proxy*> modes; // announced, and of no use here
+    OutputDevices* devices = nullptr; // null once it has gone
+    std::uint32_t global = 0;         // 0 for one that the registry of devices announced
+    std::vector<wl_proxy*> modes;     // announced, and of no use here
     bool hdr = false;
     bool wideGamut = false;
     bool changed = false; // since the change was told
@@ -92,12 +92,14 @@ struct OutputDevices::Events {
     static int ofDevice(const void* /*implementation*/, void* proxy, std::uint32_t event,
                         const wl_message* /*message*/, wl_argument* arguments) {
         auto* device = static_cast<Device*>(wl_proxy_get_user_data(static_cast<wl_proxy*>(proxy)));
-        if (event == kDeviceRemoved) {
-            device->devices->remove([&](const Device& each) { return &each == device; });
-        } else if (event == kDeviceMode) {
+        if (event == kDeviceMode) {
             auto* mode = reinterpret_cast<wl_proxy*>(arguments[0].o);
             wl_proxy_add_dispatcher(mode, ofMode, nullptr, device);
             device->modes.push_back(mode);
+        } else if (device->devices == nullptr) {
+            return 0; // it has gone
+        } else if (event == kDeviceRemoved) {
+            device->devices->remove([&](const Device& each) { return &each == device; });
         } else if (event == kDeviceDone) {
             const bool isNew = !std::exchange(device->described, true);
             if (std::exchange(device->changed, false) || isNew) {
@@ -179,9 +181,17 @@ void OutputDevices::add(wl_proxy* proxy, std::uint32_t global) {
 }
 
 void OutputDevices::remove(const std::function<bool(const Device&)>& condition) {
-    if (std::erase_if(devices_, [&](const auto& device) { return condition(*device); }) != 0) {
-        noteChange();
+    const auto found = std::find_if(devices_.begin(), devices_.end(),
+                                    [&](const auto& device) { return condition(*device); });
+    if (found == devices_.end()) {
+        return;
     }
+    // Modes of it may still be on their way, and each has to be taken in, or the connection breaks.
+    std::shared_ptr<Device> departed = std::move(*found);
+    departed->devices = nullptr;
+    devices_.erase(found);
+    compositor_.afterAnswers([departed] {});
+    noteChange();
 }
 
 void OutputDevices::noteChange() {
