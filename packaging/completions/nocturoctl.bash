@@ -12,7 +12,7 @@ _nocturoctl_looks() {
 _nocturoctl() {
   local cur prev words cword
   _init_completion -n : || return
-  local verbs='on off toggle status effects temperature look get set reset screens hotkey watch restore quit
+  local verbs='on off toggle status effects dim temperature tint look get set step reset screens hotkey watch restore quit
     open save preferences about preview'
   local effects='invert overexposure dim color-filter hdtv-luminance'
   local switches='ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver
@@ -25,8 +25,8 @@ _nocturoctl() {
     choices="$verbs --help --version"
   else
     case ${words[1]}:$cword in
-      status:2) choices='--json' ;;
-      effects:2) choices='add remove only' ;;
+      status:2) choices='--all --json' ;;
+      effects:2) choices='add remove toggle only none' ;;
       effects:*) choices=$effects ;;
       look:*)
         [[ $cword != 2 ]] || choices='next previous back list save delete rename move'
@@ -40,10 +40,10 @@ _nocturoctl() {
           return
         fi
         ;;
-      get:2 | set:2 | reset:2) choices=$settings ;;
+      get:2 | set:2 | step:2 | reset:2) choices=$settings ;;
       set:3) [[ " $switches " != *[[:space:]]"$prev"[[:space:]]* ]] || choices='true false' ;;
-      screens:2) choices='all toggle' ;;
-      screens:3) [[ $prev != toggle ]] || choices=$(_nocturoctl_displays) ;;
+      screens:2) choices='all only add remove toggle' ;;
+      screens:*) [[ ${words[2]} == all ]] || choices=$(_nocturoctl_displays) ;;
       hotkey:2) choices='set none enable disable' ;;
       open:2 | save:2)
         _filedir nocturo
@@ -60,7 +60,7 @@ _nocturoctl() {
         esac
         ;;
     esac
-    if [[ $cur == -* && ' on toggle effects temperature look set reset screens open ' == *" ${words[1]} "* ]]; then
+    if [[ $cur == -* && ' on toggle effects dim temperature tint look set step reset screens open ' == *" ${words[1]} "* ]]; then
       choices='--keep --help'
     fi
     [[ $cur != -* || -n $choices ]] || choices='--help'

@@ -28,10 +28,13 @@ complete -c nocturoctl -n __fish_use_subcommand -a off -d 'Switch the effect off
 complete -c nocturoctl -n __fish_use_subcommand -a toggle -d 'Switch the effect on or off'
 complete -c nocturoctl -n __fish_use_subcommand -a status -d 'Show the state of everything'
 complete -c nocturoctl -n __fish_use_subcommand -a effects -d 'List or choose the effects'
+complete -c nocturoctl -n __fish_use_subcommand -a dim -d 'Dim or lighten'
+complete -c nocturoctl -n __fish_use_subcommand -a tint -d 'Choose the hue and vividness of the color filter'
 complete -c nocturoctl -n __fish_use_subcommand -a temperature -d 'Show or choose a color temperature'
 complete -c nocturoctl -n __fish_use_subcommand -a look -d 'Show, choose or keep a combination of effects'
 complete -c nocturoctl -n __fish_use_subcommand -a get -d 'Show a setting'
 complete -c nocturoctl -n __fish_use_subcommand -a set -d 'Change a setting'
+complete -c nocturoctl -n __fish_use_subcommand -a step -d 'Change a number by so much'
 complete -c nocturoctl -n __fish_use_subcommand -a reset -d 'Give a setting its default value again'
 complete -c nocturoctl -n __fish_use_subcommand -a screens -d 'List or choose the affected displays'
 complete -c nocturoctl -n __fish_use_subcommand -a hotkey -d 'Show or choose the global hot key'
@@ -44,9 +47,10 @@ complete -c nocturoctl -n __fish_use_subcommand -a preferences -d 'Show the pref
 complete -c nocturoctl -n __fish_use_subcommand -a about -d 'Show the box about Nocturo'
 complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a display shows into a picture'
 
-complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects temperature look set reset screens open' -l keep -d 'Keep the colors even if hard to read'
+complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects dim temperature tint look set step reset screens open' -l keep -d 'Keep the colors even if hard to read'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'
-complete -c nocturoctl -n '__nocturoctl_at effects 0' -a 'add remove only'
+complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l all -d 'Every setting as well'
+complete -c nocturoctl -n '__nocturoctl_at effects 0' -a 'add remove toggle only none'
 complete -c nocturoctl -n '__fish_seen_subcommand_from effects; and not __nocturoctl_at effects 0' -a "$effects"
 complete -c nocturoctl -n '__nocturoctl_at look 0' -a 'next previous back list save delete rename move'
 complete -c nocturoctl -n '__nocturoctl_at look 0' -a '(__nocturoctl_looks)'
@@ -54,14 +58,14 @@ for how in delete rename move
     complete -c nocturoctl -n "__nocturoctl_after look $how" -a '(__nocturoctl_looks)'
 end
 complete -c nocturoctl -n '__nocturoctl_after look list' -l json -d 'One list for programs'
-for verb in get set reset
+for verb in get set step reset
     complete -c nocturoctl -n "__nocturoctl_at $verb 0" -a "$settings"
 end
 for setting in $switches
     complete -c nocturoctl -n "__nocturoctl_after set $setting" -a 'true false'
 end
-complete -c nocturoctl -n '__nocturoctl_at screens 0' -a 'all toggle'
-complete -c nocturoctl -n '__nocturoctl_after screens toggle' -a '(__nocturoctl_displays)'
+complete -c nocturoctl -n '__nocturoctl_at screens 0' -a 'all only add remove toggle'
+complete -c nocturoctl -n '__fish_seen_subcommand_from screens; and __fish_seen_subcommand_from only add remove toggle' -a '(__nocturoctl_displays)'
 complete -c nocturoctl -n '__nocturoctl_at hotkey 0' -a 'set none enable disable'
 complete -c nocturoctl -n '__nocturoctl_at open 0' -k -a '(__fish_complete_suffix .nocturo)'
 complete -c nocturoctl -n '__nocturoctl_at save 0' -k -a '(__fish_complete_suffix .nocturo)'

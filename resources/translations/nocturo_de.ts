@@ -291,10 +291,6 @@
             <translation>Keine</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
             <source>Invert</source>
             <translation>Invertieren</translation>
         </message>
@@ -325,6 +321,10 @@
         <message>
             <source>screens that are not connected</source>
             <translation>nicht angeschlossenen Bildschirmen</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
         </message>
         <message>
             <source>Paused: screen saver</source>
@@ -379,6 +379,10 @@
             <translation>Farbton und Sättigung des Farbfilters ergeben keine Farbtemperatur.</translation>
         </message>
         <message>
+            <source>"%@" is no setting that goes in steps.</source>
+            <translation>„%@“ ist keine Einstellung, die in Schritten geht.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo wartet auf die Antwort auf die Frage, die es zeigt.</translation>
         </message>
@@ -411,8 +415,8 @@
             <translation>Nocturo hat es nicht ausgeführt: %@</translation>
         </message>
         <message>
-            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
-            <translation>Eine Einstellung „%@“ gibt es nicht; nocturoctl status nennt alle.</translation>
+            <source>There is no setting "%@"; nocturoctl status --all lists them.</source>
+            <translation>Eine Einstellung „%@“ gibt es nicht; nocturoctl status --all nennt alle.</translation>
         </message>
         <message>
             <source>No hot key is chosen.</source>
@@ -427,12 +431,12 @@
             <translation>%@  (nicht wirksam: Ein anderes Programm belegt es, oder der Desktop bietet keine Tastenkürzel)</translation>
         </message>
         <message>
-            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
-            <translation>Einen Bildschirm „%@“ gibt es nicht; nocturoctl screens nennt ihre Nummern, Namen und Kennungen.</translation>
-        </message>
-        <message>
             <source>Name a file.</source>
             <translation>Nennen Sie eine Datei.</translation>
+        </message>
+        <message>
+            <source>There is no such file: %@</source>
+            <translation>Diese Datei gibt es nicht: %@</translation>
         </message>
         <message>
             <source>No display is online.</source>
@@ -471,8 +475,8 @@
             <translation>Den Zustand von allem zeigen</translation>
         </message>
         <message>
-            <source>With --json, one object for programs.</source>
-            <translation>Mit --json als ein Objekt für Programme.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs.</source>
+            <translation>Mit --all auch jede Einstellung; mit --json als ein Objekt für Programme.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -480,9 +484,29 @@
         </message>
         <message>
             <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
-name. add and remove change the selection, only replaces it.</source>
+name. add, remove and toggle change the selection, only replaces it.</source>
             <translation>NAME ist invert, overexposure, dim, color-filter oder hdtv-luminance oder der Name
-einer Klasse. add und remove ändern die Auswahl, only ersetzt sie.</translation>
+einer Klasse. add, remove und toggle ändern die Auswahl, only ersetzt sie.</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Abdunkeln oder aufhellen</translation>
+        </message>
+        <message>
+            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
+lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
+            <translation>N% macht das Bild um so viel dunkler, als es von selbst ist; +N% und -N% machen es
+heller und dunkler als jetzt. LEVEL ist, was das Fenster zeigt, -100 bis 100.</translation>
+        </message>
+        <message>
+            <source>Choose the color filter's hue and vividness</source>
+            <translation>Farbton und Sättigung des Farbfilters wählen</translation>
+        </message>
+        <message>
+            <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
+what is there.</source>
+            <translation>HUE ist in Grad: 0 rot, 25 orange, 120 grün, 240 blau. +N und -N gehen von dem aus,
+was da ist.</translation>
         </message>
         <message>
             <source>Show or choose a color temperature</source>
@@ -515,8 +539,8 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
             <translation>Eine Einstellung zeigen</translation>
         </message>
         <message>
-            <source>nocturoctl status lists the keys.</source>
-            <translation>nocturoctl status nennt die Schlüssel.</translation>
+            <source>nocturoctl status --all lists the keys.</source>
+            <translation>nocturoctl status --all nennt die Schlüssel.</translation>
         </message>
         <message>
             <source>Change a setting</source>
@@ -524,9 +548,19 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
-For example: nocturoctl set NDDimEffectLevel -0.3</source>
+For example: nocturoctl set NDDimEffectLevel -30%. Numbers beyond the range and displays
+that are not there are refused without --force.</source>
             <translation>VALUE ist true oder false, eine Zahl oder eine Liste mit Kommas, je nach Einstellung.
-Zum Beispiel: nocturoctl set NDDimEffectLevel -0.3</translation>
+Zum Beispiel: nocturoctl set NDDimEffectLevel -30%. Zahlen außerhalb des Bereichs und
+Bildschirme, die es nicht gibt, werden ohne --force abgelehnt.</translation>
+        </message>
+        <message>
+            <source>Change a number by so much</source>
+            <translation>Eine Zahl um so viel ändern</translation>
+        </message>
+        <message>
+            <source>As far as its range goes. For example: nocturoctl step NDDimEffectLevel -5%</source>
+            <translation>So weit ihr Bereich reicht. Zum Beispiel: nocturoctl step NDDimEffectLevel -5%</translation>
         </message>
         <message>
             <source>Give a setting its default value again</source>
@@ -537,10 +571,12 @@ Zum Beispiel: nocturoctl set NDDimEffectLevel -0.3</translation>
             <translation>Die betroffenen Bildschirme auflisten oder wählen</translation>
         </message>
         <message>
-            <source>toggle puts a display into the set of affected displays or takes it out. An empty
-set means all displays, which is also what all chooses.</source>
-            <translation>toggle nimmt einen Bildschirm in die Menge der betroffenen auf oder aus ihr heraus.
-Eine leere Menge heißt alle Bildschirme; das wählt auch all.</translation>
+            <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
+alone; toggle puts each into the set of affected displays or takes it out. An
+empty set means all displays, which is also what all chooses.</source>
+            <translation>DISPLAY ist die Nummer in der Liste, der Name oder die Kennung. only wählt nur diese;
+toggle nimmt jeden in die Menge der betroffenen auf oder aus ihr heraus. Eine leere
+Menge heißt alle Bildschirme; das wählt auch all.</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -603,6 +639,14 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
         <message>
             <source>%@  (the color filter is not chosen)</source>
             <translation>%@  (der Farbfilter ist nicht gewählt)</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>„%1$@“ nimmt eine Zahl von %2$@ bis %3$@.</translation>
+        </message>
+        <message>
+            <source>%@  (dim is not chosen)</source>
+            <translation>%@  (Abdunkeln ist nicht gewählt)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -687,20 +731,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ ändert die Farben ebenfalls: %d-mal bemerkt, seit Nocturo gestartet wurde.</translation>
         </message>
         <message>
-            <source>effect</source>
-            <translation>Effekt</translation>
-        </message>
-        <message>
-            <source>on</source>
-            <translation>ein</translation>
-        </message>
-        <message>
-            <source>off</source>
-            <translation>aus</translation>
-        </message>
-        <message>
-            <source>selected</source>
-            <translation>gewählt</translation>
+            <source>look</source>
+            <translation>Look</translation>
         </message>
         <message>
             <source>dim level</source>
@@ -801,6 +833,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Der Compositor %@ antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Ein Bildschirm muss bleiben, denn keiner heißt alle; nocturoctl off schaltet den Effekt aus.</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>Einen Bildschirm „%@“ gibt es nicht; nocturoctl screens nennt ihre Nummern, Namen und Kennungen.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1463,10 +1503,6 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
         <message>
             <source>"%@" takes a list of display identifiers.</source>
             <translation>„%@“ nimmt eine Liste von Bildschirmkennungen.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
-            <translation>„%1$@“ nimmt eine Zahl von %2$@ bis %3$@.</translation>
         </message>
     </context>
     <context>

@@ -291,10 +291,6 @@
             <translation>Ninguna</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
             <source>Invert</source>
             <translation>Invertir</translation>
         </message>
@@ -325,6 +321,10 @@
         <message>
             <source>screens that are not connected</source>
             <translation>pantallas que no están conectadas</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
         </message>
         <message>
             <source>Paused: screen saver</source>
@@ -379,6 +379,10 @@
             <translation>El tono y la viveza del filtro de color no corresponden a ninguna temperatura.</translation>
         </message>
         <message>
+            <source>"%@" is no setting that goes in steps.</source>
+            <translation>«%@» no es un ajuste que vaya por pasos.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo espera la respuesta a la pregunta que muestra.</translation>
         </message>
@@ -411,8 +415,8 @@
             <translation>Nocturo no lo hizo: %@</translation>
         </message>
         <message>
-            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
-            <translation>No existe el ajuste «%@»; nocturoctl status los enumera todos.</translation>
+            <source>There is no setting "%@"; nocturoctl status --all lists them.</source>
+            <translation>No existe el ajuste «%@»; nocturoctl status --all los enumera.</translation>
         </message>
         <message>
             <source>No hot key is chosen.</source>
@@ -427,12 +431,12 @@
             <translation>%@  (sin efecto: otro programa lo usa, o el escritorio no ofrece atajos)</translation>
         </message>
         <message>
-            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
-            <translation>No existe la pantalla «%@»; nocturoctl screens muestra sus números, nombres e identificadores.</translation>
-        </message>
-        <message>
             <source>Name a file.</source>
             <translation>Indique un archivo.</translation>
+        </message>
+        <message>
+            <source>There is no such file: %@</source>
+            <translation>No existe ese archivo: %@</translation>
         </message>
         <message>
             <source>No display is online.</source>
@@ -471,8 +475,8 @@
             <translation>Mostrar el estado de todo</translation>
         </message>
         <message>
-            <source>With --json, one object for programs.</source>
-            <translation>Con --json, un objeto para programas.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs.</source>
+            <translation>Con --all, también cada ajuste; con --json, un objeto para programas.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -480,9 +484,29 @@
         </message>
         <message>
             <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
-name. add and remove change the selection, only replaces it.</source>
+name. add, remove and toggle change the selection, only replaces it.</source>
             <translation>NAME es invert, overexposure, dim, color-filter o hdtv-luminance, o el nombre de una
-clase. add y remove modifican la selección, only la sustituye.</translation>
+clase. add, remove y toggle modifican la selección, only la sustituye.</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Oscurecer o aclarar</translation>
+        </message>
+        <message>
+            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
+lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
+            <translation>N% oscurece la imagen esa parte respecto de cómo es; +N% y -N% la aclaran y oscurecen
+respecto de ahora. LEVEL es lo que muestra la ventana, de -100 a 100.</translation>
+        </message>
+        <message>
+            <source>Choose the color filter's hue and vividness</source>
+            <translation>Elegir el tono y la viveza del filtro de color</translation>
+        </message>
+        <message>
+            <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
+what is there.</source>
+            <translation>HUE va en grados: 0 rojo, 25 naranja, 120 verde, 240 azul. +N y -N parten de lo
+que hay.</translation>
         </message>
         <message>
             <source>Show or choose a color temperature</source>
@@ -515,8 +539,8 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
             <translation>Mostrar un ajuste</translation>
         </message>
         <message>
-            <source>nocturoctl status lists the keys.</source>
-            <translation>nocturoctl status enumera las claves.</translation>
+            <source>nocturoctl status --all lists the keys.</source>
+            <translation>nocturoctl status --all enumera las claves.</translation>
         </message>
         <message>
             <source>Change a setting</source>
@@ -524,9 +548,19 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
-For example: nocturoctl set NDDimEffectLevel -0.3</source>
+For example: nocturoctl set NDDimEffectLevel -30%. Numbers beyond the range and displays
+that are not there are refused without --force.</source>
             <translation>VALUE es true o false, un número o una lista con comas, según el ajuste.
-Por ejemplo: nocturoctl set NDDimEffectLevel -0.3</translation>
+Por ejemplo: nocturoctl set NDDimEffectLevel -30%. Los números fuera del rango y las
+pantallas que no existen se rechazan sin --force.</translation>
+        </message>
+        <message>
+            <source>Change a number by so much</source>
+            <translation>Cambiar un número en esa cantidad</translation>
+        </message>
+        <message>
+            <source>As far as its range goes. For example: nocturoctl step NDDimEffectLevel -5%</source>
+            <translation>Hasta donde llega su rango. Por ejemplo: nocturoctl step NDDimEffectLevel -5%</translation>
         </message>
         <message>
             <source>Give a setting its default value again</source>
@@ -537,10 +571,12 @@ Por ejemplo: nocturoctl set NDDimEffectLevel -0.3</translation>
             <translation>Enumerar o elegir las pantallas afectadas</translation>
         </message>
         <message>
-            <source>toggle puts a display into the set of affected displays or takes it out. An empty
-set means all displays, which is also what all chooses.</source>
-            <translation>toggle pone una pantalla en el conjunto de las afectadas o la quita de él. Un
-conjunto vacío significa todas las pantallas, que es también lo que elige all.</translation>
+            <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
+alone; toggle puts each into the set of affected displays or takes it out. An
+empty set means all displays, which is also what all chooses.</source>
+            <translation>DISPLAY es su número en la lista, su nombre o su identificador. only elige solo estas;
+toggle pone cada una en el conjunto de las afectadas o la quita de él. Un conjunto
+vacío significa todas las pantallas, que es también lo que elige all.</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -603,6 +639,14 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
         <message>
             <source>%@  (the color filter is not chosen)</source>
             <translation>%@  (el filtro de color no está elegido)</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>«%1$@» admite un número de %2$@ a %3$@.</translation>
+        </message>
+        <message>
+            <source>%@  (dim is not chosen)</source>
+            <translation>%@  (oscurecer no está elegido)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -687,20 +731,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ también cambia los colores: detectado %d veces desde que se inició Nocturo.</translation>
         </message>
         <message>
-            <source>effect</source>
-            <translation>efecto</translation>
-        </message>
-        <message>
-            <source>on</source>
-            <translation>activado</translation>
-        </message>
-        <message>
-            <source>off</source>
-            <translation>desactivado</translation>
-        </message>
-        <message>
-            <source>selected</source>
-            <translation>elegidos</translation>
+            <source>look</source>
+            <translation>aspecto</translation>
         </message>
         <message>
             <source>dim level</source>
@@ -801,6 +833,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>El compositor %@ no responde.</translation>
+        </message>
+        <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Tiene que quedar una pantalla, pues no elegir ninguna significa todas; nocturoctl off desactiva el efecto.</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>No existe la pantalla «%@»; nocturoctl screens muestra sus números, nombres e identificadores.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1463,10 +1503,6 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
         <message>
             <source>"%@" takes a list of display identifiers.</source>
             <translation>«%@» admite una lista de identificadores de pantalla.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
-            <translation>«%1$@» admite un número de %2$@ a %3$@.</translation>
         </message>
     </context>
     <context>

@@ -291,10 +291,6 @@
             <translation>Aucun</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
             <source>Invert</source>
             <translation>Inverser</translation>
         </message>
@@ -325,6 +321,10 @@
         <message>
             <source>screens that are not connected</source>
             <translation>des écrans qui ne sont pas connectés</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
         </message>
         <message>
             <source>Paused: screen saver</source>
@@ -379,6 +379,10 @@
             <translation>La teinte et la vivacité du filtre coloré ne correspondent à aucune température.</translation>
         </message>
         <message>
+            <source>"%@" is no setting that goes in steps.</source>
+            <translation>« %@ » n’est pas un réglage qui va par pas.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo attend la réponse à la question qu’il affiche.</translation>
         </message>
@@ -411,8 +415,8 @@
             <translation>Nocturo ne l’a pas fait : %@</translation>
         </message>
         <message>
-            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
-            <translation>Le réglage « %@ » n’existe pas ; nocturoctl status les énumère tous.</translation>
+            <source>There is no setting "%@"; nocturoctl status --all lists them.</source>
+            <translation>Le réglage « %@ » n’existe pas ; nocturoctl status --all les énumère.</translation>
         </message>
         <message>
             <source>No hot key is chosen.</source>
@@ -427,12 +431,12 @@
             <translation>%@  (sans effet : un autre programme l’utilise, ou le bureau n’offre pas de raccourcis)</translation>
         </message>
         <message>
-            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
-            <translation>L’écran « %@ » n’existe pas ; nocturoctl screens donne leurs numéros, noms et identifiants.</translation>
-        </message>
-        <message>
             <source>Name a file.</source>
             <translation>Indiquez un fichier.</translation>
+        </message>
+        <message>
+            <source>There is no such file: %@</source>
+            <translation>Ce fichier n’existe pas : %@</translation>
         </message>
         <message>
             <source>No display is online.</source>
@@ -471,8 +475,8 @@
             <translation>Afficher l’état de tout</translation>
         </message>
         <message>
-            <source>With --json, one object for programs.</source>
-            <translation>Avec --json, un objet pour les programmes.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs.</source>
+            <translation>Avec --all, chaque réglage aussi ; avec --json, un objet pour les programmes.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -480,9 +484,29 @@
         </message>
         <message>
             <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
-name. add and remove change the selection, only replaces it.</source>
+name. add, remove and toggle change the selection, only replaces it.</source>
             <translation>NAME est invert, overexposure, dim, color-filter ou hdtv-luminance, ou un nom de
-classe. add et remove modifient le choix, only le remplace.</translation>
+classe. add, remove et toggle modifient le choix, only le remplace.</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Assombrir ou éclaircir</translation>
+        </message>
+        <message>
+            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
+lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
+            <translation>N% assombrit l’image d’autant par rapport à elle-même ; +N% et -N% l’éclaircissent et
+l’assombrissent par rapport à maintenant. LEVEL est ce que montre la fenêtre, -100 à 100.</translation>
+        </message>
+        <message>
+            <source>Choose the color filter's hue and vividness</source>
+            <translation>Choisir la teinte et la vivacité du filtre coloré</translation>
+        </message>
+        <message>
+            <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
+what is there.</source>
+            <translation>HUE est en degrés : 0 rouge, 25 orange, 120 vert, 240 bleu. +N et -N partent de ce
+qui est là.</translation>
         </message>
         <message>
             <source>Show or choose a color temperature</source>
@@ -515,8 +539,8 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
             <translation>Afficher un réglage</translation>
         </message>
         <message>
-            <source>nocturoctl status lists the keys.</source>
-            <translation>nocturoctl status énumère les clés.</translation>
+            <source>nocturoctl status --all lists the keys.</source>
+            <translation>nocturoctl status --all énumère les clés.</translation>
         </message>
         <message>
             <source>Change a setting</source>
@@ -524,9 +548,19 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
-For example: nocturoctl set NDDimEffectLevel -0.3</source>
+For example: nocturoctl set NDDimEffectLevel -30%. Numbers beyond the range and displays
+that are not there are refused without --force.</source>
             <translation>VALUE est true ou false, un nombre ou une liste à virgules, selon le réglage.
-Par exemple : nocturoctl set NDDimEffectLevel -0.3</translation>
+Par exemple : nocturoctl set NDDimEffectLevel -30%. Les nombres hors de la plage et les
+écrans absents sont refusés sans --force.</translation>
+        </message>
+        <message>
+            <source>Change a number by so much</source>
+            <translation>Changer un nombre d’autant</translation>
+        </message>
+        <message>
+            <source>As far as its range goes. For example: nocturoctl step NDDimEffectLevel -5%</source>
+            <translation>Aussi loin que va sa plage. Par exemple : nocturoctl step NDDimEffectLevel -5%</translation>
         </message>
         <message>
             <source>Give a setting its default value again</source>
@@ -537,9 +571,11 @@ Par exemple : nocturoctl set NDDimEffectLevel -0.3</translation>
             <translation>Énumérer ou choisir les écrans concernés</translation>
         </message>
         <message>
-            <source>toggle puts a display into the set of affected displays or takes it out. An empty
-set means all displays, which is also what all chooses.</source>
-            <translation>toggle met un écran dans l’ensemble des écrans concernés ou l’en retire. Un
+            <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
+alone; toggle puts each into the set of affected displays or takes it out. An
+empty set means all displays, which is also what all chooses.</source>
+            <translation>DISPLAY est son numéro dans la liste, son nom ou son identifiant. only ne choisit que
+ceux-là ; toggle met chacun dans l’ensemble des écrans concernés ou l’en retire. Un
 ensemble vide signifie tous les écrans, ce que choisit aussi all.</translation>
         </message>
         <message>
@@ -603,6 +639,14 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
         <message>
             <source>%@  (the color filter is not chosen)</source>
             <translation>%@  (le filtre coloré n’est pas choisi)</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>« %1$@ » attend un nombre de %2$@ à %3$@.</translation>
+        </message>
+        <message>
+            <source>%@  (dim is not chosen)</source>
+            <translation>%@  (assombrir n’est pas choisi)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -687,20 +731,8 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>%@ change aussi les couleurs : constaté %d fois depuis le démarrage de Nocturo.</translation>
         </message>
         <message>
-            <source>effect</source>
-            <translation>effet</translation>
-        </message>
-        <message>
-            <source>on</source>
-            <translation>activé</translation>
-        </message>
-        <message>
-            <source>off</source>
-            <translation>désactivé</translation>
-        </message>
-        <message>
-            <source>selected</source>
-            <translation>choisis</translation>
+            <source>look</source>
+            <translation>apparence</translation>
         </message>
         <message>
             <source>dim level</source>
@@ -801,6 +833,14 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Le compositeur %@ ne répond pas.</translation>
+        </message>
+        <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Il doit rester un écran, car n’en choisir aucun signifie tous ; nocturoctl off désactive l’effet.</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>L’écran « %@ » n’existe pas ; nocturoctl screens donne leurs numéros, noms et identifiants.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1463,10 +1503,6 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
         <message>
             <source>"%@" takes a list of display identifiers.</source>
             <translation>« %@ » attend une liste d’identifiants d’écrans.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
-            <translation>« %1$@ » attend un nombre de %2$@ à %3$@.</translation>
         </message>
     </context>
     <context>

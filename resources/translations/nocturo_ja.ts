@@ -291,10 +291,6 @@
             <translation>なし</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
             <source>Invert</source>
             <translation>反転</translation>
         </message>
@@ -325,6 +321,10 @@
         <message>
             <source>screens that are not connected</source>
             <translation>接続されていない画面</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
         </message>
         <message>
             <source>Paused: screen saver</source>
@@ -379,6 +379,10 @@
             <translation>カラーフィルターの色相と鮮やかさに対応する色温度はありません。</translation>
         </message>
         <message>
+            <source>"%@" is no setting that goes in steps.</source>
+            <translation>「%@」は増減できる設定ではありません。</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo は表示している質問への回答を待っています。</translation>
         </message>
@@ -411,8 +415,8 @@
             <translation>Nocturo は実行できませんでした: %@</translation>
         </message>
         <message>
-            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
-            <translation>「%@」という設定はありません。nocturoctl status ですべて表示できます。</translation>
+            <source>There is no setting "%@"; nocturoctl status --all lists them.</source>
+            <translation>「%@」という設定はありません。nocturoctl status --all ですべて表示できます。</translation>
         </message>
         <message>
             <source>No hot key is chosen.</source>
@@ -427,12 +431,12 @@
             <translation>%@  (機能していません: ほかのプログラムが使用中か、デスクトップがショートカットキーに対応していません)</translation>
         </message>
         <message>
-            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
-            <translation>「%@」という画面はありません。番号、名前、識別子は nocturoctl screens で表示できます。</translation>
-        </message>
-        <message>
             <source>Name a file.</source>
             <translation>ファイルを指定してください。</translation>
+        </message>
+        <message>
+            <source>There is no such file: %@</source>
+            <translation>そのファイルはありません: %@</translation>
         </message>
         <message>
             <source>No display is online.</source>
@@ -471,8 +475,8 @@
             <translation>すべての状態を表示する</translation>
         </message>
         <message>
-            <source>With --json, one object for programs.</source>
-            <translation>--json を付けると、プログラム向けの 1 つのオブジェクトになります。</translation>
+            <source>With --all, every setting as well; with --json, one object for programs.</source>
+            <translation>--all を付けるとすべての設定も、--json を付けるとプログラム向けのオブジェクトを表示します。</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -480,9 +484,28 @@
         </message>
         <message>
             <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
-name. add and remove change the selection, only replaces it.</source>
+name. add, remove and toggle change the selection, only replaces it.</source>
             <translation>NAME は invert、overexposure、dim、color-filter、hdtv-luminance、またはクラス名です。
-add と remove は選択に加除し、only は選択を置き換えます。</translation>
+add、remove、toggle は選択を変更し、only は選択を置き換えます。</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>暗くする・明るくする</translation>
+        </message>
+        <message>
+            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
+lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
+            <translation>N% は元の画像よりその分だけ暗くします。+N% と -N% は今より明るく、暗くします。
+LEVEL はウィンドウに表示される値で、-100～100 です。</translation>
+        </message>
+        <message>
+            <source>Choose the color filter's hue and vividness</source>
+            <translation>カラーフィルターの色相と鮮やかさを選択する</translation>
+        </message>
+        <message>
+            <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
+what is there.</source>
+            <translation>HUE は度です: 0 赤、25 オレンジ、120 緑、240 青。+N と -N は今の値から増減します。</translation>
         </message>
         <message>
             <source>Show or choose a color temperature</source>
@@ -515,8 +538,8 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
             <translation>設定を表示する</translation>
         </message>
         <message>
-            <source>nocturoctl status lists the keys.</source>
-            <translation>キーは nocturoctl status で表示できます。</translation>
+            <source>nocturoctl status --all lists the keys.</source>
+            <translation>キーは nocturoctl status --all で表示できます。</translation>
         </message>
         <message>
             <source>Change a setting</source>
@@ -524,9 +547,19 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
-For example: nocturoctl set NDDimEffectLevel -0.3</source>
+For example: nocturoctl set NDDimEffectLevel -30%. Numbers beyond the range and displays
+that are not there are refused without --force.</source>
             <translation>VALUE は設定に応じて、true か false、数値、またはコンマ区切りのリストです。
-例: nocturoctl set NDDimEffectLevel -0.3</translation>
+例: nocturoctl set NDDimEffectLevel -30%。範囲外の数値と存在しない画面は、--force を
+付けないと拒否されます。</translation>
+        </message>
+        <message>
+            <source>Change a number by so much</source>
+            <translation>数値を増減する</translation>
+        </message>
+        <message>
+            <source>As far as its range goes. For example: nocturoctl step NDDimEffectLevel -5%</source>
+            <translation>範囲の端までです。例: nocturoctl step NDDimEffectLevel -5%</translation>
         </message>
         <message>
             <source>Give a setting its default value again</source>
@@ -537,10 +570,12 @@ For example: nocturoctl set NDDimEffectLevel -0.3</source>
             <translation>対象の画面を一覧表示または選択する</translation>
         </message>
         <message>
-            <source>toggle puts a display into the set of affected displays or takes it out. An empty
-set means all displays, which is also what all chooses.</source>
-            <translation>toggle は画面を対象に加えたり、対象から外したりします。対象が空のときは
-すべての画面を意味し、all を選んだときも同じです。</translation>
+            <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
+alone; toggle puts each into the set of affected displays or takes it out. An
+empty set means all displays, which is also what all chooses.</source>
+            <translation>DISPLAY は一覧の番号、名前、または識別子です。only はそれだけを選びます。toggle は
+それぞれを対象に加えたり、対象から外したりします。対象が空のときはすべての画面を
+意味し、all を選んだときも同じです。</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -603,6 +638,14 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>%@  (the color filter is not chosen)</source>
             <translation>%@  (カラーフィルターは選択されていません)</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>「%1$@」には %2$@ から %3$@ までの数値を指定してください。</translation>
+        </message>
+        <message>
+            <source>%@  (dim is not chosen)</source>
+            <translation>%@  (「暗くする」は選択されていません)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -687,20 +730,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@も色を変更しています: Nocturo の起動後に %d 回検出しました。</translation>
         </message>
         <message>
-            <source>effect</source>
-            <translation>効果</translation>
-        </message>
-        <message>
-            <source>on</source>
-            <translation>オン</translation>
-        </message>
-        <message>
-            <source>off</source>
-            <translation>オフ</translation>
-        </message>
-        <message>
-            <source>selected</source>
-            <translation>選択中</translation>
+            <source>look</source>
+            <translation>ルック</translation>
         </message>
         <message>
             <source>dim level</source>
@@ -801,6 +832,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>コンポジター %@ が応答しません。</translation>
+        </message>
+        <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>画面を 1 つは残す必要があります。何も選ばないとすべてを意味します。効果をオフにするには nocturoctl off を使います。</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>「%@」という画面はありません。番号、名前、識別子は nocturoctl screens で表示できます。</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1463,10 +1502,6 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>"%@" takes a list of display identifiers.</source>
             <translation>「%@」には画面の識別子のリストを指定します。</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
-            <translation>「%1$@」には %2$@ から %3$@ までの数値を指定してください。</translation>
         </message>
     </context>
     <context>

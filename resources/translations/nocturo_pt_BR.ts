@@ -291,10 +291,6 @@
             <translation>Nenhuma</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
             <source>Invert</source>
             <translation>Inverter</translation>
         </message>
@@ -325,6 +321,10 @@
         <message>
             <source>screens that are not connected</source>
             <translation>telas que não estão conectadas</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
         </message>
         <message>
             <source>Paused: screen saver</source>
@@ -379,6 +379,10 @@
             <translation>O matiz e a vividez do filtro de cor não correspondem a nenhuma temperatura.</translation>
         </message>
         <message>
+            <source>"%@" is no setting that goes in steps.</source>
+            <translation>“%@” não é uma configuração que vá por passos.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>O Nocturo espera a resposta à pergunta que está mostrando.</translation>
         </message>
@@ -411,8 +415,8 @@
             <translation>O Nocturo não fez isso: %@</translation>
         </message>
         <message>
-            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
-            <translation>Não existe a configuração “%@”; nocturoctl status lista todas.</translation>
+            <source>There is no setting "%@"; nocturoctl status --all lists them.</source>
+            <translation>Não existe a configuração “%@”; nocturoctl status --all lista todas.</translation>
         </message>
         <message>
             <source>No hot key is chosen.</source>
@@ -427,12 +431,12 @@
             <translation>%@  (sem efeito: outro programa o usa, ou o ambiente não oferece atalhos)</translation>
         </message>
         <message>
-            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
-            <translation>Não existe a tela “%@”; nocturoctl screens lista números, nomes e identificadores.</translation>
-        </message>
-        <message>
             <source>Name a file.</source>
             <translation>Indique um arquivo.</translation>
+        </message>
+        <message>
+            <source>There is no such file: %@</source>
+            <translation>Esse arquivo não existe: %@</translation>
         </message>
         <message>
             <source>No display is online.</source>
@@ -471,8 +475,8 @@
             <translation>Mostrar o estado de tudo</translation>
         </message>
         <message>
-            <source>With --json, one object for programs.</source>
-            <translation>Com --json, um objeto para programas.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs.</source>
+            <translation>Com --all, também cada configuração; com --json, um objeto para programas.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -480,9 +484,29 @@
         </message>
         <message>
             <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
-name. add and remove change the selection, only replaces it.</source>
+name. add, remove and toggle change the selection, only replaces it.</source>
             <translation>NAME é invert, overexposure, dim, color-filter ou hdtv-luminance, ou o nome de uma
-classe. add e remove alteram a seleção, only a substitui.</translation>
+classe. add, remove e toggle alteram a seleção, only a substitui.</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Escurecer ou clarear</translation>
+        </message>
+        <message>
+            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
+lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
+            <translation>N% escurece a imagem nessa medida em relação a como é; +N% e -N% clareiam e escurecem
+em relação a agora. LEVEL é o que a janela mostra, de -100 a 100.</translation>
+        </message>
+        <message>
+            <source>Choose the color filter's hue and vividness</source>
+            <translation>Escolher o matiz e a vividez do filtro de cor</translation>
+        </message>
+        <message>
+            <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
+what is there.</source>
+            <translation>HUE é em graus: 0 vermelho, 25 laranja, 120 verde, 240 azul. +N e -N partem do que
+está lá.</translation>
         </message>
         <message>
             <source>Show or choose a color temperature</source>
@@ -515,8 +539,8 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
             <translation>Mostrar uma configuração</translation>
         </message>
         <message>
-            <source>nocturoctl status lists the keys.</source>
-            <translation>nocturoctl status lista as chaves.</translation>
+            <source>nocturoctl status --all lists the keys.</source>
+            <translation>nocturoctl status --all lista as chaves.</translation>
         </message>
         <message>
             <source>Change a setting</source>
@@ -524,9 +548,19 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
-For example: nocturoctl set NDDimEffectLevel -0.3</source>
+For example: nocturoctl set NDDimEffectLevel -30%. Numbers beyond the range and displays
+that are not there are refused without --force.</source>
             <translation>VALUE é true ou false, um número ou uma lista com vírgulas, conforme a configuração.
-Por exemplo: nocturoctl set NDDimEffectLevel -0.3</translation>
+Por exemplo: nocturoctl set NDDimEffectLevel -30%. Números fora da faixa e telas que não
+existem são recusados sem --force.</translation>
+        </message>
+        <message>
+            <source>Change a number by so much</source>
+            <translation>Alterar um número nessa medida</translation>
+        </message>
+        <message>
+            <source>As far as its range goes. For example: nocturoctl step NDDimEffectLevel -5%</source>
+            <translation>Até onde vai sua faixa. Por exemplo: nocturoctl step NDDimEffectLevel -5%</translation>
         </message>
         <message>
             <source>Give a setting its default value again</source>
@@ -537,9 +571,11 @@ Por exemplo: nocturoctl set NDDimEffectLevel -0.3</translation>
             <translation>Listar ou escolher as telas afetadas</translation>
         </message>
         <message>
-            <source>toggle puts a display into the set of affected displays or takes it out. An empty
-set means all displays, which is also what all chooses.</source>
-            <translation>toggle põe uma tela no conjunto das telas afetadas ou a retira dele. Um conjunto
+            <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
+alone; toggle puts each into the set of affected displays or takes it out. An
+empty set means all displays, which is also what all chooses.</source>
+            <translation>DISPLAY é seu número na lista, seu nome ou seu identificador. only escolhe só essas;
+toggle põe cada uma no conjunto das telas afetadas ou a retira dele. Um conjunto
 vazio significa todas as telas, que é também o que all escolhe.</translation>
         </message>
         <message>
@@ -603,6 +639,14 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
         <message>
             <source>%@  (the color filter is not chosen)</source>
             <translation>%@  (o filtro de cor não está escolhido)</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>“%1$@” aceita um número de %2$@ a %3$@.</translation>
+        </message>
+        <message>
+            <source>%@  (dim is not chosen)</source>
+            <translation>%@  (escurecer não está escolhido)</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -687,20 +731,8 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>%@ também altera as cores: detectado %d vezes desde o início do Nocturo.</translation>
         </message>
         <message>
-            <source>effect</source>
-            <translation>efeito</translation>
-        </message>
-        <message>
-            <source>on</source>
-            <translation>ativado</translation>
-        </message>
-        <message>
-            <source>off</source>
-            <translation>desativado</translation>
-        </message>
-        <message>
-            <source>selected</source>
-            <translation>escolhidos</translation>
+            <source>look</source>
+            <translation>visual</translation>
         </message>
         <message>
             <source>dim level</source>
@@ -801,6 +833,14 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>O compositor %@ não responde.</translation>
+        </message>
+        <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Uma tela precisa ficar, pois nenhuma significa todas; nocturoctl off desativa o efeito.</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>Não existe a tela “%@”; nocturoctl screens lista números, nomes e identificadores.</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1463,10 +1503,6 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
         <message>
             <source>"%@" takes a list of display identifiers.</source>
             <translation>“%@” aceita uma lista de identificadores de telas.</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
-            <translation>“%1$@” aceita um número de %2$@ a %3$@.</translation>
         </message>
     </context>
     <context>

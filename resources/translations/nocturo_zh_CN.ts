@@ -291,10 +291,6 @@
             <translation>无</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
             <source>Invert</source>
             <translation>反转</translation>
         </message>
@@ -325,6 +321,10 @@
         <message>
             <source>screens that are not connected</source>
             <translation>未连接的屏幕</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
         </message>
         <message>
             <source>Paused: screen saver</source>
@@ -379,6 +379,10 @@
             <translation>颜色滤镜的色相和鲜艳度不对应任何色温。</translation>
         </message>
         <message>
+            <source>"%@" is no setting that goes in steps.</source>
+            <translation>“%@”不是可以步进的设置。</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo 正在等待对所显示问题的回答。</translation>
         </message>
@@ -411,8 +415,8 @@
             <translation>Nocturo 未能执行：%@</translation>
         </message>
         <message>
-            <source>There is no setting "%@"; nocturoctl status lists them all.</source>
-            <translation>没有设置“%@”；nocturoctl status 会列出全部设置。</translation>
+            <source>There is no setting "%@"; nocturoctl status --all lists them.</source>
+            <translation>没有设置“%@”；nocturoctl status --all 会列出全部设置。</translation>
         </message>
         <message>
             <source>No hot key is chosen.</source>
@@ -427,12 +431,12 @@
             <translation>%@  （未生效：被其他程序占用，或桌面不提供快捷键）</translation>
         </message>
         <message>
-            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
-            <translation>没有屏幕“%@”；nocturoctl screens 会列出它们的编号、名称和标识符。</translation>
-        </message>
-        <message>
             <source>Name a file.</source>
             <translation>请指定一个文件。</translation>
+        </message>
+        <message>
+            <source>There is no such file: %@</source>
+            <translation>没有这个文件：%@</translation>
         </message>
         <message>
             <source>No display is online.</source>
@@ -471,8 +475,8 @@
             <translation>显示所有状态</translation>
         </message>
         <message>
-            <source>With --json, one object for programs.</source>
-            <translation>使用 --json 时，输出一个供程序使用的对象。</translation>
+            <source>With --all, every setting as well; with --json, one object for programs.</source>
+            <translation>使用 --all 时还列出每个设置；使用 --json 时输出一个供程序使用的对象。</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -480,9 +484,28 @@
         </message>
         <message>
             <source>NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class
-name. add and remove change the selection, only replaces it.</source>
+name. add, remove and toggle change the selection, only replaces it.</source>
             <translation>NAME 是 invert、overexposure、dim、color-filter 或 hdtv-luminance，或类名。
-add 和 remove 更改选择，only 替换选择。</translation>
+add、remove 和 toggle 更改选择，only 替换选择。</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>调暗或调亮</translation>
+        </message>
+        <message>
+            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
+lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
+            <translation>N% 使画面比原来暗这么多；+N% 和 -N% 使其比现在更亮、更暗。
+LEVEL 是窗口中显示的值，-100 到 100。</translation>
+        </message>
+        <message>
+            <source>Choose the color filter's hue and vividness</source>
+            <translation>选择颜色滤镜的色相和鲜艳度</translation>
+        </message>
+        <message>
+            <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
+what is there.</source>
+            <translation>HUE 以度为单位：0 红、25 橙、120 绿、240 蓝。+N 和 -N 从当前值开始增减。</translation>
         </message>
         <message>
             <source>Show or choose a color temperature</source>
@@ -515,8 +538,8 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
             <translation>显示一项设置</translation>
         </message>
         <message>
-            <source>nocturoctl status lists the keys.</source>
-            <translation>nocturoctl status 会列出各个键。</translation>
+            <source>nocturoctl status --all lists the keys.</source>
+            <translation>nocturoctl status --all 会列出各个键。</translation>
         </message>
         <message>
             <source>Change a setting</source>
@@ -524,9 +547,19 @@ rename NAME NEW, delete NAME, move NAME PLACE</translation>
         </message>
         <message>
             <source>VALUE is true or false, a number, or a list with commas, as the setting takes it.
-For example: nocturoctl set NDDimEffectLevel -0.3</source>
+For example: nocturoctl set NDDimEffectLevel -30%. Numbers beyond the range and displays
+that are not there are refused without --force.</source>
             <translation>VALUE 视设置而定，为 true 或 false、数字，或以逗号分隔的列表。
-例如：nocturoctl set NDDimEffectLevel -0.3</translation>
+例如：nocturoctl set NDDimEffectLevel -30%。超出范围的数字和不存在的屏幕
+不加 --force 会被拒绝。</translation>
+        </message>
+        <message>
+            <source>Change a number by so much</source>
+            <translation>将数值增减指定的量</translation>
+        </message>
+        <message>
+            <source>As far as its range goes. For example: nocturoctl step NDDimEffectLevel -5%</source>
+            <translation>以其范围为限。例如：nocturoctl step NDDimEffectLevel -5%</translation>
         </message>
         <message>
             <source>Give a setting its default value again</source>
@@ -537,10 +570,11 @@ For example: nocturoctl set NDDimEffectLevel -0.3</source>
             <translation>列出或选择受影响的屏幕</translation>
         </message>
         <message>
-            <source>toggle puts a display into the set of affected displays or takes it out. An empty
-set means all displays, which is also what all chooses.</source>
-            <translation>toggle 将一个屏幕加入受影响的屏幕集合或从中移除。
-空集合表示所有屏幕，这也是 all 的选择。</translation>
+            <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
+alone; toggle puts each into the set of affected displays or takes it out. An
+empty set means all displays, which is also what all chooses.</source>
+            <translation>DISPLAY 是列表中的编号、名称或标识符。only 只选择这些；toggle 将每个屏幕
+加入受影响的屏幕集合或从中移除。空集合表示所有屏幕，这也是 all 的选择。</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -603,6 +637,14 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>%@  (the color filter is not chosen)</source>
             <translation>%@  （未选中颜色滤镜）</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
+            <translation>“%1$@”只接受 %2$@ 到 %3$@ 之间的数。</translation>
+        </message>
+        <message>
+            <source>%@  (dim is not chosen)</source>
+            <translation>%@  （未选中调暗）</translation>
         </message>
         <message>
             <source>Usage: %@</source>
@@ -687,20 +729,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@也在更改颜色：自 Nocturo 启动以来发现 %d 次。</translation>
         </message>
         <message>
-            <source>effect</source>
-            <translation>效果</translation>
-        </message>
-        <message>
-            <source>on</source>
-            <translation>已启用</translation>
-        </message>
-        <message>
-            <source>off</source>
-            <translation>已停用</translation>
-        </message>
-        <message>
-            <source>selected</source>
-            <translation>所选</translation>
+            <source>look</source>
+            <translation>外观方案</translation>
         </message>
         <message>
             <source>dim level</source>
@@ -801,6 +831,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>合成器 %@ 没有响应。</translation>
+        </message>
+        <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>必须保留一个屏幕，因为不选任何屏幕表示全部；nocturoctl off 可关闭效果。</translation>
+        </message>
+        <message>
+            <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
+            <translation>没有屏幕“%@”；nocturoctl screens 会列出它们的编号、名称和标识符。</translation>
         </message>
         <message>
             <source>There is no effect "%@"; the effects are %@.</source>
@@ -1462,10 +1500,6 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>"%@" takes a list of display identifiers.</source>
             <translation>“%@”的值应为屏幕标识符列表。</translation>
-        </message>
-        <message>
-            <source>"%1$@" takes a number from %2$@ to %3$@.</source>
-            <translation>“%1$@”只接受 %2$@ 到 %3$@ 之间的数。</translation>
         </message>
     </context>
     <context>

@@ -5,8 +5,8 @@
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
 #include "effects/color_filter_effect.h"
+#include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
-#include "effects/effect_choices.h"
 #include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
@@ -15,24 +15,23 @@
 #include "settings/selectable_effects.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace nocturo {
 
 namespace {
 
-std::string wholeNumber(double value) {
-    return std::to_string(std::lround(std::abs(value)));
+/// Without a sign, and with one decimal at most.
+std::string numberText(double value) {
+    std::array<char, 32> digits{};
+    const double rounded = std::round(std::abs(value) * 10.0) / 10.0;
+    return {digits.data(),
+            std::to_chars(digits.data(), digits.data() + digits.size(), rounded).ptr};
 }
 
-/// With the signs that a printed text has.
-std::string signedPercent(float share) {
-    const std::string digits = wholeNumber(static_cast<double>(share) * 100.0);
-    const char* sign = digits == "0" ? "" : share < 0 ? "\u2212" : "+";
-    return translated("%@ %%", {sign + digits});
-}
-
-std::string nameOf(std::string_view effect) {
+std::string nameOf(std::string_view effect, const EffectState& state) {
     if (effect == NDInvertEffect::kName) {
         return translated("Invert");
     }
@@ -43,16 +42,15 @@ std::string nameOf(std::string_view effect) {
         return translated("HDTV range");
     }
     if (effect == NDDimEffect::kName) {
-        const float level = NDDimEffect::level();
-        return level > 0 ? translated("Lighten %@", {signedPercent(level)})
-                         : translated("Dim %@", {signedPercent(level)});
+        const std::string level = signedPercentText(state.dimLevel);
+        return state.dimLevel > 0 ? translated("Lighten %@", {level})
+                                  : translated("Dim %@", {level});
     }
-    if (const auto kelvin = filterTemperature()) {
+    if (const auto kelvin = temperatureOfFilter({state.hue, state.vividness})) {
         return std::to_string(std::lround(*kelvin / 50.0) * 50) + " K";
     }
     return translated("Color filter %1$@° %2$@ %%",
-                      {wholeNumber(static_cast<double>(NDColorFilterEffect::hue())),
-                       wholeNumber(static_cast<double>(NDColorFilterEffect::vividness()) * 100.0)});
+                      {numberText(state.hue), numberText(state.vividness * 100.0)});
 }
 
 std::string joined(const std::vector<std::string>& names) {
@@ -63,49 +61,79 @@ std::string joined(const std::vector<std::string>& names) {
     return text;
 }
 
-/// The affected screens, by name as far as they are connected.
-std::string screens(const DefaultsStore& defaults) {
-    const std::vector<double> affected = affectedScreenSet(defaults);
-    if (affected.empty()) {
+std::string screensText(const EffectState& state) {
+    if (state.isOnAllScreens) {
         return translated("all screens");
     }
-    std::vector<std::string> names;
+    return state.screens.empty() ? translated("screens that are not connected")
+                                 : joined(state.screens);
+}
+
+} // namespace
+
+std::string percentText(double share) {
+    return translated("%@ %%", {numberText(share * 100.0)});
+}
+
+std::string signedPercentText(double share) {
+    const std::string digits = numberText(share * 100.0);
+    const char* sign = digits == "0" ? "" : share < 0 ? "\u2212" : "+";
+    return translated("%@ %%", {sign + digits});
+}
+
+EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults) {
+    EffectState state;
+    state.isOn = controller.effectActive();
+    state.isPaused = controller.isPaused();
+    for (const SelectableEffect& effect : kSelectableEffects) {
+        if (NDGroupEffect::effect().containsEffect(effect.className)) {
+            state.effects.emplace_back(effect.className);
+        }
+    }
+    state.dimLevel = static_cast<double>(NDDimEffect::level());
+    state.hue = static_cast<double>(NDColorFilterEffect::hue());
+    state.vividness = static_cast<double>(NDColorFilterEffect::vividness());
+    const std::vector<double> affected = affectedScreenSet(defaults);
+    state.isOnAllScreens = affected.empty();
     const auto* online =
         displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
     for (std::size_t i = 0; online != nullptr && i < online->size(); ++i) {
         const DisplayInfo& display = (*online)[i];
         if (std::find(affected.begin(), affected.end(), display.id) != affected.end()) {
-            names.push_back(display.name);
+            state.screens.push_back(display.name);
         }
     }
-    return names.empty() ? translated("screens that are not connected") : joined(names);
+    return state;
 }
 
-} // namespace
-
-std::vector<std::string> namesOfChosenEffects() {
+std::vector<std::string> namesOfEffects(const EffectState& state) {
     std::vector<std::string> names;
     for (const SelectableEffect& effect : kSelectableEffects) {
-        if (NDGroupEffect::effect().containsEffect(effect.className)) {
-            names.push_back(nameOf(effect.className));
+        if (std::find(state.effects.begin(), state.effects.end(), effect.className) !=
+            state.effects.end()) {
+            names.push_back(nameOf(effect.className, state));
         }
     }
     return names;
 }
 
-std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults) {
-    const std::vector<std::string> names = namesOfChosenEffects();
-    if (controller.isPaused()) {
+std::string stateSentence(const EffectState& state) {
+    const std::vector<std::string> names = namesOfEffects(state);
+    if (state.isPaused) {
         return translated("Paused: screen saver");
     }
-    if (!controller.effectActive()) {
+    if (!state.isOn) {
         return names.empty() ? translated("Off. Choose effects, then switch on")
                              : translated("Off. Switched on: %@", {joined(names)});
     }
     if (names.empty()) {
         return translated("On, but no effect is chosen");
     }
-    return translated("On: %1$@ on %2$@", {joined(names), screens(defaults)});
+    return translated("On: %1$@ on %2$@", {joined(names), screensText(state)});
+}
+
+std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults) {
+    return stateSentence(effectState(controller, defaults));
 }
 
 } // namespace nocturo

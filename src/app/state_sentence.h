@@ -8,12 +8,31 @@ namespace nocturo {
 class DefaultsStore;
 class NDAppController;
 
+/// What there is to say about the effect.
+struct EffectState {
+    bool isOn = false;
+    bool isPaused = false;            // by the screen saver
+    std::vector<std::string> effects; // class names of the chosen ones, in any order
+    double dimLevel = 0;
+    double hue = 0; // degrees
+    double vividness = 0;
+    bool isOnAllScreens = true;
+    std::vector<std::string> screens; // names of those affected that are connected
+};
+
+EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults);
+
 /// The chosen effects as a person would say them, in the order in which they are applied, in the
 /// user's language: "Invert", "Dim −30 %".
-std::vector<std::string> namesOfChosenEffects();
+std::vector<std::string> namesOfEffects(const EffectState& state);
 
 /// What the displays show and why, in one sentence of the user's language: "On: Invert, Dim −30 %
 /// on all screens". Names the effects and screens chosen, whatever a single display makes of them.
+std::string stateSentence(const EffectState& state);
 std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults);
+
+/// A share as people read it: "40 %"; with the sign that a printed text has, "−30 %".
+std::string percentText(double share);
+std::string signedPercentText(double share);
 
 } // namespace nocturo

@@ -56,12 +56,13 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 46> members;
+    static const std::array<sd_bus_vtable, 51> members;
 };
 
-const std::array<sd_bus_vtable, 46> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 51> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Displays", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Effects", "as", tellProperty, 0, kTold),
@@ -90,6 +91,14 @@ const std::array<sd_bus_vtable, 46> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::setTemperature>, kFree),
     SD_BUS_METHOD_WITH_ARGS("StepTemperature", SD_BUS_ARGS("i", kelvin), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::stepTemperature>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SetDim", SD_BUS_ARGS("d", level), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::setDim>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("StepDim", SD_BUS_ARGS("d", by), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::stepDim>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SetTint", SD_BUS_ARGS("d", hue, "d", vividness), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::setTint>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("StepSetting", SD_BUS_ARGS("s", key, "d", by), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::stepSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ApplyLook", SD_BUS_ARGS("s", name), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::applyLook>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ApplyNextLook", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,

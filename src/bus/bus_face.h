@@ -57,6 +57,10 @@ class BusFace {
     BusAnswer setEffects(const std::vector<std::string>& names);
     BusAnswer setTemperature(std::uint32_t kelvin);
     BusAnswer stepTemperature(std::int32_t kelvin);
+    BusAnswer setDim(double level);
+    BusAnswer stepDim(double by);
+    BusAnswer setTint(double hue, double vividness);
+    BusAnswer stepSetting(const std::string& key, double by);
     BusAnswer applyLook(const std::string& name);
     BusAnswer applyNextLook();
     BusAnswer applyPreviousLook();

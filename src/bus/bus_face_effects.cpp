@@ -80,6 +80,30 @@ BusAnswer BusFace::stepTemperature(std::int32_t kelvin) {
     return {};
 }
 
+BusAnswer BusFace::setDim(double level) {
+    nocturo::setDim(level);
+    return {};
+}
+
+BusAnswer BusFace::stepDim(double by) {
+    nocturo::stepDim(by);
+    return {};
+}
+
+BusAnswer BusFace::setTint(double hue, double vividness) {
+    nocturo::setTint(hue, vividness);
+    return {};
+}
+
+BusAnswer BusFace::stepSetting(const std::string& key, double by) {
+    const Setting* setting = settingNamed(key);
+    if (setting == nullptr || setting->type != SettingType::real) {
+        return refusal(translated("\"%@\" is no setting that goes in steps.", {key}));
+    }
+    nocturo::stepSetting(key, by);
+    return {};
+}
+
 BusAnswer BusFace::applyLook(const std::string& name) {
     return answerOf(chosenLook_.apply(name));
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <string_view>
 #include <type_traits>
 
@@ -185,6 +186,10 @@ bool readArgument(sd_bus_message* call, std::int32_t& value) {
 
 bool readArgument(sd_bus_message* call, std::uint32_t& value) {
     return sd_bus_message_read(call, "u", &value) > 0;
+}
+
+bool readArgument(sd_bus_message* call, double& value) {
+    return sd_bus_message_read(call, "d", &value) > 0 && std::isfinite(value);
 }
 
 bool readArgument(sd_bus_message* call, std::string& value) {

@@ -49,6 +49,7 @@ inline constexpr std::size_t kLongestList = 1000;
 bool readArgument(sd_bus_message* call, bool& value);
 bool readArgument(sd_bus_message* call, std::int32_t& value);
 bool readArgument(sd_bus_message* call, std::uint32_t& value);
+bool readArgument(sd_bus_message* call, double& value); // a finite one
 bool readArgument(sd_bus_message* call, std::string& value);
 bool readArgument(sd_bus_message* call, std::vector<std::string>& value);
 

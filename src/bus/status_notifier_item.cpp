@@ -5,6 +5,7 @@
 #include "base/environment.h"
 #include "base/event_loop.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <system_error>
@@ -80,8 +81,17 @@ struct StatusNotifierItem::Table {
         return sent;
     }
 
-    static int ignore(sd_bus_message* call, void* /*self*/, sd_bus_error* /*error*/) {
-        return sd_bus_reply_method_return(call, nullptr);
+    static int scroll(sd_bus_message* call, void* self, sd_bus_error* /*error*/) {
+        int delta = 0;
+        const char* orientation = "";
+        sd_bus_message_read(call, "is", &delta, &orientation);
+        const int sent = sd_bus_reply_method_return(call, nullptr);
+        const int steps = item(self).wheelSteps(delta);
+        if (std::string_view(orientation) != "horizontal" && steps != 0) {
+            const auto scrolled = item(self).handlers_.scrolled;
+            scrolled(steps);
+        }
+        return sent;
     }
 
     /// Lets the window that a pick opens next come to the front.
@@ -162,7 +172,7 @@ const std::array<sd_bus_vtable, 28> StatusNotifierItem::Table::members = {{
     SD_BUS_METHOD_WITH_ARGS("SecondaryActivate", SD_BUS_ARGS("i", x, "i", y), SD_BUS_NO_RESULT,
                             middleClick, SD_BUS_VTABLE_UNPRIVILEGED),
     SD_BUS_METHOD_WITH_ARGS("Scroll", SD_BUS_ARGS("i", delta, "s", orientation), SD_BUS_NO_RESULT,
-                            ignore, SD_BUS_VTABLE_UNPRIVILEGED),
+                            scroll, SD_BUS_VTABLE_UNPRIVILEGED),
     SD_BUS_METHOD_WITH_ARGS("ProvideXdgActivationToken", SD_BUS_ARGS("s", token), SD_BUS_NO_RESULT,
                             takeToken, SD_BUS_VTABLE_UNPRIVILEGED),
     SD_BUS_SIGNAL("NewTitle", "", 0),
@@ -192,6 +202,20 @@ void StatusNotifierItem::setActive(bool active) {
     if (std::exchange(active_, active) != active && bus_ != nullptr) {
         sd_bus_emit_signal(bus_->handle(), kPath, kInterface, "NewIcon", nullptr);
     }
+}
+
+// Some panels tell eighths of a degree, 120 for each notch and less for what turns smoothly, others
+// one for each notch.
+int StatusNotifierItem::wheelSteps(int delta) {
+    constexpr int kNotch = 120;
+    constexpr int kMostNotches = 10;
+    if (std::abs(delta) <= kMostNotches) {
+        return delta;
+    }
+    wheelDegrees_ += std::clamp(delta, -kMostNotches * kNotch, kMostNotches * kNotch);
+    const int steps = wheelDegrees_ / kNotch;
+    wheelDegrees_ -= steps * kNotch;
+    return steps;
 }
 
 void StatusNotifierItem::follow() {

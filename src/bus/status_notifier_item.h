@@ -21,6 +21,8 @@ class StatusNotifierItem {
         /// The tray leaves it to the item to show its menu at this point of the screen.
         std::function<void(int x, int y)> menuWanted;
         std::function<void()> middleClicked;
+        /// The wheel was turned over the item by so many steps; up is more than 0.
+        std::function<void(int steps)> scrolled;
         /// Whether a tray shows the item, or whether one does may now be another.
         std::function<void()> hostingDidChange;
     };
@@ -44,6 +46,7 @@ class StatusNotifierItem {
   private:
     struct Table;
 
+    int wheelSteps(int delta);
     void follow();
     void watcherDidChange(const std::string& owner);
     void askForHost();
@@ -51,6 +54,7 @@ class StatusNotifierItem {
 
     Handlers handlers_;
     std::unique_ptr<Bus> bus_; // null where there is none
+    int wheelDegrees_ = 0;     // eighths that make no step yet
     bool active_ = false;
     Hosting hosting_ = Hosting::unknown;
     std::optional<std::string> owner_; // of the watcher, once that is known

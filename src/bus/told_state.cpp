@@ -58,6 +58,7 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
     }();
     static const std::map<std::string_view, Property> table = {
         {"Active", {&ToldState::active, kNone}},
+        {"Paused", {&ToldState::paused, kNone}},
         {"DisplayServices", {&ToldState::displayServicesName, kNone}},
         {"Displays", {&ToldState::displays, kAffectedScreenSettings}},
         {"Effects", {&ToldState::effects, kEffects}},
@@ -99,6 +100,10 @@ std::vector<std::string_view> ToldState::namesConcernedBy(const Subjects& settin
 
 BusValue ToldState::active() const {
     return controller_.effectActive();
+}
+
+BusValue ToldState::paused() const {
+    return controller_.isPaused();
 }
 
 BusValue ToldState::displayServicesName() const {

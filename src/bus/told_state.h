@@ -47,6 +47,7 @@ class ToldState {
     static const std::map<std::string_view, Property>& properties();
 
     BusValue active() const;
+    BusValue paused() const;
     BusValue displayServicesName() const;
     BusValue displays() const;
     BusValue effects() const;

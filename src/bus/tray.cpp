@@ -4,10 +4,9 @@
 
 namespace nocturo {
 
-Tray::Tray(Menu& menu, EventLoop& loop, std::string busAddress, Toolkit toolkit,
-           std::function<void()> middleClicked)
+Tray::Tray(Menu& menu, EventLoop& loop, std::string busAddress, Toolkit toolkit, Actions actions)
     : menu_(menu), loop_(loop), busAddress_(std::move(busAddress)), toolkit_(std::move(toolkit)),
-      middleClicked_(std::move(middleClicked)) {}
+      actions_(std::move(actions)) {}
 
 void Tray::setShown(bool shown) {
     if (shown == (item_ != nullptr)) {
@@ -16,8 +15,8 @@ void Tray::setShown(bool shown) {
     if (shown) {
         item_ = std::make_unique<StatusNotifierItem>(
             menu_, loop_, busAddress_,
-            StatusNotifierItem::Handlers{toolkit_.popUpMenu, middleClicked_,
-                                         [this] { hostingDidChange(); }});
+            StatusNotifierItem::Handlers{toolkit_.popUpMenu, actions_.middleClicked,
+                                         actions_.scrolled, [this] { hostingDidChange(); }});
         item_->setActive(active_);
     } else {
         item_.reset();

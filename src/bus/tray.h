@@ -20,9 +20,14 @@ class Tray {
         std::function<void(int x, int y)> popUpMenu;
     };
 
+    /// What is done to the item but for its menu.
+    struct Actions {
+        std::function<void()> middleClicked;
+        std::function<void(int steps)> scrolled; // in trays of the bus alone
+    };
+
     /// The menu and the loop must outlive the tray.
-    Tray(Menu& menu, EventLoop& loop, std::string busAddress, Toolkit toolkit,
-         std::function<void()> middleClicked);
+    Tray(Menu& menu, EventLoop& loop, std::string busAddress, Toolkit toolkit, Actions actions);
 
     void setShown(bool shown);
     void setActive(bool active);
@@ -34,7 +39,7 @@ class Tray {
     EventLoop& loop_;
     std::string busAddress_;
     Toolkit toolkit_;
-    std::function<void()> middleClicked_;
+    Actions actions_;
     bool active_ = false;
     bool embedded_ = false;
     std::unique_ptr<StatusNotifierItem> item_; // while shown

@@ -94,6 +94,7 @@ bool isLook(const Json& value) {
 void checkAnswer(const Json& properties, Answer answer) {
     static constexpr auto kMembers =
         std::to_array<Member>({{"active", isBoolean},
+                               {"paused", isBoolean, true},
                                {"displayServices", isText},
                                {"displays", isListOf<isDisplay>},
                                {"effects", isListOf<isText>},

@@ -87,6 +87,24 @@ void BusClient::call(const char* method, std::uint32_t argument) {
     send(message);
 }
 
+void BusClient::call(const char* method, double argument) {
+    const BusMessage message = newCall(kNocturoInterface, method);
+    check(sd_bus_message_append(message.get(), "d", argument));
+    send(message);
+}
+
+void BusClient::call(const char* method, double first, double second) {
+    const BusMessage message = newCall(kNocturoInterface, method);
+    check(sd_bus_message_append(message.get(), "dd", first, second));
+    send(message);
+}
+
+void BusClient::call(const char* method, const std::string& first, double second) {
+    const BusMessage message = newCall(kNocturoInterface, method);
+    check(sd_bus_message_append(message.get(), "sd", first.c_str(), second));
+    send(message);
+}
+
 void BusClient::call(const char* method, const std::string& argument) {
     const BusMessage message = newCall(kNocturoInterface, method);
     check(sd_bus_message_append(message.get(), "s", argument.c_str()));

@@ -28,7 +28,10 @@ class BusClient {
     void call(const char* method, bool argument);
     void call(const char* method, std::int32_t argument);
     void call(const char* method, std::uint32_t argument);
+    void call(const char* method, double argument);
+    void call(const char* method, double first, double second);
     void call(const char* method, const std::string& argument);
+    void call(const char* method, const std::string& first, double second);
     void call(const char* method, const std::string& first, const std::string& second);
     void call(const char* method, const std::string& first, std::uint32_t second);
     void call(const char* method, std::span<const std::string> argument);

@@ -7,19 +7,19 @@
 #include "ctl/output.h"
 #include "ctl/report.h"
 #include "ctl/restore.h"
+#include "ctl/screen_verbs.h"
 #include "ctl/setting_text.h"
+#include "documents/effect_document_file.h"
 #include "hotkeys/hot_key_grant.h"
 #include "hotkeys/hot_key_text.h"
 #include "settings/settings_table.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <optional>
 #include <vector>
 
 namespace nocturo {
@@ -53,13 +53,14 @@ void printLine(const Json& value) {
 
 void runStatus(Arguments arguments) {
     const bool asJson = arguments.size() == 1 && arguments[0] == "--json";
-    expect(arguments.empty() || asJson);
+    const bool all = arguments.size() == 1 && arguments[0] == "--all";
+    expect(arguments.empty() || asJson || all);
     try {
         const Json properties = BusClient().properties();
         if (asJson) {
             printLine(statusObject(properties));
         } else {
-            print(statusReport(properties));
+            print(statusReport(properties, all));
         }
     } catch (const Failure& failure) {
         if (asJson && failure.exitStatus == kNotRunning) {
@@ -74,7 +75,7 @@ const Setting& settingFromName(const std::string& key) {
     if (setting == nullptr) {
         throw Failure{
             kUsage,
-            translated("There is no setting \"%@\"; nocturoctl status lists them all.", {key})};
+            translated("There is no setting \"%@\"; nocturoctl status --all lists them.", {key})};
     }
     return *setting;
 }
@@ -86,9 +87,17 @@ void runGet(Arguments arguments) {
 }
 
 void runSet(Arguments arguments) {
-    expect(arguments.size() == 2);
-    const PropertyValue value = settingFromText(settingFromName(arguments[0]), arguments[1]);
-    BusClient().callSetSetting(arguments[0], value);
+    std::vector<std::string> own(arguments.begin(), arguments.end());
+    const bool force = std::erase(own, "--force") > 0;
+    expect(own.size() == 2);
+    const Setting& setting = settingFromName(own[0]);
+    const PropertyValue value =
+        settingFromText(setting, own[1], force ? Range::any : Range::ofUsers);
+    BusClient client;
+    if (setting.type == SettingType::displayNumbers && !force) {
+        checkDisplays(client.properties(), value);
+    }
+    client.callSetSetting(own[0], value);
 }
 
 void runReset(Arguments arguments) {
@@ -143,47 +152,6 @@ void runHotKey(Arguments arguments) {
     }
 }
 
-std::optional<std::uint32_t> wholeNumber(const std::string& text) {
-    std::uint32_t number = 0;
-    const char* end = text.data() + text.size();
-    const auto [rest, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
-}
-
-// A display by its number in the list, its name or its identifier. One that is not online can still
-// be taken out of the set, by its identifier.
-std::uint32_t displayFromText(const Json& properties, const std::string& text) {
-    const auto number = wholeNumber(text);
-    for (const char* member : {"number", "name", "id"}) {
-        for (const Json& display : properties["displays"]) {
-            const Json& value = display[member];
-            if (value.is_string() ? value == text : number && value == *number) {
-                return display["id"].get<std::uint32_t>();
-            }
-        }
-    }
-    const Json& chosen = properties["affectedScreenSet"];
-    if (number && *number != 0 &&
-        std::find(chosen.begin(), chosen.end(), *number) != chosen.end()) {
-        return *number;
-    }
-    throw Failure{kUsage, translated("There is no display \"%@\"; nocturoctl screens lists their "
-                                     "numbers, names and identifiers.",
-                                     {text})};
-}
-
-void runScreens(Arguments arguments) {
-    BusClient client;
-    if (arguments.empty()) {
-        print(screensReport(client.properties()));
-    } else if (arguments[0] == "all" && arguments.size() == 1) {
-        client.call("AffectAllScreens");
-    } else {
-        expect(arguments[0] == "toggle" && arguments.size() == 2);
-        client.call("ToggleScreen", displayFromText(client.properties(), arguments[1]));
-    }
-}
-
 std::string absolutePath(const std::string& path) {
     std::error_code error;
     const auto absolute = std::filesystem::absolute(path, error);
@@ -195,7 +163,15 @@ std::string absolutePath(const std::string& path) {
 
 void runOpen(Arguments arguments) {
     expect(arguments.size() == 1);
-    BusClient().call("OpenFile", absolutePath(arguments[0]));
+    const std::string path = absolutePath(arguments[0]);
+    std::error_code error;
+    if (std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found) {
+        throw Failure{kFailed, translated("There is no such file: %@", {path})};
+    }
+    if (!readEffectDocument(path)) {
+        throw Failure{kFailed, translated("\"%@\" is not an effect document.", {path})};
+    }
+    BusClient().call("OpenFile", path);
 }
 
 void runSave(Arguments arguments) {
@@ -272,12 +248,23 @@ constexpr std::array kCommands = std::to_array<Command>({
      ListedText("Every display gets its own colors back."), runSwitch<false>},
     {"toggle", "", ListedText("Switch the effect on or off"), ListedText("Bind this to a key."),
      runToggle, true},
-    {"status", "[--json]", ListedText("Show the state of everything"),
-     ListedText("With --json, one object for programs."), runStatus},
-    {"effects", "[add|remove|only NAME...]", ListedText("List or choose the effects"),
+    {"status", "[--all | --json]", ListedText("Show the state of everything"),
+     ListedText("With --all, every setting as well; with --json, one object for programs."),
+     runStatus},
+    {"effects", "[add|remove|toggle|only NAME... | none]", ListedText("List or choose the effects"),
      ListedText("NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
-                "name. add and remove change the selection, only replaces it."),
+                "name. add, remove and toggle change the selection, only replaces it."),
      runEffects, true},
+    {"dim", "[N% | +N% | -N% | =LEVEL%]", ListedText("Dim or lighten"),
+     ListedText(
+         "N% makes the picture darker by so much than it is by itself; +N% and -N% make it\n"
+         "lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100."),
+     runDim, true},
+    {"tint", "HUE [VIVIDNESS%]", ListedText("Choose the color filter's hue and vividness"),
+     ListedText(
+         "HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from\n"
+         "what is there."),
+     runTint, true},
     {"temperature", "[KELVIN | +N | -N]", ListedText("Show or choose a color temperature"),
      ListedText(
          "From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the\n"
@@ -291,19 +278,26 @@ constexpr std::array kCommands = std::to_array<Command>({
                 "save NAME          keep the effects as a look of your own\n"
                 "rename NAME NEW, delete NAME, move NAME PLACE"),
      runLook, true},
-    {"get", "KEY", ListedText("Show a setting"), ListedText("nocturoctl status lists the keys."),
-     runGet},
-    {"set", "KEY VALUE", ListedText("Change a setting"),
+    {"get", "KEY", ListedText("Show a setting"),
+     ListedText("nocturoctl status --all lists the keys."), runGet},
+    {"set", "KEY VALUE [--force]", ListedText("Change a setting"),
      ListedText(
          "VALUE is true or false, a number, or a list with commas, as the setting takes it.\n"
-         "For example: nocturoctl set NDDimEffectLevel -0.3"),
+         "For example: nocturoctl set NDDimEffectLevel -30%. Numbers beyond the range and "
+         "displays\n"
+         "that are not there are refused without --force."),
      runSet, true},
+    {"step", "KEY +N|-N", ListedText("Change a number by so much"),
+     ListedText("As far as its range goes. For example: nocturoctl step NDDimEffectLevel -5%"),
+     runStep, true},
     {"reset", "KEY", ListedText("Give a setting its default value again"), ListedText(), runReset,
      true},
-    {"screens", "[all | toggle NUMBER|NAME|ID]", ListedText("List or choose the affected displays"),
+    {"screens", "[all | only|add|remove|toggle DISPLAY...]",
+     ListedText("List or choose the affected displays"),
      ListedText(
-         "toggle puts a display into the set of affected displays or takes it out. An empty\n"
-         "set means all displays, which is also what all chooses."),
+         "DISPLAY is its number in the list, its name or its identifier. only chooses these\n"
+         "alone; toggle puts each into the set of affected displays or takes it out. An\n"
+         "empty set means all displays, which is also what all chooses."),
      runScreens, true},
     {"hotkey", "[set KEYS | none | enable | disable]",
      ListedText("Show or choose the global hot key"),

@@ -8,5 +8,8 @@ namespace nocturo {
 
 void runEffects(Arguments arguments);
 void runTemperature(Arguments arguments);
+void runDim(Arguments arguments);
+void runTint(Arguments arguments);
+void runStep(Arguments arguments);
 
 } // namespace nocturo

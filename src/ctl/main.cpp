@@ -62,6 +62,9 @@ int run(const std::vector<std::string>& arguments) {
         printHelp();
         return kSuccess;
     }
+    if (arguments[0] == "help") {
+        return run({arguments.size() > 1 ? arguments[1] : "--help", "--help"});
+    }
     if (arguments[0] == "--version") {
         print("nocturoctl " NOCTURO_VERSION "\n");
         return kSuccess;

@@ -1,5 +1,6 @@
 #include "ctl/report.h"
 
+#include "app/state_sentence.h"
 #include "base/texts/translated.h"
 #include "ctl/setting_text.h"
 #include "ctl/text_columns.h"
@@ -20,7 +21,7 @@ namespace nocturo {
 namespace {
 
 constexpr std::array kStatusOrder = std::to_array<const char*>(
-    {"active", "displayServices", "displays", "effects", "dimLevel", "colorFilterHue",
+    {"active", "paused", "displayServices", "displays", "effects", "dimLevel", "colorFilterHue",
      "colorFilterVividness", "temperature", "look", "looks", "affectedScreenSet", "hotKey",
      "disturbances", "disturber"});
 constexpr std::array<const char*, 9> kDisplayOrder = {
@@ -89,13 +90,30 @@ std::string plain(const Json& value) {
     return list.empty() ? translated("(none)") : list;
 }
 
-std::string selectedEffects(const Json& properties) {
-    std::string list;
-    for (const Json& name : properties["effects"]) {
-        list += (list.empty() ? "" : ", ") +
-                std::string(shortEffectName(name.get_ref<const std::string&>()));
+EffectState toldState(const Json& properties) {
+    EffectState state;
+    state.isOn = properties["active"].get<bool>();
+    state.isPaused = properties.value("paused", false);
+    state.effects = properties["effects"].get<std::vector<std::string>>();
+    state.dimLevel = properties["dimLevel"].get<double>();
+    state.hue = properties["colorFilterHue"].get<double>();
+    state.vividness = properties["colorFilterVividness"].get<double>();
+    state.isOnAllScreens = properties["affectedScreenSet"].empty();
+    for (const Json& display : properties["displays"]) {
+        if (display["affected"].get<bool>()) {
+            state.screens.push_back(plain(display["name"]));
+        }
     }
-    return list.empty() ? translated("(none)") : list;
+    return state;
+}
+
+std::string lookNamed(const Json& properties) {
+    for (const Json& look : looksArray(properties)) {
+        if (look["inForce"].get<bool>()) {
+            return plain(look["title"]);
+        }
+    }
+    return translated("(none)");
 }
 
 std::string hotKeyText(const Json& hotKey) {
@@ -129,19 +147,21 @@ std::string disturbanceReport(const Json& properties) {
 
 } // namespace
 
-std::string statusReport(const Json& properties) {
-    std::string text = "Nocturo\n";
+std::string statusReport(const Json& properties, bool all) {
+    std::string text = stateSentence(toldState(properties)) + "\n\n";
     text +=
-        table({{translated("effect"),
-                properties["active"].get<bool>() ? translated("on") : translated("off")},
-               {translated("selected"), selectedEffects(properties)},
-               {translated("dim level"), plain(properties["dimLevel"])},
-               {translated("color filter hue"), plain(properties["colorFilterHue"])},
-               {translated("color filter vividness"), plain(properties["colorFilterVividness"])},
+        table({{translated("look"), lookNamed(properties)},
+               {translated("dim level"), signedPercentText(properties["dimLevel"].get<double>())},
+               {translated("color filter hue"), plain(properties["colorFilterHue"]) + "\u00B0"},
+               {translated("color filter vividness"),
+                percentText(properties["colorFilterVividness"].get<double>())},
                {translated("hot key"), hotKeyText(properties["hotKey"])},
                {translated("display services"), plain(properties["displayServices"])}});
     text += '\n' + translated("Displays") + '\n' + screensReport(properties) +
-            disturbanceReport(properties) + '\n' + translated("Settings") + '\n';
+            disturbanceReport(properties);
+    if (!all) {
+        return text;
+    }
     std::vector<Row> rows;
     for (const Setting& setting : settingsTable()) {
         const std::string key(setting.key);
@@ -149,7 +169,7 @@ std::string statusReport(const Json& properties) {
             rows.push_back({key, plain(properties["settings"][key]), setting.meaning.translated()});
         }
     }
-    return text + table(rows);
+    return text + '\n' + translated("Settings") + '\n' + table(rows);
 }
 
 std::string effectsReport(const Json& properties) {
@@ -193,12 +213,7 @@ std::string looksReport(const Json& properties) {
 }
 
 std::string lookInForce(const Json& properties) {
-    for (const Json& look : looksArray(properties)) {
-        if (look["inForce"].get<bool>()) {
-            return plain(look["title"]) + '\n';
-        }
-    }
-    return translated("(none)") + '\n';
+    return lookNamed(properties) + '\n';
 }
 
 Json looksArray(const Json& properties) {

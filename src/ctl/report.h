@@ -9,8 +9,8 @@ using Json = nlohmann::ordered_json;
 
 // Texts for people, from the properties of the running Nocturo. Each ends with a new line.
 
-/// The state of everything.
-std::string statusReport(const Json& properties);
+/// The state of everything, beginning with a sentence; the settings by their keys where `all`.
+std::string statusReport(const Json& properties, bool all);
 
 /// Every effect, with a mark at the selected ones.
 std::string effectsReport(const Json& properties);

@@ -3,11 +3,14 @@
 #include "base/texts/translated.h"
 #include "ctl/failure.h"
 #include "settings/selectable_effects.h"
+#include "settings/settings_keys.h"
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <optional>
+#include <strings.h>
 #include <vector>
 
 namespace nocturo {
@@ -22,6 +25,10 @@ PropertyValue booleanFromText(std::string_view text) {
         return false;
     }
     return std::string(text);
+}
+
+bool isOneOf(std::string_view text, std::string_view name) {
+    return text.size() == name.size() && strncasecmp(text.data(), name.data(), name.size()) == 0;
 }
 
 // A value of another type where the text is no number; the check of the setting says so.
@@ -47,14 +54,21 @@ PropertyValue listFromText(std::string_view text, Convert convert) {
     return array;
 }
 
-PropertyValue fromText(SettingType type, std::string_view text) {
-    switch (type) {
+PropertyValue realFromText(std::string_view key, std::string_view text) {
+    if (const auto number = amountFromText(text, isShare(key) ? 1.0 : 0.0)) {
+        return *number;
+    }
+    return std::string(text);
+}
+
+PropertyValue fromText(const Setting& setting, std::string_view text) {
+    switch (setting.type) {
     case SettingType::boolean:
         return booleanFromText(text);
     case SettingType::integer:
         return numberFromText<std::int64_t>(text);
     case SettingType::real:
-        return numberFromText<double>(text);
+        return realFromText(setting.key, text);
     case SettingType::effectNames:
         return listFromText(text, effectFromText);
     case SettingType::displayNumbers:
@@ -65,9 +79,32 @@ PropertyValue fromText(SettingType type, std::string_view text) {
 
 } // namespace
 
-PropertyValue settingFromText(const Setting& setting, std::string_view text) {
-    PropertyValue value = fromText(setting.type, text);
-    if (const auto problem = problemWithTyped(setting, value)) {
+std::optional<double> amountFromText(std::string_view text, double whole) {
+    constexpr std::string_view kMinus = "\u2212";
+    std::string plain(text);
+    if (const auto minus = plain.find(kMinus); minus != std::string::npos) {
+        plain.replace(minus, kMinus.size(), "-");
+    }
+    const bool isPercent = plain.ends_with('%') && whole != 0.0;
+    while (!plain.empty() && (plain.back() == ' ' || (isPercent && plain.back() == '%'))) {
+        plain.pop_back();
+    }
+    plain.erase(0, plain.starts_with('+') ? 1 : 0);
+    const PropertyValue number = numberFromText<double>(plain);
+    const auto* value = number.as<double>();
+    return value != nullptr && std::isfinite(*value)
+               ? std::optional(isPercent ? *value * whole / 100.0 : *value)
+               : std::nullopt;
+}
+
+bool isShare(std::string_view key) {
+    return key == kDimLevel.key || key == kColorFilterVividness.key;
+}
+
+PropertyValue settingFromText(const Setting& setting, std::string_view text, Range range) {
+    PropertyValue value = fromText(setting, text);
+    if (const auto problem = range == Range::ofUsers ? problemWithTyped(setting, value)
+                                                     : problemWith(setting, value)) {
         throw Failure{kUsage, *problem};
     }
     return value;
@@ -76,7 +113,7 @@ PropertyValue settingFromText(const Setting& setting, std::string_view text) {
 std::string effectFromText(std::string_view text) {
     const auto effects = selectableEffects();
     const auto found = std::find_if(effects.begin(), effects.end(), [&](const auto& effect) {
-        return text == effect.className || text == effect.shortName;
+        return isOneOf(text, effect.className) || isOneOf(text, effect.shortName);
     });
     if (found != effects.end()) {
         return std::string(found->className);

@@ -2,10 +2,12 @@
 
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
+#include "effects/dim_effect.h"
 #include "effects/group_effect.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keys.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace nocturo {
@@ -18,6 +20,21 @@ void setHueAndVividness(double kelvin) {
     const FilterColor filter = filterAtTemperature(kelvin);
     NDColorFilterEffect::setHue(static_cast<float>(filter.hue));
     NDColorFilterEffect::setVividness(static_cast<float>(filter.vividness));
+}
+
+double limited(double value, const RealSetting& setting) {
+    return std::clamp(value, static_cast<double>(setting.lowest),
+                      static_cast<double>(setting.highest));
+}
+
+double aroundTheCircle(double hue) {
+    const double rest = std::fmod(hue, 360.0);
+    return rest < 0.0 ? rest + 360.0 : hue == 360.0 ? hue : rest;
+}
+
+/// Ten steps of a tenth are to be one.
+float withoutDust(double value) {
+    return static_cast<float>(std::round(value * 1e5) / 1e5);
 }
 
 } // namespace
@@ -40,6 +57,36 @@ void offerGentleTint() {
         defaults.objectForKey(kColorFilterVividness.key) == nullptr) {
         const DefaultsStore::Batch oneChange(defaults);
         setHueAndVividness(kGentleTemperature);
+    }
+}
+
+void setDim(double level) {
+    const DefaultsStore::Batch oneChange(NDEffect::userDefaults());
+    NDDimEffect::setLevel(withoutDust(limited(level, kDimLevel)));
+    chooseEffect(NDDimEffect::kName);
+}
+
+void stepDim(double by) {
+    const bool isChosen = NDGroupEffect::effect().containsEffect(NDDimEffect::kName);
+    setDim((isChosen ? NDDimEffect::level() : 0.0) + by);
+}
+
+void setTint(double hue, double vividness) {
+    const DefaultsStore::Batch oneChange(NDEffect::userDefaults());
+    NDColorFilterEffect::setHue(withoutDust(aroundTheCircle(hue)));
+    NDColorFilterEffect::setVividness(withoutDust(limited(vividness, kColorFilterVividness)));
+    chooseEffect(NDColorFilterEffect::kName);
+}
+
+void stepSetting(std::string_view key, double by) {
+    for (const RealSetting* setting : {&kDimLevel, &kColorFilterHue, &kColorFilterVividness}) {
+        if (key == setting->key) {
+            DefaultsStore& defaults = NDEffect::userDefaults();
+            const double value = defaults.floatForKey(*setting) + by;
+            defaults.setFloat(withoutDust(setting == &kColorFilterHue ? aroundTheCircle(value)
+                                                                      : limited(value, *setting)),
+                              key);
+        }
     }
 }
 

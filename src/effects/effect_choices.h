@@ -17,6 +17,18 @@ void chooseEffect(std::string_view name);
 /// pure red.
 void offerGentleTint();
 
+/// Chooses the dim effect at a level from -1 (black) to 1 (white), or so far from what is in force,
+/// which is 0 while it is not chosen. Levels beyond are limited.
+void setDim(double level);
+void stepDim(double by);
+
+/// Chooses the color filter with that hue, in degrees, and vividness, limited to 0 to 1.
+void setTint(double hue, double vividness);
+
+/// Goes so far from the number that a setting has now, at most to the end of its range; hues go
+/// round. Nothing for a setting that is no real number.
+void stepSetting(std::string_view key, double by);
+
 /// The kelvin (color_temperature.h) that hue and vividness of the color filter come to, whether it
 /// is chosen or not; nothing where they lie off the curve of temperatures.
 std::optional<double> filterTemperature();

@@ -1,6 +1,7 @@
 #include "hotkeys/hot_key_text.h"
 
 #include "base/texts/translated.h"
+#include "hotkeys/key_naming.h"
 #include "hotkeys/keyboard/keyboard_layout.h"
 #include "hotkeys/keyboard/modifier_flags.h"
 #include "hotkeys/keyboard/virtual_key_codes.h"
@@ -54,6 +55,13 @@ std::wstring wideText(std::string_view text) {
     return wide;
 }
 
+// Virtual key codes whose glyphs stand for these.
+constexpr auto kGlyphModifiers =
+    std::to_array<std::pair<std::uint16_t, std::uint64_t>>({{59, NSControlKeyMask},
+                                                            {58, NSAlternateKeyMask},
+                                                            {56, NSShiftKeyMask},
+                                                            {55, NSCommandKeyMask}});
+
 // Hot keys are shown in capitals, so that "Ö" must find the key that types "ö". Empty when the text
 // is not valid UTF-8.
 std::wstring inLowerCase(std::string_view text) {
@@ -98,6 +106,25 @@ std::uint64_t modifierNamed(std::string_view name) {
         }
     }
     return 0;
+}
+
+/// Takes a modifier's glyph from the beginning of a part, as hot keys are shown; 0 where there is
+/// none, or nothing behind it.
+std::uint64_t takeModifierGlyph(std::string_view& part) {
+    for (const auto& [keyCode, flag] : kGlyphModifiers) {
+        const auto* glyph =
+            std::ranges::find(HXSpecialKeyGlyphs, keyCode, &SpecialKeyGlyph::keyCode);
+        if (part.size() > glyph->text.size() && part.starts_with(glyph->text)) {
+            part.remove_prefix(glyph->text.size());
+            return flag;
+        }
+    }
+    return 0;
+}
+
+std::optional<std::uint16_t> keyCodeOfGlyph(std::string_view text) {
+    const auto* glyph = std::ranges::find(HXSpecialKeyGlyphs, text, &SpecialKeyGlyph::text);
+    return glyph != HXSpecialKeyGlyphs.end() ? std::optional(glyph->keyCode) : std::nullopt;
 }
 
 std::optional<std::uint16_t> keyCodeTyping(std::string_view text, KeyboardLayout& layout) {
@@ -152,7 +179,10 @@ Result<HotKeyCombination> parseHotKeyText(std::string_view text, KeyboardLayout*
     }
     HotKeyCombination combination;
     std::string_view key;
-    for (const std::string_view part : partsOf(text)) {
+    for (std::string_view part : partsOf(text)) {
+        while (const std::uint64_t flag = takeModifierGlyph(part)) {
+            combination.modifierFlags |= flag;
+        }
         if (part.empty()) {
             return failed(translated("\"%@\" has a plus sign with nothing before or after it.",
                                      {std::string(text)}));
@@ -171,6 +201,9 @@ Result<HotKeyCombination> parseHotKeyText(std::string_view text, KeyboardLayout*
     }
 
     auto keyCode = virtualKeyCodeNamed(key);
+    if (!keyCode) {
+        keyCode = keyCodeOfGlyph(key);
+    }
     if (!keyCode && layout != nullptr) {
         keyCode = keyCodeTyping(key, *layout);
     }

@@ -8,6 +8,7 @@
 #include "base/texts/translated.h"
 #include "documents/current_effects.h"
 #include "documents/effect_document_file.h"
+#include "effects/effect_choices.h"
 #include "program/surroundings.h"
 
 #include <chrono>
@@ -19,6 +20,7 @@ namespace nocturo {
 
 namespace {
 
+constexpr double kDimOfOneNotch = 0.05;
 constexpr const char* kLibrary = "libnocturo-desktop.so";
 
 // Many panels embed windows and show items of the bus; which they are ready for first is chance.
@@ -66,7 +68,12 @@ DesktopOnDemand::DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppControlle
       tray_(menus_.statusMenu(), loop, sessionBusAddress(),
             {[this](bool shown) { setItemEmbedded(shown); },
              [this](int x, int y) { popUpStatusMenu(x, y); }},
-            [&controller] { controller.activateEffect(); }) {
+            {[&controller] { controller.activateEffect(); },
+             [&controller](int steps) {
+                 if (controller.effectActive()) {
+                     stepDim(kDimOfOneNotch * steps);
+                 }
+             }}) {
     controller_.setUserInterface(this);
     controller_.setDesktopFace(this);
 }

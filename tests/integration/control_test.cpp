@@ -175,6 +175,13 @@ TEST_F(Control, WrongCommandLinesAreUsageErrors) {
                            "nocturoctl set NDGroupEffect NDGroupEffect",
                            "nocturoctl reset Nonsense",
                            "nocturoctl temperature warm",
+                           "nocturoctl dim dark",
+                           "nocturoctl dim 101%",
+                           "nocturoctl tint 400",
+                           "nocturoctl tint 25 120%",
+                           "nocturoctl effects none dim",
+                           "nocturoctl set NDDimEffectLevel -101%",
+                           "nocturoctl help nonsense",
                            "nocturoctl look save",
                            "nocturoctl look rename Mine",
                            "nocturoctl look move Mine first"};
@@ -231,6 +238,7 @@ TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
         std::string kept;
     } settings[] = {
         {"NDDimEffectLevel", "-0.3", "-0.3"},
+        {"NDDimEffectLevel", "\u221230 %", "-0.3"},
         {"NDColorFilterEffectHue", "359.5", "359.5"},
         {"ShowStatusItem", "1", "1"},
         {"ActivateOnClick", "no", "false"},
@@ -238,7 +246,7 @@ TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
         {"AffectedScreenSet", "7,1", "[1,7]"},
     };
     for (const auto& [key, typed, kept] : settings) {
-        ctl({"set", key, typed});
+        ctl({"set", key, typed, "--force"});
         EXPECT_EQ(ctl({"get", key}).output, kept + "\n");
         EXPECT_EQ(status()["settings"][key].dump(), kept);
         ctl({"reset", key});
@@ -281,6 +289,19 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
         {"look delete Dusk", "look", R"("Just dimmer")"},
         {"look back", "effects", R"(["NDInvertEffect"])"},
         {"temperature -250", "temperature", "6250"},
+        {"dim 30%", "dimLevel", "-0.3"},
+        {"dim -5", "dimLevel", "-0.35"},
+        {"dim +200%", "dimLevel", "1.0"},
+        {"dim =-0.5%", "dimLevel", "-0.005"},
+        {"effects remove dim", "effects", R"(["NDInvertEffect","NDColorFilterEffect"])"},
+        {"dim -10%", "dimLevel", "-0.1"},
+        {"step NDDimEffectLevel -5%", "dimLevel", "-0.15"},
+        {"step NDColorFilterEffectVividness +9", "colorFilterVividness", "1.0"},
+        {"tint 25 40%", "colorFilterVividness", "0.4"},
+        {"tint -50 +5%", "colorFilterHue", "335.0"},
+        {"effects none", "effects", "[]"},
+        {"effects toggle Invert DIM", "effects", R"(["NDInvertEffect","NDDimEffect"])"},
+        {"effects toggle dim", "effects", R"(["NDInvertEffect"])"},
         {"temperature 6500K", "effects", R"(["NDInvertEffect","NDColorFilterEffect"])"},
     };
     for (const auto& [line, member, becomes] : steps) {
@@ -289,6 +310,33 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
         EXPECT_EQ(status()[member].dump(), becomes) << line;
     }
     EXPECT_EQ(ctl({"temperature"}).output, "6500 K\n");
+    const auto begins = [&](const std::string& sentence) {
+        const std::string report = ctl({"status"}).output;
+        EXPECT_EQ(report.substr(0, report.find('\n')), sentence);
+    };
+    ctl({"dim", "12.5%"});
+    begins("On: Invert, Dim \u221212.5 %, 6500 K on all screens");
+    ctl({"screens", "remove", "SIM-1"});
+    begins("On: Invert, Dim \u221212.5 %, 6500 K on SIM-2, SIM-3");
+    ctl({"screens", "only", "1", "2"});
+    ctl({"screens", "remove", "2"});
+    ctl({"screens", "add", "3"});
+    ctl({"effects", "only", "overexposure"});
+    begins("On: Overexpose on SIM-1, SIM-3");
+    ctl({"effects", "none"});
+    begins("On, but no effect is chosen");
+    ctl({"off"});
+    begins("Off. Choose effects, then switch on");
+    EXPECT_EQ(ctl({"status"}).output.find("NDGroupEffect"), std::string::npos);
+    EXPECT_NE(ctl({"status", "--all"}).output.find("NDGroupEffect"), std::string::npos);
+    for (const Arguments& refused : {Arguments{"screens", "only", "4"},
+                                     {"screens", "remove", "1", "3"},
+                                     {"set", "AffectedScreenSet", "2"},
+                                     {"step", "UseHotKey", "+1"}}) {
+        EXPECT_EQ(session_.run("nocturoctl", refused).exit, 2) << Json(refused);
+    }
+    EXPECT_NE(session_.run("nocturoctl", {"open", "/nowhere"}).errors.find("no such file"),
+              std::string::npos);
 }
 
 // Nothing between two combinations of effects is ever on a display.

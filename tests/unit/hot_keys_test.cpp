@@ -80,6 +80,11 @@ TEST_F(HotKeyText, ReadsNamesAndCharactersInAnyOrderAndCase) {
     }
     EXPECT_EQ(parseHotKeyText("super+Л", &russian), (HotKeyCombination{40, kCommand}));
     EXPECT_EQ(parseHotKeyText("super+f20", nullptr), (HotKeyCombination{90, kCommand}));
+    for (const std::uint16_t key :
+         std::initializer_list<std::uint16_t>{96, 116, 123, 36}) { // as they are shown
+        EXPECT_EQ(parseHotKeyText(HXStringFromKeyCode(key, 0x120000, nullptr), nullptr),
+                  (HotKeyCombination{key, 0x120000}));
+    }
 }
 
 TEST_F(HotKeyText, SaysWhatIsWrong) {

@@ -1,0 +1,124 @@
+#include "ctl/screen_verbs.h"
+
+#include "ctl/failure.h"
+#include "ctl/output.h"
+#include "ctl/report.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <set>
+
+namespace nocturo {
+
+namespace {
+
+using Displays = std::set<std::int64_t>;
+
+std::optional<std::uint32_t> wholeNumber(const std::string& text) {
+    std::uint32_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
+}
+
+/// The affected displays; all that are there where the set is empty.
+Displays affectedDisplays(const Json& properties) {
+    Displays displays;
+    for (const Json& chosen : properties["affectedScreenSet"]) {
+        displays.insert(chosen.get<std::int64_t>());
+    }
+    if (displays.empty()) {
+        for (const Json& display : properties["displays"]) {
+            displays.insert(display["id"].get<std::uint32_t>());
+        }
+    }
+    return displays;
+}
+
+void choose(BusClient& client, const std::string& how, const Displays& named,
+            const Json& properties) {
+    Displays displays = how == "only" ? Displays() : affectedDisplays(properties);
+    if (how == "add" && properties["affectedScreenSet"].empty()) {
+        return; // all are
+    }
+    for (const std::int64_t display : named) {
+        if (how == "remove") {
+            displays.erase(display);
+        } else {
+            displays.insert(display);
+        }
+    }
+    if (displays.empty()) {
+        throw Failure{kUsage, translated("One display has to stay, as a choice of none means all; "
+                                         "nocturoctl off switches the effect off.")};
+    }
+    client.callSetSetting("AffectedScreenSet", PropertyArray(displays.begin(), displays.end()));
+}
+
+} // namespace
+
+std::uint32_t displayFromText(const Json& properties, const std::string& text) {
+    const auto number = wholeNumber(text);
+    for (const char* member : {"number", "name", "id"}) {
+        for (const Json& display : properties["displays"]) {
+            const Json& value = display[member];
+            if (value.is_string() ? value == text : number && value == *number) {
+                return display["id"].get<std::uint32_t>();
+            }
+        }
+    }
+    const Json& chosen = properties["affectedScreenSet"];
+    if (number && *number != 0 &&
+        std::find(chosen.begin(), chosen.end(), *number) != chosen.end()) {
+        return *number;
+    }
+    throw Failure{kUsage, translated("There is no display \"%@\"; nocturoctl screens lists their "
+                                     "numbers, names and identifiers.",
+                                     {text})};
+}
+
+void checkDisplays(const Json& properties, const PropertyValue& identifiers) {
+    const auto* list = identifiers.as<PropertyArray>();
+    const Displays known = affectedDisplays(properties);
+    for (const PropertyValue& each : list != nullptr ? *list : PropertyArray()) {
+        const auto identifier = each.as<std::int64_t>() != nullptr ? *each.as<std::int64_t>() : 0;
+        const Json& online = properties["displays"];
+        if (!known.contains(identifier) &&
+            std::none_of(online.begin(), online.end(),
+                         [&](const Json& display) { return display["id"] == identifier; })) {
+            displayFromText({{"displays", Json::array()}, {"affectedScreenSet", Json::array()}},
+                            std::to_string(identifier)); // says so
+        }
+    }
+}
+
+void runScreens(Arguments arguments) {
+    BusClient client;
+    if (arguments.empty()) {
+        print(screensReport(client.properties()));
+        return;
+    }
+    const std::string& how = arguments[0];
+    if (how == "all") {
+        expect(arguments.size() == 1);
+        client.call("AffectAllScreens");
+        return;
+    }
+    expect(arguments.size() > 1 &&
+           (how == "toggle" || how == "only" || how == "add" || how == "remove"));
+    const Json properties = client.properties();
+    Displays named;
+    for (const std::string& text : arguments.subspan(1)) {
+        named.insert(displayFromText(properties, text));
+    }
+    if (how != "toggle") {
+        choose(client, how, named, properties);
+        return;
+    }
+    for (const std::int64_t display : named) {
+        client.call("ToggleScreen", static_cast<std::uint32_t>(display));
+    }
+}
+
+} // namespace nocturo
