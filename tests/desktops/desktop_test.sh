@@ -9,7 +9,7 @@ set -- "$bin"
 # shellcheck source-path=SCRIPTDIR source=../packaging/fresh_root.sh
 . "$here/../packaging/fresh_root.sh"
 
-programs=(nocturo nocturoctl nocturo-guard nocturo-profile-guard profile_probe)
+programs=(nocturo nocturoctl nocturo-guard nocturo-bus-guard nocturo-profile-guard profile_probe)
 
 # The programs, and those of their libraries that the other release has not.
 bring_nocturo() {
@@ -17,8 +17,8 @@ bring_nocturo() {
   mkdir -p "$root/opt/nocturo/bin" "$root/opt/nocturo/lib"
   for program in "${programs[@]}"; do
     cp "$bin/$program" "$root/opt/nocturo/bin"
-    ldd "$bin/$program" 2>/dev/null | awk '/=> \// { print $3 }' | while read -r library; do
-      find "$root/usr/lib" -name "${library##*/}" | grep -q . || cp -L "$library" "$root/opt/nocturo/lib"
+    for library in $(ldd "$bin/$program" 2>/dev/null | awk '/=> \// { print $3 }'); do # none of a static one
+      [ -n "$(find "$root/usr/lib" -name "${library##*/}")" ] || cp -L "$library" "$root/opt/nocturo/lib"
     done
   done
   cp "$here/look.sh" "$root/opt/nocturo"
