@@ -142,29 +142,46 @@ std::optional<RestoredByHand> restoreOverTheBus(EventLoop& loop) {
     return isWayland ? std::optional(RestoredByHand{}) : std::nullopt;
 }
 
+/// On the X server of that display.
+Result<RestoredByHand, RandrRefusal> restoreOnServer(const std::string& display, EventLoop& loop) {
+    const auto server = XConnection::open(display);
+    const auto hardware = RandrHardware::open(server.get());
+    if (!hardware) {
+        return tl::unexpected(hardware.error());
+    }
+    const auto systemBus = Bus::connect(systemBusAddress(), loop);
+    ProfileCalibrations calibrations(server.get(), systemBus.get());
+    return restoreDisplaysByHand(**hardware, calibrations);
+}
+
 ListedText restore(const std::string& display, const std::string& waylandDisplay) {
     EventLoop loop;
     const bool switchedOff = switchOffOverTheBus(loop);
+    // What a Wayland session has for an X server may have to be started first; elsewhere the X
+    // server comes first, because it needs nobody else.
+    Result<RestoredByHand, RandrRefusal> onServer{};
+    if (waylandDisplay.empty()) {
+        onServer = restoreOnServer(display, loop);
+        if (onServer && (onServer->askedNocturo || onServer->repair != Repair::notNeeded)) {
+            return told(*onServer, switchedOff);
+        }
+    }
     if (const auto done = restoreProfiles(waylandDisplay, switchedOff)) {
         return *done;
     }
     if (const auto done = restoreOverTheBus(loop)) {
         return told(*done, switchedOff);
     }
-    const auto server = XConnection::open(display);
-    const auto hardware = RandrHardware::open(server.get());
-    if (hardware) {
-        const auto systemBus = Bus::connect(systemBusAddress(), loop);
-        ProfileCalibrations calibrations(server.get(), systemBus.get());
-        return told(restoreDisplaysByHand(**hardware, calibrations), switchedOff);
+    if (!waylandDisplay.empty()) {
+        onServer = restoreOnServer(display, loop);
     }
-    if (switchedOff) {
-        return kSwitchedOff;
+    if (onServer || switchedOff) {
+        return told(onServer.value_or(RestoredByHand{}), switchedOff);
     }
     throw Failure{kFailed, display.empty()
                                ? translated("There is no X server whose displays could be given "
                                             "back, because DISPLAY is not set.")
-                               : openingProblem(hardware.error(), display)};
+                               : openingProblem(onServer.error(), display)};
 }
 
 } // namespace
