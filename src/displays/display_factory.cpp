@@ -21,11 +21,14 @@
 #include "x11/x_connection.h"
 
 #include <charconv>
+#include <chrono>
 #include <utility>
 
 namespace nocturo {
 
 namespace {
+
+constexpr std::chrono::milliseconds kWaitForCalibrations{100};
 
 tl::unexpected<Problem> failedForNow(const std::string& problem) {
     return failed(problem + ' ' +
@@ -89,8 +92,17 @@ OpenedDisplays waylandDisplays(WaylandConnection* compositor,
 OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection,
                            const DisplaySurroundings& surroundings, RunLoop& runLoop) {
     WaylandConnection* compositor = connection.get();
-    auto services = std::make_unique<RampDisplayServices>(
-        std::make_unique<WlrHardware>(std::move(connection), kKernelConnectors), nullptr, &runLoop);
+    auto hardware = std::make_unique<WlrHardware>(std::move(connection), kKernelConnectors);
+    auto calibrations = std::make_unique<ProfileCalibrations>(nullptr, surroundings.systemBus);
+    // These compositors load no profile's calibration, so nothing shows it before an effect does.
+    std::vector<Head> heads;
+    hardware->listHeads(heads);
+    for (const Head& head : heads) {
+        calibrations->calibration(head.connector, head.rampSize);
+    }
+    calibrations->waitForAnswers(kWaitForCalibrations);
+    auto services = std::make_unique<RampDisplayServices>(std::move(hardware),
+                                                          std::move(calibrations), &runLoop);
     logInfo(kLogDisplays, "Displays are those of a Wayland compositor with wlr-gamma-control.");
     return waylandDisplays(compositor, std::move(services), runLoop, surroundings.lost);
 }

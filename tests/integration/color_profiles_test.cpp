@@ -6,6 +6,7 @@
 #include "displays/calibration/profile_calibrations.h"
 #include "nocturo_test.h"
 #include "rig/color_profile.h"
+#include "rig/sway.h"
 
 using namespace nocturo;
 using namespace nocturo::rig;
@@ -120,6 +121,25 @@ struct ColorProfilesOfColord : ColorProfiles {
     std::unique_ptr<Process> colord_;
     std::map<std::string, std::string> devices_; // object paths by connector
 };
+
+TEST_F(ColorProfilesOfColord, AreWhatEffectsStartFromUnderWayland) {
+    if (const std::string why = Sway::whyMissing(); !why.empty()) {
+        GTEST_SKIP() << why;
+    }
+    const Sway sway(1, 256);
+    session_.environment()["WAYLAND_DISPLAY"] = sway.display();
+    assign("HEADLESS-1", 2);
+    select("NDInvertEffect");
+    nocturo_ = session_.startNocturo();
+    const auto holds = [&](const std::optional<Channels>& ramp) {
+        return waitUntil([&] { return sway.ramp("HEADLESS-1") == ramp; });
+    };
+    EXPECT_TRUE(holds(reversed(calibration(2))));
+    ctl({"off"});
+    EXPECT_TRUE(holds(std::nullopt)); // as it was
+    ctl({"on"});
+    EXPECT_TRUE(holds(reversed(calibration(2))));
+}
 
 TEST_F(ColorProfilesOfColord, HoldWhenNocturoIsKilled) {
     setProperty("_ICC_PROFILE", 1);
