@@ -68,7 +68,8 @@ install /tmp/nocturo.deb
 [ "$(inside nocturo --version)" = "nocturo $(dpkg-deb -f "$deb" Version | sed 's/-[^-]*$//')" ]
 inside nocturoctl --version
 inside nocturoctl --help >/dev/null
-files_are_there /usr/libexec/nocturo-guard /usr/libexec/nocturo-bus-guard /etc/xdg/autostart/org.nocturo.Nocturo.desktop \
+files_are_there /usr/libexec/nocturo-guard /usr/libexec/nocturo-bus-guard \
+  /usr/libexec/nocturo-profile-guard /etc/xdg/autostart/org.nocturo.Nocturo.desktop \
   /usr/share/man/man1/nocturo.1.gz /usr/share/dbus-1/services/org.nocturo.Nocturo.service
 said=$(in_session '! nocturoctl preferences')
 [[ $said == *"package nocturo-desktop"* ]] || fail "nothing tells what windows come with: $said"
