@@ -85,7 +85,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     std::optional<LauncherMenu> launcherMenu_; // where there is a bus
     Tray tray_;
     std::unique_ptr<TrayWindow> awaitedTray_; // while there is no part to show the item in
-    std::unique_ptr<Timer> trayLook_; // soon, for what to load the library
+    std::unique_ptr<Timer> trayLook_;         // soon, for what to load the library
     bool inTray_ = false;
     bool itemEmbedded_ = false;
     bool itemActive_ = false;
