@@ -7,6 +7,17 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   add_compile_options(-Wno-restrict)
 endif()
 
+# What reads files, buses and screens of others makes it as hard as compilers can to do more than
+# crash it. Overruns of buffers are watched only where there is no sanitizer, which watches better.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+add_compile_options(-fstack-protector-strong -fstack-clash-protection)
+add_link_options(LINKER:-z,relro,-z,now)
+if(NOT NOCTURO_SANITIZE)
+  add_compile_options($<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=2>)
+endif()
+
 if(NOCTURO_WERROR)
   add_compile_options(-Werror)
 endif()

@@ -32,6 +32,26 @@ desktop_entries() {
   [ "$(HOME=$work XDG_CONFIG_HOME='' sh -c "$command")" = started ] || fail "starts for nobody"
 }
 
+# Position independent, read-only once it is linked, which is at the start, no code on the stack; and what
+# compilers add to watch buffers, which shows where it is taken from the C library.
+hardened() {
+  need readelf
+  local file facts
+  for file in "$prefix"/bin/* "$prefix"/libexec/* "$prefix"/lib*/nocturo/*.so; do
+    facts=$(readelf -Whld "$file")
+    [[ $facts == *"Type:"*"DYN"* ]] || fail "$file is not position independent"
+    [[ $facts == *GNU_RELRO* ]] || fail "$file stays writable where it is linked"
+    [[ $facts =~ (BIND_NOW|Flags:.*NOW) ]] || fail "$file is linked as it goes"
+    [[ $facts =~ GNU_STACK[^$'\n']*" RW " ]] || fail "$file may run code on the stack"
+    if [[ $facts == *NEEDED*libc.so* ]]; then
+      facts=$(readelf -W --dyn-syms "$file")
+      [[ $facts == *__stack_chk_fail* ]] || fail "$file has no stack protector"
+      # The others call nothing that could be checked.
+      [[ $file != */bin/* || $facts == *_chk@* ]] || fail "$file is not fortified"
+    fi
+  done
+}
+
 metainfo() {
   need appstreamcli
   appstreamcli validate --no-net "$share/metainfo/org.nocturo.Nocturo.metainfo.xml"

@@ -51,9 +51,10 @@ bool useDecimalComma(const TemporaryDirectory& directory) {
                                     "grouping -1\nEND LC_NUMERIC\n");
     const std::string place = directory / "";
     // The other categories are missing, which localedef reports and survives.
-    static_cast<void>(std::system(("localedef --no-archive -c -i " + place + "source " + place +
-                                   "comma >" + place + "log 2>&1")
-                                      .c_str()));
+    [[maybe_unused]] const int reported =
+        std::system(("localedef --no-archive -c -i " + place + "source " + place + "comma >" +
+                     place + "log 2>&1")
+                        .c_str());
     ::setenv("LOCPATH", place.c_str(), 1);
     return std::setlocale(LC_NUMERIC, "comma") != nullptr;
 }
