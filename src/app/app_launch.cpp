@@ -100,14 +100,11 @@ void NDAppController::initDefaults() {
 }
 
 void NDAppController::restoreEffect() {
-    if (startsSwitchedOff_) {
-        setEffectActive(false, true);
-    } else if (defaults_.boolForKey(kActivateAtLaunch)) {
-        setEffectActive(true, true);
-    } else if (defaults_.boolForKey(kEffectActive)) {
+    const bool always = !startsSwitchedOff_ && defaults_.boolForKey(kActivateAtLaunch);
+    if (!startsSwitchedOff_ && !always && defaults_.boolForKey(kEffectActive)) {
         setEffectActive(true, false);
     } else {
-        setEffectActive(false, true);
+        setEffectActive(always, true);
     }
 }
 

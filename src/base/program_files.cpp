@@ -12,6 +12,7 @@ namespace {
 std::filesystem::path ownPlace() {
     std::error_code failed;
     const auto link = std::filesystem::read_symlink("/proc/self/exe", failed);
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the C library hands the address out as a number
     const auto* started = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
     return failed && started != nullptr ? std::filesystem::path(started) : link;
 }

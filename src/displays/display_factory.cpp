@@ -136,7 +136,7 @@ std::optional<FoundShell> shellOn(const std::string& sessionBus, EventLoop& loop
 
 /// `compositor`, which may be null, only tells when the session ends.
 Result<OpenedDisplays> shellsDisplays(FoundShell found,
-                                      std::shared_ptr<WaylandConnection> compositor,
+                                      const std::shared_ptr<WaylandConnection>& compositor,
                                       const DisplaySurroundings& surroundings, EventLoop& loop) {
     const std::string desktop = found.shell.names->desktop;
     const JournalFile journal =

@@ -126,8 +126,8 @@ void NDPreferencesController::setUpSliders() {
     }
     ui_->hueWord->setFixedWidth(width);
     strips_.setSingleShot(true);
-    constexpr int kFrameMilliseconds = 16;
-    strips_.setInterval(kFrameMilliseconds);
+    constexpr int kStripsMilliseconds = 16;
+    strips_.setInterval(kStripsMilliseconds);
     connect(&strips_, &QTimer::timeout, this, &NDPreferencesController::updateStrips);
 }
 

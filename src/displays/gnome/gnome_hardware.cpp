@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kPatienceMs = 500;
+constexpr int kCalibrationPatienceMs = 500;
 constexpr auto kPatienceAtStart = 5s; // it has its name on the bus before it answers
 // While another program calibrates a monitor it is asked for again no more often than this.
 constexpr auto kPauseWhenTaken = 30s;
@@ -244,8 +244,8 @@ bool GnomeHardware::borrow(Crtc& crtc) {
         return false;
     }
     crtc.askAgain = now + kPauseWhenTaken;
-    auto outcome = MonitorCalibration::take(*bus_, *shell_.names, crtc.connector, kPatienceMs,
-                                            [this, &crtc] { lose(crtc); });
+    auto outcome = MonitorCalibration::take(*bus_, *shell_.names, crtc.connector,
+                                            kCalibrationPatienceMs, [this, &crtc] { lose(crtc); });
     if (outcome.silent) {
         questions_.noteSilence();
         return false;

@@ -24,7 +24,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int kPatienceMs = 5000; // the shell may be starting
+constexpr int kRepairPatienceMs = 5000; // the shell may be starting
 constexpr auto kPatienceForTheBus = 2s;
 constexpr const char* kJournal = "ramps@";
 constexpr char kEndOfWriter = '\n';
@@ -67,14 +67,14 @@ bool waitUntilGone(const Bus& bus, const std::string& connection) {
 /// Nothing where the shell does not answer.
 std::optional<ShellResources> fetchResources(const Bus& bus, const Shell& shell) {
     const BusMessage answer =
-        bus.callAndWait(resourcesCall(bus, *shell.names), kPatienceMs, nullptr);
+        bus.callAndWait(resourcesCall(bus, *shell.names), kRepairPatienceMs, nullptr);
     return answer != nullptr ? resourcesIn(answer.get()) : std::nullopt;
 }
 
 std::optional<Ramp> fetchRamp(const Bus& bus, const Shell& shell, std::uint32_t serial,
                               std::uint32_t crtc) {
     const BusMessage answer =
-        bus.callAndWait(readRampCall(bus, *shell.names, serial, crtc), kPatienceMs, nullptr);
+        bus.callAndWait(readRampCall(bus, *shell.names, serial, crtc), kRepairPatienceMs, nullptr);
     return answer != nullptr ? rampIn(answer.get()) : std::nullopt;
 }
 
@@ -88,7 +88,7 @@ bool giveBack(const Bus& bus, const Shell& shell, const Journal::Entry& entry) {
         sd_bus_error error{};
         const BusMessage call =
             writeRampCall(bus, *shell.names, resources->serial, entry.crtc, entry.ramp);
-        const BusMessage written = bus.callAndWait(call, kPatienceMs, &error);
+        const BusMessage written = bus.callAndWait(call, kRepairPatienceMs, &error);
         const bool again = isStale(error);
         const bool isRefused =
             again || sd_bus_error_has_name(&error, SD_BUS_ERROR_INVALID_ARGS) > 0;

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 1000ms;
+constexpr auto kWritePatience = 1000ms;
 
 } // namespace
 
@@ -88,7 +88,7 @@ bool KdeHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
 }
 
 void KdeHardware::waitForWrites() {
-    profiles_.waitUntilDone(kPatience);
+    profiles_.waitUntilDone(kWritePatience);
 }
 
 } // namespace nocturo

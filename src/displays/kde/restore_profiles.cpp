@@ -19,13 +19,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 3000ms;
+constexpr auto kRestorePatience = 3000ms;
 constexpr auto kGivingBack = 1000ms;
 constexpr int kSwitchOff = SIGUSR2; // as every Nocturo understands it
 
 bool waitForDevices(WaylandConnection& compositor, const OutputDevices& devices) {
-    return compositor.sync(kPatience) &&
-           compositor.waitUntil([&] { return devices.areDescribed(); }, kPatience);
+    return compositor.sync(kRestorePatience) &&
+           compositor.waitUntil([&] { return devices.areDescribed(); }, kRestorePatience);
 }
 
 const OutputDevice* withKey(const OutputDevices& devices, const std::string& key) {
@@ -95,7 +95,7 @@ class Restoration {
         }
         const std::array<ProfileConfigurations::Change, 1> change = {{{device, setting}}};
         configurations_.apply(change, [](const Result<void>& /*result*/) {});
-        compositor_.waitUntil([this] { return !configurations_.isUnderWay(); }, kPatience);
+        compositor_.waitUntil([this] { return !configurations_.isUnderWay(); }, kRestorePatience);
         device = withKey(devices_, key);
         return !configurations_.isUnderWay() && device != nullptr &&
                device->setting.path == setting.path;
