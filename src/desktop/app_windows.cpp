@@ -38,7 +38,7 @@ AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
 }
 
 AppWindows::~AppWindows() {
-    if (preferencesVisible()) {
+    if (AppWindows::preferencesVisible()) {
         savePlace();
     }
     localCenter_.removeObserver(this);
