@@ -5,7 +5,7 @@ set -euo pipefail
 . "$(dirname "$0")/fresh_root.sh"
 
 make_root "$1"
-mount -t tmpfs tmpfs "$root/run"
+mount -t tmpfs -o mode=755 tmpfs "$root/run" # others' directories are not used
 mount -t tmpfs tmpfs "$root/dev/shm"
 echo force-unsafe-io >"$root/etc/dpkg/dpkg.cfg.d/quickly" # the root does not outlive a crash
 mkdir "$root/nocturo"
