@@ -45,6 +45,9 @@ class ParameterSlider : public QWidget {
     /// it.
     void setValue(float value);
 
+    /// The same, as the user's doing.
+    void moveTo(double value);
+
     /// There is no value to show: the field is empty and the slider without a handle. Whoever sets
     /// or moves it gives it one again.
     void setEmpty();
@@ -61,9 +64,6 @@ class ParameterSlider : public QWidget {
 
     /// The value that stands there.
     double valueAt(double share) const;
-
-    /// The same, as the user's doing.
-    void moveTo(double value);
 
   Q_SIGNALS:
     /// The user changed the value: once for every step, before the next event is taken in.
