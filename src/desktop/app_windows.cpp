@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPalette>
+#include <QScreen>
 #include <QSettings>
 
 #include <algorithm>
@@ -27,6 +28,16 @@ namespace {
 constexpr QSize kPictureSize(640, 400);
 constexpr auto kGeometry = "Geometry";
 constexpr auto kPage = "Page";
+
+// Where the display server places windows, the one where a window was tells nothing of the one
+// where it comes to, which may be smaller.
+void fitAnyScreen(QWidget& window) {
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        for (const QScreen* screen : QGuiApplication::screens()) {
+            window.resize(window.size().boundedTo(screen->availableSize()));
+        }
+    }
+}
 
 } // namespace
 
@@ -169,6 +180,7 @@ void AppWindows::loadPreferences() {
         if (!placeFile.empty()) {
             const QSettings kept(QString::fromStdString(placeFile), QSettings::IniFormat);
             preferences.window()->restoreGeometry(kept.value(kGeometry).toByteArray());
+            fitAnyScreen(*preferences.window());
             preferences.showPage(kept.value(kPage).toInt());
         }
         QObject::connect(preferences.window(), &PreferencePanel::closed, &preferences,
