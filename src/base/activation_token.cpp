@@ -10,4 +10,9 @@ void keepActivationToken(const std::string& token) {
     }
 }
 
+std::string givenActivationToken() {
+    const char* token = std::getenv("XDG_ACTIVATION_TOKEN");
+    return token != nullptr ? token : "";
+}
+
 } // namespace nocturo

@@ -8,4 +8,7 @@ namespace nocturo {
 /// it next may come to the front. Nothing where it is empty.
 void keepActivationToken(const std::string& token);
 
+/// What the desktop gave this process along with the wish that started it; empty where nothing.
+std::string givenActivationToken();
+
 } // namespace nocturo

@@ -4,6 +4,7 @@
 #include "app/disturbance_watch.h"
 #include "app/keep_colors.h"
 #include "app/user_interface.h"
+#include "base/activation_token.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/notification_names.h"
@@ -56,10 +57,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 51> members;
+    static const std::array<sd_bus_vtable, 52> members;
 };
 
-const std::array<sd_bus_vtable, 51> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 52> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
@@ -132,6 +133,8 @@ const std::array<sd_bus_vtable, 51> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::openFile>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SaveFile", SD_BUS_ARGS("s", path), SD_BUS_NO_RESULT,
                             kServe<&BusFace::saveFile>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ProvideActivationToken", SD_BUS_ARGS("s", token), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::provideActivationToken>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ShowPreferences", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::showPreferences>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ShowAboutBox", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
@@ -283,6 +286,11 @@ BusAnswer BusFace::saveFile(const std::string& path) {
     if (!userInterface_.saveEffectFile(path)) {
         return failure(translated("Could not save settings at \"%@\".", {path}));
     }
+    return {};
+}
+
+BusAnswer BusFace::provideActivationToken(const std::string& token) {
+    keepActivationToken(token);
     return {};
 }
 

@@ -77,6 +77,7 @@ class BusFace {
     BusAnswer setHotKey(const std::string& text);
     BusAnswer openFile(const std::string& path);
     BusAnswer saveFile(const std::string& path);
+    BusAnswer provideActivationToken(const std::string& token);
     BusAnswer showPreferences();
     BusAnswer showAboutBox();
     BusAnswer show(const std::function<void()>& window);

@@ -17,6 +17,9 @@ namespace {
 
 constexpr const char* kApplicationInterface = "org.freedesktop.Application";
 
+// Of platform data.
+constexpr const char* kActivationToken = "activation-token";
+
 // The one that runs may be asking its user something before it comes to open anything.
 constexpr int kOpenTimeoutMs = 5000;
 
@@ -68,7 +71,7 @@ std::string uriOf(const std::string& path) {
 static bool readArgument(sd_bus_message* call, PlatformData& data) {
     return forEachEntry(call, [&](std::string_view key) {
         std::string text = readTextVariant(call);
-        if (key == "activation-token") {
+        if (key == kActivationToken) {
             data.activationToken = std::move(text);
         }
     });
@@ -199,7 +202,7 @@ std::optional<std::string> openInRunningApplication(const Bus& bus,
     }
     const BusMessage call = bus.newCall(kBusName, kObjectPath, kApplicationInterface, "Open");
     appendValue(call.get(), uris);
-    appendDictionary(call.get(), {});
+    appendDictionary(call.get(), {{kActivationToken, givenActivationToken()}});
     sd_bus_error error{};
     const BusMessage answer = bus.callAndWait(call, kOpenTimeoutMs, &error);
     std::optional<std::string> refusal;

@@ -1,5 +1,6 @@
 #include "ctl/commands.h"
 
+#include "base/activation_token.h"
 #include "ctl/bus_client.h"
 #include "ctl/effect_verbs.h"
 #include "ctl/failure.h"
@@ -179,15 +180,18 @@ void runSave(Arguments arguments) {
     BusClient().call("SaveFile", absolutePath(arguments[0]));
 }
 
-void runPreferences(Arguments arguments) {
+template <const char* method>
+void runWindow(Arguments arguments) {
     expect(arguments.empty());
-    BusClient().call("ShowPreferences");
+    BusClient client;
+    if (const std::string token = givenActivationToken(); !token.empty()) {
+        client.call("ProvideActivationToken", token);
+    }
+    client.call(method);
 }
 
-void runAbout(Arguments arguments) {
-    expect(arguments.empty());
-    BusClient().call("ShowAboutBox");
-}
+constexpr char kShowPreferences[] = "ShowPreferences";
+constexpr char kShowAboutBox[] = "ShowAboutBox";
 
 std::uint32_t mainDisplay(const Json& properties) {
     for (const Json& display : properties["displays"]) {
@@ -310,8 +314,9 @@ constexpr std::array kCommands = std::to_array<Command>({
      ListedText("The curves of a display, of the main one unless told otherwise, and a scene seen\n"
                 "through them, as a PNG picture. N is its number, name or identifier."),
      runPreview},
-    {"preferences", "", ListedText("Show the preference window"), ListedText(), runPreferences},
-    {"about", "", ListedText("Show the about box"), ListedText(), runAbout},
+    {"preferences", "", ListedText("Show the preference window"), ListedText(),
+     runWindow<kShowPreferences>},
+    {"about", "", ListedText("Show the about box"), ListedText(), runWindow<kShowAboutBox>},
     {"watch", "", ListedText("Print every change as it happens"),
      ListedText("One JSON object a line, with what changed. Ends when Nocturo does."), runWatch},
     {"restore", "", ListedText("Give every display its own colors back"),

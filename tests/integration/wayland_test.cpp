@@ -88,6 +88,23 @@ TEST_F(Wayland, GivesTheLineForADesktopThatGrantsNoHotKey) {
     }));
 }
 
+TEST_F(Wayland, BringsAWindowToTheFrontWithTheTokenOfWhoAsksForIt) {
+    end();
+    session_.environment()["QT_QPA_PLATFORM"] = "wayland";
+    session_.environment()["WAYLAND_DEBUG"] = "client";
+    nocturo_ = session_.startNocturo();
+    session_.environment()["XDG_ACTIVATION_TOKEN"] = "of-a-key";
+    for (const char* window : {"preferences", "about"}) {
+        ctl({window});
+    }
+    EXPECT_TRUE(waitUntil([&] {
+        const std::string sent = nocturo_->errors();
+        const auto first = sent.find(".activate(\"of-a-key\"");
+        return first != std::string::npos &&
+               sent.find(".activate(\"of-a-key\"", first + 1) != std::string::npos;
+    }));
+}
+
 TEST_F(Wayland, KeepsTheSettingsWhereItsWindowsEndWithTheCompositorFirst) {
     end();
     session_.environment()["QT_QPA_PLATFORM"] = "wayland";
