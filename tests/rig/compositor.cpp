@@ -178,6 +178,10 @@ struct Compositor::State {
         }
         return 0;
     }
+    /// A client must not be destroyed while a request of its is dispatched.
+    static void hangUp(wl_resource* resource) {
+        shutdown(wl_client_get_fd(wl_resource_get_client(resource)), SHUT_RDWR);
+    }
     void settle() {
         mostAtATime =
             std::max(mostAtATime,
@@ -192,7 +196,7 @@ struct Compositor::State {
     }
     void settle(Configuration& configuration) {
         if (answer == Answer::hangsUp) {
-            wl_client_destroy(wl_resource_get_client(configuration.resource));
+            hangUp(configuration.resource);
             return;
         }
         const bool isRefused = std::any_of(
@@ -245,7 +249,7 @@ struct Compositor::State {
         close(arguments[0].h);
         ++state->asked;
         if (state->answer == Answer::hangsUp) {
-            wl_client_destroy(wl_resource_get_client(control));
+            hangUp(control);
         } else if (state->answer == Answer::refuses) {
             wl_resource_post_event(control, 1);
         }
