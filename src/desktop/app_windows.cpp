@@ -32,7 +32,9 @@ constexpr auto kPage = "Page";
 // Where the display server places windows, the one where a window was tells nothing of the one
 // where it comes to, which may be smaller.
 void fitAnyScreen(QWidget& window) {
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+    const bool isPlacedByServer =
+        QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    if (isPlacedByServer && window.testAttribute(Qt::WA_Resized)) {
         for (const QScreen* screen : QGuiApplication::screens()) {
             window.resize(window.size().boundedTo(screen->availableSize()));
         }
