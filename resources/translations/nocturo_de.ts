@@ -335,8 +335,8 @@
             <translation>Aus. Wählen Sie Effekte und schalten Sie dann ein</translation>
         </message>
         <message>
-            <source>Off. Switched on: %@</source>
-            <translation>Aus. Eingeschaltet: %@</translation>
+            <source>Off. When on: %@</source>
+            <translation>Aus. Beim Einschalten: %@</translation>
         </message>
         <message>
             <source>On, but no effect is chosen</source>

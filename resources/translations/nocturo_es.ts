@@ -335,7 +335,7 @@
             <translation>Desactivado. Elija efectos y luego actívelo</translation>
         </message>
         <message>
-            <source>Off. Switched on: %@</source>
+            <source>Off. When on: %@</source>
             <translation>Desactivado. Al activarlo: %@</translation>
         </message>
         <message>

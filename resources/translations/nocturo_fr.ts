@@ -335,7 +335,7 @@
             <translation>Désactivé. Choisissez des effets, puis activez</translation>
         </message>
         <message>
-            <source>Off. Switched on: %@</source>
+            <source>Off. When on: %@</source>
             <translation>Désactivé. Une fois activé : %@</translation>
         </message>
         <message>

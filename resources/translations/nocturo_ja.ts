@@ -335,7 +335,7 @@
             <translation>オフ。効果を選んでからオンにしてください</translation>
         </message>
         <message>
-            <source>Off. Switched on: %@</source>
+            <source>Off. When on: %@</source>
             <translation>オフ。オンにすると: %@</translation>
         </message>
         <message>

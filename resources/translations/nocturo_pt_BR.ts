@@ -335,7 +335,7 @@
             <translation>Desligado. Escolha efeitos e depois ligue</translation>
         </message>
         <message>
-            <source>Off. Switched on: %@</source>
+            <source>Off. When on: %@</source>
             <translation>Desligado. Ao ligar: %@</translation>
         </message>
         <message>

@@ -335,7 +335,7 @@
             <translation>已关闭。请选择效果，然后打开</translation>
         </message>
         <message>
-            <source>Off. Switched on: %@</source>
+            <source>Off. When on: %@</source>
             <translation>已关闭。打开后：%@</translation>
         </message>
         <message>

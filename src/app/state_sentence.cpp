@@ -124,7 +124,7 @@ std::string stateSentence(const EffectState& state) {
     }
     if (!state.isOn) {
         return names.empty() ? translated("Off. Choose effects, then switch on")
-                             : translated("Off. Switched on: %@", {joined(names)});
+                             : translated("Off. When on: %@", {joined(names)});
     }
     if (names.empty()) {
         return translated("On, but no effect is chosen");
