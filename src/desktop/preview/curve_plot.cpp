@@ -1,5 +1,6 @@
 #include "desktop/preview/curve_plot.h"
 
+#include "desktop/level_tables.h"
 #include "desktop/mixed_color.h"
 #include "desktop/qt/localized.h"
 
@@ -20,30 +21,65 @@ constexpr float kSamePixel = 1.0F / 256; // half a pixel in a plot of usual size
 constexpr double kBeyond = 0.07;         // how much room there is above 1 and below 0
 constexpr int kGridCells = 4;
 
-bool isDark(const QPalette& palette) {
-    return palette.color(QPalette::Base).lightness() < 128;
-}
-
-/// Channels that share a line; each bit one, red lowest.
-QColor lineColor(unsigned channels, const QPalette& palette) {
-    struct Pair {
-        QRgb onLight;
-        QRgb onDark;
-    };
-    // Readable on either background, also as thin lines; pure colors are not.
-    static constexpr std::array<Pair, 7> kColors{{{0xd01c1f, 0xff6961},
-                                                  {0x12873a, 0x4fd483},
-                                                  {0x857000, 0xe3cf4d},
-                                                  {0x1f54d1, 0x75a7ff},
-                                                  {0x9a2fb0, 0xe58cff},
-                                                  {0x00808a, 0x54d6de},
-                                                  {0, 0}}};
-    if (channels == 7) {
-        return palette.color(QPalette::Text);
+/// The colors of the plot, as they have to be drawn to be seen as such on a screen that inverts or
+/// tints them. Ground and text, which are plain, pass through it as those of the window do.
+class PlotColors {
+  public:
+    PlotColors(const QPalette& palette, const PreviewCurves& curves)
+        : text_(palette.color(QPalette::Text)), levels_(plainLevels(curves)) {
+        const auto& screen =
+            curves.seenThrough.sampleCount > 0 ? curves.seenThrough : curves.before;
+        onDark_ = seenLight(palette.color(QPalette::Base), screen) < seenLight(text_, screen);
     }
-    const Pair& pair = kColors[channels - 1];
-    return QColor::fromRgb(isDark(palette) ? pair.onDark : pair.onLight);
-}
+
+    /// Of channels that share a line; each bit one, red lowest.
+    QColor line(unsigned channels) const {
+        struct Pair {
+            QRgb onLight;
+            QRgb onDark;
+        };
+        // Readable on either background, also as thin lines; pure colors are not.
+        static constexpr std::array<Pair, 6> kColors{{{0xd01c1f, 0xff6961},
+                                                      {0x12873a, 0x4fd483},
+                                                      {0x857000, 0xe3cf4d},
+                                                      {0x1f54d1, 0x75a7ff},
+                                                      {0x9a2fb0, 0xe58cff},
+                                                      {0x00808a, 0x54d6de}}};
+        if (channels == 7) {
+            return text_;
+        }
+        const Pair& pair = kColors[channels - 1];
+        return throughScreen(onDark_ ? pair.onDark : pair.onLight);
+    }
+
+    /// Marks clipping.
+    QColor clip() const { return throughScreen(onDark_ ? 0xff9a1f : 0xe06c00); }
+
+  private:
+    QColor throughScreen(QRgb color) const {
+        const auto level = [](int value) { return static_cast<std::size_t>(value); };
+        return {levels_[0][level(qRed(color))], levels_[1][level(qGreen(color))],
+                levels_[2][level(qBlue(color))]};
+    }
+
+    static double seenLight(const QColor& color, const ZQGammaCurve& screen) {
+        const std::array levels{color.redF(), color.greenF(), color.blueF()};
+        double light = 0;
+        for (std::size_t channel = 0; channel < levels.size(); ++channel) {
+            const auto place = static_cast<std::size_t>(
+                levels[channel] * static_cast<float>(std::max(screen.sampleCount, 1U) - 1));
+            const float seen = screen.sampleCount > 0
+                                   ? limitedEntry((*channelsOf(screen)[channel])[place])
+                                   : levels[channel];
+            light += static_cast<double>(seen);
+        }
+        return light;
+    }
+
+    QColor text_;
+    std::array<LevelTable, 3> levels_;
+    bool onDark_ = false;
+};
 
 bool isAlike(const ZQGammaTable& left, const ZQGammaTable& right, std::uint32_t count) {
     for (std::uint32_t i = 0; i < count; ++i) {
@@ -137,7 +173,7 @@ void paintClipMark(QPainter& painter, const QRectF& mark, const QColor& color) {
 }
 
 void paintClipped(QPainter& painter, const Plot& plot, const ZQGammaCurve& curve,
-                  const QPalette& palette) {
+                  const PlotColors& colors) {
     const auto clipped = clippedEntries(curve);
     const auto paintSpans = [&](const auto& entries, double from, double to) {
         for (std::uint32_t i = 0; i < curve.sampleCount; ++i) {
@@ -151,7 +187,7 @@ void paintClipped(QPainter& painter, const Plot& plot, const ZQGammaCurve& curve
             const QPointF start = plot.at(inputOf(first, curve.sampleCount), from);
             const QPointF end = plot.at(inputOf(i, curve.sampleCount), to);
             const QRectF mark = QRectF(start, end).normalized();
-            paintClipMark(painter, mark.adjusted(-1, 0, 1, 0), clipColor(palette));
+            paintClipMark(painter, mark.adjusted(-1, 0, 1, 0), colors.clip());
         }
     };
     paintSpans(clipped.bright, 1, 1 + kBeyond);
@@ -159,12 +195,12 @@ void paintClipped(QPainter& painter, const Plot& plot, const ZQGammaCurve& curve
 }
 
 void paintLines(QPainter& painter, const Plot& plot, const PreviewCurves& curves,
-                const QPalette& palette) {
+                const PlotColors& colors) {
     painter.save();
     painter.setClipRect(plot.frame);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& [channels, table] : linesOf(curves.before)) {
-        QColor color = lineColor(channels, palette);
+        QColor color = colors.line(channels);
         color.setAlphaF(0.75F);
         QPen pen(color, 1.2);
         pen.setDashPattern({3, 3});
@@ -172,10 +208,9 @@ void paintLines(QPainter& painter, const Plot& plot, const PreviewCurves& curves
         paintLine(painter, plot, *table, curves.before.sampleCount, true);
     }
     for (const auto& [channels, table] : linesOf(curves.after)) {
-        painter.setPen(QPen(lineColor(channels, palette), 1));
+        painter.setPen(QPen(colors.line(channels), 1));
         paintLine(painter, plot, *table, curves.after.sampleCount, false);
-        painter.setPen(
-            QPen(lineColor(channels, palette), 2.2, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+        painter.setPen(QPen(colors.line(channels), 2.2, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
         paintLine(painter, plot, *table, curves.after.sampleCount, true);
     }
     painter.restore();
@@ -197,7 +232,7 @@ QString lettersOf(unsigned channels) {
 
 /// Their letters at the ends of their lines, pushed apart where these are close.
 void paintLetters(QPainter& painter, const Plot& plot, const ZQGammaCurve& curve,
-                  const QPalette& palette) {
+                  const PlotColors& colors) {
     const std::uint32_t last = curve.sampleCount - 1;
     const double height = painter.fontMetrics().capHeight() + 4.0;
     auto lines = linesOf(curve);
@@ -211,7 +246,7 @@ void paintLetters(QPainter& painter, const Plot& plot, const ZQGammaCurve& curve
     double next = plot.frame.top() + height / 2;
     for (const Line& line : lines) {
         const double y = std::min(std::max(heightOf(line), next), lowest);
-        painter.setPen(lineColor(line.channels, palette));
+        painter.setPen(colors.line(line.channels));
         painter.drawText(QRectF(plot.frame.right() + 4, y - height, 100, 2 * height),
                          Qt::AlignLeft | Qt::AlignVCenter, lettersOf(line.channels));
         next = y + height;
@@ -254,10 +289,6 @@ Plot plotIn(const QPainter& painter, const QRectF& area) {
 
 } // namespace
 
-QColor clipColor(const QPalette& palette) {
-    return isDark(palette) ? QColor(0xff, 0x9a, 0x1f) : QColor(0xe0, 0x6c, 0x00);
-}
-
 void paintCurvePlot(QPainter& painter, const QRectF& area, const PreviewCurves& curves,
                     const QPalette& palette) {
     painter.save();
@@ -271,9 +302,10 @@ void paintCurvePlot(QPainter& painter, const QRectF& area, const PreviewCurves& 
         painter.drawText(plot.grid.adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
                          localized("The colors of this screen cannot be changed."));
     } else {
-        paintClipped(painter, plot, curves.after, palette);
-        paintLines(painter, plot, curves, palette);
-        paintLetters(painter, plot, curves.after, palette);
+        const PlotColors colors(palette, curves);
+        paintClipped(painter, plot, curves.after, colors);
+        paintLines(painter, plot, curves, colors);
+        paintLetters(painter, plot, curves.after, colors);
     }
     painter.restore();
 }
@@ -314,10 +346,11 @@ void paintPlotLegend(QPainter& painter, const QRectF& area, const PreviewCurves&
     paintEntry(localized("With effect"), lineSample(QPen(ink, 2.2)));
     const auto clipped = clippedEntries(curves.after);
     if (clipped.anyBright || clipped.anyDark) {
+        const PlotColors colors(palette, curves);
         paintEntry(localized("Clipped"), [&](const QRectF& place) {
             QRectF mark(0, 0, place.width(), metrics.capHeight());
             mark.moveCenter(place.center());
-            paintClipMark(painter, mark, clipColor(palette));
+            paintClipMark(painter, mark, colors.clip());
         });
     }
     painter.restore();

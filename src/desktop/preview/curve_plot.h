@@ -23,7 +23,4 @@ void paintCurvePlot(QPainter& painter, const QRectF& area, const PreviewCurves& 
 void paintPlotLegend(QPainter& painter, const QRectF& area, const PreviewCurves& curves,
                      const QPalette& palette);
 
-/// What marks clipping, on a palette as light or dark as this one.
-QColor clipColor(const QPalette& palette);
-
 } // namespace nocturo

@@ -88,6 +88,10 @@ std::array<LevelTable, 3> pictureLevels(const PreviewCurves& curves) {
     return levels;
 }
 
+std::array<LevelTable, 3> plainLevels(const PreviewCurves& curves) {
+    return pictureLevels({curves.before, {}, curves.seenThrough});
+}
+
 ClippedEntries clippedEntries(const ZQGammaCurve& curve) {
     ClippedEntries clipped;
     const std::uint32_t count = curve.sampleCount;

@@ -29,6 +29,10 @@ float limitedEntry(float entry);
 /// will show it with the effect.
 std::array<LevelTable, 3> pictureLevels(const PreviewCurves& curves);
 
+/// The same for what is no picture of the effect but drawn beside one, so that it is seen as if the
+/// screen did nothing to it.
+std::array<LevelTable, 3> plainLevels(const PreviewCurves& curves);
+
 /// Where a curve cannot be followed: the entries above or below what a display can show, and those
 /// that other entries were cut to. A channel that is the same everywhere was not cut but removed.
 struct ClippedEntries {
