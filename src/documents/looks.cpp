@@ -213,6 +213,10 @@ Result<void> Looks::changed() {
     return {};
 }
 
+void Looks::directoriesDidChange() {
+    static_cast<void>(changed());
+}
+
 Result<void> Looks::save(const std::string& name, const EffectDocument& effects) {
     if (!isName(name)) {
         return noName(name);

@@ -14,7 +14,7 @@ namespace nocturo {
 class NotificationCenter;
 
 /// Posted on the local notification center after looks were saved, renamed, deleted or put in
-/// another order here.
+/// another order, here or by another program.
 inline constexpr std::string_view kLooksDidChangeNotification = "NocturoLooksDidChangeNotification";
 
 /// A combination of effects with a name: an effect document in a directory of looks.
@@ -41,6 +41,9 @@ class Looks {
     /// Neither directory need exist.
     Looks(std::filesystem::path shipped, std::filesystem::path own, NotificationCenter& center);
 
+    /// Where they are.
+    std::vector<std::filesystem::path> directories() const { return {shipped_, own_}; }
+
     /// In the user's order. Valid until the next call that is not const.
     const std::vector<Look>& all();
 
@@ -53,6 +56,9 @@ class Looks {
     // Of the user's own.
     Result<void> rename(std::string_view name, const std::string& to);
     Result<void> remove(std::string_view name);
+
+    /// Another program may have changed one of the directories.
+    void directoriesDidChange();
 
     /// Puts any look at a place, 0 or more; beyond the last one is last.
     Result<void> move(std::string_view name, std::size_t place);

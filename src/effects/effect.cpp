@@ -49,8 +49,8 @@ DefaultsStore& NDEffect::userDefaults() {
     return *store;
 }
 
-void NDEffect::setUserDefaults(std::shared_ptr<DefaultsStore> store) {
-    sharedDefaults() = std::move(store);
+std::shared_ptr<DefaultsStore> NDEffect::setUserDefaults(std::shared_ptr<DefaultsStore> store) {
+    return std::exchange(sharedDefaults(), std::move(store));
 }
 
 } // namespace nocturo

@@ -47,8 +47,9 @@ class NDEffect {
     NSComparisonResult priorityCompare(const NDEffect& other) const;
 
     /// The store shared by all effect classes; the process's standard one unless set before.
+    /// Setting it returns the one before, which may be null.
     static DefaultsStore& userDefaults();
-    static void setUserDefaults(std::shared_ptr<DefaultsStore> store);
+    static std::shared_ptr<DefaultsStore> setUserDefaults(std::shared_ptr<DefaultsStore> store);
 
   protected:
     NDEffect() = default;

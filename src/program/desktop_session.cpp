@@ -58,6 +58,8 @@ void DesktopSession::listen() {
                      DesktopSources::Surroundings{displays_.areOfXServer() ? server_ : nullptr,
                                                   loginSession(), core_.sessionBus.get(),
                                                   core_.systemBus.get()});
+    looksWatch_.emplace(core_.looks.directories(), core_.runLoop,
+                        [this] { core_.looks.directoriesDidChange(); });
 }
 
 } // namespace nocturo

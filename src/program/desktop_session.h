@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/directory_watch.h"
 #include "program/desktop_hot_keys.h"
 #include "program/window_restoration.h"
 #include "session/desktop_entries.h"
@@ -43,6 +44,7 @@ class DesktopSession {
     WindowRestoration windowRestoration_;
     std::optional<DesktopHotKeys> hotKeys_;
     std::optional<DesktopSources> sources_;
+    std::optional<DirectoryWatch> looksWatch_;
 };
 
 } // namespace nocturo

@@ -2,9 +2,12 @@
 
 #include "documents/looks.h"
 
+#include "base/directory_watch.h"
 #include "documents/chosen_look.h"
 #include "documents/current_effects.h"
 #include "documents/effect_document_file.h"
+#include "effects/group_effect.h"
+#include "fake_run_loop.h"
 #include "settings_fixture.h"
 #include "temporary_directory.h"
 
@@ -92,6 +95,41 @@ TEST_F(LooksTest, AreAppliedAsOneChangeAndLeftAgain) {
     EXPECT_EQ(inForce(), "Paper tint");
     store_->setFloat(0, "NDDimEffectLevel");
     EXPECT_EQ(inForce(), "");
+}
+
+TEST_F(LooksTest, MakeOfACurveWhatTheSettingsWouldWithoutTouchingThem) {
+    ZQGammaCurve shown;
+    shown.sampleCount = 1;
+    shown.redTable[0] = shown.greenTable[0] = shown.blueTable[0] = 1;
+    ZQGammaCurve chosen = shown;
+    applyEffects(looks_.named("Night reading")->effects, shown);
+    EXPECT_EQ(changes_, 0);
+    EXPECT_TRUE(chosen_.apply("Night reading"));
+    NDGroupEffect::effect().applyEffectOnGammaCurve(&chosen, 0);
+    EXPECT_EQ(shown.redTable[0], 0.5F);
+    EXPECT_EQ(shown.redTable[0], chosen.redTable[0]);
+}
+
+TEST_F(LooksTest, FollowWhatAnotherProgramDoesToTheDirectory) {
+    FakeRunLoop loop;
+    const DirectoryWatch watch(looks_.directories(), loop, [&] { looks_.directoriesDidChange(); });
+    std::vector<std::string> told;
+    center_.addObserver(&told, kLooksDidChangeNotification, [&] { told = names(); });
+    const auto toldAfter = [&](const auto& change) {
+        change();
+        EXPECT_TRUE(loop.serveDescriptors());
+        loop.advance(100);
+        return told;
+    };
+    EXPECT_THAT(toldAfter([&] { std::filesystem::create_directories(home_ / "own"); }),
+                ElementsAre("Night reading", "Paper tint"));
+    EXPECT_THAT(toldAfter([&] { put("own/Film", 0); }),
+                ElementsAre("Night reading", "Paper tint", "Film"));
+    toldAfter([&] { put("own/Film", 0.5F); });
+    EXPECT_EQ(looks_.named("Film")->effects.dimLevel, 0.5F);
+    EXPECT_THAT(toldAfter([&] { std::filesystem::remove(home_ / "own/Film.nocturo"); }),
+                ElementsAre("Night reading", "Paper tint"));
+    center_.removeObserver(&told);
 }
 
 TEST_F(LooksTest, TakeWhatOthersPutIntoTheDirectoryWithinLimits) {
