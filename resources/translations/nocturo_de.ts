@@ -20,6 +20,10 @@
             <translation>Looks und Effekte</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Looks</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Effekte</translation>
         </message>
@@ -903,6 +907,82 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Super</translation>
         </message>
         <message>
+            <source>Save as a look...</source>
+            <translation>Als Look speichern...</translation>
+        </message>
+        <message>
+            <source>Keeps the effects under a name of your own</source>
+            <translation>Behält die Effekte unter einem eigenen Namen</translation>
+        </message>
+        <message>
+            <source>Change</source>
+            <translation>Ändern</translation>
+        </message>
+        <message>
+            <source>Renames, moves or deletes the look that is marked</source>
+            <translation>Benennt den markierten Look um, verschiebt oder löscht ihn</translation>
+        </message>
+        <message>
+            <source>A click puts a look on the screens, another one takes it away</source>
+            <translation>Ein Klick bringt einen Look auf die Bildschirme, ein weiterer nimmt ihn weg</translation>
+        </message>
+        <message>
+            <source>Rename...</source>
+            <translation>Umbenennen...</translation>
+        </message>
+        <message>
+            <source>Move to the front</source>
+            <translation>Nach vorn</translation>
+        </message>
+        <message>
+            <source>Move to the back</source>
+            <translation>Nach hinten</translation>
+        </message>
+        <message>
+            <source>Delete...</source>
+            <translation>Löschen...</translation>
+        </message>
+        <message>
+            <source>Save as a look</source>
+            <translation>Als Look speichern</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Speichern</translation>
+        </message>
+        <message>
+            <source>Rename Look</source>
+            <translation>Look umbenennen</translation>
+        </message>
+        <message>
+            <source>Rename</source>
+            <translation>Umbenennen</translation>
+        </message>
+        <message>
+            <source>Delete the look "%@"?</source>
+            <translation>Den Look „%@“ löschen?</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Löschen</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Name:</source>
+            <translation>Name:</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>Einen Look „%@“ gibt es schon.</translation>
+        </message>
+        <message>
+            <source>Replace</source>
+            <translation>Ersetzen</translation>
+        </message>
+        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Dieser Desktop zeigt momentan kein Benachrichtigungsfeld an; Nocturo ist über das Anwendungsmenü erreichbar.</translation>
         </message>
@@ -1045,10 +1125,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Close anyway</source>
             <translation>Trotzdem schließen</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
         </message>
         <message>
             <source>Nocturo effects</source>
@@ -1245,10 +1321,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The look "%@" comes with Nocturo and stays as it is.</source>
             <translation>Der Look „%@“ gehört zu Nocturo und bleibt, wie er ist.</translation>
-        </message>
-        <message>
-            <source>There is a look "%@" already.</source>
-            <translation>Einen Look „%@“ gibt es schon.</translation>
         </message>
         <message>
             <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>

@@ -20,6 +20,10 @@
             <translation>Aspectos y efectos</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Aspectos</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Efectos</translation>
         </message>
@@ -903,6 +907,82 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Super</translation>
         </message>
         <message>
+            <source>Save as a look...</source>
+            <translation>Guardar como aspecto...</translation>
+        </message>
+        <message>
+            <source>Keeps the effects under a name of your own</source>
+            <translation>Conserva los efectos con un nombre propio</translation>
+        </message>
+        <message>
+            <source>Change</source>
+            <translation>Cambiar</translation>
+        </message>
+        <message>
+            <source>Renames, moves or deletes the look that is marked</source>
+            <translation>Cambia el nombre, el lugar del aspecto marcado o lo elimina</translation>
+        </message>
+        <message>
+            <source>A click puts a look on the screens, another one takes it away</source>
+            <translation>Un clic pone un aspecto en las pantallas y otro lo quita</translation>
+        </message>
+        <message>
+            <source>Rename...</source>
+            <translation>Cambiar nombre...</translation>
+        </message>
+        <message>
+            <source>Move to the front</source>
+            <translation>Hacia el principio</translation>
+        </message>
+        <message>
+            <source>Move to the back</source>
+            <translation>Hacia el final</translation>
+        </message>
+        <message>
+            <source>Delete...</source>
+            <translation>Eliminar...</translation>
+        </message>
+        <message>
+            <source>Save as a look</source>
+            <translation>Guardar como aspecto</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
+        </message>
+        <message>
+            <source>Rename Look</source>
+            <translation>Cambiar el nombre del aspecto</translation>
+        </message>
+        <message>
+            <source>Rename</source>
+            <translation>Cambiar</translation>
+        </message>
+        <message>
+            <source>Delete the look "%@"?</source>
+            <translation>¿Eliminar el aspecto «%@»?</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Eliminar</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>Aceptar</translation>
+        </message>
+        <message>
+            <source>Name:</source>
+            <translation>Nombre:</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>Ya existe un aspecto «%@».</translation>
+        </message>
+        <message>
+            <source>Replace</source>
+            <translation>Reemplazar</translation>
+        </message>
+        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Este escritorio no muestra ninguna bandeja del sistema en este momento; puede acceder a Nocturo desde el menú de aplicaciones.</translation>
         </message>
@@ -1045,10 +1125,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Close anyway</source>
             <translation>Cerrar de todos modos</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>Aceptar</translation>
         </message>
         <message>
             <source>Nocturo effects</source>
@@ -1245,10 +1321,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The look "%@" comes with Nocturo and stays as it is.</source>
             <translation>El aspecto «%@» viene con Nocturo y se queda como está.</translation>
-        </message>
-        <message>
-            <source>There is a look "%@" already.</source>
-            <translation>Ya existe un aspecto «%@».</translation>
         </message>
         <message>
             <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>

@@ -20,6 +20,10 @@
             <translation>Apparences et effets</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Apparences</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Effets</translation>
         </message>
@@ -903,6 +907,82 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Super</translation>
         </message>
         <message>
+            <source>Save as a look...</source>
+            <translation>Garder l’apparence...</translation>
+        </message>
+        <message>
+            <source>Keeps the effects under a name of your own</source>
+            <translation>Garde les effets sous un nom de votre choix</translation>
+        </message>
+        <message>
+            <source>Change</source>
+            <translation>Modifier</translation>
+        </message>
+        <message>
+            <source>Renames, moves or deletes the look that is marked</source>
+            <translation>Renomme, déplace ou supprime l’apparence marquée</translation>
+        </message>
+        <message>
+            <source>A click puts a look on the screens, another one takes it away</source>
+            <translation>Un clic applique une apparence aux écrans, un autre la retire</translation>
+        </message>
+        <message>
+            <source>Rename...</source>
+            <translation>Renommer...</translation>
+        </message>
+        <message>
+            <source>Move to the front</source>
+            <translation>Vers le début</translation>
+        </message>
+        <message>
+            <source>Move to the back</source>
+            <translation>Vers la fin</translation>
+        </message>
+        <message>
+            <source>Delete...</source>
+            <translation>Supprimer...</translation>
+        </message>
+        <message>
+            <source>Save as a look</source>
+            <translation>Garder l’apparence</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Rename Look</source>
+            <translation>Renommer l’apparence</translation>
+        </message>
+        <message>
+            <source>Rename</source>
+            <translation>Renommer</translation>
+        </message>
+        <message>
+            <source>Delete the look "%@"?</source>
+            <translation>Supprimer l’apparence « %@ » ?</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Supprimer</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Name:</source>
+            <translation>Nom :</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>L’apparence « %@ » existe déjà.</translation>
+        </message>
+        <message>
+            <source>Replace</source>
+            <translation>Remplacer</translation>
+        </message>
+        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Ce bureau n’affiche pas de zone de notification pour le moment ; Nocturo reste accessible par le menu des applications.</translation>
         </message>
@@ -1045,10 +1125,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>Close anyway</source>
             <translation>Fermer quand même</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
         </message>
         <message>
             <source>Nocturo effects</source>
@@ -1245,10 +1321,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The look "%@" comes with Nocturo and stays as it is.</source>
             <translation>L’apparence « %@ » est fournie avec Nocturo et reste telle quelle.</translation>
-        </message>
-        <message>
-            <source>There is a look "%@" already.</source>
-            <translation>L’apparence « %@ » existe déjà.</translation>
         </message>
         <message>
             <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>

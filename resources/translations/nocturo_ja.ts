@@ -20,6 +20,10 @@
             <translation>ルックと効果</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>ルック</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>効果</translation>
         </message>
@@ -902,6 +906,82 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Super</translation>
         </message>
         <message>
+            <source>Save as a look...</source>
+            <translation>ルックとして保存...</translation>
+        </message>
+        <message>
+            <source>Keeps the effects under a name of your own</source>
+            <translation>エフェクトに名前を付けて残します</translation>
+        </message>
+        <message>
+            <source>Change</source>
+            <translation>変更</translation>
+        </message>
+        <message>
+            <source>Renames, moves or deletes the look that is marked</source>
+            <translation>選ばれているルックの名前や順序を変え、または削除します</translation>
+        </message>
+        <message>
+            <source>A click puts a look on the screens, another one takes it away</source>
+            <translation>クリックするとルックが画面に掛かり、もう一度で外れます</translation>
+        </message>
+        <message>
+            <source>Rename...</source>
+            <translation>名前を変更...</translation>
+        </message>
+        <message>
+            <source>Move to the front</source>
+            <translation>前へ</translation>
+        </message>
+        <message>
+            <source>Move to the back</source>
+            <translation>後へ</translation>
+        </message>
+        <message>
+            <source>Delete...</source>
+            <translation>削除...</translation>
+        </message>
+        <message>
+            <source>Save as a look</source>
+            <translation>ルックとして保存</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>保存</translation>
+        </message>
+        <message>
+            <source>Rename Look</source>
+            <translation>ルックの名前を変更</translation>
+        </message>
+        <message>
+            <source>Rename</source>
+            <translation>変更</translation>
+        </message>
+        <message>
+            <source>Delete the look "%@"?</source>
+            <translation>ルック“%@”を削除しますか？</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>削除</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Name:</source>
+            <translation>名前:</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>「%@」というルックはすでにあります。</translation>
+        </message>
+        <message>
+            <source>Replace</source>
+            <translation>置き換える</translation>
+        </message>
+        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>このデスクトップには現在システムトレイがありません。Nocturo はアプリケーションメニューから操作できます。</translation>
         </message>
@@ -1044,10 +1124,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Close anyway</source>
             <translation>このまま閉じる</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
         </message>
         <message>
             <source>Nocturo effects</source>
@@ -1244,10 +1320,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The look "%@" comes with Nocturo and stays as it is.</source>
             <translation>ルック「%@」は Nocturo に付属するもので、変更できません。</translation>
-        </message>
-        <message>
-            <source>There is a look "%@" already.</source>
-            <translation>「%@」というルックはすでにあります。</translation>
         </message>
         <message>
             <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>

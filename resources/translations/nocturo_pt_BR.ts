@@ -20,6 +20,10 @@
             <translation>Visuais e efeitos</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>Visuais</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>Efeitos</translation>
         </message>
@@ -903,6 +907,82 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Super</translation>
         </message>
         <message>
+            <source>Save as a look...</source>
+            <translation>Salvar como visual...</translation>
+        </message>
+        <message>
+            <source>Keeps the effects under a name of your own</source>
+            <translation>Guarda os efeitos com um nome seu</translation>
+        </message>
+        <message>
+            <source>Change</source>
+            <translation>Alterar</translation>
+        </message>
+        <message>
+            <source>Renames, moves or deletes the look that is marked</source>
+            <translation>Renomeia, move ou exclui o visual marcado</translation>
+        </message>
+        <message>
+            <source>A click puts a look on the screens, another one takes it away</source>
+            <translation>Um clique aplica um visual às telas, outro o retira</translation>
+        </message>
+        <message>
+            <source>Rename...</source>
+            <translation>Renomear...</translation>
+        </message>
+        <message>
+            <source>Move to the front</source>
+            <translation>Para o início</translation>
+        </message>
+        <message>
+            <source>Move to the back</source>
+            <translation>Para o fim</translation>
+        </message>
+        <message>
+            <source>Delete...</source>
+            <translation>Excluir...</translation>
+        </message>
+        <message>
+            <source>Save as a look</source>
+            <translation>Salvar como visual</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Salvar</translation>
+        </message>
+        <message>
+            <source>Rename Look</source>
+            <translation>Renomear visual</translation>
+        </message>
+        <message>
+            <source>Rename</source>
+            <translation>Renomear</translation>
+        </message>
+        <message>
+            <source>Delete the look "%@"?</source>
+            <translation>Excluir o visual “%@”?</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Excluir</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
+            <source>Name:</source>
+            <translation>Nome:</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>Já existe um visual “%@”.</translation>
+        </message>
+        <message>
+            <source>Replace</source>
+            <translation>Substituir</translation>
+        </message>
+        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>Este ambiente de trabalho não mostra nenhuma bandeja no momento; o Nocturo pode ser acessado pelo menu de aplicativos.</translation>
         </message>
@@ -1045,10 +1125,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>Close anyway</source>
             <translation>Fechar mesmo assim</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>OK</translation>
         </message>
         <message>
             <source>Nocturo effects</source>
@@ -1245,10 +1321,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The look "%@" comes with Nocturo and stays as it is.</source>
             <translation>O visual “%@” vem com o Nocturo e permanece como está.</translation>
-        </message>
-        <message>
-            <source>There is a look "%@" already.</source>
-            <translation>Já existe um visual “%@”.</translation>
         </message>
         <message>
             <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>

@@ -20,6 +20,10 @@
             <translation>外观与效果</translation>
         </message>
         <message>
+            <source>Looks</source>
+            <translation>外观方案</translation>
+        </message>
+        <message>
             <source>Effects</source>
             <translation>效果</translation>
         </message>
@@ -901,6 +905,82 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Super</translation>
         </message>
         <message>
+            <source>Save as a look...</source>
+            <translation>存为外观方案...</translation>
+        </message>
+        <message>
+            <source>Keeps the effects under a name of your own</source>
+            <translation>以您起的名称保留这些效果</translation>
+        </message>
+        <message>
+            <source>Change</source>
+            <translation>更改</translation>
+        </message>
+        <message>
+            <source>Renames, moves or deletes the look that is marked</source>
+            <translation>重命名、移动或删除选中的外观方案</translation>
+        </message>
+        <message>
+            <source>A click puts a look on the screens, another one takes it away</source>
+            <translation>单击将外观方案用于屏幕，再次单击则取消</translation>
+        </message>
+        <message>
+            <source>Rename...</source>
+            <translation>重命名...</translation>
+        </message>
+        <message>
+            <source>Move to the front</source>
+            <translation>前移</translation>
+        </message>
+        <message>
+            <source>Move to the back</source>
+            <translation>后移</translation>
+        </message>
+        <message>
+            <source>Delete...</source>
+            <translation>删除...</translation>
+        </message>
+        <message>
+            <source>Save as a look</source>
+            <translation>存为外观方案</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>保存</translation>
+        </message>
+        <message>
+            <source>Rename Look</source>
+            <translation>重命名外观方案</translation>
+        </message>
+        <message>
+            <source>Rename</source>
+            <translation>重命名</translation>
+        </message>
+        <message>
+            <source>Delete the look "%@"?</source>
+            <translation>删除外观方案“%@”？</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>删除</translation>
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>确定</translation>
+        </message>
+        <message>
+            <source>Name:</source>
+            <translation>名称：</translation>
+        </message>
+        <message>
+            <source>There is a look "%@" already.</source>
+            <translation>已有外观方案“%@”。</translation>
+        </message>
+        <message>
+            <source>Replace</source>
+            <translation>替换</translation>
+        </message>
+        <message>
             <source>This desktop shows no tray at the moment; Nocturo can be reached through the applications menu.</source>
             <translation>此桌面当前没有系统托盘；可以通过应用程序菜单使用 Nocturo。</translation>
         </message>
@@ -1043,10 +1123,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Close anyway</source>
             <translation>仍然关闭</translation>
-        </message>
-        <message>
-            <source>OK</source>
-            <translation>确定</translation>
         </message>
         <message>
             <source>Nocturo effects</source>
@@ -1243,10 +1319,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The look "%@" comes with Nocturo and stays as it is.</source>
             <translation>外观方案“%@”随 Nocturo 提供，不能更改。</translation>
-        </message>
-        <message>
-            <source>There is a look "%@" already.</source>
-            <translation>已有外观方案“%@”。</translation>
         </message>
         <message>
             <source>This desktop takes hot keys from its own settings. Add a shortcut for this command there:</source>

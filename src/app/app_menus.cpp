@@ -21,10 +21,9 @@ Menu::Id append(Menu& menu, std::string text, std::function<void()> picked) {
 // A dock shows its menu below the actions of the desktop entry, which are the rest of the status
 // menu.
 AppMenus::AppMenus(NDAppController& controller, DefaultsStore& defaults,
-                   NotificationCenter& localCenter, ChosenLook& chosenLook,
-                   std::function<void()> quit)
-    : controller_(controller), defaults_(defaults), localCenter_(localCenter),
-      chosenLook_(chosenLook), activateItem_(appendActivateItem(effectMenu_)),
+                   NotificationCenter& localCenter, LookPicker& looks, std::function<void()> quit)
+    : controller_(controller), defaults_(defaults), localCenter_(localCenter), looks_(looks),
+      activateItem_(appendActivateItem(effectMenu_)),
       dockActivateItem_(appendActivateItem(dockMenu_)),
       statusActivateItem_(appendActivateItem(statusMenu_)) {
     setActivateItemTitles(false);
@@ -49,8 +48,8 @@ void AppMenus::setActivateItemTitles(bool active) {
 
 void AppMenus::makeScreenMenus() {
     // Before the screens, whose run starts right after the activate item.
-    mainLooks_.emplace(controller_, chosenLook_, localCenter_, effectMenu_, activateItem_);
-    statusLooks_.emplace(controller_, chosenLook_, localCenter_, statusMenu_, statusActivateItem_);
+    mainLooks_.emplace(looks_, localCenter_, effectMenu_, activateItem_);
+    statusLooks_.emplace(looks_, localCenter_, statusMenu_, statusActivateItem_);
     const auto make = [this](auto& manager, Menu& menu, Menu::Id activateItem, int indent) {
         manager.emplace(defaults_, localCenter_, menu, activateItem, Menu::kNone, false, false,
                         indent);

@@ -9,8 +9,8 @@
 
 namespace nocturo {
 
-class ChosenLook;
 class DefaultsStore;
+class LookPicker;
 class NDAppController;
 class NotificationCenter;
 
@@ -19,7 +19,7 @@ class AppMenus {
   public:
     /// All must outlive the menus; `quit` is what the quit items do.
     AppMenus(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
-             ChosenLook& chosenLook, std::function<void()> quit);
+             LookPicker& looks, std::function<void()> quit);
 
     /// The part of the main menu that switches the effect.
     Menu& effectMenu() { return effectMenu_; }
@@ -43,7 +43,7 @@ class AppMenus {
     NDAppController& controller_;
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
-    ChosenLook& chosenLook_;
+    LookPicker& looks_;
     Menu effectMenu_;
     Menu dockMenu_;
     Menu statusMenu_;

@@ -1,10 +1,11 @@
 #include "app/looks_menu.h"
 
-#include "app/app_controller.h"
+#include "app/look_picker.h"
 #include "base/notification_center.h"
 #include "base/texts/translated.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
+#include "effects/group_effect.h"
 #include "settings/defaults_store.h"
 
 #include <utility>
@@ -28,9 +29,9 @@ std::string nameOf(const Look* look) {
 
 } // namespace
 
-LooksMenu::LooksMenu(NDAppController& controller, ChosenLook& chosen,
-                     NotificationCenter& localCenter, Menu& menu, Menu::Id afterItem)
-    : controller_(controller), chosen_(chosen), localCenter_(localCenter), menu_(menu) {
+LooksMenu::LooksMenu(LookPicker& picker, NotificationCenter& localCenter, Menu& menu,
+                     Menu::Id afterItem)
+    : picker_(picker), localCenter_(localCenter), menu_(menu) {
     MenuItem title;
     title.text = translated("Looks");
     title_ = menu_.insertAfter(afterItem, std::move(title));
@@ -53,18 +54,18 @@ LooksMenu::~LooksMenu() {
 }
 
 void LooksMenu::list() {
-    const auto& looks = chosen_.looks().all();
+    const auto& looks = picker_.chosen().looks().all();
     for (; items_.size() > looks.size(); items_.pop_back()) {
         menu_.remove(items_.back());
     }
-    ticked_ = nameOf(chosen_.inForce());
+    ticked_ = nameOf(picker_.chosen().inForce());
     for (std::size_t place = 0; place < looks.size(); ++place) {
         MenuItem item;
         item.text = plainText(looks[place].title);
         item.under = title_;
         item.isCheckable = true;
         item.isChecked = looks[place].name == ticked_;
-        item.picked = [this, name = looks[place].name] { pick(name); };
+        item.picked = [this, name = looks[place].name] { picker_.pick(name); };
         if (place < items_.size()) {
             menu_.setItem(items_[place], std::move(item));
         } else {
@@ -75,18 +76,8 @@ void LooksMenu::list() {
 }
 
 void LooksMenu::tick() {
-    if (nameOf(chosen_.inForce()) != ticked_) {
+    if (nameOf(picker_.chosen().inForce()) != ticked_) {
         list();
-    }
-}
-
-void LooksMenu::pick(const std::string& name) {
-    if (name == ticked_) {
-        static_cast<void>(chosen_.goBack()); // nothing was before the first
-        return;
-    }
-    if (chosen_.apply(name) && !controller_.effectActive()) {
-        controller_.setEffectActive(true, true);
     }
 }
 

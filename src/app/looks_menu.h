@@ -7,18 +7,15 @@
 
 namespace nocturo {
 
-class ChosenLook;
-class NDAppController;
+class LookPicker;
 class NotificationCenter;
 
 /// Keeps the submenu "Looks" of a menu: every look in the user's order, the one in force ticked.
-/// Picking one applies it and switches the effect on; picking the ticked one goes back. Main thread
-/// only.
+/// Picking one is LookPicker::pick. Main thread only.
 class LooksMenu {
   public:
     /// The item of the submenu stands right after `afterItem`. All must outlive this.
-    LooksMenu(NDAppController& controller, ChosenLook& chosen, NotificationCenter& localCenter,
-              Menu& menu, Menu::Id afterItem);
+    LooksMenu(LookPicker& picker, NotificationCenter& localCenter, Menu& menu, Menu::Id afterItem);
     ~LooksMenu();
     LooksMenu(const LooksMenu&) = delete;
     LooksMenu& operator=(const LooksMenu&) = delete;
@@ -26,10 +23,8 @@ class LooksMenu {
   private:
     void list();
     void tick();
-    void pick(const std::string& name);
 
-    NDAppController& controller_;
-    ChosenLook& chosen_;
+    LookPicker& picker_;
     NotificationCenter& localCenter_;
     Menu& menu_;
     Menu::Id title_;

@@ -1,6 +1,7 @@
 #include "desktop/app_windows.h"
 
 #include "app/app_controller.h"
+#include "app/look_picker.h"
 #include "app/state_sentence.h"
 #include "base/notification_names.h"
 #include "desktop/about/about_box_controller.h"
@@ -44,9 +45,9 @@ void fitAnyScreen(QWidget& window) {
 } // namespace
 
 AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
-                       const NotificationCenters& centers)
+                       const NotificationCenters& centers, LookPicker& looks)
     : controller_(controller), defaults_(defaults), localCenter_(centers.local),
-      distributedCenter_(centers.distributed) {
+      distributedCenter_(centers.distributed), looks_(looks) {
     QApplication::setWindowIcon(applicationIcon()); // of dialogs as well
 }
 
@@ -66,7 +67,8 @@ NDPreferencesController& AppWindows::preferencesController() {
             [this](bool recording) { controller_.setRecordingHotKey(recording); },
             [this] { return controller_.effectActive(); },
             [this] { controller_.toggleGlobalEffect(); },
-            [this] { return stateSentence(controller_, defaults_); },
+            [this] { return stateSentence(controller_, defaults_); }, &looks_.chosen(),
+            [this](const std::string& name) { looks_.pick(name); },
             [this] { return documentFolder ? documentFolder() : std::filesystem::path(); }});
         preferenceController->setKeyboardLayout(layout_);
         QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,

@@ -16,6 +16,7 @@ namespace nocturo {
 
 class DefaultsStore;
 class KeyboardLayout;
+class LookPicker;
 class NDAppController;
 class ZQAboutBoxController;
 struct NotificationCenters;
@@ -25,7 +26,7 @@ class AppWindows : public UserInterface {
   public:
     /// All must outlive the windows.
     AppWindows(NDAppController& controller, DefaultsStore& defaults,
-               const NotificationCenters& centers);
+               const NotificationCenters& centers, LookPicker& looks);
     ~AppWindows() override;
 
     /// Must outlive the windows or be taken away with null.
@@ -77,6 +78,7 @@ class AppWindows : public UserInterface {
     DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
     NotificationCenter& distributedCenter_;
+    LookPicker& looks_;
     KeyboardLayout* layout_ = nullptr;
     QPointer<QMenuBar> menuBar_;
     QString notice_;

@@ -77,7 +77,8 @@ class Application {
 class QtDesktop : public DesktopPart {
   public:
     explicit QtDesktop(const DesktopSurroundings& around)
-        : application_(around.loop), windows_(around.controller, around.defaults, around.centers),
+        : application_(around.loop),
+          windows_(around.controller, around.defaults, around.centers, around.looks),
           menus_(around.controller, windows_, around.recentDocuments, around.menus, around.server) {
         windows_.placeFile = around.stateDirectory / "window.ini";
         atSuddenEnd() = around.serverIsLost;

@@ -16,6 +16,7 @@ class AppMenus;
 class DefaultsStore;
 class EventLoop;
 class KeyboardLayout;
+class LookPicker;
 class NDAppController;
 class RecentDocuments;
 class XConnection;
@@ -27,6 +28,7 @@ struct DesktopSurroundings {
     NDAppController& controller;
     DefaultsStore& defaults;
     NotificationCenters centers;
+    LookPicker& looks;
     const RecentDocuments& recentDocuments;
     std::filesystem::path stateDirectory; // for what windows remember
     AppMenus& menus;

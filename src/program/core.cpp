@@ -22,7 +22,7 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
       looks(programFile("looks", NOCTURO_DATA_FROM_BIN), dataDirectory() / "looks", centers.local),
-      desktop(runLoop, sessionBus.get(), controller, defaults, centers, chosenLook),
+      desktop(runLoop, sessionBus.get(), controller, defaults, centers, lookPicker),
       keepColors(controller, defaults, centers.local, runLoop),
       face(controller, defaults, centers.local, disturbances, desktop, keepColors, chosenLook,
            sessionBus.get(), loop) {

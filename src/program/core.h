@@ -3,6 +3,7 @@
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
 #include "app/keep_colors.h"
+#include "app/look_picker.h"
 #include "app/wake_repeater.h"
 #include "base/bus.h"
 #include "base/event_loop.h"
@@ -43,6 +44,7 @@ struct Core {
     const DisturbanceWatch disturbances;
     Looks looks;
     ChosenLook chosenLook{looks};
+    LookPicker lookPicker{controller, chosenLook};
     DesktopOnDemand desktop;
     KeepColors keepColors;
     BusFace face;

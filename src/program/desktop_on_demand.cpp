@@ -61,10 +61,10 @@ bool drawTestCard(const Ramp& ramp, const std::filesystem::path& picture) {
 
 DesktopOnDemand::DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppController& controller,
                                  DefaultsStore& defaults, const NotificationCenters& centers,
-                                 ChosenLook& chosenLook)
+                                 LookPicker& looks)
     : loop_(loop), bus_(bus), controller_(controller), defaults_(defaults), centers_(centers),
-      recentDocuments_(stateDirectory() / "recent-documents.plist"),
-      menus_(controller, defaults, centers.local, chosenLook, [&loop] { loop.quit(); }),
+      looks_(looks), recentDocuments_(stateDirectory() / "recent-documents.plist"),
+      menus_(controller, defaults, centers.local, looks, [&loop] { loop.quit(); }),
       tray_(menus_.statusMenu(), loop, sessionBusAddress(),
             {[this](bool shown) { setItemEmbedded(shown); },
              [this](int x, int y) { popUpStatusMenu(x, y); }},
@@ -93,7 +93,7 @@ Result<DesktopPart*> DesktopOnDemand::load() {
     }
     choosePlatform(server_);
     awaitedTray_.reset(); // the part has one of its own
-    part_ = (*library)->start({loop_, controller_, defaults_, centers_, recentDocuments_,
+    part_ = (*library)->start({loop_, controller_, defaults_, centers_, looks_, recentDocuments_,
                                stateDirectory(), menus_, server_,
                                [this] {
                                    if (sessionIsEnding) {

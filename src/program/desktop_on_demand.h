@@ -19,10 +19,10 @@
 
 namespace nocturo {
 
-class ChosenLook;
 class DefaultsStore;
 class EventLoop;
 class KeyboardLayout;
+class LookPicker;
 class NDAppController;
 
 /// The windows and everything else that the desktop part shows, for the core. The library that
@@ -32,8 +32,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
   public:
     /// All must outlive this; `bus` may be null.
     DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppController& controller,
-                    DefaultsStore& defaults, const NotificationCenters& centers,
-                    ChosenLook& chosenLook);
+                    DefaultsStore& defaults, const NotificationCenters& centers, LookPicker& looks);
     ~DesktopOnDemand() override;
 
     /// Called when the session is about to end, if a window was ever shown.
@@ -79,6 +78,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     NDAppController& controller_;
     DefaultsStore& defaults_;
     const NotificationCenters centers_;
+    LookPicker& looks_;
     const RecentDocuments recentDocuments_;
     bool problemTold_ = false;
     AppMenus menus_;

@@ -3,10 +3,14 @@
 
 #include "app/disturbance_watch.h"
 #include "app/flux_check.h"
+#include "app/look_picker.h"
 #include "app/user_interface.h"
 #include "app/wake_repeater.h"
 #include "controller_fixture.h"
+#include "documents/chosen_look.h"
+#include "documents/looks.h"
 #include "session/installed_applications.h"
+#include "temporary_directory.h"
 
 using namespace nocturo;
 
@@ -322,4 +326,27 @@ TEST_F(AppController, HardwareThatKeepsFewerBitsIsNoDisturbance) {
     controller_.applicationDidFinishLaunching();
     runLoop_.advance(60000);
     EXPECT_EQ(watch.count(), 0U);
+}
+
+TEST_F(AppController, ALookIsPutOnWithOneClickAndTakenOffWithTheNext) {
+    store_->setBool(false, "ActivateAtLaunch");
+    controller_.applicationDidFinishLaunching();
+    const TemporaryDirectory home;
+    Looks looks(home / "shipped", home / "own", center_);
+    ASSERT_TRUE(looks.save("Plain", {}));
+    ASSERT_TRUE(looks.save("Negative", {.invertScreen = true}));
+    ChosenLook chosen(looks);
+    LookPicker picker(controller_, chosen);
+    const auto after = [&](const char* name) {
+        picker.pick(name);
+        return (controller_.effectActive() ? "on " : "off ") + shown();
+    };
+    EXPECT_EQ(after("Negative"), "on iii") << "it was chosen, but could not be seen";
+    EXPECT_EQ(after("Negative"), "off ooo") << "nothing was there before";
+    EXPECT_EQ(after("Plain"), "on ooo");
+    EXPECT_EQ(after("Negative"), "on iii");
+    EXPECT_EQ(after("Negative"), "off ooo") << "it was the first that switched on";
+    controller_.setEffectActive(true, true);
+    EXPECT_EQ(after("Negative"), "on iii");
+    EXPECT_EQ(after("Negative"), "on ooo");
 }

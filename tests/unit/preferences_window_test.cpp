@@ -1,11 +1,14 @@
 #include "desktop/controls/parameter_slider.h"
 #include "desktop/hotkey_field/hot_key_text_field.h"
+#include "desktop/looks/looks_row.h"
 #include "desktop/preferences/keep_colors_box.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
 #include "desktop/preview/effect_preview.h"
 #include "display_services_fixture.h"
+#include "documents/chosen_look.h"
 #include "documents/effect_document_file.h"
+#include "documents/looks.h"
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
@@ -33,6 +36,8 @@ struct PreferencesWindow : DisplayServicesFixture {
         NDGroupEffect::initialize();
         hardware_.addUpTo(2);
         start();
+        std::filesystem::create_directory(home / "shipped");
+        EXPECT_TRUE(writeEffectDocument(home / "shipped/Negative.nocturo", {.invertScreen = true}));
     }
 
     void show() {
@@ -67,6 +72,9 @@ struct PreferencesWindow : DisplayServicesFixture {
             }
         }
     }
+    TemporaryDirectory home;
+    Looks looks{home / "shipped", home / "own", center_};
+    ChosenLook chosenLook{looks};
     bool on = false;
     ZQGammaCurve captured; // nothing while the effect is off
     NDPreferencesController controller{PreferenceSurroundings{
@@ -77,7 +85,8 @@ struct PreferencesWindow : DisplayServicesFixture {
             on = !on;
             controller.updateState();
         },
-        [this] { return std::string(on ? "On: nothing" : "Off"); }}};
+        [this] { return std::string(on ? "On: nothing" : "Off"); }, &chosenLook,
+        [this](const std::string& name) { EXPECT_TRUE(chosenLook.apply(name)); }}};
 };
 
 TEST_F(PreferencesWindow, BoxesChangeTheirSettingAndFollowIt) {
@@ -178,7 +187,8 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained)
     };
     EXPECT_EQ(
         tabbed(find<QWidget>("effectSwitch")),
-        "effectSwitch qt_tabwidget_tabbar invertScreen hideStripes hdtvLuminance colorFilter "
+        "effectSwitch qt_tabwidget_tabbar looksRow saveLook changeLook invertScreen hideStripes "
+        "hdtvLuminance colorFilter "
         "temperature dimScreen affectedScreens previewDisplay showCurves openButton saveButton "
         "closeButton");
     controller.showPage(1);
@@ -196,6 +206,60 @@ TEST_F(PreferencesWindow, HasASwitchThatFollowsTheEffect) {
     on = false;
     controller.updateState();
     EXPECT_FALSE(isChecked("effectSwitch"));
+}
+
+TEST_F(PreferencesWindow, LooksAreShownPickedKeptRenamedMovedAndDeleted) {
+    captured.sampleCount = 2;
+    captured.redTable[1] = captured.greenTable[1] = captured.blueTable[1] = 1;
+    show();
+    auto& row = find<LooksRow>("looksRow");
+    const auto shown = [&row](int at) { return row.picture(at, {1, 1}).pixelColor(0, 0); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !row.picture(0, {1, 1}).isNull(); }));
+    const QColor negative = shown(0);
+    const auto tick = [&row](int at) { return row.item(at)->checkState() == Qt::Checked; };
+    QTest::mouseClick(row.viewport(), Qt::LeftButton, {}, row.visualItemRect(row.item(0)).center());
+    EXPECT_TRUE(isChecked("invertScreen"));
+    EXPECT_TRUE(tick(0));
+    click("dimScreen");
+    NDDimEffect::setLevel(-0.5F);
+    EXPECT_FALSE(tick(0));
+
+    const auto type = [this](const QString& name) {
+        auto* sheet = controller.window()->findChild<QDialog*>();
+        sheet->findChild<QLineEdit*>()->setText(name);
+        QTest::keyClick(sheet, Qt::Key_Return);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    const auto titles = [&row] {
+        QStringList list;
+        for (int at = 0; at < row.count(); ++at) {
+            list << row.item(at)->text();
+        }
+        return list.join(", ").toStdString();
+    };
+    click("saveLook");
+    type("a/b"); // refused, which is said
+    type("Mine");
+    EXPECT_EQ(titles(), "Negative, Mine");
+    EXPECT_TRUE(tick(1));
+    EXPECT_NE(shown(1), negative);
+    click("saveLook");
+    type("Mine"); // is there
+    EXPECT_NE(controller.window()->findChild<QDialog*>(), nullptr);
+    type("Yours");
+    row.setCurrentRow(2);
+    QTest::keyClick(&row, Qt::Key_F2);
+    type("Film");
+    QTest::keyClick(&row, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(titles(), "Film, Negative, Mine");
+    QTest::keyClick(&row, Qt::Key_Delete);
+    answer("Delete");
+    EXPECT_EQ(titles(), "Negative, Mine");
+    row.setCurrentRow(0);
+    QTest::keyClick(&row, Qt::Key_Delete); // not the user's
+    EXPECT_EQ(sheet(), nullptr);
+    QTest::keyClick(&row, Qt::Key_Space);
+    EXPECT_FALSE(isChecked("dimScreen"));
 }
 
 TEST_F(PreferencesWindow, TemperaturesAreColorsOfTheFilterAndNoneIsAnEmptyField) {

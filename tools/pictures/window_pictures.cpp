@@ -3,6 +3,7 @@
 
 #include "app/app_controller.h"
 #include "app/app_menus.h"
+#include "app/look_picker.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/runtime_directory.h"
@@ -110,11 +111,17 @@ int run(const QStringList& arguments) {
     EventLoop runLoop;
     const QtLoop qtLoop(runLoop);
     NDAppController controller(defaults, centers, runLoop);
-    AppWindows windows(controller, defaults, centers);
+    Looks looks(QCoreApplication::applicationDirPath().toStdString() + "/looks", "", centers.local);
+    ChosenLook chosenLook(looks);
+    LookPicker lookPicker(controller, chosenLook);
+    AppWindows windows(controller, defaults, centers, lookPicker);
     controller.setUserInterface(&windows);
+    DisplaySurroundings around;
+    around.runtimeDirectory = *runtimeDirectory();
+    around.drawPicture = writeTestCard;
     const auto displays = openDisplays(
         *parseDisplayChoice("simulated:2"),
-        {"", nullptr, "", "", *runtimeDirectory(), nullptr, writeTestCard, {}, {}}, runLoop);
+        around, runLoop);
     setDisplayServices(displays->services.get());
     NDGroupEffect::effect();
     if (arguments[1] == QLatin1String("preferences")) {
@@ -130,9 +137,7 @@ int run(const QStringList& arguments) {
         NDGroupEffect::effect().addEffect("NDDimEffect");
     }
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
-    Looks looks(QCoreApplication::applicationDirPath().toStdString() + "/looks", "", centers.local);
-    ChosenLook chosenLook(looks);
-    AppMenus appMenus(controller, defaults, centers.local, chosenLook, [] {});
+    AppMenus appMenus(controller, defaults, centers.local, lookPicker, [] {});
     const DesktopMenus menus(controller, windows, recentDocuments, appMenus, nullptr);
     controller.applicationDidFinishLaunching();
     appMenus.setActivateItemTitles(controller.effectActive());

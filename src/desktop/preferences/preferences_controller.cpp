@@ -10,6 +10,7 @@
 #include "desktop/qt/localized.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
+#include "documents/looks.h"
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
@@ -125,10 +126,14 @@ void NDPreferencesController::setUpSliders() {
             std::max(width, ui_->hueWord->fontMetrics().horizontalAdvance(temperatureWord(kelvin)));
     }
     ui_->hueWord->setFixedWidth(width);
-    strips_.setSingleShot(true);
-    constexpr int kStripsMilliseconds = 16;
-    strips_.setInterval(kStripsMilliseconds);
-    connect(&strips_, &QTimer::timeout, this, &NDPreferencesController::updateStrips);
+    const auto setUpTimer = [this](QTimer& timer, int milliseconds,
+                                   void (NDPreferencesController::*action)()) {
+        timer.setSingleShot(true);
+        timer.setInterval(milliseconds);
+        connect(&timer, &QTimer::timeout, this, action);
+    };
+    setUpTimer(strips_, 16, &NDPreferencesController::updateStrips);
+    setUpTimer(looks_, 60, &NDPreferencesController::updateLooks);
 }
 
 void NDPreferencesController::windowDidLoad() {
@@ -144,9 +149,16 @@ void NDPreferencesController::windowDidLoad() {
         ui_->preview->setPlotShown(shown);
     });
     Q_EMIT ui_->showCurves->toggled(false);
+    ui_->looksGroup->setVisible(surroundings_.looks != nullptr);
+    if (surroundings_.looks != nullptr) {
+        ui_->looks->setLooks(*surroundings_.looks, surroundings_.pickLook);
+        surroundings_.localCenter.addObserver(this, kLooksDidChangeNotification,
+                                              [this] { ui_->looks->list(); });
+    }
     listPreviewedDisplays();
     readPreviewedDisplay();
     update({});
+    updateLooks();
     surroundings_.localCenter.addObserver(this, NSUserDefaultsDidChangeNotification,
                                           [this](const Subjects& settings) { update(settings); });
     surroundings_.localCenter.addObserver(this, kHotKeyGrantNotification,
@@ -268,6 +280,7 @@ void NDPreferencesController::updateEffects() {
     ui_->dimScreen->setChecked(dims);
     ui_->dimLevel->setEnabled(dims);
     ui_->dimLevel->setValue(NDDimEffect::level());
+    ui_->looks->tick();
 }
 
 void NDPreferencesController::updateFilter() {
@@ -375,19 +388,22 @@ void NDPreferencesController::updatePreview() {
     PreviewCurves curves = previewCurves(previewed_);
     curves.seenThrough = seenWithEffect_ ? previewCurves(seenOn_).after : seenOn_;
     ui_->preview->setCurves(curves);
-    if (!strips_.isActive()) {
-        strips_.start();
+    for (QTimer* timer : {&strips_, &looks_}) {
+        if (!timer->isActive()) {
+            timer->start();
+        }
     }
 }
 
 void NDPreferencesController::updateStrips() {
-    PreviewCurves display;
-    display.before = seenOn_;
-    display.seenThrough = ui_->preview->curves().seenThrough;
-    const auto levels = pictureLevels(display);
+    const auto levels = plainLevels(ui_->preview->curves());
     ui_->colorFilterHue->setColors(hueStops(levels));
     ui_->temperature->setColors(temperatureStops(
         levels, [this](double share) { return ui_->temperature->valueAt(share); }));
+}
+
+void NDPreferencesController::updateLooks() {
+    ui_->looks->setCurves(ui_->preview->curves());
 }
 
 } // namespace nocturo

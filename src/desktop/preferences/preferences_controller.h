@@ -22,6 +22,7 @@ class NocturoPreferencePanel;
 
 namespace nocturo {
 
+class ChosenLook;
 class DefaultsStore;
 class DrawnMenu;
 class HotKeyGrantRow;
@@ -46,6 +47,9 @@ struct PreferenceSurroundings {
     std::function<bool()> isOn = {};
     std::function<void()> toggle = {};
     std::function<std::string()> stateSentence = {};
+    /// The looks, and what a click on one does. Without them there is no row of looks.
+    ChosenLook* looks = nullptr;
+    std::function<void(const std::string& name)> pickLook = {};
     /// Where a document is looked for and put at first; the home directory where that is none.
     std::function<std::filesystem::path()> documentFolder = {};
 };
@@ -149,6 +153,7 @@ class NDPreferencesController : public QObject {
     void updateEffects();
     void updateFilter();
     void updateStrips();
+    void updateLooks();
     void setUpSliders();
     void updateBoxes();
     void setContains(std::string_view effect, const QAbstractButton& sender);
@@ -174,6 +179,7 @@ class NDPreferencesController : public QObject {
     ZQGammaCurve seenOn_;    // of the display that the window is on, without the effect
     bool seenWithEffect_ = false;
     QTimer strips_; // of color are drawn once for many steps of a slider
+    QTimer looks_;  // as well
 };
 
 } // namespace nocturo

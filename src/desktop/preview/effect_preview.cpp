@@ -11,7 +11,9 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
 // A static library's resources are dropped by the linker unless they are asked for by name, which
 // must be done outside of any namespace.
@@ -23,21 +25,24 @@ namespace nocturo {
 
 namespace {
 
-constexpr double kPictureShape = 1.5; // width to height
 constexpr double kGap = 12;
 
-/// What is seen through the curves, in device pixels; a size that was just asked for costs nothing.
+/// What is seen through the curves, in device pixels; the two sizes that were asked for last cost
+/// nothing.
 const QImage& scene(QSize size) {
     static const QImage drawn = [] {
         keepResource();
         return QImage(QStringLiteral(":/preview/preview.png"));
     }();
-    static QImage scaled;
-    if (scaled.size() != size) {
-        scaled = drawn.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                     .convertToFormat(QImage::Format_RGB32);
+    static std::array<QImage, 2> scaled;
+    if (scaled[0].size() != size) {
+        std::swap(scaled[0], scaled[1]);
     }
-    return scaled;
+    if (scaled[0].size() != size) {
+        scaled[0] = drawn.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                        .convertToFormat(QImage::Format_RGB32);
+    }
+    return scaled[0];
 }
 
 void paintPicture(QPainter& painter, const QRectF& place, const PreviewCurves& curves,
@@ -45,10 +50,10 @@ void paintPicture(QPainter& painter, const QRectF& place, const PreviewCurves& c
     // Whole device pixels, or the text in the picture would blur.
     const double ratio = painter.device()->devicePixelRatioF();
     const QSize pixels((place.size() * ratio).toSize());
-    if (pixels.isEmpty()) {
+    QImage seen = pictureThrough(curves, pixels);
+    if (seen.isNull()) {
         return;
     }
-    QImage seen = throughLevels(scene(pixels), pictureLevels(curves));
     seen.setDevicePixelRatio(ratio);
     const QPointF corner(std::round(place.left() * ratio) / ratio,
                          std::round(place.top() * ratio) / ratio);
@@ -138,6 +143,10 @@ QImage renderEffectPreview(const PreviewCurves& curves, QSize size, double devic
     paintEffectPreview(painter, area.adjusted(kMargin, kMargin, -kMargin, -kMargin), curves,
                        palette);
     return image;
+}
+
+QImage pictureThrough(const PreviewCurves& curves, QSize pixels) {
+    return pixels.isEmpty() ? QImage() : throughLevels(scene(pixels), pictureLevels(curves));
 }
 
 EffectPreview::EffectPreview(QWidget* parent) : QWidget(parent) {

@@ -11,6 +11,8 @@ class QPainter;
 
 namespace nocturo {
 
+inline constexpr double kPictureShape = 1.5; // width to height
+
 /// Draws what the curves do: a plot of them, and a picture seen through them, beside it or, in a
 /// narrow area, below it. The painter's font and layout direction hold; its state is left as it
 /// was. In an area that is too small for both there is only the picture.
@@ -22,6 +24,9 @@ void paintEffectPreview(QPainter& painter, const QRectF& area, const PreviewCurv
 /// size.
 QImage renderEffectPreview(const PreviewCurves& curves, QSize size, double devicePixelRatio,
                            const QPalette& palette);
+
+/// The picture alone, in device pixels. Null for an empty size.
+QImage pictureThrough(const PreviewCurves& curves, QSize pixels);
 
 /// The preview of one display. It takes no focus and no input; screen readers find a graphic whose
 /// description says in words what is seen. Main thread only.

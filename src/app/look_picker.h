@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+namespace nocturo {
+
+class ChosenLook;
+class NDAppController;
+
+/// What a click on a look does, wherever looks are shown. Main thread only.
+class LookPicker {
+  public:
+    /// Both must outlive this.
+    LookPicker(NDAppController& controller, ChosenLook& chosen)
+        : controller_(controller), chosen_(chosen) {}
+
+    ChosenLook& chosen() { return chosen_; }
+
+    /// Applies the look and switches the effect on. The look that the displays show is left for
+    /// what was there before it, which may be no effect.
+    void pick(const std::string& name);
+
+  private:
+    void leave();
+
+    NDAppController& controller_;
+    ChosenLook& chosen_;
+    bool switchedOn_ = false; // by the pick before
+};
+
+} // namespace nocturo

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "base/result.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <string>
+
+class QMenu;
+class QToolButton;
+
+namespace nocturo {
+
+class ChosenLook;
+class LooksRow;
+struct PreviewCurves;
+
+/// The row of looks, with what keeps, renames, orders and deletes them. Main thread only.
+class LooksBox : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit LooksBox(QWidget* parent = nullptr);
+
+    /// `chosen` must outlive the box. `pick` is called with the name of a look that was clicked.
+    void setLooks(ChosenLook& chosen, std::function<void(const std::string& name)> pick);
+
+    /// Lists the looks anew. Nothing before there are any.
+    void list();
+
+    /// Shows which look is in force now.
+    void tick();
+
+    /// What the pictures are drawn from.
+    void setCurves(const PreviewCurves& curves);
+
+  private:
+    void makeMenu();
+    void askForName();
+    void askForOtherName();
+    void askWhetherToRemove();
+    void move(int places);
+    void showFailure(const Result<void>& result);
+
+    ChosenLook* chosen_ = nullptr;
+    LooksRow* row_;
+    QToolButton* saveButton_;
+    QToolButton* menuButton_;
+    QMenu* menu_;
+};
+
+} // namespace nocturo
