@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# desktop_test.sh BIN: runs the programs in BIN under the Wayland compositors of Debian 13 and of testing, in
+# try_desktops.sh BIN: runs the programs in BIN under the Wayland compositors of Debian 13 and of testing, in
 # fresh roots, and prints a table of what was seen: desktop, version, what Nocturo does there. No compositor
 # has hardware there, so none of their outputs can show an effect; that is told is what is looked at.
 set -euo pipefail
 bin=$(realpath "$1")
 here=$(realpath "$(dirname "$0")")
 set -- "$bin"
-# shellcheck source-path=SCRIPTDIR source=../packaging/fresh_root.sh
-. "$here/../packaging/fresh_root.sh"
+# shellcheck source-path=SCRIPTDIR source=../../tests/packaging/fresh_root.sh
+. "$here/../../tests/packaging/fresh_root.sh"
 
 programs=(nocturo nocturoctl nocturo-guard nocturo-bus-guard nocturo-profile-guard profile_probe)
 
