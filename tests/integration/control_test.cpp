@@ -14,20 +14,17 @@
 
 #include <systemd/sd-bus.h>
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 using Json = nlohmann::json;
 using Arguments = std::vector<std::string>;
 
-class Control : public NocturoTest {
-  protected:
+struct Control : NocturoTest {
     Control() : NocturoTest(0) {}
 };
 
-class ControlOfRunning : public Control {
-  protected:
+struct ControlOfRunning : Control {
     ControlOfRunning() { nocturo_ = session_.startNocturo({"--display-services=simulated:3"}); }
 };
 
@@ -402,8 +399,7 @@ TEST_F(ControlOfRunning, WatchTellsEachChange) {
     EXPECT_EQ(nocturo_->wait(), 0);
 }
 
-class FloodedOnX : public NocturoOnX {
-  protected:
+struct FloodedOnX : NocturoOnX {
     FloodedOnX() : NocturoOnX(2) {
         select("NDInvertEffect");
         nocturo_ = session_.startNocturo();
@@ -456,8 +452,7 @@ TEST_F(FloodedOnX, SoakOfAMinute) {
     flood(Milliseconds(60000));
 }
 
-class BusTrouble : public NocturoOnX {
-  protected:
+struct BusTrouble : NocturoOnX {
     BusTrouble() : NocturoOnX(2) { select("NDInvertEffect"); }
     ~BusTrouble() override { session_.bus().signal(SIGCONT); }
 };
@@ -493,7 +488,3 @@ TEST_F(BusTrouble, OneNocturoDrivesTheDisplays) {
     nocturo_ = session_.start("nocturo");
     EXPECT_TRUE(becomes("ii"));
 }
-
-} // namespace
-
-} // namespace nocturo::rig

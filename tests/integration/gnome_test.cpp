@@ -6,9 +6,8 @@
 
 #include <regex>
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 namespace fs = std::filesystem;
 
@@ -28,8 +27,7 @@ std::vector<fs::path> journalsIn(const Session& session) {
     return journals;
 }
 
-class Mutter : public NocturoOnX {
-  protected:
+struct Mutter : NocturoOnX {
     Mutter() : NocturoOnX(2) {}
     void SetUp() override {
         NEEDS("mutter");
@@ -39,8 +37,10 @@ class Mutter : public NocturoOnX {
             own[0][10] += 3;
             setOwn(i, own);
         }
-        mutter_ = session_.start("mutter", {"--x11"});
-        ASSERT_TRUE(session_.bus().waitForName(kDisplays, *mutter_)) << mutter_->errors();
+        ASSERT_TRUE(waitUntil([&] { // now and then it crashes before it is there
+            mutter_ = session_.start("mutter", {"--x11"});
+            return session_.bus().waitForName(kDisplays, *mutter_);
+        })) << mutter_->errors();
         select("NDInvertEffect");
         nocturo_ = session_.startNocturo({kGnome});
     }
@@ -112,8 +112,7 @@ TEST_F(Mutter, WritesAgainWhatTheNightLightOrANewDisplayOverwrites) {
 }
 
 /// A stand-in that speaks as a shell does.
-class Shell : public NocturoTest {
-  protected:
+struct Shell : NocturoTest {
     Shell() : NocturoTest(0) {
         inheritOrphans();
         select("NDInvertEffect");
@@ -227,7 +226,3 @@ TEST_F(Shell, MayAnswerWhatNobodyExpects) {
     shell_.reset();
     EXPECT_EQ(refusal().find("nocturo: Neither GNOME nor Cinnamon is on the session bus."), 0U);
 }
-
-} // namespace
-
-} // namespace nocturo::rig

@@ -7,9 +7,8 @@
 
 #include <sys/stat.h>
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 using Kind = Compositor::Kind;
 using Answer = Compositor::Answer;
@@ -24,8 +23,7 @@ Channels identity() {
     return channels;
 }
 
-class Kde : public NocturoTest {
-  protected:
+struct Kde : NocturoTest {
     Kde() : NocturoTest(0) {
         inheritOrphans();
         select("NDInvertEffect");
@@ -260,7 +258,3 @@ TEST_F(Kde, DrivesNoOutputOfAnAbsurdRampSize) {
     EXPECT_EQ(nocturo_->wait(), 1);
     EXPECT_NE(nocturo_->errors().find("The display server has gone"), std::string::npos);
 }
-
-} // namespace
-
-} // namespace nocturo::rig

@@ -18,8 +18,7 @@
 
 #include <poll.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using State = HotKeyGrant::State;
 using Told = std::vector<std::string>;
@@ -132,8 +131,7 @@ struct Layout : KeyboardLayout {
     std::string keySymName(std::uint16_t key) override { return key == kF5 ? "F5" : ""; }
 };
 
-class PortalHotKeys : public testing::Test {
-  protected:
+struct PortalHotKeys : testing::Test {
     PortalHotKeys() {
         portal.emplace(bus.address(), loop);
         start();
@@ -159,7 +157,13 @@ class PortalHotKeys : public testing::Test {
     void claimAndBind() {
         service->launchDidFinish();
         claim();
+        createsSessionAndBinds();
+    }
+    void createsSession() {
         EXPECT_TRUE(becomes([&] { return called("CreateSession"); }));
+    }
+    void createsSessionAndBinds() {
+        createsSession();
         portal->grantSession();
         EXPECT_TRUE(becomes([&] { return called("BindShortcuts CTRL+LOGO+F5"); }));
     }
@@ -220,7 +224,7 @@ TEST_F(PortalHotKeys, WaitsForTheUserAndTogglesOnceForEachPress) {
     EXPECT_TRUE(becomes([&] { return called("Close"); }));
     portal->shortcut("Deactivated", 1);
     service->registerHotKey(kF5, 0, {1, 6});
-    EXPECT_TRUE(becomes([&] { return called("CreateSession"); }));
+    createsSession();
     EXPECT_EQ(told.size(), 3U);
 }
 
@@ -236,9 +240,7 @@ TEST_F(PortalHotKeys, OpensNoDialogAtTheStartBeforeItWasGrantedOnce) {
     EXPECT_TRUE(becomes(State::inForce));
     start();
     claim();
-    EXPECT_TRUE(becomes([&] { return called("CreateSession"); }));
-    portal->grantSession();
-    EXPECT_TRUE(becomes([&] { return called("BindShortcuts CTRL+LOGO+F5"); }));
+    createsSessionAndBinds();
     portal->respond(1);
     EXPECT_TRUE(becomes(State::refused));
     start();
@@ -252,7 +254,7 @@ TEST_F(PortalHotKeys, TakesARefusalAndNonsenseForWhatTheyAre) {
         portal->answers = {{method, answer}};
         claim();
         if (method == "BindShortcuts") {
-            EXPECT_TRUE(becomes([&] { return called("CreateSession"); }));
+            createsSession();
             portal->grantSession();
         }
         EXPECT_TRUE(becomes(expected)) << method << static_cast<int>(state());
@@ -271,26 +273,24 @@ TEST_F(PortalHotKeys, TakesARefusalAndNonsenseForWhatTheyAre) {
 
     const auto after = [&](const std::function<void()>& respond, bool binds) {
         claim();
-        EXPECT_TRUE(becomes([&] { return called("CreateSession"); }));
-        if (binds) {
-            portal->grantSession();
-            EXPECT_TRUE(becomes([&] { return called("BindShortcuts CTRL+LOGO+F5"); }));
-        }
+        binds ? createsSessionAndBinds() : createsSession();
         respond();
         EXPECT_TRUE(becomes([&] { return state() != State::asked; }));
         const State came = state();
         service->unregisterHotKey(handle);
         return came;
     };
-    EXPECT_EQ(after([&] { portal->respond(2); }, false), State::refused);
-    EXPECT_EQ(after([&] { portal->respond(0); }, false), State::refused);
-    EXPECT_EQ(after([&] { portal->respond(0, "session_handle", "u", 7); }, false), State::refused);
-    EXPECT_EQ(after([&] { portal->respond(0, "session_handle", "s", "no path"); }, false),
-              State::refused);
-    EXPECT_EQ(after([&] { portal->respond(2); }, true), State::refused);
-    EXPECT_EQ(after([&] { portal->respond(0, "shortcuts", "s", "toggle"); }, true), State::inForce)
-        << "what is no list tells nothing";
-    EXPECT_EQ(after([&] { portal->respond(0); }, true), State::inForce);
+    const std::function<void()> answers[] = {
+        [&] { portal->respond(2); }, [&] { portal->respond(0); },
+        [&] { portal->respond(0, "session_handle", "u", 7); },
+        [&] { portal->respond(0, "session_handle", "s", "no path"); },
+        [&] { portal->respond(0, "shortcuts", "s", "toggle"); }}; // the last tells nothing
+    for (const auto& answer : answers) {
+        EXPECT_EQ(after(answer, false), State::refused);
+    }
+    EXPECT_EQ(after(answers[0], true), State::refused);
+    EXPECT_EQ(after(answers[4], true), State::inForce);
+    EXPECT_EQ(after(answers[1], true), State::inForce);
     service->askAgain(handle); // of nothing
     EXPECT_EQ(service->grantOf(handle).configuration, "");
 }
@@ -302,22 +302,19 @@ TEST_F(PortalHotKeys, FollowsPortalsThatGoAndSessionsThatAreClosed) {
     portal.reset();
     EXPECT_TRUE(becomes(State::asked));
     portal.emplace(bus.address(), loop);
-    const auto rejoins = [&](const std::function<void()>& grant) {
-        EXPECT_TRUE(becomes([&] { return called("CreateSession"); }));
-        portal->grantSession();
-        EXPECT_TRUE(becomes([&] { return called("BindShortcuts CTRL+LOGO+F5"); }));
-        grant();
+    const auto rejoins = [&] {
+        createsSessionAndBinds();
+        portal->grant("F5");
+        EXPECT_TRUE(becomes(State::inForce));
     };
-    rejoins([&] { portal->grant("F5"); });
-    EXPECT_TRUE(becomes(State::inForce));
+    rejoins();
     EXPECT_EQ(portal->calls.front(), "Register");
 
     const auto close = [&] {
         portal->signal(portal->session.c_str(), "org.freedesktop.portal.Session", "Closed", "");
     };
     close();
-    rejoins([&] { portal->grant("F5"); });
-    EXPECT_TRUE(becomes(State::inForce));
+    rejoins();
     close();
     EXPECT_TRUE(becomes(State::refused));
 
@@ -346,6 +343,3 @@ TEST(DesktopConfiguration, IsWrittenAsEachDesktopReadsIt) {
     EXPECT_EQ(desktopConfiguration("Hyprland", kF5, 0, &layout),
               "bind = , F5, exec, nocturoctl toggle");
 }
-
-} // namespace
-} // namespace nocturo

@@ -7,14 +7,12 @@
 
 #include <unistd.h>
 
-namespace nocturo::rig {
-
-namespace {
+using namespace nocturo;
+using namespace nocturo::rig;
 
 namespace fs = std::filesystem;
 
-class Restore : public FourDisplays {
-  protected:
+struct Restore : FourDisplays {
     void restoreWhileTheGuardsDo(int rounds);
 };
 
@@ -166,7 +164,3 @@ TEST_F(Restore, BesideTheGuardsLosesNoColors) {
 TEST_F(Restore, SoakFiveHundredTimesBesideTheGuardsLosesNoColors) {
     restoreWhileTheGuardsDo(500);
 }
-
-} // namespace
-
-} // namespace nocturo::rig

@@ -16,7 +16,7 @@ struct Wayland : NocturoTest {
         if (const std::string why = Sway::whyMissing(); !why.empty()) {
             GTEST_SKIP() << why;
         }
-        sway_.emplace(2, 1024);
+        sway_.emplace(2, 4096);
         session_.environment()["WAYLAND_DISPLAY"] = sway_->display();
         session_.environment()["XDG_CURRENT_DESKTOP"] = "sway";
         select("NDInvertEffect");
@@ -42,9 +42,9 @@ struct Wayland : NocturoTest {
 
 TEST_F(Wayland, InvertsTheAffectedScreensAndGivesThemBackHoweverItEnds) {
     EXPECT_TRUE(becomes("ii"));
-    EXPECT_EQ(sway_->ramp(kFirst)->front().size(), 1024U);
+    EXPECT_EQ(sway_->ramp(kFirst)->front().size(), 4096U);
     EXPECT_EQ(status()["displayServices"], "wlr");
-    EXPECT_EQ(status()["displays"][0]["rampSize"], 1024);
+    EXPECT_EQ(status()["displays"][0]["rampSize"], 4096);
     ctl({"off"});
     EXPECT_TRUE(becomes("oo"));
     ctl({"screens", "toggle", "2"});

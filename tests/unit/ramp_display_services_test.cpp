@@ -2,6 +2,8 @@
 
 #include "display_services_fixture.h"
 #include "displays/display_gamma.h"
+#include "displays/kernel_edid.h"
+#include "temporary_directory.h"
 
 #include <array>
 #include <cmath>
@@ -185,6 +187,16 @@ TEST(DisplayIdentifiers, FollowAMonitorWithASerialAndStayWithTheConnectorOtherwi
     EXPECT_EQ(idOf({"DP-1", {1, 2, 3}}), idOf({"DP-1", {}})); // not an EDID
     // Stored in users' settings, so never to change; FNV-1a of "connector DP-1" worked out apart.
     EXPECT_EQ(idOf({"DP-1", {}}), 915161647U);
+}
+
+TEST(DisplayIdentifiers, AreOfTheKernelsMonitorWhateverTheDesktopCallsItsConnector) {
+    const TemporaryDirectory connectors;
+    std::filesystem::create_directory(connectors / "card1-HDMI-A-1");
+    writeText(connectors / "card1-HDMI-A-1/edid", "EDID");
+    for (const char* name : {"HDMI-A-1", "HDMI-1"}) {
+        EXPECT_EQ(kernelEdid(connectors.path(), name), (Edid{'E', 'D', 'I', 'D'})) << name;
+    }
+    EXPECT_TRUE(kernelEdid(connectors.path(), "HDMI-2").empty());
 }
 
 TEST(DisplayIdentifiers, TwinsTakeNeighboursAndKeepThem) {
