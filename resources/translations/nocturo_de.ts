@@ -387,6 +387,10 @@
             <translation>„%@“ ist keine Einstellung, die in Schritten geht.</translation>
         </message>
         <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Ein Bildschirm muss bleiben, denn keiner heißt alle; nocturoctl off schaltet den Effekt aus.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo wartet auf die Antwort auf die Frage, die es zeigt.</translation>
         </message>
@@ -493,18 +497,20 @@ name. add, remove and toggle change the selection, only replaces it.</source>
 einer Klasse. add, remove und toggle ändern die Auswahl, only ersetzt sie.</translation>
         </message>
         <message>
-            <source>Dim or lighten</source>
-            <translation>Abdunkeln oder aufhellen</translation>
+            <source>Show the dim level, dim or lighten</source>
+            <translation>Helligkeit zeigen, abdunkeln oder aufhellen</translation>
         </message>
         <message>
-            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
-lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
-            <translation>N% macht das Bild um so viel dunkler, als es von selbst ist; +N% und -N% machen es
-heller und dunkler als jetzt. LEVEL ist, was das Fenster zeigt, -100 bis 100.</translation>
+            <source>N% makes the picture darker by so much than it is by itself. +N% and -N% are steps: they
+make it lighter and darker than it is now, and print what it is then. =LEVEL% is what
+the window shows, from =-100% (black) over =0% to =100% (white).</source>
+            <translation>N% macht das Bild um so viel dunkler, als es von selbst ist. +N% und -N% sind Schritte:
+sie machen es heller und dunkler als jetzt und geben aus, wie es dann ist. =STUFE% ist,
+was das Fenster zeigt, von =-100% (schwarz) über =0% bis =100% (weiß).</translation>
         </message>
         <message>
-            <source>Choose the color filter's hue and vividness</source>
-            <translation>Farbton und Sättigung des Farbfilters wählen</translation>
+            <source>Show or choose hue and vividness of the color filter</source>
+            <translation>Farbton und Sättigung des Farbfilters zeigen oder wählen</translation>
         </message>
         <message>
             <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
@@ -837,10 +843,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Der Compositor %@ antwortet nicht.</translation>
-        </message>
-        <message>
-            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
-            <translation>Ein Bildschirm muss bleiben, denn keiner heißt alle; nocturoctl off schaltet den Effekt aus.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>

@@ -387,6 +387,10 @@
             <translation>«%@» no es un ajuste que vaya por pasos.</translation>
         </message>
         <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Tiene que quedar una pantalla, pues no elegir ninguna significa todas; nocturoctl off desactiva el efecto.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo espera la respuesta a la pregunta que muestra.</translation>
         </message>
@@ -493,18 +497,20 @@ name. add, remove and toggle change the selection, only replaces it.</source>
 clase. add, remove y toggle modifican la selección, only la sustituye.</translation>
         </message>
         <message>
-            <source>Dim or lighten</source>
-            <translation>Oscurecer o aclarar</translation>
+            <source>Show the dim level, dim or lighten</source>
+            <translation>Mostrar el nivel, atenuar o aclarar</translation>
         </message>
         <message>
-            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
-lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
-            <translation>N% oscurece la imagen esa parte respecto de cómo es; +N% y -N% la aclaran y oscurecen
-respecto de ahora. LEVEL es lo que muestra la ventana, de -100 a 100.</translation>
+            <source>N% makes the picture darker by so much than it is by itself. +N% and -N% are steps: they
+make it lighter and darker than it is now, and print what it is then. =LEVEL% is what
+the window shows, from =-100% (black) over =0% to =100% (white).</source>
+            <translation>N% oscurece la imagen tanto respecto a como es de por sí. +N% y -N% son pasos: la hacen
+más clara y más oscura que ahora, e imprimen cómo queda. =NIVEL% es lo que muestra la
+ventana, de =-100% (negro) pasando por =0% a =100% (blanco).</translation>
         </message>
         <message>
-            <source>Choose the color filter's hue and vividness</source>
-            <translation>Elegir el tono y la viveza del filtro de color</translation>
+            <source>Show or choose hue and vividness of the color filter</source>
+            <translation>Mostrar o elegir el tono y la viveza del filtro de color</translation>
         </message>
         <message>
             <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
@@ -837,10 +843,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>El compositor %@ no responde.</translation>
-        </message>
-        <message>
-            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
-            <translation>Tiene que quedar una pantalla, pues no elegir ninguna significa todas; nocturoctl off desactiva el efecto.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>

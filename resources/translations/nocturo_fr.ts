@@ -387,6 +387,10 @@
             <translation>« %@ » n’est pas un réglage qui va par pas.</translation>
         </message>
         <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Il doit rester un écran, car n’en choisir aucun signifie tous ; nocturoctl off désactive l’effet.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo attend la réponse à la question qu’il affiche.</translation>
         </message>
@@ -493,18 +497,20 @@ name. add, remove and toggle change the selection, only replaces it.</source>
 classe. add, remove et toggle modifient le choix, only le remplace.</translation>
         </message>
         <message>
-            <source>Dim or lighten</source>
-            <translation>Assombrir ou éclaircir</translation>
+            <source>Show the dim level, dim or lighten</source>
+            <translation>Afficher le niveau, assombrir ou éclaircir</translation>
         </message>
         <message>
-            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
-lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
-            <translation>N% assombrit l’image d’autant par rapport à elle-même ; +N% et -N% l’éclaircissent et
-l’assombrissent par rapport à maintenant. LEVEL est ce que montre la fenêtre, -100 à 100.</translation>
+            <source>N% makes the picture darker by so much than it is by itself. +N% and -N% are steps: they
+make it lighter and darker than it is now, and print what it is then. =LEVEL% is what
+the window shows, from =-100% (black) over =0% to =100% (white).</source>
+            <translation>N% assombrit l'image d'autant par rapport à ce qu'elle est d'elle-même. +N% et -N% sont
+des pas : ils l'éclaircissent et l'assombrissent par rapport à maintenant, et affichent
+le résultat. =NIVEAU% est ce que montre la fenêtre, de =-100% (noir) par =0% à =100% (blanc).</translation>
         </message>
         <message>
-            <source>Choose the color filter's hue and vividness</source>
-            <translation>Choisir la teinte et la vivacité du filtre coloré</translation>
+            <source>Show or choose hue and vividness of the color filter</source>
+            <translation>Afficher ou choisir la teinte et la vivacité du filtre coloré</translation>
         </message>
         <message>
             <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
@@ -837,10 +843,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Le compositeur %@ ne répond pas.</translation>
-        </message>
-        <message>
-            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
-            <translation>Il doit rester un écran, car n’en choisir aucun signifie tous ; nocturoctl off désactive l’effet.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>

@@ -387,6 +387,10 @@
             <translation>「%@」は増減できる設定ではありません。</translation>
         </message>
         <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>画面を 1 つは残す必要があります。何も選ばないとすべてを意味します。効果をオフにするには nocturoctl off を使います。</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo は表示している質問への回答を待っています。</translation>
         </message>
@@ -493,18 +497,20 @@ name. add, remove and toggle change the selection, only replaces it.</source>
 add、remove、toggle は選択を変更し、only は選択を置き換えます。</translation>
         </message>
         <message>
-            <source>Dim or lighten</source>
-            <translation>暗くする・明るくする</translation>
+            <source>Show the dim level, dim or lighten</source>
+            <translation>明るさの表示、暗くする、明るくする</translation>
         </message>
         <message>
-            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
-lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
-            <translation>N% は元の画像よりその分だけ暗くします。+N% と -N% は今より明るく、暗くします。
-LEVEL はウィンドウに表示される値で、-100～100 です。</translation>
+            <source>N% makes the picture darker by so much than it is by itself. +N% and -N% are steps: they
+make it lighter and darker than it is now, and print what it is then. =LEVEL% is what
+the window shows, from =-100% (black) over =0% to =100% (white).</source>
+            <translation>N% は画像を元の状態よりその分だけ暗くします。+N% と -N% は段階で、今より明るく、
+または暗くし、その結果を表示します。=LEVEL% はウインドウに表示される値で、
+=-100%（黒）から =0%、=100%（白）までです。</translation>
         </message>
         <message>
-            <source>Choose the color filter's hue and vividness</source>
-            <translation>カラーフィルターの色相と鮮やかさを選択する</translation>
+            <source>Show or choose hue and vividness of the color filter</source>
+            <translation>カラーフィルターの色相と鮮やかさの表示または選択</translation>
         </message>
         <message>
             <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
@@ -836,10 +842,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>コンポジター %@ が応答しません。</translation>
-        </message>
-        <message>
-            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
-            <translation>画面を 1 つは残す必要があります。何も選ばないとすべてを意味します。効果をオフにするには nocturoctl off を使います。</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>

@@ -387,6 +387,10 @@
             <translation>“%@” não é uma configuração que vá por passos.</translation>
         </message>
         <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>Uma tela precisa ficar, pois nenhuma significa todas; nocturoctl off desativa o efeito.</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>O Nocturo espera a resposta à pergunta que está mostrando.</translation>
         </message>
@@ -493,18 +497,20 @@ name. add, remove and toggle change the selection, only replaces it.</source>
 classe. add, remove e toggle alteram a seleção, only a substitui.</translation>
         </message>
         <message>
-            <source>Dim or lighten</source>
-            <translation>Escurecer ou clarear</translation>
+            <source>Show the dim level, dim or lighten</source>
+            <translation>Mostrar o nível, escurecer ou clarear</translation>
         </message>
         <message>
-            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
-lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
-            <translation>N% escurece a imagem nessa medida em relação a como é; +N% e -N% clareiam e escurecem
-em relação a agora. LEVEL é o que a janela mostra, de -100 a 100.</translation>
+            <source>N% makes the picture darker by so much than it is by itself. +N% and -N% are steps: they
+make it lighter and darker than it is now, and print what it is then. =LEVEL% is what
+the window shows, from =-100% (black) over =0% to =100% (white).</source>
+            <translation>N% escurece a imagem tanto em relação a como ela é por si. +N% e -N% são passos: deixam-na
+mais clara e mais escura do que agora e imprimem como fica. =NÍVEL% é o que a janela
+mostra, de =-100% (preto) passando por =0% até =100% (branco).</translation>
         </message>
         <message>
-            <source>Choose the color filter's hue and vividness</source>
-            <translation>Escolher o matiz e a vividez do filtro de cor</translation>
+            <source>Show or choose hue and vividness of the color filter</source>
+            <translation>Mostrar ou escolher o matiz e a vivacidade do filtro de cor</translation>
         </message>
         <message>
             <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
@@ -837,10 +843,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>O compositor %@ não responde.</translation>
-        </message>
-        <message>
-            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
-            <translation>Uma tela precisa ficar, pois nenhuma significa todas; nocturoctl off desativa o efeito.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>

@@ -387,6 +387,10 @@
             <translation>“%@”不是可以步进的设置。</translation>
         </message>
         <message>
+            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
+            <translation>必须保留一个屏幕，因为不选任何屏幕表示全部；nocturoctl off 可关闭效果。</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo 正在等待对所显示问题的回答。</translation>
         </message>
@@ -493,18 +497,19 @@ name. add, remove and toggle change the selection, only replaces it.</source>
 add、remove 和 toggle 更改选择，only 替换选择。</translation>
         </message>
         <message>
-            <source>Dim or lighten</source>
-            <translation>调暗或调亮</translation>
+            <source>Show the dim level, dim or lighten</source>
+            <translation>显示亮度、调暗或调亮</translation>
         </message>
         <message>
-            <source>N% makes the picture darker by so much than it is by itself; +N% and -N% make it
-lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100.</source>
-            <translation>N% 使画面比原来暗这么多；+N% 和 -N% 使其比现在更亮、更暗。
-LEVEL 是窗口中显示的值，-100 到 100。</translation>
+            <source>N% makes the picture darker by so much than it is by itself. +N% and -N% are steps: they
+make it lighter and darker than it is now, and print what it is then. =LEVEL% is what
+the window shows, from =-100% (black) over =0% to =100% (white).</source>
+            <translation>N% 使画面比本来的样子暗这么多。+N% 和 -N% 是步进：使画面比现在更亮或更暗，
+并显示结果。=LEVEL% 是窗口中显示的值，从 =-100%（黑）经 =0% 到 =100%（白）。</translation>
         </message>
         <message>
-            <source>Choose the color filter's hue and vividness</source>
-            <translation>选择颜色滤镜的色相和鲜艳度</translation>
+            <source>Show or choose hue and vividness of the color filter</source>
+            <translation>显示或选择彩色滤镜的色相和鲜艳度</translation>
         </message>
         <message>
             <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from
@@ -835,10 +840,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>合成器 %@ 没有响应。</translation>
-        </message>
-        <message>
-            <source>One display has to stay, as a choice of none means all; nocturoctl off switches the effect off.</source>
-            <translation>必须保留一个屏幕，因为不选任何屏幕表示全部；nocturoctl off 可关闭效果。</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>

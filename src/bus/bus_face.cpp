@@ -28,8 +28,6 @@ namespace nocturo {
 
 namespace {
 
-// Long enough for a busy first instance, short enough for the user who waits for the second.
-
 tl::unexpected<BusFailure> noSetting(const std::string& key) {
     return refusal(translated("There is no setting \"%@\".", {key}));
 }
@@ -57,10 +55,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 52> members;
+    static const std::array<sd_bus_vtable, 56> members;
 };
 
-const std::array<sd_bus_vtable, 52> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 56> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
@@ -86,6 +84,8 @@ const std::array<sd_bus_vtable, 52> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::addEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::removeEffects>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ToggleEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::toggleEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::setEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetTemperature", SD_BUS_ARGS("u", kelvin), SD_BUS_NO_RESULT,
@@ -98,6 +98,9 @@ const std::array<sd_bus_vtable, 52> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::stepDim>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetTint", SD_BUS_ARGS("d", hue, "d", vividness), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::setTint>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("ChangeTint",
+                            SD_BUS_ARGS("d", hue, "b", byHue, "d", vividness, "b", byVividness),
+                            SD_BUS_NO_RESULT, kServeWhenReady<&BusFace::changeTint>, kFree),
     SD_BUS_METHOD_WITH_ARGS("StepSetting", SD_BUS_ARGS("s", key, "d", by), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::stepSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ApplyLook", SD_BUS_ARGS("s", name), SD_BUS_NO_RESULT,
@@ -123,6 +126,10 @@ const std::array<sd_bus_vtable, 52> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::resetSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ToggleScreen", SD_BUS_ARGS("u", id), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::toggleScreen>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("AddScreens", SD_BUS_ARGS("ax", ids), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::addScreens>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("RemoveScreens", SD_BUS_ARGS("ax", ids), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::removeScreens>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AffectAllScreens", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::affectAllScreens>, kFree),
     SD_BUS_METHOD_WITH_ARGS("KeepColors", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,

@@ -54,12 +54,14 @@ class BusFace {
     BusAnswer toggle();
     BusAnswer addEffects(const std::vector<std::string>& names);
     BusAnswer removeEffects(const std::vector<std::string>& names);
+    BusAnswer toggleEffects(const std::vector<std::string>& names);
     BusAnswer setEffects(const std::vector<std::string>& names);
     BusAnswer setTemperature(std::uint32_t kelvin);
     BusAnswer stepTemperature(std::int32_t kelvin);
     BusAnswer setDim(double level);
     BusAnswer stepDim(double by);
     BusAnswer setTint(double hue, double vividness);
+    BusAnswer changeTint(double hue, bool byHue, double vividness, bool byVividness);
     BusAnswer stepSetting(const std::string& key, double by);
     BusAnswer applyLook(const std::string& name);
     BusAnswer applyNextLook();
@@ -72,6 +74,8 @@ class BusFace {
     BusAnswer setSetting(const std::string& key, const std::optional<PropertyValue>& value);
     BusAnswer resetSetting(const std::string& key);
     BusAnswer toggleScreen(std::uint32_t display);
+    BusAnswer addScreens(const std::vector<std::int64_t>& displays);
+    BusAnswer removeScreens(const std::vector<std::int64_t>& displays);
     BusAnswer affectAllScreens();
     BusAnswer keepColors();
     BusAnswer setHotKey(const std::string& text);

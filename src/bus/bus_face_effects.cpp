@@ -1,7 +1,9 @@
-// What callers on the bus do with the effects and looks.
+// What callers on the bus do with the effects, looks and affected displays.
 
 #include "base/texts/translated.h"
 #include "bus/bus_face.h"
+#include "displays/affected_screen_set.h"
+#include "displays/display_functions.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
 #include "effects/color_filter_effect.h"
@@ -51,6 +53,21 @@ BusAnswer BusFace::removeEffects(const std::vector<std::string>& names) {
     return {};
 }
 
+BusAnswer BusFace::toggleEffects(const std::vector<std::string>& names) {
+    if (auto problem = problemWithEffects(names)) {
+        return refusal(*std::move(problem));
+    }
+    const DefaultsStore::Batch oneChange(defaults_);
+    for (const std::string& name : names) {
+        if (NDGroupEffect::effect().containsEffect(name)) {
+            NDGroupEffect::effect().removeEffect(name);
+        } else {
+            chooseEffect(name);
+        }
+    }
+    return {};
+}
+
 BusAnswer BusFace::setEffects(const std::vector<std::string>& names) {
     if (auto problem = problemWithEffects(names)) {
         return refusal(*std::move(problem));
@@ -95,12 +112,37 @@ BusAnswer BusFace::setTint(double hue, double vividness) {
     return {};
 }
 
+BusAnswer BusFace::changeTint(double hue, bool byHue, double vividness, bool byVividness) {
+    nocturo::setTint(hue + (byHue ? NDColorFilterEffect::hue() : 0.0),
+                     vividness + (byVividness ? NDColorFilterEffect::vividness() : 0.0));
+    return {};
+}
+
 BusAnswer BusFace::stepSetting(const std::string& key, double by) {
     const Setting* setting = settingNamed(key);
     if (setting == nullptr || setting->type != SettingType::real) {
         return refusal(translated("\"%@\" is no setting that goes in steps.", {key}));
     }
     nocturo::stepSetting(key, by);
+    return {};
+}
+
+BusAnswer BusFace::addScreens(const std::vector<std::int64_t>& displays) {
+    addAffectedScreens(defaults_, displays);
+    return {};
+}
+
+BusAnswer BusFace::removeScreens(const std::vector<std::int64_t>& displays) {
+    std::vector<std::int64_t> online;
+    const auto* infos =
+        displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
+    for (std::size_t i = 0; infos != nullptr && i < infos->size() && i < kZQMaxDisplays; ++i) {
+        online.push_back((*infos)[i].id);
+    }
+    if (!removeAffectedScreens(defaults_, displays, online)) {
+        return refusal(translated("One display has to stay, as a choice of none means all; "
+                                  "nocturoctl off switches the effect off."));
+    }
     return {};
 }
 

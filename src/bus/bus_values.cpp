@@ -199,13 +199,22 @@ bool readArgument(sd_bus_message* call, std::string& value) {
     return read;
 }
 
-bool readArgument(sd_bus_message* call, std::vector<std::string>& value) {
+template <typename Element>
+static bool readElements(sd_bus_message* call, std::vector<Element>& value) {
     PropertyArray array;
-    const bool read = readList<std::string>(call, array);
+    const bool read = readList<Element>(call, array);
     for (const PropertyValue& element : array) {
-        value.push_back(*element.as<std::string>());
+        value.push_back(*element.as<Element>());
     }
     return read;
+}
+
+bool readArgument(sd_bus_message* call, std::vector<std::string>& value) {
+    return readElements(call, value);
+}
+
+bool readArgument(sd_bus_message* call, std::vector<std::int64_t>& value) {
+    return readElements(call, value);
 }
 
 bool readArgument(sd_bus_message* call, std::optional<PropertyValue>& value) {

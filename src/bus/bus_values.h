@@ -52,6 +52,7 @@ bool readArgument(sd_bus_message* call, std::uint32_t& value);
 bool readArgument(sd_bus_message* call, double& value); // a finite one
 bool readArgument(sd_bus_message* call, std::string& value);
 bool readArgument(sd_bus_message* call, std::vector<std::string>& value);
+bool readArgument(sd_bus_message* call, std::vector<std::int64_t>& value);
 
 /// A variant that may be stored as a setting; nothing in it for every other type of variant.
 bool readArgument(sd_bus_message* call, std::optional<PropertyValue>& value);

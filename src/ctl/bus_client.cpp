@@ -2,7 +2,6 @@
 
 #include "base/texts/translated.h"
 #include "bus/bus_names.h"
-#include "bus/bus_values.h"
 #include "ctl/answer_check.h"
 #include "ctl/bus_json.h"
 #include "ctl/failure.h"
@@ -65,71 +64,11 @@ BusClient::BusClient() : bus_(Bus::connect(sessionBusAddress(), loop_)) {
     }
 }
 
-void BusClient::call(const char* method) {
-    send(newCall(kNocturoInterface, method));
-}
-
-void BusClient::call(const char* method, bool argument) {
+void BusClient::callWith(const char* method, const std::vector<BusValue>& arguments) {
     const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "b", static_cast<int>(argument)));
-    send(message);
-}
-
-void BusClient::call(const char* method, std::int32_t argument) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "i", argument));
-    send(message);
-}
-
-void BusClient::call(const char* method, std::uint32_t argument) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "u", argument));
-    send(message);
-}
-
-void BusClient::call(const char* method, double argument) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "d", argument));
-    send(message);
-}
-
-void BusClient::call(const char* method, double first, double second) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "dd", first, second));
-    send(message);
-}
-
-void BusClient::call(const char* method, const std::string& first, double second) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "sd", first.c_str(), second));
-    send(message);
-}
-
-void BusClient::call(const char* method, const std::string& argument) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "s", argument.c_str()));
-    send(message);
-}
-
-void BusClient::call(const char* method, const std::string& first, const std::string& second) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "ss", first.c_str(), second.c_str()));
-    send(message);
-}
-
-void BusClient::call(const char* method, const std::string& first, std::uint32_t second) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_append(message.get(), "su", first.c_str(), second));
-    send(message);
-}
-
-void BusClient::call(const char* method, std::span<const std::string> argument) {
-    const BusMessage message = newCall(kNocturoInterface, method);
-    check(sd_bus_message_open_container(message.get(), 'a', "s"));
-    for (const std::string& text : argument) {
-        check(sd_bus_message_append(message.get(), "s", text.c_str()));
+    for (const BusValue& argument : arguments) {
+        appendValue(message.get(), argument);
     }
-    check(sd_bus_message_close_container(message.get()));
     send(message);
 }
 

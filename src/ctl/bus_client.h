@@ -3,13 +3,14 @@
 #include "base/bus.h"
 #include "base/event_loop.h"
 #include "base/property_value.h"
+#include "bus/bus_values.h"
 
 #include <chrono>
 #include <functional>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <span>
 #include <string>
+#include <vector>
 
 namespace nocturo {
 
@@ -24,17 +25,11 @@ class BusClient {
     /// How long to wait for an answer, instead of 5 seconds.
     void setPatience(std::chrono::milliseconds patience) { patience_ = patience; }
 
-    void call(const char* method);
-    void call(const char* method, bool argument);
-    void call(const char* method, std::int32_t argument);
-    void call(const char* method, std::uint32_t argument);
-    void call(const char* method, double argument);
-    void call(const char* method, double first, double second);
-    void call(const char* method, const std::string& argument);
-    void call(const char* method, const std::string& first, double second);
-    void call(const char* method, const std::string& first, const std::string& second);
-    void call(const char* method, const std::string& first, std::uint32_t second);
-    void call(const char* method, std::span<const std::string> argument);
+    /// Calls a method with arguments of types that the bus has.
+    template <class... Arguments>
+    void call(const char* method, const Arguments&... arguments) {
+        callWith(method, {BusValue(arguments)...});
+    }
 
     /// A picture in PNG of what the effects do on the display of that identifier.
     std::string renderPreview(std::uint32_t display);
@@ -53,6 +48,7 @@ class BusClient {
                const std::function<void(const Json& properties)>& changed);
 
   private:
+    void callWith(const char* method, const std::vector<BusValue>& arguments);
     BusMessage newCall(const char* interface, const char* method);
     BusMessage send(const BusMessage& message);
 

@@ -259,12 +259,15 @@ constexpr std::array kCommands = std::to_array<Command>({
      ListedText("NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
                 "name. add, remove and toggle change the selection, only replaces it."),
      runEffects, true},
-    {"dim", "[N% | +N% | -N% | =LEVEL%]", ListedText("Dim or lighten"),
+    {"dim", "[N% | +N% | -N% | =LEVEL%]", ListedText("Show the dim level, dim or lighten"),
      ListedText(
-         "N% makes the picture darker by so much than it is by itself; +N% and -N% make it\n"
-         "lighter and darker than it is now. A LEVEL is what the window shows, -100 to 100."),
+         "N% makes the picture darker by so much than it is by itself. +N% and -N% are steps: "
+         "they\n"
+         "make it lighter and darker than it is now, and print what it is then. =LEVEL% is what\n"
+         "the window shows, from =-100% (black) over =0% to =100% (white)."),
      runDim, true},
-    {"tint", "HUE [VIVIDNESS%]", ListedText("Choose the color filter's hue and vividness"),
+    {"tint", "[HUE [VIVIDNESS%]]",
+     ListedText("Show or choose hue and vividness of the color filter"),
      ListedText(
          "HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from\n"
          "what is there."),

@@ -10,10 +10,11 @@
 #include "effects/dim_effect.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
-#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace nocturo {
@@ -73,22 +74,36 @@ void checkRange(const char* verb, double value, double lowest, double highest, b
     }
 }
 
-void changeEffects(BusClient& client, bool add, const std::vector<std::string>& names) {
-    if (!names.empty()) {
-        client.call(add ? "AddEffects" : "RemoveEffects", names);
-    }
+/// The methods that take names.
+constexpr auto kWays =
+    std::to_array<std::pair<std::string_view, const char*>>({{"add", "AddEffects"},
+                                                             {"remove", "RemoveEffects"},
+                                                             {"toggle", "ToggleEffects"},
+                                                             {"only", "SetEffects"},
+                                                             {"none", "SetEffects"}});
+
+std::string dimText(const Json& properties) {
+    const std::string text = signedPercentText(properties["dimLevel"].get<double>());
+    return isChosen(properties, NDDimEffect::kName) ? text
+                                                    : translated("%@  (dim is not chosen)", {text});
 }
 
-void toggleEffects(const std::vector<std::string>& names) {
+std::string tintText(const Json& properties) {
+    const std::string text = properties["colorFilterHue"].dump() + "\u00B0  " +
+                             percentText(properties["colorFilterVividness"].get<double>());
+    return isChosen(properties, NDColorFilterEffect::kName)
+               ? text
+               : translated("%@  (the color filter is not chosen)", {text});
+}
+
+/// Prints what there is after the call, if there is one: after a step nobody knows.
+template <class... Call>
+void tellAfter(std::string (*text)(const Json& properties), const Call&... call) {
     BusClient client;
-    const Json properties = client.properties();
-    std::vector<std::string> chosen;
-    std::vector<std::string> others;
-    for (const std::string& name : names) {
-        (isChosen(properties, name) ? chosen : others).push_back(name);
+    if constexpr (sizeof...(call) > 0) {
+        client.call(call...);
     }
-    changeEffects(client, false, chosen);
-    changeEffects(client, true, others);
+    print(text(client.properties()) + '\n');
 }
 
 } // namespace
@@ -101,24 +116,14 @@ void runEffects(Arguments arguments) {
     const std::string& how = arguments.front();
     const auto names = effectsFromTexts(arguments.subspan(how == "none" ? arguments.size() : 1));
     expect(names.empty() == (how == "none") && (how != "none" || arguments.size() == 1));
-    if (how == "none" || how == "only") {
-        BusClient().call("SetEffects", names);
-    } else if (how == "toggle") {
-        toggleEffects(names);
-    } else {
-        expect(how == "add" || how == "remove");
-        BusClient().call(how == "add" ? "AddEffects" : "RemoveEffects", names);
-    }
+    const auto* way = std::ranges::find(kWays, how, [](const auto& each) { return each.first; });
+    expect(way != kWays.end());
+    BusClient().call(way->second, names);
 }
 
 void runDim(Arguments arguments) {
     if (arguments.empty()) {
-        const Json properties = BusClient().properties();
-        const std::string text = signedPercentText(properties["dimLevel"].get<double>());
-        print((isChosen(properties, NDDimEffect::kName)
-                   ? text
-                   : translated("%@  (dim is not chosen)", {text})) +
-              '\n');
+        tellAfter(dimText);
         return;
     }
     expect(arguments.size() == 1);
@@ -127,7 +132,7 @@ void runDim(Arguments arguments) {
     text.remove_prefix(isLevel ? 1 : 0);
     const double number = share(text);
     if (!isLevel && isStep(text)) {
-        BusClient().call("StepDim", number);
+        tellAfter(dimText, "StepDim", number);
         return;
     }
     checkRange("dim", number, isLevel ? -1.0 : 0.0, 1.0, true);
@@ -135,42 +140,42 @@ void runDim(Arguments arguments) {
 }
 
 void runTint(Arguments arguments) {
-    expect(!arguments.empty() && arguments.size() <= 2);
-    double hue = amount(arguments[0], 0.0);
-    std::optional<double> vividness;
-    if (!isStep(arguments[0])) {
+    if (arguments.empty()) {
+        tellAfter(tintText);
+        return;
+    }
+    expect(arguments.size() <= 2);
+    const double hue = amount(arguments[0], 0.0);
+    const bool byHue = isStep(arguments[0]);
+    // A step of 0 leaves what is not named.
+    const double vividness = arguments.size() == 2 ? share(arguments[1]) : 0.0;
+    const bool byVividness = arguments.size() == 1 || isStep(arguments[1]);
+    if (!byHue) {
         checkRange("tint", hue, 0.0, 360.0, false);
     }
-    if (arguments.size() == 2) {
-        vividness = share(arguments[1]);
-        if (!isStep(arguments[1])) {
-            checkRange("tint", *vividness, 0.0, 1.0, true);
-        }
+    if (!byVividness) {
+        checkRange("tint", vividness, 0.0, 1.0, true);
     }
-    BusClient client;
-    const Json properties = client.properties();
-    const double before = properties["colorFilterVividness"].get<double>();
-    if (isStep(arguments[0])) {
-        hue += properties["colorFilterHue"].get<double>(); // goes round
+    if (byHue || (byVividness && arguments.size() == 2)) {
+        tellAfter(tintText, "ChangeTint", hue, byHue, vividness, byVividness);
+    } else {
+        BusClient().call("ChangeTint", hue, byHue, vividness, byVividness);
     }
-    if (!vividness) {
-        vividness = before;
-    } else if (isStep(arguments[1])) {
-        *vividness += before; // limited there
-    }
-    client.call("SetTint", hue, *vividness);
 }
 
 void runStep(Arguments arguments) {
     expect(arguments.size() == 2);
     const std::string& key = arguments[0];
     const double by = amount(arguments[1], isShare(key) ? 1.0 : 0.0);
-    BusClient().call("StepSetting", key, by);
+    BusClient client;
+    client.call("StepSetting", key, by);
+    const Json value = client.properties()["settings"][key];
+    print((isShare(key) ? signedPercentText(value.get<double>()) : value.dump()) + '\n');
 }
 
 void runTemperature(Arguments arguments) {
     if (arguments.empty()) {
-        print(temperatureText(BusClient().properties()) + '\n');
+        tellAfter(temperatureText);
         return;
     }
     expect(arguments.size() == 1);
@@ -185,7 +190,7 @@ void runTemperature(Arguments arguments) {
         throw Failure{kUsage, translated("A temperature is from 1000 to 25000 K.")};
     }
     if (isStep) {
-        BusClient().call("StepTemperature", kelvin);
+        tellAfter(temperatureText, "StepTemperature", kelvin);
     } else {
         BusClient().call("SetTemperature", static_cast<std::uint32_t>(kelvin));
     }

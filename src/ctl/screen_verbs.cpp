@@ -8,6 +8,7 @@
 #include <charconv>
 #include <optional>
 #include <set>
+#include <vector>
 
 namespace nocturo {
 
@@ -34,26 +35,6 @@ Displays affectedDisplays(const Json& properties) {
         }
     }
     return displays;
-}
-
-void choose(BusClient& client, const std::string& how, const Displays& named,
-            const Json& properties) {
-    Displays displays = how == "only" ? Displays() : affectedDisplays(properties);
-    if (how == "add" && properties["affectedScreenSet"].empty()) {
-        return; // all are
-    }
-    for (const std::int64_t display : named) {
-        if (how == "remove") {
-            displays.erase(display);
-        } else {
-            displays.insert(display);
-        }
-    }
-    if (displays.empty()) {
-        throw Failure{kUsage, translated("One display has to stay, as a choice of none means all; "
-                                         "nocturoctl off switches the effect off.")};
-    }
-    client.callSetSetting("AffectedScreenSet", PropertyArray(displays.begin(), displays.end()));
 }
 
 } // namespace
@@ -108,16 +89,19 @@ void runScreens(Arguments arguments) {
     expect(arguments.size() > 1 &&
            (how == "toggle" || how == "only" || how == "add" || how == "remove"));
     const Json properties = client.properties();
-    Displays named;
+    std::vector<std::int64_t> named;
     for (const std::string& text : arguments.subspan(1)) {
-        named.insert(displayFromText(properties, text));
+        named.push_back(displayFromText(properties, text));
     }
-    if (how != "toggle") {
-        choose(client, how, named, properties);
-        return;
-    }
-    for (const std::int64_t display : named) {
-        client.call("ToggleScreen", static_cast<std::uint32_t>(display));
+    if (how == "toggle") {
+        for (const std::int64_t display : named) {
+            client.call("ToggleScreen", static_cast<std::uint32_t>(display));
+        }
+    } else if (how == "only") {
+        const Displays sorted(named.begin(), named.end());
+        client.callSetSetting("AffectedScreenSet", PropertyArray(sorted.begin(), sorted.end()));
+    } else {
+        client.call(how == "add" ? "AddScreens" : "RemoveScreens", named);
     }
 }
 

@@ -37,6 +37,12 @@ PropertyValue stored(double number) {
     return number;
 }
 
+void store(DefaultsStore& defaults, const std::vector<double>& numbers) {
+    PropertyArray array;
+    std::transform(numbers.begin(), numbers.end(), std::back_inserter(array), stored);
+    defaults.setObject(std::move(array), kAffectedScreenSet);
+}
+
 } // namespace
 
 std::vector<double> affectedScreenSet(const DefaultsStore& defaults) {
@@ -72,9 +78,33 @@ void chooseAffectedScreen(DefaultsStore& defaults, std::int32_t tag) {
         numbers.push_back(number);
         std::sort(numbers.begin(), numbers.end());
     }
-    PropertyArray array;
-    std::transform(numbers.begin(), numbers.end(), std::back_inserter(array), stored);
-    defaults.setObject(std::move(array), kAffectedScreenSet);
+    store(defaults, numbers);
+}
+
+void addAffectedScreens(DefaultsStore& defaults, const std::vector<std::int64_t>& displays) {
+    std::vector<double> numbers = affectedScreenSet(defaults);
+    if (!numbers.empty()) {
+        numbers.insert(numbers.end(), displays.begin(), displays.end());
+        std::sort(numbers.begin(), numbers.end());
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+        store(defaults, numbers);
+    }
+}
+
+bool removeAffectedScreens(DefaultsStore& defaults, const std::vector<std::int64_t>& displays,
+                           const std::vector<std::int64_t>& online) {
+    std::vector<double> numbers = affectedScreenSet(defaults);
+    if (numbers.empty()) {
+        numbers.assign(online.begin(), online.end());
+        std::sort(numbers.begin(), numbers.end());
+    }
+    for (const std::int64_t display : displays) {
+        std::erase(numbers, static_cast<double>(display));
+    }
+    if (!numbers.empty()) {
+        store(defaults, numbers);
+    }
+    return !numbers.empty();
 }
 
 } // namespace nocturo

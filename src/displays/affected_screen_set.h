@@ -29,4 +29,12 @@ std::vector<std::int64_t> affectedScreenIdentifiers(const DefaultsStore& default
 /// the pick, whichever way it went.
 void chooseAffectedScreen(DefaultsStore& defaults, std::int32_t tag);
 
+/// Puts displays into the set; nothing where it is empty, as all are affected then.
+void addAffectedScreens(DefaultsStore& defaults, const std::vector<std::int64_t>& displays);
+
+/// Takes displays out of the set, and out of those that are `online` where it is empty. False, with
+/// nothing changed, where none would be left, which would mean all.
+bool removeAffectedScreens(DefaultsStore& defaults, const std::vector<std::int64_t>& displays,
+                           const std::vector<std::int64_t>& online);
+
 } // namespace nocturo

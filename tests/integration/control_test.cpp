@@ -336,6 +336,26 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
               std::string::npos);
 }
 
+TEST_F(ControlOfRunning, CallersAtOnceLoseNoChange) {
+    ctl({"tint", "0", "50%"});
+    std::vector<std::unique_ptr<Process>> callers;
+    for (int i = 0; i < 4; ++i) {
+        callers.push_back(session_.start("nocturoctl", {"tint", "+25"}));
+        callers.push_back(session_.start("nocturoctl", {"effects", "toggle", "invert"}));
+    }
+    for (const std::string display : {"1", "2"}) {
+        callers.push_back(session_.start("nocturoctl", {"screens", "remove", display}));
+    }
+    for (const auto& caller : callers) {
+        EXPECT_EQ(caller->wait(), 0) << caller->errors();
+    }
+    const Json after = status();
+    EXPECT_EQ(after["colorFilterHue"], 100.0);
+    EXPECT_EQ(after["effects"], Json::array({"NDColorFilterEffect"}));
+    EXPECT_EQ(after["affectedScreenSet"], Json::array({after["displays"][2]["id"]}));
+    EXPECT_EQ(ctl({"tint", "-50", "+5%"}).output, "50.0\u00B0  55 %\n");
+}
+
 // Nothing between two combinations of effects is ever on a display.
 TEST_F(ControlOfRunning, ALookOrADocumentIsOneWriteADisplay) {
     const auto directory = session_.runtimeDirectory() / "nocturo";
