@@ -44,6 +44,9 @@ test         sway                      a real Wayland compositor
 test         qt6-wayland               windows there
 test         libwlroots-dev            ... whose outputs are given ramps, where it is 0.15
 test         mutter                    GNOME's displays
+test         polybar                   bars that show the state
+test         waybar                    ...
+test         grim                      what a bar draws under Wayland
 test         gammastep                 a program that wants the same outputs
 test         x11-xserver-utils         xrandr lights displays, xset starts screen savers, xmodmap moves keys
 test         locales                   one with a comma in its numbers

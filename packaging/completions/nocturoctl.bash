@@ -25,7 +25,8 @@ _nocturoctl() {
     choices="$verbs --help --version"
   else
     case ${words[1]}:$cword in
-      status:2) choices='--all --json' ;;
+      status:2) choices='--all --json --bar --bar=polybar --bar=i3status-rust' ;;
+      status:*) choices='--follow' ;;
       effects:2) choices='add remove toggle only none' ;;
       effects:*) choices=$effects ;;
       look:*)

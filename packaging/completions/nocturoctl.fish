@@ -50,6 +50,8 @@ complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a displ
 complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects dim temperature tint look set step reset screens open' -l keep -d 'Keep the colors even if hard to read'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l all -d 'Every setting as well'
+complete -c nocturoctl -n '__fish_seen_subcommand_from status' -a '--bar --bar=polybar --bar=i3status-rust' -d 'A line for a bar'
+complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l follow -d 'Another line at each change'
 complete -c nocturoctl -n '__nocturoctl_at effects 0' -a 'add remove toggle only none'
 complete -c nocturoctl -n '__fish_seen_subcommand_from effects; and not __nocturoctl_at effects 0' -a "$effects"
 complete -c nocturoctl -n '__nocturoctl_at look 0' -a 'next previous back list save delete rename move'

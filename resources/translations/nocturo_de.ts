@@ -403,6 +403,22 @@
             <translation>Nocturo hat etwas geantwortet, was diese Version nicht versteht.</translation>
         </message>
         <message>
+            <source>On</source>
+            <translation>An</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running.</source>
+            <translation>Nocturo läuft nicht.</translation>
+        </message>
+        <message>
+            <source>Paused</source>
+            <translation>Pausiert</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Aus</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo läuft nicht; starten Sie es mit: nocturo &amp;</translation>
         </message>
@@ -455,10 +471,6 @@
             <translation>Die Datei „%@“ kann nicht geschrieben werden.</translation>
         </message>
         <message>
-            <source>Nocturo has ended.</source>
-            <translation>Nocturo wurde beendet.</translation>
-        </message>
-        <message>
             <source>Switch the effect on</source>
             <translation>Den Effekt einschalten</translation>
         </message>
@@ -483,8 +495,12 @@
             <translation>Den Zustand von allem zeigen</translation>
         </message>
         <message>
-            <source>With --all, every setting as well; with --json, one object for programs.</source>
-            <translation>Mit --all auch jede Einstellung; mit --json als ein Objekt für Programme.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs; with --bar,
+a line for a bar: waybar, polybar or i3status-rust. --follow prints another line at
+each change, whether Nocturo runs or comes later.</source>
+            <translation>Mit --all auch jede Einstellung; mit --json ein Objekt für Programme; mit --bar eine
+Zeile für eine Leiste: waybar, polybar oder i3status-rust. --follow gibt bei jeder
+Änderung eine weitere aus, ob Nocturo läuft oder später kommt.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -629,8 +645,10 @@ sie gesehen, als PNG-Bild. N ist seine Nummer, sein Name oder seine Kennung.</tr
             <translation>Jede Änderung ausgeben, sobald sie geschieht</translation>
         </message>
         <message>
-            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
-            <translation>Ein JSON-Objekt je Zeile mit dem, was sich geändert hat. Endet mit Nocturo.</translation>
+            <source>One JSON object a line: first the whole state, then what changed. Ends when Nocturo
+does.</source>
+            <translation>Ein JSON-Objekt pro Zeile: zuerst der ganze Zustand, dann was sich ändert. Endet mit
+Nocturo.</translation>
         </message>
         <message>
             <source>Give every display its own colors back</source>
@@ -657,6 +675,10 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
         <message>
             <source>%@  (dim is not chosen)</source>
             <translation>%@  (Abdunkeln ist nicht gewählt)</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo wurde beendet.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

@@ -403,6 +403,22 @@
             <translation>Nocturo ha respondido algo que esta versión no entiende.</translation>
         </message>
         <message>
+            <source>On</source>
+            <translation>Activado</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running.</source>
+            <translation>Nocturo no se está ejecutando.</translation>
+        </message>
+        <message>
+            <source>Paused</source>
+            <translation>En pausa</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Desactivado</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo no se está ejecutando; inícielo con: nocturo &amp;</translation>
         </message>
@@ -455,10 +471,6 @@
             <translation>No se puede escribir el archivo «%@».</translation>
         </message>
         <message>
-            <source>Nocturo has ended.</source>
-            <translation>Nocturo ha terminado.</translation>
-        </message>
-        <message>
             <source>Switch the effect on</source>
             <translation>Activar el efecto</translation>
         </message>
@@ -483,8 +495,12 @@
             <translation>Mostrar el estado de todo</translation>
         </message>
         <message>
-            <source>With --all, every setting as well; with --json, one object for programs.</source>
-            <translation>Con --all, también cada ajuste; con --json, un objeto para programas.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs; with --bar,
+a line for a bar: waybar, polybar or i3status-rust. --follow prints another line at
+each change, whether Nocturo runs or comes later.</source>
+            <translation>Con --all, también todos los ajustes; con --json, un objeto para programas; con --bar,
+una línea para una barra: waybar, polybar o i3status-rust. --follow imprime otra con
+cada cambio, tanto si Nocturo se ejecuta como si llega después.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -629,8 +645,10 @@ través de ellas, como imagen PNG. N es su número, nombre o identificador.</tra
             <translation>Escribir cada cambio cuando ocurre</translation>
         </message>
         <message>
-            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
-            <translation>Un objeto JSON por línea, con lo que cambió. Termina cuando termina Nocturo.</translation>
+            <source>One JSON object a line: first the whole state, then what changed. Ends when Nocturo
+does.</source>
+            <translation>Un objeto JSON por línea: primero todo el estado, luego lo que cambió. Termina cuando lo
+hace Nocturo.</translation>
         </message>
         <message>
             <source>Give every display its own colors back</source>
@@ -657,6 +675,10 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
         <message>
             <source>%@  (dim is not chosen)</source>
             <translation>%@  (oscurecer no está elegido)</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo ha terminado.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

@@ -403,6 +403,22 @@
             <translation>Nocturo a répondu quelque chose que cette version ne comprend pas.</translation>
         </message>
         <message>
+            <source>On</source>
+            <translation>Activé</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running.</source>
+            <translation>Nocturo n'est pas lancé.</translation>
+        </message>
+        <message>
+            <source>Paused</source>
+            <translation>En pause</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Désactivé</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo n’est pas en cours d’exécution ; lancez-le avec : nocturo &amp;</translation>
         </message>
@@ -455,10 +471,6 @@
             <translation>Impossible d’écrire le fichier « %@ ».</translation>
         </message>
         <message>
-            <source>Nocturo has ended.</source>
-            <translation>Nocturo s’est terminé.</translation>
-        </message>
-        <message>
             <source>Switch the effect on</source>
             <translation>Activer l’effet</translation>
         </message>
@@ -483,8 +495,12 @@
             <translation>Afficher l’état de tout</translation>
         </message>
         <message>
-            <source>With --all, every setting as well; with --json, one object for programs.</source>
-            <translation>Avec --all, chaque réglage aussi ; avec --json, un objet pour les programmes.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs; with --bar,
+a line for a bar: waybar, polybar or i3status-rust. --follow prints another line at
+each change, whether Nocturo runs or comes later.</source>
+            <translation>Avec --all, tous les réglages aussi ; avec --json, un objet pour les programmes ; avec
+--bar, une ligne pour une barre : waybar, polybar ou i3status-rust. --follow en affiche
+une autre à chaque changement, que Nocturo soit lancé ou vienne plus tard.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -629,8 +645,10 @@ vue à travers elles, en image PNG. N est son numéro, son nom ou son identifian
             <translation>Écrire chaque changement dès qu’il se produit</translation>
         </message>
         <message>
-            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
-            <translation>Un objet JSON par ligne, avec ce qui a changé. S’arrête en même temps que Nocturo.</translation>
+            <source>One JSON object a line: first the whole state, then what changed. Ends when Nocturo
+does.</source>
+            <translation>Un objet JSON par ligne : d'abord tout l'état, puis ce qui a changé. Se termine avec
+Nocturo.</translation>
         </message>
         <message>
             <source>Give every display its own colors back</source>
@@ -657,6 +675,10 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
         <message>
             <source>%@  (dim is not chosen)</source>
             <translation>%@  (assombrir n’est pas choisi)</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo s’est terminé.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

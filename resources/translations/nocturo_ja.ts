@@ -403,6 +403,22 @@
             <translation>Nocturoの応答をこのバージョンでは解釈できません。</translation>
         </message>
         <message>
+            <source>On</source>
+            <translation>オン</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running.</source>
+            <translation>Nocturo は起動していません。</translation>
+        </message>
+        <message>
+            <source>Paused</source>
+            <translation>一時停止</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>オフ</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo は起動していません。次のように起動してください: nocturo &amp;</translation>
         </message>
@@ -455,10 +471,6 @@
             <translation>ファイル「%@」に書き込めません。</translation>
         </message>
         <message>
-            <source>Nocturo has ended.</source>
-            <translation>Nocturo が終了しました。</translation>
-        </message>
-        <message>
             <source>Switch the effect on</source>
             <translation>効果をオンにする</translation>
         </message>
@@ -483,8 +495,12 @@
             <translation>すべての状態を表示する</translation>
         </message>
         <message>
-            <source>With --all, every setting as well; with --json, one object for programs.</source>
-            <translation>--all を付けるとすべての設定も、--json を付けるとプログラム向けのオブジェクトを表示します。</translation>
+            <source>With --all, every setting as well; with --json, one object for programs; with --bar,
+a line for a bar: waybar, polybar or i3status-rust. --follow prints another line at
+each change, whether Nocturo runs or comes later.</source>
+            <translation>--all ですべての設定も、--json でプログラム向けの 1 つのオブジェクトを、--bar で
+バー（waybar、polybar、i3status-rust）向けの 1 行を表示します。--follow は変化の
+たびにもう 1 行表示し、Nocturo が後から起動しても続けます。</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -628,8 +644,10 @@ through them, as a PNG picture. N is its number, name or identifier.</source>
             <translation>変更があるたびに出力する</translation>
         </message>
         <message>
-            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
-            <translation>変更内容を 1 行に 1 つの JSON オブジェクトで出力し、Nocturo とともに終了します。</translation>
+            <source>One JSON object a line: first the whole state, then what changed. Ends when Nocturo
+does.</source>
+            <translation>1 行に 1 つの JSON オブジェクト：最初に状態全体、その後は変わったもの。Nocturo と
+ともに終わります。</translation>
         </message>
         <message>
             <source>Give every display its own colors back</source>
@@ -656,6 +674,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>%@  (dim is not chosen)</source>
             <translation>%@  (「暗くする」は選択されていません)</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo が終了しました。</translation>
         </message>
         <message>
             <source>Usage: %@</source>

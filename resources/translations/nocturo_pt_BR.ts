@@ -403,6 +403,22 @@
             <translation>O Nocturo respondeu algo que esta versão não entende.</translation>
         </message>
         <message>
+            <source>On</source>
+            <translation>Ativado</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running.</source>
+            <translation>O Nocturo não está em execução.</translation>
+        </message>
+        <message>
+            <source>Paused</source>
+            <translation>Em pausa</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Desativado</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>O Nocturo não está em execução; inicie-o com: nocturo &amp;</translation>
         </message>
@@ -455,10 +471,6 @@
             <translation>Não é possível gravar o arquivo “%@”.</translation>
         </message>
         <message>
-            <source>Nocturo has ended.</source>
-            <translation>O Nocturo foi encerrado.</translation>
-        </message>
-        <message>
             <source>Switch the effect on</source>
             <translation>Ativar o efeito</translation>
         </message>
@@ -483,8 +495,12 @@
             <translation>Mostrar o estado de tudo</translation>
         </message>
         <message>
-            <source>With --all, every setting as well; with --json, one object for programs.</source>
-            <translation>Com --all, também cada configuração; com --json, um objeto para programas.</translation>
+            <source>With --all, every setting as well; with --json, one object for programs; with --bar,
+a line for a bar: waybar, polybar or i3status-rust. --follow prints another line at
+each change, whether Nocturo runs or comes later.</source>
+            <translation>Com --all, também todas as configurações; com --json, um objeto para programas; com --bar,
+uma linha para uma barra: waybar, polybar ou i3status-rust. --follow imprime outra a cada
+mudança, quer o Nocturo esteja em execução, quer venha depois.</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -629,8 +645,10 @@ delas, como imagem PNG. N é seu número, nome ou identificador.</translation>
             <translation>Mostrar cada mudança quando acontece</translation>
         </message>
         <message>
-            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
-            <translation>Um objeto JSON por linha, com o que mudou. Termina junto com o Nocturo.</translation>
+            <source>One JSON object a line: first the whole state, then what changed. Ends when Nocturo
+does.</source>
+            <translation>Um objeto JSON por linha: primeiro o estado inteiro, depois o que mudou. Termina quando o
+Nocturo termina.</translation>
         </message>
         <message>
             <source>Give every display its own colors back</source>
@@ -657,6 +675,10 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
         <message>
             <source>%@  (dim is not chosen)</source>
             <translation>%@  (escurecer não está escolhido)</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>O Nocturo foi encerrado.</translation>
         </message>
         <message>
             <source>Usage: %@</source>

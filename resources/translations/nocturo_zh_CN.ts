@@ -403,6 +403,22 @@
             <translation>Nocturo 的回答是此版本无法理解的。</translation>
         </message>
         <message>
+            <source>On</source>
+            <translation>开</translation>
+        </message>
+        <message>
+            <source>Nocturo is not running.</source>
+            <translation>Nocturo 未在运行。</translation>
+        </message>
+        <message>
+            <source>Paused</source>
+            <translation>已暂停</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>关</translation>
+        </message>
+        <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
             <translation>Nocturo 未在运行；请用此命令启动：nocturo &amp;</translation>
         </message>
@@ -455,10 +471,6 @@
             <translation>无法写入文件“%@”。</translation>
         </message>
         <message>
-            <source>Nocturo has ended.</source>
-            <translation>Nocturo 已退出。</translation>
-        </message>
-        <message>
             <source>Switch the effect on</source>
             <translation>启用效果</translation>
         </message>
@@ -483,8 +495,12 @@
             <translation>显示所有状态</translation>
         </message>
         <message>
-            <source>With --all, every setting as well; with --json, one object for programs.</source>
-            <translation>使用 --all 时还列出每个设置；使用 --json 时输出一个供程序使用的对象。</translation>
+            <source>With --all, every setting as well; with --json, one object for programs; with --bar,
+a line for a bar: waybar, polybar or i3status-rust. --follow prints another line at
+each change, whether Nocturo runs or comes later.</source>
+            <translation>--all 另外显示每项设置；--json 显示供程序使用的一个对象；--bar 显示供状态栏使用的一行：
+waybar、polybar 或 i3status-rust。--follow 在每次变化时再显示一行，
+无论 Nocturo 正在运行还是稍后启动。</translation>
         </message>
         <message>
             <source>List or choose the effects</source>
@@ -626,8 +642,9 @@ N 是屏幕的编号、名称或标识符。</translation>
             <translation>实时输出每次更改</translation>
         </message>
         <message>
-            <source>One JSON object a line, with what changed. Ends when Nocturo does.</source>
-            <translation>每行一个 JSON 对象，包含更改的内容。随 Nocturo 一同结束。</translation>
+            <source>One JSON object a line: first the whole state, then what changed. Ends when Nocturo
+does.</source>
+            <translation>每行一个 JSON 对象：先是整个状态，然后是变化。随 Nocturo 结束。</translation>
         </message>
         <message>
             <source>Give every display its own colors back</source>
@@ -654,6 +671,10 @@ nothing is known of a display's own colors it gets plain ones.</source>
         <message>
             <source>%@  (dim is not chosen)</source>
             <translation>%@  （未选中调暗）</translation>
+        </message>
+        <message>
+            <source>Nocturo has ended.</source>
+            <translation>Nocturo 已退出。</translation>
         </message>
         <message>
             <source>Usage: %@</source>

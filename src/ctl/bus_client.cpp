@@ -5,11 +5,16 @@
 #include "ctl/answer_check.h"
 #include "ctl/bus_json.h"
 #include "ctl/failure.h"
+#include "ctl/output.h"
 
+#include <algorithm>
+#include <array>
+#include <chrono>
 #include <cstring>
+#include <optional>
+#include <poll.h>
 #include <string_view>
-#include <utility>
-#include <vector>
+#include <unistd.h>
 
 namespace nocturo {
 
@@ -42,17 +47,6 @@ class BusError {
   private:
     sd_bus_error error_{};
 };
-
-// Waits without end for what the handlers of the bus are given.
-void serve(sd_bus* bus, const bool& isOver) {
-    while (!isOver) {
-        const int processed = sd_bus_process(bus, nullptr);
-        check(processed);
-        if (processed == 0) {
-            check(sd_bus_wait(bus, UINT64_MAX));
-        }
-    }
-}
 
 } // namespace
 
@@ -99,37 +93,102 @@ Json BusClient::properties() {
     return properties;
 }
 
-void BusClient::watch(const std::function<void(const Json& properties)>& started,
-                      const std::function<void(const Json& properties)>& changed) {
+struct BusClient::Watching {
+    Follower& follower;
+    std::optional<std::string> owner;
+    bool isToldAll = false;
     bool isOver = false;
     std::optional<Failure> failure; // nothing may be thrown through the bus's library
+
+    void propertiesChanged(sd_bus_message* signal) {
+        const char* interface = nullptr;
+        if (isOver || !isToldAll || sd_bus_message_read(signal, "s", &interface) < 0 ||
+            std::string_view(interface) != kNocturoInterface) {
+            return;
+        }
+        try {
+            const Json properties = withSmallFirstLetters(readJson(signal));
+            checkAnswer(properties, Answer::inPart);
+            follower.change(properties);
+        } catch (const Failure& thrown) {
+            failure = thrown;
+            isOver = true;
+        }
+    }
+
+    void ownerIs(const std::string& name) {
+        if (owner && name != *owner) {
+            isToldAll = false; // another Nocturo, or none
+            isOver = isOver || (name.empty() && !follower.end());
+        }
+        owner = name;
+    }
+
+    bool isToBeToldAll() const { return !isToldAll && owner && !owner->empty(); }
+};
+
+void BusClient::watch(Follower& follower) {
+    Watching watching{follower, {}, false, false, {}};
     const auto changes =
         bus_->onSignal(kBusName, kObjectPath, kPropertiesInterface, "PropertiesChanged",
-                       [&](sd_bus_message* signal) {
-                           const char* interface = nullptr;
-                           if (isOver || sd_bus_message_read(signal, "s", &interface) < 0 ||
-                               std::string_view(interface) != kNocturoInterface) {
-                               return;
-                           }
-                           try {
-                               const Json properties = withSmallFirstLetters(readJson(signal));
-                               checkAnswer(properties, Answer::inPart);
-                               changed(properties);
-                           } catch (const Failure& thrown) {
-                               failure = thrown;
-                               isOver = true;
-                           }
-                       });
-    std::string owner;
-    const auto owners = bus_->followOwner(kBusName, [&](const std::string& name) {
-        isOver = isOver || (!owner.empty() && name.empty());
-        owner = name;
-    });
-    started(properties());
-    serve(bus_->handle(), isOver);
-    if (failure) {
-        throw Failure(*failure);
+                       [&](sd_bus_message* signal) { watching.propertiesChanged(signal); });
+    const auto owners =
+        bus_->followOwner(kBusName, [&](const std::string& name) { watching.ownerIs(name); });
+    watching.isToldAll = tellAll(follower);
+    PatientOutput output;
+    while (!watching.isOver) {
+        if (watching.isToBeToldAll()) {
+            watching.isToldAll = tellAll(follower);
+        }
+        if (output.isDone()) {
+            output.write(follower.next());
+        }
+        const int processed = sd_bus_process(bus_->handle(), nullptr);
+        check(processed);
+        if (processed == 0 && !wait(output)) {
+            return;
+        }
     }
+    if (watching.failure) {
+        throw Failure(*watching.failure);
+    }
+    do {
+        output.write(output.isDone() ? follower.next() : "");
+    } while (!output.isDone() && wait(output));
+}
+
+bool BusClient::tellAll(Follower& follower) {
+    try {
+        follower.start(properties());
+        return true;
+    } catch (const Failure& failure) {
+        if (failure.exitStatus != kNotRunning || !follower.end()) {
+            throw;
+        }
+        return false;
+    }
+}
+
+// Returns false where nobody reads the output any more.
+bool BusClient::wait(PatientOutput& output) {
+    std::uint64_t until = UINT64_MAX; // of the monotonic clock
+    check(sd_bus_get_timeout(bus_->handle(), &until));
+    const auto now = std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+    const auto left = static_cast<std::int64_t>(until) - now.count();
+    const auto events = static_cast<short>(sd_bus_get_events(bus_->handle()));
+    const short wanted = output.isDone() ? 0 : POLLOUT;
+    std::array<pollfd, 2> polled{
+        {{sd_bus_get_fd(bus_->handle()), events, 0}, {STDOUT_FILENO, wanted, 0}}};
+    poll(polled.data(), polled.size(),
+         until == UINT64_MAX
+             ? -1
+             : static_cast<int>(std::clamp<std::int64_t>(left / 1000 + 1, 0, 60000)));
+    const short answer = polled[1].revents;
+    if ((answer & (POLLOUT | POLLNVAL)) != 0) {
+        output.goOn();
+    }
+    return (answer & (POLLERR | POLLHUP)) == 0;
 }
 
 BusMessage BusClient::newCall(const char* interface, const char* method) {

@@ -6,7 +6,6 @@
 #include "bus/bus_values.h"
 
 #include <chrono>
-#include <functional>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -14,7 +13,29 @@
 
 namespace nocturo {
 
+class PatientOutput;
+
 using Json = nlohmann::ordered_json;
+
+/// Somebody who follows what Nocturo does and prints it. Properties are told as by
+/// BusClient::properties().
+class Follower {
+  public:
+    virtual ~Follower() = default;
+
+    /// Nocturo is there: all properties.
+    virtual void start(const Json& properties) = 0;
+
+    /// Those that have changed.
+    virtual void change(const Json& properties) = 0;
+
+    /// There is no Nocturo, or none any more; whether to wait for one.
+    virtual bool end() = 0;
+
+    /// What is to be printed next, empty for nothing. Asked when all before has been read, so that
+    /// nothing piles up where nobody reads.
+    virtual std::string next() = 0;
+};
 
 /// The running Nocturo, over the session bus. Every member throws Failure, also where the answer is
 /// none that this version understands.
@@ -41,14 +62,16 @@ class BusClient {
     /// this version knows are there, and of their types.
     Json properties();
 
-    /// Calls `started` once with all properties, and from then on `changed` with those that
-    /// changed, each time that some did, until Nocturo leaves the bus. Misses no change in between.
-    /// Those that this version knows are of their types.
-    void watch(const std::function<void(const Json& properties)>& started,
-               const std::function<void(const Json& properties)>& changed);
+    /// Tells the follower of everything and prints what it says, until it has enough, Nocturo ends
+    /// or nobody can read any more. Misses no change.
+    void watch(Follower& follower);
 
   private:
+    struct Watching;
+
     void callWith(const char* method, const std::vector<BusValue>& arguments);
+    bool tellAll(Follower& follower);
+    bool wait(PatientOutput& output);
     BusMessage newCall(const char* interface, const char* method);
     BusMessage send(const BusMessage& message);
 

@@ -4,6 +4,7 @@
 #include "ctl/bus_client.h"
 #include "ctl/effect_verbs.h"
 #include "ctl/failure.h"
+#include "ctl/followers.h"
 #include "ctl/look_verb.h"
 #include "ctl/output.h"
 #include "ctl/report.h"
@@ -20,7 +21,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <vector>
 
 namespace nocturo {
@@ -53,6 +53,10 @@ void printLine(const Json& value) {
 }
 
 void runStatus(Arguments arguments) {
+    if (!arguments.empty() && arguments[0].starts_with("--bar")) {
+        runBar(arguments);
+        return;
+    }
     const bool asJson = arguments.size() == 1 && arguments[0] == "--json";
     const bool all = arguments.size() == 1 && arguments[0] == "--all";
     expect(arguments.empty() || asJson || all);
@@ -220,40 +224,18 @@ void runPreview(Arguments arguments) {
     }
 }
 
-// Settings arrive whole with every change; only those that differ are told.
-void printChanges(Json& known, const Json& changed) {
-    Json line = Json::object();
-    for (const auto& [name, value] : changed.items()) {
-        if (name != "settings") {
-            line[name] = value;
-            continue;
-        }
-        for (const auto& [key, setting] : value.items()) {
-            if (known["settings"].value(key, Json()) != setting) {
-                line["settings"][key] = setting;
-            }
-        }
-        known["settings"] = value;
-    }
-    printLine(changeObject(line));
-}
-
-void runWatch(Arguments arguments) {
-    expect(arguments.empty());
-    Json known;
-    BusClient().watch([&](const Json& properties) { known = properties; },
-                      [&](const Json& properties) { printChanges(known, properties); });
-    std::cerr << "nocturoctl: " << translated("Nocturo has ended.") << '\n';
-}
-
 constexpr std::array kCommands = std::to_array<Command>({
     {"on", "", ListedText("Switch the effect on"), ListedText(), runSwitch<true>, true},
     {"off", "", ListedText("Switch the effect off"),
      ListedText("Every display gets its own colors back."), runSwitch<false>},
     {"toggle", "", ListedText("Switch the effect on or off"), ListedText("Bind this to a key."),
      runToggle, true},
-    {"status", "[--all | --json]", ListedText("Show the state of everything"),
-     ListedText("With --all, every setting as well; with --json, one object for programs."),
+    {"status", "[--all | --json | --bar[=BAR] [--follow]]",
+     ListedText("Show the state of everything"),
+     ListedText(
+         "With --all, every setting as well; with --json, one object for programs; with --bar,\n"
+         "a line for a bar: waybar, polybar or i3status-rust. --follow prints another line at\n"
+         "each change, whether Nocturo runs or comes later."),
      runStatus},
     {"effects", "[add|remove|toggle|only NAME... | none]", ListedText("List or choose the effects"),
      ListedText("NAME is invert, overexposure, dim, color-filter or hdtv-luminance, or a class\n"
@@ -321,7 +303,10 @@ constexpr std::array kCommands = std::to_array<Command>({
      runWindow<kShowPreferences>},
     {"about", "", ListedText("Show the about box"), ListedText(), runWindow<kShowAboutBox>},
     {"watch", "", ListedText("Print every change as it happens"),
-     ListedText("One JSON object a line, with what changed. Ends when Nocturo does."), runWatch},
+     ListedText(
+         "One JSON object a line: first the whole state, then what changed. Ends when Nocturo\n"
+         "does."),
+     runWatch},
     {"restore", "", ListedText("Give every display its own colors back"),
      ListedText(
          "Whether Nocturo runs, answers or was killed, and without a session bus as well. Where\n"

@@ -3,11 +3,14 @@
 #include "base/texts/translated.h"
 #include "ctl/failure.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstddef>
 #include <cstdio>
 #include <system_error>
+#include <unistd.h>
 
 namespace nocturo {
 
@@ -38,6 +41,11 @@ bool isObeyed(const Character& character) {
            (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
 }
 
+[[noreturn]] void failToWrite() {
+    throw Failure{kFailed, translated("The answer cannot be written: %@.",
+                                      {std::generic_category().message(errno)})};
+}
+
 } // namespace
 
 void print(std::string_view text) {
@@ -45,8 +53,18 @@ void print(std::string_view text) {
     errno = 0;
     if (std::fwrite(shown.data(), 1, shown.size(), stdout) != shown.size() ||
         std::fflush(stdout) != 0) {
-        throw Failure{kFailed, translated("The answer cannot be written: %@.",
-                                          {std::generic_category().message(errno)})};
+        failToWrite();
+    }
+}
+
+// A pipe that says that it can be written to takes so much at once.
+void PatientOutput::goOn() {
+    const ssize_t written =
+        ::write(STDOUT_FILENO, rest_.data(), std::min<std::size_t>(rest_.size(), PIPE_BUF));
+    if (written >= 0) {
+        rest_.erase(0, static_cast<std::size_t>(written));
+    } else if (errno != EAGAIN && errno != EINTR) {
+        failToWrite();
     }
 }
 

@@ -1,6 +1,5 @@
 #include "ctl/report.h"
 
-#include "app/state_sentence.h"
 #include "base/texts/translated.h"
 #include "ctl/setting_text.h"
 #include "ctl/text_columns.h"
@@ -90,30 +89,9 @@ std::string plain(const Json& value) {
     return list.empty() ? translated("(none)") : list;
 }
 
-EffectState toldState(const Json& properties) {
-    EffectState state;
-    state.isOn = properties["active"].get<bool>();
-    state.isPaused = properties.value("paused", false);
-    state.effects = properties["effects"].get<std::vector<std::string>>();
-    state.dimLevel = properties["dimLevel"].get<double>();
-    state.hue = properties["colorFilterHue"].get<double>();
-    state.vividness = properties["colorFilterVividness"].get<double>();
-    state.isOnAllScreens = properties["affectedScreenSet"].empty();
-    for (const Json& display : properties["displays"]) {
-        if (display["affected"].get<bool>()) {
-            state.screens.push_back(plain(display["name"]));
-        }
-    }
-    return state;
-}
-
 std::string lookNamed(const Json& properties) {
-    for (const Json& look : looksArray(properties)) {
-        if (look["inForce"].get<bool>()) {
-            return plain(look["title"]);
-        }
-    }
-    return translated("(none)");
+    const std::string title = titleOfLookInForce(properties);
+    return title.empty() ? translated("(none)") : title;
 }
 
 std::string hotKeyText(const Json& hotKey) {
@@ -146,6 +124,32 @@ std::string disturbanceReport(const Json& properties) {
 }
 
 } // namespace
+
+EffectState toldState(const Json& properties) {
+    EffectState state;
+    state.isOn = properties["active"].get<bool>();
+    state.isPaused = properties.value("paused", false);
+    state.effects = properties["effects"].get<std::vector<std::string>>();
+    state.dimLevel = properties["dimLevel"].get<double>();
+    state.hue = properties["colorFilterHue"].get<double>();
+    state.vividness = properties["colorFilterVividness"].get<double>();
+    state.isOnAllScreens = properties["affectedScreenSet"].empty();
+    for (const Json& display : properties["displays"]) {
+        if (display["affected"].get<bool>()) {
+            state.screens.push_back(plain(display["name"]));
+        }
+    }
+    return state;
+}
+
+std::string titleOfLookInForce(const Json& properties) {
+    for (const Json& look : looksArray(properties)) {
+        if (look["inForce"].get<bool>()) {
+            return plain(look["title"]);
+        }
+    }
+    return {};
+}
 
 std::string statusReport(const Json& properties, bool all) {
     std::string text = stateSentence(toldState(properties)) + "\n\n";

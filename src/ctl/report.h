@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/state_sentence.h"
+
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -21,6 +23,12 @@ std::string screensReport(const Json& properties);
 /// Every look in order, with a mark at the one in force, and that one alone.
 std::string looksReport(const Json& properties);
 std::string lookInForce(const Json& properties);
+
+/// The title of the look in force; empty where there is none.
+std::string titleOfLookInForce(const Json& properties);
+
+/// What there is to say about the effect.
+EffectState toldState(const Json& properties);
 
 /// The looks for programs: name, title, own, and which is in force.
 Json looksArray(const Json& properties);
