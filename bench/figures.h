@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <stdexcept>
@@ -16,6 +17,11 @@ inline void printFigure(const std::string& what, double figure, double target, c
     std::printf("%-58s %9.2f %-4s target %8.2f  %s\n", what.c_str(), figure, unit, target,
                 figure <= target ? "held" : "MISSED");
     std::fflush(stdout);
+}
+
+inline double millisecondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+        .count();
 }
 
 /// A line of what the kernel tells of a process's memory, in kB: "Rss:", or "Pss:", where shared

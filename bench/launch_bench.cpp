@@ -2,12 +2,11 @@
 
 #include "figures.h"
 #include "rig/session.h"
+#include "running_costs.h"
 
 #include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <stdexcept>
 #include <thread>
 
@@ -17,10 +16,6 @@ namespace {
 
 using SteadyClock = std::chrono::steady_clock;
 using rig::Milliseconds;
-
-double millisecondsSince(SteadyClock::time_point start) {
-    return std::chrono::duration<double, std::milli>(SteadyClock::now() - start).count();
-}
 
 /// Settings with which Nocturo inverts every screen at once, in the tray or not.
 void writeSettings(const rig::Session& session, bool inTray) {
@@ -77,12 +72,6 @@ double megabytesWithGuards(const rig::Process& nocturo) {
         }
     }
     return kilobytes / 1024;
-}
-
-std::ptrdiff_t threadsOf(const rig::Process& process) {
-    const std::filesystem::directory_iterator threads("/proc/" + std::to_string(process.id()) +
-                                                      "/task");
-    return std::distance(begin(threads), end(threads));
 }
 
 /// What stays in memory, without a window or in the tray of a panel, beside redshift's.

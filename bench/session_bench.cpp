@@ -17,20 +17,17 @@
 #include "hotkeys/keyboard/xkb_keyboard_layout.h"
 #include "hotkeys/x11/x11_hot_key_service.h"
 #include "rig/session.h"
+#include "running_costs.h"
 #include "settings/defaults_store.h"
 #include "x11/x_connection.h"
 
 #include <chrono>
 #include <ctime>
 #include <exception>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <linux/input-event-codes.h>
 #include <poll.h>
 #include <stdexcept>
-#include <sys/timerfd.h>
-#include <unistd.h>
 
 namespace nocturo {
 
@@ -218,51 +215,6 @@ void measureReapplication(rig::Session& session) {
                 "us");
 }
 
-/// How often any thread of the process went to sleep, which is once after each time it woke up.
-long wakeUps(pid_t process) {
-    long sum = 0;
-    for (const auto& task :
-         std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/task")) {
-        std::ifstream status(task.path() / "status");
-        for (std::string word; status >> word;) {
-            if (word == "voluntary_ctxt_switches:") {
-                long count = 0;
-                status >> count;
-                sum += count;
-            }
-        }
-    }
-    return sum;
-}
-
-void pass(int seconds) {
-    const int timer = timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC);
-    itimerspec once{};
-    once.it_value.tv_sec = seconds;
-    timerfd_settime(timer, 0, &once, nullptr);
-    std::uint64_t expirations = 0;
-    if (read(timer, &expirations, sizeof expirations) < 0) {
-        throw std::runtime_error("the timer cannot be read");
-    }
-    close(timer);
-}
-
-void measureWakeUps(const rig::Process& nocturo, BusClient& client) {
-    constexpr int kWatched = 19; // holds three 6-second ticks at the most
-    client.call("SetActive", false);
-    pass(2); // the settings reach the disk
-    long before = wakeUps(nocturo.id());
-    pass(kWatched);
-    printFigure("wake-ups in 19 s while off", static_cast<double>(wakeUps(nocturo.id()) - before),
-                0, "");
-    client.call("SetActive", true);
-    pass(2);
-    before = wakeUps(nocturo.id());
-    pass(kWatched);
-    printFigure("wake-ups in 19 s while on (two per 6 s, rounded up)",
-                static_cast<double>(wakeUps(nocturo.id()) - before), 8, "");
-}
-
 void run() {
     rig::Session session(4);
     session.server().setLayout("us");
@@ -275,7 +227,7 @@ void run() {
     BusClient client;
     measureSettingsWrite(session, client);
     measureHotKey(session, client);
-    measureWakeUps(*nocturo, client);
+    printWakeUps(*nocturo, client);
 }
 
 } // namespace

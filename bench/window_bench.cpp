@@ -5,16 +5,13 @@
 #include "ctl/failure.h"
 #include "figures.h"
 #include "rig/session.h"
+#include "slider.h"
 
-#include <array>
-#include <atomic>
 #include <chrono>
-#include <cmath>
 #include <cstdlib>
 #include <iostream>
 #include <linux/input-event-codes.h>
 #include <stdexcept>
-#include <thread>
 #include <xcb/xcb.h>
 
 namespace nocturo {
@@ -22,10 +19,6 @@ namespace nocturo {
 namespace {
 
 using SteadyClock = std::chrono::steady_clock;
-
-double millisecondsSince(SteadyClock::time_point start) {
-    return std::chrono::duration<double, std::milli>(SteadyClock::now() - start).count();
-}
 
 /// Sees windows come and what they show.
 class WindowObserver {
@@ -113,54 +106,6 @@ void measureShowing() {
                 30, "ms");
 }
 
-constexpr int kSteps = 80; // from -80 to 0 %, where every screen is readable
-
-constexpr int kHalfStep =
-    327; // of an entry; the servers' own last entries lie a little below 65535
-
-/// The last entry of a dimmed ramp after a number of steps.
-int lastEntryAfter(int step) {
-    return static_cast<int>(std::lround(65535.0 * (20 + step) / 100.0));
-}
-
-/// Arrow keys at the slider of the running program, one step every millisecond, while another
-/// thread reads the last display's ramp. Adds to `lags` how long ago the step was made that each
-/// reading misses, and returns how many steps never came.
-int stepThrough(rig::Session& session, rig::XClient& keyboard, std::vector<double>& lags) {
-    std::array<SteadyClock::time_point, kSteps + 1> made{};
-    std::atomic<int> last = 0; // the steps made so far
-    int shown = 0;
-    std::thread observing([&] {
-        rig::XClient observer(session.server().display());
-        const std::uint32_t crtc = observer.crtcOf("DUMMY3");
-        const auto deadline = SteadyClock::now() + std::chrono::seconds(2);
-        while (shown < kSteps && SteadyClock::now() < deadline) {
-            // The server is not to be kept busy by being asked.
-            std::this_thread::sleep_for(std::chrono::microseconds(500));
-            const int newest = last;
-            const int entry = observer.ramp(crtc)[0].back();
-            while (shown < kSteps && entry >= lastEntryAfter(shown + 1) - kHalfStep) {
-                ++shown;
-            }
-            if (newest > 0) {
-                lags.push_back(shown < newest
-                                   ? millisecondsSince(made[static_cast<std::size_t>(shown) + 1])
-                                   : 0);
-            }
-        }
-    });
-    const auto start = SteadyClock::now();
-    for (int step = 1; step <= kSteps; ++step) {
-        std::this_thread::sleep_until(start + std::chrono::milliseconds(step));
-        keyboard.press(KEY_RIGHT);
-        keyboard.release(KEY_RIGHT);
-        made[static_cast<std::size_t>(step)] = SteadyClock::now();
-        last = step;
-    }
-    observing.join();
-    return kSteps - shown;
-}
-
 void measureSlider() {
     rig::Session session(4);
     session.server().setLayout("us");
@@ -174,17 +119,17 @@ void measureSlider() {
     windows.waitForPaintedWindow();
     session.run("xdotool", {"key", "alt+l"});
     rig::XClient keyboard(session.server().display());
-    std::vector<double> lags;
-    int lost = 0;
-    for (int round = 0; round < 50; ++round) {
-        client.callSetSetting("NDDimEffectLevel", -0.8);
-        lost += stepThrough(session, keyboard, lags);
-    }
-    std::printf("slider at 1000 steps a second: median lag %.2f ms, p99 %.2f ms, %zu readings\n",
-                percentile(lags, 0.5), percentile(lags, 0.99), lags.size());
-    printFigure("slider at 1000 steps a second, four displays: steps lost", lost, 0, "");
-    printFigure("slider at 1000 steps a second, four displays: worst lag", percentile(lags, 1.0),
-                16, "ms");
+    const auto step = [&] {
+        keyboard.press(KEY_RIGHT);
+        keyboard.release(KEY_RIGHT);
+    };
+    const auto looks = [&] {
+        auto observer = std::make_shared<rig::XClient>(session.server().display());
+        return [observer, crtc = observer->crtcOf("DUMMY3")] {
+            return static_cast<int>(observer->ramp(crtc)[0].back());
+        };
+    };
+    printSlider({step, looks}, client, "four displays");
 }
 
 } // namespace

@@ -74,7 +74,8 @@ lint         shellcheck                scripts
 fuzz         clang                     libFuzzer
 fuzz         libclang-rt-dev           its runtime
 bench        libbenchmark-dev          benchmarks
-bench        redshift                  a peer to be compared with
+bench        redshift                  a peer to be compared with ...
+bench        wlsunset                  ... and one under Wayland
 package      git                       the committed sources
 package      build-essential           packages, which take it for granted
 package      debhelper                 ...
@@ -95,7 +96,7 @@ test         program  mate-session update-mime-database update-desktop-database 
 test         library  gtest gmock xcb-xtest wayland-server
 lint         program  git clang-format clang-tidy shellcheck
 fuzz         program  clang++
-bench        program  redshift
+bench        program  redshift wlsunset
 bench        library  benchmark
 package      program  dpkg-buildpackage
 screenshots  program  montage

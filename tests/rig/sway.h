@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +31,9 @@ class Sway {
 
     /// What the output holds: red, green, blue; nothing while it has the compositor's own ramp.
     std::optional<std::array<std::vector<std::uint16_t>, 3>> ramp(const std::string& output) const;
+
+    /// Has the file of an output that holds a ramp, replaced whenever one is written.
+    std::filesystem::path rampDirectory() const { return directory_ / "ramps"; }
 
     /// Ends it as a crash would.
     void kill();
