@@ -1,14 +1,16 @@
 #include "base/bus.h"
 
+#include "base/awaited_bus.h"
+#include "base/callers_ahead.h"
 #include "base/environment.h"
 #include "base/event_loop.h"
+#include "base/lasting_slots.h"
+#include "base/log.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
-#include <map>
 #include <poll.h>
-#include <sys/ioctl.h>
 #include <system_error>
 #include <utility>
 
@@ -31,14 +33,17 @@ std::uint64_t microsecondsUntil(std::chrono::steady_clock::time_point deadline) 
 // Shared, because it may be destroyed while it runs.
 using Handler = std::shared_ptr<std::function<void(sd_bus_message*)>>;
 
-class HandledSlot : public BusSlot {
-  public:
-    explicit HandledSlot(std::function<void(sd_bus_message*)> function)
-        : handler(std::make_shared<std::function<void(sd_bus_message*)>>(std::move(function))) {}
+Handler shared(std::function<void(sd_bus_message*)> function) {
+    return std::make_shared<std::function<void(sd_bus_message*)>>(std::move(function));
+}
 
-    static int handle(sd_bus_message* message, void* self, sd_bus_error* /*error*/) {
-        const Handler running = static_cast<HandledSlot*>(self)->handler;
-        (*running)(message);
+struct PendingCall : BusSlot {
+    explicit PendingCall(std::function<void(sd_bus_message*)> function)
+        : handler(shared(std::move(function))) {}
+
+    static int handle(sd_bus_message* answer, void* self, sd_bus_error* /*error*/) {
+        const Handler running = static_cast<PendingCall*>(self)->handler;
+        (*running)(answer);
         return 0;
     }
 
@@ -46,51 +51,72 @@ class HandledSlot : public BusSlot {
     std::unique_ptr<sd_bus_slot, BusRelease> slot;
 };
 
-/// Everybody who waits for an answer before calling again has one call here, so what one caller
-/// sends in a row says how far it runs ahead of the answers.
-class CallersAhead {
-  public:
-    /// True while the caller of this message may go on; otherwise it has been refused.
-    bool admits(sd_bus_message* call) {
-        sd_bus* bus = sd_bus_message_get_bus(call);
-        const char* sender = sd_bus_message_get_sender(call);
-        const auto now = std::chrono::steady_clock::now();
-        int waiting = 0;
-        if (now > forgotten_ + kMemory ||
-            (ioctl(sd_bus_get_fd(bus), FIONREAD, &waiting) == 0 && waiting == 0)) {
-            forgotten_ = now;
-            calls_.clear();
-        }
-        if (sender == nullptr || ++calls_[sender] <= kMostCalls) {
-            return true;
-        }
-        sd_bus_reply_method_errorf(call, SD_BUS_ERROR_LIMITS_EXCEEDED, "Wait for the answers.");
-        return false;
+struct Match : LastingSlot {
+    Match(const std::shared_ptr<LastingSlots>& all, std::string matchRule,
+          std::function<void(sd_bus_message*)> function)
+        : LastingSlot(all), rule(std::move(matchRule)), handler(shared(std::move(function))) {}
+
+    static int handle(sd_bus_message* message, void* self, sd_bus_error* /*error*/) {
+        const Handler running = static_cast<Match*>(self)->handler;
+        (*running)(message);
+        return 0;
     }
 
-    static int filter(sd_bus_message* message, void* self, sd_bus_error* /*error*/) {
-        return sd_bus_message_is_method_call(message, nullptr, nullptr) > 0 &&
-                       !static_cast<CallersAhead*>(self)->admits(message)
-                   ? 1
-                   : 0;
+    void join(sd_bus* bus) override {
+        sd_bus_slot* joined = nullptr;
+        sd_bus_add_match_async(bus, &joined, rule.c_str(), handle, nullptr, this);
+        slot.reset(joined);
     }
 
-  private:
-    static constexpr int kMostCalls = 100;
-    static constexpr std::chrono::seconds kMemory{10};
-
-    std::map<std::string, int> calls_; // since nothing waited to be read, by sender
-    std::chrono::steady_clock::time_point forgotten_;
+    std::string rule;
+    Handler handler;
+    std::unique_ptr<sd_bus_slot, BusRelease> slot;
 };
+
+struct Object : LastingSlot {
+    using LastingSlot::LastingSlot;
+
+    void join(sd_bus* bus) override {
+        sd_bus_slot* joined = nullptr;
+        sd_bus_add_object_vtable(bus, &joined, path.c_str(), interface.c_str(), table, self);
+        slot.reset(joined);
+    }
+
+    std::string path;
+    std::string interface;
+    const sd_bus_vtable* table = nullptr;
+    void* self = nullptr;
+    std::unique_ptr<sd_bus_slot, BusRelease> slot;
+};
+
+using OwnerChanged = std::function<void(const std::string& owner)>;
+
+struct FollowedOwner : LastingSlot {
+    using LastingSlot::LastingSlot;
+
+    void join(sd_bus* /*bus*/) override { ask(); }
+    void leave() override {
+        const OwnerChanged running = changed;
+        running("");
+    }
+
+    OwnerChanged changed;
+    std::function<void()> ask;
+    std::unique_ptr<BusSlot> changes;
+    std::unique_ptr<BusSlot> question;
+};
+
+/// What the bus would answer to a call that cannot be sent.
+BusMessage answerOfNobody(sd_bus_message* call) {
+    sd_bus_message* answer = nullptr;
+    sd_bus_message_seal(call, 1, 0);
+    sd_bus_message_new_method_errorf(call, &answer, SD_BUS_ERROR_DISCONNECTED, "There is no bus.");
+    return BusMessage(answer);
+}
 
 int takeLater(sd_bus_message* /*answer*/, void* /*data*/, sd_bus_error* /*error*/) {
     return 0; // whoever has the name by then keeps it
 }
-
-struct FollowedOwner : BusSlot {
-    std::unique_ptr<BusSlot> changes;
-    std::unique_ptr<BusSlot> question;
-};
 
 } // namespace
 
@@ -112,19 +138,72 @@ std::string systemBusAddress() {
 }
 
 std::unique_ptr<Bus> Bus::connect(const std::string& address, EventLoop& loop) {
+    std::unique_ptr<Bus> bus(new Bus(address, loop));
+    return bus->open() ? std::move(bus) : nullptr;
+}
+
+Bus::Bus(std::string address, EventLoop& loop)
+    : address_(std::move(address)), loop_(loop), callers_(std::make_unique<CallersAhead>()),
+      lasting_(std::make_shared<LastingSlots>()) {}
+
+bool Bus::open() {
     sd_bus* created = nullptr;
-    if (address.empty() || sd_bus_new(&created) < 0) {
-        return nullptr;
+    if (address_.empty() || sd_bus_new(&created) < 0) {
+        return false;
     }
     BusHandle bus(created);
-    if (sd_bus_set_address(created, address.c_str()) < 0 || sd_bus_set_bus_client(created, 1) < 0 ||
+    if (sd_bus_set_address(created, address_.c_str()) < 0 ||
+        sd_bus_set_bus_client(created, 1) < 0 || sd_bus_set_connected_signal(created, 1) < 0 ||
         sd_bus_start(created) < 0 ||
-        sd_bus_attach_event(created, loop.handle(), EventLoop::kBus) < 0) {
-        return nullptr;
+        sd_bus_attach_event(created, loop_.handle(), EventLoop::kBus) < 0) {
+        return false;
     }
-    auto callers = std::make_shared<CallersAhead>();
-    sd_bus_add_filter(created, nullptr, CallersAhead::filter, callers.get());
-    return std::unique_ptr<Bus>(new Bus(std::move(bus), std::move(callers)));
+    sd_bus_add_filter(created, nullptr, filter, this);
+    bus_ = std::move(bus);
+    return true;
+}
+
+int Bus::filter(sd_bus_message* message, void* self, sd_bus_error* /*error*/) {
+    constexpr const char* kLocal = "org.freedesktop.DBus.Local"; // from nobody on the bus
+    Bus& bus = *static_cast<Bus*>(self);
+    if (sd_bus_message_is_signal(message, kLocal, nullptr) > 0) { // connected or disconnected
+        bus.lookSoon();
+    }
+    return sd_bus_message_is_method_call(message, nullptr, nullptr) > 0 &&
+                   !bus.callers_->admits(message)
+               ? 1
+               : 0;
+}
+
+// Not within sd-bus, which is about to call others of that bus.
+void Bus::lookSoon() {
+    if (rejoins_) {
+        look_ = loop_.scheduleTimer(std::chrono::milliseconds(0), [this] { look(); });
+    }
+}
+
+void Bus::look() {
+    if (sd_bus_is_open(bus_.get()) <= 0) {
+        if (awaited_ == nullptr) {
+            logInfo(kLogBus, "A bus has gone; it is joined again when it is back.");
+            awaited_ = std::make_unique<AwaitedBus>(address_, loop_, [this] { openAgain(); });
+        }
+        lasting_->forEach([](LastingSlot& slot) { slot.leave(); });
+    } else if (awaited_ != nullptr && sd_bus_is_ready(bus_.get()) > 0) {
+        logInfo(kLogBus, "A bus that had gone is joined again.");
+        awaited_.reset();
+    }
+}
+
+// One that listens and says no more is left alone until it ends, as any bus that hangs.
+void Bus::openAgain() {
+    if (sd_bus_is_open(bus_.get()) > 0 || !open()) {
+        return;
+    }
+    lasting_->forEach([this](LastingSlot& slot) { slot.join(bus_.get()); });
+    for (const std::string& name : lasting_->names) {
+        sd_bus_request_name_async(bus_.get(), nullptr, name.c_str(), 0, takeLater, nullptr);
+    }
 }
 
 Bus::~Bus() {
@@ -149,9 +228,14 @@ Bus::Claim Bus::claimName(const char* name, int patienceMs) const {
     std::uint32_t result = 0;
     if (answer == nullptr || sd_bus_message_read(answer.get(), "u", &result) <= 0) {
         sd_bus_request_name_async(bus_.get(), nullptr, name, 0, takeLater, nullptr);
+        lasting_->names.emplace_back(name);
         return Claim::busIsSilent;
     }
-    return result == kOwned || result == kOwnedAlready ? Claim::granted : Claim::taken;
+    if (result != kOwned && result != kOwnedAlready) {
+        return Claim::taken;
+    }
+    lasting_->names.emplace_back(name);
+    return Claim::granted;
 }
 
 BusMessage Bus::newCall(const char* service, const char* path, const char* interface,
@@ -166,9 +250,18 @@ BusMessage Bus::newCall(const char* service, const char* path, const char* inter
 
 std::unique_ptr<BusSlot> Bus::call(const BusMessage& call,
                                    std::function<void(sd_bus_message* answer)> answered) const {
-    auto pending = std::make_unique<HandledSlot>(std::move(answered));
+    auto pending = std::make_unique<PendingCall>(std::move(answered));
     sd_bus_slot* slot = nullptr;
-    sd_bus_call_async(bus_.get(), &slot, call.get(), HandledSlot::handle, pending.get(), 0);
+    if (sd_bus_call_async(bus_.get(), &slot, call.get(), PendingCall::handle, pending.get(), 0) <
+        0) {
+        const std::weak_ptr handler = pending->handler;
+        const std::shared_ptr<sd_bus_message> answer = answerOfNobody(call.get());
+        loop_.callSoon([handler, answer] {
+            if (const Handler running = handler.lock(); running && answer) {
+                (*running)(answer.get());
+            }
+        });
+    }
     pending->slot.reset(slot);
     return pending;
 }
@@ -196,48 +289,64 @@ bool Bus::saysHelloBefore(Deadline deadline) const {
     return sd_bus_is_ready(bus) > 0;
 }
 
+std::unique_ptr<BusSlot> Bus::addObject(const std::string& path, const char* interface,
+                                        const sd_bus_vtable* table, void* object) const {
+    auto added = std::make_unique<Object>(lasting_);
+    added->path = path;
+    added->interface = interface;
+    added->table = table;
+    added->self = object;
+    added->join(bus_.get());
+    return added;
+}
+
 std::unique_ptr<BusSlot> Bus::onSignal(const char* sender, const char* path, const char* interface,
                                        const char* member,
                                        std::function<void(sd_bus_message* signal)> handler) const {
-    auto match = std::make_unique<HandledSlot>(std::move(handler));
-    sd_bus_slot* slot = nullptr;
-    sd_bus_match_signal_async(bus_.get(), &slot, sender, path, interface, member,
-                              HandledSlot::handle, nullptr, match.get());
-    match->slot.reset(slot);
-    return match;
+    std::string rule = "type='signal'";
+    const auto add = [&rule](const char* key, const char* value) {
+        if (value != nullptr) {
+            rule += std::string(",") + key + "='" + value + "'";
+        }
+    };
+    add("sender", sender);
+    add("path", path);
+    add("interface", interface);
+    add("member", member);
+    return onMatch(rule, std::move(handler));
 }
 
 std::unique_ptr<BusSlot> Bus::onMatch(const std::string& rule,
                                       std::function<void(sd_bus_message* message)> handler) const {
-    auto match = std::make_unique<HandledSlot>(std::move(handler));
-    sd_bus_slot* slot = nullptr;
-    sd_bus_add_match_async(bus_.get(), &slot, rule.c_str(), HandledSlot::handle, nullptr,
-                           match.get());
-    match->slot.reset(slot);
+    auto match = std::make_unique<Match>(lasting_, rule, std::move(handler));
+    match->join(bus_.get());
     return match;
 }
 
-std::unique_ptr<BusSlot>
-Bus::followOwner(const std::string& service,
-                 std::function<void(const std::string& owner)> changed) const {
-    auto followed = std::make_unique<FollowedOwner>();
+std::unique_ptr<BusSlot> Bus::followOwner(const std::string& service, OwnerChanged changed) const {
     const std::string rule = "type='signal',sender='" + std::string(kBusService) +
                              "',member='NameOwnerChanged',arg0='" + service + "'";
-    followed->changes = onMatch(rule, [changed](sd_bus_message* signal) {
+    auto changes = onMatch(rule, [changed](sd_bus_message* signal) {
         const char* owner = "";
         if (sd_bus_message_read(signal, "sss", nullptr, nullptr, &owner) > 0) {
             changed(owner);
         }
     });
-    const BusMessage question = newCall(kBusService, kBusPath, kBusService, "GetNameOwner");
-    sd_bus_message_append(question.get(), "s", service.c_str());
-    followed->question = call(question, [changed = std::move(changed)](sd_bus_message* answer) {
-        const char* owner = "";
-        if (sd_bus_message_is_method_error(answer, nullptr) == 0) {
-            sd_bus_message_read(answer, "s", &owner);
-        }
-        changed(owner);
-    });
+    auto followed = std::make_unique<FollowedOwner>(lasting_); // after its match, as it is joined
+    followed->changes = std::move(changes);
+    followed->changed = std::move(changed);
+    followed->ask = [this, service, followed = followed.get()] {
+        const BusMessage question = newCall(kBusService, kBusPath, kBusService, "GetNameOwner");
+        sd_bus_message_append(question.get(), "s", service.c_str());
+        followed->question = call(question, [changed = followed->changed](sd_bus_message* answer) {
+            const char* owner = "";
+            if (sd_bus_message_is_method_error(answer, nullptr) == 0) {
+                sd_bus_message_read(answer, "s", &owner);
+            }
+            changed(owner);
+        });
+    };
+    followed->ask();
     return followed;
 }
 

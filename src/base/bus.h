@@ -4,13 +4,16 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include <systemd/sd-bus.h>
 
 namespace nocturo {
 
+class AwaitedBus;
+class CallersAhead;
 class EventLoop;
+class LastingSlots;
+class Timer;
 
 /// Releases the handles of sd-bus; a bus is closed at once, without sending what still waits.
 struct BusRelease {
@@ -47,7 +50,12 @@ class Bus {
     Bus(const Bus&) = delete;
     Bus& operator=(const Bus&) = delete;
 
-    /// For building messages and adding objects by sd-bus itself.
+    /// From now on a bus that ends and is there again later, at the same address, is joined again,
+    /// with all names, objects and matches. Followed services are told to have no owner meanwhile.
+    void rejoin() { rejoins_ = true; }
+
+    /// For building messages and sending signals by sd-bus itself; another one after each
+    /// rejoining.
     sd_bus* handle() const { return bus_.get(); }
 
     /// Takes the name for this connection. Waits for the bus for so long at most, and then counts
@@ -66,6 +74,12 @@ class Bus {
     /// Sends a call and waits for its reply, for so long at most; null where there was none.
     /// `error` may be null.
     BusMessage callAndWait(const BusMessage& call, int patienceMs, sd_bus_error* error) const;
+
+    /// Answers calls to the object at `path` by sd-bus's table of an interface; `object` is what
+    /// its handlers are given. Table and object must outlive the slot.
+    [[nodiscard]] std::unique_ptr<BusSlot> addObject(const std::string& path, const char* interface,
+                                                     const sd_bus_vtable* table,
+                                                     void* object) const;
 
     /// Calls `handler` with every signal of that kind. Sender and path may be null for all.
     [[nodiscard]] std::unique_ptr<BusSlot>
@@ -87,13 +101,23 @@ class Bus {
     bool serveUntil(const std::function<bool()>& isDone, std::chrono::milliseconds patience) const;
 
   private:
-    Bus(BusHandle bus, std::shared_ptr<void> callers)
-        : callers_(std::move(callers)), bus_(std::move(bus)) {}
+    Bus(std::string address, EventLoop& loop);
 
     using Deadline = std::chrono::steady_clock::time_point;
     bool saysHelloBefore(Deadline deadline) const;
+    bool open();
+    void openAgain();
+    void lookSoon();
+    void look();
+    static int filter(sd_bus_message* message, void* self, sd_bus_error* error);
 
-    std::shared_ptr<void> callers_; // who runs how far ahead of the answers; outlives the bus
+    const std::string address_;
+    EventLoop& loop_;
+    std::unique_ptr<CallersAhead> callers_;
+    std::shared_ptr<LastingSlots> lasting_; // what a bus that comes back is given again
+    bool rejoins_ = false;
+    std::unique_ptr<AwaitedBus> awaited_; // while the bus is gone
+    std::unique_ptr<Timer> look_;
     BusHandle bus_;
 };
 

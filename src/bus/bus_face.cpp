@@ -164,10 +164,7 @@ BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
       loop_(loop), state_(controller, defaults, disturbances, chosenLook),
       launcherFace_(controller, bus, loop) {
     if (bus_ != nullptr) {
-        sd_bus_slot* slot = nullptr;
-        sd_bus_add_object_vtable(bus_->handle(), &slot, kObjectPath, kNocturoInterface,
-                                 Table::members.data(), this);
-        object_.reset(slot);
+        object_ = bus_->addObject(kObjectPath, kNocturoInterface, Table::members.data(), this);
     }
 }
 

@@ -106,7 +106,7 @@ class BusFace {
     ToldState state_;
     KeyboardLayout* layout_ = nullptr;
     LauncherFace launcherFace_;
-    std::unique_ptr<sd_bus_slot, BusRelease> object_;
+    std::unique_ptr<BusSlot> object_;
     BusDictionary announced_;
     std::set<std::string_view> unannounced_; // what may have changed, to be looked at soon
 };

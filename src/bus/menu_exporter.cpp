@@ -174,10 +174,7 @@ const std::array<sd_bus_vtable, 14> MenuExporter::Table::members = {{
 
 MenuExporter::MenuExporter(Menu& menu, const Bus& bus, RunLoop& runLoop, std::string path)
     : menu_(menu), bus_(bus), runLoop_(runLoop), path_(std::move(path)) {
-    sd_bus_slot* slot = nullptr;
-    sd_bus_add_object_vtable(bus.handle(), &slot, path_.c_str(), kMenuInterface,
-                             Table::members.data(), this);
-    object_.reset(slot);
+    object_ = bus_.addObject(path_, kMenuInterface, Table::members.data(), this);
     menu_.changes().addObserver(this, kMenuDidChangeNotification, [this] { menuDidChange(); });
 }
 

@@ -41,7 +41,7 @@ class MenuExporter {
     std::string path_;
     std::uint32_t revision_ = 1;
     std::unique_ptr<Timer> change_; // that is not told yet
-    std::unique_ptr<sd_bus_slot, BusRelease> object_;
+    std::unique_ptr<BusSlot> object_;
 };
 
 } // namespace nocturo

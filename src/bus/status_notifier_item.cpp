@@ -190,9 +190,8 @@ StatusNotifierItem::StatusNotifierItem(Menu& menu, EventLoop& loop, const std::s
         return;
     }
     menu_ = std::make_unique<MenuExporter>(menu, *bus_, loop, kMenuPath);
-    sd_bus_slot* slot = nullptr;
-    sd_bus_add_object_vtable(bus_->handle(), &slot, kPath, kInterface, Table::members.data(), this);
-    object_.reset(slot);
+    bus_->rejoin();
+    object_ = bus_->addObject(kPath, kInterface, Table::members.data(), this);
     follow();
 }
 

@@ -59,7 +59,7 @@ class StatusNotifierItem {
     Hosting hosting_ = Hosting::unknown;
     std::optional<std::string> owner_; // of the watcher, once that is known
     std::unique_ptr<MenuExporter> menu_;
-    std::unique_ptr<sd_bus_slot, BusRelease> object_;
+    std::unique_ptr<BusSlot> object_;
     std::unique_ptr<BusSlot> watcher_;
     std::unique_ptr<BusSlot> hostCame_;
     std::unique_ptr<BusSlot> hostWent_;

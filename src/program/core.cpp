@@ -26,6 +26,11 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       keepColors(controller, defaults, centers.local, runLoop),
       face(controller, defaults, centers.local, disturbances, desktop, keepColors, chosenLook,
            sessionBus.get(), loop) {
+    for (Bus* bus : {sessionBus.get(), systemBus.get()}) {
+        if (bus != nullptr) {
+            bus->rejoin();
+        }
+    }
     runLoop.handleSignals(signalNumbers(), [this](int number) { signalWasSent(number); });
 }
 

@@ -118,11 +118,17 @@ TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
     click("2");
     EXPECT_TRUE(becomes("oo"));
 
-    panel->signal(SIGKILL);
-    panel->wait();
-    ASSERT_EQ(count(kDark), 0);
-    panel = startLxqtPanel();
-    ASSERT_TRUE(waitUntil(isShown));
+    for (const bool busToo : {false, true}) {
+        panel->signal(SIGKILL);
+        panel->wait();
+        ASSERT_EQ(count(kDark), 0);
+        if (busToo) {
+            session_.bus().end();
+            session_.bus().start();
+        }
+        panel = startLxqtPanel();
+        ASSERT_TRUE(waitUntil(isShown)) << busToo;
+    }
     click("3");
     EXPECT_TRUE(waitUntil([&] { // the last item of its menu quits
         xdotool({"key", "Up", "Return"});

@@ -1,18 +1,23 @@
 #include "rig/session_bus.h"
 
+#include <csignal>
 #include <stdexcept>
 
 namespace nocturo::rig {
 
 SessionBus::SessionBus() {
     const std::string directory = directory_.path();
+    writeText(directory_ / "bus.conf", "<busconfig><type>session</type><listen>unix:path=" +
+                                           directory + "/bus</listen><servicedir>" + directory +
+                                           "</servicedir><policy context=\"default\">"
+                                           "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                                           "<allow eavesdrop=\"true\"/><allow own=\"*\"/>"
+                                           "</policy></busconfig>");
+    start();
+}
+
+void SessionBus::start() {
     const std::string configuration = directory_ / "bus.conf";
-    writeText(configuration, "<busconfig><type>session</type><listen>unix:dir=" + directory +
-                                 "</listen><servicedir>" + directory +
-                                 "</servicedir><policy context=\"default\">"
-                                 "<allow send_destination=\"*\" eavesdrop=\"true\"/>"
-                                 "<allow eavesdrop=\"true\"/><allow own=\"*\"/>"
-                                 "</policy></busconfig>");
     process_.emplace("dbus-daemon",
                      std::vector<std::string>{"--config-file=" + configuration, "--nofork",
                                               "--nopidfile", "--print-address=1"},
@@ -21,7 +26,12 @@ SessionBus::SessionBus() {
     if (!line) {
         throw std::runtime_error("dbus-daemon did not start: " + process_->errors());
     }
-    address_ = *line;
+    address_ = line->substr(0, line->find(',')); // the one that follows has another identifier
+}
+
+void SessionBus::end() {
+    process_->signal(SIGKILL);
+    process_->wait();
 }
 
 SessionBus::Bus SessionBus::connect() const {

@@ -20,6 +20,10 @@ class SessionBus {
 
     void signal(int number) { process_->signal(number); }
 
+    /// Kills the bus; start() brings another one up in its place.
+    void end();
+    void start();
+
     /// For DBUS_SESSION_BUS_ADDRESS.
     const std::string& address() const { return address_; }
 

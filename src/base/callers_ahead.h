@@ -1,0 +1,23 @@
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <string>
+
+#include <systemd/sd-bus.h>
+
+namespace nocturo {
+
+/// Everybody who waits for an answer before calling again has one call here, so what one caller
+/// sends in a row says how far it runs ahead of the answers.
+class CallersAhead {
+  public:
+    /// True while the caller of this message may go on; otherwise it has been refused.
+    bool admits(sd_bus_message* call);
+
+  private:
+    std::map<std::string, int> calls_; // since nothing waited to be read, by sender
+    std::chrono::steady_clock::time_point forgotten_;
+};
+
+} // namespace nocturo
