@@ -391,12 +391,16 @@
             <translation>Ein Bildschirm muss bleiben, denn keiner heißt alle; nocturoctl off schaltet den Effekt aus.</translation>
         </message>
         <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Dies sind keine Effektdokumente: %@</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo wartet auf die Antwort auf die Frage, die es zeigt.</translation>
         </message>
         <message>
-            <source>These are not effect documents: %@</source>
-            <translation>Dies sind keine Effektdokumente: %@</translation>
+            <source>No more than %d documents can be opened at once.</source>
+            <translation>Mehr als %d Dokumente können nicht auf einmal geöffnet werden.</translation>
         </message>
         <message>
             <source>Nocturo answered something that this version does not understand.</source>

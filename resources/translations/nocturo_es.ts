@@ -391,12 +391,16 @@
             <translation>Tiene que quedar una pantalla, pues no elegir ninguna significa todas; nocturoctl off desactiva el efecto.</translation>
         </message>
         <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Estos no son documentos de efecto: %@</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo espera la respuesta a la pregunta que muestra.</translation>
         </message>
         <message>
-            <source>These are not effect documents: %@</source>
-            <translation>Estos no son documentos de efecto: %@</translation>
+            <source>No more than %d documents can be opened at once.</source>
+            <translation>No se pueden abrir más de %d documentos a la vez.</translation>
         </message>
         <message>
             <source>Nocturo answered something that this version does not understand.</source>

@@ -391,12 +391,16 @@
             <translation>Il doit rester un écran, car n’en choisir aucun signifie tous ; nocturoctl off désactive l’effet.</translation>
         </message>
         <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Ce ne sont pas des documents d’effet : %@</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo attend la réponse à la question qu’il affiche.</translation>
         </message>
         <message>
-            <source>These are not effect documents: %@</source>
-            <translation>Ce ne sont pas des documents d’effet : %@</translation>
+            <source>No more than %d documents can be opened at once.</source>
+            <translation>Il n’est pas possible d’ouvrir plus de %d documents à la fois.</translation>
         </message>
         <message>
             <source>Nocturo answered something that this version does not understand.</source>

@@ -391,12 +391,16 @@
             <translation>画面を 1 つは残す必要があります。何も選ばないとすべてを意味します。効果をオフにするには nocturoctl off を使います。</translation>
         </message>
         <message>
+            <source>These are not effect documents: %@</source>
+            <translation>効果のドキュメントではありません: %@</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo は表示している質問への回答を待っています。</translation>
         </message>
         <message>
-            <source>These are not effect documents: %@</source>
-            <translation>効果のドキュメントではありません: %@</translation>
+            <source>No more than %d documents can be opened at once.</source>
+            <translation>一度に開けるドキュメントは %d 個までです。</translation>
         </message>
         <message>
             <source>Nocturo answered something that this version does not understand.</source>

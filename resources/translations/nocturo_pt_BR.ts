@@ -391,12 +391,16 @@
             <translation>Uma tela precisa ficar, pois nenhuma significa todas; nocturoctl off desativa o efeito.</translation>
         </message>
         <message>
+            <source>These are not effect documents: %@</source>
+            <translation>Estes não são documentos de efeito: %@</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>O Nocturo espera a resposta à pergunta que está mostrando.</translation>
         </message>
         <message>
-            <source>These are not effect documents: %@</source>
-            <translation>Estes não são documentos de efeito: %@</translation>
+            <source>No more than %d documents can be opened at once.</source>
+            <translation>Não é possível abrir mais de %d documentos de uma vez.</translation>
         </message>
         <message>
             <source>Nocturo answered something that this version does not understand.</source>

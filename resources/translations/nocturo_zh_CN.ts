@@ -391,12 +391,16 @@
             <translation>必须保留一个屏幕，因为不选任何屏幕表示全部；nocturoctl off 可关闭效果。</translation>
         </message>
         <message>
+            <source>These are not effect documents: %@</source>
+            <translation>以下不是效果文档：%@</translation>
+        </message>
+        <message>
             <source>Nocturo waits for the answer to the question that it shows.</source>
             <translation>Nocturo 正在等待对所显示问题的回答。</translation>
         </message>
         <message>
-            <source>These are not effect documents: %@</source>
-            <translation>以下不是效果文档：%@</translation>
+            <source>No more than %d documents can be opened at once.</source>
+            <translation>一次最多只能打开 %d 个文档。</translation>
         </message>
         <message>
             <source>Nocturo answered something that this version does not understand.</source>

@@ -77,9 +77,13 @@ std::unique_ptr<Timer> EventLoop::schedule(std::chrono::milliseconds delay,
                                            std::function<void()> action) {
     auto timer = std::make_unique<RunningTimer>();
     timer->action = std::make_shared<Action>(Action{std::move(action), microseconds(interval)});
+    // From now, where sd-event itself would count from when it called the handler that runs: a
+    // short pause after long work would be none.
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    const auto due = std::chrono::duration_cast<std::chrono::microseconds>(now + delay).count();
     sd_event_source* source = nullptr;
-    sd_event_add_time_relative(event_.get(), &source, CLOCK_MONOTONIC, microseconds(delay),
-                               kTimerAccuracyUs, timerFired, &timer->action);
+    sd_event_add_time(event_.get(), &source, CLOCK_MONOTONIC, static_cast<std::uint64_t>(due),
+                      kTimerAccuracyUs, timerFired, &timer->action);
     timer->source.reset(source);
     return timer;
 }

@@ -1,7 +1,6 @@
 #include "bus/launcher_face.h"
 
 #include "app/app_controller.h"
-#include "app/listed_names.h"
 #include "base/activation_token.h"
 #include "base/bus_dictionary.h"
 #include "base/event_loop.h"
@@ -20,8 +19,10 @@ constexpr const char* kApplicationInterface = "org.freedesktop.Application";
 // Of platform data.
 constexpr const char* kActivationToken = "activation-token";
 
-// The one that runs may be asking its user something before it comes to open anything.
+// The one that runs may be asking its user something before it comes to open anything, and each
+// document may be as slow as one can be.
 constexpr int kOpenTimeoutMs = 5000;
+constexpr int kTimeoutOfEachMs = 100;
 
 constexpr std::string_view kFileScheme = "file://";
 
@@ -93,7 +94,7 @@ const std::array<sd_bus_vtable, 5> LauncherFace::Table::members = {{
     SD_BUS_METHOD_WITH_ARGS("Activate", SD_BUS_ARGS("a{sv}", platformData), SD_BUS_NO_RESULT,
                             kServe<&LauncherFace::activate>, kFree),
     SD_BUS_METHOD_WITH_ARGS("Open", SD_BUS_ARGS("as", uris, "a{sv}", platformData),
-                            SD_BUS_NO_RESULT, kServeWhenReady<&LauncherFace::open>, kFree),
+                            SD_BUS_NO_RESULT, open, kFree),
     SD_BUS_METHOD_WITH_ARGS("ActivateAction",
                             SD_BUS_ARGS("s", name, "av", parameter, "a{sv}", platformData),
                             SD_BUS_NO_RESULT, kServe<&LauncherFace::activateAction>, kFree),
@@ -101,12 +102,9 @@ const std::array<sd_bus_vtable, 5> LauncherFace::Table::members = {{
 }};
 
 LauncherFace::LauncherFace(NDAppController& controller, const Bus* bus, EventLoop& loop)
-    : controller_(controller), bus_(bus), loop_(loop) {
+    : controller_(controller), bus_(bus), loop_(loop), documents_(controller, loop) {
     if (bus_ != nullptr) {
-        sd_bus_slot* slot = nullptr;
-        sd_bus_add_object_vtable(bus_->handle(), &slot, kObjectPath, kApplicationInterface,
-                                 Table::members.data(), this);
-        object_.reset(slot);
+        object_ = bus_->addObject(kObjectPath, kApplicationInterface, Table::members.data(), this);
     }
 }
 
@@ -132,18 +130,30 @@ BusAnswer LauncherFace::activate(const PlatformData& platform) {
     return {};
 }
 
-BusAnswer LauncherFace::open(const std::vector<std::string>& uris, const PlatformData& platform) {
+// Answered when all are open.
+int LauncherFace::open(sd_bus_message* call, void* self, sd_bus_error* error) {
+    auto& face = *static_cast<LauncherFace*>(self);
+    std::tuple<std::vector<std::string>, PlatformData> arguments;
+    if (!readArguments(call, arguments)) {
+        return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
+    }
+    if (const BusAnswer ready = face.whetherReady(); !ready) {
+        return sd_bus_error_set(error, kFailedError, ready.error().sentence.c_str());
+    }
+    auto& [paths, platform] = arguments;
     keepActivationToken(platform.activationToken);
-    std::vector<std::string> paths;
-    paths.reserve(uris.size());
-    for (const std::string& uri : uris) {
-        paths.push_back(pathOf(uri));
-    }
-    std::string refused = openDocuments(controller_, paths);
-    if (!refused.empty()) {
-        return failure(std::move(refused));
-    }
-    return {};
+    std::ranges::transform(paths, paths.begin(), pathOf);
+    const std::shared_ptr<sd_bus_message> asked(sd_bus_message_ref(call), BusRelease());
+    const bool isTaken =
+        face.documents_.open(std::move(paths), [asked](const std::string& refusal) {
+            if (refusal.empty()) {
+                sd_bus_reply_method_return(asked.get(), nullptr);
+            } else {
+                sd_bus_reply_method_errorf(asked.get(), kFailedError, "%s", refusal.c_str());
+            }
+        });
+    return isTaken ? 1
+                   : sd_bus_error_set(error, SD_BUS_ERROR_LIMITS_EXCEEDED, "Wait for the answers.");
 }
 
 BusAnswer LauncherFace::activateAction(const std::string& name,
@@ -169,32 +179,12 @@ BusAnswer whetherReady(const NDAppController& controller) {
     return {};
 }
 
-std::string openDocuments(NDAppController& controller, const std::vector<std::string>& paths) {
-    std::vector<std::string> refused;
-    for (const std::string& path : paths) {
-        if (!controller.openFile(path)) {
-            refused.push_back(path);
-        }
-    }
-    if (refused.empty()) {
-        return {};
-    }
-    // Whoever opened them with a click sees no standard error, and launchers drop the answer.
-    controller.showRefusedDocuments(refused);
-    if (refused.size() == 1) {
-        return translated("\"%@\" is not an effect document.", {refused.front()});
-    }
-    std::string names;
-    for (const std::string& path : firstNames(refused)) {
-        names += (names.empty() ? "" : ", ") + path;
-    }
-    const std::string more = howManyMore(refused);
-    return translated("These are not effect documents: %@",
-                      {names + (more.empty() ? "" : ", ") + more});
-}
-
 std::optional<std::string> openInRunningApplication(const Bus& bus,
                                                     const std::vector<std::string>& paths) {
+    if (paths.size() > kLongestList) {
+        return translated("No more than %d documents can be opened at once.",
+                          {std::to_string(kLongestList)});
+    }
     std::vector<std::string> uris;
     uris.reserve(paths.size());
     for (const std::string& path : paths) {
@@ -204,7 +194,8 @@ std::optional<std::string> openInRunningApplication(const Bus& bus,
     appendValue(call.get(), uris);
     appendDictionary(call.get(), {{kActivationToken, givenActivationToken()}});
     sd_bus_error error{};
-    const BusMessage answer = bus.callAndWait(call, kOpenTimeoutMs, &error);
+    const int patienceMs = kOpenTimeoutMs + kTimeoutOfEachMs * static_cast<int>(paths.size());
+    const BusMessage answer = bus.callAndWait(call, patienceMs, &error);
     std::optional<std::string> refusal;
     if (answer != nullptr) {
         refusal.emplace();

@@ -2,6 +2,7 @@
 
 #include "base/bus.h"
 #include "bus/bus_object.h"
+#include "bus/document_queue.h"
 
 #include <memory>
 #include <optional>
@@ -46,7 +47,7 @@ class LauncherFace {
 
     /// Opens effect documents and shows no window for them. Those that are refused are named in one
     /// sentence (org.nocturo.Error.Failed) and a message; the others are opened nevertheless.
-    BusAnswer open(const std::vector<std::string>& uris, const PlatformData& platform);
+    static int open(sd_bus_message* call, void* self, sd_bus_error* error);
 
     /// "toggle", "preferences", "about" or "quit"; others are ignored, and so are parameters.
     BusAnswer activateAction(const std::string& name, const IgnoredParameters& parameters,
@@ -55,17 +56,14 @@ class LauncherFace {
     NDAppController& controller_;
     const Bus* bus_;
     EventLoop& loop_;
+    DocumentQueue documents_;
     bool launched_ = false;
     std::unique_ptr<BusSlot> endOfLaunch_;
-    std::unique_ptr<sd_bus_slot, BusRelease> object_;
+    std::unique_ptr<BusSlot> object_;
 };
 
 /// What stands against changing anything while the launch asks its first question.
 BusAnswer whetherReady(const NDAppController& controller);
-
-/// Opens the documents at these paths; names those that were refused in one sentence, which is
-/// empty when there are none, and shows them to the user.
-std::string openDocuments(NDAppController& controller, const std::vector<std::string>& paths);
 
 /// Has the application that owns its name on the bus open the documents at these absolute paths; a
 /// sentence when it refuses some, empty when all is well, nothing when it does not answer.

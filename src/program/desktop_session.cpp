@@ -2,7 +2,6 @@
 
 #include "base/environment.h"
 #include "base/notification_names.h"
-#include "bus/launcher_face.h"
 #include "program/connected_displays.h"
 #include "program/core.h"
 #include "program/surroundings.h"
@@ -11,6 +10,7 @@ namespace nocturo {
 
 DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays, XConnection* server)
     : core_(core), displays_(displays), server_(server), applications_(dataDirectories()),
+      documents_(core.controller, core.runLoop),
       windowRestoration_(core.controller, stateDirectory() / "windows.plist") {
     core.controller.setInstalledApplications(&applications_);
     core.desktop.setXServer(waylandDisplayName().empty() ? server : nullptr);
@@ -32,12 +32,13 @@ void DesktopSession::launch(const std::vector<std::string>& documents,
             return;
         }
         listen();
-        const std::string problem = openDocuments(core_.controller, documents);
-        if (!problem.empty()) {
-            refused(problem);
-        }
-        windowRestoration_.restore();
-        windowRestoration_.startKeeping();
+        static_cast<void>(documents_.open(documents, [this, refused](const std::string& problem) {
+            if (!problem.empty()) {
+                refused(problem);
+            }
+            windowRestoration_.restore();
+            windowRestoration_.startKeeping();
+        }));
     };
     core_.centers.local.addObserver(
         &core_.controller, NSApplicationDidFinishLaunchingNotification,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/directory_watch.h"
+#include "bus/document_queue.h"
 #include "program/desktop_hot_keys.h"
 #include "program/window_restoration.h"
 #include "session/desktop_entries.h"
@@ -41,6 +42,7 @@ class DesktopSession {
     const ConnectedDisplays& displays_;
     XConnection* server_;
     const DesktopEntries applications_;
+    DocumentQueue documents_;
     WindowRestoration windowRestoration_;
     std::optional<DesktopHotKeys> hotKeys_;
     std::optional<DesktopSources> sources_;

@@ -417,6 +417,24 @@ TEST_F(ControlOfRunning, WatchTellsEachChange) {
     EXPECT_EQ(nocturo_->wait(), 0);
 }
 
+TEST_F(ControlOfRunning, ManySlowDocumentsHoldNobodyUp) {
+    const std::string document = session_.runtimeDirectory() / "slow.nocturo";
+    std::string lists;
+    for (int i = 0; i < 9000; ++i) {
+        lists += "<array/>";
+    }
+    writeText(document, "<plist version=\"1.0\"><array>" + lists + "</array></plist>");
+    const auto opening = session_.start("nocturo", Arguments(500, document));
+    int answered = 0;
+    for (; opening->isRunning(); ++answered) {
+        ctl({"get", "UseHotKey"});
+    }
+    EXPECT_GT(answered, 5);
+    EXPECT_TRUE(opening->errors().ends_with("and 490 more\n")) << opening->errors();
+    EXPECT_EQ(session_.run("nocturo", Arguments(1001, document)).errors,
+              "nocturo: No more than 1000 documents can be opened at once.\n");
+}
+
 struct FloodedOnX : NocturoOnX {
     FloodedOnX() : NocturoOnX(2) {
         select("NDInvertEffect");
@@ -489,6 +507,16 @@ TEST_F(BusTrouble, BusThatHangsDelaysNothing) {
     nocturo_->signal(SIGTERM);
     EXPECT_TRUE(allOwnWithin(Milliseconds(200)));
     EXPECT_EQ(nocturo_->wait(Milliseconds(1000)), 0);
+}
+
+TEST_F(BusTrouble, BusThatRestartsIsJoinedAgain) {
+    nocturo_ = session_.startNocturo();
+    for (const char* now : {"oo", "ii"}) {
+        session_.bus().end();
+        session_.bus().start();
+        EXPECT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"toggle"}).exit == 0; }));
+        EXPECT_TRUE(becomes(now)) << shown();
+    }
 }
 
 TEST_F(BusTrouble, OneNocturoDrivesTheDisplays) {
