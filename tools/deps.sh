@@ -70,6 +70,7 @@ test         hicolor-icon-theme        where they are looked for
 lint         git                       which files are ours
 lint         clang-format              layout
 lint         clang-tidy                faults
+lint         libclang-rt-dev           a header of the fuzz targets
 lint         shellcheck                scripts
 fuzz         clang                     libFuzzer
 fuzz         libclang-rt-dev           its runtime

@@ -90,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         checkAnswer(answer, Answer::inPart);
         changeObject(answer).dump();
         checkAnswer(answer, Answer::whole);
-        const std::string text = statusReport(answer) + effectsReport(answer) +
+        const std::string text = statusReport(answer, true) + effectsReport(answer) +
                                  screensReport(answer) + statusObject(answer).dump();
         if (visible(text).find('\033') != std::string::npos) {
             __builtin_trap();

@@ -2,6 +2,7 @@
 #include "app/app_menus.h"
 #include "app/disturbance_watch.h"
 #include "app/keep_colors.h"
+#include "app/look_picker.h"
 #include "app/user_interface.h"
 #include "base/event_loop.h"
 #include "base/file_descriptor.h"
@@ -13,6 +14,9 @@
 #include "displays/display_functions.h"
 #include "displays/ramp_display_services.h"
 #include "displays/simulated/simulated_hardware.h"
+#include "documents/chosen_look.h"
+#include "documents/looks.h"
+#include "own_directory.h"
 #include "session/desktop_sources.h"
 #include "session/disturber_finder.h"
 #include "settings/defaults_store.h"
@@ -111,7 +115,8 @@ class NoWindows : public UserInterface {
 struct World {
     explicit World(const std::string& address)
         : bus(Bus::connect(address, loop)), finder(bus.get()),
-          face(controller, store, local, disturbances, windows, keepColors, bus.get(), loop) {
+          face(controller, store, local, disturbances, windows, keepColors, chosenLook, bus.get(),
+               loop) {
         auto hardware = std::make_unique<SimulatedHardware>(
             2, "/tmp", [](const Ramp&, const std::filesystem::path&) { return true; });
         services = std::make_unique<RampDisplayServices>(
@@ -124,7 +129,7 @@ struct World {
         menus.makeScreenMenus();
         launcher.emplace(menus.dockMenu(), *bus, loop);
         item.emplace(menus.statusMenu(), loop, address,
-                     StatusNotifierItem::Handlers{[](int, int) {}, [] {}, [] {}});
+                     StatusNotifierItem::Handlers{[](int, int) {}, [] {}, [](int) {}, [] {}});
         sources.emplace(centers, loop,
                         DesktopSources::Surroundings{nullptr, "1", bus.get(), bus.get()});
     }
@@ -144,8 +149,11 @@ struct World {
     DisturberFinder finder;
     DisturbanceWatch disturbances{controller, local,
                                   [this](auto answer) { finder.find(std::move(answer)); }};
+    Looks looks{"/nowhere", fuzz::ownDirectory() / "looks", local};
+    ChosenLook chosenLook{looks};
     BusFace face;
-    AppMenus menus{controller, store, local, [] {}};
+    LookPicker lookPicker{controller, chosenLook};
+    AppMenus menus{controller, store, local, lookPicker, [] {}};
     std::optional<LauncherMenu> launcher;
     std::optional<StatusNotifierItem> item;
     std::optional<DesktopSources> sources;
@@ -169,6 +177,22 @@ constexpr Member kMethods[] = {{kNocturo, kFace, "SetActive", "b"},
                                {kNocturo, kFace, "Toggle", ""},
                                {kNocturo, kFace, "AddEffects", "as"},
                                {kNocturo, kFace, "RemoveEffects", "as"},
+                               {kNocturo, kFace, "SetEffects", "as"},
+                               {kNocturo, kFace, "SetTemperature", "u"},
+                               {kNocturo, kFace, "StepTemperature", "i"},
+                               {kNocturo, kFace, "SetDim", "d"},
+                               {kNocturo, kFace, "StepDim", "d"},
+                               {kNocturo, kFace, "SetTint", "dd"},
+                               {kNocturo, kFace, "StepSetting", "sd"},
+                               {kNocturo, kFace, "ApplyLook", "s"},
+                               {kNocturo, kFace, "ApplyNextLook", ""},
+                               {kNocturo, kFace, "ApplyPreviousLook", ""},
+                               {kNocturo, kFace, "GoBackFromLook", ""},
+                               {kNocturo, kFace, "SaveLook", "s"},
+                               {kNocturo, kFace, "RenameLook", "ss"},
+                               {kNocturo, kFace, "DeleteLook", "s"},
+                               {kNocturo, kFace, "MoveLook", "su"},
+                               {kNocturo, kFace, "AffectAllScreens", ""},
                                {kNocturo, kFace, "SetSetting", "sv"},
                                {kNocturo, kFace, "ResetSetting", "s"},
                                {kNocturo, kFace, "ToggleScreen", "u"},
