@@ -104,7 +104,7 @@ TEST_F(Guard, IsThereWhileADisplayIsChangedAndIsReplacedWhenItIsKilled) {
     const pid_t guard = guardProcess();
     ASSERT_GT(guard, 0);
     EXPECT_EQ(getsid(guard), guard);
-    EXPECT_TRUE(isMarked());
+    EXPECT_TRUE(waitUntil([&] { return isMarked(); }));
     for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         ::kill(guard, number);
     }
