@@ -1,5 +1,6 @@
 #include "program/core.h"
 
+#include "base/environment.h"
 #include "base/program_files.h"
 #include "program/instance_lock.h"
 #include "program/surroundings.h"
@@ -24,6 +25,8 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       looks(programFile("looks", NOCTURO_DATA_FROM_BIN), dataDirectory() / "looks", centers.local),
       desktop(runLoop, sessionBus.get(), controller, defaults, centers, lookPicker),
       keepColors(controller, defaults, centers.local, runLoop),
+      hooks(controller, chosenLook, centers.local, runLoop,
+            userDirectory("XDG_CONFIG_HOME", ".config") / "nocturo/hooks"),
       face(controller, defaults, centers.local, disturbances, desktop, keepColors, chosenLook,
            sessionBus.get(), loop) {
     for (Bus* bus : {sessionBus.get(), systemBus.get()}) {

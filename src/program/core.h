@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
+#include "app/hooks.h"
 #include "app/keep_colors.h"
 #include "app/look_picker.h"
 #include "app/wake_repeater.h"
@@ -47,6 +48,7 @@ struct Core {
     LookPicker lookPicker{controller, chosenLook};
     DesktopOnDemand desktop;
     KeepColors keepColors;
+    Hooks hooks;
     BusFace face;
 
   private:

@@ -36,6 +36,7 @@ void DesktopSession::launch(const std::vector<std::string>& documents,
             if (!problem.empty()) {
                 refused(problem);
             }
+            core_.hooks.launchDidFinish();
             windowRestoration_.restore();
             windowRestoration_.startKeeping();
         }));

@@ -114,6 +114,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     });
     const int result = loop.run();
     core.controller.applicationWillTerminate(); // the displays come before all that is written
+    core.hooks.tell();
     if (result == kSuccess) {
         desktop.end();
     } else {

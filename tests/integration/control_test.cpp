@@ -478,7 +478,40 @@ struct FloodedOnX : NocturoOnX {
         EXPECT_TRUE(allOwnWithin(Milliseconds(200)));
         EXPECT_EQ(nocturo_->wait(), 0);
     }
+
+    /// So many changes while a hook does not end and those who follow are not read.
+    void neglect(int changes) {
+        const auto hook = session_.settingsFile().parent_path() / "hooks/endless";
+        std::filesystem::create_directory(hook.parent_path());
+        writeText(hook, "#!/bin/sh\nexec sleep 1000\n");
+        std::filesystem::permissions(hook, std::filesystem::perms::owner_all);
+        const auto watch = session_.start("nocturoctl", {"watch"});
+        const auto bar = session_.start("nocturoctl", {"status", "--bar", "--follow"});
+        ctl({"off"});
+        std::vector<pid_t> hooks;
+        const auto isRunning = [&] {
+            hooks = childrenNamed(nocturo_->id(), "sleep");
+            return hooks.size() == 1;
+        };
+        EXPECT_TRUE(waitUntil(isRunning));
+        const long before = memory();
+        EXPECT_EQ(session_.run("toggle_loop", {std::to_string(changes + 1)}, 6 * kPatience).exit,
+                  0);
+        EXPECT_TRUE(becomes("ii", Milliseconds(200)));
+        EXPECT_LE(memory(), before * 11 / 10);
+        EXPECT_TRUE(isRunning());
+        ::kill(hooks.at(0), SIGKILL);
+        end();
+    }
 };
+
+TEST_F(FloodedOnX, HooksAndReadersThatNeverEndCostNothing) {
+    neglect(1000);
+}
+
+TEST_F(FloodedOnX, SoakOfTenThousandNeglectedChanges) {
+    neglect(10000);
+}
 
 TEST_F(FloodedOnX, MindsSignalsAndGivesBackWhatItTook) {
     flood(Milliseconds(1000));
