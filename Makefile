@@ -13,7 +13,7 @@ release := build/release
 
 .DEFAULT_GOAL := help
 .NOTPARALLEL:
-.PHONY: help deps build run tests test soak unit-asan fuzz benchmarks bench lint lint-text format install package package-test readme-test try-desktops dist screenshots clean
+.PHONY: help deps build run tests test soak unit-asan fuzz benchmarks bench lint lint-text format install package package-test readme-test desktop-test dist screenshots clean
 
 help: ## this list
 	@awk -F ':[^#]*## ' '/^[a-z-]+:.*## / { printf "  make %-13s %s\n", $$1, $$2 }' Makefile
@@ -92,10 +92,10 @@ package-test: package ## installs that package into a fresh system, starts it an
 readme-test: deps-package ## does in a fresh root of Debian RELEASE=trixie what the README says
 	@tests/packaging/readme_test.sh $(RELEASE)
 
-try-desktops: deps-package ## tries the compositors of Debian 13 and testing, in fresh roots, and prints a table
+desktop-test: deps-package ## looks at the compositors of Debian 13 and testing, in fresh roots, and prints a table
 	$(configure) -DBUILD_TESTING=ON
-	$(make_targets) programs profile_probe
-	@tools/desktops/try_desktops.sh $(release)/bin
+	$(make_targets) programs profile_probe press_keys
+	@tools/desktops/desktop_test.sh $(release)
 
 clean: ## removes everything that was built
 	rm -rf build

@@ -719,8 +719,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Die Antwort lässt sich nicht schreiben: %@.</translation>
         </message>
         <message>
-            <source>held by another program</source>
-            <translation>von einem anderen Programm belegt</translation>
+            <source>no ramp, or another program has it</source>
+            <translation>keine Rampe, oder ein anderes Programm hat sie</translation>
         </message>
         <message>
             <source>cannot be given a color profile</source>

@@ -719,8 +719,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>No se puede escribir la respuesta: %@.</translation>
         </message>
         <message>
-            <source>held by another program</source>
-            <translation>en uso por otro programa</translation>
+            <source>no ramp, or another program has it</source>
+            <translation>sin rampa, o la tiene otro programa</translation>
         </message>
         <message>
             <source>cannot be given a color profile</source>

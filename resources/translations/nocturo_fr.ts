@@ -719,8 +719,8 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>La réponse ne peut pas être écrite : %@.</translation>
         </message>
         <message>
-            <source>held by another program</source>
-            <translation>tenu par un autre programme</translation>
+            <source>no ramp, or another program has it</source>
+            <translation>pas de rampe, ou un autre programme la tient</translation>
         </message>
         <message>
             <source>cannot be given a color profile</source>

@@ -718,8 +718,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>応答を書き込めません: %@</translation>
         </message>
         <message>
-            <source>held by another program</source>
-            <translation>ほかのプログラムが使用中</translation>
+            <source>no ramp, or another program has it</source>
+            <translation>ランプがないか、ほかのプログラムが使用中</translation>
         </message>
         <message>
             <source>cannot be given a color profile</source>

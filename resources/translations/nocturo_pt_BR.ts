@@ -719,8 +719,8 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Não é possível escrever a resposta: %@.</translation>
         </message>
         <message>
-            <source>held by another program</source>
-            <translation>em uso por outro programa</translation>
+            <source>no ramp, or another program has it</source>
+            <translation>sem rampa, ou em uso por outro programa</translation>
         </message>
         <message>
             <source>cannot be given a color profile</source>

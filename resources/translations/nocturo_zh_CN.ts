@@ -715,8 +715,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>无法写出回答：%@。</translation>
         </message>
         <message>
-            <source>held by another program</source>
-            <translation>被其他程序占用</translation>
+            <source>no ramp, or another program has it</source>
+            <translation>没有色阶，或被其他程序占用</translation>
         </message>
         <message>
             <source>cannot be given a color profile</source>

@@ -41,7 +41,7 @@ Json ordered(const Json& object, std::span<const char* const> order) {
 /// What keeps a display from showing anything, as the bus has it.
 std::string obstacleText(const std::string& obstacle) {
     static const std::map<std::string_view, ListedText> texts = {
-        {"held-by-other", ListedText("held by another program")},
+        {"held-by-other", ListedText("no ramp, or another program has it")},
         {"takes-no-profile", ListedText("cannot be given a color profile")},
         {"high-dynamic-range", ListedText("in HDR mode")},
         {"refused", ListedText("refused by the desktop")}};
