@@ -10,13 +10,16 @@ set -- "$build"
 # shellcheck source-path=SCRIPTDIR source=../../tests/packaging/fresh_root.sh
 . "$here/../../tests/packaging/fresh_root.sh"
 
+# Once for all roots, so that all get the same.
+DESTDIR=$work/built cmake --install "$build" --prefix /opt/nocturo >"$work/install.log"
+cp "$build"/bin/{profile_probe,press_keys} "$here/look.sh" "$work/built/opt/nocturo/bin"
+
 # What was built, and those of its libraries that the other release has not. What comes of Qt is the root's own.
 bring_nocturo() {
   local program library
-  DESTDIR=$root cmake --install "$build" --prefix /opt/nocturo >"$work/install.log"
-  cp "$build"/bin/{profile_probe,press_keys} "$here/look.sh" "$root/opt/nocturo/bin"
-  for program in nocturo nocturoctl nocturo-guard nocturo-bus-guard nocturo-profile-guard; do
-    for library in $(ldd "$build/bin/$program" 2>/dev/null | awk '/=> \// { print $3 }'); do # none of a static one
+  cp -a "$work/built/." "$root"
+  for program in bin/nocturo bin/nocturoctl libexec/nocturo-bus-guard libexec/nocturo-profile-guard; do
+    for library in $(ldd "$root/opt/nocturo/$program" | awk '/=> \// { print $3 }'); do
       [ -n "$(find "$root/usr/lib" -name "${library##*/}")" ] || cp -L "$library" "$root/opt/nocturo/lib"
     done
   done
@@ -62,7 +65,8 @@ for release in trixie forky; do
   mount --bind /dev "$root/dev"
   mount -t tmpfs tmpfs "$root/dev/shm"
   mount -t tmpfs tmpfs "$root/run"
-  inside apt-get update -q >"$work/apt.log"
+  # A mirror of testing may stand still for longer than its lists are meant to hold.
+  inside apt-get update -q -o Acquire::Check-Valid-Until=false >"$work/apt.log"
   inside apt-get install -q -y --no-install-recommends kwin-wayland sway labwc mutter libglib2.0-bin qt6-wayland \
     xdg-desktop-portal xdg-desktop-portal-kde >"$work/apt.log" 2>&1 ||
     { tail "$work/apt.log"; fail "the compositors cannot be installed"; }

@@ -67,7 +67,7 @@ fi
 
 # shellcheck disable=SC2317 # by wait_for
 granted() {
-  nocturoctl hotkey | sed -n 's/^The desktop has it as \([^ ,.]*\).*/\1/p' >granted
+  nocturoctl hotkey | sed -n 's/^The desktop has it as \([^ ;]*\);.*/\1/p' >granted
   [ -s granted ] || { press_keys Return; false; } # a dialog may wait for that
 }
 # shellcheck disable=SC2317 # by wait_for
