@@ -351,6 +351,10 @@
             <translation>Ein: %1$@ auf %2$@</translation>
         </message>
         <message>
+            <source>%1$@, but not on %2$@</source>
+            <translation>%1$@, aber nicht auf %2$@</translation>
+        </message>
+        <message>
             <source>There is no setting "%@".</source>
             <translation>Eine Einstellung „%@“ gibt es nicht.</translation>
         </message>
@@ -1371,8 +1375,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Der Desktop hat es abgelehnt.</translation>
         </message>
         <message>
-            <source>The desktop has it as %@.</source>
-            <translation>Der Desktop führt es als %@.</translation>
+            <source>The desktop has it as %@; its own settings change that.</source>
+            <translation>Der Desktop führt es als %@; ändern lässt sich das in seinen Einstellungen.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

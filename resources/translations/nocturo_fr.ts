@@ -351,6 +351,10 @@
             <translation>Activé : %1$@ sur %2$@</translation>
         </message>
         <message>
+            <source>%1$@, but not on %2$@</source>
+            <translation>%1$@, mais pas sur %2$@</translation>
+        </message>
+        <message>
             <source>There is no setting "%@".</source>
             <translation>Le réglage « %@ » n’existe pas.</translation>
         </message>
@@ -1371,8 +1375,8 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Le bureau l’a refusé.</translation>
         </message>
         <message>
-            <source>The desktop has it as %@.</source>
-            <translation>Le bureau l’a enregistré comme %@.</translation>
+            <source>The desktop has it as %@; its own settings change that.</source>
+            <translation>Le bureau l’a enregistré comme %@ ; cela se change dans ses réglages.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

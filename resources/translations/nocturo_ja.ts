@@ -351,6 +351,10 @@
             <translation>オン: %2$@に%1$@</translation>
         </message>
         <message>
+            <source>%1$@, but not on %2$@</source>
+            <translation>%1$@（%2$@を除く）</translation>
+        </message>
+        <message>
             <source>There is no setting "%@".</source>
             <translation>「%@」という設定はありません。</translation>
         </message>
@@ -1370,8 +1374,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>デスクトップに拒否されました。</translation>
         </message>
         <message>
-            <source>The desktop has it as %@.</source>
-            <translation>デスクトップでは %@ として登録されています。</translation>
+            <source>The desktop has it as %@; its own settings change that.</source>
+            <translation>デスクトップでは %@ として登録されています。変更はデスクトップの設定で行います。</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

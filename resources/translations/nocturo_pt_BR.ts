@@ -351,6 +351,10 @@
             <translation>Ligado: %1$@ em %2$@</translation>
         </message>
         <message>
+            <source>%1$@, but not on %2$@</source>
+            <translation>%1$@, mas não em %2$@</translation>
+        </message>
+        <message>
             <source>There is no setting "%@".</source>
             <translation>Não existe a configuração “%@”.</translation>
         </message>
@@ -1371,8 +1375,8 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>A área de trabalho o recusou.</translation>
         </message>
         <message>
-            <source>The desktop has it as %@.</source>
-            <translation>A área de trabalho o registrou como %@.</translation>
+            <source>The desktop has it as %@; its own settings change that.</source>
+            <translation>A área de trabalho o registrou como %@; isso se altera nas configurações dela.</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

@@ -351,6 +351,10 @@
             <translation>已打开：%2$@上应用 %1$@</translation>
         </message>
         <message>
+            <source>%1$@, but not on %2$@</source>
+            <translation>%1$@，%2$@ 除外</translation>
+        </message>
+        <message>
             <source>There is no setting "%@".</source>
             <translation>没有设置“%@”。</translation>
         </message>
@@ -1367,8 +1371,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>桌面已拒绝。</translation>
         </message>
         <message>
-            <source>The desktop has it as %@.</source>
-            <translation>桌面将其登记为 %@。</translation>
+            <source>The desktop has it as %@; its own settings change that.</source>
+            <translation>桌面将其登记为 %@；可在桌面设置中更改。</translation>
         </message>
         <message>
             <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>

@@ -18,6 +18,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 namespace nocturo {
 
@@ -99,8 +100,13 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
         displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
     for (std::size_t i = 0; online != nullptr && i < online->size(); ++i) {
         const DisplayInfo& display = (*online)[i];
-        if (std::find(affected.begin(), affected.end(), display.id) != affected.end()) {
+        const bool isNamed =
+            std::find(affected.begin(), affected.end(), display.id) != affected.end();
+        if (isNamed) {
             state.screens.push_back(display.name);
+        }
+        if ((isNamed || affected.empty()) && display.obstacle != Obstacle::none) {
+            state.without.push_back(display.name);
         }
     }
     return state;
@@ -129,7 +135,10 @@ std::string stateSentence(const EffectState& state) {
     if (names.empty()) {
         return translated("On, but no effect is chosen");
     }
-    return translated("On: %1$@ on %2$@", {joined(names), screensText(state)});
+    std::string sentence = translated("On: %1$@ on %2$@", {joined(names), screensText(state)});
+    return state.without.empty()
+               ? sentence
+               : translated("%1$@, but not on %2$@", {std::move(sentence), joined(state.without)});
 }
 
 std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults) {

@@ -18,6 +18,7 @@ struct EffectState {
     double vividness = 0;
     bool isOnAllScreens = true;
     std::vector<std::string> screens; // names of those affected that are connected
+    std::vector<std::string> without; // names of those affected that can show nothing of it
 };
 
 EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults);
@@ -27,7 +28,7 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
 std::vector<std::string> namesOfEffects(const EffectState& state);
 
 /// What the displays show and why, in one sentence of the user's language: "On: Invert, Dim −30 %
-/// on all screens". Names the effects and screens chosen, whatever a single display makes of them.
+/// on all screens, but not on DP-2".
 std::string stateSentence(const EffectState& state);
 std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults);
 

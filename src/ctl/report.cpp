@@ -137,6 +137,9 @@ EffectState toldState(const Json& properties) {
     for (const Json& display : properties["displays"]) {
         if (display["affected"].get<bool>()) {
             state.screens.push_back(plain(display["name"]));
+            if (!display.value("obstacle", "").empty()) {
+                state.without.push_back(state.screens.back());
+            }
         }
     }
     return state;

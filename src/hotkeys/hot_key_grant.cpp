@@ -49,8 +49,10 @@ std::string sentenceOn(const HotKeyGrant& grant) {
     case State::notOffered:
         break;
     }
-    return grant.trigger.empty() ? std::string()
-                                 : translated("The desktop has it as %@.", {grant.trigger});
+    return grant.trigger.empty()
+               ? std::string()
+               : translated("The desktop has it as %@; its own settings change that.",
+                            {grant.trigger});
 }
 
 } // namespace nocturo

@@ -73,6 +73,8 @@ TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
     const auto other = session_.start("gammastep", {"-m", "wayland", "-P", "-O", "3500"});
     EXPECT_TRUE(waitUntil([&] { return status()["displays"][0]["heldByOther"] == true; }));
     EXPECT_FALSE(status()["displays"][0]["applied"]);
+    EXPECT_EQ(ctl({"status"}).output.find("On: Invert on all screens, but not on HEADLESS-1\n"),
+              0U);
     ctl({"off"});
     ctl({"on"});
     EXPECT_TRUE(becomes("io"));
