@@ -64,27 +64,12 @@ struct Kde : NocturoTest {
             return kept.path == path && kept.source == source;
         });
     }
-    std::vector<pid_t> guards(pid_t parent) {
-        auto guards = childrenNamed(parent, "nocturo-profile"); // 15 bytes of it
-        const auto spare = childrenNamed(parent, "display-keeper");
-        guards.insert(guards.end(), spare.begin(), spare.end());
-        return guards;
-    }
     void kill(bool guardsToo) {
-        std::vector<pid_t> killed;
-        EXPECT_TRUE(waitUntil([&] { return (killed = guards(nocturo_->id())).size() == 2; }));
-        nocturo_->signal(SIGSTOP);
-        if (guardsToo) {
-            for (const pid_t guard : killed) {
-                ::kill(guard, SIGKILL);
-            }
-        }
-        nocturo_->signal(SIGKILL);
-        nocturo_->wait();
-        for (const pid_t guard : killed) {
-            EXPECT_EQ(waitForChild(guard), guardsToo ? 128 + SIGKILL : 0);
-        }
-        EXPECT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 3; }));
+        EXPECT_TRUE(waitUntil([&] { return guardsOf(nocturo_->id()).size() == 2; }));
+        killWith(guardsToo ? std::vector<std::string>{kProfileGuard, kSpare}
+                           : std::vector<std::string>{});
+        reapGuards();
+        waitForTheBus();
     }
     std::string obstacle() { return status()["displays"][0]["obstacle"]; }
 

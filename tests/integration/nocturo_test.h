@@ -59,8 +59,57 @@ struct NocturoTest : testing::Test {
         return session_.run("xdotool", words).output;
     }
 
+    /// Kills Nocturo and its guards of these names at once; whether a guard is left.
+    bool killWith(const std::vector<std::string>& names) {
+        nocturo_->signal(SIGSTOP); // or it starts other guards
+        std::vector<pid_t> killed;
+        std::size_t guards = 0;
+        for (const char* name : {kGuard, kBusGuard, kProfileGuard, kSpare, kNoNameYet}) {
+            const auto children = childrenNamed(nocturo_->id(), name);
+            guards += children.size();
+            if (std::find(names.begin(), names.end(), name) != names.end()) {
+                killed.insert(killed.end(), children.begin(), children.end());
+            }
+        }
+        for (const pid_t guard : killed) {
+            ::kill(guard, SIGKILL);
+        }
+        nocturo_->signal(SIGKILL);
+        nocturo_->wait();
+        return guards > killed.size();
+    }
+    static std::vector<pid_t> guardsOf(pid_t parent) {
+        std::vector<pid_t> guards;
+        for (const char* name : {kGuard, kBusGuard, kProfileGuard, kSpare}) {
+            const std::vector<pid_t> found = childrenNamed(parent, name);
+            guards.insert(guards.end(), found.begin(), found.end());
+        }
+        return guards;
+    }
+    /// Waits for the guards that killed applications left to end as they should. Without its server
+    /// one that was still about to connect fails.
+    void reapGuards(bool serverIsGone = false) {
+        serverIsGone_ = serverIsGone_ || serverIsGone;
+        for (const pid_t guard : guardsOf(getpid())) {
+            const auto exit = waitForChild(guard);
+            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL || (serverIsGone_ && exit == 1))
+                << exit.value_or(-1);
+        }
+    }
+    /// The next start would find a Nocturo running that the bus has not missed yet.
+    void waitForTheBus() {
+        ASSERT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 3; }));
+    }
+
+    static constexpr const char* kGuard = "nocturo-guard";
+    static constexpr const char* kBusGuard = "nocturo-bus-guard";
+    static constexpr const char* kProfileGuard = "nocturo-profile-guard";
+    static constexpr const char* kSpare = "display-keeper";
+    static constexpr const char* kNoNameYet = "nocturo"; // of a guard, for a moment
+
     Session session_;
     std::unique_ptr<Process> nocturo_;
+    bool serverIsGone_ = false;
 };
 
 /// The same on a real X server, whose ramps it looks at. Nocturo and its guard may be killed.
@@ -121,48 +170,6 @@ struct NocturoOnX : NocturoTest {
         killWith(guardsToo ? std::vector<std::string>{kGuard, kBusGuard, kSpare, kNoNameYet}
                            : std::vector<std::string>{});
     }
-    /// Kills Nocturo and its guards of these names at once; whether a guard is left.
-    bool killWith(const std::vector<std::string>& names) {
-        nocturo_->signal(SIGSTOP); // or it starts other guards
-        std::vector<pid_t> killed;
-        std::size_t guards = 0;
-        for (const char* name : {kGuard, kBusGuard, kSpare, kNoNameYet}) {
-            const auto children = childrenNamed(nocturo_->id(), name);
-            guards += children.size();
-            if (std::find(names.begin(), names.end(), name) != names.end()) {
-                killed.insert(killed.end(), children.begin(), children.end());
-            }
-        }
-        for (const pid_t guard : killed) {
-            ::kill(guard, SIGKILL);
-        }
-        nocturo_->signal(SIGKILL);
-        nocturo_->wait();
-        return guards > killed.size();
-    }
-    static std::vector<pid_t> guardsOf(pid_t parent) {
-        std::vector<pid_t> guards;
-        for (const char* name : {kGuard, kBusGuard, kSpare}) {
-            const std::vector<pid_t> found = childrenNamed(parent, name);
-            guards.insert(guards.end(), found.begin(), found.end());
-        }
-        return guards;
-    }
-    /// Waits for the guards that killed applications left to end as they should. Without its server
-    /// one that was still about to connect fails.
-    void reapGuards(bool serverIsGone = false) {
-        serverIsGone_ = serverIsGone_ || serverIsGone;
-        for (const pid_t guard : guardsOf(getpid())) {
-            const auto exit = waitForChild(guard);
-            EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL || (serverIsGone_ && exit == 1))
-                << exit.value_or(-1);
-        }
-    }
-    /// The next start would find a Nocturo running that the bus has not missed yet.
-    void waitForTheBus() {
-        ASSERT_TRUE(waitUntil([&] { return session_.run("nocturoctl", {"status"}).exit == 3; }));
-    }
-
     std::vector<std::uint8_t> journal() { return client_.rootBytes(kJournal); }
     void damageJournal() {
         auto bytes = journal();
@@ -171,14 +178,9 @@ struct NocturoOnX : NocturoTest {
     }
     bool isMarked() { return !client_.rootBytes(kMark).empty(); }
 
-    static constexpr const char* kGuard = "nocturo-guard";
-    static constexpr const char* kBusGuard = "nocturo-bus-guard";
-    static constexpr const char* kSpare = "display-keeper";
-    static constexpr const char* kNoNameYet = "nocturo"; // of a guard, for a moment
     static constexpr const char* kJournal = "_NOCTURO_OWN_RAMPS";
     static constexpr const char* kMark = "_NOCTURO_CHANGED_DISPLAYS";
 
-    bool serverIsGone_ = false;
     XClient client_{session_.server().display()};
     std::vector<Channels> own_;
 };

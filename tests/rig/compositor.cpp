@@ -6,18 +6,20 @@
 
 #include <wayland-server.h>
 
-#include <sys/eventfd.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
-#include <future>
 #include <mutex>
 #include <thread>
 
 namespace nocturo::rig {
+
+constexpr int kMostMsToEnd = 10;
 
 struct Compositor::State {
     struct Shown : Output {
@@ -42,25 +44,18 @@ struct Compositor::State {
     std::vector<std::unique_ptr<Shown>> unplugged;
     int asked = 0;
     int mostAtATime = 0;
-    int wake = -1;
-    std::mutex mutex;
-    std::vector<std::packaged_task<void()>> actions;
+    std::mutex mutex; // of everything but `ends`
+    std::atomic<bool> ends = false;
     std::thread thread;
 
-    static int act(int descriptor, std::uint32_t /*mask*/, void* data) {
-        auto* state = static_cast<State*>(data);
-        eventfd_t count = 0;
-        eventfd_read(descriptor, &count);
-        std::vector<std::packaged_task<void()>> due;
-        {
-            const std::lock_guard lock(state->mutex);
-            due.swap(state->actions);
+    void serve() {
+        wl_event_loop* loop = wl_display_get_event_loop(display);
+        for (pollfd source{wl_event_loop_get_fd(loop), POLLIN, 0}; !ends;
+             poll(&source, 1, kMostMsToEnd)) {
+            const std::lock_guard lock(mutex);
+            wl_event_loop_dispatch(loop, 0);
+            wl_display_flush_clients(display);
         }
-        for (auto& action : due) {
-            action();
-        }
-        wl_display_flush_clients(state->display);
-        return 0;
     }
 
     static wl_resource* resource(wl_client* client, const wl_interface& interface, int version,
@@ -310,33 +305,24 @@ Compositor::Compositor(Kind kind, std::vector<Output> outputs, std::uint32_t gam
         listen(listening, 16) != 0 || wl_display_add_socket_fd(state_->display, listening) != 0) {
         throw std::runtime_error("The compositor has no socket.");
     }
-    state_->wake = eventfd(0, EFD_CLOEXEC);
-    wl_event_loop_add_fd(wl_display_get_event_loop(state_->display), state_->wake,
-                         WL_EVENT_READABLE, State::act, state_.get());
     for (Output& output : outputs) {
         state_->plug(std::move(output));
     }
     state_->offer();
-    state_->thread = std::thread(wl_display_run, state_->display);
+    state_->thread = std::thread(&State::serve, state_.get());
 }
 
 Compositor::~Compositor() {
-    run([&] { wl_display_terminate(state_->display); });
+    state_->ends = true;
     state_->thread.join();
     wl_display_destroy_clients(state_->display);
     wl_display_destroy(state_->display);
-    close(state_->wake);
 }
 
 void Compositor::run(const std::function<void()>& action) const {
-    std::packaged_task<void()> task(action);
-    auto done = task.get_future();
-    {
-        const std::lock_guard lock(state_->mutex);
-        state_->actions.push_back(std::move(task));
-    }
-    eventfd_write(state_->wake, 1);
-    done.wait();
+    const std::lock_guard lock(state_->mutex);
+    action();
+    wl_display_flush_clients(state_->display);
 }
 
 void Compositor::setAnswer(Answer answer) {
