@@ -3,12 +3,12 @@
 
 #include "wayland/wayland_connection.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <linux/input-event-codes.h>
-#include <ranges>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -69,8 +69,8 @@ int main(int argc, char* argv[]) {
         for (const std::uint32_t key : held) {
             send(kKeyboardKey, key, 1U);
         }
-        for (const std::uint32_t key : held | std::views::reverse) {
-            send(kKeyboardKey, key, 0U);
+        for (; !held.empty(); held.pop_back()) {
+            send(kKeyboardKey, held.back(), 0U);
         }
     }
     return 0;
