@@ -180,6 +180,14 @@
             <translation>Mit dem Tasten&amp;kürzel umschalten</translation>
         </message>
         <message>
+            <source>Leaves Nocturo without a hot key</source>
+            <translation>Lässt Nocturo ohne Tastenkürzel</translation>
+        </message>
+        <message>
+            <source>Clear the hot key</source>
+            <translation>Tastenkürzel löschen</translation>
+        </message>
+        <message>
             <source>Application</source>
             <translation>Anwendung</translation>
         </message>
@@ -895,6 +903,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_de.html</translation>
         </message>
         <message>
+            <source>%@ is held by another program. Choose another hot key.</source>
+            <translation>%@ gehört einem anderen Programm. Wählen Sie ein anderes Tastenkürzel.</translation>
+        </message>
+        <message>
             <source>Copy</source>
             <translation>Kopieren</translation>
         </message>
@@ -907,36 +919,24 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Fragen</translation>
         </message>
         <message>
-            <source>Type a shortcut</source>
-            <translation>Tasten drücken</translation>
-        </message>
-        <message>
             <source>Hot key</source>
             <translation>Tastenkürzel</translation>
         </message>
         <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Drücken Sie das neue Tastenkürzel oder Esc, um das bisherige zu behalten.</translation>
+            <source>Press the new hot key, with Ctrl, Alt or Super, or Escape to leave it as it was.</source>
+            <translation>Drücken Sie das neue Tastenkürzel, mit Strg, Alt oder Super, oder Esc, um es zu lassen, wie es war.</translation>
         </message>
         <message>
             <source>Click or press Space to record another shortcut.</source>
             <translation>Klicken Sie oder drücken Sie die Leertaste, um ein anderes Tastenkürzel aufzunehmen.</translation>
         </message>
         <message>
-            <source>Control</source>
-            <translation>Strg</translation>
+            <source>With Ctrl, Alt or Super</source>
+            <translation>Mit Strg, Alt oder Super</translation>
         </message>
         <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Umschalt</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
+            <source>Press keys, Esc cancels</source>
+            <translation>Tasten drücken, Esc bricht ab</translation>
         </message>
         <message>
             <source>Save as a look...</source>
@@ -1409,6 +1409,98 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>„%@“ braucht eine Zusatztaste: Nur Funktions-, Pfeil- und Navigationstasten können allein Tastenkürzel sein.</translation>
+        </message>
+        <message>
+            <source>Ctrl</source>
+            <translation>Strg</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Umschalt</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Return</source>
+            <translation>Eingabe</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tab</translation>
+        </message>
+        <message>
+            <source>Space</source>
+            <translation>Leertaste</translation>
+        </message>
+        <message>
+            <source>Backspace</source>
+            <translation>Rücktaste</translation>
+        </message>
+        <message>
+            <source>Esc</source>
+            <translation>Esc</translation>
+        </message>
+        <message>
+            <source>Volume Up</source>
+            <translation>Lauter</translation>
+        </message>
+        <message>
+            <source>Volume Down</source>
+            <translation>Leiser</translation>
+        </message>
+        <message>
+            <source>Mute</source>
+            <translation>Ton aus</translation>
+        </message>
+        <message>
+            <source>Menu</source>
+            <translation>Menü</translation>
+        </message>
+        <message>
+            <source>Ins</source>
+            <translation>Einfg</translation>
+        </message>
+        <message>
+            <source>Home</source>
+            <translation>Pos1</translation>
+        </message>
+        <message>
+            <source>Page Up</source>
+            <translation>Bild auf</translation>
+        </message>
+        <message>
+            <source>Del</source>
+            <translation>Entf</translation>
+        </message>
+        <message>
+            <source>End</source>
+            <translation>Ende</translation>
+        </message>
+        <message>
+            <source>Page Down</source>
+            <translation>Bild ab</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>Links</translation>
+        </message>
+        <message>
+            <source>Right</source>
+            <translation>Rechts</translation>
+        </message>
+        <message>
+            <source>Down</source>
+            <translation>Ab</translation>
+        </message>
+        <message>
+            <source>Up</source>
+            <translation>Auf</translation>
         </message>
         <message>
             <source>Activate or Deactivate Effect</source>

@@ -180,6 +180,14 @@
             <translation>Activar o desactivar con el ata&amp;jo</translation>
         </message>
         <message>
+            <source>Leaves Nocturo without a hot key</source>
+            <translation>Deja a Nocturo sin atajo</translation>
+        </message>
+        <message>
+            <source>Clear the hot key</source>
+            <translation>Borrar el atajo</translation>
+        </message>
+        <message>
             <source>Application</source>
             <translation>Aplicación</translation>
         </message>
@@ -895,6 +903,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_es.html</translation>
         </message>
         <message>
+            <source>%@ is held by another program. Choose another hot key.</source>
+            <translation>%@ lo tiene otro programa. Elija otro atajo.</translation>
+        </message>
+        <message>
             <source>Copy</source>
             <translation>Copiar</translation>
         </message>
@@ -907,36 +919,24 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Preguntar</translation>
         </message>
         <message>
-            <source>Type a shortcut</source>
-            <translation>Pulse un atajo</translation>
-        </message>
-        <message>
             <source>Hot key</source>
             <translation>Atajo de teclado</translation>
         </message>
         <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Pulse el nuevo atajo, o Esc para dejarlo como estaba.</translation>
+            <source>Press the new hot key, with Ctrl, Alt or Super, or Escape to leave it as it was.</source>
+            <translation>Pulse el nuevo atajo, con Ctrl, Alt o Super, o Esc para dejarlo como estaba.</translation>
         </message>
         <message>
             <source>Click or press Space to record another shortcut.</source>
             <translation>Haga clic o pulse Espacio para grabar otro atajo.</translation>
         </message>
         <message>
-            <source>Control</source>
-            <translation>Control</translation>
+            <source>With Ctrl, Alt or Super</source>
+            <translation>Con Ctrl, Alt o Super</translation>
         </message>
         <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Mayús</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
+            <source>Press keys, Esc cancels</source>
+            <translation>Pulse teclas, Esc cancela</translation>
         </message>
         <message>
             <source>Save as a look...</source>
@@ -1409,6 +1409,98 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>«%@» necesita una modificadora: solo las teclas de función, de flecha y de navegación pueden ser atajos por sí solas.</translation>
+        </message>
+        <message>
+            <source>Ctrl</source>
+            <translation>Ctrl</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Mayús</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Return</source>
+            <translation>Intro</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tab</translation>
+        </message>
+        <message>
+            <source>Space</source>
+            <translation>Espacio</translation>
+        </message>
+        <message>
+            <source>Backspace</source>
+            <translation>Retroceso</translation>
+        </message>
+        <message>
+            <source>Esc</source>
+            <translation>Esc</translation>
+        </message>
+        <message>
+            <source>Volume Up</source>
+            <translation>Subir volumen</translation>
+        </message>
+        <message>
+            <source>Volume Down</source>
+            <translation>Bajar volumen</translation>
+        </message>
+        <message>
+            <source>Mute</source>
+            <translation>Silencio</translation>
+        </message>
+        <message>
+            <source>Menu</source>
+            <translation>Menú</translation>
+        </message>
+        <message>
+            <source>Ins</source>
+            <translation>Ins</translation>
+        </message>
+        <message>
+            <source>Home</source>
+            <translation>Inicio</translation>
+        </message>
+        <message>
+            <source>Page Up</source>
+            <translation>Re Pág</translation>
+        </message>
+        <message>
+            <source>Del</source>
+            <translation>Supr</translation>
+        </message>
+        <message>
+            <source>End</source>
+            <translation>Fin</translation>
+        </message>
+        <message>
+            <source>Page Down</source>
+            <translation>Av Pág</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>Izquierda</translation>
+        </message>
+        <message>
+            <source>Right</source>
+            <translation>Derecha</translation>
+        </message>
+        <message>
+            <source>Down</source>
+            <translation>Abajo</translation>
+        </message>
+        <message>
+            <source>Up</source>
+            <translation>Arriba</translation>
         </message>
         <message>
             <source>Activate or Deactivate Effect</source>

@@ -180,6 +180,14 @@
             <translation>Activer ou désactiver avec &amp;le raccourci</translation>
         </message>
         <message>
+            <source>Leaves Nocturo without a hot key</source>
+            <translation>Laisse Nocturo sans raccourci</translation>
+        </message>
+        <message>
+            <source>Clear the hot key</source>
+            <translation>Effacer le raccourci</translation>
+        </message>
+        <message>
             <source>Application</source>
             <translation>Application</translation>
         </message>
@@ -895,6 +903,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Credits_fr.html</translation>
         </message>
         <message>
+            <source>%@ is held by another program. Choose another hot key.</source>
+            <translation>%@ est pris par un autre programme. Choisissez un autre raccourci.</translation>
+        </message>
+        <message>
             <source>Copy</source>
             <translation>Copier</translation>
         </message>
@@ -907,36 +919,24 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Demander</translation>
         </message>
         <message>
-            <source>Type a shortcut</source>
-            <translation>Saisir un raccourci</translation>
-        </message>
-        <message>
             <source>Hot key</source>
             <translation>Raccourci clavier</translation>
         </message>
         <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Appuyez sur le nouveau raccourci, ou sur Échap pour conserver l’ancien.</translation>
+            <source>Press the new hot key, with Ctrl, Alt or Super, or Escape to leave it as it was.</source>
+            <translation>Appuyez sur le nouveau raccourci, avec Ctrl, Alt ou Super, ou sur Échap pour le laisser tel quel.</translation>
         </message>
         <message>
             <source>Click or press Space to record another shortcut.</source>
             <translation>Cliquez ou appuyez sur Espace pour enregistrer un autre raccourci.</translation>
         </message>
         <message>
-            <source>Control</source>
-            <translation>Ctrl</translation>
+            <source>With Ctrl, Alt or Super</source>
+            <translation>Avec Ctrl, Alt ou Super</translation>
         </message>
         <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Maj</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
+            <source>Press keys, Esc cancels</source>
+            <translation>Appuyez, Échap annule</translation>
         </message>
         <message>
             <source>Save as a look...</source>
@@ -1409,6 +1409,98 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>« %@ » exige une touche de modification : seules les touches de fonction, fléchées et de navigation peuvent servir seules de raccourci.</translation>
+        </message>
+        <message>
+            <source>Ctrl</source>
+            <translation>Ctrl</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Maj</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Return</source>
+            <translation>Entrée</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tab</translation>
+        </message>
+        <message>
+            <source>Space</source>
+            <translation>Espace</translation>
+        </message>
+        <message>
+            <source>Backspace</source>
+            <translation>Retour arrière</translation>
+        </message>
+        <message>
+            <source>Esc</source>
+            <translation>Échap</translation>
+        </message>
+        <message>
+            <source>Volume Up</source>
+            <translation>Volume haut</translation>
+        </message>
+        <message>
+            <source>Volume Down</source>
+            <translation>Volume bas</translation>
+        </message>
+        <message>
+            <source>Mute</source>
+            <translation>Muet</translation>
+        </message>
+        <message>
+            <source>Menu</source>
+            <translation>Menu</translation>
+        </message>
+        <message>
+            <source>Ins</source>
+            <translation>Inser</translation>
+        </message>
+        <message>
+            <source>Home</source>
+            <translation>Début</translation>
+        </message>
+        <message>
+            <source>Page Up</source>
+            <translation>Page préc.</translation>
+        </message>
+        <message>
+            <source>Del</source>
+            <translation>Suppr</translation>
+        </message>
+        <message>
+            <source>End</source>
+            <translation>Fin</translation>
+        </message>
+        <message>
+            <source>Page Down</source>
+            <translation>Page suiv.</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>Gauche</translation>
+        </message>
+        <message>
+            <source>Right</source>
+            <translation>Droite</translation>
+        </message>
+        <message>
+            <source>Down</source>
+            <translation>Bas</translation>
+        </message>
+        <message>
+            <source>Up</source>
+            <translation>Haut</translation>
         </message>
         <message>
             <source>Activate or Deactivate Effect</source>

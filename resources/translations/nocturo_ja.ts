@@ -180,6 +180,14 @@
             <translation>ショートカットキーで切り替える(&amp;K)</translation>
         </message>
         <message>
+            <source>Leaves Nocturo without a hot key</source>
+            <translation>Nocturo のショートカットキーをなくします</translation>
+        </message>
+        <message>
+            <source>Clear the hot key</source>
+            <translation>ショートカットキーを消去</translation>
+        </message>
+        <message>
             <source>Application</source>
             <translation>アプリケーション</translation>
         </message>
@@ -894,6 +902,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_ja.html</translation>
         </message>
         <message>
+            <source>%@ is held by another program. Choose another hot key.</source>
+            <translation>%@ は別のプログラムが使っています。別のショートカットキーを選んでください。</translation>
+        </message>
+        <message>
             <source>Copy</source>
             <translation>コピー</translation>
         </message>
@@ -906,36 +918,24 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>問い合わせる</translation>
         </message>
         <message>
-            <source>Type a shortcut</source>
-            <translation>キーを押してください</translation>
-        </message>
-        <message>
             <source>Hot key</source>
             <translation>ショートカットキー</translation>
         </message>
         <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>新しいショートカットキーを押してください。変更しない場合は Esc キーを押してください。</translation>
+            <source>Press the new hot key, with Ctrl, Alt or Super, or Escape to leave it as it was.</source>
+            <translation>新しいショートカットキーを Ctrl、Alt、Super のいずれかと共に押します。Esc で元のままになります。</translation>
         </message>
         <message>
             <source>Click or press Space to record another shortcut.</source>
             <translation>別のショートカットキーを設定するには、クリックするかスペースキーを押してください。</translation>
         </message>
         <message>
-            <source>Control</source>
-            <translation>Control</translation>
+            <source>With Ctrl, Alt or Super</source>
+            <translation>Ctrl、Alt、Super と共に</translation>
         </message>
         <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Shift</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
+            <source>Press keys, Esc cancels</source>
+            <translation>キーを押す、Esc で中止</translation>
         </message>
         <message>
             <source>Save as a look...</source>
@@ -1408,6 +1408,98 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>「%@」には修飾キーが必要です。単独で使えるのはファンクションキー、矢印キー、ナビゲーションキーだけです。</translation>
+        </message>
+        <message>
+            <source>Ctrl</source>
+            <translation>Ctrl</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Shift</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Return</source>
+            <translation>Enter</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tab</translation>
+        </message>
+        <message>
+            <source>Space</source>
+            <translation>スペース</translation>
+        </message>
+        <message>
+            <source>Backspace</source>
+            <translation>Backspace</translation>
+        </message>
+        <message>
+            <source>Esc</source>
+            <translation>Esc</translation>
+        </message>
+        <message>
+            <source>Volume Up</source>
+            <translation>音量を上げる</translation>
+        </message>
+        <message>
+            <source>Volume Down</source>
+            <translation>音量を下げる</translation>
+        </message>
+        <message>
+            <source>Mute</source>
+            <translation>消音</translation>
+        </message>
+        <message>
+            <source>Menu</source>
+            <translation>メニュー</translation>
+        </message>
+        <message>
+            <source>Ins</source>
+            <translation>Insert</translation>
+        </message>
+        <message>
+            <source>Home</source>
+            <translation>Home</translation>
+        </message>
+        <message>
+            <source>Page Up</source>
+            <translation>Page Up</translation>
+        </message>
+        <message>
+            <source>Del</source>
+            <translation>Delete</translation>
+        </message>
+        <message>
+            <source>End</source>
+            <translation>End</translation>
+        </message>
+        <message>
+            <source>Page Down</source>
+            <translation>Page Down</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>←</translation>
+        </message>
+        <message>
+            <source>Right</source>
+            <translation>→</translation>
+        </message>
+        <message>
+            <source>Down</source>
+            <translation>↓</translation>
+        </message>
+        <message>
+            <source>Up</source>
+            <translation>↑</translation>
         </message>
         <message>
             <source>Activate or Deactivate Effect</source>

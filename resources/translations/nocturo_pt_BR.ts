@@ -180,6 +180,14 @@
             <translation>Ativar ou desativar com o ata&amp;lho</translation>
         </message>
         <message>
+            <source>Leaves Nocturo without a hot key</source>
+            <translation>Deixa o Nocturo sem atalho</translation>
+        </message>
+        <message>
+            <source>Clear the hot key</source>
+            <translation>Limpar o atalho</translation>
+        </message>
+        <message>
             <source>Application</source>
             <translation>Aplicativo</translation>
         </message>
@@ -895,6 +903,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Credits_pt_BR.html</translation>
         </message>
         <message>
+            <source>%@ is held by another program. Choose another hot key.</source>
+            <translation>%@ está em uso por outro programa. Escolha outro atalho.</translation>
+        </message>
+        <message>
             <source>Copy</source>
             <translation>Copiar</translation>
         </message>
@@ -907,36 +919,24 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Perguntar</translation>
         </message>
         <message>
-            <source>Type a shortcut</source>
-            <translation>Digite um atalho</translation>
-        </message>
-        <message>
             <source>Hot key</source>
             <translation>Atalho de teclado</translation>
         </message>
         <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>Pressione o novo atalho ou Esc para deixá-lo como estava.</translation>
+            <source>Press the new hot key, with Ctrl, Alt or Super, or Escape to leave it as it was.</source>
+            <translation>Pressione o novo atalho, com Ctrl, Alt ou Super, ou Esc para deixá-lo como estava.</translation>
         </message>
         <message>
             <source>Click or press Space to record another shortcut.</source>
             <translation>Clique ou pressione Espaço para gravar outro atalho.</translation>
         </message>
         <message>
-            <source>Control</source>
-            <translation>Control</translation>
+            <source>With Ctrl, Alt or Super</source>
+            <translation>Com Ctrl, Alt ou Super</translation>
         </message>
         <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Shift</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
+            <source>Press keys, Esc cancels</source>
+            <translation>Pressione teclas, Esc cancela</translation>
         </message>
         <message>
             <source>Save as a look...</source>
@@ -1409,6 +1409,98 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>“%@” precisa de uma modificadora: só teclas de função, de seta e de navegação podem ser atalhos sozinhas.</translation>
+        </message>
+        <message>
+            <source>Ctrl</source>
+            <translation>Ctrl</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Shift</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Return</source>
+            <translation>Enter</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tab</translation>
+        </message>
+        <message>
+            <source>Space</source>
+            <translation>Espaço</translation>
+        </message>
+        <message>
+            <source>Backspace</source>
+            <translation>Backspace</translation>
+        </message>
+        <message>
+            <source>Esc</source>
+            <translation>Esc</translation>
+        </message>
+        <message>
+            <source>Volume Up</source>
+            <translation>Aumentar volume</translation>
+        </message>
+        <message>
+            <source>Volume Down</source>
+            <translation>Diminuir volume</translation>
+        </message>
+        <message>
+            <source>Mute</source>
+            <translation>Mudo</translation>
+        </message>
+        <message>
+            <source>Menu</source>
+            <translation>Menu</translation>
+        </message>
+        <message>
+            <source>Ins</source>
+            <translation>Insert</translation>
+        </message>
+        <message>
+            <source>Home</source>
+            <translation>Home</translation>
+        </message>
+        <message>
+            <source>Page Up</source>
+            <translation>Page Up</translation>
+        </message>
+        <message>
+            <source>Del</source>
+            <translation>Delete</translation>
+        </message>
+        <message>
+            <source>End</source>
+            <translation>End</translation>
+        </message>
+        <message>
+            <source>Page Down</source>
+            <translation>Page Down</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>Esquerda</translation>
+        </message>
+        <message>
+            <source>Right</source>
+            <translation>Direita</translation>
+        </message>
+        <message>
+            <source>Down</source>
+            <translation>Para baixo</translation>
+        </message>
+        <message>
+            <source>Up</source>
+            <translation>Para cima</translation>
         </message>
         <message>
             <source>Activate or Deactivate Effect</source>

@@ -180,6 +180,14 @@
             <translation>使用快捷键开关(&amp;K)</translation>
         </message>
         <message>
+            <source>Leaves Nocturo without a hot key</source>
+            <translation>让 Nocturo 没有快捷键</translation>
+        </message>
+        <message>
+            <source>Clear the hot key</source>
+            <translation>清除快捷键</translation>
+        </message>
+        <message>
             <source>Application</source>
             <translation>应用程序</translation>
         </message>
@@ -891,6 +899,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_zh_CN.html</translation>
         </message>
         <message>
+            <source>%@ is held by another program. Choose another hot key.</source>
+            <translation>%@ 已被其他程序占用，请选择别的快捷键。</translation>
+        </message>
+        <message>
             <source>Copy</source>
             <translation>复制</translation>
         </message>
@@ -903,36 +915,24 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>询问</translation>
         </message>
         <message>
-            <source>Type a shortcut</source>
-            <translation>请按快捷键</translation>
-        </message>
-        <message>
             <source>Hot key</source>
             <translation>快捷键</translation>
         </message>
         <message>
-            <source>Press the new shortcut, or Escape to leave it as it was.</source>
-            <translation>请按新的快捷键，或按 Esc 保持不变。</translation>
+            <source>Press the new hot key, with Ctrl, Alt or Super, or Escape to leave it as it was.</source>
+            <translation>请按下新快捷键（须含 Ctrl、Alt 或 Super），或按 Esc 保持原样。</translation>
         </message>
         <message>
             <source>Click or press Space to record another shortcut.</source>
             <translation>单击或按空格键可录制其他快捷键。</translation>
         </message>
         <message>
-            <source>Control</source>
-            <translation>Control</translation>
+            <source>With Ctrl, Alt or Super</source>
+            <translation>须含 Ctrl、Alt 或 Super</translation>
         </message>
         <message>
-            <source>Alt</source>
-            <translation>Alt</translation>
-        </message>
-        <message>
-            <source>Shift</source>
-            <translation>Shift</translation>
-        </message>
-        <message>
-            <source>Super</source>
-            <translation>Super</translation>
+            <source>Press keys, Esc cancels</source>
+            <translation>请按键，Esc 取消</translation>
         </message>
         <message>
             <source>Save as a look...</source>
@@ -1405,6 +1405,98 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>"%@" needs a modifier: only function, arrow and navigation keys can be hot keys alone.</source>
             <translation>“%@”需要修饰键：只有功能键、方向键和导航键可以单独作为快捷键。</translation>
+        </message>
+        <message>
+            <source>Ctrl</source>
+            <translation>Ctrl</translation>
+        </message>
+        <message>
+            <source>Alt</source>
+            <translation>Alt</translation>
+        </message>
+        <message>
+            <source>Shift</source>
+            <translation>Shift</translation>
+        </message>
+        <message>
+            <source>Super</source>
+            <translation>Super</translation>
+        </message>
+        <message>
+            <source>Return</source>
+            <translation>回车</translation>
+        </message>
+        <message>
+            <source>Tab</source>
+            <translation>Tab</translation>
+        </message>
+        <message>
+            <source>Space</source>
+            <translation>空格</translation>
+        </message>
+        <message>
+            <source>Backspace</source>
+            <translation>退格</translation>
+        </message>
+        <message>
+            <source>Esc</source>
+            <translation>Esc</translation>
+        </message>
+        <message>
+            <source>Volume Up</source>
+            <translation>调高音量</translation>
+        </message>
+        <message>
+            <source>Volume Down</source>
+            <translation>调低音量</translation>
+        </message>
+        <message>
+            <source>Mute</source>
+            <translation>静音</translation>
+        </message>
+        <message>
+            <source>Menu</source>
+            <translation>菜单</translation>
+        </message>
+        <message>
+            <source>Ins</source>
+            <translation>Insert</translation>
+        </message>
+        <message>
+            <source>Home</source>
+            <translation>Home</translation>
+        </message>
+        <message>
+            <source>Page Up</source>
+            <translation>Page Up</translation>
+        </message>
+        <message>
+            <source>Del</source>
+            <translation>Delete</translation>
+        </message>
+        <message>
+            <source>End</source>
+            <translation>End</translation>
+        </message>
+        <message>
+            <source>Page Down</source>
+            <translation>Page Down</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>←</translation>
+        </message>
+        <message>
+            <source>Right</source>
+            <translation>→</translation>
+        </message>
+        <message>
+            <source>Down</source>
+            <translation>↓</translation>
+        </message>
+        <message>
+            <source>Up</source>
+            <translation>↑</translation>
         </message>
         <message>
             <source>Activate or Deactivate Effect</source>

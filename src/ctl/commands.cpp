@@ -120,7 +120,7 @@ HotKeyGrant grantIn(const Json& hotKey) {
 void printHotKey(const Json& hotKey) {
     std::string line = translated("No hot key is chosen.");
     if (!hotKey.empty()) {
-        line = hotKey["text"].get<std::string>();
+        line = wordsOfHotKey(hotKey);
         if (!hotKey["enabled"].get<bool>()) {
             line = translated("%@  (not enabled; nocturoctl hotkey enable)", {line});
         } else if (const std::string told = sentenceOn(grantIn(hotKey)); !told.empty()) {

@@ -4,6 +4,8 @@
 #include "ctl/setting_text.h"
 #include "ctl/text_columns.h"
 #include "documents/looks.h"
+#include "hotkeys/hot_key_text.h"
+#include "hotkeys/hot_key_words.h"
 #include "settings/selectable_effects.h"
 #include "settings/settings_table.h"
 
@@ -98,7 +100,7 @@ std::string hotKeyText(const Json& hotKey) {
     if (hotKey.empty()) {
         return translated("(none)");
     }
-    const auto text = hotKey["text"].get<std::string>();
+    const std::string text = wordsOfHotKey(hotKey);
     if (!hotKey["enabled"].get<bool>()) {
         return translated("%@ (not enabled)", {text});
     }
@@ -152,6 +154,18 @@ std::string titleOfLookInForce(const Json& properties) {
         }
     }
     return {};
+}
+
+std::string wordsOfHotKey(const Json& hotKey) {
+    const auto text = hotKey["text"].get<std::string>();
+    const auto keyCode = hotKey.find("keyCode");
+    const auto flags = hotKey.find("modifierFlags");
+    if (keyCode == hotKey.end() || !keyCode->is_number_integer() || flags == hotKey.end() ||
+        !flags->is_number_integer()) {
+        return text;
+    }
+    return hotKeyWords(keyCode->get<std::uint16_t>(), flags->get<std::uint64_t>(),
+                       withoutModifierGlyphs(text));
 }
 
 std::string statusReport(const Json& properties, bool all) {

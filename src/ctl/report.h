@@ -14,6 +14,9 @@ using Json = nlohmann::ordered_json;
 /// The state of everything, beginning with a sentence; the settings by their keys where `all`.
 std::string statusReport(const Json& properties, bool all);
 
+/// A hot key that is chosen, as people find it on their keyboards.
+std::string wordsOfHotKey(const Json& hotKey);
+
 /// Every effect, with a mark at the selected ones.
 std::string effectsReport(const Json& properties);
 

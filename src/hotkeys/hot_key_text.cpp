@@ -1,6 +1,7 @@
 #include "hotkeys/hot_key_text.h"
 
 #include "base/texts/translated.h"
+#include "hotkeys/hot_key_words.h"
 #include "hotkeys/key_naming.h"
 #include "hotkeys/keyboard/keyboard_layout.h"
 #include "hotkeys/keyboard/modifier_flags.h"
@@ -105,7 +106,7 @@ std::uint64_t modifierNamed(std::string_view name) {
             return flag;
         }
     }
-    return 0;
+    return modifierOfWord(name).value_or(0);
 }
 
 /// Takes a modifier's glyph from the beginning of a part, as hot keys are shown; 0 where there is
@@ -163,6 +164,12 @@ std::string inCapitals(std::string_view text) {
     return capitals;
 }
 
+std::string withoutModifierGlyphs(std::string_view text) {
+    while (takeModifierGlyph(text) != 0) {
+    }
+    return std::string(text);
+}
+
 std::string hotKeyTextSyntax() {
     return translated(
         "A hot key is one key and any of ctrl, alt (or option), shift and super (or command), "
@@ -200,7 +207,7 @@ Result<HotKeyCombination> parseHotKeyText(std::string_view text, KeyboardLayout*
         return failed(translated("\"%@\" has no key besides its modifiers.", {std::string(text)}));
     }
 
-    auto keyCode = virtualKeyCodeNamed(key);
+    auto keyCode = keyOfWords(key);
     if (!keyCode) {
         keyCode = keyCodeOfGlyph(key);
     }

@@ -180,7 +180,7 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
     nocturo_ = session_.startNocturo();
     ctl({"preferences"});
     const std::string window = windowCalled("Nocturo Preferences");
-    // The first box is somewhere below the title of its group, whatever the fonts.
+    // The first look, which inverts, is somewhere below the title of its group, whatever the fonts.
     const auto clickAt = [&](int y) {
         xdotool({"mousemove", "--window", window, "44", std::to_string(y), "click", "1"});
         return waitUntil([&] { return isInverted(); }, Milliseconds(300));

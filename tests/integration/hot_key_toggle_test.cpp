@@ -60,6 +60,7 @@ TEST_F(HotKeyToggle, TogglesOnReleaseAndFollowsTheChosenCombination) {
     }
     EXPECT_TRUE(becomes("i"));
 
+    EXPECT_EQ(ctl({"hotkey", "set", "shift+super+pgup"}).output, "Shift+Super+Page Up\n");
     ctl({"hotkey", "set", "ctrl+k"});
     client_.type({KEY_LEFTMETA, KEY_LEFTSHIFT, KEY_F5});
     client_.type({KEY_LEFTCTRL, KEY_K});

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QTest>
 #include <QVBoxLayout>
@@ -101,6 +102,21 @@ TEST_F(HotKeyField, RecordsKeysWithAModifierAndFunctionKeysAlone) {
     type({Qt::Key_K, 0, "k"}, Qt::MetaModifier);    // no key position
     EXPECT_TRUE(field->isRecording());
     EXPECT_EQ(field->hotKey(), old);
+}
+
+TEST_F(HotKeyField, ShowsAndTellsScreenReadersWhatIsOnTheKeys) {
+    const auto shown = [&] {
+        return QAccessible::queryAccessibleInterface(field)->text(QAccessible::Value).toStdString();
+    };
+    EXPECT_EQ(shown(), "None");
+    field->startRecording();
+    EXPECT_EQ(shown(), "Press keys, Esc cancels");
+    type(kK);
+    EXPECT_EQ(shown(), "With Ctrl, Alt or Super");
+    type(kK, Qt::ControlModifier | Qt::MetaModifier);
+    EXPECT_EQ(shown(), "Ctrl+Super+K");
+    field->setHotKey(nullptr);
+    EXPECT_EQ(shown(), "None");
 }
 
 TEST_F(HotKeyField, ReturnKeepsAndEscapePutsBack) {

@@ -1,9 +1,12 @@
 #include "base/notification_center.h"
+#include "base/texts/translated.h"
 #include "hotkeys/hot_key_center.h"
 #include "hotkeys/hot_key_text.h"
+#include "hotkeys/hot_key_words.h"
 #include "hotkeys/key_event.h"
 #include "hotkeys/key_naming.h"
 #include "hotkeys/keyboard/keyboard_layout.h"
+#include "hotkeys/keyboard/virtual_key_codes.h"
 #include "hotkeys/saved_hot_key.h"
 #include "settings/defaults_store.h"
 
@@ -85,6 +88,25 @@ TEST_F(HotKeyText, ReadsNamesAndCharactersInAnyOrderAndCase) {
         EXPECT_EQ(parseHotKeyText(HXStringFromKeyCode(key, 0x120000, nullptr), nullptr),
                   (HotKeyCombination{key, 0x120000}));
     }
+}
+
+TEST_F(HotKeyText, WritesWhatItReadsInEveryLanguage) {
+    EXPECT_EQ(hotKeyWords(40, 0x1C0000, &french), "Ctrl+Alt+Super+K");
+    EXPECT_EQ(hotKeyWords(116, kCommand, nullptr), "Super+Page Up");
+    EXPECT_EQ(hotKeyWords(69, 0x20000, &french), "Shift+Keypad Plus");
+    EXPECT_EQ(hotKeyWords(24, 0x40000, &french), "Ctrl++");
+    for (const char* language : {"en", "de", "fr", "es", "pt_BR", "ja", "zh_CN"}) {
+        setLanguageOfTexts(language);
+        for (const VirtualKey& key : virtualKeys()) {
+            const std::string words = hotKeyWords(key.keyCode, 0x1E0000, &french);
+            if (!words.ends_with('+') || key.keyCode == 24) {
+                EXPECT_EQ(parseHotKeyText(words, &french),
+                          (HotKeyCombination{key.keyCode, 0x1E0000}))
+                    << words;
+            }
+        }
+    }
+    setLanguageOfTexts("en");
 }
 
 TEST_F(HotKeyText, SaysWhatIsWrong) {

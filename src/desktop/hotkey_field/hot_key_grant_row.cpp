@@ -2,8 +2,10 @@
 
 #include "desktop/qt/localized.h"
 #include "hotkeys/hot_key_center.h"
+#include "hotkeys/hot_key_words.h"
 #include "hotkeys/saved_hot_key.h"
 #include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 #include <QClipboard>
 #include <QGridLayout>
@@ -23,6 +25,19 @@ std::optional<HotKeyGrant> currentGrant(const DefaultsStore& defaults) {
     return saved != nullptr ? HXHotKeyCenter::sharedHotKeyCenter().grantWithKeyCode(
                                   saved->keyCode(), saved->modifierFlags())
                             : std::nullopt;
+}
+
+/// Where a hot key is claimed and not granted somebody else has it.
+QString whoHolds(const DefaultsStore& defaults, KeyboardLayout* layout) {
+    const auto saved = NDSavedHotKey(defaults);
+    if (saved == nullptr || !defaults.boolForKey(kUseHotKey) ||
+        HXHotKeyCenter::sharedHotKeyCenter().hasRegisteredHotKeyWithKeyCode(
+            saved->keyCode(), saved->modifierFlags())) {
+        return {};
+    }
+    return filled(
+        localized("%@ is held by another program. Choose another hot key."),
+        {QString::fromStdString(hotKeyWords(saved->keyCode(), saved->modifierFlags(), layout))});
 }
 
 QString buttonText(const HotKeyGrant& grant) {
@@ -56,9 +71,12 @@ HotKeyGrantRow::HotKeyGrantRow(QWidget* parent)
     hide();
 }
 
-void HotKeyGrantRow::update(const DefaultsStore& defaults) {
+void HotKeyGrantRow::update(const DefaultsStore& defaults, KeyboardLayout* layout) {
     const HotKeyGrant grant = currentGrant(defaults).value_or(HotKeyGrant());
-    const QString sentence = QString::fromStdString(sentenceOn(grant));
+    QString sentence = QString::fromStdString(sentenceOn(grant));
+    if (sentence.isEmpty()) {
+        sentence = whoHolds(defaults, layout);
+    }
     const QString button = buttonText(grant);
     const QString configuration = QString::fromStdString(grant.configuration);
     sentence_->setText(sentence);
@@ -69,8 +87,8 @@ void HotKeyGrantRow::update(const DefaultsStore& defaults) {
     configuration_->setAccessibleName(sentence);
     configuration_->setVisible(!configuration.isEmpty());
     // Beside the sentence, where no line needs the place below it.
-    auto* layout = qobject_cast<QGridLayout*>(this->layout());
-    layout->addWidget(button_, configuration.isEmpty() ? 0 : 1, 1);
+    auto* grid = qobject_cast<QGridLayout*>(this->layout());
+    grid->addWidget(button_, configuration.isEmpty() ? 0 : 1, 1);
     button_->setText(button);
     button_->setVisible(!button.isEmpty());
     setVisible(!sentence.isEmpty() || !button.isEmpty());

@@ -4,11 +4,10 @@
 #include "desktop/hotkey_field/hot_key_text_field_editor.h"
 #include "desktop/mixed_color.h"
 #include "desktop/qt/localized.h"
+#include "hotkeys/hot_key_words.h"
 #include "hotkeys/key_naming.h"
-#include "hotkeys/keyboard/modifier_flags.h"
-#include "hotkeys/keyboard/virtual_key_codes.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -23,6 +22,18 @@ namespace {
 /// How much of the highlight colour lies over the field while it records: enough to be seen beside
 /// another field, and text stays readable on light and dark palettes.
 constexpr float kTint = 0.18F;
+
+/// What the field shows is drawn, so screen readers are told it as its value.
+class FieldAccessible : public QAccessibleWidget {
+  public:
+    explicit FieldAccessible(HXHotKeyTextField* field)
+        : QAccessibleWidget(field, QAccessible::HotkeyField) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? static_cast<HXHotKeyTextField*>(object())->shownText()
+                                          : QAccessibleWidget::text(kind);
+    }
+};
 
 bool startsByItself(Qt::FocusReason reason) {
     switch (reason) {
@@ -46,7 +57,7 @@ HXHotKeyTextField::HXHotKeyTextField(QWidget* parent) : QLineEdit(parent) {
     setContextMenuPolicy(Qt::NoContextMenu);
     setAlignment(Qt::AlignCenter);
     setCursor(Qt::ArrowCursor);
-    setPlaceholderText(localized("Type a shortcut"));
+    QAccessible::registerAccessibleInterface(new FieldAccessible(this));
     setAccessibleName(localized("Hot key"));
     describe();
 }
@@ -83,7 +94,8 @@ void HXHotKeyTextField::showNameOf(const HXHotKey* hotKey) {
                           : HXStringFromKeyCode(0, 0, layout_);
     setText(QString::fromStdString(name).toUpper());
     describe();
-    QAccessibleValueChangeEvent change(this, text());
+    update();
+    QAccessibleValueChangeEvent change(this, shownText());
     QAccessible::updateAccessibility(&change);
 }
 
@@ -120,11 +132,19 @@ void HXHotKeyTextField::beginEditing(bool reachedByTab) {
 
 void HXHotKeyTextField::didBeginEditing() {
     recording_ = true;
+    needsModifier_ = false;
     describe();
     update();
     if (!std::exchange(takesKeys_, true)) {
         Q_EMIT recordingStarted();
     }
+}
+
+void HXHotKeyTextField::didIgnoreKey() {
+    needsModifier_ = true;
+    update();
+    QAccessibleValueChangeEvent change(this, shownText());
+    QAccessible::updateAccessibility(&change);
 }
 
 void HXHotKeyTextField::didEndEditing(bool keyIsDown) {
@@ -146,44 +166,32 @@ void HXHotKeyTextField::didReleaseKeys() {
 
 void HXHotKeyTextField::describe() {
     // Also how a screen reader hears of the change.
-    const auto advice = recording_
-                            ? localized("Press the new shortcut, or Escape to leave it as it was.")
-                            : localized("Click or press Space to record another shortcut.");
+    const auto advice = recording_ ? localized("Press the new hot key, with Ctrl, Alt or Super, or "
+                                               "Escape to leave it as it was.")
+                                   : localized("Click or press Space to record another shortcut.");
     setToolTip(advice);
-    const auto name = recording_ ? QString() : spokenName();
-    setAccessibleDescription(name.isEmpty() ? advice : name + QStringLiteral(". ") + advice);
+    const auto name = hotKey_ == nullptr || recording_ ? QString() : shownText() + ". ";
+    setAccessibleDescription(name + advice);
 }
 
-/// The glyphs of modifiers and keys are not what a screen reader would call them.
-QString HXHotKeyTextField::spokenName() const {
-    if (!hotKey_) {
-        return {};
+QString HXHotKeyTextField::shownText() const {
+    if (recording_) {
+        return needsModifier_ ? localized("With Ctrl, Alt or Super")
+                              : localized("Press keys, Esc cancels");
     }
-    const auto flags = hotKey_->modifierFlags();
-    QStringList parts;
-    for (const auto& [mask, name] : {std::pair(NSControlKeyMask, localized("Control")),
-                                     std::pair(NSAlternateKeyMask, localized("Alt")),
-                                     std::pair(NSShiftKeyMask, localized("Shift")),
-                                     std::pair(NSCommandKeyMask, localized("Super"))}) {
-        if ((flags & mask) != 0) {
-            parts << name;
-        }
-    }
-    const auto named = nameOfVirtualKey(hotKey_->keyCode());
-    const auto key =
-        named.empty() ? HXStringFromKeyCode(hotKey_->keyCode(), 0, layout_) : std::string(named);
-    if (!key.empty()) {
-        parts << QString::fromStdString(key).toUpper();
-    }
-    return parts.join(QLatin1Char('+'));
+    return hotKey_ == nullptr ? localized("None")
+                              : QString::fromStdString(hotKeyWords(
+                                    hotKey_->keyCode(), hotKey_->modifierFlags(), layout_));
 }
 
 QSize HXHotKeyTextField::minimumSizeHint() const {
-    // Translations of the placeholder may be long, and nobody scrolls a hot key's name.
+    // What is said while it records may be long, and nobody scrolls a hot key's name.
     QSize size = QLineEdit::minimumSizeHint();
-    const QFontMetrics metrics = fontMetrics();
-    const int text = metrics.horizontalAdvance(placeholderText());
-    size.setWidth(std::max(size.width(), text + 4 * metrics.averageCharWidth()));
+    for (const QString& text : {localized("With Ctrl, Alt or Super"),
+                                localized("Press keys, Esc cancels"), shownText()}) {
+        const int width = fontMetrics().horizontalAdvance(text);
+        size.setWidth(std::max(size.width(), width + 4 * fontMetrics().averageCharWidth()));
+    }
     return size;
 }
 
@@ -242,22 +250,21 @@ void HXHotKeyTextField::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event); // the first click may have been for the recording before
 }
 
-void HXHotKeyTextField::paintEvent(QPaintEvent* event) {
-    if (!recording_) {
-        QLineEdit::paintEvent(event);
-        return;
-    }
+void HXHotKeyTextField::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QStyleOptionFrame option;
     initStyleOption(&option);
     QPalette& colours = option.palette;
-    colours.setColor(QPalette::Base, mixedColor(colours.color(QPalette::Base),
-                                                colours.color(QPalette::Highlight), kTint));
+    if (recording_) {
+        colours.setColor(QPalette::Base, mixedColor(colours.color(QPalette::Base),
+                                                    colours.color(QPalette::Highlight), kTint));
+    }
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
     const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
-    painter.setPen(colours.color(QPalette::Text));
+    const bool isNothing = !recording_ && hotKey_ == nullptr;
+    painter.setPen(colours.color(isNothing ? QPalette::PlaceholderText : QPalette::Text));
     painter.drawText(inside, Qt::AlignCenter,
-                     fontMetrics().elidedText(placeholderText(), Qt::ElideRight, inside.width()));
+                     fontMetrics().elidedText(shownText(), Qt::ElideRight, inside.width()));
 }
 
 } // namespace nocturo

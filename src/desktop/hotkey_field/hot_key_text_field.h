@@ -10,8 +10,8 @@ namespace nocturo {
 
 class KeyboardLayout;
 
-/// A line edit whose value is a hot key: it shows the key's name and records another one from the
-/// keyboard. It registers nothing itself. Main thread only.
+/// A line edit whose value is a hot key: it shows what the key is called, which is not its text,
+/// and records another one from the keyboard. It registers nothing itself. Main thread only.
 ///
 /// Recording starts when the field is clicked, reached with Tab or given the focus by the program,
 /// and with Return or Space when it has the focus without recording. It does not start when the
@@ -44,13 +44,17 @@ class HXHotKeyTextField : public QLineEdit {
     /// Null until set.
     const std::shared_ptr<HXHotKey>& hotKey() const { return hotKey_; }
 
-    /// Shows the hot key's name in upper case. Null shows the name of key code 0, which is an A on
-    /// most layouts: the field does not blank itself. Nothing happens for the record it has.
+    /// Its text becomes the hot key's name in upper case, and for null the name of key code 0,
+    /// which is an A on most layouts. Nothing happens for the record it has.
     void setHotKey(std::shared_ptr<HXHotKey> hotKey);
 
     /// Both work on the text alone, not on the hot key, and log a warning that says so.
     void setStringValue(const QString& stringValue);
     QString stringValue() const;
+
+    /// What the field shows: the hot key as people find it on their keyboards, "None", or while it
+    /// records what to do.
+    QString shownText() const;
 
     bool isRecording() const { return recording_; }
 
@@ -91,15 +95,15 @@ class HXHotKeyTextField : public QLineEdit {
     void didBeginEditing();
     void didEndEditing(bool keyIsDown);
     void didReleaseKeys();
+    void didIgnoreKey();
     void showNameOf(const HXHotKey* hotKey);
 
     void beginEditing(bool reachedByTab);
     void describe();
-    QString spokenName() const;
-
     std::shared_ptr<HXHotKey> hotKey_;
     KeyboardLayout* layout_ = nullptr;
     bool recording_ = false;
+    bool needsModifier_ = false; // a key was pressed that cannot be a hot key alone
     bool startsWithFocus_ = false;
     bool takesKeys_ = false; // from recordingStarted() to recordingEnded()
 };

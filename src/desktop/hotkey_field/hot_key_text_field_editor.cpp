@@ -112,6 +112,8 @@ void HXHotKeyTextFieldEditor::processHotkeyEvent(const KeyEvent& event) {
         resignFirstResponder();
     } else if (isNewline(unit)) {
         resignFirstResponder();
+    } else {
+        hotKeyField_->didIgnoreKey();
     }
 }
 

@@ -61,9 +61,18 @@ void NDPreferencesController::connectSettings() {
     const HXHotKeyTextField* field = ui_->hotKeyField;
     connect(field, &HXHotKeyTextField::hotKeyEdited, this, [this, field] { changeHotKey(*field); });
     connect(field, &HXHotKeyTextField::recordingStarted, this,
-            [this] { surroundings_.recordingDidChange(true); });
-    connect(field, &HXHotKeyTextField::recordingEnded, this,
-            [this] { surroundings_.recordingDidChange(false); });
+            [this] { setRecordingHotKey(true); });
+    connect(field, &HXHotKeyTextField::recordingEnded, this, [this] { setRecordingHotKey(false); });
+    connect(ui_->clearHotKey, &QAbstractButton::clicked, this, [this] {
+        ui_->hotKeyField->setHotKey(nullptr);
+        changeHotKey(*ui_->hotKeyField);
+    });
+}
+
+void NDPreferencesController::setRecordingHotKey(bool recording) {
+    recordingHotKey_ = recording;
+    surroundings_.recordingDidChange(recording);
+    updateHotKeyGrant();
 }
 
 void NDPreferencesController::setContains(std::string_view effect, const QAbstractButton& sender) {

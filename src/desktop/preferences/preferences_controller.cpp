@@ -162,7 +162,7 @@ void NDPreferencesController::windowDidLoad() {
     surroundings_.localCenter.addObserver(this, NSUserDefaultsDidChangeNotification,
                                           [this](const Subjects& settings) { update(settings); });
     surroundings_.localCenter.addObserver(this, kHotKeyGrantNotification,
-                                          [this] { hotKeyGrant_->update(surroundings_.defaults); });
+                                          [this] { updateHotKeyGrant(); });
 
     // The menu's first item stands for the button itself: its title sums the choice up.
     screensMenu_ = std::make_unique<Menu>();
@@ -258,10 +258,17 @@ void NDPreferencesController::update(const Subjects& settings) {
         if (saved == nullptr || shown == nullptr || !saved->isEqual(*shown)) {
             ui_->hotKeyField->setHotKey(saved);
         }
-        hotKeyGrant_->update(surroundings_.defaults);
+        ui_->clearHotKey->setEnabled(saved != nullptr);
+        updateHotKeyGrant();
     }
     updateBoxes();
     updateState();
+}
+
+void NDPreferencesController::updateHotKeyGrant() {
+    if (!recordingHotKey_) { // while none is registered
+        hotKeyGrant_->update(surroundings_.defaults, layout_);
+    }
 }
 
 void NDPreferencesController::updateEffects() {

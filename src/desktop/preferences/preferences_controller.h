@@ -154,6 +154,8 @@ class NDPreferencesController : public QObject {
     void updateFilter();
     void updateStrips();
     void updateLooks();
+    void updateHotKeyGrant();
+    void setRecordingHotKey(bool recording);
     void setUpSliders();
     void updateBoxes();
     void setContains(std::string_view effect, const QAbstractButton& sender);
@@ -172,6 +174,7 @@ class NDPreferencesController : public QObject {
     std::unique_ptr<Ui::NocturoPreferencePanel> ui_;
     std::unique_ptr<PreferencePanel> panel_;
     HotKeyGrantRow* hotKeyGrant_ = nullptr; // of the panel
+    bool recordingHotKey_ = false;
     std::unique_ptr<Menu> screensMenu_;
     std::unique_ptr<DrawnMenu> drawnScreensMenu_;
     std::unique_ptr<NDScreenOptionMenuManager> _screensMenuManager;
