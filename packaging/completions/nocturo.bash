@@ -14,7 +14,7 @@ _nocturo() {
   # shellcheck disable=SC2154 # set by _init_completion
   $split && return
   if [[ $cur == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W '--off --display-services= --help --version' -- "$cur")
+    mapfile -t COMPREPLY < <(compgen -W '--off --at-login --display-services= --help --version' -- "$cur")
     [[ ${COMPREPLY[0]-} != *= ]] || compopt -o nospace
     return
   fi

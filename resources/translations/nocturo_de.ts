@@ -16,6 +16,26 @@
             <translation>Effekt</translation>
         </message>
         <message>
+            <source>Nocturo can stay at hand as an icon in the panel's tray.</source>
+            <translation>Nocturo kann als Symbol im Systembereich des Panels zur Hand bleiben.</translation>
+        </message>
+        <message>
+            <source>The icon then switches the effect and leads back to this window</source>
+            <translation>Das Symbol schaltet dann den Effekt und führt zu diesem Fenster zurück</translation>
+        </message>
+        <message>
+            <source>Stay in the tray</source>
+            <translation>In den Systembereich</translation>
+        </message>
+        <message>
+            <source>The page "Switching" has this choice, too</source>
+            <translation>Auch auf der Seite „Ein- und Ausschalten“ zu wählen</translation>
+        </message>
+        <message>
+            <source>Not now</source>
+            <translation>Jetzt nicht</translation>
+        </message>
+        <message>
             <source>Looks and effects</source>
             <translation>Looks und Effekte</translation>
         </message>
@@ -142,6 +162,14 @@
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
             <translation>Bei&amp;m Start von Nocturo einschalten</translation>
+        </message>
+        <message>
+            <source>Nocturo is then there after every login</source>
+            <translation>Nocturo ist dann nach jeder Anmeldung da</translation>
+        </message>
+        <message>
+            <source>Start &amp;with the session</source>
+            <translation>Mit der Si&amp;tzung starten</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -1581,6 +1609,14 @@ und gibt dann jedem Bildschirm seine Farben zurück. Gesteuert wird es mit noctu
         <message>
             <source>in memory, drawn into pictures</source>
             <translation>im Speicher, in Bilder gezeichnet</translation>
+        </message>
+        <message>
+            <source>start with the effect off</source>
+            <translation>mit ausgeschaltetem Effekt starten</translation>
+        </message>
+        <message>
+            <source>start with the session, asking nothing</source>
+            <translation>mit der Sitzung starten, ohne zu fragen</translation>
         </message>
         <message>
             <source>show this text</source>

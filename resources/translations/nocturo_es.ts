@@ -16,6 +16,26 @@
             <translation>Efecto</translation>
         </message>
         <message>
+            <source>Nocturo can stay at hand as an icon in the panel's tray.</source>
+            <translation>Nocturo puede quedar a mano como icono en la bandeja del panel.</translation>
+        </message>
+        <message>
+            <source>The icon then switches the effect and leads back to this window</source>
+            <translation>El icono cambia entonces el efecto y lleva de vuelta a esta ventana</translation>
+        </message>
+        <message>
+            <source>Stay in the tray</source>
+            <translation>Quedar en la bandeja</translation>
+        </message>
+        <message>
+            <source>The page "Switching" has this choice, too</source>
+            <translation>La página «Activación» tiene también esta opción</translation>
+        </message>
+        <message>
+            <source>Not now</source>
+            <translation>Ahora no</translation>
+        </message>
+        <message>
             <source>Looks and effects</source>
             <translation>Aspectos y efectos</translation>
         </message>
@@ -142,6 +162,14 @@
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
             <translation>Activar al iniciar &amp;Nocturo</translation>
+        </message>
+        <message>
+            <source>Nocturo is then there after every login</source>
+            <translation>Nocturo estará ahí tras cada inicio de sesión</translation>
+        </message>
+        <message>
+            <source>Start &amp;with the session</source>
+            <translation>Iniciar con &amp;la sesión</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -1581,6 +1609,14 @@ se le pide salir, y entonces devuelve cada pantalla. Se maneja con nocturoctl.</
         <message>
             <source>in memory, drawn into pictures</source>
             <translation>en memoria, dibujadas en imágenes</translation>
+        </message>
+        <message>
+            <source>start with the effect off</source>
+            <translation>iniciar con el efecto desactivado</translation>
+        </message>
+        <message>
+            <source>start with the session, asking nothing</source>
+            <translation>iniciar con la sesión, sin preguntar</translation>
         </message>
         <message>
             <source>show this text</source>

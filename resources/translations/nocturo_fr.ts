@@ -16,6 +16,26 @@
             <translation>Effet</translation>
         </message>
         <message>
+            <source>Nocturo can stay at hand as an icon in the panel's tray.</source>
+            <translation>Nocturo peut rester à portée de main, en icône dans la zone de notification.</translation>
+        </message>
+        <message>
+            <source>The icon then switches the effect and leads back to this window</source>
+            <translation>L’icône commute alors l’effet et ramène à cette fenêtre</translation>
+        </message>
+        <message>
+            <source>Stay in the tray</source>
+            <translation>Rester en icône</translation>
+        </message>
+        <message>
+            <source>The page "Switching" has this choice, too</source>
+            <translation>La page « Activation » offre aussi ce choix</translation>
+        </message>
+        <message>
+            <source>Not now</source>
+            <translation>Pas maintenant</translation>
+        </message>
+        <message>
             <source>Looks and effects</source>
             <translation>Apparences et effets</translation>
         </message>
@@ -142,6 +162,14 @@
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
             <translation>Activer a&amp;u démarrage de Nocturo</translation>
+        </message>
+        <message>
+            <source>Nocturo is then there after every login</source>
+            <translation>Nocturo est alors là après chaque ouverture de session</translation>
+        </message>
+        <message>
+            <source>Start &amp;with the session</source>
+            <translation>Démarrer a&amp;vec la session</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -1581,6 +1609,14 @@ et rend alors à chaque écran ses couleurs. Se commande avec nocturoctl.</trans
         <message>
             <source>in memory, drawn into pictures</source>
             <translation>en mémoire, dessinés dans des images</translation>
+        </message>
+        <message>
+            <source>start with the effect off</source>
+            <translation>démarrer avec l’effet désactivé</translation>
+        </message>
+        <message>
+            <source>start with the session, asking nothing</source>
+            <translation>démarrer avec la session, sans rien demander</translation>
         </message>
         <message>
             <source>show this text</source>

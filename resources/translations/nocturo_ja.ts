@@ -16,6 +16,26 @@
             <translation>効果</translation>
         </message>
         <message>
+            <source>Nocturo can stay at hand as an icon in the panel's tray.</source>
+            <translation>Nocturo はパネルのトレイにアイコンとして置いておけます。</translation>
+        </message>
+        <message>
+            <source>The icon then switches the effect and leads back to this window</source>
+            <translation>アイコンからエフェクトを切り替えたり、このウィンドウに戻ったりできます</translation>
+        </message>
+        <message>
+            <source>Stay in the tray</source>
+            <translation>トレイに置く</translation>
+        </message>
+        <message>
+            <source>The page "Switching" has this choice, too</source>
+            <translation>この設定は「オン／オフの切り替え」ページにもあります</translation>
+        </message>
+        <message>
+            <source>Not now</source>
+            <translation>今はしない</translation>
+        </message>
+        <message>
             <source>Looks and effects</source>
             <translation>ルックと効果</translation>
         </message>
@@ -142,6 +162,14 @@
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
             <translation>Nocturo の起動時にオンにする(&amp;T)</translation>
+        </message>
+        <message>
+            <source>Nocturo is then there after every login</source>
+            <translation>ログインするたびに Nocturo が起動します</translation>
+        </message>
+        <message>
+            <source>Start &amp;with the session</source>
+            <translation>セッションと共に起動(&amp;W)</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -1580,6 +1608,14 @@ nocturoctl で操作します。</translation>
         <message>
             <source>in memory, drawn into pictures</source>
             <translation>メモリ上で、画像に描画</translation>
+        </message>
+        <message>
+            <source>start with the effect off</source>
+            <translation>エフェクトをオフにして起動</translation>
+        </message>
+        <message>
+            <source>start with the session, asking nothing</source>
+            <translation>何も尋ねずにセッションと共に起動</translation>
         </message>
         <message>
             <source>show this text</source>

@@ -16,6 +16,26 @@
             <translation>Efeito</translation>
         </message>
         <message>
+            <source>Nocturo can stay at hand as an icon in the panel's tray.</source>
+            <translation>O Nocturo pode ficar à mão como ícone na bandeja do painel.</translation>
+        </message>
+        <message>
+            <source>The icon then switches the effect and leads back to this window</source>
+            <translation>O ícone então liga e desliga o efeito e leva de volta a esta janela</translation>
+        </message>
+        <message>
+            <source>Stay in the tray</source>
+            <translation>Ficar na bandeja</translation>
+        </message>
+        <message>
+            <source>The page "Switching" has this choice, too</source>
+            <translation>A página “Ativação” também tem esta opção</translation>
+        </message>
+        <message>
+            <source>Not now</source>
+            <translation>Agora não</translation>
+        </message>
+        <message>
             <source>Looks and effects</source>
             <translation>Visuais e efeitos</translation>
         </message>
@@ -142,6 +162,14 @@
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
             <translation>A&amp;tivar ao iniciar o Nocturo</translation>
+        </message>
+        <message>
+            <source>Nocturo is then there after every login</source>
+            <translation>O Nocturo estará lá depois de cada login</translation>
+        </message>
+        <message>
+            <source>Start &amp;with the session</source>
+            <translation>Inic&amp;iar com a sessão</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -1581,6 +1609,14 @@ para sair e então devolve cada tela. É controlado com o nocturoctl.</translati
         <message>
             <source>in memory, drawn into pictures</source>
             <translation>na memória, desenhadas em imagens</translation>
+        </message>
+        <message>
+            <source>start with the effect off</source>
+            <translation>iniciar com o efeito desligado</translation>
+        </message>
+        <message>
+            <source>start with the session, asking nothing</source>
+            <translation>iniciar com a sessão, sem perguntar</translation>
         </message>
         <message>
             <source>show this text</source>

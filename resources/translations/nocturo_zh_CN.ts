@@ -16,6 +16,26 @@
             <translation>效果</translation>
         </message>
         <message>
+            <source>Nocturo can stay at hand as an icon in the panel's tray.</source>
+            <translation>Nocturo 可以作为图标留在面板的托盘中。</translation>
+        </message>
+        <message>
+            <source>The icon then switches the effect and leads back to this window</source>
+            <translation>之后可用该图标切换效果并回到此窗口</translation>
+        </message>
+        <message>
+            <source>Stay in the tray</source>
+            <translation>留在托盘中</translation>
+        </message>
+        <message>
+            <source>The page "Switching" has this choice, too</source>
+            <translation>“开关”页中也有此选项</translation>
+        </message>
+        <message>
+            <source>Not now</source>
+            <translation>暂时不要</translation>
+        </message>
+        <message>
             <source>Looks and effects</source>
             <translation>外观与效果</translation>
         </message>
@@ -142,6 +162,14 @@
         <message>
             <source>Switch on when Nocturo s&amp;tarts</source>
             <translation>Nocturo 启动时启用(&amp;T)</translation>
+        </message>
+        <message>
+            <source>Nocturo is then there after every login</source>
+            <translation>每次登录后 Nocturo 都会在</translation>
+        </message>
+        <message>
+            <source>Start &amp;with the session</source>
+            <translation>随会话启动(&amp;W)</translation>
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
@@ -1576,6 +1604,14 @@ gives every display back then. Drive it with nocturoctl.</source>
         <message>
             <source>in memory, drawn into pictures</source>
             <translation>位于内存中，绘制到图片里</translation>
+        </message>
+        <message>
+            <source>start with the effect off</source>
+            <translation>启动时不启用效果</translation>
+        </message>
+        <message>
+            <source>start with the session, asking nothing</source>
+            <translation>随会话启动，不提问</translation>
         </message>
         <message>
             <source>show this text</source>

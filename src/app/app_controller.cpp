@@ -69,8 +69,13 @@ void NDAppController::observe(NotificationCenter& center, std::string_view name,
 }
 
 bool NDAppController::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
-    if (defaults_.boolForKey(kActivateOnClick)) {
+    const bool toggles = defaults_.boolForKey(kActivateOnClick);
+    if (toggles) {
         toggleGlobalEffect();
+    }
+    const bool showsSomething = toggles && isReady() && globalEffect_->effectCount() != 0;
+    if (!showsSomething && isReady() && userInterface_ != nullptr && userInterface_->canBeSeen()) {
+        openPreferences();
     }
     return false;
 }

@@ -68,6 +68,10 @@ class NDAppController : public ActionTarget {
     /// Has the launch leave the effect off, whatever the settings say, and save that it is.
     void startSwitchedOff() { startsSwitchedOff_ = true; }
 
+    /// The desktop starts the application, and nobody waits for it: the launch asks nothing about
+    /// the effects.
+    void startWithSession() { startsWithSession_ = true; }
+
     /// Warns of f.lux, registers the defaults, switches the effect as "ActivateAtLaunch" and the
     /// saved "EffectActive" say, warns when no effect is selected, registers the hot key, shows the
     /// status item if it is wanted, makes the screen menus, and starts following the workspace and
@@ -81,11 +85,12 @@ class NDAppController : public ActionTarget {
     void initDefaults();
 
     /// Tells the user, once in a run, that no effect is selected, and offers the preferences.
-    /// Nothing before the launch. `done` is called when the answer has been followed, or at once
-    /// where nothing is asked.
+    /// Nothing before the launch, and nothing where the desktop started the application. `done` is
+    /// called when the answer has been followed, or at once where nothing is asked.
     void warnIfNoEffects(std::function<void()> done = {});
 
     /// The user started the application again: toggles the effect if "ActivateOnClick" is set.
+    /// Shows the preferences, if anybody can see them, where that changes nothing on the screens.
     /// Always false: nothing more is to be done.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
@@ -215,6 +220,7 @@ class NDAppController : public ActionTarget {
     DesktopFace* desktop_ = nullptr;
     const InstalledApplications* installedApplications_ = nullptr;
     bool startsSwitchedOff_ = false;
+    bool startsWithSession_ = false;
     bool didCheckForNoEffectsAtStartup_ = false;
     bool statusItemReady_ = false;
     bool statusItemShown_ = false;

@@ -28,6 +28,7 @@ Alert noEffectWarning() {
                     "screen effect, or Nocturo will have no visible effect on your screen.";
     alert.defaultButton = "Open preferences...";
     alert.alternateButton = "Cancel";
+    alert.overPreferences = true;
     return alert;
 }
 
@@ -110,9 +111,10 @@ void NDAppController::restoreEffect() {
 
 void NDAppController::warnIfNoEffects(std::function<void()> done) {
     const bool check = globalEffect_ != nullptr && !didCheckForNoEffectsAtStartup_;
+    const bool isAsked = check && !startsWithSession_;
     // Before the alert, which is answered while everything else goes on.
     didCheckForNoEffectsAtStartup_ = didCheckForNoEffectsAtStartup_ || check;
-    if (!check || globalEffect_->effectCount() != 0 || desktop_ == nullptr) {
+    if (!isAsked || globalEffect_->effectCount() != 0 || desktop_ == nullptr) {
         if (done) {
             done();
         }

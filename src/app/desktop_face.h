@@ -19,7 +19,8 @@ struct Alert {
     const char* alternateButton = "";
     AlertAnswer closed = AlertAnswer::alternateButton; // what closing it without a choice means
     bool critical = false;
-    std::string icon; // a name in the icon theme or a path; empty for the usual one
+    bool overPreferences = false; // a sheet of the preference window, which is shown with it
+    std::string icon;             // a name in the icon theme or a path; empty for the usual one
 };
 
 /// Its title in the user's language, for whoever has no window to show it in.

@@ -23,6 +23,9 @@ class UserInterface {
     /// Why nothing of this can be shown, in one sentence; empty when all can.
     virtual std::string whyNoWindows() = 0;
 
+    /// Whether somebody may see windows, wherever those come from.
+    virtual bool canBeSeen() { return true; }
+
     /// Shows the window and brings it to the front.
     virtual void showPreferences() = 0;
     virtual void showAboutBox() = 0;

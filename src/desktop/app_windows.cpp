@@ -68,7 +68,7 @@ NDPreferencesController& AppWindows::preferencesController() {
             [this] { return controller_.effectActive(); },
             [this] { controller_.toggleGlobalEffect(); },
             [this] { return stateSentence(controller_, defaults_); }, &looks_.chosen(),
-            [this](const std::string& name) { looks_.pick(name); },
+            [this](const std::string& name) { looks_.pick(name); }, autostart,
             [this] { return documentFolder ? documentFolder() : std::filesystem::path(); }});
         preferenceController->setKeyboardLayout(layout_);
         QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,
@@ -132,6 +132,10 @@ void AppWindows::furnishPreferences() {
     }
     noticeLabel_->setText(notice_);
     noticeLabel_->setVisible(!notice_.isEmpty());
+}
+
+void AppWindows::offerTray() {
+    preferencesController().offerTray();
 }
 
 void AppWindows::askForDocument() {

@@ -14,6 +14,7 @@
 
 namespace nocturo {
 
+class Autostart;
 class DefaultsStore;
 class KeyboardLayout;
 class LookPicker;
@@ -54,6 +55,12 @@ class AppWindows : public UserInterface {
 
     /// Keeps where the preference window is, its size and page; nothing is kept where it is empty.
     std::filesystem::path placeFile;
+
+    /// What starts the application with the session; null where that is not to be chosen.
+    const Autostart* autostart = nullptr;
+
+    /// Offers to show the application in the tray; nothing while no preference window is loaded.
+    void offerTray();
 
     /// Makes the preference window, if there is none, without showing it.
     void loadPreferences();

@@ -81,6 +81,7 @@ class QtDesktop : public DesktopPart {
           windows_(around.controller, around.defaults, around.centers, around.looks),
           menus_(around.controller, windows_, around.recentDocuments, around.menus, around.server) {
         windows_.placeFile = around.stateDirectory / "window.ini";
+        windows_.autostart = &around.autostart;
         atSuddenEnd() = around.serverIsLost;
         std::atexit(endSuddenly);
         printMessage = qInstallMessageHandler(noteMessage);
@@ -120,6 +121,7 @@ class QtDesktop : public DesktopPart {
     void setInTray(bool inTray) override { menus_.setInTray(inTray); }
     void setItemEmbedded(bool embedded) override { menus_.setItemEmbedded(embedded); }
     void setItemImage(bool active) override { menus_.setItemImage(active); }
+    void offerTray() override { windows_.offerTray(); }
     void popUpStatusMenu(int x, int y) override { menus_.popUpStatusMenu(x, y); }
     void setKeyboardLayout(KeyboardLayout* layout) override { windows_.setKeyboardLayout(layout); }
 

@@ -13,6 +13,7 @@
 namespace nocturo {
 
 class AppMenus;
+class Autostart;
 class DefaultsStore;
 class EventLoop;
 class KeyboardLayout;
@@ -31,6 +32,7 @@ struct DesktopSurroundings {
     LookPicker& looks;
     const RecentDocuments& recentDocuments;
     std::filesystem::path stateDirectory; // for what windows remember
+    const Autostart& autostart;
     AppMenus& menus;
     XConnection* server;                   // null where there is no X server
     std::function<void()> sessionIsEnding; // the time to keep what is to come back
@@ -58,6 +60,9 @@ class DesktopPart {
     /// the session bus has a tray. Where there is no tray at all the preference window says so.
     virtual void setItemEmbedded(bool embedded) = 0;
     virtual void setItemImage(bool active) = 0;
+
+    /// Offers, in the preference window, to show the application in the tray.
+    virtual void offerTray() = 0;
 
     /// Shows the status menu at that point of the screen.
     virtual void popUpStatusMenu(int x, int y) = 0;

@@ -5,6 +5,7 @@
 #include "base/event_loop.h"
 #include "base/log.h"
 #include "base/program_files.h"
+#include "base/program_watch.h"
 #include "base/texts/translated.h"
 #include "documents/current_effects.h"
 #include "documents/effect_document_file.h"
@@ -21,6 +22,7 @@ namespace nocturo {
 namespace {
 
 constexpr double kDimOfOneNotch = 0.05;
+constexpr const char* kTrayWatcher = "org.kde.StatusNotifierWatcher";
 constexpr const char* kLibrary = "libnocturo-desktop.so";
 
 // Many panels embed windows and show items of the bus; which they are ready for first is chance.
@@ -64,6 +66,8 @@ DesktopOnDemand::DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppControlle
                                  LookPicker& looks)
     : loop_(loop), bus_(bus), controller_(controller), defaults_(defaults), centers_(centers),
       looks_(looks), recentDocuments_(stateDirectory() / "recent-documents.plist"),
+      autostart_(userDirectory("XDG_CONFIG_HOME", ".config") / "autostart", configDirectories(),
+                 ownProgram()),
       menus_(controller, defaults, centers.local, looks, [&loop] { loop.quit(); }),
       tray_(menus_.statusMenu(), loop, sessionBusAddress(),
             {[this](bool shown) { setItemEmbedded(shown); },
@@ -94,7 +98,7 @@ Result<DesktopPart*> DesktopOnDemand::load() {
     choosePlatform(server_);
     awaitedTray_.reset(); // the part has one of its own
     part_ = (*library)->start({loop_, controller_, defaults_, centers_, looks_, recentDocuments_,
-                               stateDirectory(), menus_, server_,
+                               stateDirectory(), autostart_, menus_, server_,
                                [this] {
                                    if (sessionIsEnding) {
                                        sessionIsEnding();
@@ -139,6 +143,10 @@ void DesktopOnDemand::setKeyboardLayout(KeyboardLayout* layout) {
 std::string DesktopOnDemand::whyNoWindows() {
     const auto part = load();
     return part ? std::string() : part.error().text;
+}
+
+bool DesktopOnDemand::canBeSeen() {
+    return canShowWindows(server_);
 }
 
 void DesktopOnDemand::showPreferences() {
@@ -196,6 +204,9 @@ void DesktopOnDemand::showAlert(const Alert& alert,
     auto* part = canShowWindows(server_) ? partOrWarning() : nullptr;
     if (part != nullptr) {
         part->showAlert(alert, std::move(answered));
+        if (alert.overPreferences) {
+            offerTrayWhereThereIsOne();
+        }
         return;
     }
     logWarning(kLogApp, titleOf(alert));
@@ -271,6 +282,22 @@ void DesktopOnDemand::setItemEmbedded(bool embedded) {
 void DesktopOnDemand::showItemWhereTrayIs() {
     if (part_ == nullptr && awaitedTray_ != nullptr && awaitedTray_->isThere()) {
         partOrWarning();
+    }
+}
+
+void DesktopOnDemand::offerTrayWhereThereIsOne() {
+    if (inTray_) {
+        return;
+    }
+    if (server_ != nullptr && TrayWindow(*server_, {}).isThere()) {
+        part_->offerTray();
+    } else if (bus_ != nullptr) {
+        trayOfBus_ = bus_->followOwner(kTrayWatcher, [this](const std::string& owner) {
+            if (!owner.empty()) {
+                part_->offerTray();
+            }
+            trayOfBus_.reset();
+        });
     }
 }
 

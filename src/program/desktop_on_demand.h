@@ -9,6 +9,7 @@
 #include "bus/tray.h"
 #include "desktop/desktop_library.h"
 #include "documents/recent_documents.h"
+#include "session/autostart.h"
 #include "session/tray_window.h"
 
 #include <functional>
@@ -47,6 +48,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     void setKeyboardLayout(KeyboardLayout* layout);
 
     std::string whyNoWindows() override;
+    bool canBeSeen() override;
     void showPreferences() override;
     void showAboutBox() override;
     void setAboutBoxBackgroundColor(const OpaqueColor& color) override;
@@ -72,6 +74,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     void setItemEmbedded(bool embedded);
     void showItemWhereTrayIs();
     void popUpStatusMenu(int x, int y);
+    void offerTrayWhereThereIsOne();
 
     EventLoop& loop_;
     const Bus* bus_;
@@ -80,12 +83,14 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     const NotificationCenters centers_;
     LookPicker& looks_;
     const RecentDocuments recentDocuments_;
+    const Autostart autostart_;
     bool problemTold_ = false;
     AppMenus menus_;
     std::optional<LauncherMenu> launcherMenu_; // where there is a bus
     Tray tray_;
     std::unique_ptr<TrayWindow> awaitedTray_; // while there is no part to show the item in
     std::unique_ptr<Timer> trayLook_;         // soon, for what to load the library
+    std::unique_ptr<BusSlot> trayOfBus_;      // while it is asked for
     bool inTray_ = false;
     bool itemEmbedded_ = false;
     bool itemActive_ = false;

@@ -66,7 +66,8 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
     }
     Core core(*DefaultsStore::standardUserDefaults(), loop);
     const std::vector<std::string> documents = absolutePaths(options.documents);
-    const SessionClaim claim(core.sessionBus.get(), directory, documents, options.switchedOff);
+    const SessionClaim claim(core.sessionBus.get(), directory, documents, options.switchedOff,
+                             options.atLogin);
     if (!claim.isGranted()) {
         if (!startupIdentifier.empty()) {
             finishStartup(XConnection::open(xServerOfDisplays({})).get(), startupIdentifier);
@@ -98,6 +99,9 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
                                       "gave the displays back.")
                          : translated("Nocturo starts switched off."));
         core.controller.startSwitchedOff();
+    }
+    if (options.atLogin) {
+        core.controller.startWithSession();
     }
     const ConnectedDisplays displays(std::move(*opened), core.centers);
 

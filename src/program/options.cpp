@@ -20,10 +20,9 @@ std::string helpText() {
     constexpr std::size_t kMeaning = 28;
     constexpr std::size_t kMeaningOfChoice = 45;
     const std::string indent(kMeaning + 2, ' ');
-    return translated(
-               "Usage: %@",
-               {"nocturo [--off] [--display-services=auto|randr|wlr|gnome|kde|simulated[:N]] "
-                "[FILE...]"}) +
+    return translated("Usage: %@", {"nocturo [--off] [--at-login] "
+                                    "[--display-services=auto|randr|wlr|gnome|kde|simulated[:N]] "
+                                    "[FILE...]"}) +
            "\n\n" +
            translated("Changes how whole screens look: inverted, overexposed, dimmed or lightened, "
                       "in\nthe HDTV range or through a color filter. Runs until it is told to "
@@ -40,6 +39,8 @@ std::string helpText() {
            line(indent + "simulated[:N]", kMeaningOfChoice,
                 translated("N displays, 1 to 16 (default 2),")) +
            line("", kMeaningOfChoice, translated("in memory, drawn into pictures")) +
+           line("  --off", kMeaning, translated("start with the effect off")) +
+           line("  --at-login", kMeaning, translated("start with the session, asking nothing")) +
            line("  --help", kMeaning, translated("show this text")) +
            line("  --version", kMeaning, translated("show the version")) + '\n' +
            translated("A FILE is an effect document (.nocturo) to open, by the Nocturo that runs "
@@ -67,6 +68,10 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         }
         if (argument == "--version") {
             return PrintAndExit{"nocturo " NOCTURO_VERSION "\n"};
+        }
+        if (argument == "--at-login") {
+            options.atLogin = true;
+            continue;
         }
         if (argument == "--off") {
             options.switchedOff = true;

@@ -13,6 +13,7 @@ namespace nocturo {
 struct RunOptions {
     DisplayChoice displays;
     bool switchedOff = false;           // whatever the settings say
+    bool atLogin = false;               // started by the desktop
     std::vector<std::string> documents; // paths, as they were given
 };
 struct PrintAndExit {

@@ -19,8 +19,9 @@ constexpr int kPatienceWithAnother = 2000; // milliseconds, too
 
 SessionClaim::SessionClaim(const Bus* bus,
                            const std::optional<std::filesystem::path>& runtimeDirectory,
-                           const std::vector<std::string>& documents, bool switchedOff)
-    : bus_(bus), switchedOff_(switchedOff) {
+                           const std::vector<std::string>& documents, bool switchedOff,
+                           bool atLogin)
+    : bus_(bus), switchedOff_(switchedOff), atLogin_(atLogin) {
     auto claim =
         bus_ != nullptr ? bus_->claimName(kBusName, kPatienceWithBusMs) : Bus::Claim::busIsSilent;
     if (claim == Bus::Claim::taken && !passOnOverBus(documents)) {
@@ -38,6 +39,9 @@ SessionClaim::SessionClaim(const Bus* bus,
 bool SessionClaim::passOnOverBus(const std::vector<std::string>& documents) {
     if (switchedOff_) {
         return switchRunningApplicationOff(*bus_, kPatienceWithAnother);
+    }
+    if (documents.empty() && atLogin_) {
+        return true;
     }
     if (documents.empty()) {
         return reopenRunningApplication(*bus_);
@@ -59,6 +63,8 @@ void SessionClaim::askForLock(const std::optional<std::filesystem::path>& runtim
     }
     if (switchedOff_) {
         lock_->askHolder(InstanceLock::kSwitchOffSignal);
+    } else if (documents.empty() && atLogin_) {
+        return;
     } else if (documents.empty()) {
         lock_->askHolder(InstanceLock::kReopenSignal);
     } else {

@@ -19,9 +19,10 @@ class SessionClaim {
     /// `bus` is the session bus, or null. One that does not answer within 0.1 s counts as none, and
     /// gives the name when it answers.
     /// Where there is another Nocturo it opens the documents at these absolute paths, or is
-    /// re-opened when there are none. With `switchedOff` it is switched off instead of that.
+    /// re-opened when there are none. With `switchedOff` it is switched off instead of that, and at
+    /// a login left alone.
     SessionClaim(const Bus* bus, const std::optional<std::filesystem::path>& runtimeDirectory,
-                 const std::vector<std::string>& documents, bool switchedOff);
+                 const std::vector<std::string>& documents, bool switchedOff, bool atLogin);
 
     /// False when there is another Nocturo.
     bool isGranted() const { return granted_; }
@@ -36,6 +37,7 @@ class SessionClaim {
 
     const Bus* bus_;
     bool switchedOff_;
+    bool atLogin_;
     std::optional<InstanceLock> lock_;
     bool granted_ = false;
     std::string problem_;

@@ -48,6 +48,12 @@ std::filesystem::path settingsPath() {
     return userDirectory("XDG_CONFIG_HOME", ".config") / "nocturo" / "settings.plist";
 }
 
+std::vector<std::filesystem::path> configDirectories() {
+    const std::vector<std::string> given = partsOfList(environment("XDG_CONFIG_DIRS"));
+    return given.empty() ? std::vector<std::filesystem::path>{"/etc/xdg"}
+                         : std::vector<std::filesystem::path>(given.begin(), given.end());
+}
+
 std::filesystem::path dataDirectory() {
     return userDirectory("XDG_DATA_HOME", ".local/share") / "nocturo";
 }

@@ -30,6 +30,9 @@ std::string loginSession();
 
 std::filesystem::path settingsPath();
 
+/// Where what is configured for everybody lies.
+std::vector<std::filesystem::path> configDirectories();
+
 /// Where what the user made is kept. Need not exist.
 std::filesystem::path dataDirectory();
 

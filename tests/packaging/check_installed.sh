@@ -23,7 +23,7 @@ desktop_entries() {
   # Only who has used Nocturo gets it with the session.
   local command
   command=$(sed -n 's/^Exec=sh -c "\(.*\)"$/\1/p' "$autostart" | sed 's/\\\\\(["$]\)/\1/g')
-  local started="exec $prefix/bin/nocturo;"
+  local started="exec $prefix/bin/nocturo --at-login;"
   [[ $command == *"$started"* ]] || fail "autostart does not start $prefix/bin/nocturo"
   command=${command/"$started"/echo started;}
   [ -z "$(HOME=$work XDG_CONFIG_HOME='' sh -c "$command")" ] || fail "starts for everybody"
@@ -147,7 +147,7 @@ destination() {
     usr/libexec/nocturo-profile-guard; do
     [ -x "$work/$file" ] || fail "$file is missing"
   done
-  grep -q '^Exec=.*exec /usr/bin/nocturo;' "$work/etc/xdg/autostart/org.nocturo.Nocturo.desktop"
+  grep -q '^Exec=.*exec /usr/bin/nocturo --at-login;' "$work/etc/xdg/autostart/org.nocturo.Nocturo.desktop"
   grep -qx 'ExecStart=/usr/bin/nocturo' "$work/usr/lib/systemd/user/nocturo.service"
   ! grep -rl "$work" "$work/usr/share" "$work/usr/lib" "$work/etc" || fail "DESTDIR is inside these files"
 }

@@ -128,6 +128,24 @@ TEST_F(Launch, GoesStepByStep) {
     EXPECT_THAT(around_.log, ElementsAre("off", "image off", "no item", "on"));
 }
 
+TEST_F(Launch, AsksNobodyAtALoginAndLeavesAWayToTheWindow) {
+    chooseEffects({});
+    controller_.startWithSession();
+    EXPECT_TRUE(launches());
+    EXPECT_THAT(around_.alerts, IsEmpty());
+    const auto shownByAStart = [&] {
+        around_.log.clear();
+        controller_.applicationShouldHandleReopen(false);
+        return around_.log;
+    };
+    EXPECT_THAT(shownByAStart(), ElementsAre("off", "preferences"))
+        << "nothing to be seen switches";
+    chooseEffects({"NDInvertEffect"});
+    EXPECT_THAT(shownByAStart(), ElementsAre("on"));
+    store_->setBool(false, "ActivateOnClick");
+    EXPECT_THAT(shownByAStart(), ElementsAre("preferences"));
+}
+
 TEST_F(Launch, TouchesNothingBeforeTheUserContinuesWithFlux) {
     controller_.setInstalledApplications(&around_);
     const PropertyDictionary before = store_->userDomain();

@@ -12,6 +12,7 @@
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
+#include "session/autostart.h"
 #include "temporary_directory.h"
 
 #include <gmock/gmock.h>
@@ -75,6 +76,7 @@ struct PreferencesWindow : DisplayServicesFixture {
     TemporaryDirectory home;
     Looks looks{home / "shipped", home / "own", center_};
     ChosenLook chosenLook{looks};
+    const Autostart autostart{home / "autostart", {home / "xdg"}, "/opt/50%/nocturo"};
     bool on = false;
     ZQGammaCurve captured; // nothing while the effect is off
     NDPreferencesController controller{PreferenceSurroundings{
@@ -86,7 +88,7 @@ struct PreferencesWindow : DisplayServicesFixture {
             controller.updateState();
         },
         [this] { return std::string(on ? "On: nothing" : "Off"); }, &chosenLook,
-        [this](const std::string& name) { EXPECT_TRUE(chosenLook.apply(name)); }}};
+        [this](const std::string& name) { EXPECT_TRUE(chosenLook.apply(name)); }, &autostart}};
 };
 
 TEST_F(PreferencesWindow, BoxesChangeTheirSettingAndFollowIt) {
@@ -118,6 +120,41 @@ TEST_F(PreferencesWindow, BoxesChangeTheirSettingAndFollowIt) {
     EXPECT_EQ(store_->integerForKey("ShowStatusItem"), 1);
     store_->setInteger(0, "ShowStatusItem");
     EXPECT_TRUE(isChecked("showInTaskBar"));
+}
+
+TEST_F(PreferencesWindow, TheDesktopsOwnEntrySaysWhetherItStartsWithTheSession) {
+    const auto entry = home / "autostart/org.nocturo.Nocturo.desktop";
+    const auto installed = home / "xdg/autostart/org.nocturo.Nocturo.desktop";
+    show();
+    EXPECT_FALSE(isChecked("startWithSession"));
+    click("startWithSession");
+    EXPECT_TRUE(readText(entry).find("\nExec=\"/opt/50%%/nocturo\" --at-login\n") !=
+                std::string::npos);
+    EXPECT_TRUE(isChecked("startWithSession"));
+    writeText(entry, "[Desktop Entry]\nX-GNOME-Autostart-enabled = false\n"); // by the desktop
+    EXPECT_FALSE(autostart.isOn());
+    EXPECT_TRUE(autostart.setOn(false));
+    EXPECT_FALSE(std::filesystem::exists(entry));
+
+    std::filesystem::create_directories(installed.parent_path());
+    writeText(installed, "[Desktop Entry]\n");
+    const Autostart besides(entry.parent_path(), {home / "xdg"}, "/usr/bin/nocturo");
+    EXPECT_TRUE(besides.isOn());
+    EXPECT_TRUE(besides.setOn(false));
+    EXPECT_FALSE(besides.isOn());
+    EXPECT_TRUE(besides.setOn(true));
+    EXPECT_FALSE(std::filesystem::exists(entry)) << "the installed one holds";
+}
+
+TEST_F(PreferencesWindow, OffersTheTrayOnce) {
+    show();
+    auto& offer = find<QWidget>("trayOffer");
+    EXPECT_FALSE(offer.isVisible());
+    controller.offerTray();
+    EXPECT_TRUE(offer.isVisible());
+    click("acceptTray");
+    EXPECT_FALSE(offer.isVisible());
+    EXPECT_EQ(store_->integerForKey("ShowStatusItem"), 1);
 }
 
 TEST_F(PreferencesWindow, SlidersAreThereWithTheirEffectAndKeepTheirValueWithoutIt) {
@@ -193,7 +230,8 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained)
         "closeButton");
     controller.showPage(1);
     EXPECT_EQ(tabbed(find<QWidget>("effectSwitch")),
-              "effectSwitch qt_tabwidget_tabbar activateAtLaunch activateOnClick continuouslyApply "
+              "effectSwitch qt_tabwidget_tabbar activateAtLaunch startWithSession activateOnClick "
+              "continuouslyApply "
               "deactivateForScreenSaver useHotKey hotKeyField showInTaskBar openButton saveButton "
               "closeButton");
 }

@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QPushButton>
 #include <QStyle>
+#include <QWindow>
 
 #include <utility>
 
@@ -27,6 +28,26 @@ bool canBeSeen() {
     return QGuiApplication::platformName() != QLatin1String("offscreen");
 }
 
+/// Shows a box when the window that it stands over has its place, or it would not know where.
+class WhenExposed : public QObject {
+  public:
+    WhenExposed(QWindow& window, QMessageBox& box) : QObject(&box), box_(box) {
+        window.installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Expose && static_cast<QWindow*>(watched)->isExposed()) {
+            watched->removeEventFilter(this);
+            box_.show();
+        }
+        return false;
+    }
+
+  private:
+    QMessageBox& box_;
+};
+
 void setIcon(QMessageBox& box, const Alert& alert) {
     box.setIcon(alert.critical ? QMessageBox::Critical : QMessageBox::Information);
     const QString name = QString::fromStdString(alert.icon);
@@ -40,14 +61,14 @@ void setIcon(QMessageBox& box, const Alert& alert) {
 
 } // namespace
 
-std::unique_ptr<QMessageBox> shownAlert(const Alert& alert,
+std::unique_ptr<QMessageBox> shownAlert(QWidget* window, const Alert& alert,
                                         std::function<void(AlertAnswer answer)> answered) {
     const QString title = text(alert, alert.title, alert.titleArguments);
     if (!canBeSeen()) {
         logWarning(kLogApp, title.toStdString());
         return nullptr;
     }
-    auto box = std::make_unique<QMessageBox>();
+    auto box = std::make_unique<QMessageBox>(window);
     setIcon(*box, alert);
     box->setWindowTitle(QGuiApplication::applicationDisplayName());
     box->setText(title);
@@ -64,8 +85,12 @@ std::unique_ptr<QMessageBox> shownAlert(const Alert& alert,
                          answered(box->clickedButton() == first ? AlertAnswer::defaultButton
                                                                 : AlertAnswer::alternateButton);
                      });
-    box->setWindowModality(Qt::ApplicationModal);
-    box->show();
+    box->setWindowModality(window != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+    if (window == nullptr || window->windowHandle()->isExposed()) {
+        box->show();
+    } else {
+        new WhenExposed(*window->windowHandle(), *box);
+    }
     return box;
 }
 

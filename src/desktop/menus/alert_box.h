@@ -9,9 +9,10 @@
 
 namespace nocturo {
 
-/// The alert on the screen. Null where nobody can see it; then it is told in one sentence.
-/// `answered` is not called once the box is destroyed, and may destroy it later than at once.
-std::unique_ptr<QMessageBox> shownAlert(const Alert& alert,
+/// The alert on the screen, over the window unless that is null. Null where nobody can see it; then
+/// it is told in one sentence. `answered` is not called once the box is destroyed, and may destroy
+/// it later than at once.
+std::unique_ptr<QMessageBox> shownAlert(QWidget* window, const Alert& alert,
                                         std::function<void(AlertAnswer answer)> answered);
 
 /// A message on the screen. Null where nobody can see it.

@@ -66,7 +66,11 @@ void DesktopMenus::popUpStatusMenu(int x, int y) {
 void DesktopMenus::showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) {
     const auto toTell =
         std::make_shared<std::function<void(AlertAnswer answer)>>(std::move(answered));
-    auto box = shownAlert(alert, [this, toTell](AlertAnswer answer) {
+    if (alert.overPreferences) {
+        windows_.showPreferences();
+    }
+    QWidget* window = alert.overPreferences ? windows_.shownPreferences() : nullptr;
+    auto box = shownAlert(window, alert, [this, toTell](AlertAnswer answer) {
         alert_.release()->deleteLater(); // the answer may bring the next one
         (*toTell)(answer);
     });

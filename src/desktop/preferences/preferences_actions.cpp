@@ -2,6 +2,8 @@
 
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
+#include "desktop/preferences/sheet.h"
+#include "desktop/qt/localized.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "effects/effect_choices.h"
@@ -9,6 +11,7 @@
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
 #include "effects/invert_effect.h"
+#include "session/autostart.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keys.h"
 #include "ui_NocturoPreferencePanel.h"
@@ -53,6 +56,9 @@ void NDPreferencesController::connectSettings() {
     };
     connectBox(ui_->activateAtLaunch, &Self::changeActivateAtLaunch);
     connectBox(ui_->activateOnClick, &Self::changeActivateOnClick);
+    connectBox(ui_->startWithSession, &Self::changeStartWithSession);
+    connect(ui_->acceptTray, &QAbstractButton::clicked, ui_->showInTray, &QAbstractButton::click);
+    connect(ui_->refuseTray, &QAbstractButton::clicked, ui_->trayOffer, &QWidget::hide);
     connectBox(ui_->continuouslyApply, &Self::changeContinouslyApply);
     connectBox(ui_->deactivateForScreenSaver, &Self::changeDeactivateForScreenSaver);
     connectBox(ui_->useHotKey, &Self::changeUseHotKey);
@@ -126,6 +132,16 @@ void NDPreferencesController::changeActivateAtLaunch(const QAbstractButton& send
 
 void NDPreferencesController::changeActivateOnClick(const QAbstractButton& sender) {
     surroundings_.defaults.setBool(sender.isChecked(), kActivateOnClick);
+}
+
+void NDPreferencesController::changeStartWithSession(const QAbstractButton& sender) {
+    if (const auto changed = surroundings_.autostart->setOn(sender.isChecked()); !changed) {
+        QMessageBox* alert = newSheet(panel_.get(), QMessageBox::Warning,
+                                      QString::fromStdString(changed.error().text), {});
+        alert->setDefaultButton(alert->addButton(localized("OK"), QMessageBox::AcceptRole));
+        showSheet(*alert);
+    }
+    updateStartWithSession();
 }
 
 void NDPreferencesController::changeContinouslyApply(const QAbstractButton& sender) {

@@ -21,6 +21,7 @@
 #include "effects/invert_effect.h"
 #include "hotkeys/hot_key_grant.h"
 #include "hotkeys/saved_hot_key.h"
+#include "session/autostart.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keys.h"
 #include "ui_NocturoPreferencePanel.h"
@@ -40,6 +41,7 @@ namespace nocturo {
 namespace {
 
 constexpr int kStatusItemRow = 1;
+constexpr double kMostOfScreen = 0.95;
 
 } // namespace
 
@@ -138,6 +140,7 @@ void NDPreferencesController::setUpSliders() {
 
 void NDPreferencesController::windowDidLoad() {
     noEffectComfirmed = true;
+    ui_->trayOffer->hide();
     ui_->effectSwitch->setVisible(static_cast<bool>(surroundings_.toggle));
     connect(ui_->effectSwitch, &QAbstractButton::clicked, this, [this] {
         surroundings_.toggle();
@@ -180,7 +183,9 @@ void NDPreferencesController::windowDidLoad() {
     ui_->affectedScreens->setMenu(menu);
 
     panel_->shouldClose = [this] { return windowShouldClose(); };
+    updateStartWithSession();
     connect(panel_.get(), &PreferencePanel::activated, this, [this] {
+        updateStartWithSession();
         readPreviewedDisplay();
         updatePreview();
     });
@@ -194,7 +199,8 @@ void NDPreferencesController::showWindow() {
     const bool wasVisible = panel_->isVisible();
     if (!panel_->testAttribute(Qt::WA_Resized)) {
         // Qt by itself would give it two thirds of the screen at most.
-        panel_->resize(panel_->sizeHint().boundedTo(panel_->screen()->availableSize() * 0.95));
+        panel_->resize(
+            panel_->sizeHint().boundedTo(panel_->screen()->availableSize() * kMostOfScreen));
     }
     panel_->setWindowState(panel_->windowState() & ~Qt::WindowMinimized);
     panel_->show();
@@ -332,6 +338,24 @@ void NDPreferencesController::updateBoxes() {
     // Every other number means an ordinary application, too.
     const bool inTray = defaults.integerForKey(kShowStatusItem) == kStatusItemRow;
     (inTray ? ui_->showInTray : ui_->showInTaskBar)->setChecked(true);
+    if (inTray) {
+        ui_->trayOffer->hide();
+    }
+}
+
+void NDPreferencesController::updateStartWithSession() {
+    ui_->startWithSession->setVisible(surroundings_.autostart != nullptr);
+    ui_->startWithSession->setChecked(surroundings_.autostart != nullptr &&
+                                      surroundings_.autostart->isOn());
+}
+
+void NDPreferencesController::offerTray() {
+    loadWindow();
+    ui_->trayOffer->show();
+    const int height = panel_->sizeHint().height();
+    panel_->resize(panel_->size()
+                       .expandedTo({0, height})
+                       .boundedTo(panel_->screen()->availableSize() * kMostOfScreen));
 }
 
 void NDPreferencesController::displaysDidChange() {

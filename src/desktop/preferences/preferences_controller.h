@@ -22,6 +22,7 @@ class NocturoPreferencePanel;
 
 namespace nocturo {
 
+class Autostart;
 class ChosenLook;
 class DefaultsStore;
 class DrawnMenu;
@@ -50,6 +51,8 @@ struct PreferenceSurroundings {
     /// The looks, and what a click on one does. Without them there is no row of looks.
     ChosenLook* looks = nullptr;
     std::function<void(const std::string& name)> pickLook = {};
+    /// Without it there is no choice of starting with the session.
+    const Autostart* autostart = nullptr;
     /// Where a document is looked for and put at first; the home directory where that is none.
     std::function<std::filesystem::path()> documentFolder = {};
 };
@@ -86,6 +89,9 @@ class NDPreferencesController : public QObject {
     int page() const;
     void showPage(int page);
 
+    /// Offers, until it is answered, to show the application in the tray.
+    void offerTray();
+
     /// Shows anew whether the effect is on, and says so to screen readers where that is news.
     void updateState();
 
@@ -113,6 +119,7 @@ class NDPreferencesController : public QObject {
 
     void changeActivateAtLaunch(const QAbstractButton& sender);
     void changeActivateOnClick(const QAbstractButton& sender);
+    void changeStartWithSession(const QAbstractButton& sender);
     void changeContinouslyApply(const QAbstractButton& sender);
     void changeDeactivateForScreenSaver(const QAbstractButton& sender);
     void changeShowStatusItem(const QButtonGroup& sender);
@@ -155,6 +162,7 @@ class NDPreferencesController : public QObject {
     void updateStrips();
     void updateLooks();
     void updateHotKeyGrant();
+    void updateStartWithSession();
     void setRecordingHotKey(bool recording);
     void setUpSliders();
     void updateBoxes();
