@@ -307,6 +307,34 @@
             <translation>Effekt einschalten</translation>
         </message>
         <message>
+            <source>Open Recent</source>
+            <translation>Zuletzt geöffnet</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Invertieren</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Überbelichten</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Abdunkeln oder aufhellen</translation>
+        </message>
+        <message>
+            <source>Color filter</source>
+            <translation>Farbfilter</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>HDTV-Bereich</translation>
+        </message>
+        <message>
+            <source>Effects</source>
+            <translation>Effekte</translation>
+        </message>
+        <message>
             <source>and %d more</source>
             <translation>und %d weitere</translation>
         </message>
@@ -329,18 +357,6 @@
         <message>
             <source>None</source>
             <translation>Keine</translation>
-        </message>
-        <message>
-            <source>Invert</source>
-            <translation>Invertieren</translation>
-        </message>
-        <message>
-            <source>Overexpose</source>
-            <translation>Überbelichten</translation>
-        </message>
-        <message>
-            <source>HDTV range</source>
-            <translation>HDTV-Bereich</translation>
         </message>
         <message>
             <source>Lighten %@</source>

@@ -307,6 +307,34 @@
             <translation>Activar el efecto</translation>
         </message>
         <message>
+            <source>Open Recent</source>
+            <translation>Abrir reciente</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Invertir</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Sobreexponer</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Atenuar o aclarar</translation>
+        </message>
+        <message>
+            <source>Color filter</source>
+            <translation>Filtro de color</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>Rango HDTV</translation>
+        </message>
+        <message>
+            <source>Effects</source>
+            <translation>Efectos</translation>
+        </message>
+        <message>
             <source>and %d more</source>
             <translation>y %d más</translation>
         </message>
@@ -329,18 +357,6 @@
         <message>
             <source>None</source>
             <translation>Ninguna</translation>
-        </message>
-        <message>
-            <source>Invert</source>
-            <translation>Invertir</translation>
-        </message>
-        <message>
-            <source>Overexpose</source>
-            <translation>Sobreexponer</translation>
-        </message>
-        <message>
-            <source>HDTV range</source>
-            <translation>Rango HDTV</translation>
         </message>
         <message>
             <source>Lighten %@</source>

@@ -307,6 +307,34 @@
             <translation>Activer l’effet</translation>
         </message>
         <message>
+            <source>Open Recent</source>
+            <translation>Documents récents</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Inverser</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Surexposer</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Assombrir ou éclaircir</translation>
+        </message>
+        <message>
+            <source>Color filter</source>
+            <translation>Filtre coloré</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>Plage HDTV</translation>
+        </message>
+        <message>
+            <source>Effects</source>
+            <translation>Effets</translation>
+        </message>
+        <message>
             <source>and %d more</source>
             <translation>et %d autres</translation>
         </message>
@@ -329,18 +357,6 @@
         <message>
             <source>None</source>
             <translation>Aucun</translation>
-        </message>
-        <message>
-            <source>Invert</source>
-            <translation>Inverser</translation>
-        </message>
-        <message>
-            <source>Overexpose</source>
-            <translation>Surexposer</translation>
-        </message>
-        <message>
-            <source>HDTV range</source>
-            <translation>Plage HDTV</translation>
         </message>
         <message>
             <source>Lighten %@</source>

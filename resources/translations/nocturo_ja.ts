@@ -307,6 +307,34 @@
             <translation>効果をオンにする</translation>
         </message>
         <message>
+            <source>Open Recent</source>
+            <translation>最近使ったファイルを開く</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>反転</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>露出オーバー</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>暗くする、明るくする</translation>
+        </message>
+        <message>
+            <source>Color filter</source>
+            <translation>カラーフィルター</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>HDTV レンジ</translation>
+        </message>
+        <message>
+            <source>Effects</source>
+            <translation>効果</translation>
+        </message>
+        <message>
             <source>and %d more</source>
             <translation>ほか%d件</translation>
         </message>
@@ -329,18 +357,6 @@
         <message>
             <source>None</source>
             <translation>なし</translation>
-        </message>
-        <message>
-            <source>Invert</source>
-            <translation>反転</translation>
-        </message>
-        <message>
-            <source>Overexpose</source>
-            <translation>露出オーバー</translation>
-        </message>
-        <message>
-            <source>HDTV range</source>
-            <translation>HDTV レンジ</translation>
         </message>
         <message>
             <source>Lighten %@</source>

@@ -307,6 +307,34 @@
             <translation>Ativar o efeito</translation>
         </message>
         <message>
+            <source>Open Recent</source>
+            <translation>Abrir recente</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>Inverter</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>Superexpor</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>Escurecer ou clarear</translation>
+        </message>
+        <message>
+            <source>Color filter</source>
+            <translation>Filtro de cor</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>Faixa HDTV</translation>
+        </message>
+        <message>
+            <source>Effects</source>
+            <translation>Efeitos</translation>
+        </message>
+        <message>
             <source>and %d more</source>
             <translation>e mais %d</translation>
         </message>
@@ -329,18 +357,6 @@
         <message>
             <source>None</source>
             <translation>Nenhuma</translation>
-        </message>
-        <message>
-            <source>Invert</source>
-            <translation>Inverter</translation>
-        </message>
-        <message>
-            <source>Overexpose</source>
-            <translation>Superexpor</translation>
-        </message>
-        <message>
-            <source>HDTV range</source>
-            <translation>Faixa HDTV</translation>
         </message>
         <message>
             <source>Lighten %@</source>

@@ -307,6 +307,34 @@
             <translation>启用效果</translation>
         </message>
         <message>
+            <source>Open Recent</source>
+            <translation>打开最近的文件</translation>
+        </message>
+        <message>
+            <source>Invert</source>
+            <translation>反转</translation>
+        </message>
+        <message>
+            <source>Overexpose</source>
+            <translation>过度曝光</translation>
+        </message>
+        <message>
+            <source>Dim or lighten</source>
+            <translation>调暗或调亮</translation>
+        </message>
+        <message>
+            <source>Color filter</source>
+            <translation>颜色滤镜</translation>
+        </message>
+        <message>
+            <source>HDTV range</source>
+            <translation>HDTV 范围</translation>
+        </message>
+        <message>
+            <source>Effects</source>
+            <translation>效果</translation>
+        </message>
+        <message>
             <source>and %d more</source>
             <translation>以及另外 %d 个</translation>
         </message>
@@ -329,18 +357,6 @@
         <message>
             <source>None</source>
             <translation>无</translation>
-        </message>
-        <message>
-            <source>Invert</source>
-            <translation>反转</translation>
-        </message>
-        <message>
-            <source>Overexpose</source>
-            <translation>过度曝光</translation>
-        </message>
-        <message>
-            <source>HDTV range</source>
-            <translation>HDTV 范围</translation>
         </message>
         <message>
             <source>Lighten %@</source>
@@ -569,7 +585,7 @@ the window shows, from =-100% (black) over =0% to =100% (white).</source>
         </message>
         <message>
             <source>Show or choose hue and vividness of the color filter</source>
-            <translation>显示或选择彩色滤镜的色相和鲜艳度</translation>
+            <translation>显示或选择颜色滤镜的色相和鲜艳度</translation>
         </message>
         <message>
             <source>HUE is in degrees: 0 red, 25 orange, 120 green, 240 blue. +N and -N go so far from

@@ -21,8 +21,10 @@ Menu::Id append(Menu& menu, std::string text, std::function<void()> picked) {
 // A dock shows its menu below the actions of the desktop entry, which are the rest of the status
 // menu.
 AppMenus::AppMenus(NDAppController& controller, DefaultsStore& defaults,
-                   NotificationCenter& localCenter, LookPicker& looks, std::function<void()> quit)
+                   NotificationCenter& localCenter, LookPicker& looks,
+                   const RecentDocuments& documents, Actions actions)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter), looks_(looks),
+      documents_(documents), openDocument_(std::move(actions.openDocument)),
       activateItem_(appendActivateItem(effectMenu_)),
       dockActivateItem_(appendActivateItem(dockMenu_)),
       statusActivateItem_(appendActivateItem(statusMenu_)) {
@@ -31,7 +33,7 @@ AppMenus::AppMenus(NDAppController& controller, DefaultsStore& defaults,
     append(statusMenu_, translated("Preferences..."), [this] { controller_.openPreferences(); });
     append(statusMenu_, translated("About Nocturo"), [this] { controller_.openAboutBox(); });
     statusMenu_.append(MenuItem::separator());
-    append(statusMenu_, translated("Quit Nocturo"), std::move(quit));
+    append(statusMenu_, translated("Quit Nocturo"), std::move(actions.quit));
 }
 
 Menu::Id AppMenus::appendActivateItem(Menu& menu) {
@@ -47,7 +49,9 @@ void AppMenus::setActivateItemTitles(bool active) {
 }
 
 void AppMenus::makeScreenMenus() {
-    // Before the screens, whose run starts right after the activate item.
+    // The last first: the run of screens starts right after the activate item.
+    statusDocuments_.emplace(documents_, statusMenu_, statusActivateItem_, openDocument_);
+    statusEffects_.emplace(localCenter_, statusMenu_, statusActivateItem_);
     mainLooks_.emplace(looks_, localCenter_, effectMenu_, activateItem_);
     statusLooks_.emplace(looks_, localCenter_, statusMenu_, statusActivateItem_);
     const auto make = [this](auto& manager, Menu& menu, Menu::Id activateItem, int indent) {

@@ -14,15 +14,6 @@ namespace nocturo {
 
 namespace {
 
-/// An item's text in which no letter picks it.
-std::string plainText(const std::string& title) {
-    std::string text;
-    for (const char letter : title) {
-        text += letter == '&' ? "&&" : std::string(1, letter);
-    }
-    return text;
-}
-
 std::string nameOf(const Look* look) {
     return look != nullptr ? look->name : std::string();
 }
@@ -61,7 +52,7 @@ void LooksMenu::list() {
     ticked_ = nameOf(picker_.chosen().inForce());
     for (std::size_t place = 0; place < looks.size(); ++place) {
         MenuItem item;
-        item.text = plainText(looks[place].title);
+        item.text = withoutMnemonic(looks[place].title);
         item.under = title_;
         item.isCheckable = true;
         item.isChecked = looks[place].name == ticked_;

@@ -95,6 +95,14 @@ void Menu::pick(Id id) const {
     }
 }
 
+std::string withoutMnemonic(const std::string& name) {
+    std::string text;
+    for (const char letter : name) {
+        text += letter == '&' ? "&&" : std::string(1, letter);
+    }
+    return text;
+}
+
 std::string indentedText(const MenuItem& item) {
     std::string text;
     for (int level = 0; level < item.indent; ++level) {

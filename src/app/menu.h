@@ -13,6 +13,9 @@ namespace nocturo {
 /// Posted by a menu's own center after every change of what the menu shows.
 inline constexpr std::string_view kMenuDidChangeNotification = "NocturoMenuDidChangeNotification";
 
+/// Posted there before the menu is shown, as far as whoever shows it says so.
+inline constexpr std::string_view kMenuWillOpenNotification = "NocturoMenuWillOpenNotification";
+
 /// What an item of a menu shows and does. A new one is an ordinary item that does nothing.
 struct MenuItem {
     static MenuItem separator();
@@ -70,7 +73,7 @@ class Menu {
     /// Does what picking the item by hand does. The item may be gone afterwards.
     void pick(Id id) const;
 
-    /// Posts kMenuDidChangeNotification.
+    /// Posts kMenuDidChangeNotification; whoever shows the menu posts kMenuWillOpenNotification.
     NotificationCenter& changes() { return changes_; }
 
   private:
@@ -81,6 +84,9 @@ class Menu {
     Id lastId_ = kNone;
     NotificationCenter changes_;
 };
+
+/// A name as the text of an item in which no letter picks it.
+std::string withoutMnemonic(const std::string& name);
 
 /// The text of an item with its indentation. A level is a pair of em spaces before the text: of an
 /// item that a panel shows only the text arrives, and these spaces are collapsed nowhere and follow

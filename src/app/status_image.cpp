@@ -15,6 +15,7 @@ constexpr double kGrid = 16; // the side of the image in the units of its shapes
 constexpr int kPointsInRow = 4;
 constexpr std::uint32_t kDark = 0x363636;
 constexpr std::uint32_t kLight = 0xffffff;
+constexpr std::uint32_t kAccent = 0xe66100; // told from light and dark grounds alike
 
 struct Point {
     double x;
@@ -46,17 +47,19 @@ bool isInSign(Point point) {
     return radius < 3 && !(radius < 2 && point.x > 8);
 }
 
-// The same shapes as the image files of the icon theme: a display, with the effect's sign in it.
-// While the effect is on the display is filled and the sign cut out of it.
-bool isInShape(Point point, bool isActive) {
+enum class Part { ground, shape, accent };
+
+// The same shapes as the image files of the icon theme: a display, with the effect's sign in it,
+// which is lit while the effect is on.
+Part partAt(Point point, bool isActive) {
     if (distanceFromStand(point) < 0) {
-        return true;
+        return Part::shape;
     }
     if (distanceFromDisplay(point) >= 0) {
-        return false;
+        return Part::ground;
     }
     const bool isInFrame = distance(point, 2, 3, 12, 8, 0) >= 0;
-    return isActive ? !isInSign(point) : isInFrame || isInSign(point);
+    return isInFrame || isInSign(point) ? Part::shape : isActive ? Part::accent : Part::ground;
 }
 
 std::uint32_t mixed(std::uint32_t over, std::uint32_t under, double part) {
@@ -86,21 +89,27 @@ std::vector<std::uint32_t> statusImage(std::string_view name, int side,
         const int x = i % side;
         const int y = i / side;
         int inShape = 0;
+        int inAccent = 0;
         int onGround = 0;
         for (int j = 0; j < kPointsInRow * kPointsInRow; ++j) {
             const int column = j % kPointsInRow;
             const int row = j / kPointsInRow;
             const Point point{(x + (column + 0.5) / kPointsInRow - edge) / scale,
                               (y + (row + 0.5) / kPointsInRow - edge) / scale};
-            const bool isIn = isInShape(point, isActive);
+            const Part part = partAt(point, isActive);
             const double away = std::min(distanceFromDisplay(point), distanceFromStand(point));
-            inShape += isIn ? 1 : 0;
-            onGround += isIn || (!rgb && away * scale < edge) ? 1 : 0;
+            inShape += part == Part::shape ? 1 : 0;
+            inAccent += part == Part::accent ? 1 : 0;
+            onGround += part != Part::ground || (!rgb && away * scale < edge) ? 1 : 0;
         }
-        const double all = kPointsInRow * kPointsInRow;
-        const auto alpha = static_cast<std::uint32_t>(std::lround(255 * onGround / all));
-        const double part = onGround > 0 ? static_cast<double>(inShape) / onGround : 0;
-        pixels.push_back(alpha << 24U | (rgb ? *rgb : mixed(kDark, kLight, part)));
+        const auto share = [](int part, int whole) {
+            return whole > 0 ? static_cast<double>(part) / whole : 0;
+        };
+        const auto alpha = static_cast<std::uint32_t>(
+            std::lround(255 * share(onGround, kPointsInRow * kPointsInRow)));
+        const std::uint32_t plain =
+            mixed(rgb.value_or(kDark), rgb.value_or(kLight), share(inShape, onGround - inAccent));
+        pixels.push_back(alpha << 24U | mixed(kAccent, plain, share(inAccent, onGround)));
     }
     return pixels;
 }

@@ -301,10 +301,12 @@ int MenuExporter::eventGroup(sd_bus_message* call, sd_bus_error* error) {
 }
 
 int MenuExporter::aboutToShow(sd_bus_message* call, sd_bus_error* /*error*/) {
+    menu_.changes().post(kMenuWillOpenNotification);
     return sd_bus_reply_method_return(call, "b", 0);
 }
 
 int MenuExporter::aboutToShowGroup(sd_bus_message* call, sd_bus_error* /*error*/) {
+    menu_.changes().post(kMenuWillOpenNotification);
     return sd_bus_reply_method_return(call, "aiai", 0, 0);
 }
 

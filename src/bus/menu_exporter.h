@@ -32,8 +32,8 @@ class MenuExporter {
     int getProperty(sd_bus_message* call, sd_bus_error* error);
     int event(sd_bus_message* call, sd_bus_error* error);
     int eventGroup(sd_bus_message* call, sd_bus_error* error);
-    static int aboutToShow(sd_bus_message* call, sd_bus_error* error);
-    static int aboutToShowGroup(sd_bus_message* call, sd_bus_error* error);
+    int aboutToShow(sd_bus_message* call, sd_bus_error* error);
+    int aboutToShowGroup(sd_bus_message* call, sd_bus_error* error);
 
     Menu& menu_;
     const Bus& bus_;

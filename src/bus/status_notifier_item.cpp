@@ -129,7 +129,7 @@ struct StatusNotifierItem::Table {
     }
 
     static int other(sd_bus* /*bus*/, const char* /*path*/, const char* /*interface*/,
-                     const char* property, sd_bus_message* reply, void* /*self*/,
+                     const char* property, sd_bus_message* reply, void* self,
                      sd_bus_error* /*error*/) {
         const std::string_view name(property);
         if (name == "Menu") {
@@ -139,7 +139,8 @@ struct StatusNotifierItem::Table {
             return sd_bus_message_append(reply, "b", 1);
         }
         if (name == "ToolTip") {
-            return sd_bus_message_append(reply, "(sa(iiay)ss)", "", 0, kName, "");
+            return sd_bus_message_append(reply, "(sa(iiay)ss)", "", 0, kName,
+                                         item(self).toolTip_.c_str());
         }
         return sd_bus_message_append(reply, "i", 0); // WindowId
     }
@@ -200,6 +201,12 @@ StatusNotifierItem::~StatusNotifierItem() = default;
 void StatusNotifierItem::setActive(bool active) {
     if (std::exchange(active_, active) != active && bus_ != nullptr) {
         sd_bus_emit_signal(bus_->handle(), kPath, kInterface, "NewIcon", nullptr);
+    }
+}
+
+void StatusNotifierItem::setToolTip(const std::string& sentence) {
+    if (std::exchange(toolTip_, sentence) != sentence && bus_ != nullptr) {
+        sd_bus_emit_signal(bus_->handle(), kPath, kInterface, "NewToolTip", nullptr);
     }
 }
 

@@ -43,6 +43,9 @@ class StatusNotifierItem {
     /// Whether the image is that of an effect that is on.
     void setActive(bool active);
 
+    /// What is told below the name of the application.
+    void setToolTip(const std::string& sentence);
+
   private:
     struct Table;
 
@@ -56,6 +59,7 @@ class StatusNotifierItem {
     std::unique_ptr<Bus> bus_; // null where there is none
     int wheelDegrees_ = 0;     // eighths that make no step yet
     bool active_ = false;
+    std::string toolTip_;
     Hosting hosting_ = Hosting::unknown;
     std::optional<std::string> owner_; // of the watcher, once that is known
     std::unique_ptr<MenuExporter> menu_;

@@ -18,6 +18,7 @@ void Tray::setShown(bool shown) {
             StatusNotifierItem::Handlers{toolkit_.popUpMenu, actions_.middleClicked,
                                          actions_.scrolled, [this] { hostingDidChange(); }});
         item_->setActive(active_);
+        item_->setToolTip(toolTip_);
     } else {
         item_.reset();
     }
@@ -28,6 +29,13 @@ void Tray::setActive(bool active) {
     active_ = active;
     if (item_ != nullptr) {
         item_->setActive(active);
+    }
+}
+
+void Tray::setToolTip(const std::string& sentence) {
+    toolTip_ = sentence;
+    if (item_ != nullptr) {
+        item_->setToolTip(sentence);
     }
 }
 

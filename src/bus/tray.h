@@ -31,6 +31,7 @@ class Tray {
 
     void setShown(bool shown);
     void setActive(bool active);
+    void setToolTip(const std::string& sentence);
 
   private:
     void hostingDidChange();
@@ -41,6 +42,7 @@ class Tray {
     Toolkit toolkit_;
     Actions actions_;
     bool active_ = false;
+    std::string toolTip_;
     bool embedded_ = false;
     std::unique_ptr<StatusNotifierItem> item_; // while shown
 };

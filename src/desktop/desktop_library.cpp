@@ -122,6 +122,7 @@ class QtDesktop : public DesktopPart {
     void setItemEmbedded(bool embedded) override { menus_.setItemEmbedded(embedded); }
     void setItemImage(bool active) override { menus_.setItemImage(active); }
     void offerTray() override { windows_.offerTray(); }
+    void setItemToolTip(const std::string& sentence) override { menus_.setItemToolTip(sentence); }
     void popUpStatusMenu(int x, int y) override { menus_.popUpStatusMenu(x, y); }
     void setKeyboardLayout(KeyboardLayout* layout) override { windows_.setKeyboardLayout(layout); }
 

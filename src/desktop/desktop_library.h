@@ -60,6 +60,7 @@ class DesktopPart {
     /// the session bus has a tray. Where there is no tray at all the preference window says so.
     virtual void setItemEmbedded(bool embedded) = 0;
     virtual void setItemImage(bool active) = 0;
+    virtual void setItemToolTip(const std::string& sentence) = 0;
 
     /// Offers, in the preference window, to show the application in the tray.
     virtual void offerTray() = 0;

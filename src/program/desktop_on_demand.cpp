@@ -68,7 +68,8 @@ DesktopOnDemand::DesktopOnDemand(EventLoop& loop, const Bus* bus, NDAppControlle
       looks_(looks), recentDocuments_(stateDirectory() / "recent-documents.plist"),
       autostart_(userDirectory("XDG_CONFIG_HOME", ".config") / "autostart", configDirectories(),
                  ownProgram()),
-      menus_(controller, defaults, centers.local, looks, [&loop] { loop.quit(); }),
+      menus_(controller, defaults, centers.local, looks, recentDocuments_,
+             {[this](const std::string& path) { openDocument(path); }, [&loop] { loop.quit(); }}),
       tray_(menus_.statusMenu(), loop, sessionBusAddress(),
             {[this](bool shown) { setItemEmbedded(shown); },
              [this](int x, int y) { popUpStatusMenu(x, y); }},
@@ -108,6 +109,7 @@ Result<DesktopPart*> DesktopOnDemand::load() {
     part_->setKeyboardLayout(layout_);
     part_->setInTray(inTray_);
     part_->setItemImage(itemActive_);
+    part_->setItemToolTip(itemToolTip_);
     part_->setItemEmbedded(itemEmbedded_);
     if (aboutBoxColor_) {
         part_->windows().setAboutBoxBackgroundColor(*aboutBoxColor_);
@@ -173,8 +175,7 @@ bool DesktopOnDemand::preferencesVisible() const {
 }
 
 bool DesktopOnDemand::openEffectFile(const std::string& path) {
-    return part_ != nullptr ? part_->windows().openEffectFile(path)
-                            : readEffectDocument(path).has_value();
+    return applyEffectFile(path); // what takes documents is loaded before
 }
 
 bool DesktopOnDemand::applyEffectFile(const std::string& path) {
@@ -254,6 +255,26 @@ void DesktopOnDemand::setStatusItemShown(bool shown) {
         part_->setInTray(shown);
     }
     tray_.setShown(shown);
+    if (shown) {
+        stateTeller_.emplace(controller_, defaults_, centers_.local, loop_,
+                             [this](const std::string& sentence) { setItemToolTip(sentence); });
+    } else {
+        stateTeller_.reset();
+    }
+}
+
+void DesktopOnDemand::setItemToolTip(const std::string& sentence) {
+    itemToolTip_ = sentence;
+    tray_.setToolTip(sentence);
+    if (part_ != nullptr) {
+        part_->setItemToolTip(sentence);
+    }
+}
+
+void DesktopOnDemand::openDocument(const std::string& path) {
+    if (!applyEffectFile(path)) {
+        showRefusedDocuments({path});
+    }
 }
 
 void DesktopOnDemand::setStatusItemImage(bool active) {

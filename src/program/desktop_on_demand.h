@@ -2,6 +2,7 @@
 
 #include "app/app_menus.h"
 #include "app/desktop_face.h"
+#include "app/state_teller.h"
 #include "app/user_interface.h"
 #include "base/notification_center.h"
 #include "base/result.h"
@@ -75,6 +76,8 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     void showItemWhereTrayIs();
     void popUpStatusMenu(int x, int y);
     void offerTrayWhereThereIsOne();
+    void setItemToolTip(const std::string& sentence);
+    void openDocument(const std::string& path);
 
     EventLoop& loop_;
     const Bus* bus_;
@@ -94,6 +97,8 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     bool inTray_ = false;
     bool itemEmbedded_ = false;
     bool itemActive_ = false;
+    std::string itemToolTip_;
+    std::optional<StateTeller> stateTeller_; // while the item is shown
     KeyboardLayout* layout_ = nullptr;
     XConnection* server_ = nullptr;
     std::optional<OpaqueColor> aboutBoxColor_;

@@ -148,7 +148,9 @@ TEST_F(Application, LaunchersStartAndDriveItAndHandItDocuments) {
     const auto open = [&](const std::string& uri) {
         session_.bus().call(kName, kPath, kApplication, "Open", "asa{sv}", 1, uri.c_str(), 0);
     };
+    ctl({"effects", "none"});
     open("file://localhost" + session_.runtimeDirectory().string() + "/mine%20%C3%B6.nocturo");
+    EXPECT_EQ(status()["effects"], nlohmann::json::array({"NDInvertEffect"}));
     EXPECT_THROW(open("file:///none.nocturo"), std::runtime_error);
     EXPECT_EQ(session_.run("nocturo", {good}).exit, 0);
     refuses("nocturo", {good, bad}, "\"" + bad + "\" is not an effect document.");

@@ -59,6 +59,23 @@ struct DesktopPanels : NocturoOnX {
         return session_.start("lxqt-panel", {"-c", file});
     }
 
+    /// What the item tells panels to show of it.
+    std::string toolTip() {
+        const auto property = [&](const std::string& service, const std::string& path,
+                                  const std::string& interface, const std::string& name) {
+            return session_
+                .run("gdbus", {"call", "--session", "-d", service, "-o", path, "-m",
+                               "org.freedesktop.DBus.Properties.Get", interface, name})
+                .output;
+        };
+        const std::string watcher = "org.kde.StatusNotifierWatcher";
+        const std::string items =
+            property(watcher, "/StatusNotifierWatcher", watcher, "RegisteredStatusNotifierItems");
+        const auto start = items.find('\'') + 1; // (<[':1.7/StatusNotifierItem']>,)
+        return property(items.substr(start, items.find('/') - start), "/StatusNotifierItem",
+                        "org.kde.StatusNotifierItem", "ToolTip");
+    }
+
     XcbConnection server_{xcb_connect(session_.server().display().c_str(), nullptr)};
 };
 
@@ -115,6 +132,10 @@ TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
     ASSERT_TRUE(becomes("ii"));
     auto panel = startLxqtPanel(); // late, as at a log-in
     ASSERT_TRUE(waitUntil(isShown));
+    click("5"); // the wheel
+    EXPECT_TRUE(waitUntil([&] { return status()["dimLevel"] == -0.05; }));
+    EXPECT_TRUE(waitUntil([&] { return toolTip().find("On: Invert, Dim \u22125 %") + 1 != 0; }));
+    ctl({"effects", "only", "invert"});
     click("2");
     EXPECT_TRUE(becomes("oo"));
 

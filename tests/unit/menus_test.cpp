@@ -1,5 +1,7 @@
 // The main menu with the documents that it remembers, and the run of screens in other menus.
 
+#include "app/documents_menu.h"
+#include "app/effects_menu.h"
 #include "app/screen_option_menu_manager.h"
 #include "base/notification_names.h"
 #include "desktop/menus/drawn_menu.h"
@@ -83,6 +85,44 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     EXPECT_EQ(opened.toStdString(), directory / "R&D.nocturo");
     recent.actions()[2]->trigger();
     EXPECT_THAT(documents.paths(), IsEmpty());
+}
+
+struct TrayMenu : SettingsFixture {
+    std::vector<std::string> ticked() const {
+        std::vector<std::string> texts;
+        for (const Menu::Entry& entry : menu_.entries()) {
+            if (entry.item.isChecked) {
+                texts.push_back(entry.item.text);
+            }
+        }
+        return texts;
+    }
+    Menu menu_;
+};
+
+TEST_F(TrayMenu, TicksTheEffectsThatAreSelected) {
+    const EffectsMenu effects(center_, menu_, Menu::kNone);
+    EXPECT_THAT(ticked(), IsEmpty());
+    const auto pick = [this](std::size_t place) { menu_.pick(menu_.entries().at(place).id); };
+    pick(1);
+    pick(3);
+    EXPECT_THAT(ticked(), ElementsAre("Invert", "Dim or lighten"));
+    pick(1);
+    EXPECT_THAT(ticked(), ElementsAre("Dim or lighten"));
+}
+
+TEST_F(RecentlyOpened, TheTrayListsThemWheneverItsMenuOpens) {
+    Menu menu;
+    std::string opened;
+    const DocumentsMenu list(documents, menu, Menu::kNone,
+                             [&](const std::string& path) { opened = path; });
+    EXPECT_FALSE(menu.entries().at(0).item.isVisible);
+    documents.note(document("a_&_b.nocturo"));
+    menu.changes().post(kMenuWillOpenNotification);
+    EXPECT_TRUE(menu.entries().at(0).item.isVisible);
+    EXPECT_EQ(menu.entries().at(1).item.text, "a_&&_b.nocturo");
+    menu.pick(menu.entries().at(1).id);
+    EXPECT_EQ(opened, directory / "a_&_b.nocturo");
 }
 
 TEST(Submenu, IsDrawnBelowItsItemAndFollowsIt) {

@@ -43,6 +43,9 @@ class DesktopMenus {
     void setInTray(bool inTray) { taskbarPresence_.setHidden(inTray); }
     void setItemEmbedded(bool embedded) { statusItem_.setShown(embedded); }
     void setItemImage(bool active) { statusItem_.setActive(active); }
+    void setItemToolTip(const std::string& sentence) {
+        statusItem_.setToolTip(QString::fromStdString(sentence));
+    }
     void popUpStatusMenu(int x, int y);
 
   private:

@@ -24,6 +24,8 @@ QString plainToolTip(const QString& text) {
 
 DrawnMenu::DrawnMenu(Menu& menu, QMenu& drawn) : menu_(menu), drawn_(&drawn) {
     drawn.setToolTipsVisible(true);
+    connect(&drawn, &QMenu::aboutToShow, this,
+            [this] { menu_.changes().post(kMenuWillOpenNotification); });
     draw();
     menu_.changes().addObserver(this, kMenuDidChangeNotification, [this] { draw(); });
 }

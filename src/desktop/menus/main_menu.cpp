@@ -24,9 +24,11 @@ QAction* add(QMenu& menu, const QString& title, const std::function<void()>& han
     return item;
 }
 
-// For what a button of the window has the keys of already: two owners would leave them with none.
+// For what a button of the window has the keys of already: two owners would leave them with none,
+// so the menu's count only while it has the focus.
 void showKeys(QAction& item, const QKeySequence& keys) {
-    item.setText(item.text() + u'\t' + keys.toString(QKeySequence::NativeText));
+    item.setShortcut(keys);
+    item.setShortcutContext(Qt::WidgetShortcut);
 }
 
 void fillRecent(QMenu& menu, const RecentDocuments& documents,

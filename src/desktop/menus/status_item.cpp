@@ -38,6 +38,13 @@ void StatusItem::setActive(bool active) {
     setImage();
 }
 
+void StatusItem::setToolTip(const QString& sentence) {
+    toolTip_ = sentence;
+    if (icon_ != nullptr) {
+        icon_->setToolTip(sentence);
+    }
+}
+
 // Qt decides once, when the first tray icon is made or a tray asked for, which kind of tray this
 // process has, and "none" is for good. At login an application may well be there before the panel,
 // so nobody may ask Qt before there is a tray. From then on Qt follows trays that come and go.
@@ -52,7 +59,7 @@ void StatusItem::trayDidChange() {
 
 void StatusItem::makeIcon() {
     icon_ = std::make_unique<QSystemTrayIcon>();
-    icon_->setToolTip(QStringLiteral("Nocturo"));
+    icon_->setToolTip(toolTip_);
     icon_->setContextMenu(&menu_);
     connect(icon_.get(), &QSystemTrayIcon::activated, this, &StatusItem::wasActivated);
     setImage();

@@ -22,6 +22,7 @@ class StatusItem : public QObject {
     /// A desktop without a tray shows the item as soon as it has one.
     void setShown(bool shown);
     void setActive(bool active);
+    void setToolTip(const QString& sentence);
 
     /// The item is to be shown, and the desktop has no tray that could.
     bool isWaitingForTray() const { return shown_ && noTray_; }
@@ -42,6 +43,7 @@ class StatusItem : public QObject {
     std::function<void()> middleClicked_;
     bool shown_ = false;
     bool active_ = false;
+    QString toolTip_;
     bool noTray_ = false; // and that is known
     std::unique_ptr<QSystemTrayIcon> icon_;
     std::unique_ptr<TrayWindow> tray_;
