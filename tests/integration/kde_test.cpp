@@ -226,7 +226,7 @@ TEST_F(Kde, SaysWhatToUseInPlasma5AndEndsWhereKWinHangsUp) {
     EXPECT_TRUE(has("", 0));
 }
 
-TEST_F(Kde, DrivesNoOutputOfAnAbsurdRampSize) {
+TEST_F(Kde, DrivesNoOutputOfAnAbsurdRampSizeOrOfNone) {
     for (const std::uint32_t size : {0U, 1U, 1U << 31U}) {
         const Compositor compositor(Kind::wlr, {{}}, size);
         session_.environment()["WAYLAND_DISPLAY"] = compositor.display();
@@ -238,6 +238,10 @@ TEST_F(Kde, DrivesNoOutputOfAnAbsurdRampSize) {
     }
     Compositor compositor(Kind::wlr, {{}});
     session_.environment()["WAYLAND_DISPLAY"] = compositor.display();
+    compositor.setAnswer(Answer::waits);
+    nocturo_ = session_.startNocturo();
+    EXPECT_TRUE(waitUntil([&] { return obstacle() == "refused"; }));
+    end();
     compositor.setAnswer(Answer::hangsUp);
     nocturo_ = session_.start("nocturo");
     EXPECT_EQ(nocturo_->wait(), 1);

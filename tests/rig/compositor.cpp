@@ -230,7 +230,9 @@ struct Compositor::State {
         if (request == kGetGammaControl) {
             wl_resource* control = resource(wl_resource_get_client(manager), kGammaControlInterface,
                                             1, arguments[0].n, controlled, state);
-            wl_resource_post_event(control, 0, state->gammaSize);
+            if (state->answer != Answer::waits) {
+                wl_resource_post_event(control, 0, state->gammaSize);
+            }
         }
         return 0;
     }

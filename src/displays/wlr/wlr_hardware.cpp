@@ -48,9 +48,9 @@ FileDescriptor fileWith(const Ramp& ramp) {
 
 struct WlrHardware::Control {
     wl_proxy* proxy = nullptr;
-    std::uint32_t size = kAssumedSize; // as told last
-    bool answered = false;             // for `proxy`
-    bool refused = false;              // by the compositor, the last time it was asked
+    std::uint32_t size = kAssumedSize;  // as told last
+    bool answered = false;              // for `proxy`
+    Obstacle obstacle = Obstacle::none; // the last time that the compositor was asked
     std::chrono::steady_clock::time_point askAgain{};
     Ramp written; // while there is a proxy
     Ramp system;  // empty until it is known
@@ -119,8 +119,8 @@ bool WlrHardware::listHeads(std::vector<Head>& heads) {
                        .width = static_cast<double>(output->width),
                        .height = static_cast<double>(output->height)};
         head.modeGeneration = output->modeGeneration;
-        if (control != controls_.end() && control->second.refused) {
-            head.obstacle = Obstacle::heldByOther;
+        if (control != controls_.end()) {
+            head.obstacle = control->second.obstacle;
         }
     }
     return true;
@@ -145,7 +145,7 @@ bool WlrHardware::take(std::uint32_t crtc, Control& control) {
         return control.proxy != nullptr;
     }
     const auto now = std::chrono::steady_clock::now();
-    if (now < silentUntil_ || (control.refused && now < control.askAgain)) {
+    if (now < silentUntil_ || (control.obstacle != Obstacle::none && now < control.askAgain)) {
         return false;
     }
     control.askAgain = now + kPause;
@@ -158,13 +158,15 @@ bool WlrHardware::take(std::uint32_t crtc, Control& control) {
     if (!control.answered) {
         release(control);
         silentUntil_ = std::chrono::steady_clock::now() + kPauseAfterSilence;
-        logInfo(kLogDisplays, "The compositor does not answer.");
+        if (noteObstacle(control, Obstacle::refused)) {
+            logInfo(kLogDisplays, "The compositor does not answer.");
+        }
     }
-    const bool taken = control.proxy != nullptr;
-    if (taken && std::exchange(control.refused, false)) {
-        ++ownGeneration_;
+    if (control.proxy == nullptr) {
+        return false;
     }
-    return taken;
+    noteObstacle(control, Obstacle::none);
+    return true;
 }
 
 void WlrHardware::ask(const WaylandOutput& output, Control& control) {
@@ -187,12 +189,18 @@ void WlrHardware::release(Control& control) {
     control.written = {};
 }
 
+/// Whether that is news.
+bool WlrHardware::noteObstacle(Control& control, Obstacle obstacle) {
+    const bool isNews = std::exchange(control.obstacle, obstacle) != obstacle;
+    ownGeneration_ += isNews ? 1 : 0;
+    return isNews;
+}
+
 /// Another program has the output, or it has no ramp.
 void WlrHardware::lose(Control& control) {
     release(control);
     control.answered = true; // no second attempt
-    if (!std::exchange(control.refused, true)) {
-        ++ownGeneration_;
+    if (noteObstacle(control, Obstacle::heldByOther)) {
         logInfo(kLogDisplays, "The compositor lets Nocturo not change an output: another program "
                               "has it, or it has no gamma ramp.");
     }
@@ -213,9 +221,7 @@ bool WlrHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
     Control& control = controlOf(crtc);
     if (ramp == control.system) {
         release(control);
-        if (std::exchange(control.refused, false)) {
-            ++ownGeneration_;
-        }
+        noteObstacle(control, Obstacle::none);
         compositor_->processEvents();
         return outputOf(crtc) != nullptr;
     }

@@ -53,6 +53,7 @@ class WlrHardware : public GammaHardware {
     bool take(std::uint32_t crtc, Control& control);
     void ask(const WaylandOutput& output, Control& control);
     void release(Control& control);
+    bool noteObstacle(Control& control, Obstacle obstacle);
     void lose(Control& control);
 
     std::unique_ptr<WaylandConnection> compositor_;
