@@ -1,12 +1,15 @@
 #!/usr/bin/env bash
-# desktop_test.sh BUILD: runs what was built in BUILD under the Wayland compositors of Debian 13 and of testing,
-# in fresh roots, and prints a table of what was seen: compositor, version, what Nocturo does there. Fails where
-# that is not what it should be. No compositor has hardware there, so none of their outputs can show an effect;
-# that this is told is what is looked at.
+# desktop_test.sh BUILD [RELEASE...]: runs what was built in BUILD under the Wayland compositors of Debian 13 and
+# of testing, in fresh roots, and prints a table of what was seen: compositor, version, what Nocturo does there.
+# Fails where that is not what it should be. No compositor has hardware there, so none of their outputs can show
+# an effect; that this is told is what is looked at.
 set -euo pipefail
 build=$(realpath "$1")
 here=$(realpath "$(dirname "$0")")
-set -- "$build"
+shift
+releases=("$@")
+[ $# -gt 0 ] || releases=(trixie forky)
+set -- "$build" "$@"
 # shellcheck source-path=SCRIPTDIR source=../../tests/packaging/fresh_root.sh
 . "$here/../../tests/packaging/fresh_root.sh"
 
@@ -33,13 +36,14 @@ look() {
   local compositor=$1 version line seen=()
   # shellcheck disable=SC2016 # a field of dpkg's
   version=$(inside dpkg-query -W -f '${Version}' "$2")
-  mapfile -t seen < <(inside setpriv --reuid=65534 --regid=65534 --clear-groups timeout 100 \
+  mapfile -t seen < <(inside setpriv --reuid=65534 --regid=65534 --clear-groups timeout 150 \
     /opt/nocturo/bin/look.sh "$compositor" 2>"$work/look.log")
   shift 2
   for line in "${seen[@]}"; do
     printf '%-7s %-22s %s\n' "$compositor" "$version" "$line"
     if ! [[ $line =~ ^${1-}$ ]]; then
       echo "        expected: ${1-nothing}"
+      tail -n 5 "$work/look.log"
       failed=yes
     fi
     shift || true
@@ -59,7 +63,7 @@ declare -A lending=( # only to who calibrates what can be calibrated
 )
 
 # Everything after the mounts goes with the namespace.
-for release in trixie forky; do
+for release in "${releases[@]}"; do
   root=$work/$release
   make_root "$release"
   mount --bind /dev "$root/dev"

@@ -5,6 +5,7 @@ set -u
 compositor=$1
 if [ $# -eq 1 ]; then
   export HOME=/tmp/home-$compositor XDG_RUNTIME_DIR=/tmp/run-$compositor WAYLAND_DISPLAY=wayland-0
+  export PATH=/opt/nocturo/bin:$PATH # a portal asks whether there is what a desktop entry names
   export XDG_CURRENT_DESKTOP=$compositor XDG_DATA_DIRS=/opt/nocturo/share:/usr/share QT_QPA_PLATFORM=wayland
   [ "$compositor" != kwin ] || XDG_CURRENT_DESKTOP=KDE # what its portal goes by
   rm -rf "$HOME" "$XDG_RUNTIME_DIR"
@@ -17,10 +18,10 @@ echo '<plist version="1.0"><dict><key>NDGroupEffect</key><array><string>NDInvert
   >"$HOME/.config/nocturo/settings.plist"
 cd "$HOME" || exit 1
 
-# wait_for COMMAND...: until it succeeds, 10 seconds at most.
+# wait_for COMMAND...: until it succeeds, half a minute at most.
 wait_for() {
   local _
-  for _ in {1..100}; do
+  for _ in {1..300}; do
     "$@" && return
     sleep 0.1
   done
@@ -53,7 +54,7 @@ if ! wait_for socket; then
   exit 1
 fi
 
-export PATH=/opt/nocturo/bin:$PATH LD_LIBRARY_PATH=/opt/nocturo/lib
+export LD_LIBRARY_PATH=/opt/nocturo/lib
 nocturo >said 2>&1 &
 nocturo=$!
 # shellcheck disable=SC2317 # by wait_for
