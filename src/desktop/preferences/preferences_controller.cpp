@@ -391,27 +391,29 @@ void NDPreferencesController::listPreviewedDisplays() {
     }
 }
 
-CGDirectDisplayID NDPreferencesController::displayOfWindow() const {
+/// Which one it is, and what keeps it from showing an effect.
+DisplayInfo NDPreferencesController::displayOfWindow() const {
     const std::string name = panel_->screen()->name().toStdString();
     const auto* online =
         displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
     if (online != nullptr) {
         for (const DisplayInfo& display : *online) {
             if (display.name == name) {
-                return display.id;
+                return display;
             }
         }
     }
-    return 0;
+    return {};
 }
 
 void NDPreferencesController::readPreviewedDisplay() {
     const CGDirectDisplayID previewed = ui_->previewDisplay->currentData().toUInt();
     previewed_ = curveWithoutEffect(previewed, surroundings_.capturedCurve);
-    const CGDirectDisplayID seenOn = displayOfWindow();
-    seenOn_ =
-        seenOn == previewed ? previewed_ : curveWithoutEffect(seenOn, surroundings_.capturedCurve);
-    seenWithEffect_ = surroundings_.capturedCurve(seenOn) != nullptr;
+    const DisplayInfo seenOn = displayOfWindow();
+    seenOn_ = seenOn.id == previewed ? previewed_
+                                     : curveWithoutEffect(seenOn.id, surroundings_.capturedCurve);
+    seenWithEffect_ =
+        seenOn.obstacle == Obstacle::none && surroundings_.capturedCurve(seenOn.id) != nullptr;
     ui_->preview->setDisplayName(ui_->previewDisplay->currentText());
 }
 

@@ -167,7 +167,7 @@ class NDPreferencesController : public QObject {
     void setUpSliders();
     void updateBoxes();
     void setContains(std::string_view effect, const QAbstractButton& sender);
-    CGDirectDisplayID displayOfWindow() const;
+    DisplayInfo displayOfWindow() const;
     void listPreviewedDisplays();
     void readPreviewedDisplay();
     void updatePreview();
