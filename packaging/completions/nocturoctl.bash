@@ -12,7 +12,7 @@ _nocturoctl_looks() {
 _nocturoctl() {
   local cur prev words cword
   _init_completion -n : || return
-  local verbs='on off toggle status effects dim temperature tint look get set step reset screens hotkey watch restore quit
+  local verbs='on off toggle pause status effects dim temperature tint look get set step reset screens hotkey watch restore quit
     open save preferences about preview'
   local effects='invert overexposure dim color-filter hdtv-luminance'
   local switches='ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver
@@ -25,6 +25,8 @@ _nocturoctl() {
     choices="$verbs --help --version"
   else
     case ${words[1]}:$cword in
+      pause:2) choices='30m 1h until while cancel' ;;
+      pause:3) [[ $prev != until ]] || choices='tomorrow' ;;
       status:2) choices='--all --json --bar --bar=polybar --bar=i3status-rust' ;;
       status:*) choices='--follow' ;;
       effects:2) choices='add remove toggle only none' ;;

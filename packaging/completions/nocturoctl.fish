@@ -26,6 +26,7 @@ complete -c nocturoctl -n __fish_use_subcommand -l version -d 'Show the version'
 complete -c nocturoctl -n __fish_use_subcommand -a on -d 'Switch the effect on'
 complete -c nocturoctl -n __fish_use_subcommand -a off -d 'Switch the effect off'
 complete -c nocturoctl -n __fish_use_subcommand -a toggle -d 'Switch the effect on or off'
+complete -c nocturoctl -n __fish_use_subcommand -a pause -d 'Switch the effect off for a time'
 complete -c nocturoctl -n __fish_use_subcommand -a status -d 'Show the state of everything'
 complete -c nocturoctl -n __fish_use_subcommand -a effects -d 'List or choose the effects'
 complete -c nocturoctl -n __fish_use_subcommand -a dim -d 'Show the dim level, dim or lighten'
@@ -48,6 +49,8 @@ complete -c nocturoctl -n __fish_use_subcommand -a about -d 'Show the box about 
 complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a display shows into a picture'
 
 complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects dim temperature tint look set step reset screens open' -l keep -d 'Keep the colors even if hard to read'
+complete -c nocturoctl -n '__nocturoctl_at pause 0' -a '30m 1h until while cancel'
+complete -c nocturoctl -n '__nocturoctl_after pause until' -a tomorrow
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l all -d 'Every setting as well'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -a '--bar --bar=polybar --bar=i3status-rust' -d 'A line for a bar'

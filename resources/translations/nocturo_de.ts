@@ -291,6 +291,22 @@
             <translation>Nocturo beenden</translation>
         </message>
         <message>
+            <source>Pause</source>
+            <translation>Pause</translation>
+        </message>
+        <message>
+            <source>30 minutes</source>
+            <translation>30 Minuten</translation>
+        </message>
+        <message>
+            <source>1 hour</source>
+            <translation>1 Stunde</translation>
+        </message>
+        <message>
+            <source>Until tomorrow</source>
+            <translation>Bis morgen</translation>
+        </message>
+        <message>
             <source>&amp;Deactivate Effect</source>
             <translation>Effekt &amp;ausschalten</translation>
         </message>
@@ -387,6 +403,14 @@
             <translation>Pause: Bildschirmschoner</translation>
         </message>
         <message>
+            <source>Paused until %@</source>
+            <translation>Pause bis %@</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>Pause, bis Sie fortfahren</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Aus. Wählen Sie Effekte und schalten Sie dann ein</translation>
         </message>
@@ -405,6 +429,10 @@
         <message>
             <source>%1$@, but not on %2$@</source>
             <translation>%1$@, aber nicht auf %2$@</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
+            <translation>„%@“ ist keine Zeit für eine Pause wie 30m, 2h oder until 18:00.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -549,6 +577,16 @@
         <message>
             <source>Bind this to a key.</source>
             <translation>Legen Sie dies auf eine Taste.</translation>
+        </message>
+        <message>
+            <source>Switch the effect off for a time</source>
+            <translation>Den Effekt für eine Zeit ausschalten</translation>
+        </message>
+        <message>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
+morning; while a command runs; or until you switch the effect or say cancel.</source>
+            <translation>So lange, etwa 30m, 2h oder 1h30m; until 18:00 oder until tomorrow, das ist sechs Uhr
+morgens; while, solange ein Befehl läuft; sonst bis Sie den Effekt schalten oder cancel sagen.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -773,6 +811,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The answer cannot be written: %@.</source>
             <translation>Die Antwort lässt sich nicht schreiben: %@.</translation>
+        </message>
+        <message>
+            <source>"%1$@" cannot be started: %2$@.</source>
+            <translation>„%1$@“ kann nicht gestartet werden: %2$@.</translation>
         </message>
         <message>
             <source>no ramp, or another program has it</source>

@@ -291,6 +291,22 @@
             <translation>Salir de Nocturo</translation>
         </message>
         <message>
+            <source>Pause</source>
+            <translation>Pausa</translation>
+        </message>
+        <message>
+            <source>30 minutes</source>
+            <translation>30 minutos</translation>
+        </message>
+        <message>
+            <source>1 hour</source>
+            <translation>1 hora</translation>
+        </message>
+        <message>
+            <source>Until tomorrow</source>
+            <translation>Hasta mañana</translation>
+        </message>
+        <message>
             <source>&amp;Deactivate Effect</source>
             <translation>&amp;Desactivar el efecto</translation>
         </message>
@@ -387,6 +403,14 @@
             <translation>En pausa: salvapantallas</translation>
         </message>
         <message>
+            <source>Paused until %@</source>
+            <translation>En pausa hasta %@</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>En pausa hasta que continúe</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Desactivado. Elija efectos y luego actívelo</translation>
         </message>
@@ -405,6 +429,10 @@
         <message>
             <source>%1$@, but not on %2$@</source>
             <translation>%1$@, pero no en %2$@</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
+            <translation>«%@» no es un tiempo de pausa como 30m, 2h o until 18:00.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -549,6 +577,16 @@
         <message>
             <source>Bind this to a key.</source>
             <translation>Asígnelo a una tecla.</translation>
+        </message>
+        <message>
+            <source>Switch the effect off for a time</source>
+            <translation>Desactivar el efecto por un tiempo</translation>
+        </message>
+        <message>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
+morning; while a command runs; or until you switch the effect or say cancel.</source>
+            <translation>Ese tiempo, como 30m, 2h o 1h30m; until 18:00, o until tomorrow, que son las seis de la
+mañana; while, mientras se ejecuta una orden; o hasta que active el efecto o diga cancel.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -773,6 +811,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The answer cannot be written: %@.</source>
             <translation>No se puede escribir la respuesta: %@.</translation>
+        </message>
+        <message>
+            <source>"%1$@" cannot be started: %2$@.</source>
+            <translation>No se puede iniciar «%1$@»: %2$@.</translation>
         </message>
         <message>
             <source>no ramp, or another program has it</source>

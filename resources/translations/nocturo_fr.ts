@@ -291,6 +291,22 @@
             <translation>Quitter Nocturo</translation>
         </message>
         <message>
+            <source>Pause</source>
+            <translation>Pause</translation>
+        </message>
+        <message>
+            <source>30 minutes</source>
+            <translation>30 minutes</translation>
+        </message>
+        <message>
+            <source>1 hour</source>
+            <translation>1 heure</translation>
+        </message>
+        <message>
+            <source>Until tomorrow</source>
+            <translation>Jusqu’à demain</translation>
+        </message>
+        <message>
             <source>&amp;Deactivate Effect</source>
             <translation>&amp;Désactiver l’effet</translation>
         </message>
@@ -387,6 +403,14 @@
             <translation>En pause : écran de veille</translation>
         </message>
         <message>
+            <source>Paused until %@</source>
+            <translation>En pause jusqu’à %@</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>En pause jusqu’à ce que vous repreniez</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Désactivé. Choisissez des effets, puis activez</translation>
         </message>
@@ -405,6 +429,10 @@
         <message>
             <source>%1$@, but not on %2$@</source>
             <translation>%1$@, mais pas sur %2$@</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
+            <translation>« %@ » n’est pas une durée de pause telle que 30m, 2h ou until 18:00.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -549,6 +577,16 @@
         <message>
             <source>Bind this to a key.</source>
             <translation>À associer à une touche.</translation>
+        </message>
+        <message>
+            <source>Switch the effect off for a time</source>
+            <translation>Désactiver l’effet pour un temps</translation>
+        </message>
+        <message>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
+morning; while a command runs; or until you switch the effect or say cancel.</source>
+            <translation>Pendant cette durée, comme 30m, 2h ou 1h30m ; until 18:00, ou until tomorrow, soit six
+heures du matin ; while, tant qu’une commande tourne ; ou jusqu’à une bascule ou cancel.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -773,6 +811,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The answer cannot be written: %@.</source>
             <translation>La réponse ne peut pas être écrite : %@.</translation>
+        </message>
+        <message>
+            <source>"%1$@" cannot be started: %2$@.</source>
+            <translation>Impossible de démarrer « %1$@ » : %2$@.</translation>
         </message>
         <message>
             <source>no ramp, or another program has it</source>

@@ -291,6 +291,22 @@
             <translation>Nocturo を終了</translation>
         </message>
         <message>
+            <source>Pause</source>
+            <translation>一時停止</translation>
+        </message>
+        <message>
+            <source>30 minutes</source>
+            <translation>30 分</translation>
+        </message>
+        <message>
+            <source>1 hour</source>
+            <translation>1 時間</translation>
+        </message>
+        <message>
+            <source>Until tomorrow</source>
+            <translation>明日まで</translation>
+        </message>
+        <message>
             <source>&amp;Deactivate Effect</source>
             <translation>効果をオフにする(&amp;D)</translation>
         </message>
@@ -387,6 +403,14 @@
             <translation>一時停止中: スクリーンセーバー</translation>
         </message>
         <message>
+            <source>Paused until %@</source>
+            <translation>%@ まで一時停止中</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>再開するまで一時停止中</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>オフ。効果を選んでからオンにしてください</translation>
         </message>
@@ -405,6 +429,10 @@
         <message>
             <source>%1$@, but not on %2$@</source>
             <translation>%1$@（%2$@を除く）</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
+            <translation>「%@」は、30m、2h、until 18:00 のような一時停止の時間ではありません。</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -549,6 +577,16 @@
         <message>
             <source>Bind this to a key.</source>
             <translation>これをキーに割り当ててください。</translation>
+        </message>
+        <message>
+            <source>Switch the effect off for a time</source>
+            <translation>しばらくの間エフェクトをオフにする</translation>
+        </message>
+        <message>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
+morning; while a command runs; or until you switch the effect or say cancel.</source>
+            <translation>30m、2h、1h30m のような時間の間。until 18:00、または朝 6 時を指す until tomorrow まで。
+while でコマンドの実行中。それ以外は、エフェクトを切り替えるか cancel と指定するまで。</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -772,6 +810,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The answer cannot be written: %@.</source>
             <translation>応答を書き込めません: %@</translation>
+        </message>
+        <message>
+            <source>"%1$@" cannot be started: %2$@.</source>
+            <translation>「%1$@」を起動できません: %2$@。</translation>
         </message>
         <message>
             <source>no ramp, or another program has it</source>

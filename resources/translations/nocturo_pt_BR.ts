@@ -291,6 +291,22 @@
             <translation>Sair do Nocturo</translation>
         </message>
         <message>
+            <source>Pause</source>
+            <translation>Pausa</translation>
+        </message>
+        <message>
+            <source>30 minutes</source>
+            <translation>30 minutos</translation>
+        </message>
+        <message>
+            <source>1 hour</source>
+            <translation>1 hora</translation>
+        </message>
+        <message>
+            <source>Until tomorrow</source>
+            <translation>Até amanhã</translation>
+        </message>
+        <message>
             <source>&amp;Deactivate Effect</source>
             <translation>&amp;Desativar o efeito</translation>
         </message>
@@ -387,6 +403,14 @@
             <translation>Em pausa: protetor de tela</translation>
         </message>
         <message>
+            <source>Paused until %@</source>
+            <translation>Em pausa até %@</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>Em pausa até você continuar</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Desligado. Escolha efeitos e depois ligue</translation>
         </message>
@@ -405,6 +429,10 @@
         <message>
             <source>%1$@, but not on %2$@</source>
             <translation>%1$@, mas não em %2$@</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
+            <translation>"%@" não é um tempo de pausa como 30m, 2h ou until 18:00.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -549,6 +577,16 @@
         <message>
             <source>Bind this to a key.</source>
             <translation>Associe isto a uma tecla.</translation>
+        </message>
+        <message>
+            <source>Switch the effect off for a time</source>
+            <translation>Desativar o efeito por um tempo</translation>
+        </message>
+        <message>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
+morning; while a command runs; or until you switch the effect or say cancel.</source>
+            <translation>Por esse tempo, como 30m, 2h ou 1h30m; until 18:00, ou until tomorrow, que é seis da
+manhã; while, enquanto um comando roda; ou até você alternar o efeito ou dizer cancel.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -773,6 +811,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The answer cannot be written: %@.</source>
             <translation>Não é possível escrever a resposta: %@.</translation>
+        </message>
+        <message>
+            <source>"%1$@" cannot be started: %2$@.</source>
+            <translation>Não é possível iniciar "%1$@": %2$@.</translation>
         </message>
         <message>
             <source>no ramp, or another program has it</source>

@@ -291,6 +291,22 @@
             <translation>退出 Nocturo</translation>
         </message>
         <message>
+            <source>Pause</source>
+            <translation>暂停</translation>
+        </message>
+        <message>
+            <source>30 minutes</source>
+            <translation>30 分钟</translation>
+        </message>
+        <message>
+            <source>1 hour</source>
+            <translation>1 小时</translation>
+        </message>
+        <message>
+            <source>Until tomorrow</source>
+            <translation>直到明天</translation>
+        </message>
+        <message>
             <source>&amp;Deactivate Effect</source>
             <translation>停用效果(&amp;D)</translation>
         </message>
@@ -387,6 +403,14 @@
             <translation>已暂停：屏幕保护程序</translation>
         </message>
         <message>
+            <source>Paused until %@</source>
+            <translation>已暂停至 %@</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>已暂停，直到您继续</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>已关闭。请选择效果，然后打开</translation>
         </message>
@@ -405,6 +429,10 @@
         <message>
             <source>%1$@, but not on %2$@</source>
             <translation>%1$@，%2$@ 除外</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
+            <translation>“%@”不是 30m、2h 或 until 18:00 这样的暂停时间。</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -549,6 +577,16 @@
         <message>
             <source>Bind this to a key.</source>
             <translation>可将它绑定到一个按键。</translation>
+        </message>
+        <message>
+            <source>Switch the effect off for a time</source>
+            <translation>暂时关闭效果</translation>
+        </message>
+        <message>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
+morning; while a command runs; or until you switch the effect or say cancel.</source>
+            <translation>持续这么久，例如 30m、2h 或 1h30m；until 18:00，或 until tomorrow，即早上六点；
+while 表示命令运行期间；否则直到您切换效果或使用 cancel。</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -769,6 +807,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The answer cannot be written: %@.</source>
             <translation>无法写出回答：%@。</translation>
+        </message>
+        <message>
+            <source>"%1$@" cannot be started: %2$@.</source>
+            <translation>无法启动“%1$@”：%2$@。</translation>
         </message>
         <message>
             <source>no ramp, or another program has it</source>

@@ -2,6 +2,7 @@
 
 #include "app/desktop_face.h"
 #include "app/user_interface.h"
+#include "automation/automation.h"
 #include "base/notification_names.h"
 #include "base/run_loop.h"
 #include "displays/affected_screen_set.h"
@@ -119,9 +120,36 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
     }
     if (saveState) {
         defaults_.setBool(active, kEffectActive);
+        if (automation_ != nullptr) {
+            automation_->wasSwitchedByHand();
+        }
     }
+    isSwitchedOn_ = active;
     paused_ = false;
     switchEffect(active);
+}
+
+Ruling NDAppController::ruling() const {
+    return automation_ != nullptr ? automation_->ruling(isSwitchedOn_)
+                                  : Ruling{{isSwitchedOn_}, Ruler::settings};
+}
+
+void NDAppController::pause(std::string_view words) {
+    if (automation_ != nullptr) {
+        static_cast<void>(automation_->pause(words)); // menus have words that are understood
+    }
+}
+
+void NDAppController::followRuling() {
+    if (!isReady() || paused_) {
+        return; // the end of the screen saver asks again
+    }
+    const bool isOn = ruling().isOn;
+    if (isOn || effectActive()) {
+        switchEffect(isOn);
+    } else {
+        centers_.local.post(kEffectActivationNotification); // off by another word
+    }
 }
 
 void NDAppController::switchEffect(bool active) {
@@ -275,7 +303,8 @@ void NDAppController::screenSaverDidStart() {
 }
 
 void NDAppController::screenSaverDidStop() {
-    setEffectActive(true, false);
+    paused_ = false;
+    switchEffect(automation_ == nullptr || ruling().isOn);
 }
 
 CGDirectDisplayID NDAppController::validatedDisplayID() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "automation/who_wins.h"
 #include "base/notification_center.h"
 #include "base/property_value.h"
 #include "displays/display_services.h"
@@ -17,6 +18,7 @@
 
 namespace nocturo {
 
+class Automation;
 class DefaultsStore;
 class DesktopFace;
 class InstalledApplications;
@@ -62,6 +64,8 @@ class NDAppController : public ActionTarget {
     void setInstalledApplications(const InstalledApplications* applications) {
         installedApplications_ = applications;
     }
+    /// Without it the user's switch alone decides.
+    void setAutomation(Automation* automation) { automation_ = automation; }
 
     // Launch and end
 
@@ -128,20 +132,30 @@ class NDAppController : public ActionTarget {
 
     // Activation
 
-    /// The only way the effect is switched; `saveState` also writes "EffectActive". Switching to
-    /// the state that holds already runs all steps again: displays that have become affected are
-    /// added, or all displays restored. The distributed center is listened to while the effect is
-    /// on; every switch-off ends that, also for colour profiles, which are not followed again.
+    /// The only way the effect is switched by hand; `saveState` also writes "EffectActive", and
+    /// ends pauses. Switching to the state that holds already runs all steps again: displays that
+    /// have become affected are added, or all displays restored. The distributed center is listened
+    /// to while the effect is on; every switch-off ends that, also for colour profiles, which are
+    /// not followed again.
     void setEffectActive(bool active, bool saveState);
     bool effectActive() const { return screenControllers_.has_value(); }
 
-    /// Whether the effect is off only for as long as the screen saver runs.
-    bool isPaused() const { return paused_; }
+    /// Who says what the displays show, and for how long; of the screen saver it knows nothing.
+    Ruling ruling() const;
+
+    /// Whether the effect is off only for a time, by the screen saver or a pause.
+    bool isPaused() const { return paused_ || ruling().by == Ruler::pause; }
+
+    /// Whether it is so for as long as the screen saver runs.
+    bool isPausedForScreenSaver() const { return paused_; }
 
     /// False while the launch may still be forbidden by the answer to a question: nothing can be
     /// switched, and nobody is to write settings.
     bool isReady() const { return globalEffect_ != nullptr; }
     void toggleGlobalEffect();
+
+    /// Switches the effect off for a time that is told in words, as Automation::pause() takes them.
+    void pause(std::string_view words);
 
     /// Makes and drops screen controllers until they match the affected screen set; changes nothing
     /// when the displays cannot be listed or there are none.
@@ -209,6 +223,7 @@ class NDAppController : public ActionTarget {
     void observe(NotificationCenter& center, std::string_view name, Handler handler);
     void bringEffectBack(std::function<void(bool launched)> finished);
     void restoreEffect();
+    void followRuling();
     void switchEffect(bool active);
     void appearOnDesktop();
     void setActivateItemTitles();
@@ -219,6 +234,7 @@ class NDAppController : public ActionTarget {
     UserInterface* userInterface_ = nullptr;
     DesktopFace* desktop_ = nullptr;
     const InstalledApplications* installedApplications_ = nullptr;
+    Automation* automation_ = nullptr;
     bool startsSwitchedOff_ = false;
     bool startsWithSession_ = false;
     bool didCheckForNoEffectsAtStartup_ = false;
@@ -226,6 +242,7 @@ class NDAppController : public ActionTarget {
     bool statusItemShown_ = false;
     bool recordingHotKey_ = false;
     bool paused_ = false;
+    bool isSwitchedOn_ = false; // what the user wants, whatever rules over it
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
     std::unique_ptr<Timer> continuousApplyTimer_;

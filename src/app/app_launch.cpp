@@ -7,6 +7,7 @@
 #include "app/desktop_face.h"
 #include "app/flux_check.h"
 #include "app/user_interface.h"
+#include "automation/automation.h"
 #include "base/notification_names.h"
 #include "displays/display_functions.h"
 #include "settings/defaults_store.h"
@@ -98,15 +99,17 @@ void NDAppController::initDefaults() {
     });
     local.addObserver(this, NSApplicationDidChangeScreenParametersNotification,
                       [this] { defaultsDidChange({}); });
+    observe(local, kRulingNotification, &NDAppController::followRuling);
 }
 
 void NDAppController::restoreEffect() {
     const bool always = !startsSwitchedOff_ && defaults_.boolForKey(kActivateAtLaunch);
-    if (!startsSwitchedOff_ && !always && defaults_.boolForKey(kEffectActive)) {
-        setEffectActive(true, false);
-    } else {
-        setEffectActive(always, true);
+    const bool saved = !startsSwitchedOff_ && !always && defaults_.boolForKey(kEffectActive);
+    if (!saved) {
+        defaults_.setBool(always, kEffectActive);
     }
+    isSwitchedOn_ = always || saved;
+    switchEffect(ruling().isOn);
 }
 
 void NDAppController::warnIfNoEffects(std::function<void()> done) {

@@ -9,9 +9,11 @@ namespace nocturo {
 
 namespace {
 
-Menu::Id append(Menu& menu, std::string text, std::function<void()> picked) {
+Menu::Id append(Menu& menu, std::string text, std::function<void()> picked,
+                Menu::Id under = Menu::kNone) {
     MenuItem item;
     item.text = std::move(text);
+    item.under = under;
     item.picked = std::move(picked);
     return menu.append(std::move(item));
 }
@@ -29,6 +31,8 @@ AppMenus::AppMenus(NDAppController& controller, DefaultsStore& defaults,
       dockActivateItem_(appendActivateItem(dockMenu_)),
       statusActivateItem_(appendActivateItem(statusMenu_)) {
     setActivateItemTitles(false);
+    appendPauses(effectMenu_);
+    appendPauses(statusMenu_);
     statusMenu_.append(MenuItem::separator());
     append(statusMenu_, translated("Preferences..."), [this] { controller_.openPreferences(); });
     append(statusMenu_, translated("About Nocturo"), [this] { controller_.openAboutBox(); });
@@ -38,6 +42,17 @@ AppMenus::AppMenus(NDAppController& controller, DefaultsStore& defaults,
 
 Menu::Id AppMenus::appendActivateItem(Menu& menu) {
     return append(menu, {}, [this] { controller_.activateEffect(); });
+}
+
+void AppMenus::appendPauses(Menu& menu) {
+    const Menu::Id title = append(menu, translated("Pause"), {});
+    const auto appendPause = [&](std::string text, const char* words) {
+        append(
+            menu, std::move(text), [this, words] { controller_.pause(words); }, title);
+    };
+    appendPause(translated("30 minutes"), "30m");
+    appendPause(translated("1 hour"), "1h");
+    appendPause(translated("Until tomorrow"), "until tomorrow");
 }
 
 void AppMenus::setActivateItemTitles(bool active) {

@@ -47,6 +47,7 @@ class AppMenus {
 
   private:
     Menu::Id appendActivateItem(Menu& menu);
+    void appendPauses(Menu& menu);
 
     NDAppController& controller_;
     DefaultsStore& defaults_;

@@ -1,6 +1,7 @@
 #include "app/state_sentence.h"
 
 #include "app/app_controller.h"
+#include "base/local_time.h"
 #include "base/texts/translated.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
@@ -85,7 +86,11 @@ std::string signedPercentText(double share) {
 EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults) {
     EffectState state;
     state.isOn = controller.effectActive();
-    state.isPaused = controller.isPaused();
+    state.isPausedForScreenSaver = controller.isPausedForScreenSaver();
+    const Ruling ruling = controller.ruling();
+    state.ruler = ruling.by;
+    state.until = ruling.until;
+    state.now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
     for (const SelectableEffect& effect : kSelectableEffects) {
         if (NDGroupEffect::effect().containsEffect(effect.className)) {
             state.effects.emplace_back(effect.className);
@@ -125,8 +130,12 @@ std::vector<std::string> namesOfEffects(const EffectState& state) {
 
 std::string stateSentence(const EffectState& state) {
     const std::vector<std::string> names = namesOfEffects(state);
-    if (state.isPaused) {
+    if (state.isPausedForScreenSaver) {
         return translated("Paused: screen saver");
+    }
+    if (state.ruler == Ruler::pause) {
+        return state.until ? translated("Paused until %@", {clockText(*state.until, state.now)})
+                           : translated("Paused until you go on");
     }
     if (!state.isOn) {
         return names.empty() ? translated("Off. Choose effects, then switch on")

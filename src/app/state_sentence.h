@@ -1,5 +1,8 @@
 #pragma once
 
+#include "automation/who_wins.h"
+
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,8 +13,13 @@ class NDAppController;
 
 /// What there is to say about the effect.
 struct EffectState {
+    bool isPaused() const { return isPausedForScreenSaver || ruler == Ruler::pause; }
+
     bool isOn = false;
-    bool isPaused = false;            // by the screen saver
+    bool isPausedForScreenSaver = false;
+    Ruler ruler = Ruler::settings;
+    std::optional<Moment> until; // that the ruler says so; nothing: no end is known
+    Moment now{};
     std::vector<std::string> effects; // class names of the chosen ones, in any order
     double dimLevel = 0;
     double hue = 0; // degrees
@@ -27,8 +35,8 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
 /// user's language: "Invert", "Dim −30 %".
 std::vector<std::string> namesOfEffects(const EffectState& state);
 
-/// What the displays show and why, in one sentence of the user's language: "On: Invert, Dim −30 %
-/// on all screens, but not on DP-2".
+/// What the displays show, why and until when, in one sentence of the user's language: "On: Invert,
+/// Dim −30 % on all screens, but not on DP-2", "Paused until 18:00".
 std::string stateSentence(const EffectState& state);
 std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults);
 

@@ -4,6 +4,7 @@
 #include "app/disturbance_watch.h"
 #include "app/keep_colors.h"
 #include "app/user_interface.h"
+#include "automation/automation.h"
 #include "base/activation_token.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
@@ -55,13 +56,15 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 56> members;
+    static const std::array<sd_bus_vtable, 61> members;
 };
 
-const std::array<sd_bus_vtable, 56> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 61> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Ruler", "s", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("RulesUntil", "x", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Displays", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Effects", "as", tellProperty, 0, kTold),
@@ -80,6 +83,12 @@ const std::array<sd_bus_vtable, 56> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::setActive>, kFree),
     SD_BUS_METHOD_WITH_ARGS("Toggle", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::toggle>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("Pause", SD_BUS_ARGS("s", words), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::pause>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("PauseWhileConnected", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            pauseWhileConnected, kFree),
+    SD_BUS_METHOD_WITH_ARGS("Resume", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::resume>,
+                            kFree),
     SD_BUS_METHOD_WITH_ARGS("AddEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::addEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
@@ -158,11 +167,12 @@ const std::array<sd_bus_vtable, 56> BusFace::Table::members = {{
 BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
                  NotificationCenter& localCenter, const DisturbanceWatch& disturbances,
                  UserInterface& userInterface, KeepColors& keepColors, ChosenLook& chosenLook,
-                 const Bus* bus, EventLoop& loop)
+                 Automation& automation, const Bus* bus, EventLoop& loop)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter),
-      userInterface_(userInterface), keepColors_(keepColors), chosenLook_(chosenLook), bus_(bus),
-      loop_(loop), state_(controller, defaults, disturbances, chosenLook),
-      launcherFace_(controller, bus, loop) {
+      userInterface_(userInterface), keepColors_(keepColors), chosenLook_(chosenLook),
+      automation_(automation), bus_(bus), loop_(loop),
+      state_(controller, defaults, disturbances, chosenLook), launcherFace_(controller, bus, loop),
+      pausing_([this] { automation_.holdPause(false); }) {
     if (bus_ != nullptr) {
         object_ = bus_->addObject(kObjectPath, kNocturoInterface, Table::members.data(), this);
     }

@@ -2,6 +2,7 @@
 
 #include "base/bus.h"
 #include "bus/bus_object.h"
+#include "bus/callers_present.h"
 #include "bus/launcher_face.h"
 #include "bus/told_state.h"
 
@@ -15,6 +16,7 @@
 
 namespace nocturo {
 
+class Automation;
 class ChosenLook;
 class EventLoop;
 class KeepColors;
@@ -29,7 +31,8 @@ class BusFace {
     /// may call; calls wait until the event loop runs. `bus` may be null.
     BusFace(NDAppController& controller, DefaultsStore& defaults, NotificationCenter& localCenter,
             const DisturbanceWatch& disturbances, UserInterface& userInterface,
-            KeepColors& keepColors, ChosenLook& chosenLook, const Bus* bus, EventLoop& loop);
+            KeepColors& keepColors, ChosenLook& chosenLook, Automation& automation, const Bus* bus,
+            EventLoop& loop);
     ~BusFace();
     BusFace(const BusFace&) = delete;
     BusFace& operator=(const BusFace&) = delete;
@@ -52,6 +55,9 @@ class BusFace {
 
     BusAnswer setActive(bool active);
     BusAnswer toggle();
+    BusAnswer pause(const std::string& words);
+    BusAnswer resume();
+    static int pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* error);
     BusAnswer addEffects(const std::vector<std::string>& names);
     BusAnswer removeEffects(const std::vector<std::string>& names);
     BusAnswer toggleEffects(const std::vector<std::string>& names);
@@ -101,12 +107,14 @@ class BusFace {
     UserInterface& userInterface_;
     KeepColors& keepColors_;
     ChosenLook& chosenLook_;
+    Automation& automation_;
     const Bus* bus_;
     EventLoop& loop_;
     ToldState state_;
     KeyboardLayout* layout_ = nullptr;
     LauncherFace launcherFace_;
     std::unique_ptr<BusSlot> object_;
+    CallersPresent pausing_;
     BusDictionary announced_;
     std::set<std::string_view> unannounced_; // what may have changed, to be looked at soon
 };

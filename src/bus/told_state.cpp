@@ -59,6 +59,8 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
     static const std::map<std::string_view, Property> table = {
         {"Active", {&ToldState::active, kNone}},
         {"Paused", {&ToldState::paused, kNone}},
+        {"Ruler", {&ToldState::ruler, kNone}},
+        {"RulesUntil", {&ToldState::rulesUntil, kNone}},
         {"DisplayServices", {&ToldState::displayServicesName, kNone}},
         {"Displays", {&ToldState::displays, kAffectedScreenSettings}},
         {"Effects", {&ToldState::effects, kEffects}},
@@ -104,6 +106,17 @@ BusValue ToldState::active() const {
 
 BusValue ToldState::paused() const {
     return controller_.isPaused();
+}
+
+BusValue ToldState::ruler() const {
+    return controller_.isPausedForScreenSaver() ? std::string("screen-saver")
+                                                : std::string(nameOf(controller_.ruling().by));
+}
+
+BusValue ToldState::rulesUntil() const {
+    const std::optional<Moment> until =
+        controller_.isPausedForScreenSaver() ? std::nullopt : controller_.ruling().until;
+    return until ? static_cast<std::int64_t>(until->time_since_epoch().count()) : std::int64_t{0};
 }
 
 BusValue ToldState::displayServicesName() const {

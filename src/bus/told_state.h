@@ -48,6 +48,8 @@ class ToldState {
 
     BusValue active() const;
     BusValue paused() const;
+    BusValue ruler() const;
+    BusValue rulesUntil() const;
     BusValue displayServicesName() const;
     BusValue displays() const;
     BusValue effects() const;

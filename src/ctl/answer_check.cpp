@@ -95,6 +95,8 @@ void checkAnswer(const Json& properties, Answer answer) {
     static constexpr auto kMembers =
         std::to_array<Member>({{"active", isBoolean},
                                {"paused", isBoolean, true},
+                               {"ruler", isText, true},
+                               {"rulesUntil", isInteger, true},
                                {"displayServices", isText},
                                {"displays", isListOf<isDisplay>},
                                {"effects", isListOf<isText>},

@@ -45,8 +45,8 @@ Shown shown(const Json& properties) {
     const EffectState state = toldState(properties);
     const std::string sentence = stateSentence(state);
     if (!state.isOn) {
-        return state.isPaused ? Shown{translated("Paused"), "paused", 100, sentence}
-                              : Shown{translated("Off"), "off", 100, sentence};
+        return state.isPaused() ? Shown{translated("Paused"), "paused", 100, sentence}
+                                : Shown{translated("Off"), "off", 100, sentence};
     }
     const bool isDimmed =
         std::ranges::find(state.effects, NDDimEffect::kName) != state.effects.end();

@@ -66,6 +66,15 @@ void BusClient::callWith(const char* method, const std::vector<BusValue>& argume
     send(message);
 }
 
+std::unique_ptr<BusSlot> BusClient::callThoseToCome(const char* method) {
+    return bus_->followOwner(
+        kBusName, [this, method, isFirst = true](const std::string& owner) mutable {
+            if (!std::exchange(isFirst, false) && !owner.empty()) {
+                sd_bus_send(bus_->handle(), newCall(kNocturoInterface, method).get(), nullptr);
+            }
+        });
+}
+
 void BusClient::callSetSetting(const std::string& key, const PropertyValue& value) {
     const BusMessage message = newCall(kNocturoInterface, "SetSetting");
     check(sd_bus_message_append(message.get(), "s", key.c_str()));

@@ -52,6 +52,11 @@ class BusClient {
         callWith(method, {BusValue(arguments)...});
     }
 
+    /// Calls each Nocturo that comes after the one that runs now, from loop(), whatever it answers.
+    [[nodiscard]] std::unique_ptr<BusSlot> callThoseToCome(const char* method);
+
+    EventLoop& loop() { return loop_; }
+
     /// A picture in PNG of what the effects do on the display of that identifier.
     std::string renderPreview(std::uint32_t display);
 

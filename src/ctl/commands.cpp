@@ -7,6 +7,7 @@
 #include "ctl/followers.h"
 #include "ctl/look_verb.h"
 #include "ctl/output.h"
+#include "ctl/pause_verb.h"
 #include "ctl/report.h"
 #include "ctl/restore.h"
 #include "ctl/screen_verbs.h"
@@ -230,6 +231,12 @@ constexpr std::array kCommands = std::to_array<Command>({
      ListedText("Every display gets its own colors back."), runSwitch<false>},
     {"toggle", "", ListedText("Switch the effect on or off"), ListedText("Bind this to a key."),
      runToggle, true},
+    {"pause", "[30m | until TIME | cancel | while COMMAND...]",
+     ListedText("Switch the effect off for a time"),
+     ListedText("For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is "
+                "six in the\n"
+                "morning; while a command runs; or until you switch the effect or say cancel."),
+     runPause},
     {"status", "[--all | --json | --bar[=BAR] [--follow]]",
      ListedText("Show the state of everything"),
      ListedText(
@@ -316,6 +323,14 @@ constexpr std::array kCommands = std::to_array<Command>({
 });
 
 } // namespace
+
+std::string joined(Arguments words) {
+    std::string text;
+    for (const std::string& word : words) {
+        text += (text.empty() ? "" : " ") + word;
+    }
+    return text;
+}
 
 void keepColors() {
     BusClient().call("KeepColors");

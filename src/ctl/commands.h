@@ -10,6 +10,9 @@ namespace nocturo {
 
 using Arguments = std::span<const std::string>;
 
+/// What was typed without quotation marks.
+std::string joined(Arguments words);
+
 /// One verb of the command line.
 struct Command {
     std::string_view verb;

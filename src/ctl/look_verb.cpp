@@ -34,15 +34,6 @@ const char* methodOf(const Ways& ways, std::string_view word) {
     return nullptr;
 }
 
-/// What was typed without quotation marks.
-std::string joined(Arguments words) {
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : " ") + word;
-    }
-    return text;
-}
-
 void move(const std::string& name, const std::string& place) {
     std::uint32_t number = 0;
     const char* end = place.data() + place.size();

@@ -11,7 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <span>
 #include <string_view>
@@ -22,9 +24,9 @@ namespace nocturo {
 namespace {
 
 constexpr std::array kStatusOrder = std::to_array<const char*>(
-    {"active", "paused", "displayServices", "displays", "effects", "dimLevel", "colorFilterHue",
-     "colorFilterVividness", "temperature", "look", "looks", "affectedScreenSet", "hotKey",
-     "disturbances", "disturber"});
+    {"active", "paused", "ruler", "rulesUntil", "displayServices", "displays", "effects",
+     "dimLevel", "colorFilterHue", "colorFilterVividness", "temperature", "look", "looks",
+     "affectedScreenSet", "hotKey", "disturbances", "disturber"});
 constexpr std::array<const char*, 9> kDisplayOrder = {
     "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther", "obstacle"};
 
@@ -128,9 +130,15 @@ std::string disturbanceReport(const Json& properties) {
 } // namespace
 
 EffectState toldState(const Json& properties) {
+    const auto ruler = rulerNamed(properties.value("ruler", ""));
     EffectState state;
     state.isOn = properties["active"].get<bool>();
-    state.isPaused = properties.value("paused", false);
+    state.isPausedForScreenSaver = properties.value("paused", false) && !ruler;
+    state.ruler = ruler.value_or(Ruler::settings);
+    if (const auto until = properties.value("rulesUntil", std::int64_t{0}); until != 0) {
+        state.until = Moment(std::chrono::seconds(until));
+    }
+    state.now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
     state.effects = properties["effects"].get<std::vector<std::string>>();
     state.dimLevel = properties["dimLevel"].get<double>();
     state.hue = properties["colorFilterHue"].get<double>();

@@ -23,12 +23,14 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
       looks(programFile("looks", NOCTURO_DATA_FROM_BIN), dataDirectory() / "looks", centers.local),
+      clock(runLoop), automation(centers.local, clock, stateDirectory()),
       desktop(runLoop, sessionBus.get(), controller, defaults, centers, lookPicker),
       keepColors(controller, defaults, centers.local, runLoop),
       hooks(controller, chosenLook, centers.local, runLoop,
             userDirectory("XDG_CONFIG_HOME", ".config") / "nocturo/hooks"),
       face(controller, defaults, centers.local, disturbances, desktop, keepColors, chosenLook,
-           sessionBus.get(), loop) {
+           automation, sessionBus.get(), loop) {
+    controller.setAutomation(&automation);
     for (Bus* bus : {sessionBus.get(), systemBus.get()}) {
         if (bus != nullptr) {
             bus->rejoin();

@@ -6,9 +6,11 @@
 #include "app/keep_colors.h"
 #include "app/look_picker.h"
 #include "app/wake_repeater.h"
+#include "automation/automation.h"
 #include "base/bus.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
+#include "base/wall_clock.h"
 #include "bus/bus_face.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
@@ -46,6 +48,8 @@ struct Core {
     Looks looks;
     ChosenLook chosenLook{looks};
     LookPicker lookPicker{controller, chosenLook};
+    SystemWallClock clock;
+    Automation automation;
     DesktopOnDemand desktop;
     KeepColors keepColors;
     Hooks hooks;

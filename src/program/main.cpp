@@ -109,6 +109,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
         core.defaults.synchronize();
         tellOfLostServer();
     };
+    core.automation.start();
     DesktopSession desktop(core, displays, server.get());
     desktop.launch(documents, [](const std::string& problem) { tell(stderr, problem); });
     finishStartup(server.get(), startupIdentifier); // there may never be a window

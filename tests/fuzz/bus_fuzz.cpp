@@ -4,6 +4,7 @@
 #include "app/keep_colors.h"
 #include "app/look_picker.h"
 #include "app/user_interface.h"
+#include "automation/automation.h"
 #include "base/event_loop.h"
 #include "base/file_descriptor.h"
 #include "bus/bus_face.h"
@@ -115,14 +116,15 @@ class NoWindows : public UserInterface {
 struct World {
     explicit World(const std::string& address)
         : bus(Bus::connect(address, loop)), finder(bus.get()),
-          face(controller, store, local, disturbances, windows, keepColors, chosenLook, bus.get(),
-               loop) {
+          face(controller, store, local, disturbances, windows, keepColors, chosenLook, automation,
+               bus.get(), loop) {
         auto hardware = std::make_unique<SimulatedHardware>(
             2, "/tmp", [](const Ramp&, const std::filesystem::path&) { return true; });
         services = std::make_unique<RampDisplayServices>(
             std::move(hardware), std::make_unique<ProfileCalibrations>(nullptr, bus.get()), &loop);
         setDisplayServices(services.get());
         controller.setUserInterface(&windows);
+        controller.setAutomation(&automation);
         controller.applicationDidFinishLaunching();
         face.announceChanges();
         face.launchDidFinish();
@@ -151,6 +153,8 @@ struct World {
                                   [this](auto answer) { finder.find(std::move(answer)); }};
     Looks looks{"/nowhere", fuzz::ownDirectory() / "looks", local};
     ChosenLook chosenLook{looks};
+    SystemWallClock clock{loop};
+    Automation automation{local, clock, fuzz::ownDirectory()};
     BusFace face;
     LookPicker lookPicker{controller, chosenLook};
     AppMenus menus{controller, store, local, lookPicker, [] {}};
@@ -175,6 +179,9 @@ constexpr const char* kApplication = "org.freedesktop.Application";
 
 constexpr Member kMethods[] = {{kNocturo, kFace, "SetActive", "b"},
                                {kNocturo, kFace, "Toggle", ""},
+                               {kNocturo, kFace, "Pause", "s"},
+                               {kNocturo, kFace, "PauseWhileConnected", ""},
+                               {kNocturo, kFace, "Resume", ""},
                                {kNocturo, kFace, "AddEffects", "as"},
                                {kNocturo, kFace, "RemoveEffects", "as"},
                                {kNocturo, kFace, "SetEffects", "as"},

@@ -1,0 +1,54 @@
+// Pauses and the schedule, of a Nocturo that runs.
+
+#include "nocturo_test.h"
+
+using namespace nocturo::rig;
+
+namespace {
+
+struct Ruling : NocturoTest {
+    Ruling() : NocturoTest(0) {
+        select("NDInvertEffect");
+        start();
+    }
+    void start() { nocturo_ = session_.startNocturo({"--display-services=simulated:2"}); }
+    std::string ruler() { return status()["ruler"]; }
+};
+
+TEST_F(Ruling, APauseEndsByTheClockAndOutlivesARestart) {
+    ctl({"pause", "1s"});
+    EXPECT_TRUE(waitUntil([&] { return status()["active"] == true; }));
+    ctl({"pause", "until", "tomorrow"});
+    end();
+    start();
+    EXPECT_EQ(ruler(), "pause");
+    EXPECT_EQ(ctl({"status"}).output.find("Paused until "), 0U);
+    EXPECT_EQ(status()["active"], false);
+    EXPECT_EQ(status()["settings"]["EffectActive"], true) << "the user's";
+    ctl({"pause", "cancel"});
+    EXPECT_EQ(status()["active"], true);
+    const auto refused = session_.run("nocturoctl", {"pause", "until", "25:61"});
+    EXPECT_EQ(refused.exit, 2);
+    EXPECT_NE(refused.errors.find("25:61"), std::string::npos);
+}
+
+TEST_F(Ruling, APauseLastsAsLongAsACommand) {
+    const auto paused =
+        session_.run("nocturoctl", {"pause", "while", "sh", "-c",
+                                    NOCTURO_BIN_DIR "/nocturoctl status --json; exit 7"});
+    EXPECT_EQ(paused.exit, 7);
+    EXPECT_EQ(nlohmann::json::parse(paused.output)["paused"], true);
+    EXPECT_TRUE(waitUntil([&] { return ruler() == "settings"; }));
+    EXPECT_EQ(session_.run("nocturoctl", {"pause", "while", "/no/such"}).exit, 1);
+
+    const auto film = session_.start("nocturoctl", {"pause", "while", "sleep", "1000"});
+    EXPECT_TRUE(waitUntil([&] { return ruler() == "pause"; }));
+    end();
+    start();
+    EXPECT_TRUE(waitUntil([&] { return ruler() == "pause"; })) << "it goes on asking";
+    film->signal(SIGKILL);
+    EXPECT_TRUE(waitUntil([&] { return ruler() == "settings"; }));
+    EXPECT_EQ(status()["active"], true);
+}
+
+} // namespace
