@@ -64,10 +64,12 @@ TEST_F(Wayland, InvertsTheAffectedScreensAndGivesThemBackHoweverItEnds) {
 TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
     NEEDS("gammastep");
     EXPECT_TRUE(becomes("ii"));
-    sway_->tell({"create_output"});
-    EXPECT_TRUE(waitUntil([&] { return sway_->ramp("HEADLESS-3").has_value(); }));
-    for (const char* leaving : {kSecond, "HEADLESS-3"}) {
-        sway_->tell({"output", leaving, "disable"});
+    for (int output = 3; output <= 10; ++output) {
+        sway_->tell({"create_output"});
+    }
+    EXPECT_TRUE(waitUntil([&] { return sway_->ramp("HEADLESS-10").has_value(); }));
+    for (int leaving = 2; leaving <= 10; ++leaving) {
+        sway_->tell({"output", "HEADLESS-" + std::to_string(leaving), "disable"});
     }
     EXPECT_TRUE(waitUntil([&] { return status()["displays"].size() == 1; }));
     const auto other = session_.start("gammastep", {"-m", "wayland", "-P", "-O", "3500"});
