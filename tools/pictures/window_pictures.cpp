@@ -137,7 +137,7 @@ int run(const QStringList& arguments) {
         NDGroupEffect::effect().addEffect("NDDimEffect");
     }
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
-    AppMenus appMenus(controller, defaults, centers.local, lookPicker, [] {});
+    AppMenus appMenus(controller, defaults, centers.local, lookPicker, recentDocuments, {});
     const DesktopMenus menus(controller, windows, recentDocuments, appMenus, nullptr);
     controller.applicationDidFinishLaunching();
     appMenus.setActivateItemTitles(controller.effectActive());
