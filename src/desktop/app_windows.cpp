@@ -29,6 +29,7 @@ namespace {
 constexpr QSize kPictureSize(640, 400);
 constexpr auto kGeometry = "Geometry";
 constexpr auto kPage = "Page";
+constexpr double kMostOfScreen = 0.9; // the window has a title besides
 
 // Where the display server places windows, the one where a window was tells nothing of the one
 // where it comes to, which may be smaller.
@@ -37,7 +38,7 @@ void fitAnyScreen(QWidget& window) {
         QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
     if (isPlacedByServer && window.testAttribute(Qt::WA_Resized)) {
         for (const QScreen* screen : QGuiApplication::screens()) {
-            window.resize(window.size().boundedTo(screen->availableSize()));
+            window.resize(window.size().boundedTo(screen->availableSize() * kMostOfScreen));
         }
     }
 }

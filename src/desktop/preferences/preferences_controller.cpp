@@ -31,6 +31,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -41,7 +42,21 @@ namespace nocturo {
 namespace {
 
 constexpr int kStatusItemRow = 1;
-constexpr double kMostOfScreen = 0.95;
+// Of a screen's. Some desktops put the middle of the window, which has a title besides, into that
+// of the screen.
+constexpr double kMostOfWidth = 0.98;
+constexpr double kMostOfHeight = 0.9;
+
+/// What it needs, in so far as the screen has room, and then a scroll bar as well.
+QSize sizeThatFits(const QWidget& window) {
+    const QSize own = window.sizeHint();
+    const QSize screen = window.screen()->availableSize();
+    QSize size = own.boundedTo({own.width(), static_cast<int>(screen.height() * kMostOfHeight)});
+    if (size.height() < own.height()) {
+        size.rwidth() += window.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &window);
+    }
+    return size.boundedTo({static_cast<int>(screen.width() * kMostOfWidth), size.height()});
+}
 
 } // namespace
 
@@ -199,8 +214,7 @@ void NDPreferencesController::showWindow() {
     const bool wasVisible = panel_->isVisible();
     if (!panel_->testAttribute(Qt::WA_Resized)) {
         // Qt by itself would give it two thirds of the screen at most.
-        panel_->resize(
-            panel_->sizeHint().boundedTo(panel_->screen()->availableSize() * kMostOfScreen));
+        panel_->resize(sizeThatFits(*panel_));
     }
     panel_->setWindowState(panel_->windowState() & ~Qt::WindowMinimized);
     panel_->show();
@@ -352,10 +366,7 @@ void NDPreferencesController::updateStartWithSession() {
 void NDPreferencesController::offerTray() {
     loadWindow();
     ui_->trayOffer->show();
-    const int height = panel_->sizeHint().height();
-    panel_->resize(panel_->size()
-                       .expandedTo({0, height})
-                       .boundedTo(panel_->screen()->availableSize() * kMostOfScreen));
+    panel_->resize(panel_->size().expandedTo({0, sizeThatFits(*panel_).height()}));
 }
 
 void NDPreferencesController::displaysDidChange() {
