@@ -135,6 +135,10 @@ void AppWindows::furnishPreferences() {
     noticeLabel_->setVisible(!notice_.isEmpty());
 }
 
+void AppWindows::offerLooks() {
+    preferencesController().offerLooks();
+}
+
 void AppWindows::offerTray() {
     preferencesController().offerTray();
 }

@@ -59,6 +59,9 @@ class AppWindows : public UserInterface {
     /// What starts the application with the session; null where that is not to be chosen.
     const Autostart* autostart = nullptr;
 
+    /// Has the keyboard go on at the looks.
+    void offerLooks();
+
     /// Offers to show the application in the tray; nothing while no preference window is loaded.
     void offerTray();
 

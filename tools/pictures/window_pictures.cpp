@@ -7,6 +7,8 @@
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/runtime_directory.h"
+#include "base/texts/translated.h"
+#include "base/texts/users_language.h"
 #include "desktop/app_windows.h"
 #include "desktop/menus/desktop_menus.h"
 #include "desktop/qt/qt_loop.h"
@@ -163,6 +165,7 @@ int run(const QStringList& arguments) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    setLanguageOfTexts(usersLanguage());
     installTranslations(*QCoreApplication::instance());
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {

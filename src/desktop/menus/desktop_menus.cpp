@@ -70,8 +70,11 @@ void DesktopMenus::showAlert(const Alert& alert, std::function<void(AlertAnswer 
         windows_.showPreferences();
     }
     QWidget* window = alert.overPreferences ? windows_.shownPreferences() : nullptr;
-    auto box = shownAlert(window, alert, [this, toTell](AlertAnswer answer) {
+    auto box = shownAlert(window, alert, [this, toTell, window](AlertAnswer answer) {
         alert_.release()->deleteLater(); // the answer may bring the next one
+        if (window != nullptr) {
+            windows_.offerLooks();
+        }
         (*toTell)(answer);
     });
     if (box == nullptr) {

@@ -26,11 +26,10 @@
 #include "settings/settings_keys.h"
 #include "ui_NocturoPreferencePanel.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QButtonGroup>
 #include <QMenu>
 #include <QScreen>
-#include <QSignalBlocker>
 #include <QStyle>
 
 #include <algorithm>
@@ -57,6 +56,18 @@ QSize sizeThatFits(const QWidget& window) {
     }
     return size.boundedTo({static_cast<int>(screen.width() * kMostOfWidth), size.height()});
 }
+
+/// A sentence that screen readers say whenever it is shown anew.
+class AnnouncedSentence : public QAccessibleWidget {
+  public:
+    explicit AnnouncedSentence(QLabel* label)
+        : QAccessibleWidget(label, QAccessible::Notification) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? qobject_cast<QLabel*>(object())->text()
+                                         : QAccessibleWidget::text(kind);
+    }
+};
 
 } // namespace
 
@@ -89,6 +100,7 @@ void NDPreferencesController::loadWindow() {
     panel_ = std::make_unique<PreferencePanel>();
     ui_ = std::make_unique<Ui::NocturoPreferencePanel>();
     ui_->setupUi(panel_.get());
+    QAccessible::registerAccessibleInterface(new AnnouncedSentence(ui_->stateSentence));
     setUpSliders();
     for (QWidget* control : panel_->findChildren<QWidget*>()) {
         control->setWhatsThis(control->toolTip());
@@ -338,7 +350,7 @@ void NDPreferencesController::updateState() {
     const QString sentence = QString::fromStdString(surroundings_.stateSentence());
     if (ui_->stateSentence->text() != sentence) {
         ui_->stateSentence->setText(sentence);
-        QAccessibleEvent news(ui_->stateSentence, QAccessible::Alert);
+        QAccessibleEvent news(ui_->stateSentence, QAccessible::ObjectShow);
         QAccessible::updateAccessibility(&news);
     }
 }
@@ -363,6 +375,12 @@ void NDPreferencesController::updateStartWithSession() {
                                       surroundings_.autostart->isOn());
 }
 
+void NDPreferencesController::offerLooks() {
+    loadWindow();
+    showPage(0);
+    ui_->looks->setFocus();
+}
+
 void NDPreferencesController::offerTray() {
     loadWindow();
     ui_->trayOffer->show();
@@ -376,78 +394,6 @@ void NDPreferencesController::displaysDidChange() {
         updatePreview();
         updateState();
     }
-}
-
-void NDPreferencesController::listPreviewedDisplays() {
-    const auto* online =
-        displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
-    const QVariant chosen = ui_->previewDisplay->currentData();
-    const QSignalBlocker quiet(ui_->previewDisplay);
-    ui_->previewDisplay->clear();
-    const std::size_t count =
-        online != nullptr ? std::min<std::size_t>(online->size(), kZQMaxDisplays) : 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        const DisplayInfo& display = (*online)[i];
-        ui_->previewDisplay->addItem(filled(localized("Screen %d"), {QString::number(i + 1)}) +
-                                         QStringLiteral(" – ") +
-                                         QString::fromStdString(display.name),
-                                     display.id);
-        if (chosen.isValid() ? chosen.toUInt() == display.id : display.main) {
-            ui_->previewDisplay->setCurrentIndex(static_cast<int>(i));
-        }
-    }
-    for (QWidget* part :
-         std::initializer_list<QWidget*>{ui_->previewDisplayLabel, ui_->previewDisplay}) {
-        part->setVisible(count > 1);
-    }
-}
-
-/// Which one it is, and what keeps it from showing an effect.
-DisplayInfo NDPreferencesController::displayOfWindow() const {
-    const std::string name = panel_->screen()->name().toStdString();
-    const auto* online =
-        displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
-    if (online != nullptr) {
-        for (const DisplayInfo& display : *online) {
-            if (display.name == name) {
-                return display;
-            }
-        }
-    }
-    return {};
-}
-
-void NDPreferencesController::readPreviewedDisplay() {
-    const CGDirectDisplayID previewed = ui_->previewDisplay->currentData().toUInt();
-    previewed_ = curveWithoutEffect(previewed, surroundings_.capturedCurve);
-    const DisplayInfo seenOn = displayOfWindow();
-    seenOn_ = seenOn.id == previewed ? previewed_
-                                     : curveWithoutEffect(seenOn.id, surroundings_.capturedCurve);
-    seenWithEffect_ =
-        seenOn.obstacle == Obstacle::none && surroundings_.capturedCurve(seenOn.id) != nullptr;
-    ui_->preview->setDisplayName(ui_->previewDisplay->currentText());
-}
-
-void NDPreferencesController::updatePreview() {
-    PreviewCurves curves = previewCurves(previewed_);
-    curves.seenThrough = seenWithEffect_ ? previewCurves(seenOn_).after : seenOn_;
-    ui_->preview->setCurves(curves);
-    for (QTimer* timer : {&strips_, &looks_}) {
-        if (!timer->isActive()) {
-            timer->start();
-        }
-    }
-}
-
-void NDPreferencesController::updateStrips() {
-    const auto levels = plainLevels(ui_->preview->curves());
-    ui_->colorFilterHue->setColors(hueStops(levels));
-    ui_->temperature->setColors(temperatureStops(
-        levels, [this](double share) { return ui_->temperature->valueAt(share); }));
-}
-
-void NDPreferencesController::updateLooks() {
-    ui_->looks->setCurves(ui_->preview->curves());
 }
 
 } // namespace nocturo

@@ -89,6 +89,9 @@ class NDPreferencesController : public QObject {
     int page() const;
     void showPage(int page);
 
+    /// Has the keyboard go on at the looks.
+    void offerLooks();
+
     /// Offers, until it is answered, to show the application in the tray.
     void offerTray();
 

@@ -180,7 +180,7 @@ QSize EffectPreview::sizeHint() const {
 
 QSize EffectPreview::minimumSizeHint() const {
     const int em = fontMetrics().height();
-    return {20 * em, 8 * em};
+    return {14 * em, 7 * em};
 }
 
 void EffectPreview::paintEvent(QPaintEvent* /*event*/) {
