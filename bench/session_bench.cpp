@@ -57,25 +57,35 @@ void waitForChange(rig::XClient& observer, std::uint32_t crtc, const rig::Channe
     }
 }
 
-/// From the call that changes a setting to the last display's ramp seen changed by another program;
-/// the way over the bus and back is part of it.
-void measureSettingsWrite(rig::Session& session, BusClient& client) {
+/// From the call that makes a change, each time another one, to the last display's ramp seen
+/// changed by another program; the way over the bus and back is part of it.
+template <typename Change>
+void measureChange(rig::Session& session, const std::string& what, double target, Change change) {
     rig::XClient observer(session.server().display());
     const std::uint32_t last = observer.crtcOf("DUMMY3");
-    client.call("SetActive", true);
-    client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDDimEffect")});
     std::vector<double> samples;
     for (int i = 0; i < 3000; ++i) {
         const auto before = observer.ramp(last);
         const auto start = SteadyClock::now();
-        client.callSetSetting("NDDimEffectLevel", i % 2 == 0 ? -0.25 : -0.75);
+        change(i % 2 == 0);
         waitForChange(observer, last, before);
         samples.push_back(microsecondsSince(start));
     }
-    std::printf("settings write to the last of four ramps: median %.0f us\n",
+    std::printf("%s to the last of four ramps: median %.0f us\n", what.c_str(),
                 percentile(samples, 0.5));
-    printFigure("settings write to the last of four ramps, p99", percentile(samples, 0.99) / 1000.0,
-                1.0, "ms");
+    printFigure(what + " to the last of four ramps, p99", percentile(samples, 0.99) / 1000.0,
+                target, "ms");
+}
+
+void measureChanges(rig::Session& session, BusClient& client) {
+    client.call("SetActive", true);
+    client.callSetSetting("NDGroupEffect", PropertyArray{std::string("NDDimEffect")});
+    measureChange(session, "settings write", 1.0, [&](bool other) {
+        client.callSetSetting("NDDimEffectLevel", other ? -0.25 : -0.75);
+    });
+    measureChange(session, "look applied", 2.0, [&](bool other) {
+        client.call("ApplyLook", std::string(other ? "Warm evening" : "Just dimmer"));
+    });
 }
 
 /// No timer is needed here: the re-applications are made by hand.
@@ -225,7 +235,7 @@ void run() {
     const auto nocturo = session.startNocturo();
     setenv("DBUS_SESSION_BUS_ADDRESS", session.bus().address().c_str(), 1);
     BusClient client;
-    measureSettingsWrite(session, client);
+    measureChanges(session, client);
     measureHotKey(session, client);
     printWakeUps(*nocturo, client);
 }
