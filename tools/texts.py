@@ -36,7 +36,7 @@ WINDOWS = {
     "recent menu": ["&Clear Menu"],
     "effect menu": ["&Activate Effect"],
     "effect menu while on": ["&Deactivate Effect"],
-    "help menu": ["&About Nocturo"],
+    "help menu": ["User &Guide", "&About Nocturo"],
 }
 
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'

@@ -989,6 +989,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_de.html</translation>
         </message>
         <message>
+            <source>Nocturo User Guide</source>
+            <translation>Nocturo-Benutzerhandbuch</translation>
+        </message>
+        <message>
             <source>%@ is held by another program. Choose another hot key.</source>
             <translation>%@ gehört einem anderen Programm. Wählen Sie ein anderes Tastenkürzel.</translation>
         </message>
@@ -1151,6 +1155,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>&amp;Help</source>
             <translation>&amp;Hilfe</translation>
+        </message>
+        <message>
+            <source>User &amp;Guide</source>
+            <translation>Benutzer&amp;handbuch</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>

@@ -989,6 +989,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_es.html</translation>
         </message>
         <message>
+            <source>Nocturo User Guide</source>
+            <translation>Guía del usuario de Nocturo</translation>
+        </message>
+        <message>
             <source>%@ is held by another program. Choose another hot key.</source>
             <translation>%@ lo tiene otro programa. Elija otro atajo.</translation>
         </message>
@@ -1151,6 +1155,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>&amp;Help</source>
             <translation>A&amp;yuda</translation>
+        </message>
+        <message>
+            <source>User &amp;Guide</source>
+            <translation>&amp;Guía del usuario</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>

@@ -989,6 +989,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Credits_fr.html</translation>
         </message>
         <message>
+            <source>Nocturo User Guide</source>
+            <translation>Guide de l'utilisateur de Nocturo</translation>
+        </message>
+        <message>
             <source>%@ is held by another program. Choose another hot key.</source>
             <translation>%@ est pris par un autre programme. Choisissez un autre raccourci.</translation>
         </message>
@@ -1151,6 +1155,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>&amp;Help</source>
             <translation>Ai&amp;de</translation>
+        </message>
+        <message>
+            <source>User &amp;Guide</source>
+            <translation>&amp;Guide de l'utilisateur</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>

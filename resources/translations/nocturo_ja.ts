@@ -988,6 +988,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_ja.html</translation>
         </message>
         <message>
+            <source>Nocturo User Guide</source>
+            <translation>Nocturo ユーザーガイド</translation>
+        </message>
+        <message>
             <source>%@ is held by another program. Choose another hot key.</source>
             <translation>%@ は別のプログラムが使っています。別のショートカットキーを選んでください。</translation>
         </message>
@@ -1150,6 +1154,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>&amp;Help</source>
             <translation>ヘルプ(&amp;H)</translation>
+        </message>
+        <message>
+            <source>User &amp;Guide</source>
+            <translation>ユーザーガイド(&amp;G)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>

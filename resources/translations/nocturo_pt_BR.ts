@@ -989,6 +989,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Credits_pt_BR.html</translation>
         </message>
         <message>
+            <source>Nocturo User Guide</source>
+            <translation>Guia do usuário do Nocturo</translation>
+        </message>
+        <message>
             <source>%@ is held by another program. Choose another hot key.</source>
             <translation>%@ está em uso por outro programa. Escolha outro atalho.</translation>
         </message>
@@ -1151,6 +1155,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>&amp;Help</source>
             <translation>A&amp;juda</translation>
+        </message>
+        <message>
+            <source>User &amp;Guide</source>
+            <translation>&amp;Guia do usuário</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>

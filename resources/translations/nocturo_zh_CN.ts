@@ -985,6 +985,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Credits_zh_CN.html</translation>
         </message>
         <message>
+            <source>Nocturo User Guide</source>
+            <translation>Nocturo 用户指南</translation>
+        </message>
+        <message>
             <source>%@ is held by another program. Choose another hot key.</source>
             <translation>%@ 已被其他程序占用，请选择别的快捷键。</translation>
         </message>
@@ -1147,6 +1151,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>&amp;Help</source>
             <translation>帮助(&amp;H)</translation>
+        </message>
+        <message>
+            <source>User &amp;Guide</source>
+            <translation>用户指南(&amp;G)</translation>
         </message>
         <message>
             <source>&amp;About Nocturo</source>

@@ -6,6 +6,7 @@
 #include "base/notification_names.h"
 #include "desktop/about/about_box_controller.h"
 #include "desktop/about/about_box_views.h"
+#include "desktop/help/guide_window.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preview/effect_preview.h"
 #include "desktop/qt/bundle_information.h"
@@ -46,9 +47,10 @@ void fitAnyScreen(QWidget& window) {
 } // namespace
 
 AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
-                       const NotificationCenters& centers, LookPicker& looks)
+                       const NotificationCenters& centers, LookPicker& looks,
+                       std::filesystem::path guide)
     : controller_(controller), defaults_(defaults), localCenter_(centers.local),
-      distributedCenter_(centers.distributed), looks_(looks) {
+      distributedCenter_(centers.distributed), looks_(looks), guide_(std::move(guide)) {
     QApplication::setWindowIcon(applicationIcon()); // of dialogs as well
 }
 
@@ -178,6 +180,13 @@ void AppWindows::showAboutBox() {
         aboutBoxController_ = std::make_unique<ZQAboutBoxController>();
     }
     aboutBoxController_->showWindow();
+}
+
+void AppWindows::showGuide() {
+    if (guideWindow_ == nullptr) {
+        guideWindow_ = std::make_unique<GuideWindow>(QString::fromStdString(guide_));
+    }
+    guideWindow_->showInFront();
 }
 
 void AppWindows::setAboutBoxBackgroundColor(const OpaqueColor& color) {

@@ -16,6 +16,7 @@ namespace nocturo {
 
 class Autostart;
 class DefaultsStore;
+class GuideWindow;
 class KeyboardLayout;
 class LookPicker;
 class NDAppController;
@@ -25,9 +26,9 @@ struct NotificationCenters;
 /// The windows of Qt. Each is made when first asked for and kept. Needs a QApplication.
 class AppWindows : public UserInterface {
   public:
-    /// All must outlive the windows.
+    /// All must outlive the windows. `guide` is the user guide, empty where there is none.
     AppWindows(NDAppController& controller, DefaultsStore& defaults,
-               const NotificationCenters& centers, LookPicker& looks);
+               const NotificationCenters& centers, LookPicker& looks, std::filesystem::path guide);
     ~AppWindows() override;
 
     /// Must outlive the windows or be taken away with null.
@@ -65,6 +66,9 @@ class AppWindows : public UserInterface {
     /// Offers to show the application in the tray; nothing while no preference window is loaded.
     void offerTray();
 
+    bool hasGuide() const { return !guide_.empty(); }
+    void showGuide();
+
     /// Makes the preference window, if there is none, without showing it.
     void loadPreferences();
 
@@ -95,6 +99,8 @@ class AppWindows : public UserInterface {
     QPointer<QLabel> noticeLabel_;
     std::unique_ptr<NDPreferencesController> preferenceController;
     std::unique_ptr<ZQAboutBoxController> aboutBoxController_;
+    const std::filesystem::path guide_;
+    std::unique_ptr<GuideWindow> guideWindow_;
 };
 
 } // namespace nocturo

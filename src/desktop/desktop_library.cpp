@@ -78,7 +78,7 @@ class QtDesktop : public DesktopPart {
   public:
     explicit QtDesktop(const DesktopSurroundings& around)
         : application_(around.loop),
-          windows_(around.controller, around.defaults, around.centers, around.looks),
+          windows_(around.controller, around.defaults, around.centers, around.looks, around.guide),
           menus_(around.controller, windows_, around.recentDocuments, around.menus, around.server) {
         windows_.placeFile = around.stateDirectory / "window.ini";
         windows_.autostart = &around.autostart;

@@ -32,6 +32,7 @@ struct DesktopSurroundings {
     LookPicker& looks;
     const RecentDocuments& recentDocuments;
     std::filesystem::path stateDirectory; // for what windows remember
+    std::filesystem::path guide;          // the user guide, empty where there is none
     const Autostart& autostart;
     AppMenus& menus;
     XConnection* server;                   // null where there is no X server

@@ -15,6 +15,7 @@
 #include <chrono>
 #include <dlfcn.h>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 namespace nocturo {
@@ -46,6 +47,12 @@ Result<const DesktopLibrary*> loadLibrary() {
                                  "another version was installed meanwhile."));
     }
     return library;
+}
+
+std::filesystem::path guide() {
+    const auto file = programFile("docs/user-guide.md", NOCTURO_DATA_FROM_BIN);
+    std::error_code error;
+    return std::filesystem::exists(file, error) ? file : std::filesystem::path();
 }
 
 } // namespace
@@ -99,7 +106,7 @@ Result<DesktopPart*> DesktopOnDemand::load() {
     choosePlatform(server_);
     awaitedTray_.reset(); // the part has one of its own
     part_ = (*library)->start({loop_, controller_, defaults_, centers_, looks_, recentDocuments_,
-                               stateDirectory(), autostart_, menus_, server_,
+                               stateDirectory(), guide(), autostart_, menus_, server_,
                                [this] {
                                    if (sessionIsEnding) {
                                        sessionIsEnding();

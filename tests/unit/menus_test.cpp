@@ -4,6 +4,7 @@
 #include "app/effects_menu.h"
 #include "app/screen_option_menu_manager.h"
 #include "base/notification_names.h"
+#include "desktop/help/guide_window.h"
 #include "desktop/menus/drawn_menu.h"
 #include "desktop/menus/main_menu.h"
 #include "desktop/menus/status_image.h"
@@ -17,6 +18,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QTest>
+#include <QTextBlock>
 
 #include <gmock/gmock.h>
 
@@ -85,6 +87,23 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     EXPECT_EQ(opened.toStdString(), directory / "R&D.nocturo");
     recent.actions()[2]->trigger();
     EXPECT_THAT(documents.paths(), IsEmpty());
+}
+
+TEST(Guide, ShowsItsPicturesAndGoesWhereItRefersTo) {
+    GuideWindow guide(QStringLiteral(NOCTURO_DOCS "/user-guide.md"));
+    guide.showInFront();
+    const QTextDocument& text = *guide.document();
+    EXPECT_GT(text.size().height(), 3000);
+    const QVariant picture = guide.loadResource(QTextDocument::ImageResource,
+                                                QUrl(QStringLiteral("images/preferences.png")));
+    EXPECT_EQ(picture.value<QImage>().width(), 760);
+    const auto click = [&](const char* link) { Q_EMIT guide.anchorClicked(QUrl(link)); };
+    click("#in-a-bar");
+    EXPECT_EQ(guide.textCursor().block().text(), "In a bar");
+    click("nowhere.md");
+    click("limits.md#other-programs-that-change-the-colors");
+    EXPECT_EQ(guide.source().fileName(), "limits.md");
+    EXPECT_EQ(guide.textCursor().block().text(), "Other programs that change the colors");
 }
 
 struct TrayMenu : SettingsFixture {

@@ -46,7 +46,8 @@ MainMenu::Handlers DesktopMenus::mainMenuHandlers() {
             [this] { windows_.askWhereToSave(); },
             [this] { windows_.closePreferences(); },
             [this] { controller_.openPreferences(); },
-            [this] { controller_.openAboutBox(); }};
+            [this] { controller_.openAboutBox(); },
+            windows_.hasGuide() ? [this] { windows_.showGuide(); } : std::function<void()>()};
 }
 
 void DesktopMenus::updateStatusItemNotice() {

@@ -82,6 +82,10 @@ void MainMenu::addFileMenu(const RecentDocuments& documents, const Handlers& han
 
 void MainMenu::addHelpMenu(const Handlers& handlers) {
     QMenu& help = *bar_->addMenu(localized("&Help"));
+    if (handlers.openGuide) {
+        add(help, localized("User &Guide"), handlers.openGuide, QKeySequence::HelpContents);
+        help.addSeparator();
+    }
     add(help, localized("&About Nocturo"), handlers.openAboutBox)->setMenuRole(QAction::AboutRole);
 }
 

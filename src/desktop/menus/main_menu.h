@@ -22,6 +22,7 @@ class MainMenu {
         std::function<void()> closeWindow;
         std::function<void()> openPreferences;
         std::function<void()> openAboutBox;
+        std::function<void()> openGuide; // empty where there is none
     };
 
     /// The documents and the menu of the effect must outlive the main menu.
