@@ -1,8 +1,10 @@
 #pragma once
 
 #include "base/result.h"
+#include "base/texts/texts_in_language.h"
 #include "bus/bus_names.h"
 #include "bus/bus_values.h"
+#include "bus/callers_language.h"
 
 #include <string>
 #include <tuple>
@@ -42,11 +44,13 @@ struct Served<Method, whenReady> {
         if (!readArguments(call, arguments)) {
             return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
         }
-        auto& self = *static_cast<Object*>(object);
-        BusAnswer answer = whenReady ? self.whetherReady() : BusAnswer();
-        if (answer) {
-            answer =
-                std::apply([&self](auto&... each) { return (self.*Method)(each...); }, arguments);
+        BusAnswer answer = carryOut(*static_cast<Object*>(object), arguments);
+        if (!answer) {
+            // What fails changes nothing, so it may be tried again to be told in other words.
+            if (const auto language = languageOfCaller(call)) {
+                const TextsInLanguage theirs(*language);
+                answer = carryOut(*static_cast<Object*>(object), arguments);
+            }
         }
         if (!answer) {
             return sd_bus_error_set(error, answer.error().errorName,
@@ -54,13 +58,23 @@ struct Served<Method, whenReady> {
         }
         return sd_bus_reply_method_return(call, nullptr);
     }
+
+    static BusAnswer carryOut(Object& self, std::tuple<std::decay_t<Arguments>...>& arguments) {
+        BusAnswer answer = whenReady ? self.whetherReady() : BusAnswer();
+        if (answer) {
+            answer =
+                std::apply([&self](auto&... each) { return (self.*Method)(each...); }, arguments);
+        }
+        return answer;
+    }
 };
 
 } // namespace detail
 
 /// A handler for sd-bus that calls `Method` of the object with the call's arguments and answers
-/// with nothing, or with what the method says went wrong. Arguments that the method does not take
-/// are left alone.
+/// with nothing, or with what the method says went wrong, in the caller's language. A method that
+/// fails is called twice and must have changed nothing. Arguments that the method does not take are
+/// left alone.
 template <auto Method>
 inline constexpr sd_bus_message_handler_t kServe = detail::Served<Method, false>::call;
 

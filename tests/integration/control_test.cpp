@@ -397,6 +397,8 @@ TEST_F(ControlOfRunning, SpeaksTheUsersLanguageInAlignedColumns) {
     const std::string screens = ctl({"screens"}).output;
     EXPECT_EQ(screens.find("       番号  名前   識別子"), 0U) << screens;
     EXPECT_NE(screens.find("\n  [x]  1     SIM-1  "), std::string::npos) << screens;
+    EXPECT_EQ(session_.run("nocturoctl", {"look", "none"}).errors,
+              "nocturoctl: 「none」というルックはありません。\n");
     EXPECT_EQ(status(), before) << "programs read this, not people";
 }
 

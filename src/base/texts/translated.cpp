@@ -1,6 +1,6 @@
 #include "base/texts/translated.h"
 
-#include "base/texts/text_tables.h"
+#include "base/texts/texts_in_language.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -31,6 +31,14 @@ void setLanguageOfTexts(std::string_view language) {
             textsInUse() = table.texts;
         }
     }
+}
+
+TextsInLanguage::TextsInLanguage(std::string_view language) : before_(textsInUse()) {
+    setLanguageOfTexts(language);
+}
+
+TextsInLanguage::~TextsInLanguage() {
+    textsInUse() = before_;
 }
 
 std::string filledText(std::string_view format, std::span<const std::string> arguments) {

@@ -10,9 +10,11 @@ namespace nocturo {
 
 namespace {
 
-std::string localeOfMessages() {
+using Variables = std::function<std::string(const char* name)>;
+
+std::string localeOfMessages(const Variables& variable) {
     for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (std::string locale = environment(name); !locale.empty()) {
+        if (std::string locale = variable(name); !locale.empty()) {
             return locale;
         }
     }
@@ -59,19 +61,27 @@ std::string languageFor(const Reader& reader) {
     return std::string(found);
 }
 
-} // namespace
-
-std::vector<std::string> wantedLocales() {
-    std::string locale = localeOfMessages();
-    std::vector<std::string> list = partsOfList(environment("LANGUAGE"));
+std::vector<std::string> localesWantedBy(const Variables& variable) {
+    std::string locale = localeOfMessages(variable);
+    std::vector<std::string> list = partsOfList(variable("LANGUAGE"));
     if (list.empty() || locale == "C" || locale == "POSIX") {
         return {std::move(locale)};
     }
     return list;
 }
 
+} // namespace
+
+std::vector<std::string> wantedLocales() {
+    return localesWantedBy(environment);
+}
+
 std::string usersLanguage() {
-    for (const std::string& name : wantedLocales()) {
+    return languageBy(environment);
+}
+
+std::string languageBy(const std::function<std::string(const char* name)>& variable) {
+    for (const std::string& name : localesWantedBy(variable)) {
         const Reader reader = readerOf(name);
         if (reader.language == "en" || reader.language == "C" || reader.language == "POSIX") {
             break;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,10 @@ namespace nocturo {
 /// another script. Empty when the texts are to be in English, which is also where English comes
 /// first, and where the locale is "C" or "POSIX", as scripts ask for.
 std::string usersLanguage();
+
+/// The same by the variables of another process, whose value `variable` gives; empty where one is
+/// not set.
+std::string languageBy(const std::function<std::string(const char* name)>& variable);
 
 /// What whoever runs this process names by LANGUAGE, or else by LC_ALL, LC_MESSAGES or LANG, best
 /// first: "de_AT.UTF-8" for instance. One of them is empty where nothing is named.
