@@ -1,6 +1,7 @@
 #include "app/hooks.h"
 
 #include "app/app_controller.h"
+#include "automation/automation.h"
 #include "base/notification_center.h"
 #include "base/run_loop.h"
 #include "documents/chosen_look.h"
@@ -27,7 +28,8 @@ Hooks::Hooks(NDAppController& controller, ChosenLook& chosenLook, NotificationCe
              RunLoop& runLoop, std::filesystem::path directory)
     : controller_(controller), chosenLook_(chosenLook), localCenter_(localCenter),
       runLoop_(runLoop), runner_(std::move(directory), runLoop) {
-    for (const auto name : {kEffectActivationNotification, kLooksDidChangeNotification}) {
+    for (const auto name :
+         {kEffectActivationNotification, kRulingNotification, kLooksDidChangeNotification}) {
         localCenter_.addObserver(this, name, [this] { tellSoon(); });
     }
     localCenter_.addObserver(this, NSUserDefaultsDidChangeNotification,

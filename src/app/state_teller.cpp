@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/state_sentence.h"
+#include "automation/automation.h"
 #include "base/notification_names.h"
 #include "base/run_loop.h"
 #include "settings/defaults_store.h"
@@ -22,8 +23,9 @@ StateTeller::StateTeller(const NDAppController& controller, const DefaultsStore&
                          std::function<void(const std::string& sentence)> told)
     : controller_(controller), defaults_(defaults), localCenter_(localCenter), runLoop_(runLoop),
       told_(std::move(told)) {
-    for (const auto name : {NSUserDefaultsDidChangeNotification, kEffectActivationNotification,
-                            NSApplicationDidChangeScreenParametersNotification}) {
+    for (const auto name :
+         {NSUserDefaultsDidChangeNotification, kEffectActivationNotification, kRulingNotification,
+          NSApplicationDidChangeScreenParametersNotification}) {
         localCenter_.addObserver(this, name, [this] { tellSoon(); });
     }
     tellSoon();
