@@ -25,9 +25,12 @@ void writeSettings(const rig::Session& session, bool inTray) {
 }
 
 void waitForChange(rig::XClient& observer, std::uint32_t crtc, const rig::Channels& before) {
-    const bool changed = rig::waitUntil([&] { return observer.ramp(crtc) != before; });
-    if (!changed) {
-        throw std::runtime_error("the ramp did not change");
+    const auto deadline = SteadyClock::now() + rig::kPatience;
+    while (observer.ramp(crtc) == before) {
+        if (SteadyClock::now() > deadline) {
+            throw std::runtime_error("the ramp did not change");
+        }
+        std::this_thread::sleep_for(std::chrono::microseconds(100)); // both take a few milliseconds
     }
 }
 
