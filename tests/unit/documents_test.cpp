@@ -125,7 +125,7 @@ std::string binaryListOf(const std::string& xml) {
     std::uint32_t length = 0;
     plist_to_bin(list, &bytes, &length);
     std::string binary(bytes, length);
-    std::free(bytes);  // As every version of libplist has it; the names for it differ.
+    std::free(bytes); // As every version of libplist has it; the names for it differ.
     plist_free(list);
     return binary;
 }
