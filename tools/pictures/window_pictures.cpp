@@ -121,9 +121,7 @@ int run(const QStringList& arguments) {
     DisplaySurroundings around;
     around.runtimeDirectory = *runtimeDirectory();
     around.drawPicture = writeTestCard;
-    const auto displays = openDisplays(
-        *parseDisplayChoice("simulated:2"),
-        around, runLoop);
+    const auto displays = openDisplays(*parseDisplayChoice("simulated:2"), around, runLoop);
     setDisplayServices(displays->services.get());
     NDGroupEffect::effect();
     if (arguments[1] == QLatin1String("preferences")) {
