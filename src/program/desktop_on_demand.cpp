@@ -321,10 +321,10 @@ void DesktopOnDemand::offerTrayWhereThereIsOne() {
         part_->offerTray();
     } else if (bus_ != nullptr) {
         trayOfBus_ = bus_->followOwner(kTrayWatcher, [this](const std::string& owner) {
-            if (!owner.empty()) {
+            if (!owner.empty()) { // perhaps only once the panel has come up
                 part_->offerTray();
+                trayOfBus_.reset();
             }
-            trayOfBus_.reset();
         });
     }
 }

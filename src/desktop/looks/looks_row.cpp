@@ -96,7 +96,7 @@ class LookDelegate : public QStyledItemDelegate {
             QStyleOptionFocusRect focus;
             focus.initFrom(option.widget);
             focus.state |= QStyle::State_KeyboardFocusChange;
-            focus.rect = option.rect.adjusted(0, 0, -1, -1);
+            focus.rect = place; // some styles fill it, which would tint the picture
             focus.backgroundColor = option.palette.color(QPalette::Base);
             QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter,
                                                  option.widget);
