@@ -17,6 +17,7 @@
 #include "displays/simulated/simulated_hardware.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
+#include "documents/recent_documents.h"
 #include "own_directory.h"
 #include "session/desktop_sources.h"
 #include "session/disturber_finder.h"
@@ -157,7 +158,8 @@ struct World {
     Automation automation{local, clock, fuzz::ownDirectory()};
     BusFace face;
     LookPicker lookPicker{controller, chosenLook};
-    AppMenus menus{controller, store, local, lookPicker, [] {}};
+    const RecentDocuments documents{fuzz::ownDirectory() / "recent.plist"};
+    AppMenus menus{controller, store, local, lookPicker, documents, {}};
     std::optional<LauncherMenu> launcher;
     std::optional<StatusNotifierItem> item;
     std::optional<DesktopSources> sources;

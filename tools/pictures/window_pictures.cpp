@@ -116,7 +116,7 @@ int run(const QStringList& arguments) {
     Looks looks(QCoreApplication::applicationDirPath().toStdString() + "/looks", "", centers.local);
     ChosenLook chosenLook(looks);
     LookPicker lookPicker(controller, chosenLook);
-    AppWindows windows(controller, defaults, centers, lookPicker);
+    AppWindows windows(controller, defaults, centers, lookPicker, {});
     controller.setUserInterface(&windows);
     DisplaySurroundings around;
     around.runtimeDirectory = *runtimeDirectory();
