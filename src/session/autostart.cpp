@@ -47,10 +47,10 @@ std::string quoted(const std::string& path) {
 
 } // namespace
 
-Autostart::Autostart(std::filesystem::path own,
+Autostart::Autostart(const std::filesystem::path& own,
                      const std::vector<std::filesystem::path>& configuration,
                      std::filesystem::path program)
-    : own_(std::move(own) / kEntry),
+    : own_(own / kEntry),
       isInstalled_(std::ranges::any_of(configuration,
                                        [](const std::filesystem::path& directory) {
                                            std::error_code unknown;

@@ -13,7 +13,8 @@ class Autostart {
   public:
     /// The user's directory of such entries, those of configuration in which `autostart` may have
     /// an installed one, and the program that an entry written here starts.
-    Autostart(std::filesystem::path own, const std::vector<std::filesystem::path>& configuration,
+    Autostart(const std::filesystem::path& own,
+              const std::vector<std::filesystem::path>& configuration,
               std::filesystem::path program);
 
     bool isOn() const;

@@ -71,7 +71,7 @@ class ScreenReader {
         char* value = nullptr;
         sd_bus_get_property_string(bus_, service.c_str(), path.c_str(), kAccessible, property,
                                    nullptr, &value);
-        const std::string text = value != nullptr ? value : "";
+        std::string text = value != nullptr ? value : "";
         std::free(value);
         return text;
     }
