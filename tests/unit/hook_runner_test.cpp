@@ -56,8 +56,8 @@ TEST_F(HookRunnerTest, RunsOneOfANameAtATimeWithNothingOpenAndThenTheLatest) {
     runner.run("look-changed", "A", "B");
     runner.run("active-changed", "on", "off");
     runner.run("look-changed", "B", "C");
+    writeText(directory_ / "gate", ""); // waits for who reads it
     writeText(directory_ / "open", "");
-    writeText(directory_ / "gate", "");        // waits for who reads it
     const std::string open = "\n0\n1\n2\n3\n"; // the last one is the list itself
     waitFor("look-changed  A;look-changed,,A" + open + "look-changed A C;look-changed,A,C" + open);
 }
