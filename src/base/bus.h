@@ -41,7 +41,8 @@ class BusSlot {
 /// nobody answers.
 ///
 /// Who calls what is on it a hundred times without waiting for answers is refused from then on
-/// (LimitsExceeded), until all that came has been read or 10 seconds are over. Main thread only.
+/// (LimitsExceeded), until all that came has been read or 10 seconds are over; who wants none has
+/// twenty calls in a second. Main thread only.
 class Bus {
   public:
     /// Null when nothing listens at the address. The loop must outlive the bus.
