@@ -4,8 +4,6 @@
 #include "base/program_watch.h"
 #include "temporary_directory.h"
 
-#include <array>
-#include <csignal>
 #include <gmock/gmock.h>
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -99,39 +97,6 @@ TEST(EventLoop, LetsActionsDestroyTheirOwnTimerAndWatch) {
     loop.run();
     EXPECT_EQ(called, 2); // what stayed readable was not told again
     close(readable);
-}
-
-TEST(EventLoop, AsksWhoReadsAheadEachTimeBeforeItWaits) {
-    EventLoop loop;
-    const int silent = eventfd(0, 0);
-    int read = 0; // by somebody's handler, beside what it waited for
-    int handled = 0;
-    std::unique_ptr<Watch> watch;
-    const auto handle = [&] {
-        handled += std::exchange(read, 0);
-        if (handled >= 3) {
-            watch.reset();
-            loop.quit();
-        }
-    };
-    watch = loop.watch(silent, handle, [&] { return read > 0; });
-    const auto timer = loop.scheduleRepeatingTimer(1ms, [&] { ++read; });
-    loop.run();
-    EXPECT_GE(handled, 3);
-    close(silent);
-}
-
-TEST(EventLoop, DeliversSignalsBeforeAllElse) {
-    EventLoop loop;
-    std::vector<int> called;
-    loop.handleSignals(std::array{SIGUSR1}, [&](int number) { called.push_back(number); });
-    loop.callSoon([&] {
-        called.push_back(0);
-        loop.quit();
-    });
-    raise(SIGUSR1);
-    loop.run();
-    EXPECT_THAT(called, ElementsAre(SIGUSR1, 0));
 }
 
 TEST(EventLoop, RunsInsideAnotherLoopThatAddsToItBetweenItsRounds) {

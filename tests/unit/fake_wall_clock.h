@@ -1,12 +1,11 @@
 #pragma once
 
 #include "base/wall_clock.h"
+#include "fake_run_loop.h"
 
 #include <algorithm>
-#include <memory>
 #include <optional>
 #include <utility>
-#include <vector>
 
 namespace nocturo {
 
@@ -17,23 +16,19 @@ class FakeWallClock final : public WallClock {
 
     Moment now() const override { return now_; }
     std::unique_ptr<Timer> wakeAt(Moment moment, std::function<void()> action) override {
-        auto timer =
-            std::make_unique<FakeTimer>(std::make_shared<Entry>(Entry{moment, std::move(action)}));
-        entry_ = timer->entry;
-        return timer;
+        due_ = moment;
+        return timers_.scheduleTimer(std::chrono::milliseconds(1), std::move(action));
     }
 
     /// What is awaited, of which there is one at most.
     std::optional<Moment> awaited() const {
-        const auto entry = entry_.lock();
-        return entry != nullptr ? std::optional(entry->due) : std::nullopt;
+        return timers_.pendingTimers() > 0 ? std::optional(due_) : std::nullopt;
     }
 
     /// The time passes as it does.
     void passTo(Moment moment) {
-        while (awaited() && *awaited() <= moment) {
-            now_ = std::max(now_, *awaited());
-            fire();
+        while (awaited() && due_ <= moment) {
+            jumpTo(std::max(now_, due_));
         }
         now_ = moment;
     }
@@ -41,27 +36,13 @@ class FakeWallClock final : public WallClock {
     /// The machine wakes up, or somebody sets the clock.
     void jumpTo(Moment moment) {
         now_ = moment;
-        fire();
+        timers_.advance(1);
     }
 
   private:
-    struct Entry {
-        Moment due;
-        std::function<void()> action;
-    };
-    struct FakeTimer final : Timer {
-        explicit FakeTimer(std::shared_ptr<Entry> own) : entry(std::move(own)) {}
-        std::shared_ptr<Entry> entry;
-    };
-    void fire() {
-        if (const auto entry = entry_.lock()) {
-            entry_.reset();
-            entry->action();
-        }
-    }
-
-    std::weak_ptr<Entry> entry_;
     Moment now_;
+    Moment due_;
+    FakeRunLoop timers_;
 };
 
 } // namespace nocturo

@@ -4,15 +4,11 @@
 #include "temporary_directory.h"
 
 #include <cerrno>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
 using namespace nocturo;
-
-namespace {
 
 struct HookRunnerTest : testing::Test {
     void write(const std::string& name, const std::string& script) const {
@@ -21,11 +17,7 @@ struct HookRunnerTest : testing::Test {
         writeText(hook, "#!/bin/sh\ncd '" + directory_.path().string() + "'\n" + script);
         std::filesystem::permissions(hook, std::filesystem::perms::owner_all);
     }
-    std::string told() const {
-        std::stringstream text;
-        text << std::ifstream(directory_ / "told").rdbuf();
-        return text.str();
-    }
+    std::string told() const { return readText(directory_ / "told"); }
     /// Runs the loop until that was told and every hook has ended.
     void waitFor(const std::string& expected) {
         const auto look = loop_.scheduleRepeatingTimer(std::chrono::milliseconds(2), [&] {
@@ -40,8 +32,6 @@ struct HookRunnerTest : testing::Test {
     TemporaryDirectory directory_;
     EventLoop loop_;
 };
-
-} // namespace
 
 TEST_F(HookRunnerTest, RunsOneOfANameAtATimeWithNothingOpenAndThenTheLatest) {
     ASSERT_EQ(mkfifo((directory_ / "gate").c_str(), 0600), 0);

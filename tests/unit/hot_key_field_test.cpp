@@ -4,10 +4,8 @@
 
 #include <gmock/gmock.h>
 
-#include <QAccessible>
-#include <QApplication>
 #include <QTest>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 using namespace nocturo;
 

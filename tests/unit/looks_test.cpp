@@ -15,8 +15,7 @@
 
 #include <sys/stat.h>
 
-namespace nocturo {
-namespace {
+using namespace nocturo;
 
 using testing::ElementsAre;
 
@@ -150,6 +149,3 @@ TEST_F(LooksTest, TakeWhatOthersPutIntoTheDirectoryWithinLimits) {
     }
     EXPECT_EQ(names().size(), 2 + Looks::kMost);
 }
-
-} // namespace
-} // namespace nocturo

@@ -6,14 +6,8 @@
 
 #include <gmock/gmock.h>
 
-#include <QAccessible>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QSlider>
 #include <QTest>
-#include <QVBoxLayout>
-#include <QWheelEvent>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <bit>

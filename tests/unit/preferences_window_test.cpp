@@ -17,18 +17,8 @@
 
 #include <gmock/gmock.h>
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QDropEvent>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QPushButton>
-#include <QSlider>
 #include <QTest>
-#include <QUrl>
+#include <QtWidgets>
 
 using namespace nocturo;
 

@@ -1,4 +1,4 @@
-// The settings in memory, in their file and between the two.
+// The settings in memory, in their file and between the two, and who is told of them.
 
 #include "settings/settings_keeper.h"
 
@@ -19,6 +19,29 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using Keys = PropertyDictionary;
+
+TEST(NotificationCenter, ObserversComeAndGoWhileOthersAreTold) {
+    NotificationCenter center;
+    std::string told;
+    const int first = 0; // observers are told apart by address
+    const int second = 0;
+    center.addObserver(&first, "outer", [&] {
+        told += "(";
+        center.post("inner");
+    });
+    center.addObserver(&second, "outer", [&] { told += "gone"; });
+    center.addObserver(&first, "outer", [&] { told += ")"; });
+    center.addObserver(&first, "inner", [&] {
+        told += "i";
+        center.removeObserver(&second);
+        center.removeObserver(&first, "inner"); // the one that runs, too
+        center.addObserver(&second, "outer", [&] { told += "new"; });
+    });
+    center.post("outer");
+    EXPECT_EQ(told, "(i)");
+    center.post("outer");
+    EXPECT_EQ(told, "(i)()new");
+}
 
 struct DefaultsStoreTest : testing::Test {
     NotificationCenter center;
