@@ -36,7 +36,7 @@ test         libxcb-xtest0-dev         real key presses
 test         x11-xkb-utils             setxkbmap, which changes layouts
 test         xdotool                   typing into windows
 test         at-spi2-core              the bus of screen readers
-test         x11-utils                 xwininfo, which finds what is in a tray
+test         x11-utils                 xwininfo, which finds what is in a tray; xkill
 test         trayer                    a tray that embeds windows
 test         lxqt-panel                a tray that asks for items over the bus
 test         libglib2.0-bin            gdbus, which speaks to menus, and gio, which opens documents

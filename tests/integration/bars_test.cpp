@@ -1,17 +1,11 @@
 #include "nocturo_test.h"
 #include "rig/sway.h"
 
-#include <filesystem>
-#include <string>
-
 using namespace nocturo;
 using namespace nocturo::rig;
 
-namespace {
-
 /// The module of ours that is installed for a bar, in that bar.
-class Bars : public NocturoTest {
-  protected:
+struct Bars : NocturoTest {
     Bars() : NocturoTest(1) {
         session_.environment()["PATH"] =
             std::filesystem::path(NOCTURO_PROGRAMS).string() + ":" + std::getenv("PATH");
@@ -19,16 +13,13 @@ class Bars : public NocturoTest {
         nocturo_ = session_.startNocturo({"--display-services=simulated"});
     }
 
-    std::string configuration(const std::string& text) const {
-        std::ofstream(directory_.path() / "bar") << text;
-        return directory_.path() / "bar";
+    std::string configuration(const std::string& text) {
+        const auto file = session_.runtimeDirectory() / "bar";
+        writeText(file, text);
+        return file;
     }
     static std::string module(const std::string& file) { return NOCTURO_BARS "/" + file; }
-
-    TemporaryDirectory directory_;
 };
-
-} // namespace
 
 TEST_F(Bars, LinesTellTheStateInEachBarsWords) {
     const auto bar = session_.start("nocturoctl", {"status", "--bar", "--follow"});
@@ -81,13 +72,12 @@ TEST_F(Bars, Waybar) {
     }
     Sway sway;
     session_.environment()["WAYLAND_DISPLAY"] = sway.display();
-    const std::string picture = directory_.path() / "picture.ppm";
+    const std::string picture = session_.runtimeDirectory() / "picture.ppm";
     const auto changesFrom = [&](const std::string& before) {
         std::string now;
         EXPECT_TRUE(waitUntil([&] {
             EXPECT_EQ(session_.run("grim", {"-t", "ppm", picture}).exit, 0);
-            std::ifstream file(picture, std::ios::binary);
-            now.assign(std::istreambuf_iterator<char>(file), {});
+            now = readText(picture);
             return now != before;
         }));
         return now;

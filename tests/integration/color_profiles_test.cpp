@@ -157,10 +157,8 @@ TEST_F(ColorProfilesOfColord, HoldWhenNocturoIsKilled) {
         EXPECT_TRUE(waitUntil([&] { return inverted(1, 2); })); // of what it found
     };
     const auto loseTheJournal = [&] {
-        waitForTheBus();
         switchOn();
         kill(true);
-        waitForTheBus();
         damageJournal();
     };
     loseTheJournal();

@@ -22,6 +22,13 @@ using Arguments = std::vector<std::string>;
 
 struct Control : NocturoTest {
     Control() : NocturoTest(0) {}
+
+    RunResult run(const std::string& line) {
+        std::istringstream words(line);
+        std::string program;
+        words >> program;
+        return session_.run(program, {std::istream_iterator<std::string>(words), {}});
+    }
 };
 
 struct ControlOfRunning : Control {
@@ -33,15 +40,9 @@ class OddNocturo {
   public:
     using Answer = std::function<void(sd_bus_message* reply)>;
 
-    explicit OddNocturo(const std::string& address) {
-        sd_bus* raw = nullptr;
-        sd_bus_new(&raw);
-        bus_.reset(raw);
-        sd_bus_set_address(raw, address.c_str());
-        sd_bus_set_bus_client(raw, 1);
-        sd_bus_start(raw);
-        sd_bus_add_filter(raw, nullptr, handle, this);
-        EXPECT_GE(sd_bus_request_name(raw, "org.nocturo.Nocturo", 0), 0);
+    explicit OddNocturo(const SessionBus& bus) : bus_(bus.connect()) {
+        sd_bus_add_filter(bus_.get(), nullptr, handle, this);
+        EXPECT_GE(sd_bus_request_name(bus_.get(), "org.nocturo.Nocturo", 0), 0);
     }
 
     RunResult answer(Session& session, const Arguments& arguments, Answer answer) {
@@ -67,7 +68,7 @@ class OddNocturo {
         return 1;
     }
 
-    std::unique_ptr<sd_bus, decltype(&sd_bus_close_unref)> bus_{nullptr, sd_bus_close_unref};
+    SessionBus::Bus bus_;
     Answer answer_;
 };
 
@@ -90,7 +91,7 @@ void appendProperties(sd_bus_message* reply, const char* name,
 }
 
 TEST_F(Control, OddAnswersAreTakenAsSuch) {
-    OddNocturo odd(session_.bus().address());
+    OddNocturo odd(session_.bus());
     const auto effects = [](sd_bus_message* reply, auto... value) {
         return [=] { sd_bus_message_append(reply, "{sv}", "Effects", value...); };
     };
@@ -133,11 +134,7 @@ TEST_F(Control, OddAnswersAreTakenAsSuch) {
 }
 
 TEST_F(ControlOfRunning, SaysSoWhenItCannotWriteOrIsNotAnswered) {
-    const RunResult full = session_.run(
-        "sh", {"-c", "exec \"$0\" status > /dev/full",
-               std::filesystem::read_symlink("/proc/self/exe").parent_path() / "nocturoctl"});
-    EXPECT_EQ(full.exit, 1);
-    EXPECT_NE(full.errors.find("cannot be written"), std::string::npos) << full.errors;
+    says("sh", {"-c", NOCTURO_BIN_DIR "/nocturoctl status > /dev/full"}, 1, "cannot be written");
     nocturo_->signal(SIGSTOP);
     const RunResult stopped = session_.run("nocturoctl", {"off"}, Milliseconds(7000));
     nocturo_->signal(SIGCONT);
@@ -184,11 +181,7 @@ TEST_F(Control, WrongCommandLinesAreUsageErrors) {
                            "nocturoctl look move Mine first"};
     for (const char* line : lines) {
         SCOPED_TRACE(line);
-        std::istringstream words(line);
-        std::string program;
-        words >> program;
-        const RunResult result =
-            session_.run(program, {std::istream_iterator<std::string>(words), {}});
+        const RunResult result = run(line);
         EXPECT_EQ(result.exit, 2);
         EXPECT_EQ(result.output, "");
         EXPECT_EQ(std::count(result.errors.begin(), result.errors.end(), '\n'), 1) << result.errors;
@@ -196,13 +189,6 @@ TEST_F(Control, WrongCommandLinesAreUsageErrors) {
 }
 
 TEST_F(Control, WithoutDisplaysOrNocturoItSaysWhatToDo) {
-    const auto says = [&](const char* program, const Arguments& arguments, int exit,
-                          const std::string& part) {
-        const RunResult result = session_.run(program, arguments);
-        EXPECT_EQ(result.exit, exit) << Json(arguments);
-        EXPECT_NE((result.output + result.errors).find(part), std::string::npos)
-            << Json(arguments) << result.output << result.errors;
-    };
     says("nocturo", {}, 1, "--display-services=simulated");
     const std::string dead = session_.environment()["DISPLAY"] = freeDisplay();
     says("nocturo", {"--display-services=randr"}, 1, dead);
@@ -302,8 +288,7 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
         {"temperature 6500K", "effects", R"(["NDInvertEffect","NDColorFilterEffect"])"},
     };
     for (const auto& [line, member, becomes] : steps) {
-        std::istringstream words(line);
-        ctl({std::istream_iterator<std::string>(words), {}});
+        EXPECT_EQ(run("nocturoctl " + std::string(line)).exit, 0) << line;
         EXPECT_EQ(status()[member].dump(), becomes) << line;
     }
     EXPECT_EQ(ctl({"temperature"}).output, "6500 K\n");
@@ -326,14 +311,11 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
     begins("Off. Choose effects, then switch on");
     EXPECT_EQ(ctl({"status"}).output.find("NDGroupEffect"), std::string::npos);
     EXPECT_NE(ctl({"status", "--all"}).output.find("NDGroupEffect"), std::string::npos);
-    for (const Arguments& refused : {Arguments{"screens", "only", "4"},
-                                     {"screens", "remove", "1", "3"},
-                                     {"set", "AffectedScreenSet", "2"},
-                                     {"step", "UseHotKey", "+1"}}) {
-        EXPECT_EQ(session_.run("nocturoctl", refused).exit, 2) << Json(refused);
+    for (const char* refused :
+         {"screens only 4", "screens remove 1 3", "set AffectedScreenSet 2", "step UseHotKey +1"}) {
+        EXPECT_EQ(run("nocturoctl " + std::string(refused)).exit, 2) << refused;
     }
-    EXPECT_NE(session_.run("nocturoctl", {"open", "/nowhere"}).errors.find("no such file"),
-              std::string::npos);
+    says("nocturoctl", {"open", "/nowhere"}, 1, "no such file");
 }
 
 TEST_F(ControlOfRunning, CallersAtOnceLoseNoChange) {
@@ -437,34 +419,23 @@ TEST_F(ControlOfRunning, ManySlowDocumentsHoldNobodyUp) {
               "nocturo: No more than 1000 documents can be opened at once.\n");
 }
 
-struct FloodedOnX : NocturoOnX {
-    FloodedOnX() : NocturoOnX(2) {
-        select("NDInvertEffect");
-        nocturo_ = session_.startNocturo();
-    }
+struct BusTrouble : NocturoOnX {
+    BusTrouble() : NocturoOnX(2) { select("NDInvertEffect"); }
+    ~BusTrouble() override { session_.bus().signal(SIGCONT); }
 
-    /// In kB.
-    long memory() {
-        std::ifstream status("/proc/" + std::to_string(nocturo_->id()) + "/status");
-        std::string word;
-        while (status >> word && word != "VmRSS:") {
-        }
-        long size = -1;
-        status >> size;
-        return size;
-    }
     std::vector<std::unique_ptr<Process>> floods(const Arguments& kinds) {
         std::vector<std::unique_ptr<Process>> started;
         for (const std::string& kind : kinds) {
-            started.push_back(session_.start("flood", {kind}));
+            started.push_back(session_.start("caller", {kind}));
         }
         return started;
     }
 
     /// Others call it without end for so long, and once more while it is to end.
     void flood(Milliseconds time) {
+        nocturo_ = session_.startNocturo();
         ctl({"status"});
-        const long before = memory();
+        const long before = kilobytesOf("Rss:");
         auto others = floods({"toggle", "ask", "open"});
         EXPECT_FALSE(nocturo_->wait(time)) << "it ended by itself";
         others.clear();
@@ -473,7 +444,8 @@ struct FloodedOnX : NocturoOnX {
                               5 * kPatience + time))
             << "deaf for longer than it was called";
         EXPECT_TRUE(becomes("ii"));
-        EXPECT_TRUE(waitUntil([&] { return memory() <= before * 11 / 10; })) << before << memory();
+        EXPECT_TRUE(waitUntil([&] { return kilobytesOf("Rss:") <= before * 11 / 10; }))
+            << before << kilobytesOf("Rss:");
         others = floods({"ask", "open"});
         EXPECT_FALSE(nocturo_->wait(Milliseconds(500)));
         nocturo_->signal(SIGTERM);
@@ -483,6 +455,7 @@ struct FloodedOnX : NocturoOnX {
 
     /// So many changes while a hook does not end and those who follow are not read.
     void neglect(int changes) {
+        nocturo_ = session_.startNocturo();
         const auto hook = session_.settingsFile().parent_path() / "hooks/endless";
         std::filesystem::create_directory(hook.parent_path());
         writeText(hook, "#!/bin/sh\nexec sleep 1000\n");
@@ -496,37 +469,32 @@ struct FloodedOnX : NocturoOnX {
             return hooks.size() == 1;
         };
         EXPECT_TRUE(waitUntil(isRunning));
-        const long before = memory();
-        EXPECT_EQ(session_.run("toggle_loop", {std::to_string(changes + 1)}, 6 * kPatience).exit,
-                  0);
+        const long before = kilobytesOf("Rss:");
+        EXPECT_EQ(
+            session_.run("caller", {"toggle", std::to_string(changes + 1)}, 6 * kPatience).exit, 0);
         EXPECT_TRUE(becomes("ii", Milliseconds(200)));
-        EXPECT_LE(memory(), before * 11 / 10);
+        EXPECT_LE(kilobytesOf("Rss:"), before * 11 / 10);
         EXPECT_TRUE(isRunning());
         ::kill(hooks.at(0), SIGKILL);
         end();
     }
 };
 
-TEST_F(FloodedOnX, HooksAndReadersThatNeverEndCostNothing) {
+TEST_F(BusTrouble, HooksAndReadersThatNeverEndCostNothing) {
     neglect(1000);
 }
 
-TEST_F(FloodedOnX, SoakOfTenThousandNeglectedChanges) {
+TEST_F(BusTrouble, SoakOfTenThousandNeglectedChanges) {
     neglect(10000);
 }
 
-TEST_F(FloodedOnX, MindsSignalsAndGivesBackWhatItTook) {
+TEST_F(BusTrouble, MindsSignalsAndGivesBackWhatItTook) {
     flood(Milliseconds(1000));
 }
 
-TEST_F(FloodedOnX, SoakOfAMinute) {
+TEST_F(BusTrouble, SoakOfAMinute) {
     flood(Milliseconds(60000));
 }
-
-struct BusTrouble : NocturoOnX {
-    BusTrouble() : NocturoOnX(2) { select("NDInvertEffect"); }
-    ~BusTrouble() override { session_.bus().signal(SIGCONT); }
-};
 
 TEST_F(BusTrouble, BusThatHangsDelaysNothing) {
     session_.bus().signal(SIGSTOP);
@@ -561,9 +529,7 @@ TEST_F(BusTrouble, OneNocturoDrivesTheDisplays) {
     const SessionBus other;
     session_.environment()["DBUS_SESSION_BUS_ADDRESS"] = other.address();
     session_.environment()["XDG_RUNTIME_DIR"] = session_.environment()["HOME"];
-    const RunResult second = session_.run("nocturo");
-    EXPECT_EQ(second.exit, 1);
-    EXPECT_NE(second.errors.find("Another Nocturo"), std::string::npos) << second.errors;
+    says("nocturo", {}, 1, "Another Nocturo");
     EXPECT_TRUE(allOwnWithin(Milliseconds(0)));
     nocturo_->signal(SIGKILL); // which the server hears of a little later
     nocturo_ = session_.start("nocturo");

@@ -15,16 +15,10 @@ constexpr const char* kGnome = "--display-services=gnome";
 constexpr const char* kDisplays = "org.gnome.Mutter.DisplayConfig";
 
 /// The journals that are kept.
-std::vector<fs::path> journalsIn(const Session& session) {
-    std::vector<fs::path> journals;
-    std::error_code error;
-    for (const auto& entry :
-         fs::directory_iterator(session.runtimeDirectory() / "nocturo", error)) {
-        if (entry.path().filename().string().starts_with("ramps@")) {
-            journals.push_back(entry.path());
-        }
-    }
-    return journals;
+std::vector<std::string> journalsIn(const Session& session) {
+    auto names = namesIn(session.runtimeDirectory() / "nocturo");
+    std::erase_if(names, [](const auto& name) { return !name.starts_with("ramps@"); });
+    return names;
 }
 
 struct Mutter : NocturoOnX {
@@ -63,7 +57,6 @@ TEST_F(Mutter, GivesBackWhatItInvertedHoweverItEnds) {
     reapGuards();
     EXPECT_TRUE(journalsIn(session_).empty());
 
-    waitForTheBus();
     nocturo_ = session_.startNocturo({kGnome});
     EXPECT_TRUE(becomes("ii"));
     EXPECT_TRUE(waitUntil([&] { // both guards are there
@@ -71,8 +64,7 @@ TEST_F(Mutter, GivesBackWhatItInvertedHoweverItEnds) {
     }));
     kill(true);
     EXPECT_EQ(shown(), "ii");
-    waitForTheBus();
-    const fs::path journal = journalsIn(session_).at(0);
+    const fs::path journal = session_.runtimeDirectory() / "nocturo" / journalsIn(session_).at(0);
     fs::copy_file(journal, session_.runtimeDirectory() / "kept");
     EXPECT_EQ(ctl({"restore"}).output.find("The displays have their own colors back"), 0U);
     EXPECT_EQ(shown(), "oo");

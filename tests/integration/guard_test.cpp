@@ -40,7 +40,8 @@ struct Guard : FourDisplays {
 // display come, nothing. So does what is killed with it: nothing, either guard, or now and then
 // both.
 void Guard::killAtRandomMoments(int rounds) {
-    const std::vector<std::string> drivers[] = {{}, {"100000"}, {"100000", "drag"}, {}, {}};
+    const std::vector<std::string> drivers[] = {
+        {}, {"toggle", "100000"}, {"drag", "100000"}, {}, {}};
     constexpr int kStarting = 0;
     constexpr int kPlugging = 4;
     const std::vector<std::string> killedToo[] = {{}, {kGuard}, {kSpare}, {kGuard, kSpare}};
@@ -62,7 +63,7 @@ void Guard::killAtRandomMoments(int rounds) {
             session_.server().switchOn(kDisplays - 1);
         }
         const auto driver =
-            drivers[activity].empty() ? nullptr : session_.start("toggle_loop", drivers[activity]);
+            drivers[activity].empty() ? nullptr : session_.start("caller", drivers[activity]);
         ASSERT_EQ(nocturo_->wait(Milliseconds(moment(random_))), std::nullopt)
             << nocturo_->errors();
         const auto start = std::chrono::steady_clock::now();
@@ -144,7 +145,7 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
     const pid_t guard = guardProcess();
     ASSERT_GT(guard, 0);
     nocturo_->signal(SIGSTOP); // the guard has to notice the server's end by itself
-    session_.server().kill();
+    killServer();
     EXPECT_TRUE(waitUntil([&] {
         const std::string stat = readText("/proc/" + std::to_string(guard) + "/stat");
         return stat.find(") Z ") != std::string::npos; // its parent is stopped
@@ -155,7 +156,7 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
     EXPECT_TRUE(
         nocturo_->errors().ends_with("nocturo: The display server has gone, so Nocturo ends.\n"))
         << nocturo_->errors();
-    reapGuards(true);
+    reapGuards();
     EXPECT_EQ(childrenNamed(getpid(), kGuard).size(), 0U);
     EXPECT_LT(processorSecondsOfChildren() - before, 5); // nobody went round in circles
 }
@@ -163,16 +164,15 @@ TEST_F(Guard, WithTheServerEverythingEndsByItself) {
 TEST_F(Guard, KilledWithTheServerItEndsToo) {
     startChanging();
     nocturo_->signal(SIGKILL);
-    session_.server().kill();
+    killServer();
     nocturo_->wait();
-    reapGuards(true);
+    reapGuards();
 }
 
 TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
     startChanging();
     const auto old = journal();
     kill(true);
-    waitForTheBus();
     damageJournal();
     nocturo_ = session_.start("nocturo");
     EXPECT_TRUE(nocturo_->waitForError("is missing or damaged, so they get plain ones."));
@@ -189,7 +189,6 @@ TEST_F(Guard, AJournalThatIsDamagedOrOfAnotherRunGivesPlainColors) {
     client_.setRootBytes(kJournal, old);
     startChanging(); // no display was left changed: it is not even read
     kill(true);
-    waitForTheBus();
     client_.setRootBytes(kJournal, old);
     nocturo_ = session_.startNocturo();
     ctl({"off"});
@@ -208,7 +207,6 @@ TEST_F(Guard, WithoutARuntimeDirectoryItLivesAllTheSame) {
 TEST_F(Guard, AWindowThatIsSomebodyElsesByNowIsNotTakenForItsOwner) {
     startChanging();
     kill(true);
-    waitForTheBus();
     auto mark = client_.rootBytes(kMark);
     std::vector<std::uint32_t> numbers(mark.size() / sizeof(std::uint32_t));
     std::memcpy(numbers.data(), mark.data(), mark.size());
@@ -224,7 +222,7 @@ TEST_F(Guard, ALostConnectionAloneLosesNoColors) {
     const auto mark = client_.rootBytes(kMark);
     std::uint32_t window = 0;
     std::memcpy(&window, &mark.at(2 * sizeof window), sizeof window);
-    client_.killOwner(window);
+    session_.server().run("xkill", {"-id", std::to_string(window)});
     EXPECT_TRUE(allOwnWithin());
     EXPECT_EQ(nocturo_->wait(), 1);
 }
@@ -233,7 +231,6 @@ TEST_F(Guard, ALostConnectionAloneLosesNoColors) {
 TEST_F(Guard, AFullPipeHoldsUpNobodyElse) {
     startChanging();
     kill(true);
-    waitForTheBus();
     damageJournal();
     const fs::path pipe = session_.runtimeDirectory() / "pipe";
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
@@ -272,12 +269,11 @@ TEST_F(Guard, IsFoundWhereItIsInstalledAndDoneWithoutOtherwise) {
     ctl({"restore"});
     EXPECT_TRUE(becomes(kAllOwn)) << shown();
 
-    waitForTheBus();
     fs::copy_file("/bin/false", elsewhere / "bin" / kGuard); // one that does not stay alive
     start();
     EXPECT_TRUE(nocturo_->waitForError("it does not stay alive"));
     end();
-    for (const pid_t guard : guardsOf(getpid())) {
+    for (const pid_t guard : leftGuards()) {
         EXPECT_EQ(waitForChild(guard), 1);
     }
     EXPECT_EQ(shown(), kAllOwn);

@@ -65,9 +65,10 @@ struct Kde : NocturoTest {
         });
     }
     void kill(bool guardsToo) {
-        EXPECT_TRUE(waitUntil([&] { return guardsOf(nocturo_->id()).size() == 2; }));
-        killWith(guardsToo ? std::vector<std::string>{kProfileGuard, kSpare}
-                           : std::vector<std::string>{});
+        EXPECT_TRUE(waitUntil([&] {
+            return guardsOf(nocturo_->id(), {kProfileGuard, kSpare}).size() == 2;
+        }));
+        killWith(guardsToo ? kAnyGuard : std::vector<std::string>{});
         reapGuards();
         waitForTheBus();
     }
@@ -131,8 +132,7 @@ TEST_F(Kde, GivesTheProfileBackAfterKills) {
     ASSERT_TRUE(shows(reversed(calibration(1))));
     kill(true);
     EXPECT_TRUE(shows(reversed(calibration(1))));
-    const auto restored = session_.run("nocturoctl", {"restore"});
-    EXPECT_EQ(restored.exit, 0) << restored.errors;
+    ctl({"restore"});
     EXPECT_TRUE(has(own, 1));
 
     // With everything gone but what KWin and Nocturo keep on the disk, as after a power cut.
@@ -212,9 +212,7 @@ TEST_F(Kde, TakesPlainColorsWhereTheUsersProfileIsOfNoUse) {
 TEST_F(Kde, SaysWhatToUseInPlasma5AndEndsWhereKWinHangsUp) {
     const Compositor plasma5(Kind::plasma5, {{}});
     session_.environment()["WAYLAND_DISPLAY"] = plasma5.display();
-    const auto refused = session_.run("nocturo");
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_NE(refused.errors.find("choose its X11 session"), std::string::npos);
+    says("nocturo", {}, 1, "choose its X11 session");
 
     startOn(Kind::kwin);
     ASSERT_TRUE(shows(reversed(identity())));

@@ -198,17 +198,11 @@ TEST_F(MainJob, FollowsItsSettingsFileAndWritesItInTime) {
 
 TEST_F(MainJob, TenThousandTogglesLeaveNoTrace) {
     const auto grownBy = [&](int toggles) {
-        const auto privateKilobytes = [&] {
-            const auto rollup =
-                readText("/proc/" + std::to_string(nocturo_->id()) + "/smaps_rollup");
-            const std::string name = "Private_Dirty:";
-            return std::stol(rollup.substr(rollup.find(name) + name.size()));
-        };
-        const long before = privateKilobytes();
+        const long before = kilobytesOf("Private_Dirty:");
         const RunResult result =
-            session_.run("toggle_loop", {std::to_string(toggles)}, Milliseconds(100000));
+            session_.run("caller", {"toggle", std::to_string(toggles)}, Milliseconds(100000));
         EXPECT_EQ(result.exit, 0) << result.errors;
-        return privateKilobytes() - before;
+        return kilobytesOf("Private_Dirty:") - before;
     };
     grownBy(500); // caches fill
     // A queue grows once on a busy machine; what leaks grows again.

@@ -33,6 +33,14 @@ struct NocturoTest : testing::Test {
         EXPECT_EQ(result.exit, 0) << arguments.front() << ": " << result.errors;
         return result;
     }
+    /// Runs a program that ends so and has that in what it says.
+    void says(const std::string& program, const std::vector<std::string>& arguments, int exit,
+              const std::string& part) {
+        const RunResult result = session_.run(program, arguments);
+        EXPECT_EQ(result.exit, exit) << nlohmann::json(arguments);
+        EXPECT_NE((result.output + result.errors).find(part), std::string::npos)
+            << nlohmann::json(arguments) << result.output << result.errors;
+    }
     nlohmann::json status() { return nlohmann::json::parse(ctl({"status", "--json"}).output); }
 
     /// Selects an effect for a Nocturo that does not run, which would ask without one; with more
@@ -45,6 +53,12 @@ struct NocturoTest : testing::Test {
     void end(int signal = SIGTERM) {
         nocturo_->signal(signal);
         EXPECT_EQ(nocturo_->wait(), 0);
+    }
+
+    /// What smaps_rollup in /proc calls so, such as "Rss:".
+    long kilobytesOf(const std::string& kind) {
+        const auto rollup = readText("/proc/" + std::to_string(nocturo_->id()) + "/smaps_rollup");
+        return std::stol(rollup.substr(rollup.find(kind) + kind.size()));
     }
 
     /// xdotool's number of the first window with that in its title, once one is shown.
@@ -62,39 +76,39 @@ struct NocturoTest : testing::Test {
     /// Kills Nocturo and its guards of these names at once; whether a guard is left.
     bool killWith(const std::vector<std::string>& names) {
         nocturo_->signal(SIGSTOP); // or it starts other guards
-        std::vector<pid_t> killed;
-        std::size_t guards = 0;
-        for (const char* name : {kGuard, kBusGuard, kProfileGuard, kSpare, kNoNameYet}) {
-            const auto children = childrenNamed(nocturo_->id(), name);
-            guards += children.size();
-            if (std::find(names.begin(), names.end(), name) != names.end()) {
-                killed.insert(killed.end(), children.begin(), children.end());
-            }
-        }
+        const auto killed = guardsOf(nocturo_->id(), names);
+        const bool isLeft = guardsOf(nocturo_->id(), kAnyGuard).size() > killed.size();
         for (const pid_t guard : killed) {
             ::kill(guard, SIGKILL);
         }
         nocturo_->signal(SIGKILL);
         nocturo_->wait();
-        return guards > killed.size();
+        return isLeft;
     }
-    static std::vector<pid_t> guardsOf(pid_t parent) {
+    static std::vector<pid_t> guardsOf(pid_t parent, const std::vector<std::string>& names) {
         std::vector<pid_t> guards;
-        for (const char* name : {kGuard, kBusGuard, kProfileGuard, kSpare}) {
+        for (const std::string& name : names) {
             const std::vector<pid_t> found = childrenNamed(parent, name);
             guards.insert(guards.end(), found.begin(), found.end());
         }
         return guards;
     }
-    /// Waits for the guards that killed applications left to end as they should. Without its server
-    /// one that was still about to connect fails.
-    void reapGuards(bool serverIsGone = false) {
-        serverIsGone_ = serverIsGone_ || serverIsGone;
-        for (const pid_t guard : guardsOf(getpid())) {
+    /// Those that are left to this process by killed applications.
+    static std::vector<pid_t> leftGuards() {
+        return guardsOf(getpid(), {kGuard, kBusGuard, kProfileGuard, kSpare});
+    }
+    /// Waits for them to end as they should. Without its server one that was still about to connect
+    /// fails.
+    void reapGuards() {
+        for (const pid_t guard : leftGuards()) {
             const auto exit = waitForChild(guard);
             EXPECT_TRUE(exit == 0 || exit == 128 + SIGKILL || (serverIsGone_ && exit == 1))
                 << exit.value_or(-1);
         }
+    }
+    void killServer() {
+        serverIsGone_ = true;
+        session_.server().kill();
     }
     /// The next start would find a Nocturo running that the bus has not missed yet.
     void waitForTheBus() {
@@ -106,6 +120,8 @@ struct NocturoTest : testing::Test {
     static constexpr const char* kProfileGuard = "nocturo-profile-guard";
     static constexpr const char* kSpare = "display-keeper";
     static constexpr const char* kNoNameYet = "nocturo"; // of a guard, for a moment
+    inline static const std::vector<std::string> kAnyGuard{kGuard, kBusGuard, kProfileGuard, kSpare,
+                                                           kNoNameYet};
 
     Session session_;
     std::unique_ptr<Process> nocturo_;
@@ -154,21 +170,19 @@ struct NocturoOnX : NocturoTest {
     /// -1 when there is none. Waits a little: a new process has its parent's name for a moment.
     pid_t guardProcess() {
         std::vector<pid_t> guards;
-        waitUntil(
-            [&] {
-                guards = childrenNamed(nocturo_->id(), "nocturo-guard");
-                return guards.size() == 1; // the spare one has this name at first, too
-            },
-            Milliseconds(500));
-        return guards.size() == 1 ? guards.front() : -1;
+        const auto isAlone = [&] { // the spare one has this name at first, too
+            guards = childrenNamed(nocturo_->id(), kGuard);
+            return guards.size() == 1;
+        };
+        return waitUntil(isAlone, Milliseconds(500)) ? guards.front() : -1;
     }
-    /// With `guardsToo` also all guards.
+    /// With `guardsToo` also all guards. Afterwards the bus knows.
     void kill(bool guardsToo) {
         if (guardsToo) {
             guardProcess(); // waits for it
         }
-        killWith(guardsToo ? std::vector<std::string>{kGuard, kBusGuard, kSpare, kNoNameYet}
-                           : std::vector<std::string>{});
+        killWith(guardsToo ? kAnyGuard : std::vector<std::string>{});
+        waitForTheBus();
     }
     std::vector<std::uint8_t> journal() { return client_.rootBytes(kJournal); }
     void damageJournal() {

@@ -56,14 +56,9 @@ class Portal {
                "activation_token", "s", "token");
     }
     void grant(const char* trigger) {
-        sd_bus_message* raw = nullptr;
-        sd_bus_message_new_signal(bus_->handle(), &raw, request_.c_str(),
-                                  "org.freedesktop.portal.Request", "Response");
-        const BusMessage response(raw);
-        sd_bus_message_append(raw, "ua{sv}", 0, 2, "extra", "i", 7, "shortcuts", "a(sa{sv})", 1,
-                              "toggle", 2, "description", "s", "Toggle", "trigger_description", "s",
-                              trigger);
-        sd_bus_send(bus_->handle(), raw, nullptr);
+        signal(request_.c_str(), "org.freedesktop.portal.Request", "Response", "ua{sv}", 0, 2,
+               "extra", "i", 7, "shortcuts", "a(sa{sv})", 1, "toggle", 2, "description", "s",
+               "Toggle", "trigger_description", "s", trigger);
     }
     void grantSession() { respond(0, "session_handle", "s", session.c_str()); }
     static bool refuse(sd_bus_message* call) {

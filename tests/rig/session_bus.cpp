@@ -34,13 +34,13 @@ void SessionBus::end() {
     process_->wait();
 }
 
-SessionBus::Bus SessionBus::connect() const {
+SessionBus::Bus SessionBus::connect(const std::string& address) {
     sd_bus* raw = nullptr;
     sd_bus_new(&raw);
     Bus bus(raw);
-    if (sd_bus_set_address(raw, address_.c_str()) < 0 || sd_bus_set_bus_client(raw, true) < 0 ||
+    if (sd_bus_set_address(raw, address.c_str()) < 0 || sd_bus_set_bus_client(raw, true) < 0 ||
         sd_bus_start(raw) < 0) {
-        throw std::runtime_error("no bus at " + address_);
+        throw std::runtime_error("no bus at " + address);
     }
     return bus;
 }

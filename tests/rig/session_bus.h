@@ -15,6 +15,15 @@ namespace nocturo::rig {
 /// the variable that names them. It starts no services but those that are offered.
 class SessionBus {
   public:
+    struct Close {
+        void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
+    };
+    using Bus = std::unique_ptr<sd_bus, Close>;
+
+    /// A connection to a bus, this one or any. Throws std::runtime_error where there is none.
+    static Bus connect(const std::string& address);
+    Bus connect() const { return connect(address_); }
+
     /// Throws std::runtime_error when the bus does not start.
     SessionBus();
 
@@ -49,12 +58,6 @@ class SessionBus {
     }
 
   private:
-    struct Close {
-        void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
-    };
-    using Bus = std::unique_ptr<sd_bus, Close>;
-
-    Bus connect() const;
     static std::string objectIn(sd_bus_message* reply, sd_bus_error& error,
                                 const std::string& method);
 

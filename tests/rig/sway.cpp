@@ -73,22 +73,17 @@ Sway::Sway(int outputs, std::uint32_t rampSize) {
                         {"NOCTURO_RAMPS", directory / "ramps"},
                         {"NOCTURO_RAMP_SIZE", std::to_string(rampSize)}});
     process_ = start(directory, environment, "sway", {"--config", directory / "config"});
-    const bool up = waitUntil([&] {
-        for (const std::string& name : namesIn(directory)) {
-            if (name.starts_with("wayland-") && !name.ends_with(".lock")) {
-                fs::create_symlink(name, directory / "socket");
-                return true;
-            }
-        }
-        return !process_->isRunning();
-    });
-    if (!up || !process_->isRunning()) {
-        throw std::runtime_error("sway did not start: " + process_->errors());
-    }
     // Clients may connect before its own messages are listened to.
-    const auto answers = [&] { return message({"-t", "get_outputs"})->wait() == 0; };
-    if (!waitUntil([&] { return !process_->isRunning() || answers(); }) || !process_->isRunning()) {
-        throw std::runtime_error("sway answers nothing: " + process_->errors());
+    waitUntil([&] {
+        return message({"-t", "get_outputs"})->wait() == 0 || !process_->isRunning();
+    });
+    for (const std::string& name : namesIn(directory)) {
+        if (name.starts_with("wayland-") && !name.ends_with(".lock")) {
+            fs::create_symlink(name, directory / "socket");
+        }
+    }
+    if (!process_->isRunning() || !fs::exists(directory / "socket")) {
+        throw std::runtime_error("sway did not start: " + process_->errors());
     }
 }
 

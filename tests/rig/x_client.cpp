@@ -106,10 +106,6 @@ std::vector<std::uint8_t> XClient::rootBytes(const std::string& name) {
     return {bytes, bytes + xcb_get_property_value_length(reply.get())};
 }
 
-void XClient::killOwner(std::uint32_t window) {
-    check(raw_, xcb_kill_client_checked(raw_, window), "kill");
-}
-
 void XClient::setEdid(const std::string& output, const std::vector<std::uint8_t>& edid) {
     check(raw_,
           xcb_randr_change_output_property_checked(

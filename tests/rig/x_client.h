@@ -38,8 +38,6 @@ class XClient {
     }
     /// What the property of the root window holds, whatever its format; empty without one.
     std::vector<std::uint8_t> rootBytes(const std::string& name);
-    /// Ends the connection of the program that made the window, as xkill does.
-    void killOwner(std::uint32_t window);
     void setEdid(const std::string& output, const std::vector<std::uint8_t>& edid);
     std::uint32_t atom(const std::string& name);
 
