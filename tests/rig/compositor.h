@@ -88,7 +88,7 @@ class Compositor {
     /// The first output, as its user does in its settings, or a monitor does.
     void change(const std::function<void(Output&)>& change) {
         const std::lock_guard lock(mutex_);
-        Output changed = *outputs_.front();
+        Output changed = static_cast<const Output&>(*outputs_.front());
         change(changed);
         set(*outputs_.front(), changed);
     }
