@@ -18,7 +18,7 @@
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
 #include "documents/recent_documents.h"
-#include "own_directory.h"
+#include "harness.h"
 #include "session/desktop_sources.h"
 #include "session/disturber_finder.h"
 #include "settings/defaults_store.h"
@@ -26,6 +26,7 @@
 #include <cstdint>
 #include <cstring>
 #include <optional>
+#include <regex>
 #include <string_view>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -35,7 +36,8 @@ using namespace nocturo;
 
 namespace {
 
-FuzzedDataProvider* given = nullptr; // what the other side says now is made of
+constexpr const char* kAnybody = ":1.9"; // the name of everybody: calls without one go nowhere
+FuzzedDataProvider* given = nullptr;     // what the other side says now is made of
 
 /// What stands for the bus and everybody on it: answers every call, mostly with nonsense.
 class Others {
@@ -84,10 +86,10 @@ class Others {
             return 0;
         }
         const BusMessage owned(reply);
-        sd_bus_message_set_sender(reply, ":1.9");
+        sd_bus_message_set_sender(reply, kAnybody);
         const std::string_view member(sd_bus_message_get_member(call));
         if (member == "Hello" || member == "GetNameOwner") {
-            sd_bus_message_append(reply, "s", ":1.9");
+            sd_bus_message_append(reply, "s", kAnybody);
         } else if (member != "AddMatch" && given != nullptr) {
             fuzz::append(reply, fuzz::anySignature(*given), *given);
         }
@@ -166,81 +168,54 @@ struct World {
 };
 
 struct Member {
-    const char* path;
-    const char* interface;
-    const char* name;
-    const char* types;
+    std::string path;
+    std::string interface;
+    std::string name;
+    std::string types;
 };
 
-constexpr const char* kNocturo = "/org/nocturo/Nocturo";
-constexpr const char* kFace = "org.nocturo.Nocturo1";
-constexpr const char* kMenu = "com.canonical.dbusmenu";
-constexpr const char* kItem = "org.kde.StatusNotifierItem";
-constexpr const char* kProperties = "org.freedesktop.DBus.Properties";
-constexpr const char* kApplication = "org.freedesktop.Application";
+std::vector<Member> methods; // of all objects of Nocturo, as they tell of themselves
 
-constexpr Member kMethods[] = {{kNocturo, kFace, "SetActive", "b"},
-                               {kNocturo, kFace, "Toggle", ""},
-                               {kNocturo, kFace, "Pause", "s"},
-                               {kNocturo, kFace, "PauseWhileConnected", ""},
-                               {kNocturo, kFace, "Resume", ""},
-                               {kNocturo, kFace, "AddEffects", "as"},
-                               {kNocturo, kFace, "RemoveEffects", "as"},
-                               {kNocturo, kFace, "SetEffects", "as"},
-                               {kNocturo, kFace, "SetTemperature", "u"},
-                               {kNocturo, kFace, "StepTemperature", "i"},
-                               {kNocturo, kFace, "SetDim", "d"},
-                               {kNocturo, kFace, "StepDim", "d"},
-                               {kNocturo, kFace, "SetTint", "dd"},
-                               {kNocturo, kFace, "StepSetting", "sd"},
-                               {kNocturo, kFace, "ApplyLook", "s"},
-                               {kNocturo, kFace, "ApplyNextLook", ""},
-                               {kNocturo, kFace, "ApplyPreviousLook", ""},
-                               {kNocturo, kFace, "GoBackFromLook", ""},
-                               {kNocturo, kFace, "SaveLook", "s"},
-                               {kNocturo, kFace, "RenameLook", "ss"},
-                               {kNocturo, kFace, "DeleteLook", "s"},
-                               {kNocturo, kFace, "MoveLook", "su"},
-                               {kNocturo, kFace, "AffectAllScreens", ""},
-                               {kNocturo, kFace, "SetSetting", "sv"},
-                               {kNocturo, kFace, "ResetSetting", "s"},
-                               {kNocturo, kFace, "ToggleScreen", "u"},
-                               {kNocturo, kFace, "KeepColors", ""},
-                               {kNocturo, kFace, "SetHotKey", "s"},
-                               {kNocturo, kFace, "OpenFile", "s"},
-                               {kNocturo, kFace, "SaveFile", "s"},
-                               {kNocturo, kFace, "RenderPreview", "u"},
-                               {kNocturo, kFace, "ProvideActivationToken", "s"},
-                               {kNocturo, kFace, "Reopen", ""},
-                               {kNocturo, kFace, "Quit", ""},
-                               {kNocturo, kProperties, "GetAll", "s"},
-                               {kNocturo, kProperties, "Get", "ss"},
-                               {kNocturo, kProperties, "Set", "ssv"},
-                               {kNocturo, kApplication, "Activate", "a{sv}"},
-                               {kNocturo, kApplication, "Open", "asa{sv}"},
-                               {kNocturo, kApplication, "ActivateAction", "sava{sv}"},
-                               {nullptr, kMenu, "GetLayout", "iias"},
-                               {nullptr, kMenu, "GetGroupProperties", "aias"},
-                               {nullptr, kMenu, "GetProperty", "is"},
-                               {nullptr, kMenu, "Event", "isvu"},
-                               {nullptr, kMenu, "EventGroup", "a(isvu)"},
-                               {nullptr, kMenu, "AboutToShow", "i"},
-                               {nullptr, kMenu, "AboutToShowGroup", "ai"},
-                               {nullptr, kProperties, "GetAll", "s"},
-                               {"/StatusNotifierItem", kItem, "ContextMenu", "ii"},
-                               {"/StatusNotifierItem", kItem, "SecondaryActivate", "ii"},
-                               {"/StatusNotifierItem", kItem, "Scroll", "is"},
-                               {"/StatusNotifierItem", kItem, "ProvideXdgActivationToken", "s"},
-                               {"/StatusNotifierItem", kProperties, "GetAll", "s"}};
+int learn(sd_bus_message* description, void* path, sd_bus_error* /*error*/) {
+    const char* xml = "";
+    sd_bus_message_read(description, "s", &xml);
+    static const std::regex part(
+        R"re(<(interface|method|signal) name="([^"]*)|<arg type="([^"]*)"[^>]*direction="in")re");
+    std::string interface;
+    const std::string_view text(xml);
+    for (std::cregex_iterator each(text.begin(), text.end(), part), end; each != end; ++each) {
+        const std::string kind = each->str(1);
+        if (kind == "interface") {
+            interface = each->str(2);
+        } else if (kind == "method") {
+            methods.push_back({static_cast<const char*>(path), interface, each->str(2), ""});
+        } else if (kind.empty()) {
+            methods.back().types += each->str(3);
+        }
+    }
+    return 0;
+}
+
+void askForMethods(sd_bus* bus) {
+    for (const char* path : {"/org/nocturo/Nocturo", "/org/nocturo/Nocturo/LauncherMenu",
+                             "/MenuBar", "/StatusNotifierItem"}) {
+        sd_bus_message* call = nullptr;
+        sd_bus_message_new_method_call(bus, &call, kAnybody, path,
+                                       "org.freedesktop.DBus.Introspectable", "Introspect");
+        const BusMessage owned(call);
+        sd_bus_message_set_sender(call, kAnybody);
+        sd_bus_call_async(bus, nullptr, call, learn, const_cast<char*>(path), 0);
+    }
+}
 
 constexpr const char* kBus = "org.freedesktop.DBus";
 constexpr const char* kColord = "org.freedesktop.ColorManager";
 constexpr const char* kLogin = "org.freedesktop.login1.Manager";
 constexpr const char* kWatcher = "org.kde.StatusNotifierWatcher";
-constexpr Member kSignals[] = {
+const std::vector<Member> kSignals = {
     {"/org/freedesktop/DBus", kBus, "NameOwnerChanged", "sss"},
     {"/org/freedesktop/login1", kLogin, "PrepareForSleep", "b"},
-    {"/", kProperties, "PropertiesChanged", "sa{sv}as"},
+    {"/", "org.freedesktop.DBus.Properties", "PropertiesChanged", "sa{sv}as"},
     {"/org/freedesktop/ScreenSaver", "org.freedesktop.ScreenSaver", "ActiveChanged", "b"},
     {"/org/gnome/ScreenSaver", "org.gnome.ScreenSaver", "ActiveChanged", "b"},
     {"/org/freedesktop/ColorManager", kColord, "DeviceAdded", "o"},
@@ -249,21 +224,20 @@ constexpr Member kSignals[] = {
 
 void say(sd_bus* bus, FuzzedDataProvider& data) {
     sd_bus_message* message = nullptr;
-    const Member* member = nullptr;
-    if (data.ConsumeProbability<float>() > 0.3F) {
-        member = &kMethods[data.ConsumeIntegralInRange<std::size_t>(0, std::size(kMethods) - 1)];
-        const char* menu = data.ConsumeBool() ? "/MenuBar" : "/org/nocturo/Nocturo/Menu";
-        sd_bus_message_new_method_call(bus, &message, nullptr,
-                                       member->path != nullptr ? member->path : menu,
-                                       member->interface, member->name);
+    const bool isCall = data.ConsumeProbability<float>() > 0.3F;
+    const auto& members = isCall ? methods : kSignals;
+    const Member& member = members[data.ConsumeIntegralInRange<std::size_t>(0, members.size() - 1)];
+    if (isCall) {
+        sd_bus_message_new_method_call(bus, &message, kAnybody, member.path.c_str(),
+                                       member.interface.c_str(), member.name.c_str());
     } else {
-        member = &kSignals[data.ConsumeIntegralInRange<std::size_t>(0, std::size(kSignals) - 1)];
-        sd_bus_message_new_signal(bus, &message, member->path, member->interface, member->name);
+        sd_bus_message_new_signal(bus, &message, member.path.c_str(), member.interface.c_str(),
+                                  member.name.c_str());
     }
     const BusMessage owned(message);
-    sd_bus_message_set_sender(message, member->interface == kBus ? kBus : ":1.9");
+    sd_bus_message_set_sender(message, member.interface == kBus ? kBus : kAnybody);
     const bool isOdd = data.ConsumeProbability<float>() > 0.9F;
-    fuzz::append(message, isOdd ? fuzz::anySignature(data) : member->types, data);
+    fuzz::append(message, isOdd ? fuzz::anySignature(data) : member.types, data);
     sd_bus_send(bus, message, nullptr);
 }
 
@@ -290,6 +264,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         world.reset();
         world = std::make_unique<World>(others.address);
         settle(*world, others);
+        methods.clear();
+        for (const BusHandle& bus : others.connections) {
+            askForMethods(bus.get());
+        }
+        settle(*world, others);
+        fuzz::need(methods.size() > 40);
     }
     for (int i = 0; i < 4 && data.remaining_bytes() > 0 && !others.connections.empty(); ++i) {
         say(data.PickValueInArray(

@@ -1,24 +1,14 @@
 #include "displays/calibration/calibration_profile.h"
 #include "displays/display_identifiers.h"
 #include "displays/guard/journal.h"
+#include "harness.h"
 #include "hotkeys/hot_key_text.h"
 #include "hotkeys/key_naming.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-#include <string_view>
-
 using namespace nocturo;
+using fuzz::need;
 
 namespace {
-
-void need(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// A profile is refused or gives ramps that a screen can be read through.
 void readProfile(std::span<const std::uint8_t> bytes) {
@@ -52,25 +42,13 @@ void readHotKey(std::string_view text) {
 
 } // namespace
 
-/// The first byte chooses who reads the rest.
+/// What monitors, colour programs, users and earlier runs may hand over.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size == 0) {
-        return 0;
-    }
-    const std::span bytes(data + 1, size - 1);
-    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    switch (data[0] % 4) {
-    case 0:
-        readProfile(bytes);
-        break;
-    case 1:
-        readEdid(bytes);
-        break;
-    case 2:
-        readJournal(text);
-        break;
-    default:
-        readHotKey(text);
-    }
+    const std::span bytes(data, size);
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    readProfile(bytes);
+    readEdid(bytes);
+    readJournal(text);
+    readHotKey(text);
     return 0;
 }

@@ -1,11 +1,18 @@
 #pragma once
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include <unistd.h>
 
 namespace nocturo::fuzz {
+
+inline void need(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
 
 /// A directory of this process's own, which the end of the process leaves behind.
 inline const std::filesystem::path& ownDirectory() {
