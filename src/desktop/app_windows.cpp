@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QImage>
 #include <QLabel>
@@ -199,11 +200,10 @@ void AppWindows::loadPreferences() {
     NDPreferencesController& preferences = preferencesController();
     if (!preferences.isWindowLoaded()) {
         preferences.loadWindow();
-        if (!placeFile.empty()) {
-            const QSettings kept(QString::fromStdString(placeFile), QSettings::IniFormat);
-            preferences.window()->restoreGeometry(kept.value(kGeometry).toByteArray());
+        if (const auto kept = keptPlace()) {
+            preferences.window()->restoreGeometry(kept->value(kGeometry).toByteArray());
             fitAnyScreen(*preferences.window());
-            preferences.showPage(kept.value(kPage).toInt());
+            preferences.showPage(kept->value(kPage).toInt());
         }
         QObject::connect(preferences.window(), &PreferencePanel::closed, &preferences,
                          [this] { savePlace(); });
@@ -211,11 +211,18 @@ void AppWindows::loadPreferences() {
     furnishPreferences();
 }
 
+std::unique_ptr<QSettings> AppWindows::keptPlace() const {
+    const QFileInfo file(QString::fromStdString(placeFile));
+    const bool isInTheWay = file.exists() && !file.isFile(); // a pipe would be waited for
+    return placeFile.empty() || isInTheWay
+               ? nullptr
+               : std::make_unique<QSettings>(file.filePath(), QSettings::IniFormat);
+}
+
 void AppWindows::savePlace() const {
-    if (!placeFile.empty()) {
-        QSettings kept(QString::fromStdString(placeFile), QSettings::IniFormat);
-        kept.setValue(kGeometry, preferenceController->window()->saveGeometry());
-        kept.setValue(kPage, preferenceController->page());
+    if (const auto kept = keptPlace()) {
+        kept->setValue(kGeometry, preferenceController->window()->saveGeometry());
+        kept->setValue(kPage, preferenceController->page());
     }
 }
 

@@ -12,6 +12,8 @@
 #include <functional>
 #include <memory>
 
+class QSettings;
+
 namespace nocturo {
 
 class Autostart;
@@ -85,6 +87,8 @@ class AppWindows : public UserInterface {
   private:
     NDPreferencesController& preferencesController();
     void furnishPreferences();
+    /// None where nothing is kept, or something that is no file is in its way.
+    std::unique_ptr<QSettings> keptPlace() const;
     void savePlace() const;
     const ZQGammaCurve* capturedCurve(CGDirectDisplayID display) const;
 
