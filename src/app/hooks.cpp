@@ -14,10 +14,6 @@ namespace nocturo {
 
 namespace {
 
-std::string nameOf(const Look* look) {
-    return look != nullptr ? look->name : std::string();
-}
-
 std::string onOrOff(bool on) {
     return on ? "on" : "off";
 }
@@ -47,7 +43,7 @@ Hooks::~Hooks() {
 // Looks are files, which nobody is to read for hooks that are not there.
 void Hooks::launchDidFinish() {
     if (runner_.hasHooks()) {
-        look_ = nameOf(chosenLook_.inForce());
+        look_ = chosenLook_.nameInForce();
         knowsLook_ = true;
     }
 }
@@ -65,9 +61,9 @@ void Hooks::tell() {
     tell("active-changed", active_, onOrOff(controller_.effectActive()));
     tell("paused", paused_, onOrOff(controller_.isPaused()));
     if (!std::exchange(knowsLook_, runner_.hasHooks())) {
-        look_ = knowsLook_ ? nameOf(chosenLook_.inForce()) : std::string();
+        look_ = knowsLook_ ? chosenLook_.nameInForce() : std::string();
     } else if (knowsLook_) {
-        tell("look-changed", look_, nameOf(chosenLook_.inForce()));
+        tell("look-changed", look_, chosenLook_.nameInForce());
     }
 }
 

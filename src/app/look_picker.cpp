@@ -9,8 +9,8 @@
 namespace nocturo {
 
 void LookPicker::pick(const std::string& name) {
-    const Look* inForce = chosen_.inForce();
-    if (inForce != nullptr && inForce->name == name && controller_.effectActive()) {
+    const std::string before = chosen_.nameInForce();
+    if (before == name && controller_.effectActive()) {
         leave();
         return;
     }
@@ -19,7 +19,7 @@ void LookPicker::pick(const std::string& name) {
     }
     // From one look to the next it stays what the first one found.
     const bool wasOn = controller_.effectActive();
-    switchedOn_ = !wasOn || (switchedOn_ && inForce != nullptr);
+    switchedOn_ = !wasOn || (switchedOn_ && !before.empty());
     if (!wasOn) {
         controller_.setEffectActive(true, true);
     }

@@ -12,14 +12,6 @@
 
 namespace nocturo {
 
-namespace {
-
-std::string nameOf(const Look* look) {
-    return look != nullptr ? look->name : std::string();
-}
-
-} // namespace
-
 LooksMenu::LooksMenu(LookPicker& picker, NotificationCenter& localCenter, Menu& menu,
                      Menu::Id afterItem)
     : picker_(picker), localCenter_(localCenter), menu_(menu) {
@@ -49,7 +41,7 @@ void LooksMenu::list() {
     for (; items_.size() > looks.size(); items_.pop_back()) {
         menu_.remove(items_.back());
     }
-    ticked_ = nameOf(picker_.chosen().inForce());
+    ticked_ = picker_.chosen().nameInForce();
     for (std::size_t place = 0; place < looks.size(); ++place) {
         MenuItem item;
         item.text = withoutMnemonic(looks[place].title);
@@ -67,7 +59,7 @@ void LooksMenu::list() {
 }
 
 void LooksMenu::tick() {
-    if (nameOf(picker_.chosen().inForce()) != ticked_) {
+    if (picker_.chosen().nameInForce() != ticked_) {
         list();
     }
 }

@@ -38,7 +38,7 @@ Ruling whoWins(const Claims& claims) {
     if (claims.pause) {
         return {*claims.pause, Ruler::pause};
     }
-    const Ruling ruling = rulingByItself(claims);
+    Ruling ruling = rulingByItself(claims);
     if (ruling.by == Ruler::settings) {
         return ruling; // they are the hand's
     }

@@ -187,8 +187,7 @@ BusValue ToldState::temperature() const {
 }
 
 BusValue ToldState::look() const {
-    const Look* look = chosenLook_.inForce();
-    return look != nullptr ? look->name : std::string();
+    return chosenLook_.nameInForce();
 }
 
 BusValue ToldState::looks() const {

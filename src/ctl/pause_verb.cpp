@@ -3,6 +3,7 @@
 #include "ctl/bus_client.h"
 #include "ctl/failure.h"
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -20,11 +21,8 @@ namespace {
 /// Starts the command as a shell would, with all signals as they are by themselves.
 pid_t start(Arguments command) {
     std::vector<std::string> words(command.begin(), command.end());
-    std::vector<char*> pointers;
-    for (std::string& word : words) {
-        pointers.push_back(word.data());
-    }
-    pointers.push_back(nullptr);
+    std::vector<char*> pointers(words.size() + 1); // the last is null
+    std::ranges::transform(words, pointers.begin(), [](std::string& word) { return word.data(); });
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     sigset_t none;

@@ -165,7 +165,7 @@ std::string titleOfLookInForce(const Json& properties) {
 }
 
 std::string wordsOfHotKey(const Json& hotKey) {
-    const auto text = hotKey["text"].get<std::string>();
+    auto text = hotKey["text"].get<std::string>();
     const auto keyCode = hotKey.find("keyCode");
     const auto flags = hotKey.find("modifierFlags");
     if (keyCode == hotKey.end() || !keyCode->is_number_integer() || flags == hotKey.end() ||

@@ -28,6 +28,11 @@ void ChosenLook::change(const EffectDocument& effects) {
     setCurrentEffects(effects);
 }
 
+std::string ChosenLook::nameInForce() {
+    const Look* look = inForce();
+    return look != nullptr ? look->name : std::string();
+}
+
 Result<void> ChosenLook::apply(std::string_view name) {
     const Look* look = looks_.named(name);
     if (look == nullptr) {

@@ -26,6 +26,9 @@ class ChosenLook {
     /// several do. Null where none does. Valid until the looks change.
     const Look* inForce();
 
+    /// Its name; empty where none is.
+    std::string nameInForce();
+
     Result<void> apply(std::string_view name);
 
     /// Applies the look after or before the one in force, round and round; from none, the first or

@@ -94,8 +94,7 @@ void LooksBox::list() {
 
 void LooksBox::tick() {
     if (chosen_ != nullptr) {
-        const Look* look = chosen_->inForce();
-        row_->setInForce(look != nullptr ? look->name : std::string());
+        row_->setInForce(chosen_->nameInForce());
     }
 }
 
