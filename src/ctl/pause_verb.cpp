@@ -51,7 +51,7 @@ int exitStatus(int status) {
     constexpr std::array kSignals = {SIGCHLD};
     BusClient client;
     client.call(kMethod);
-    const auto again = client.callThoseToCome(kMethod);
+    [[maybe_unused]] const auto again = client.callThoseToCome(kMethod);
     EventLoop& loop = client.loop();
     pid_t process = 0;
     loop.handleSignals(kSignals, [&](int) {
