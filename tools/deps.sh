@@ -25,6 +25,7 @@ run          libwayland-dev            Wayland
 run          libxkbcommon-x11-dev      what keys type
 run          liblcms2-dev              color profiles
 run          libsystemd-dev            event loop, bus
+run          libnova-dev               where the sun stands
 run          nlohmann-json3-dev        status --json
 run          libexpected-dev           results
 test         libgtest-dev              tests
@@ -167,7 +168,7 @@ install_on_debian() {
 list_elsewhere() {
   local group kind names name missing=()
   echo "This is not Debian or a relative of it, so nothing is installed. Needed are Qt 6.4 or later with"
-  echo "Widgets, DBus and LinguistTools, tl-expected, for tests Xorg's dummy video driver, and:"
+  echo "Widgets, DBus and LinguistTools, tl-expected, libnova, for tests Xorg's dummy video driver, and:"
   while read -r group kind names; do
     [[ "$groups " == *" $group "* ]] || continue
     echo "  $kind: $names"

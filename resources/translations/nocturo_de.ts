@@ -395,30 +395,6 @@
             <translation>nicht angeschlossenen Bildschirmen</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
-            <source>Paused: screen saver</source>
-            <translation>Pause: Bildschirmschoner</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>Pause bis %@</translation>
-        </message>
-        <message>
-            <source>Paused until you go on</source>
-            <translation>Pause, bis Sie fortfahren</translation>
-        </message>
-        <message>
-            <source>Off. Choose effects, then switch on</source>
-            <translation>Aus. Wählen Sie Effekte und schalten Sie dann ein</translation>
-        </message>
-        <message>
-            <source>Off. When on: %@</source>
-            <translation>Aus. Beim Einschalten: %@</translation>
-        </message>
-        <message>
             <source>On, but no effect is chosen</source>
             <translation>Ein, aber es ist kein Effekt gewählt</translation>
         </message>
@@ -431,8 +407,72 @@
             <translation>%1$@, aber nicht auf %2$@</translation>
         </message>
         <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Aus. Wählen Sie Effekte und schalten Sie dann ein</translation>
+        </message>
+        <message>
+            <source>Off. When on: %@</source>
+            <translation>Aus. Beim Einschalten: %@</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>Pause: Bildschirmschoner</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>Pause, bis Sie fortfahren</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>Pause bis %@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Aus</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@; von Hand</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@; von Hand bis %2$@</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@; nach Zeitplan</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@; nach Zeitplan bis %2$@</translation>
+        </message>
+        <message>
+            <source>Nobody knows when that is: "%@".</source>
+            <translation>Niemand weiß, wann das ist: „%@“.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>Einen Look „%@“ gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>The time zone has no place for the sun; set one with: nocturoctl set SchedulePlace "52.5 13.4"</source>
+            <translation>Die Zeitzone hat keinen Ort für die Sonne; setzen Sie einen mit: nocturoctl set SchedulePlace "52.5 13.4"</translation>
+        </message>
+        <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>„%@“ ist keine Zeit für eine Pause wie 30m, 2h oder until 18:00.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ points at most.</source>
+            <translation>„%1$@“ nimmt eine Liste von höchstens %2$@ Punkten.</translation>
+        </message>
+        <message>
+            <source>The schedule has no point %@.</source>
+            <translation>Der Zeitplan hat keinen Punkt %@.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -501,10 +541,6 @@
         <message>
             <source>Paused</source>
             <translation>Pausiert</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Aus</translation>
         </message>
         <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
@@ -587,6 +623,16 @@
 morning; while a command runs; or until you switch the effect or say cancel.</source>
             <translation>So lange, etwa 30m, 2h oder 1h30m; until 18:00 oder until tomorrow, das ist sechs Uhr
 morgens; while, solange ein Befehl läuft; sonst bis Sie den Effekt schalten oder cancel sagen.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens by the clock and the sun</source>
+            <translation>Zeigen oder ändern, was nach Uhr und Sonne geschieht</translation>
+        </message>
+        <message>
+            <source>A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a
+time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
+            <translation>POINT ist eine Zeit und ein Look oder off: 07:00 off, sunset-00:30 Warm evening. Statt einer
+Uhrzeit geht dawn, sunrise, sunset oder dusk. list und next nehmen --json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -967,6 +1013,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Der Compositor %@ antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
+            <translation>Der Zeitplan ist nicht in Gebrauch; nocturoctl schedule on ändert das.</translation>
+        </message>
+        <message>
+            <source>Nothing is scheduled.</source>
+            <translation>Nichts ist geplant.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
@@ -1409,10 +1463,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Der X-Server %@ ist nicht erreichbar.</translation>
         </message>
         <message>
-            <source>There is no look "%@".</source>
-            <translation>Einen Look „%@“ gibt es nicht.</translation>
-        </message>
-        <message>
             <source>There are no looks.</source>
             <translation>Es gibt keine Looks.</translation>
         </message>
@@ -1711,6 +1761,10 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <translation>Ohne Sitzungsbus kann dem laufenden Nocturo kein Dokument übergeben werden.</translation>
         </message>
         <message>
+            <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
+            <translation>„%@“ ist kein Punkt eines Zeitplans wie 07:00 off oder sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
             <source>the selected effects</source>
             <translation>die gewählten Effekte</translation>
         </message>
@@ -1771,6 +1825,18 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <translation>Farbfilter: Stärke, 0 bis 1</translation>
         </message>
         <message>
+            <source>switch and choose looks by the schedule</source>
+            <translation>nach dem Zeitplan schalten und Looks wählen</translation>
+        </message>
+        <message>
+            <source>the schedule: times with looks or off</source>
+            <translation>der Zeitplan: Zeiten mit Looks oder off</translation>
+        </message>
+        <message>
+            <source>where the sun is looked at; empty: by the time zone</source>
+            <translation>wo die Sonne betrachtet wird; leer: nach Zeitzone</translation>
+        </message>
+        <message>
             <source>the f.lux warning was answered</source>
             <translation>die Warnung vor f.lux wurde beantwortet</translation>
         </message>
@@ -1785,6 +1851,10 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
         <message>
             <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
             <translation>„%1$@“ nimmt nur Effekte, und einen Effekt „%2$@“ gibt es nicht.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a place such as 52.5 13.4 or 33.9S 151.2E.</source>
+            <translation>„%@“ nimmt einen Ort wie 52.5 13.4 oder 33.9S 151.2E.</translation>
         </message>
         <message>
             <source>"%@" takes true or false.</source>

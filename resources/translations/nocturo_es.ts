@@ -395,30 +395,6 @@
             <translation>pantallas que no están conectadas</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
-            <source>Paused: screen saver</source>
-            <translation>En pausa: salvapantallas</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>En pausa hasta %@</translation>
-        </message>
-        <message>
-            <source>Paused until you go on</source>
-            <translation>En pausa hasta que continúe</translation>
-        </message>
-        <message>
-            <source>Off. Choose effects, then switch on</source>
-            <translation>Desactivado. Elija efectos y luego actívelo</translation>
-        </message>
-        <message>
-            <source>Off. When on: %@</source>
-            <translation>Desactivado. Al activarlo: %@</translation>
-        </message>
-        <message>
             <source>On, but no effect is chosen</source>
             <translation>Activado, pero no hay ningún efecto elegido</translation>
         </message>
@@ -431,8 +407,72 @@
             <translation>%1$@, pero no en %2$@</translation>
         </message>
         <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Desactivado. Elija efectos y luego actívelo</translation>
+        </message>
+        <message>
+            <source>Off. When on: %@</source>
+            <translation>Desactivado. Al activarlo: %@</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>En pausa: salvapantallas</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>En pausa hasta que continúe</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>En pausa hasta %@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Desactivado</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@; a mano</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@; a mano hasta %2$@</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@; según el horario</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@; según el horario hasta %2$@</translation>
+        </message>
+        <message>
+            <source>Nobody knows when that is: "%@".</source>
+            <translation>Nadie sabe cuándo es: «%@».</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>No existe el aspecto «%@».</translation>
+        </message>
+        <message>
+            <source>The time zone has no place for the sun; set one with: nocturoctl set SchedulePlace "52.5 13.4"</source>
+            <translation>La zona horaria no tiene un lugar para el sol; indique uno con: nocturoctl set SchedulePlace "52.5 13.4"</translation>
+        </message>
+        <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>«%@» no es un tiempo de pausa como 30m, 2h o until 18:00.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ points at most.</source>
+            <translation>«%1$@» admite una lista de %2$@ puntos como máximo.</translation>
+        </message>
+        <message>
+            <source>The schedule has no point %@.</source>
+            <translation>El horario no tiene un punto %@.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -501,10 +541,6 @@
         <message>
             <source>Paused</source>
             <translation>En pausa</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Desactivado</translation>
         </message>
         <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
@@ -587,6 +623,16 @@
 morning; while a command runs; or until you switch the effect or say cancel.</source>
             <translation>Ese tiempo, como 30m, 2h o 1h30m; until 18:00, o until tomorrow, que son las seis de la
 mañana; while, mientras se ejecuta una orden; o hasta que active el efecto o diga cancel.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens by the clock and the sun</source>
+            <translation>Mostrar o cambiar lo que ocurre según el reloj y el sol</translation>
+        </message>
+        <message>
+            <source>A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a
+time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
+            <translation>POINT es una hora y un aspecto u off: 07:00 off, sunset-00:30 Warm evening. En vez de una
+hora puede tener dawn, sunrise, sunset o dusk. list y next admiten --json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -967,6 +1013,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>El compositor %@ no responde.</translation>
+        </message>
+        <message>
+            <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
+            <translation>El horario no está en uso; nocturoctl schedule on lo cambia.</translation>
+        </message>
+        <message>
+            <source>Nothing is scheduled.</source>
+            <translation>No hay nada previsto.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
@@ -1409,10 +1463,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>No se puede acceder al servidor X %@.</translation>
         </message>
         <message>
-            <source>There is no look "%@".</source>
-            <translation>No existe el aspecto «%@».</translation>
-        </message>
-        <message>
             <source>There are no looks.</source>
             <translation>No hay aspectos.</translation>
         </message>
@@ -1711,6 +1761,10 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <translation>Sin un bus de sesión no se puede pasar un documento al Nocturo en ejecución.</translation>
         </message>
         <message>
+            <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
+            <translation>«%@» no es un punto de un horario como 07:00 off o sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
             <source>the selected effects</source>
             <translation>los efectos elegidos</translation>
         </message>
@@ -1771,6 +1825,18 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <translation>filtro de color: intensidad, de 0 a 1</translation>
         </message>
         <message>
+            <source>switch and choose looks by the schedule</source>
+            <translation>activar y elegir aspectos según el horario</translation>
+        </message>
+        <message>
+            <source>the schedule: times with looks or off</source>
+            <translation>el horario: horas con aspectos u off</translation>
+        </message>
+        <message>
+            <source>where the sun is looked at; empty: by the time zone</source>
+            <translation>dónde se mira el sol; vacío: según la zona horaria</translation>
+        </message>
+        <message>
             <source>the f.lux warning was answered</source>
             <translation>se respondió a la advertencia sobre f.lux</translation>
         </message>
@@ -1785,6 +1851,10 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
         <message>
             <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
             <translation>«%1$@» solo admite efectos, y no existe el efecto «%2$@».</translation>
+        </message>
+        <message>
+            <source>"%@" takes a place such as 52.5 13.4 or 33.9S 151.2E.</source>
+            <translation>«%@» admite un lugar como 52.5 13.4 o 33.9S 151.2E.</translation>
         </message>
         <message>
             <source>"%@" takes true or false.</source>

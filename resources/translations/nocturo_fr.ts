@@ -395,30 +395,6 @@
             <translation>des écrans qui ne sont pas connectés</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@ %%</translation>
-        </message>
-        <message>
-            <source>Paused: screen saver</source>
-            <translation>En pause : écran de veille</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>En pause jusqu’à %@</translation>
-        </message>
-        <message>
-            <source>Paused until you go on</source>
-            <translation>En pause jusqu’à ce que vous repreniez</translation>
-        </message>
-        <message>
-            <source>Off. Choose effects, then switch on</source>
-            <translation>Désactivé. Choisissez des effets, puis activez</translation>
-        </message>
-        <message>
-            <source>Off. When on: %@</source>
-            <translation>Désactivé. Une fois activé : %@</translation>
-        </message>
-        <message>
             <source>On, but no effect is chosen</source>
             <translation>Activé, mais aucun effet n’est choisi</translation>
         </message>
@@ -431,8 +407,72 @@
             <translation>%1$@, mais pas sur %2$@</translation>
         </message>
         <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Désactivé. Choisissez des effets, puis activez</translation>
+        </message>
+        <message>
+            <source>Off. When on: %@</source>
+            <translation>Désactivé. Une fois activé : %@</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@ %%</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>En pause : écran de veille</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>En pause jusqu’à ce que vous repreniez</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>En pause jusqu’à %@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Désactivé</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@ ; à la main</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@ ; à la main jusqu’à %2$@</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@ ; selon le programme</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@ ; selon le programme jusqu’à %2$@</translation>
+        </message>
+        <message>
+            <source>Nobody knows when that is: "%@".</source>
+            <translation>Personne ne sait quand c’est : « %@ ».</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>L’apparence « %@ » n’existe pas.</translation>
+        </message>
+        <message>
+            <source>The time zone has no place for the sun; set one with: nocturoctl set SchedulePlace "52.5 13.4"</source>
+            <translation>Le fuseau horaire n’a pas de lieu pour le soleil ; indiquez-en un avec : nocturoctl set SchedulePlace "52.5 13.4"</translation>
+        </message>
+        <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>« %@ » n’est pas une durée de pause telle que 30m, 2h ou until 18:00.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ points at most.</source>
+            <translation>« %1$@ » accepte une liste de %2$@ points au plus.</translation>
+        </message>
+        <message>
+            <source>The schedule has no point %@.</source>
+            <translation>Le programme n’a pas de point %@.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -501,10 +541,6 @@
         <message>
             <source>Paused</source>
             <translation>En pause</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Désactivé</translation>
         </message>
         <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
@@ -587,6 +623,16 @@
 morning; while a command runs; or until you switch the effect or say cancel.</source>
             <translation>Pendant cette durée, comme 30m, 2h ou 1h30m ; until 18:00, ou until tomorrow, soit six
 heures du matin ; while, tant qu’une commande tourne ; ou jusqu’à une bascule ou cancel.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens by the clock and the sun</source>
+            <translation>Afficher ou changer ce qui se fait selon l’heure et le soleil</translation>
+        </message>
+        <message>
+            <source>A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a
+time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
+            <translation>POINT est une heure et une apparence ou off : 07:00 off, sunset-00:30 Warm evening. Au lieu d’une
+heure il peut avoir dawn, sunrise, sunset ou dusk. list et next acceptent --json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -967,6 +1013,14 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Le compositeur %@ ne répond pas.</translation>
+        </message>
+        <message>
+            <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
+            <translation>Le programme n’est pas utilisé ; nocturoctl schedule on y remédie.</translation>
+        </message>
+        <message>
+            <source>Nothing is scheduled.</source>
+            <translation>Rien n’est prévu.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
@@ -1409,10 +1463,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Le serveur X %@ est injoignable.</translation>
         </message>
         <message>
-            <source>There is no look "%@".</source>
-            <translation>L’apparence « %@ » n’existe pas.</translation>
-        </message>
-        <message>
             <source>There are no looks.</source>
             <translation>Il n’y a pas d’apparences.</translation>
         </message>
@@ -1711,6 +1761,10 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <translation>Sans bus de session, aucun document ne peut être transmis au Nocturo en cours d’exécution.</translation>
         </message>
         <message>
+            <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
+            <translation>« %@ » n’est pas un point d’un programme tel que 07:00 off ou sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
             <source>the selected effects</source>
             <translation>les effets choisis</translation>
         </message>
@@ -1771,6 +1825,18 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <translation>filtre coloré : intensité, de 0 à 1</translation>
         </message>
         <message>
+            <source>switch and choose looks by the schedule</source>
+            <translation>basculer et choisir les apparences selon le programme</translation>
+        </message>
+        <message>
+            <source>the schedule: times with looks or off</source>
+            <translation>le programme : des heures avec apparences ou off</translation>
+        </message>
+        <message>
+            <source>where the sun is looked at; empty: by the time zone</source>
+            <translation>où l’on regarde le soleil ; vide : selon le fuseau horaire</translation>
+        </message>
+        <message>
             <source>the f.lux warning was answered</source>
             <translation>l’avertissement sur f.lux a reçu une réponse</translation>
         </message>
@@ -1785,6 +1851,10 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
         <message>
             <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
             <translation>« %1$@ » n’accepte que des effets, et l’effet « %2$@ » n’existe pas.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a place such as 52.5 13.4 or 33.9S 151.2E.</source>
+            <translation>« %@ » accepte un lieu comme 52.5 13.4 ou 33.9S 151.2E.</translation>
         </message>
         <message>
             <source>"%@" takes true or false.</source>

@@ -395,30 +395,6 @@
             <translation>接続されていない画面</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
-            <source>Paused: screen saver</source>
-            <translation>一時停止中: スクリーンセーバー</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>%@ まで一時停止中</translation>
-        </message>
-        <message>
-            <source>Paused until you go on</source>
-            <translation>再開するまで一時停止中</translation>
-        </message>
-        <message>
-            <source>Off. Choose effects, then switch on</source>
-            <translation>オフ。効果を選んでからオンにしてください</translation>
-        </message>
-        <message>
-            <source>Off. When on: %@</source>
-            <translation>オフ。オンにすると: %@</translation>
-        </message>
-        <message>
             <source>On, but no effect is chosen</source>
             <translation>オンですが、効果が選ばれていません</translation>
         </message>
@@ -431,8 +407,72 @@
             <translation>%1$@（%2$@を除く）</translation>
         </message>
         <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>オフ。効果を選んでからオンにしてください</translation>
+        </message>
+        <message>
+            <source>Off. When on: %@</source>
+            <translation>オフ。オンにすると: %@</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>一時停止中: スクリーンセーバー</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>再開するまで一時停止中</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>%@ まで一時停止中</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>オフ</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@（手動）</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@（%2$@ まで手動）</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@（スケジュール）</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@（%2$@ までスケジュール）</translation>
+        </message>
+        <message>
+            <source>Nobody knows when that is: "%@".</source>
+            <translation>それがいつかは分かりません: 「%@」。</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>「%@」というルックはありません。</translation>
+        </message>
+        <message>
+            <source>The time zone has no place for the sun; set one with: nocturoctl set SchedulePlace "52.5 13.4"</source>
+            <translation>タイムゾーンに太陽の場所がありません。次のように設定してください: nocturoctl set SchedulePlace "52.5 13.4"</translation>
+        </message>
+        <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>「%@」は、30m、2h、until 18:00 のような一時停止の時間ではありません。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ points at most.</source>
+            <translation>「%1$@」には最大 %2$@ 個のポイントのリストを指定します。</translation>
+        </message>
+        <message>
+            <source>The schedule has no point %@.</source>
+            <translation>スケジュールにポイント %@ はありません。</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -501,10 +541,6 @@
         <message>
             <source>Paused</source>
             <translation>一時停止</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>オフ</translation>
         </message>
         <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
@@ -587,6 +623,16 @@
 morning; while a command runs; or until you switch the effect or say cancel.</source>
             <translation>30m、2h、1h30m のような時間の間。until 18:00、または朝 6 時を指す until tomorrow まで。
 while でコマンドの実行中。それ以外は、エフェクトを切り替えるか cancel と指定するまで。</translation>
+        </message>
+        <message>
+            <source>Show or change what happens by the clock and the sun</source>
+            <translation>時刻と太陽によって起こることを表示または変更する</translation>
+        </message>
+        <message>
+            <source>A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a
+time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
+            <translation>POINT は時刻とルックまたは off です: 07:00 off、sunset-00:30 Warm evening。時刻の代わりに
+dawn、sunrise、sunset、dusk も使えます。list と next には --json を付けられます。</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -966,6 +1012,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>コンポジター %@ が応答しません。</translation>
+        </message>
+        <message>
+            <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
+            <translation>スケジュールは使われていません。nocturoctl schedule on で使います。</translation>
+        </message>
+        <message>
+            <source>Nothing is scheduled.</source>
+            <translation>予定はありません。</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
@@ -1408,10 +1462,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>X サーバー %@ に接続できません。</translation>
         </message>
         <message>
-            <source>There is no look "%@".</source>
-            <translation>「%@」というルックはありません。</translation>
-        </message>
-        <message>
             <source>There are no looks.</source>
             <translation>ルックがありません。</translation>
         </message>
@@ -1710,6 +1760,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>セッションバスがないため、起動中の Nocturo にドキュメントを渡せません。</translation>
         </message>
         <message>
+            <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
+            <translation>「%@」は 07:00 off や sunset-00:30 Warm evening のようなスケジュールのポイントではありません。</translation>
+        </message>
+        <message>
             <source>the selected effects</source>
             <translation>選択された効果</translation>
         </message>
@@ -1770,6 +1824,18 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>カラーフィルター: 強さ、0～1</translation>
         </message>
         <message>
+            <source>switch and choose looks by the schedule</source>
+            <translation>スケジュールで切り替えとルックの選択を行う</translation>
+        </message>
+        <message>
+            <source>the schedule: times with looks or off</source>
+            <translation>スケジュール: 時刻とルックまたは off</translation>
+        </message>
+        <message>
+            <source>where the sun is looked at; empty: by the time zone</source>
+            <translation>太陽を見る場所。空ならタイムゾーンによる</translation>
+        </message>
+        <message>
             <source>the f.lux warning was answered</source>
             <translation>f.lux についての警告に回答済み</translation>
         </message>
@@ -1784,6 +1850,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
             <translation>「%1$@」には効果だけを指定できますが、「%2$@」という効果はありません。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a place such as 52.5 13.4 or 33.9S 151.2E.</source>
+            <translation>「%@」には 52.5 13.4 や 33.9S 151.2E のような場所を指定します。</translation>
         </message>
         <message>
             <source>"%@" takes true or false.</source>

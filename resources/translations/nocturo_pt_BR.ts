@@ -395,30 +395,6 @@
             <translation>telas que não estão conectadas</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
-            <source>Paused: screen saver</source>
-            <translation>Em pausa: protetor de tela</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>Em pausa até %@</translation>
-        </message>
-        <message>
-            <source>Paused until you go on</source>
-            <translation>Em pausa até você continuar</translation>
-        </message>
-        <message>
-            <source>Off. Choose effects, then switch on</source>
-            <translation>Desligado. Escolha efeitos e depois ligue</translation>
-        </message>
-        <message>
-            <source>Off. When on: %@</source>
-            <translation>Desligado. Ao ligar: %@</translation>
-        </message>
-        <message>
             <source>On, but no effect is chosen</source>
             <translation>Ligado, mas nenhum efeito foi escolhido</translation>
         </message>
@@ -431,8 +407,72 @@
             <translation>%1$@, mas não em %2$@</translation>
         </message>
         <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>Desligado. Escolha efeitos e depois ligue</translation>
+        </message>
+        <message>
+            <source>Off. When on: %@</source>
+            <translation>Desligado. Ao ligar: %@</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>Em pausa: protetor de tela</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>Em pausa até você continuar</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>Em pausa até %@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Desativado</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@; à mão</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@; à mão até %2$@</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@; pela agenda</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@; pela agenda até %2$@</translation>
+        </message>
+        <message>
+            <source>Nobody knows when that is: "%@".</source>
+            <translation>Ninguém sabe quando é: "%@".</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>Não existe o visual “%@”.</translation>
+        </message>
+        <message>
+            <source>The time zone has no place for the sun; set one with: nocturoctl set SchedulePlace "52.5 13.4"</source>
+            <translation>O fuso horário não tem um lugar para o sol; defina um com: nocturoctl set SchedulePlace "52.5 13.4"</translation>
+        </message>
+        <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>"%@" não é um tempo de pausa como 30m, 2h ou until 18:00.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ points at most.</source>
+            <translation>"%1$@" aceita uma lista de no máximo %2$@ pontos.</translation>
+        </message>
+        <message>
+            <source>The schedule has no point %@.</source>
+            <translation>A agenda não tem um ponto %@.</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -501,10 +541,6 @@
         <message>
             <source>Paused</source>
             <translation>Em pausa</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Desativado</translation>
         </message>
         <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
@@ -587,6 +623,16 @@
 morning; while a command runs; or until you switch the effect or say cancel.</source>
             <translation>Por esse tempo, como 30m, 2h ou 1h30m; until 18:00, ou until tomorrow, que é seis da
 manhã; while, enquanto um comando roda; ou até você alternar o efeito ou dizer cancel.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens by the clock and the sun</source>
+            <translation>Mostrar ou mudar o que acontece pelo relógio e pelo sol</translation>
+        </message>
+        <message>
+            <source>A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a
+time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
+            <translation>POINT é um horário e um visual ou off: 07:00 off, sunset-00:30 Warm evening. Em vez de um
+horário pode ter dawn, sunrise, sunset ou dusk. list e next aceitam --json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -967,6 +1013,14 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>O compositor %@ não responde.</translation>
+        </message>
+        <message>
+            <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
+            <translation>A agenda não está em uso; nocturoctl schedule on muda isso.</translation>
+        </message>
+        <message>
+            <source>Nothing is scheduled.</source>
+            <translation>Nada está agendado.</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
@@ -1409,10 +1463,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Não é possível acessar o servidor X %@.</translation>
         </message>
         <message>
-            <source>There is no look "%@".</source>
-            <translation>Não existe o visual “%@”.</translation>
-        </message>
-        <message>
             <source>There are no looks.</source>
             <translation>Não há visuais.</translation>
         </message>
@@ -1711,6 +1761,10 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <translation>Sem um barramento de sessão, não é possível passar um documento ao Nocturo em execução.</translation>
         </message>
         <message>
+            <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
+            <translation>"%@" não é um ponto de agenda como 07:00 off ou sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
             <source>the selected effects</source>
             <translation>os efeitos escolhidos</translation>
         </message>
@@ -1771,6 +1825,18 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <translation>filtro de cor: intensidade, de 0 a 1</translation>
         </message>
         <message>
+            <source>switch and choose looks by the schedule</source>
+            <translation>alternar e escolher visuais pela agenda</translation>
+        </message>
+        <message>
+            <source>the schedule: times with looks or off</source>
+            <translation>a agenda: horários com visuais ou off</translation>
+        </message>
+        <message>
+            <source>where the sun is looked at; empty: by the time zone</source>
+            <translation>onde se olha o sol; vazio: pelo fuso horário</translation>
+        </message>
+        <message>
             <source>the f.lux warning was answered</source>
             <translation>o aviso sobre o f.lux foi respondido</translation>
         </message>
@@ -1785,6 +1851,10 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
         <message>
             <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
             <translation>“%1$@” só aceita efeitos, e não existe o efeito “%2$@”.</translation>
+        </message>
+        <message>
+            <source>"%@" takes a place such as 52.5 13.4 or 33.9S 151.2E.</source>
+            <translation>"%@" aceita um lugar como 52.5 13.4 ou 33.9S 151.2E.</translation>
         </message>
         <message>
             <source>"%@" takes true or false.</source>

@@ -395,30 +395,6 @@
             <translation>未连接的屏幕</translation>
         </message>
         <message>
-            <source>%@ %%</source>
-            <translation>%@%%</translation>
-        </message>
-        <message>
-            <source>Paused: screen saver</source>
-            <translation>已暂停：屏幕保护程序</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>已暂停至 %@</translation>
-        </message>
-        <message>
-            <source>Paused until you go on</source>
-            <translation>已暂停，直到您继续</translation>
-        </message>
-        <message>
-            <source>Off. Choose effects, then switch on</source>
-            <translation>已关闭。请选择效果，然后打开</translation>
-        </message>
-        <message>
-            <source>Off. When on: %@</source>
-            <translation>已关闭。打开后：%@</translation>
-        </message>
-        <message>
             <source>On, but no effect is chosen</source>
             <translation>已打开，但未选择任何效果</translation>
         </message>
@@ -431,8 +407,72 @@
             <translation>%1$@，%2$@ 除外</translation>
         </message>
         <message>
+            <source>Off. Choose effects, then switch on</source>
+            <translation>已关闭。请选择效果，然后打开</translation>
+        </message>
+        <message>
+            <source>Off. When on: %@</source>
+            <translation>已关闭。打开后：%@</translation>
+        </message>
+        <message>
+            <source>%@ %%</source>
+            <translation>%@%%</translation>
+        </message>
+        <message>
+            <source>Paused: screen saver</source>
+            <translation>已暂停：屏幕保护程序</translation>
+        </message>
+        <message>
+            <source>Paused until you go on</source>
+            <translation>已暂停，直到您继续</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>已暂停至 %@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>关</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@；手动</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@；手动，至 %2$@</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@；按计划</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@；按计划，至 %2$@</translation>
+        </message>
+        <message>
+            <source>Nobody knows when that is: "%@".</source>
+            <translation>无法得知那是何时：“%@”。</translation>
+        </message>
+        <message>
+            <source>There is no look "%@".</source>
+            <translation>没有外观方案“%@”。</translation>
+        </message>
+        <message>
+            <source>The time zone has no place for the sun; set one with: nocturoctl set SchedulePlace "52.5 13.4"</source>
+            <translation>该时区没有用于计算太阳的地点；请设置：nocturoctl set SchedulePlace "52.5 13.4"</translation>
+        </message>
+        <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>“%@”不是 30m、2h 或 until 18:00 这样的暂停时间。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ points at most.</source>
+            <translation>“%1$@”最多接受 %2$@ 个时间点的列表。</translation>
+        </message>
+        <message>
+            <source>The schedule has no point %@.</source>
+            <translation>计划中没有第 %@ 个时间点。</translation>
         </message>
         <message>
             <source>There is no setting "%@".</source>
@@ -501,10 +541,6 @@
         <message>
             <source>Paused</source>
             <translation>已暂停</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>关</translation>
         </message>
         <message>
             <source>Nocturo is not running; start it with: nocturo &amp;</source>
@@ -587,6 +623,16 @@
 morning; while a command runs; or until you switch the effect or say cancel.</source>
             <translation>持续这么久，例如 30m、2h 或 1h30m；until 18:00，或 until tomorrow，即早上六点；
 while 表示命令运行期间；否则直到您切换效果或使用 cancel。</translation>
+        </message>
+        <message>
+            <source>Show or change what happens by the clock and the sun</source>
+            <translation>显示或更改按时钟和太阳发生的事</translation>
+        </message>
+        <message>
+            <source>A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a
+time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
+            <translation>POINT 是时间加外观方案或 off：07:00 off、sunset-00:30 Warm evening。可以用 dawn、sunrise、
+sunset 或 dusk 代替时间。list 和 next 接受 --json。</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -963,6 +1009,14 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>合成器 %@ 没有响应。</translation>
+        </message>
+        <message>
+            <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
+            <translation>计划未启用；nocturoctl schedule on 可启用。</translation>
+        </message>
+        <message>
+            <source>Nothing is scheduled.</source>
+            <translation>没有计划。</translation>
         </message>
         <message>
             <source>There is no display "%@"; nocturoctl screens lists their numbers, names and identifiers.</source>
@@ -1405,10 +1459,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>无法连接 X 服务器 %@。</translation>
         </message>
         <message>
-            <source>There is no look "%@".</source>
-            <translation>没有外观方案“%@”。</translation>
-        </message>
-        <message>
             <source>There are no looks.</source>
             <translation>没有外观方案。</translation>
         </message>
@@ -1706,6 +1756,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>没有会话总线，无法将文档交给正在运行的 Nocturo。</translation>
         </message>
         <message>
+            <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
+            <translation>“%@”不是 07:00 off 或 sunset-00:30 Warm evening 这样的计划时间点。</translation>
+        </message>
+        <message>
             <source>the selected effects</source>
             <translation>所选的效果</translation>
         </message>
@@ -1766,6 +1820,18 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>颜色滤镜：强度，0 到 1</translation>
         </message>
         <message>
+            <source>switch and choose looks by the schedule</source>
+            <translation>按计划切换并选择外观方案</translation>
+        </message>
+        <message>
+            <source>the schedule: times with looks or off</source>
+            <translation>计划：时间与外观方案或 off</translation>
+        </message>
+        <message>
+            <source>where the sun is looked at; empty: by the time zone</source>
+            <translation>观察太阳的地点；留空则按时区</translation>
+        </message>
+        <message>
             <source>the f.lux warning was answered</source>
             <translation>已回应关于 f.lux 的警告</translation>
         </message>
@@ -1780,6 +1846,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>"%1$@" takes effects only, and there is no effect "%2$@".</source>
             <translation>“%1$@”只接受效果，而没有名为“%2$@”的效果。</translation>
+        </message>
+        <message>
+            <source>"%@" takes a place such as 52.5 13.4 or 33.9S 151.2E.</source>
+            <translation>“%@”接受 52.5 13.4 或 33.9S 151.2E 这样的地点。</translation>
         </message>
         <message>
             <source>"%@" takes true or false.</source>

@@ -121,7 +121,7 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
     if (saveState) {
         defaults_.setBool(active, kEffectActive);
         if (automation_ != nullptr) {
-            automation_->wasSwitchedByHand();
+            automation_->wasSwitchedByHand(active);
         }
     }
     isSwitchedOn_ = active;
@@ -132,6 +132,28 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
 Ruling NDAppController::ruling() const {
     return automation_ != nullptr ? automation_->ruling(isSwitchedOn_)
                                   : Ruling{{isSwitchedOn_}, Ruler::settings};
+}
+
+std::string NDAppController::titleOfRuledLook() const {
+    return automation_ != nullptr ? automation_->titleOfLook(ruling()) : std::string();
+}
+
+std::shared_ptr<NDEffect> NDAppController::effectInForce() const {
+    return ruledEffect_ != nullptr ? ruledEffect_ : globalEffect_;
+}
+
+void NDAppController::takeRuledEffect() {
+    auto ruled = automation_ != nullptr ? automation_->effectOf(ruling()) : nullptr;
+    if (ruled == ruledEffect_) {
+        return;
+    }
+    ruledEffect_ = std::move(ruled);
+    if (screenControllers_) {
+        for (const auto& controller : *screenControllers_) {
+            controller->setEffect(effectInForce());
+        }
+    }
+    updateEffect();
 }
 
 void NDAppController::pause(std::string_view words) {
@@ -157,6 +179,7 @@ void NDAppController::switchEffect(bool active) {
         if (!screenControllers_) {
             screenControllers_.emplace();
         }
+        takeRuledEffect();
         adjustScreenControllers();
         setActivateItemTitles();
         // Once, also where it was on: what says "on" again and again would add up.
@@ -207,7 +230,7 @@ void NDAppController::setScreenControllerActive(bool active, CGDirectDisplayID f
         }
     } else if (active) {
         screenControllers_->push_back(
-            NDScreenController::screenControllerWithEffect(globalEffect_, forScreenID));
+            NDScreenController::screenControllerWithEffect(effectInForce(), forScreenID));
     }
 }
 
@@ -226,7 +249,7 @@ std::optional<bool> NDAppController::everyAffectedDisplayIsUnreadable() const {
             continue;
         }
         ZQGammaCurve after = controller->gammaCurve();
-        globalEffect_->applyEffectOnGammaCurve(&after, 0);
+        controller->effect().applyEffectOnGammaCurve(&after, 0);
         if (!isUnreadable(after)) {
             return false;
         }

@@ -143,6 +143,9 @@ class NDAppController : public ActionTarget {
     /// Who says what the displays show, and for how long; of the screen saver it knows nothing.
     Ruling ruling() const;
 
+    /// The title of the look that rules over the effects of the settings; empty where none does.
+    std::string titleOfRuledLook() const;
+
     /// Whether the effect is off only for a time, by the screen saver or a pause.
     bool isPaused() const { return paused_ || ruling().by == Ruler::pause; }
 
@@ -224,6 +227,8 @@ class NDAppController : public ActionTarget {
     void bringEffectBack(std::function<void(bool launched)> finished);
     void restoreEffect();
     void followRuling();
+    void takeRuledEffect();
+    std::shared_ptr<NDEffect> effectInForce() const;
     void switchEffect(bool active);
     void appearOnDesktop();
     void setActivateItemTitles();
@@ -244,6 +249,7 @@ class NDAppController : public ActionTarget {
     bool paused_ = false;
     bool isSwitchedOn_ = false; // what the user wants, whatever rules over it
     std::shared_ptr<NDGroupEffect> globalEffect_;
+    std::shared_ptr<NDEffect> ruledEffect_; // of a look that rules; null for the settings' effects
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
     std::unique_ptr<Timer> continuousApplyTimer_;
     std::unique_ptr<Timer> modeChangeTimer_;

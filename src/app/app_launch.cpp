@@ -108,6 +108,9 @@ void NDAppController::restoreEffect() {
     if (!saved) {
         defaults_.setBool(always, kEffectActive);
     }
+    if (startsSwitchedOff_ && automation_ != nullptr) {
+        automation_->wasSwitchedByHand(false);
+    }
     isSwitchedOn_ = always || saved;
     switchEffect(ruling().isOn);
 }

@@ -10,7 +10,8 @@ namespace nocturo {
 
 void LookPicker::pick(const std::string& name) {
     const std::string before = chosen_.nameInForce();
-    if (before == name && controller_.effectActive()) {
+    const std::string ruled = controller_.ruling().look;
+    if ((ruled.empty() ? before : ruled) == name && controller_.effectActive()) {
         leave();
         return;
     }

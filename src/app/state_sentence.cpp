@@ -71,6 +71,27 @@ std::string screensText(const EffectState& state) {
                                  : joined(state.screens);
 }
 
+std::string onSentence(const EffectState& state) {
+    const std::vector<std::string> names = namesOfEffects(state);
+    if (names.empty()) {
+        return translated("On, but no effect is chosen");
+    }
+    std::string sentence = translated("On: %1$@ on %2$@", {joined(names), screensText(state)});
+    return state.without.empty()
+               ? sentence
+               : translated("%1$@, but not on %2$@", {std::move(sentence), joined(state.without)});
+}
+
+/// Where nobody rules over the user's own settings.
+std::string ownSentence(const EffectState& state) {
+    const std::vector<std::string> names = namesOfEffects(state);
+    if (state.isOn) {
+        return onSentence(state);
+    }
+    return names.empty() ? translated("Off. Choose effects, then switch on")
+                         : translated("Off. When on: %@", {joined(names)});
+}
+
 } // namespace
 
 std::string percentText(double share) {
@@ -90,6 +111,7 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
     const Ruling ruling = controller.ruling();
     state.ruler = ruling.by;
     state.until = ruling.until;
+    state.look = controller.titleOfRuledLook();
     state.now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
     for (const SelectableEffect& effect : kSelectableEffects) {
         if (NDGroupEffect::effect().containsEffect(effect.className)) {
@@ -118,6 +140,9 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
 }
 
 std::vector<std::string> namesOfEffects(const EffectState& state) {
+    if (!state.look.empty()) {
+        return {state.look};
+    }
     std::vector<std::string> names;
     for (const SelectableEffect& effect : kSelectableEffects) {
         if (std::find(state.effects.begin(), state.effects.end(), effect.className) !=
@@ -129,25 +154,24 @@ std::vector<std::string> namesOfEffects(const EffectState& state) {
 }
 
 std::string stateSentence(const EffectState& state) {
-    const std::vector<std::string> names = namesOfEffects(state);
     if (state.isPausedForScreenSaver) {
         return translated("Paused: screen saver");
     }
+    const std::string until = state.until ? clockText(*state.until, state.now) : std::string();
     if (state.ruler == Ruler::pause) {
-        return state.until ? translated("Paused until %@", {clockText(*state.until, state.now)})
-                           : translated("Paused until you go on");
+        return until.empty() ? translated("Paused until you go on")
+                             : translated("Paused until %@", {until});
     }
-    if (!state.isOn) {
-        return names.empty() ? translated("Off. Choose effects, then switch on")
-                             : translated("Off. When on: %@", {joined(names)});
+    if (state.ruler == Ruler::settings) {
+        return ownSentence(state);
     }
-    if (names.empty()) {
-        return translated("On, but no effect is chosen");
+    const std::string what = state.isOn ? onSentence(state) : translated("Off");
+    if (state.ruler == Ruler::hand) {
+        return until.empty() ? translated("%@; by hand", {what})
+                             : translated("%1$@; by hand until %2$@", {what, until});
     }
-    std::string sentence = translated("On: %1$@ on %2$@", {joined(names), screensText(state)});
-    return state.without.empty()
-               ? sentence
-               : translated("%1$@, but not on %2$@", {std::move(sentence), joined(state.without)});
+    return until.empty() ? translated("%@; by the schedule", {what})
+                         : translated("%1$@; by the schedule until %2$@", {what, until});
 }
 
 std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults) {

@@ -20,6 +20,7 @@ struct EffectState {
     Ruler ruler = Ruler::settings;
     std::optional<Moment> until; // that the ruler says so; nothing: no end is known
     Moment now{};
+    std::string look;                 // the title of one that rules over the effects; or empty
     std::vector<std::string> effects; // class names of the chosen ones, in any order
     double dimLevel = 0;
     double hue = 0; // degrees

@@ -1,32 +1,119 @@
 #include "automation/automation.h"
 
+#include "automation/schedule_setting.h"
+#include "base/log.h"
 #include "base/notification_center.h"
+#include "base/texts/translated.h"
+#include "documents/look_effect.h"
+#include "documents/looks.h"
+#include "effects/group_effect.h"
+#include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace nocturo {
 
-Automation::Automation(NotificationCenter& localCenter, WallClock& clock,
-                       const std::filesystem::path& stateDirectory)
-    : localCenter_(localCenter), clock_(clock), pauses_(stateDirectory / "pause.plist") {}
+namespace {
+
+constexpr std::array kScheduleSettings = {kUseSchedule, kSchedule, kPlace};
+
+bool isOfTheSun(const SchedulePoint& point) {
+    return point.anchor != SchedulePoint::Anchor::midnight;
+}
+
+std::optional<Moment> earlier(std::optional<Moment> one, std::optional<Moment> other) {
+    return one && other ? std::min(*one, *other) : one ? one : other;
+}
+
+} // namespace
+
+Automation::Automation(DefaultsStore& defaults, NotificationCenter& localCenter, WallClock& clock,
+                       Looks& looks, const std::filesystem::path& stateDirectory)
+    : defaults_(defaults), localCenter_(localCenter), clock_(clock), looks_(looks),
+      pauses_(stateDirectory / "pause.plist") {}
+
+Automation::~Automation() {
+    localCenter_.removeObserver(this);
+}
 
 void Automation::start() {
     pauses_.restore(clock_.now());
-    follow();
+    localCenter_.addObserver(this, NSUserDefaultsDidChangeNotification,
+                             [this](const Subjects& settings) { settingsDidChange(settings); });
+    localCenter_.addObserver(this, kLooksDidChangeNotification, [this] {
+        if (!listed_.empty()) {
+            readSchedule();
+            change();
+        }
+    });
+    readSchedule();
+    awaitNext();
+}
+
+std::optional<Claim> Automation::scheduleClaim() const {
+    if (!around_.current) {
+        return std::nullopt;
+    }
+    const std::string& look = schedule_->points()[around_.current->point].look;
+    return Claim{!look.empty(), look,
+                 around_.next ? std::optional(around_.next->moment) : std::nullopt};
 }
 
 Ruling Automation::ruling(bool isSwitchedOn) const {
-    Claims claims;
-    claims.pause = pauses_.claim();
-    claims.isSwitchedOn = isSwitchedOn;
-    return whoWins(claims);
+    return whoWins({.hand = hand_,
+                    .pause = pauses_.claim(),
+                    .schedule = scheduleClaim(),
+                    .isSwitchedOn = isSwitchedOn});
 }
 
-void Automation::wasSwitchedByHand() {
-    pauses_.end();
-    follow();
+std::shared_ptr<NDEffect> Automation::effectOf(const Ruling& ruling) {
+    const Look* look = ruling.look.empty() ? nullptr : looks_.named(ruling.look);
+    if (look == nullptr) {
+        return nullptr;
+    }
+    if (effectsOfIt_ == nullptr || *effectsOfIt_ != look->effects) {
+        effectsOfIt_ = std::make_unique<EffectDocument>(look->effects);
+        effect_ = std::make_shared<LookEffect>(look->effects);
+    }
+    return effect_;
+}
+
+std::string Automation::titleOfLook(const Ruling& ruling) const {
+    const Look* look = ruling.look.empty() ? nullptr : looks_.named(ruling.look);
+    return look != nullptr ? look->title : ruling.look;
+}
+
+void Automation::wasSwitchedByHand(bool isOn) {
+    const auto scheduled = scheduleClaim();
+    hand_.isOn = scheduled && scheduled->isOn != isOn ? std::optional(isOn) : std::nullopt;
+    if (pauses_.end()) {
+        awaitNext();
+    }
+}
+
+Result<std::optional<Moment>> Automation::endOf(std::string_view words) {
+    const Moment now = clock_.now();
+    std::optional<Moment> end;
+    if (words == "until next") {
+        end = around_.next ? std::optional(around_.next->moment) : std::nullopt;
+    } else if (words == "until sunrise") {
+        end = Schedule({SchedulePoint{SchedulePoint::Anchor::sunrise, {}, {}}},
+                       placeOfSchedule(defaults_))
+                  .next(0, now);
+    } else {
+        return endOfPause(words, now);
+    }
+    if (!end) {
+        return failed(translated("Nobody knows when that is: \"%@\".", {std::string(words)}));
+    }
+    return end;
 }
 
 Result<void> Automation::pause(std::string_view words) {
-    const auto until = endOfPause(words, clock_.now());
+    const auto until = endOf(words);
     if (!until) {
         return tl::unexpected(until.error());
     }
@@ -46,19 +133,86 @@ void Automation::resume() {
     }
 }
 
-void Automation::follow() {
+void Automation::settingsDidChange(const Subjects& settings) {
+    if (settings.containAnyOf(kScheduleSettings)) {
+        hand_ = {};
+        readSchedule();
+        change();
+    } else if (settings.containAnyOf(kEffectSettings) && !hand_.choseEffects &&
+               scheduleClaim().value_or(Claim{}).isOn) {
+        hand_.choseEffects = true;
+        change();
+    }
+}
+
+std::string Automation::problemWith(const SchedulePoint& point) {
+    if (!point.look.empty() && looks_.named(point.look) == nullptr) {
+        return translated("There is no look \"%@\".", {point.look});
+    }
+    if (isOfTheSun(point) && !place_) {
+        return translated("The time zone has no place for the sun; set one with: nocturoctl set "
+                          "SchedulePlace \"52.5 13.4\"");
+    }
+    return {};
+}
+
+void Automation::readSchedule() {
+    const bool isInUse = defaults_.boolForKey(kUseSchedule);
+    const std::vector<std::string> texts = wordsOfSchedule(defaults_);
+    std::vector<SchedulePoint> points;
+    place_ = texts.empty() ? std::nullopt : placeOfSchedule(defaults_);
+    listed_.clear();
+    indexes_.clear();
+    for (const std::string& words : texts) {
+        if (listed_.size() == kMostSchedulePoints) {
+            break;
+        }
+        const auto point = schedulePoint(words);
+        listed_.push_back({words, {}, point ? problemWith(*point) : noPointSentence(words)});
+        if (listed_.back().problem.empty()) {
+            points.push_back(*point);
+            indexes_.push_back(listed_.size() - 1);
+        } else if (isInUse && explained_.insert(words).second) {
+            logWarning(kLogApp, "The point \"" + words +
+                                    "\" of the schedule changes nothing; nocturoctl schedule "
+                                    "tells why.");
+        }
+    }
+    schedule_.reset();
+    if (isInUse && !points.empty()) {
+        schedule_.emplace(std::move(points), place_);
+    }
+    lookAtClock();
+}
+
+void Automation::lookAtClock() {
+    const Moment now = clock_.now();
+    pauses_.expire(now);
+    const auto around = schedule_ ? schedule_->around(now) : Schedule::Around{};
+    if (around.current != around_.current) {
+        hand_ = {};
+    }
+    around_ = around;
+    for (std::size_t i = 0; schedule_ && i < indexes_.size(); ++i) {
+        listed_[indexes_[i]].next = schedule_->next(i, now);
+    }
+}
+
+void Automation::awaitNext() {
     const auto pause = pauses_.claim();
+    const auto moment = earlier(pause ? pause->until : std::nullopt,
+                                around_.next ? std::optional(around_.next->moment) : std::nullopt);
     timer_.reset();
-    if (pause && pause->until) {
-        timer_ = clock_.wakeAt(*pause->until, [this] {
-            pauses_.expire(clock_.now());
+    if (moment) {
+        timer_ = clock_.wakeAt(*moment, [this] {
+            readSchedule(); // the time zone may be another one, and so its place
             change();
         });
     }
 }
 
 void Automation::change() {
-    follow();
+    awaitNext();
     localCenter_.post(kRulingNotification);
 }
 

@@ -1,30 +1,50 @@
 #pragma once
 
 #include "automation/pauses.h"
+#include "automation/schedule.h"
 #include "automation/who_wins.h"
 #include "base/result.h"
 #include "base/wall_clock.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <set>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace nocturo {
 
+class DefaultsStore;
+class Looks;
+class NDEffect;
 class NotificationCenter;
+class Subjects;
+struct EffectDocument;
 
 /// Posted on the local notification center when another ruling may hold by itself: not by the
 /// user's turning of the switch, which whoever turns it acts on.
 inline constexpr std::string_view kRulingNotification = "NocturoRulingNotification";
 
-/// What happens by itself, beside the settings, which stay the user's: pauses. Knows who rules what
-/// the displays show, and follows the clock with one timer. Main thread only.
+/// A point of the schedule as it is told.
+struct ListedPoint {
+    std::string words;            // as the setting has it
+    std::optional<Moment> next{}; // nothing where it does not come, or the schedule is not in use
+    std::string problem{};        // why it never comes, a sentence of the user's language
+};
+
+/// What happens by itself, beside the settings, which stay the user's: pauses and the schedule.
+/// Knows who rules what the displays show, and follows the clock with one timer. Main thread only.
 class Automation {
   public:
     /// All must outlive this. `stateDirectory` is where a pause outlives the program.
-    Automation(NotificationCenter& localCenter, WallClock& clock,
-               const std::filesystem::path& stateDirectory);
+    Automation(DefaultsStore& defaults, NotificationCenter& localCenter, WallClock& clock,
+               Looks& looks, const std::filesystem::path& stateDirectory);
+    ~Automation();
+    Automation(const Automation&) = delete;
+    Automation& operator=(const Automation&) = delete;
 
     /// Goes on where the last run ended. To be called before the launch switches anything.
     void start();
@@ -32,10 +52,17 @@ class Automation {
     /// What the displays show if the user has switched the effect so.
     Ruling ruling(bool isSwitchedOn) const;
 
-    /// The user turned the switch: that ends pauses.
-    void wasSwitchedByHand();
+    /// What applies the look of a ruling; null where it has none.
+    std::shared_ptr<NDEffect> effectOf(const Ruling& ruling);
 
-    /// Begins a pause with an end told in words, as endOfPause() reads them.
+    /// As people read it; empty where it has none.
+    std::string titleOfLook(const Ruling& ruling) const;
+
+    /// The user turned the switch: that ends pauses and holds until the schedule's next point.
+    void wasSwitchedByHand(bool isOn);
+
+    /// Begins a pause with an end told in words, as endOfPause() reads them; "until next" is the
+    /// next point of the schedule, and "until sunrise" the next sunrise.
     Result<void> pause(std::string_view words);
 
     /// Begins or ends the pause of programs that run.
@@ -44,15 +71,33 @@ class Automation {
     /// Ends all pauses.
     void resume();
 
-    bool isPaused() const { return pauses_.claim().has_value(); }
+    /// Every point, in the setting's order.
+    const std::vector<ListedPoint>& listedPoints() const { return listed_; }
 
   private:
-    void follow();
+    std::optional<Claim> scheduleClaim() const;
+    Result<std::optional<Moment>> endOf(std::string_view words);
+    void settingsDidChange(const Subjects& settings);
+    void readSchedule();
+    std::string problemWith(const SchedulePoint& point);
+    void lookAtClock();
+    void awaitNext();
     void change();
 
+    DefaultsStore& defaults_;
     NotificationCenter& localCenter_;
     WallClock& clock_;
+    Looks& looks_;
     Pauses pauses_;
+    HandsClaim hand_;
+    std::optional<Place> place_;
+    std::optional<Schedule> schedule_; // while it is in use, of the points that can come
+    std::vector<std::size_t> indexes_; // of its points in the setting
+    Schedule::Around around_;
+    std::vector<ListedPoint> listed_;
+    std::set<std::string> explained_; // points that were logged
+    std::shared_ptr<NDEffect> effect_;
+    std::unique_ptr<EffectDocument> effectsOfIt_;
     std::unique_ptr<Timer> timer_;
 };
 

@@ -1,12 +1,16 @@
 #include "base/wall_clock.h"
 
+#include "base/directory_watch.h"
 #include "base/file_descriptor.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdint>
+#include <filesystem>
+#include <system_error>
 #include <utility>
+#include <vector>
 
 #include <sys/timerfd.h>
 #include <unistd.h>
@@ -14,6 +18,8 @@
 namespace nocturo {
 
 namespace {
+
+const std::filesystem::path kZoneLink = "/etc/localtime";
 
 class WallTimer final : public Timer {
   public:
@@ -25,9 +31,26 @@ class WallTimer final : public Timer {
         timerfd_settime(descriptor_.get(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &due,
                         nullptr);
         watch_ = runLoop.watch(descriptor_.get(), [this] { becameReadable(); });
+        zoneFile_ = std::make_unique<DirectoryWatch>(
+            std::vector<std::filesystem::path>{kZoneLink.parent_path()}, runLoop, [this] {
+                if (zone_ != zoneInForce()) {
+                    fireSoon();
+                }
+            });
     }
 
   private:
+    static std::filesystem::path zoneInForce() {
+        std::error_code none;
+        return std::filesystem::read_symlink(kZoneLink, none);
+    }
+
+    void fireSoon() {
+        itimerspec past{};
+        past.it_value.tv_sec = 1;
+        timerfd_settime(descriptor_.get(), TFD_TIMER_ABSTIME, &past, nullptr);
+    }
+
     void becameReadable() {
         std::array<char, sizeof(std::uint64_t)> expirations{};
         const auto size = ::read(descriptor_.get(), expirations.data(), expirations.size());
@@ -41,6 +64,8 @@ class WallTimer final : public Timer {
     FileDescriptor descriptor_;
     std::function<void()> action_;
     std::unique_ptr<Watch> watch_;
+    std::filesystem::path zone_ = zoneInForce();
+    std::unique_ptr<DirectoryWatch> zoneFile_;
 };
 
 } // namespace

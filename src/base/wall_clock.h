@@ -19,7 +19,8 @@ class WallClock {
     virtual Moment now() const = 0;
 
     /// Calls `action` once, unless the returned timer is destroyed before: at that moment, or as
-    /// soon as the machine has woken up or the clock was set, whatever comes first.
+    /// soon as the machine has woken up, the clock was set or another time zone chosen, whatever
+    /// comes first.
     [[nodiscard]] virtual std::unique_ptr<Timer> wakeAt(Moment moment,
                                                         std::function<void()> action) = 0;
 };

@@ -56,15 +56,17 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 61> members;
+    static const std::array<sd_bus_vtable, 65> members;
 };
 
-const std::array<sd_bus_vtable, 61> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 65> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Ruler", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("RulesUntil", "x", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("RuledLook", "s", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Schedule", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Displays", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Effects", "as", tellProperty, 0, kTold),
@@ -89,6 +91,10 @@ const std::array<sd_bus_vtable, 61> BusFace::Table::members = {{
                             pauseWhileConnected, kFree),
     SD_BUS_METHOD_WITH_ARGS("Resume", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::resume>,
                             kFree),
+    SD_BUS_METHOD_WITH_ARGS("AddSchedulePoint", SD_BUS_ARGS("s", words), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::addSchedulePoint>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("RemoveSchedulePoint", SD_BUS_ARGS("u", index), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::removeSchedulePoint>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AddEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::addEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
@@ -171,8 +177,8 @@ BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
     : controller_(controller), defaults_(defaults), localCenter_(localCenter),
       userInterface_(userInterface), keepColors_(keepColors), chosenLook_(chosenLook),
       automation_(automation), bus_(bus), loop_(loop),
-      state_(controller, defaults, disturbances, chosenLook), launcherFace_(controller, bus, loop),
-      pausing_([this] { automation_.holdPause(false); }) {
+      state_(controller, defaults, disturbances, chosenLook, automation),
+      launcherFace_(controller, bus, loop), pausing_([this] { automation_.holdPause(false); }) {
     if (bus_ != nullptr) {
         object_ = bus_->addObject(kObjectPath, kNocturoInterface, Table::members.data(), this);
     }

@@ -57,6 +57,8 @@ class BusFace {
     BusAnswer toggle();
     BusAnswer pause(const std::string& words);
     BusAnswer resume();
+    BusAnswer addSchedulePoint(const std::string& words);
+    BusAnswer removeSchedulePoint(std::uint32_t index);
     static int pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* error);
     BusAnswer addEffects(const std::vector<std::string>& names);
     BusAnswer removeEffects(const std::vector<std::string>& names);

@@ -1,7 +1,9 @@
 // What callers on the bus do with what happens by itself.
 
 #include "automation/automation.h"
+#include "automation/schedule_setting.h"
 #include "bus/bus_face.h"
+#include "documents/chosen_look.h"
 
 #include <utility>
 
@@ -16,6 +18,20 @@ BusAnswer BusFace::pause(const std::string& words) {
 
 BusAnswer BusFace::resume() {
     automation_.resume();
+    return {};
+}
+
+BusAnswer BusFace::addSchedulePoint(const std::string& words) {
+    if (auto done = nocturo::addSchedulePoint(defaults_, chosenLook_.looks(), words); !done) {
+        return refusal(std::move(done.error().text));
+    }
+    return {};
+}
+
+BusAnswer BusFace::removeSchedulePoint(std::uint32_t index) {
+    if (auto done = nocturo::removeSchedulePoint(defaults_, index); !done) {
+        return refusal(std::move(done.error().text));
+    }
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/disturbance_watch.h"
+#include "automation/automation.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
 #include "documents/chosen_look.h"
@@ -46,6 +47,7 @@ std::string toldObstacle(Obstacle obstacle) {
 const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
     static constexpr std::span<const std::string_view> kNone;
     static constexpr std::array kEffects = {kGroupEffect};
+    static constexpr std::array kSchedules = {kUseSchedule, kSchedule, kPlace};
     static constexpr std::array kDim = {kDimLevel.key};
     static constexpr std::array kHue = {kColorFilterHue.key};
     static constexpr std::array kVividness = {kColorFilterVividness.key};
@@ -61,6 +63,8 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
         {"Paused", {&ToldState::paused, kNone}},
         {"Ruler", {&ToldState::ruler, kNone}},
         {"RulesUntil", {&ToldState::rulesUntil, kNone}},
+        {"RuledLook", {&ToldState::ruledLook, kNone}},
+        {"Schedule", {&ToldState::schedule, kSchedules}},
         {"DisplayServices", {&ToldState::displayServicesName, kNone}},
         {"Displays", {&ToldState::displays, kAffectedScreenSettings}},
         {"Effects", {&ToldState::effects, kEffects}},
@@ -117,6 +121,19 @@ BusValue ToldState::rulesUntil() const {
     const std::optional<Moment> until =
         controller_.isPausedForScreenSaver() ? std::nullopt : controller_.ruling().until;
     return until ? static_cast<std::int64_t>(until->time_since_epoch().count()) : std::int64_t{0};
+}
+
+BusValue ToldState::ruledLook() const {
+    return controller_.isPausedForScreenSaver() ? std::string() : controller_.ruling().look;
+}
+
+BusValue ToldState::schedule() const {
+    std::vector<BusDictionary> list;
+    for (const ListedPoint& point : automation_.listedPoints()) {
+        const std::int64_t next = point.next ? point.next->time_since_epoch().count() : 0;
+        list.push_back({{"point", point.words}, {"next", next}, {"problem", point.problem}});
+    }
+    return list;
 }
 
 BusValue ToldState::displayServicesName() const {

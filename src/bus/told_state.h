@@ -10,6 +10,7 @@
 
 namespace nocturo {
 
+class Automation;
 class ChosenLook;
 class DefaultsStore;
 class DisturbanceWatch;
@@ -22,9 +23,10 @@ class ToldState {
   public:
     /// All must outlive the state.
     ToldState(const NDAppController& controller, const DefaultsStore& defaults,
-              const DisturbanceWatch& disturbances, ChosenLook& chosenLook)
+              const DisturbanceWatch& disturbances, ChosenLook& chosenLook,
+              const Automation& automation)
         : controller_(controller), defaults_(defaults), disturbances_(disturbances),
-          chosenLook_(chosenLook) {}
+          chosenLook_(chosenLook), automation_(automation) {}
 
     /// Names keys by this layout, which must outlive the state; null for none.
     void setKeyboardLayout(KeyboardLayout* layout) { layout_ = layout; }
@@ -50,6 +52,8 @@ class ToldState {
     BusValue paused() const;
     BusValue ruler() const;
     BusValue rulesUntil() const;
+    BusValue ruledLook() const;
+    BusValue schedule() const;
     BusValue displayServicesName() const;
     BusValue displays() const;
     BusValue effects() const;
@@ -69,6 +73,7 @@ class ToldState {
     const DefaultsStore& defaults_;
     const DisturbanceWatch& disturbances_;
     ChosenLook& chosenLook_;
+    const Automation& automation_;
     KeyboardLayout* layout_ = nullptr;
 };
 

@@ -89,6 +89,12 @@ bool isLook(const Json& value) {
     return fit(value, kMembers, Answer::whole);
 }
 
+bool isPoint(const Json& value) {
+    static constexpr auto kMembers =
+        std::to_array<Member>({{"point", isText}, {"next", isInteger}, {"problem", isText}});
+    return fit(value, kMembers, Answer::whole);
+}
+
 } // namespace
 
 void checkAnswer(const Json& properties, Answer answer) {
@@ -97,6 +103,8 @@ void checkAnswer(const Json& properties, Answer answer) {
                                {"paused", isBoolean, true},
                                {"ruler", isText, true},
                                {"rulesUntil", isInteger, true},
+                               {"ruledLook", isText, true},
+                               {"schedule", isListOf<isPoint>, true},
                                {"displayServices", isText},
                                {"displays", isListOf<isDisplay>},
                                {"effects", isListOf<isText>},

@@ -10,6 +10,7 @@
 #include "ctl/pause_verb.h"
 #include "ctl/report.h"
 #include "ctl/restore.h"
+#include "ctl/schedule_verb.h"
 #include "ctl/screen_verbs.h"
 #include "ctl/setting_text.h"
 #include "documents/effect_document_file.h"
@@ -237,6 +238,12 @@ constexpr std::array kCommands = std::to_array<Command>({
                 "six in the\n"
                 "morning; while a command runs; or until you switch the effect or say cancel."),
      runPause},
+    {"schedule", "[list | add POINT | remove N | on | off | next]",
+     ListedText("Show or change what happens by the clock and the sun"),
+     ListedText(
+         "A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a\n"
+         "time of day it may have dawn, sunrise, sunset or dusk. list and next take --json."),
+     runSchedule},
     {"status", "[--all | --json | --bar[=BAR] [--follow]]",
      ListedText("Show the state of everything"),
      ListedText(

@@ -24,9 +24,9 @@ namespace nocturo {
 namespace {
 
 constexpr std::array kStatusOrder = std::to_array<const char*>(
-    {"active", "paused", "ruler", "rulesUntil", "displayServices", "displays", "effects",
-     "dimLevel", "colorFilterHue", "colorFilterVividness", "temperature", "look", "looks",
-     "affectedScreenSet", "hotKey", "disturbances", "disturber"});
+    {"active", "paused", "ruler", "rulesUntil", "ruledLook", "schedule", "displayServices",
+     "displays", "effects", "dimLevel", "colorFilterHue", "colorFilterVividness", "temperature",
+     "look", "looks", "affectedScreenSet", "hotKey", "disturbances", "disturber"});
 constexpr std::array<const char*, 9> kDisplayOrder = {
     "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther", "obstacle"};
 
@@ -129,6 +129,15 @@ std::string disturbanceReport(const Json& properties) {
 
 } // namespace
 
+std::string titleOfLookNamed(const Json& properties, const std::string& name) {
+    for (const Json& look : looksArray(properties)) {
+        if (look["name"] == name) {
+            return plain(look["title"]);
+        }
+    }
+    return name;
+}
+
 EffectState toldState(const Json& properties) {
     const auto ruler = rulerNamed(properties.value("ruler", ""));
     EffectState state;
@@ -143,6 +152,7 @@ EffectState toldState(const Json& properties) {
     state.dimLevel = properties["dimLevel"].get<double>();
     state.hue = properties["colorFilterHue"].get<double>();
     state.vividness = properties["colorFilterVividness"].get<double>();
+    state.look = titleOfLookNamed(properties, properties.value("ruledLook", ""));
     state.isOnAllScreens = properties["affectedScreenSet"].empty();
     for (const Json& display : properties["displays"]) {
         if (display["affected"].get<bool>()) {
@@ -156,6 +166,9 @@ EffectState toldState(const Json& properties) {
 }
 
 std::string titleOfLookInForce(const Json& properties) {
+    if (const std::string ruled = properties.value("ruledLook", ""); !ruled.empty()) {
+        return titleOfLookNamed(properties, ruled);
+    }
     for (const Json& look : looksArray(properties)) {
         if (look["inForce"].get<bool>()) {
             return plain(look["title"]);

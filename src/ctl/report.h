@@ -30,6 +30,9 @@ std::string lookInForce(const Json& properties);
 /// The title of the look in force; empty where there is none.
 std::string titleOfLookInForce(const Json& properties);
 
+/// The title of a look; the name itself where there is no such look.
+std::string titleOfLookNamed(const Json& properties, const std::string& name);
+
 /// What there is to say about the effect.
 EffectState toldState(const Json& properties);
 

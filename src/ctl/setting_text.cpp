@@ -73,6 +73,10 @@ PropertyValue fromText(const Setting& setting, std::string_view text) {
         return listFromText(text, effectFromText);
     case SettingType::displayNumbers:
         return listFromText(text, numberFromText<std::int64_t>);
+    case SettingType::schedulePoints:
+        return listFromText(text, [](std::string_view point) { return std::string(point); });
+    case SettingType::place:
+        break;
     }
     return std::string(text);
 }

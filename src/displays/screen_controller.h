@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace nocturo {
@@ -48,6 +49,10 @@ class NDScreenController {
     void retriveGammaCurve();
 
     CGDirectDisplayID screenID() const { return _screen; }
+
+    /// What is applied from the next time on.
+    void setEffect(std::shared_ptr<NDEffect> effect) { _effect = std::move(effect); }
+    NDEffect& effect() const { return *_effect; }
 
     /// Whether the capture succeeded, so that the effect is applied.
     bool hasCurve() const { return _gammaCurve.sampleCount != 0; }

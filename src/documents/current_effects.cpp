@@ -1,6 +1,6 @@
 #include "documents/current_effects.h"
 
-#include "base/notification_center.h"
+#include "documents/look_effect.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "effects/group_effect.h"
@@ -44,18 +44,7 @@ EffectDocument withinRanges(EffectDocument document) {
 }
 
 void applyEffects(const EffectDocument& document, ZQGammaCurve& curve) {
-    // The effects read their settings from a store that they share, which is another one meanwhile.
-    NDGroupEffect chosen; // the first one registers something in the store that is shared
-    static NotificationCenter nobody;
-    static const auto aside = [] {
-        auto store = std::make_shared<DefaultsStore>(nobody);
-        store->registerDefaults({{std::string(NDGroupEffect::kName), PropertyArray()}});
-        return store;
-    }();
-    const auto shared = NDEffect::setUserDefaults(aside);
-    setCurrentEffects(document);
-    chosen.applyEffectOnGammaCurve(&curve, 0);
-    NDEffect::setUserDefaults(shared);
+    LookEffect(document).applyEffectOnGammaCurve(&curve, 0);
 }
 
 void setCurrentEffects(const EffectDocument& anyDocument) {

@@ -20,6 +20,12 @@ inline constexpr std::string_view kEffectActive = "EffectActive"; // as last sav
 inline constexpr std::string_view kFluxWarned = "ZQFluxWarned";
 inline constexpr std::string_view kGroupEffect = "NDGroupEffect";
 
+// What happens by itself.
+
+inline constexpr std::string_view kUseSchedule = "UseSchedule";
+inline constexpr std::string_view kSchedule = "Schedule";   // of points in words
+inline constexpr std::string_view kPlace = "SchedulePlace"; // empty: the time zone's
+
 /// A setting that is a real number. Users may choose from `lowest` to `highest`; what a file or a
 /// document holds beyond is used as it stands.
 struct RealSetting {

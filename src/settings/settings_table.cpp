@@ -1,6 +1,7 @@
 #include "settings/settings_table.h"
 
 #include "settings/defaults_store.h"
+#include "settings/schedule_points.h"
 #include "settings/selectable_effects.h"
 #include "settings/settings_keys.h"
 
@@ -21,9 +22,9 @@ Setting number(const RealSetting& setting, ListedText meaning) {
             false,       meaning,           SettingRange{setting.lowest, setting.highest}};
 }
 
-const std::array<Setting, 16>& rows() {
+const std::array<Setting, 19>& rows() {
     using enum SettingType;
-    static const std::array<Setting, 16> table = {{
+    static const std::array<Setting, 19> table = {{
         {kGroupEffect, effectNames, PropertyArray(), true, ListedText("the selected effects")},
         {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
         {kActivateOnClick, boolean, true, true,
@@ -45,6 +46,11 @@ const std::array<Setting, 16>& rows() {
         number(kDimLevel, ListedText("dim: -1 black, 0 unchanged, 1 white")),
         number(kColorFilterHue, ListedText("color filter: hue in degrees")),
         number(kColorFilterVividness, ListedText("color filter: strength, 0 to 1")),
+        {kUseSchedule, boolean, false, true, ListedText("switch and choose looks by the schedule")},
+        {kSchedule, schedulePoints, PropertyArray(), false,
+         ListedText("the schedule: times with looks or off")},
+        {kPlace, place, std::string(), false,
+         ListedText("where the sun is looked at; empty: by the time zone")},
         {kFluxWarned, boolean, false, false, ListedText("the f.lux warning was answered")},
     }};
     return table;
@@ -79,6 +85,29 @@ bool isListOfDisplays(const PropertyValue& value) {
                return number != nullptr && *number >= std::numeric_limits<std::int32_t>::min() &&
                       *number <= std::numeric_limits<std::int32_t>::max();
            });
+}
+
+Refusal problemWithPoints(const std::string& key, const PropertyValue& value) {
+    const auto* array = value.as<PropertyArray>();
+    if (array == nullptr || array->size() > kMostSchedulePoints) {
+        return translated("\"%1$@\" takes a list of %2$@ points at most.",
+                          {key, std::to_string(kMostSchedulePoints)});
+    }
+    for (const PropertyValue& element : *array) {
+        const auto* words = element.as<std::string>();
+        if (words == nullptr || !schedulePoint(*words)) {
+            return noPointSentence(words != nullptr ? *words : std::string());
+        }
+    }
+    return std::nullopt;
+}
+
+Refusal problemWithPlace(const std::string& key, const PropertyValue& value) {
+    const auto* words = value.as<std::string>();
+    if (words != nullptr && (words->empty() || placeFromText(*words))) {
+        return std::nullopt;
+    }
+    return translated("\"%@\" takes a place such as 52.5 13.4 or 33.9S 151.2E.", {key});
 }
 
 bool isFiniteSingle(const PropertyValue& value) {
@@ -124,8 +153,14 @@ PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setti
         return defaults.integerForKey(setting.key);
     case SettingType::real:
         return static_cast<double>(defaults.floatForKey(setting.key));
+    case SettingType::place:
+        if (const auto* text = defaults.objectForKey(setting.key)->as<std::string>()) {
+            return *text;
+        }
+        return setting.whenAbsent;
     case SettingType::effectNames:
     case SettingType::displayNumbers:
+    case SettingType::schedulePoints:
         break;
     }
     const PropertyArray* array = defaults.arrayForKey(setting.key);
@@ -151,6 +186,10 @@ std::optional<std::string> problemWith(const Setting& setting, const PropertyVal
     case SettingType::displayNumbers:
         return unless(isListOfDisplays(value),
                       translated("\"%@\" takes a list of display identifiers.", {key}));
+    case SettingType::schedulePoints:
+        return problemWithPoints(key, value);
+    case SettingType::place:
+        return problemWithPlace(key, value);
     }
     return std::nullopt;
 }

@@ -12,7 +12,15 @@ namespace nocturo {
 
 class DefaultsStore;
 
-enum class SettingType { boolean, integer, real, effectNames, displayNumbers };
+enum class SettingType {
+    boolean,
+    integer,
+    real,
+    effectNames,
+    displayNumbers,
+    schedulePoints, // a list of texts
+    place           // a text
+};
 
 /// What users may choose from, both ends included.
 struct SettingRange {

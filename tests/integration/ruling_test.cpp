@@ -46,3 +46,30 @@ TEST_F(Ruling, APauseLastsAsLongAsACommand) {
     EXPECT_TRUE(waitUntil([&] { return ruler() == "settings"; }));
     EXPECT_EQ(status()["active"], true);
 }
+
+TEST_F(Ruling, TheScheduleRulesOverTheSettings) {
+    ctl({"schedule", "add", "00:00", "red", "night", "vision"});
+    EXPECT_NE(ctl({"schedule"}).output.find("not in use"), std::string::npos);
+    ctl({"schedule", "on"});
+    EXPECT_EQ(status()["ruledLook"], "Red night vision");
+    EXPECT_EQ(
+        ctl({"status"}).output.find("On: Red night vision on all screens; by the schedule until "),
+        0U);
+    ctl({"toggle"});
+    EXPECT_EQ(ruler(), "hand");
+    ctl({"schedule", "add", "00:00", "off"}); // the later one of two counts
+    EXPECT_EQ(status()["active"], false);
+    EXPECT_EQ(ruler(), "schedule");
+    EXPECT_EQ(status()["settings"]["EffectActive"], false) << "the hand's";
+    const auto next = nlohmann::json::parse(ctl({"schedule", "next", "--json"}).output);
+    EXPECT_EQ(next["point"], "00:00 off");
+    ctl({"schedule", "remove", "2"});
+    EXPECT_EQ(ruler(), "schedule");
+    EXPECT_EQ(status()["active"], true);
+    for (const char* wrong : {"25:61 off", "07:00 No such look"}) {
+        EXPECT_EQ(session_.run("nocturoctl", {"schedule", "add", wrong}).exit, 2) << wrong;
+    }
+    EXPECT_EQ(session_.run("nocturoctl", {"set", "SchedulePlace", "91N 0E"}).exit, 2);
+    ctl({"schedule", "off"});
+    EXPECT_EQ(ruler(), "settings");
+}

@@ -103,8 +103,9 @@ class Documented(unittest.TestCase):
         self.assertGreater(len(self.ranges), 2)
         for key, value in self.state["settings"].items():
             kind = ("True or false" if isinstance(value, bool) else "A list" if isinstance(value, list)
+                    else "A text" if isinstance(value, str)
                     else f"A number from {self.ranges[key]}" if key in self.ranges else "A whole number")
-            default = "empty" if value == [] else f"{value:g}" if kind.startswith("A n") else str(value).lower()
+            default = "empty" if value in ([], "") else f"{value:g}" if kind.startswith("A n") else str(value).lower()
             self.assertIn(f"\n.It Sy {key}\n{kind}, {default} by default.\n", text)
 
     def test_completions_know_every_verb_setting_and_effect(self):
