@@ -50,6 +50,18 @@ bool contains(const Range& range, const Value& value) {
     return std::find(range.begin(), range.end(), value) != range.end();
 }
 
+constexpr CGDirectDisplayID kNoneInParticular = 0;
+
+std::vector<CGDirectDisplayID> affectedDisplays(const DefaultsStore& defaults) {
+    const std::vector<double> affected = affectedScreenSet(defaults);
+    const OnlineDisplays online;
+    std::vector<CGDirectDisplayID> displays(online.ids().begin(), online.ids().end());
+    std::erase_if(displays, [&](CGDirectDisplayID display) {
+        return !affected.empty() && !contains(affected, static_cast<double>(display));
+    });
+    return displays;
+}
+
 } // namespace
 
 NDAppController::NDAppController(DefaultsStore& defaults, const NotificationCenters& centers,
@@ -129,31 +141,47 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
     switchEffect(active);
 }
 
-Ruling NDAppController::ruling() const {
-    return automation_ != nullptr ? automation_->ruling(isSwitchedOn_)
+Ruling NDAppController::ruling(CGDirectDisplayID display) const {
+    return automation_ != nullptr ? automation_->ruling(isSwitchedOn_, display)
                                   : Ruling{{isSwitchedOn_}, Ruler::settings};
+}
+
+Ruling NDAppController::ruling() const {
+    std::optional<Ruling> common;
+    for (const CGDirectDisplayID display : affectedDisplays(defaults_)) {
+        Ruling its = ruling(display);
+        if (common && *common != its) {
+            return ruling(kNoneInParticular);
+        }
+        common = std::move(its);
+    }
+    return common ? *common : ruling(kNoneInParticular);
+}
+
+bool NDAppController::isWanted() const {
+    const auto displays = affectedDisplays(defaults_);
+    return displays.empty() ? ruling(kNoneInParticular).isOn
+                            : std::any_of(displays.begin(), displays.end(),
+                                          [this](auto display) { return ruling(display).isOn; });
 }
 
 std::string NDAppController::titleOfRuledLook() const {
     return automation_ != nullptr ? automation_->titleOfLook(ruling()) : std::string();
 }
 
-std::shared_ptr<NDEffect> NDAppController::effectInForce() const {
-    return ruledEffect_ != nullptr ? ruledEffect_ : globalEffect_;
+std::shared_ptr<NDEffect> NDAppController::effectInForce(CGDirectDisplayID display) const {
+    auto ruled = automation_ != nullptr ? automation_->effectOf(ruling(display)) : nullptr;
+    return ruled != nullptr ? ruled : globalEffect_;
 }
 
-void NDAppController::takeRuledEffect() {
-    auto ruled = automation_ != nullptr ? automation_->effectOf(ruling()) : nullptr;
-    if (ruled == ruledEffect_) {
-        return;
-    }
-    ruledEffect_ = std::move(ruled);
-    if (screenControllers_) {
-        for (const auto& controller : *screenControllers_) {
-            controller->setEffect(effectInForce());
+void NDAppController::takeRuledEffects() {
+    for (const auto& controller : *screenControllers_) {
+        auto effect = effectInForce(controller->screenID());
+        if (effect.get() != &controller->effect()) {
+            controller->setEffect(std::move(effect));
+            controller->updateEffect();
         }
     }
-    updateEffect();
 }
 
 void NDAppController::pause(std::string_view words) {
@@ -166,7 +194,7 @@ void NDAppController::followRuling() {
     if (!isReady() || paused_) {
         return; // the end of the screen saver asks again
     }
-    const bool isOn = ruling().isOn;
+    const bool isOn = isWanted();
     if (isOn || effectActive()) {
         switchEffect(isOn);
     } else {
@@ -179,8 +207,8 @@ void NDAppController::switchEffect(bool active) {
         if (!screenControllers_) {
             screenControllers_.emplace();
         }
-        takeRuledEffect();
         adjustScreenControllers();
+        takeRuledEffects();
         setActivateItemTitles();
         // Once, also where it was on: what says "on" again and again would add up.
         centers_.distributed.removeObserver(this, kScreenSaverDidStartNotification);
@@ -211,8 +239,9 @@ void NDAppController::adjustScreenControllers() {
     const std::vector<double> affected = affectedScreenSet(defaults_);
     const OnlineDisplays online;
     for (const CGDirectDisplayID display : online.ids()) {
-        setScreenControllerActive(
-            affected.empty() || contains(affected, static_cast<double>(display)), display);
+        const bool isAffected =
+            affected.empty() || contains(affected, static_cast<double>(display));
+        setScreenControllerActive(isAffected && ruling(display).isOn, display);
     }
 }
 
@@ -229,8 +258,8 @@ void NDAppController::setScreenControllerActive(bool active, CGDirectDisplayID f
             screenControllers_->erase(found);
         }
     } else if (active) {
-        screenControllers_->push_back(
-            NDScreenController::screenControllerWithEffect(effectInForce(), forScreenID));
+        screenControllers_->push_back(NDScreenController::screenControllerWithEffect(
+            effectInForce(forScreenID), forScreenID));
     }
 }
 
@@ -284,8 +313,11 @@ void NDAppController::updateApplyTimer() {
 
 void NDAppController::defaultsDidChange(const Subjects& settings) {
     const bool screens = settings.containAnyOf(kAffectedScreenSettings);
-    if (effectActive() && screens) {
+    if (screens && effectActive()) {
         adjustScreenControllers();
+    }
+    if (screens && effectActive() != isWanted()) {
+        followRuling(); // one that shows nothing came, or the last that did has gone
     }
     if (screens || settings.containAnyOf(kEffectSettings)) {
         updateEffect();
@@ -327,7 +359,7 @@ void NDAppController::screenSaverDidStart() {
 
 void NDAppController::screenSaverDidStop() {
     paused_ = false;
-    switchEffect(automation_ == nullptr || ruling().isOn);
+    switchEffect(automation_ == nullptr || isWanted());
 }
 
 CGDirectDisplayID NDAppController::validatedDisplayID() {

@@ -138,9 +138,14 @@ class NDAppController : public ActionTarget {
     /// to while the effect is on; every switch-off ends that, also for colour profiles, which are
     /// not followed again.
     void setEffectActive(bool active, bool saveState);
+    /// Whether it is on, for one display at least.
     bool effectActive() const { return screenControllers_.has_value(); }
 
-    /// Who says what the displays show, and for how long; of the screen saver it knows nothing.
+    /// Who says what a display shows, and for how long; of the screen saver it knows nothing.
+    Ruling ruling(CGDirectDisplayID display) const;
+
+    /// The same for all affected displays; where they differ, for one of which nobody says anything
+    /// in particular.
     Ruling ruling() const;
 
     /// The title of the look that rules over the effects of the settings; empty where none does.
@@ -160,8 +165,8 @@ class NDAppController : public ActionTarget {
     /// Switches the effect off for a time that is told in words, as Automation::pause() takes them.
     void pause(std::string_view words);
 
-    /// Makes and drops screen controllers until they match the affected screen set; changes nothing
-    /// when the displays cannot be listed or there are none.
+    /// Makes and drops screen controllers until they match the affected screen set and what rules
+    /// on each display; changes nothing when the displays cannot be listed or there are none.
     void adjustScreenControllers();
 
     /// Displays that have a controller already keep it and the curve it captured; one that loses
@@ -227,8 +232,9 @@ class NDAppController : public ActionTarget {
     void bringEffectBack(std::function<void(bool launched)> finished);
     void restoreEffect();
     void followRuling();
-    void takeRuledEffect();
-    std::shared_ptr<NDEffect> effectInForce() const;
+    bool isWanted() const;
+    void takeRuledEffects();
+    std::shared_ptr<NDEffect> effectInForce(CGDirectDisplayID display) const;
     void switchEffect(bool active);
     void appearOnDesktop();
     void setActivateItemTitles();
@@ -249,7 +255,6 @@ class NDAppController : public ActionTarget {
     bool paused_ = false;
     bool isSwitchedOn_ = false; // what the user wants, whatever rules over it
     std::shared_ptr<NDGroupEffect> globalEffect_;
-    std::shared_ptr<NDEffect> ruledEffect_; // of a look that rules; null for the settings' effects
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
     std::unique_ptr<Timer> continuousApplyTimer_;
     std::unique_ptr<Timer> modeChangeTimer_;

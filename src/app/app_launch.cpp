@@ -112,7 +112,7 @@ void NDAppController::restoreEffect() {
         automation_->wasSwitchedByHand(false);
     }
     isSwitchedOn_ = always || saved;
-    switchEffect(ruling().isOn);
+    switchEffect(isWanted());
 }
 
 void NDAppController::warnIfNoEffects(std::function<void()> done) {

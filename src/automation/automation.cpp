@@ -62,11 +62,15 @@ std::optional<Claim> Automation::scheduleClaim() const {
                  around_.next ? std::optional(around_.next->moment) : std::nullopt};
 }
 
-Ruling Automation::ruling(bool isSwitchedOn) const {
-    return whoWins({.hand = hand_,
-                    .pause = pauses_.claim(),
-                    .schedule = scheduleClaim(),
-                    .isSwitchedOn = isSwitchedOn});
+Claims Automation::claims(bool isSwitchedOn, CGDirectDisplayID /*display*/) const {
+    return {.hand = hand_,
+            .pause = pauses_.claim(),
+            .schedule = scheduleClaim(),
+            .isSwitchedOn = isSwitchedOn};
+}
+
+Ruling Automation::ruling(bool isSwitchedOn, CGDirectDisplayID display) const {
+    return whoWins(claims(isSwitchedOn, display));
 }
 
 std::shared_ptr<NDEffect> Automation::effectOf(const Ruling& ruling) {
@@ -74,11 +78,11 @@ std::shared_ptr<NDEffect> Automation::effectOf(const Ruling& ruling) {
     if (look == nullptr) {
         return nullptr;
     }
-    if (effectsOfIt_ == nullptr || *effectsOfIt_ != look->effects) {
-        effectsOfIt_ = std::make_unique<EffectDocument>(look->effects);
-        effect_ = std::make_shared<LookEffect>(look->effects);
+    AppliedLook& applied = appliedLooks_[look->name];
+    if (applied.effect == nullptr || applied.effects != look->effects) {
+        applied = {look->effects, std::make_shared<LookEffect>(look->effects)};
     }
-    return effect_;
+    return applied.effect;
 }
 
 std::string Automation::titleOfLook(const Ruling& ruling) const {

@@ -5,9 +5,12 @@
 #include "automation/who_wins.h"
 #include "base/result.h"
 #include "base/wall_clock.h"
+#include "displays/display_services.h"
+#include "documents/effect_document.h"
 
 #include <cstddef>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -22,7 +25,6 @@ class Looks;
 class NDEffect;
 class NotificationCenter;
 class Subjects;
-struct EffectDocument;
 
 /// Posted on the local notification center when another ruling may hold by itself: not by the
 /// user's turning of the switch, which whoever turns it acts on.
@@ -49,10 +51,12 @@ class Automation {
     /// Goes on where the last run ended. To be called before the launch switches anything.
     void start();
 
-    /// What the displays show if the user has switched the effect so.
-    Ruling ruling(bool isSwitchedOn) const;
+    /// What a display shows if the user has switched the effect so. 0 is a display of which nobody
+    /// says anything in particular.
+    Ruling ruling(bool isSwitchedOn, CGDirectDisplayID display = 0) const;
 
-    /// What applies the look of a ruling; null where it has none.
+    /// What applies the look of a ruling; null where it has none. The same one as long as the look
+    /// stays as it is.
     std::shared_ptr<NDEffect> effectOf(const Ruling& ruling);
 
     /// As people read it; empty where it has none.
@@ -75,6 +79,12 @@ class Automation {
     const std::vector<ListedPoint>& listedPoints() const { return listed_; }
 
   private:
+    struct AppliedLook {
+        EffectDocument effects;
+        std::shared_ptr<NDEffect> effect;
+    };
+
+    Claims claims(bool isSwitchedOn, CGDirectDisplayID display) const;
     std::optional<Claim> scheduleClaim() const;
     Result<std::optional<Moment>> endOf(std::string_view words);
     void settingsDidChange(const Subjects& settings);
@@ -95,9 +105,8 @@ class Automation {
     std::vector<std::size_t> indexes_; // of its points in the setting
     Schedule::Around around_;
     std::vector<ListedPoint> listed_;
-    std::set<std::string> explained_; // points that were logged
-    std::shared_ptr<NDEffect> effect_;
-    std::unique_ptr<EffectDocument> effectsOfIt_;
+    std::set<std::string> explained_;                 // points that were logged
+    std::map<std::string, AppliedLook> appliedLooks_; // by name
     std::unique_ptr<Timer> timer_;
 };
 
