@@ -50,6 +50,7 @@ test         polybar                   bars that show the state
 test         waybar                    ...
 test         grim                      what a bar draws under Wayland
 test         gammastep                 a program that wants the same outputs
+test         wlsunset                  another
 test         x11-xserver-utils         xrandr lights displays, xset starts screen savers, xmodmap moves keys
 test         locales                   one with a comma in its numbers
 test         dbus-daemon               buses of the tests' own

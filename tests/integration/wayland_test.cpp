@@ -63,6 +63,7 @@ TEST_F(Wayland, InvertsTheAffectedScreensAndGivesThemBackHoweverItEnds) {
 
 TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
     NEEDS("gammastep");
+    NEEDS("wlsunset");
     EXPECT_TRUE(becomes("ii"));
     for (int output = 3; output <= 10; ++output) {
         sway_->tell({"create_output"});
@@ -72,14 +73,19 @@ TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
         sway_->tell({"output", "HEADLESS-" + std::to_string(leaving), "disable"});
     }
     EXPECT_TRUE(waitUntil([&] { return status()["displays"].size() == 1; }));
-    const auto other = session_.start("gammastep", {"-m", "wayland", "-P", "-O", "3500"});
-    EXPECT_TRUE(waitUntil([&] { return status()["displays"][0]["heldByOther"] == true; }));
-    EXPECT_FALSE(status()["displays"][0]["applied"]);
-    EXPECT_EQ(ctl({"status"}).output.find("On: Invert on all screens, but not on HEADLESS-1\n"),
-              0U);
-    ctl({"off"});
-    ctl({"on"});
-    EXPECT_TRUE(becomes("io"));
+    const std::pair<std::string, std::vector<std::string>> others[] = {
+        {"gammastep", {"-m", "wayland", "-P", "-O", "3500"}},
+        {"wlsunset", {"-l", "0", "-L", "0", "-t", "3500", "-T", "3600"}}};
+    for (const auto& [program, arguments] : others) {
+        const auto other = session_.start(program, arguments);
+        EXPECT_TRUE(waitUntil([&] { return status()["displays"][0]["heldByOther"] == true; }));
+        EXPECT_FALSE(status()["displays"][0]["applied"]);
+        EXPECT_EQ(ctl({"status"}).output.find("On: Invert on all screens, but not on HEADLESS-1\n"),
+                  0U);
+        ctl({"off"});
+        ctl({"on"});
+        EXPECT_TRUE(becomes("io")) << program;
+    }
     EXPECT_EQ(status()["displays"][0]["heldByOther"], false);
 }
 
