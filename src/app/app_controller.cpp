@@ -73,8 +73,18 @@ NDAppController::~NDAppController() {
          {&centers_.local, &centers_.workspace, &centers_.distributed}) {
         center->removeObserver(this);
     }
+    centers_.distributed.removeObserver(&saverRuns_);
     HXHotKeyCenter::sharedHotKeyCenter().unregisterAllHotKeys();
     CGDisplayRemoveReconfigurationCallback(NDDisplayReconfigurationCallback, this);
+}
+
+// What switches by itself switches on while the controller listens to no screen saver, too.
+void NDAppController::setAutomation(Automation* automation) {
+    automation_ = automation;
+    centers_.distributed.addObserver(&saverRuns_, kScreenSaverDidStartNotification,
+                                     [this] { saverRuns_ = true; });
+    centers_.distributed.addObserver(&saverRuns_, kScreenSaverDidStopNotification,
+                                     [this] { saverRuns_ = false; });
 }
 
 void NDAppController::observe(NotificationCenter& center, std::string_view name, Handler handler) {
@@ -195,6 +205,12 @@ void NDAppController::followRuling() {
         return; // the end of the screen saver asks again
     }
     const bool isOn = isWanted();
+    if (isOn && !effectActive() && saverRuns_) {
+        screenSaverDidStart();
+    }
+    if (paused_) {
+        return;
+    }
     if (isOn || effectActive()) {
         switchEffect(isOn);
     } else {

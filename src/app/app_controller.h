@@ -65,7 +65,7 @@ class NDAppController : public ActionTarget {
         installedApplications_ = applications;
     }
     /// Without it the user's switch alone decides.
-    void setAutomation(Automation* automation) { automation_ = automation; }
+    void setAutomation(Automation* automation);
 
     // Launch and end
 
@@ -253,6 +253,7 @@ class NDAppController : public ActionTarget {
     bool statusItemShown_ = false;
     bool recordingHotKey_ = false;
     bool paused_ = false;
+    bool saverRuns_ = false; // known while there is an automation
     bool isSwitchedOn_ = false; // what the user wants, whatever rules over it
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
