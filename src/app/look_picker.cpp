@@ -8,10 +8,14 @@
 
 namespace nocturo {
 
+std::string LookPicker::shown() {
+    std::string ruled = controller_.ruling().look;
+    return ruled.empty() ? chosen_.nameInForce() : ruled;
+}
+
 void LookPicker::pick(const std::string& name) {
     const std::string before = chosen_.nameInForce();
-    const std::string ruled = controller_.ruling().look;
-    if ((ruled.empty() ? before : ruled) == name && controller_.effectActive()) {
+    if (shown() == name && controller_.effectActive()) {
         leave();
         return;
     }

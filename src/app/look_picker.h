@@ -16,6 +16,10 @@ class LookPicker {
 
     ChosenLook& chosen() { return chosen_; }
 
+    /// The name of the look that the displays show while the effect is on: that of whoever rules,
+    /// or else that of the settings; empty where it is none.
+    std::string shown();
+
     /// Applies the look and switches the effect on. The look that the displays show is left for
     /// what was there before it, which may be no effect.
     void pick(const std::string& name);

@@ -1,5 +1,6 @@
 #include "app/looks_menu.h"
 
+#include "app/app_controller.h"
 #include "app/look_picker.h"
 #include "base/notification_center.h"
 #include "base/texts/translated.h"
@@ -20,6 +21,7 @@ LooksMenu::LooksMenu(LookPicker& picker, NotificationCenter& localCenter, Menu& 
     title_ = menu_.insertAfter(afterItem, std::move(title));
     list();
     localCenter_.addObserver(this, kLooksDidChangeNotification, [this] { list(); });
+    localCenter_.addObserver(this, kEffectActivationNotification, [this] { tick(); });
     localCenter_.addObserver(this, NSUserDefaultsDidChangeNotification,
                              [this](const Subjects& settings) {
                                  if (settings.containAnyOf(kEffectSettings)) {
@@ -41,7 +43,7 @@ void LooksMenu::list() {
     for (; items_.size() > looks.size(); items_.pop_back()) {
         menu_.remove(items_.back());
     }
-    ticked_ = picker_.chosen().nameInForce();
+    ticked_ = picker_.shown();
     for (std::size_t place = 0; place < looks.size(); ++place) {
         MenuItem item;
         item.text = withoutMnemonic(looks[place].title);
@@ -59,7 +61,7 @@ void LooksMenu::list() {
 }
 
 void LooksMenu::tick() {
-    if (picker_.chosen().nameInForce() != ticked_) {
+    if (picker_.shown() != ticked_) {
         list();
     }
 }

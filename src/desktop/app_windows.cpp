@@ -73,7 +73,8 @@ NDPreferencesController& AppWindows::preferencesController() {
             [this] { controller_.toggleGlobalEffect(); },
             [this] { return stateSentence(controller_, defaults_); }, &looks_.chosen(),
             [this](const std::string& name) { looks_.pick(name); }, autostart,
-            [this] { return documentFolder ? documentFolder() : std::filesystem::path(); }});
+            [this] { return documentFolder ? documentFolder() : std::filesystem::path(); },
+            [this] { return looks_.shown(); }});
         preferenceController->setKeyboardLayout(layout_);
         QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,
                          preferenceController.get(), [this](const QString& path) {

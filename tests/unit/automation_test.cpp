@@ -2,10 +2,13 @@
 
 #include "automation/automation.h"
 
+#include "app/look_picker.h"
+#include "app/looks_menu.h"
 #include "automation/schedule_setting.h"
 #include "automation/time_zone_place.h"
 #include "base/local_time.h"
 #include "controller_fixture.h"
+#include "documents/chosen_look.h"
 #include "documents/looks.h"
 #include "fake_wall_clock.h"
 #include "temporary_directory.h"
@@ -138,6 +141,12 @@ TEST_F(AutomationTest, APauseAndTheScreenSaverDoNotWakeEachOther) {
     EXPECT_FALSE(isInverted());
     distributed_.post(kScreenSaverDidStopNotification);
     EXPECT_TRUE(isInverted());
+    EXPECT_TRUE(automation_.pause("1s"));
+    distributed_.post(kScreenSaverDidStartNotification);
+    clock_.passTo(kNoon + 2h);
+    EXPECT_FALSE(isInverted()) << "the saver came while the effect was off";
+    distributed_.post(kScreenSaverDidStopNotification);
+    EXPECT_TRUE(isInverted());
 }
 
 TEST_F(AutomationTest, APauseOutlivesTheProgram) {
@@ -260,13 +269,22 @@ struct ScheduledTest : AutomationTest {
 };
 
 TEST_F(ScheduledTest, SwitchesAndChoosesLooksWithoutTouchingTheSettings) {
+    ChosenLook chosen(looks_);
+    LookPicker picker(controller_, chosen);
+    Menu menu;
+    const LooksMenu list(picker, center_, menu, Menu::kNone);
+    const auto isTicked = [&menu](std::size_t place) {
+        return menu.entries().at(place).item.isChecked;
+    };
     EXPECT_EQ(toldWithoutEnd(), "schedule off") << "in the middle of a period";
     EXPECT_EQ(controller_.ruling().until, hour(18));
     EXPECT_FALSE(isInverted());
     clock_.passTo(hour(18));
     EXPECT_TRUE(isBlack());
+    EXPECT_TRUE(isTicked(1)) << "Dark, though the settings invert as Turned does";
     clock_.passTo(hour(20));
     EXPECT_TRUE(isInverted());
+    EXPECT_TRUE(isTicked(2));
     clock_.passTo(hour(30));
     EXPECT_EQ(toldWithoutEnd(), "schedule on Turned") << "a look that is gone changes nothing";
     clock_.jumpTo(hour(18 + 72)); // the machine slept through ten points

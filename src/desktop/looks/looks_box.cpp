@@ -78,8 +78,10 @@ void LooksBox::makeMenu() {
             [this](const QPoint& point) { menu_->popup(row_->viewport()->mapToGlobal(point)); });
 }
 
-void LooksBox::setLooks(ChosenLook& chosen, std::function<void(const std::string& name)> pick) {
+void LooksBox::setLooks(ChosenLook& chosen, std::function<void(const std::string& name)> pick,
+                        std::function<std::string()> shown) {
     chosen_ = &chosen;
+    shown_ = std::move(shown);
     connect(row_, &LooksRow::picked, this,
             [pick = std::move(pick)](const QString& name) { pick(name.toStdString()); });
     list();
@@ -94,7 +96,7 @@ void LooksBox::list() {
 
 void LooksBox::tick() {
     if (chosen_ != nullptr) {
-        row_->setInForce(chosen_->nameInForce());
+        row_->setInForce(shown_ ? shown_() : chosen_->nameInForce());
     }
 }
 

@@ -23,8 +23,10 @@ class LooksBox : public QWidget {
   public:
     explicit LooksBox(QWidget* parent = nullptr);
 
-    /// `chosen` must outlive the box. `pick` is called with the name of a look that was clicked.
-    void setLooks(ChosenLook& chosen, std::function<void(const std::string& name)> pick);
+    /// `chosen` must outlive the box. `pick` is called with the name of a look that was clicked;
+    /// `shown` answers with that of the one to tick, which is that in force without it.
+    void setLooks(ChosenLook& chosen, std::function<void(const std::string& name)> pick,
+                  std::function<std::string()> shown = {});
 
     /// Lists the looks anew. Nothing before there are any.
     void list();
@@ -44,6 +46,7 @@ class LooksBox : public QWidget {
     void showFailure(const Result<void>& result);
 
     ChosenLook* chosen_ = nullptr;
+    std::function<std::string()> shown_;
     LooksRow* row_;
     QToolButton* saveButton_;
     QToolButton* menuButton_;

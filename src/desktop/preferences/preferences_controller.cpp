@@ -181,7 +181,7 @@ void NDPreferencesController::windowDidLoad() {
     Q_EMIT ui_->showCurves->toggled(false);
     ui_->looksGroup->setVisible(surroundings_.looks != nullptr);
     if (surroundings_.looks != nullptr) {
-        ui_->looks->setLooks(*surroundings_.looks, surroundings_.pickLook);
+        ui_->looks->setLooks(*surroundings_.looks, surroundings_.pickLook, surroundings_.shownLook);
         surroundings_.localCenter.addObserver(this, kLooksDidChangeNotification,
                                               [this] { ui_->looks->list(); });
     }
@@ -319,7 +319,6 @@ void NDPreferencesController::updateEffects() {
     ui_->dimScreen->setChecked(dims);
     ui_->dimLevel->setEnabled(dims);
     ui_->dimLevel->setValue(NDDimEffect::level());
-    ui_->looks->tick();
 }
 
 void NDPreferencesController::updateFilter() {
@@ -347,6 +346,7 @@ void NDPreferencesController::updateState() {
         return;
     }
     ui_->effectSwitch->setChecked(surroundings_.isOn());
+    ui_->looks->tick();
     const QString sentence = QString::fromStdString(surroundings_.stateSentence());
     if (ui_->stateSentence->text() != sentence) {
         ui_->stateSentence->setText(sentence);

@@ -55,6 +55,8 @@ struct PreferenceSurroundings {
     const Autostart* autostart = nullptr;
     /// Where a document is looked for and put at first; the home directory where that is none.
     std::function<std::filesystem::path()> documentFolder = {};
+    /// The name of the look that the displays show; that of the settings without it.
+    std::function<std::string()> shownLook = {};
 };
 
 /// The preference window. It holds no settings of its own: every control writes straight into the
