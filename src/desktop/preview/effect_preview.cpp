@@ -191,7 +191,7 @@ void EffectPreview::paintEvent(QPaintEvent* /*event*/) {
         return;
     }
     QRectF picture = pictureIn(QRectF(rect()));
-    picture.moveCenter(QRectF(rect()).center());
+    picture.moveCenter({QRectF(rect()).center().x(), picture.center().y()});
     paintPicture(painter, picture, curves_, palette());
 }
 
