@@ -86,6 +86,7 @@ package      debhelper                 ...
 package      lintian                   their rules
 package      debootstrap               a fresh system to install them in
 screenshots  imagemagick               pictures beside each other
+screenshots  fonts-wqy-microhei        Japanese and Chinese
 TABLE
 )
 

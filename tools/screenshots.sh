@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Takes the pictures of the windows anew on an X server of its own: those of the README and the user
 # guide into docs/images, and with a directory as argument every look that has to be looked at,
-# right-to-left, with long texts and at 200 %, into that.
+# right-to-left, with long texts, at 200 %, in other languages and on small screens, into that.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 looks=${1:-}
@@ -14,8 +14,10 @@ end() {
 }
 trap end EXIT
 
-# That of the tests, with one display that is large enough.
-sed 's/Modes .*/Modes "2048x1536"/; s/Virtual .*/Virtual 2048 1536/' tests/rig/xorg.conf >"$home/xorg.conf"
+# That of the tests, with one display that is large enough, or smaller.
+sed 's/Modes .*/Modes "2048x1536" "1280x720" "1024x600"/; s/Virtual .*/Virtual 2048 1536/
+  /Modeline/a Modeline "1280x720" 74.5 1280 1344 1472 1664 720 723 728 748
+  /Modeline/a Modeline "1024x600" 49 1024 1072 1168 1312 600 603 613 624' tests/rig/xorg.conf >"$home/xorg.conf"
 
 xorg=/usr/lib/xorg/Xorg
 [ -x "$xorg" ] || xorg=Xorg
@@ -42,6 +44,19 @@ if [ -n "$looks" ]; then
     take 2 "$window" "$looks/$window-200.png"
     take 1 "$window" "$looks/$window-rtl.png" rtl
     take 1 "$window" "$looks/$window-long.png" long
+    for language in de ja; do
+      LANGUAGE=$language take 1 "$window" "$looks/$window-$language.png"
+    done
+  done
+  for window in preferences switching; do
+    take 1 "$window" "$looks/$window-tall.png" tall
+    xrandr -s 1024x600
+    take 1 "$window" "$looks/$window-1024x600.png"
+    xrandr -s 1280x720
+    for language in en fr; do
+      LANGUAGE=$language take 1.5 "$window" "$looks/$window-1280x720-$language.png"
+    done
+    xrandr -s 2048x1536
   done
 else
   for window in preferences switching about keep status-menu; do

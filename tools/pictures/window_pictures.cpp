@@ -1,5 +1,5 @@
 // Shows one window of Nocturo on the X server, in the looks asked for, and keeps what the server
-// shows: window_pictures WINDOW FILE [dark] [rtl] [long]
+// shows: window_pictures WINDOW FILE [dark] [rtl] [long] [tall]
 
 #include "app/app_controller.h"
 #include "app/app_menus.h"
@@ -21,6 +21,7 @@
 #include "documents/recent_documents.h"
 #include "effects/color_filter_effect.h"
 #include "effects/group_effect.h"
+#include "session/autostart.h"
 #include "settings/defaults_store.h"
 
 #include <QApplication>
@@ -117,6 +118,8 @@ int run(const QStringList& arguments) {
     ChosenLook chosenLook(looks);
     LookPicker lookPicker(controller, chosenLook);
     AppWindows windows(controller, defaults, centers, lookPicker, {});
+    const Autostart autostart(*runtimeDirectory() / "autostart", {}, "nocturo");
+    windows.autostart = &autostart;
     controller.setUserInterface(&windows);
     DisplaySurroundings around;
     around.runtimeDirectory = *runtimeDirectory();
@@ -143,6 +146,10 @@ int run(const QStringList& arguments) {
     appMenus.setActivateItemTitles(controller.effectActive());
     appMenus.makeScreenMenus();
     show(windows, arguments[1]);
+    if (QWidget* shown = windows.shownPreferences();
+        shown != nullptr && arguments.contains(QLatin1String("tall"))) {
+        shown->resize(shown->width(), 2 * shown->width());
+    }
     QTimer::singleShot(1000, [&] {
         QRect area;
         for (const QWindow* window : QGuiApplication::topLevelWindows()) {
@@ -167,7 +174,7 @@ int main(int argc, char** argv) {
     installTranslations(*QCoreApplication::instance());
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
-        std::fputs("Usage: window_pictures WINDOW FILE [dark] [rtl] [long]\n", stderr);
+        std::fputs("Usage: window_pictures WINDOW FILE [dark] [rtl] [long] [tall]\n", stderr);
         return 2;
     }
     QApplication::setQuitOnLastWindowClosed(false);
