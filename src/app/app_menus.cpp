@@ -65,7 +65,11 @@ void AppMenus::setActivateItemTitles(bool active) {
 
 void AppMenus::makeScreenMenus() {
     // The last first: the run of screens starts right after the activate item.
-    statusDocuments_.emplace(documents_, statusMenu_, statusActivateItem_, openDocument_);
+    MenuItem recent;
+    recent.text = translated("Open Recent");
+    statusDocuments_.emplace(documents_, statusMenu_,
+                             statusMenu_.insertAfter(statusActivateItem_, std::move(recent)),
+                             openDocument_);
     statusEffects_.emplace(localCenter_, statusMenu_, statusActivateItem_);
     mainLooks_.emplace(looks_, localCenter_, effectMenu_, activateItem_);
     statusLooks_.emplace(looks_, localCenter_, statusMenu_, statusActivateItem_);

@@ -1,7 +1,6 @@
 #include "app/documents_menu.h"
 
 #include "base/notification_center.h"
-#include "base/texts/translated.h"
 #include "documents/effect_document_file.h"
 #include "documents/recent_documents.h"
 
@@ -10,10 +9,9 @@
 
 namespace nocturo {
 
-DocumentsMenu::DocumentsMenu(const RecentDocuments& documents, Menu& menu, Menu::Id afterItem,
+DocumentsMenu::DocumentsMenu(const RecentDocuments& documents, Menu& menu, Menu::Id title,
                              std::function<void(const std::string& path)> open)
-    : documents_(documents), menu_(menu), open_(std::move(open)),
-      title_(menu.insertAfter(afterItem, {})) {
+    : documents_(documents), menu_(menu), open_(std::move(open)), title_(title) {
     list();
     menu_.changes().addObserver(this, kMenuWillOpenNotification, [this] { list(); });
 }
@@ -40,10 +38,11 @@ void DocumentsMenu::list() {
                 menu_.insertAfter(place > 0 ? items_.back() : title_, std::move(item)));
         }
     }
-    MenuItem title;
-    title.text = translated("Open Recent");
-    title.isVisible = !paths.empty();
-    menu_.setItem(title_, std::move(title));
+    if (const MenuItem* title = menu_.item(title_)) {
+        MenuItem shown = *title;
+        shown.isVisible = !paths.empty();
+        menu_.setItem(title_, std::move(shown));
+    }
 }
 
 } // namespace nocturo

@@ -10,12 +10,13 @@ namespace nocturo {
 
 class RecentDocuments;
 
-/// Keeps the submenu "Open Recent" of a menu: the documents that were opened last, hidden where
-/// there are none. It is looked at when the menu is about to be shown. Main thread only.
+/// Keeps the documents that were opened last in a menu. They are looked at when the menu is about
+/// to be shown. Main thread only.
 class DocumentsMenu {
   public:
-    /// The item of the submenu stands right after `afterItem`. All must outlive this.
-    DocumentsMenu(const RecentDocuments& documents, Menu& menu, Menu::Id afterItem,
+    /// They are the submenu of `title`, which is hidden where there are none; for kNone, what comes
+    /// first in the menu itself. All must outlive this.
+    DocumentsMenu(const RecentDocuments& documents, Menu& menu, Menu::Id title,
                   std::function<void(const std::string& path)> open);
     ~DocumentsMenu();
     DocumentsMenu(const DocumentsMenu&) = delete;
@@ -27,7 +28,7 @@ class DocumentsMenu {
     const RecentDocuments& documents_;
     Menu& menu_;
     const std::function<void(const std::string& path)> open_;
-    Menu::Id title_;
+    const Menu::Id title_;
     std::vector<Menu::Id> items_;
 };
 

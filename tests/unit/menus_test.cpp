@@ -74,9 +74,9 @@ TEST_F(RecentlyOpened, EveryItemOfTheMainMenuCanBeTyped) {
 }
 
 TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
-    QString opened;
+    std::string opened;
     MainMenu::Handlers handlers;
-    handlers.openRecentDocument = [&](const QString& path) { opened = path; };
+    handlers.openRecentDocument = [&](const std::string& path) { opened = path; };
     Menu effects;
     const MainMenu menu(effects, documents, handlers);
     const auto menus = menu.bar()->findChildren<QMenu*>();
@@ -88,7 +88,7 @@ TEST_F(RecentlyOpened, TheMenuOffersAndForgetsThem) {
     ASSERT_EQ(recent.actions().size(), 3); // the document, a separator, Clear Menu
     EXPECT_EQ(recent.actions()[0]->text(), "R&&D.nocturo");
     recent.actions()[0]->trigger();
-    EXPECT_EQ(opened.toStdString(), directory / "R&D.nocturo");
+    EXPECT_EQ(opened, directory / "R&D.nocturo");
     recent.actions()[2]->trigger();
     EXPECT_THAT(documents.paths(), IsEmpty());
 }
@@ -129,7 +129,7 @@ TEST_F(SettingsFixture, TheEffectsMenuTicksThoseThatAreSelected) {
 TEST_F(RecentlyOpened, TheTrayListsThemWheneverItsMenuOpens) {
     Menu menu;
     std::string opened;
-    const DocumentsMenu list(documents, menu, Menu::kNone,
+    const DocumentsMenu list(documents, menu, append(menu, "Open Recent"),
                              [&](const std::string& path) { opened = path; });
     EXPECT_FALSE(menu.entries().at(0).item.isVisible);
     documents.note(document("a_&_b.nocturo"));

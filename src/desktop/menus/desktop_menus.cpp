@@ -39,9 +39,9 @@ DesktopMenus::~DesktopMenus() {
 
 MainMenu::Handlers DesktopMenus::mainMenuHandlers() {
     return {[this] { windows_.askForDocument(); },
-            [this](const QString& path) {
+            [this](const std::string& path) {
                 windows_.loadPreferences();
-                controller_.openFile(path.toStdString());
+                controller_.openFile(path);
             },
             [this] { windows_.askWhereToSave(); },
             [this] { windows_.closePreferences(); },

@@ -7,6 +7,11 @@ namespace nocturo {
 
 namespace {
 
+/// By itself a tool tip that looks like markup would be taken as such.
+QString plainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
 void show(const MenuItem& item, QAction& action) {
     action.setSeparator(item.isSeparator);
     action.setVisible(item.isVisible);
@@ -17,10 +22,6 @@ void show(const MenuItem& item, QAction& action) {
 }
 
 } // namespace
-
-QString plainToolTip(const QString& text) {
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}
 
 DrawnMenu::DrawnMenu(Menu& menu, QMenu& drawn) : menu_(menu), drawn_(&drawn) {
     drawn.setToolTipsVisible(true);

@@ -9,10 +9,6 @@
 
 namespace nocturo {
 
-/// A tool tip that shows this very text: by itself one that looks like markup would be taken as
-/// such.
-QString plainToolTip(const QString& text);
-
 /// Shows a menu of the core as a QMenu, with its submenus: items are changed in place, and picked
 /// ones passed on.
 /// Needs a QApplication.

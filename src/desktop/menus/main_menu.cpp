@@ -1,16 +1,15 @@
 #include "desktop/menus/main_menu.h"
 
-#include "desktop/menus/drawn_menu.h"
-
 #include "desktop/qt/localized.h"
 #include "documents/recent_documents.h"
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+
+#include <utility>
 
 namespace nocturo {
 
@@ -31,25 +30,11 @@ void showKeys(QAction& item, const QKeySequence& keys) {
     item.setShortcutContext(Qt::WidgetShortcut);
 }
 
-void fillRecent(QMenu& menu, const RecentDocuments& documents,
-                const std::function<void(const QString&)>& open) {
-    menu.clear();
-    for (const std::string& path : documents.paths()) {
-        const QString file = QString::fromStdString(path);
-        QAction* item =
-            menu.addAction(QFileInfo(file).fileName().replace(u'&', QStringLiteral("&&")));
-        item->setToolTip(plainToolTip(file));
-        QObject::connect(item, &QAction::triggered, item, [open, file] { open(file); });
-    }
-    const bool any = !menu.isEmpty();
-    menu.addSeparator();
-    add(menu, localized("&Clear Menu"), [&documents] { documents.clear(); })->setEnabled(any);
-}
-
 } // namespace
 
 MainMenu::MainMenu(Menu& effectMenu, const RecentDocuments& documents, const Handlers& handlers)
-    : bar_(new QMenuBar) {
+    : bar_(new QMenuBar),
+      recent_(documents, recentMenu_, Menu::kNone, handlers.openRecentDocument) {
     addFileMenu(documents, handlers);
     effectMenu_.emplace(effectMenu, *bar_->addMenu(localized("&Effect")));
     addHelpMenu(handlers);
@@ -63,11 +48,14 @@ void MainMenu::addFileMenu(const RecentDocuments& documents, const Handlers& han
     QMenu& file = *bar_->addMenu(localized("&File"));
     showKeys(*add(file, localized("&Open..."), handlers.openDocument), QKeySequence::Open);
     QMenu* recent = file.addMenu(localized("Open &Recent"));
-    recent->setToolTipsVisible(true);
-    const auto fill = [recent, &documents, open = handlers.openRecentDocument] {
-        fillRecent(*recent, documents, open);
-    };
-    QObject::connect(recent, &QMenu::aboutToShow, recent, fill);
+    QObject::connect(&file, &QMenu::aboutToShow, recent,
+                     [recent, &documents] { recent->setEnabled(!documents.paths().empty()); });
+    recentMenu_.append(MenuItem::separator());
+    MenuItem clear;
+    clear.text = localized("&Clear Menu").toStdString();
+    clear.picked = [&documents] { documents.clear(); };
+    recentMenu_.append(std::move(clear));
+    drawnRecent_.emplace(recentMenu_, *recent);
     showKeys(*add(file, localized("&Save..."), handlers.saveDocument), QKeySequence::Save);
     file.addSeparator();
     add(file, localized("&Preferences..."), handlers.openPreferences,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/documents_menu.h"
 #include "desktop/menus/drawn_menu.h"
 
 #include <QMenuBar>
@@ -7,6 +8,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 namespace nocturo {
 
@@ -17,7 +19,7 @@ class MainMenu {
   public:
     struct Handlers {
         std::function<void()> openDocument;
-        std::function<void(const QString& path)> openRecentDocument;
+        std::function<void(const std::string& path)> openRecentDocument;
         std::function<void()> saveDocument;
         std::function<void()> closeWindow;
         std::function<void()> openPreferences;
@@ -39,6 +41,9 @@ class MainMenu {
     void addHelpMenu(const Handlers& handlers);
 
     QPointer<QMenuBar> bar_;
+    Menu recentMenu_;
+    DocumentsMenu recent_;
+    std::optional<DrawnMenu> drawnRecent_;
     std::optional<DrawnMenu> effectMenu_;
 };
 
