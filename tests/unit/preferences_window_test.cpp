@@ -331,11 +331,13 @@ struct EffectDocuments : PreferencesWindow {
             hide->setChecked(hideExtension);
         }
         auto* field = panel->findChild<QLineEdit*>("fileNameEdit");
+        suggested = field->text();
         field->setText(name);
         field->setFocus(); // as it has where somebody types
         QTest::keyClick(field, Qt::Key_Return);
     }
 
+    QString suggested; // by the panel
     TemporaryDirectory directory;
     const EffectDocument document{true, false, true, true, 33.3F, 0.7F, false, 0.1F};
 };
@@ -378,6 +380,7 @@ TEST_F(EffectDocuments, PanelsSaveAndOpen) {
     show();
     click("invertScreen");
     choose("saveButton", "mine", true);
+    EXPECT_EQ(suggested, "Negative.nocturo"); // that look is in force
     const auto saved = directory / "mine.nocturo";
     EXPECT_TRUE(readEffectDocument(saved).value().invertScreen);
     writeText(directory / "other", "");

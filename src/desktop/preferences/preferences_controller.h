@@ -177,6 +177,8 @@ class NDPreferencesController : public QObject {
     void readPreviewedDisplay();
     void updatePreview();
     void savePanelDidEnd(const QFileDialog& panel, int returnCode, bool hideExtension);
+    void saveEffectAt(const QString& path, bool hideExtension);
+    QString suggestedName() const;
     void openPanelDidEnd(const QFileDialog& panel, int returnCode);
     void documentWasDropped(const QString& path);
     QString documentFolder() const;

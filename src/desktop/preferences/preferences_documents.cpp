@@ -4,8 +4,10 @@
 #include "desktop/preferences/preferences_controller.h"
 #include "desktop/preferences/sheet.h"
 #include "desktop/qt/localized.h"
+#include "documents/chosen_look.h"
 #include "documents/effect_document.h"
 #include "documents/effect_document_file.h"
+#include "documents/looks.h"
 #include "settings/defaults_store.h"
 #include "ui_NocturoPreferencePanel.h"
 
@@ -17,6 +19,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
+
+#include <functional>
 
 namespace nocturo {
 
@@ -37,69 +41,65 @@ QString notADocument(const QString& path) {
                   {QString::fromStdString(documentDisplayName(path.toStdString()))});
 }
 
-/// Asks for a document of ours and for nothing else: what is to be saved gets the extension,
-/// whatever other one was typed. Qt's own questions would hold the program up until they are
-/// answered, so they are asked here.
+QString withSuffix(const QString& path) {
+    return path.endsWith(documentSuffix()) ? path : path + documentSuffix();
+}
+
+/// Asks before a file that is there is replaced.
+void replaceIfWanted(QWidget& window, const QString& path, const std::function<void()>& replace) {
+    const QFileInfo chosen(path);
+    if (!chosen.exists()) {
+        replace();
+        return;
+    }
+    QMessageBox* question = newSheet(
+        &window, QMessageBox::Warning,
+        QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(chosen.fileName()),
+        {});
+    question->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    question->setDefaultButton(QMessageBox::No);
+    QObject::connect(question, &QDialog::finished, &window, [replace](int answer) {
+        if (answer == QMessageBox::Yes) {
+            replace();
+        }
+    });
+    showSheet(*question);
+}
+
+/// Asks for a document of ours: the desktop's own dialog where its Qt has one, or else Qt's, whose
+/// questions would hold the program up until they are answered, so they are asked here.
 class FilePanel : public QFileDialog {
   public:
-    using QFileDialog::QFileDialog;
-
-    void accept() override {
-        const QFileInfo chosen(selectedFiles().value(0));
-        if (chosen.isDir()) {
-            QFileDialog::accept(); // goes there
-        } else if (acceptMode() == AcceptOpen) {
-            acceptToOpen(chosen);
-        } else {
-            acceptToSave(chosen.filePath());
-        }
+    FilePanel(QWidget* window, const QString& title, const QString& folder)
+        : QFileDialog(window, title, folder) {
+        setAttribute(Qt::WA_DeleteOnClose);
+        setWindowModality(Qt::WindowModal);
+        setNameFilter(localized("Nocturo effects") + QStringLiteral(" (*") + documentSuffix() +
+                      QStringLiteral(")"));
     }
 
-  private:
-    void acceptToOpen(const QFileInfo& chosen) {
-        if (chosen.isFile()) {
+    void accept() override {
+        // Null in a dialog of the desktop, which has asked by itself.
+        auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        const QFileInfo chosen(selectedFiles().value(0));
+        if (field == nullptr || chosen.isDir()) {
+            QFileDialog::accept(); // goes there
+        } else if (acceptMode() == AcceptSave) {
+            acceptToSave(*field, withSuffix(chosen.filePath()));
+        } else if (chosen.isFile()) {
             QFileDialog::accept();
         } else {
             showAlert(*this, localized("Opening failed"), notADocument(chosen.filePath()));
         }
     }
 
-    void acceptToSave(QString path) {
-        if (!path.endsWith(documentSuffix())) {
-            path += documentSuffix();
-        }
-        // selectFile() would leave a field alone that has the focus.
-        findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
-        const QFileInfo chosen(path);
-        if (!chosen.exists()) {
-            QFileDialog::accept();
-            return;
-        }
-        QMessageBox* question = newSheet(
-            this, QMessageBox::Warning,
-            tr("%1 already exists.\nDo you want to replace it?").arg(chosen.fileName()), {});
-        question->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        question->setDefaultButton(QMessageBox::No);
-        connect(question, &QDialog::finished, this, [this](int answer) {
-            if (answer == QMessageBox::Yes) {
-                QFileDialog::accept();
-            }
-        });
-        showSheet(*question);
+  private:
+    void acceptToSave(QLineEdit& field, const QString& path) {
+        field.setText(path); // selectFile() would leave one alone that has the focus
+        setOption(DontConfirmOverwrite);
+        replaceIfWanted(*this, path, [this] { QFileDialog::accept(); });
     }
 };
-
-// The desktop's own dialogs have no room for a box of ours, so Qt's are used.
-QFileDialog* filePanel(QWidget* window, const QString& folder, const QString& title) {
-    auto* panel = new FilePanel(window, title, folder);
-    panel->setOption(QFileDialog::DontUseNativeDialog);
-    panel->setOption(QFileDialog::DontConfirmOverwrite); // done already
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setWindowModality(Qt::WindowModal);
-    panel->setNameFilter(localized("Nocturo effects") + QStringLiteral(" (*") + documentSuffix() +
-                         QStringLiteral(")"));
-    return panel;
-}
 
 } // namespace
 
@@ -124,16 +124,34 @@ QString NDPreferencesController::documentFolder() const {
 }
 
 void NDPreferencesController::saveEffect() {
-    QFileDialog* panel = filePanel(panel_.get(), documentFolder(), localized("Save Effect"));
+    auto* panel = new FilePanel(panel_.get(), localized("Save Effect"), documentFolder());
     panel->setAcceptMode(QFileDialog::AcceptSave);
-    auto* hideExtension = new QCheckBox(localized("&Hide extension"), panel);
+    panel->selectFile(withSuffix(suggestedName()));
+    // The desktop's own dialogs have no room for it.
+    QCheckBox* hideExtension = nullptr;
     if (auto* layout = qobject_cast<QGridLayout*>(panel->layout())) {
+        hideExtension = new QCheckBox(localized("&Hide extension"), panel);
         layout->addWidget(hideExtension, layout->rowCount(), 1);
     }
     connect(panel, &QDialog::finished, this, [this, panel, hideExtension](int returnCode) {
-        savePanelDidEnd(*panel, returnCode, hideExtension->isChecked());
+        savePanelDidEnd(*panel, returnCode, hideExtension != nullptr && hideExtension->isChecked());
     });
     panel->show();
+}
+
+/// The look's that is in force, or else what the effects are called.
+QString NDPreferencesController::suggestedName() const {
+    const Look* look = surroundings_.looks != nullptr ? surroundings_.looks->inForce() : nullptr;
+    QStringList names;
+    for (const QCheckBox* box : {ui_->invertScreen, ui_->hideStripes, ui_->hdtvLuminance,
+                                 ui_->colorFilter, ui_->dimScreen}) {
+        if (box->isChecked()) {
+            names.append(QString(box->text()).remove(QLatin1Char('&')));
+        }
+    }
+    QString name =
+        look != nullptr ? QString::fromStdString(look->title) : names.join(QStringLiteral(", "));
+    return name.isEmpty() ? QStringLiteral("Nocturo") : name.replace(u'/', u'-');
 }
 
 void NDPreferencesController::savePanelDidEnd(const QFileDialog& panel, int returnCode,
@@ -141,7 +159,17 @@ void NDPreferencesController::savePanelDidEnd(const QFileDialog& panel, int retu
     if (returnCode != QDialog::Accepted) {
         return;
     }
-    const QString path = panel.selectedFiles().value(0);
+    const QString chosen = panel.selectedFiles().value(0);
+    const QString path = withSuffix(chosen);
+    const auto save = [this, path, hideExtension] { saveEffectAt(path, hideExtension); };
+    if (path == chosen) {
+        save(); // it was asked about
+    } else {
+        replaceIfWanted(*panel_, path, save);
+    }
+}
+
+void NDPreferencesController::saveEffectAt(const QString& path, bool hideExtension) {
     // A document that could not be replaced is still there as it was, and that is all there is to
     // it.
     if (!writeEffectFile(path) && !QFileInfo::exists(path)) {
@@ -169,7 +197,7 @@ bool NDPreferencesController::writeEffectFile(const QString& path) const {
 }
 
 void NDPreferencesController::restoreEffect() {
-    QFileDialog* panel = filePanel(panel_.get(), documentFolder(), localized("Open Effect"));
+    auto* panel = new FilePanel(panel_.get(), localized("Open Effect"), documentFolder());
     panel->setFileMode(QFileDialog::ExistingFile);
     connect(panel, &QDialog::finished, this,
             [this, panel](int returnCode) { openPanelDidEnd(*panel, returnCode); });
