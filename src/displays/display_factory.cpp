@@ -130,6 +130,9 @@ struct FoundShell {
 std::optional<FoundShell> shellOn(const std::string& sessionBus, EventLoop& loop) {
     constexpr int kPatienceMs = 1000;
     auto bus = Bus::connect(sessionBus, loop);
+    if (bus != nullptr) {
+        bus->rejoin(); // a desktop may start its shell anew along with the bus
+    }
     auto shell = bus != nullptr ? findShell(*bus, kPatienceMs) : std::nullopt;
     return shell ? std::optional(FoundShell{std::move(bus), std::move(*shell)}) : std::nullopt;
 }

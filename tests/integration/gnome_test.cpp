@@ -203,6 +203,19 @@ TEST_F(Shell, MayHangWithoutHangingAnybodyElse) {
     EXPECT_TRUE(waitUntil([&] { return journalsIn(session_).empty(); }));
 }
 
+TEST_F(Shell, IsFoundAgainOnABusThatRestarts) {
+    startWith("{}");
+    EXPECT_TRUE(becomes("ii"));
+    shell_->signal(SIGKILL);
+    shell_->wait();
+    session_.bus().end();
+    session_.bus().start();
+    startShell("{}");
+    EXPECT_TRUE(becomes("ii"));
+    end();
+    EXPECT_TRUE(becomes("oo"));
+}
+
 TEST_F(Shell, MayAnswerWhatNobodyExpects) {
     for (const char* odd : {R"({"ramps": "uneven"})", R"({"size": 1})", R"({"outputs": 0})"}) {
         startWith(odd);
