@@ -1,17 +1,13 @@
 #include "ctl/pause_verb.h"
 
+#include "base/program_start.h"
 #include "ctl/bus_client.h"
 #include "ctl/failure.h"
 
-#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
-#include <cstring>
 #include <string>
-#include <vector>
-
-#include <spawn.h>
 #include <sys/wait.h>
 
 namespace nocturo {
@@ -20,24 +16,16 @@ namespace {
 
 /// Starts the command as a shell would, with all signals as they are by themselves.
 pid_t start(Arguments command) {
-    std::vector<std::string> words(command.begin(), command.end());
-    std::vector<char*> pointers(words.size() + 1); // the last is null
-    std::ranges::transform(words, pointers.begin(), [](std::string& word) { return word.data(); });
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
+    ProgramStart plain;
     sigset_t none;
     sigemptyset(&none);
-    posix_spawnattr_setsigmask(&attributes, &none);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
-    pid_t process = 0;
-    const int error =
-        posix_spawnp(&process, pointers.front(), nullptr, &attributes, pointers.data(), environ);
-    posix_spawnattr_destroy(&attributes);
-    if (error != 0) {
+    plain.blockSignals(none);
+    const auto process = plain.start({command.begin(), command.end()});
+    if (!process) {
         throw Failure{kFailed, translated("\"%1$@\" cannot be started: %2$@.",
-                                          {words.front(), std::strerror(error)})};
+                                          {command.front(), process.error().text})};
     }
-    return process;
+    return *process;
 }
 
 /// As shells tell it.

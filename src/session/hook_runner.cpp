@@ -2,14 +2,12 @@
 
 #include "base/file_descriptor.h"
 #include "base/log.h"
-#include "base/result.h"
+#include "base/program_start.h"
 #include "base/run_loop.h"
 
 #include <algorithm>
 #include <csignal>
-#include <fcntl.h>
 #include <functional>
-#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -32,56 +30,20 @@ bool isHook(const std::filesystem::path& path) {
            access(path.c_str(), X_OK) == 0;
 }
 
-/// How a program is started with nothing of this process but the environment.
-class SpawnSettings {
-  public:
-    SpawnSettings() {
-        posix_spawn_file_actions_init(&actions_);
-        posix_spawnattr_init(&attributes_);
-        sigset_t signals;
-        sigemptyset(&signals);
-        posix_spawnattr_setsigmask(&attributes_, &signals);
-        sigfillset(&signals);
-        posix_spawnattr_setsigdefault(&attributes_, &signals);
-        posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK |
-                                                   POSIX_SPAWN_SETSIGDEF);
-        for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-            posix_spawn_file_actions_addopen(&actions_, standard, "/dev/null", O_RDWR, 0);
-        }
-        posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
+/// Starts it with nothing of this process but the environment.
+Result<pid_t> startAlone(std::vector<std::string> words, std::vector<std::string> environment) {
+    ProgramStart alone;
+    alone.makeSession();
+    sigset_t none;
+    sigemptyset(&none);
+    alone.blockSignals(none);
+    alone.resetSignals();
+    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        alone.closeOff(standard);
     }
-    ~SpawnSettings() {
-        posix_spawnattr_destroy(&attributes_);
-        posix_spawn_file_actions_destroy(&actions_);
-    }
-    SpawnSettings(const SpawnSettings&) = delete;
-    SpawnSettings& operator=(const SpawnSettings&) = delete;
-
-    Result<pid_t> spawn(std::vector<std::string> arguments,
-                        std::vector<std::string> environment) const {
-        pid_t process = -1;
-        const int error = posix_spawn(&process, arguments.front().c_str(), &actions_, &attributes_,
-                                      pointersTo(arguments).data(), pointersTo(environment).data());
-        if (error != 0) {
-            return failedWith(error);
-        }
-        return process;
-    }
-
-  private:
-    static std::vector<char*> pointersTo(std::vector<std::string>& texts) {
-        std::vector<char*> pointers;
-        pointers.reserve(texts.size() + 1);
-        for (std::string& text : texts) {
-            pointers.push_back(text.data());
-        }
-        pointers.push_back(nullptr);
-        return pointers;
-    }
-
-    posix_spawn_file_actions_t actions_{};
-    posix_spawnattr_t attributes_{};
-};
+    alone.closeFrom(STDERR_FILENO + 1);
+    return alone.start(std::move(words), std::move(environment));
+}
 
 } // namespace
 
@@ -157,8 +119,8 @@ void HookRunner::start(const std::filesystem::path& program, const Occasion& occ
     for (char** variable = environ; *variable != nullptr; ++variable) {
         environment.emplace_back(*variable);
     }
-    const auto process = SpawnSettings().spawn(
-        {program, occasion.event, occasion.before, occasion.now}, std::move(environment));
+    const auto process = startAlone({program, occasion.event, occasion.before, occasion.now},
+                                    std::move(environment));
     if (!process) {
         logWarning(kLogApp, "The hook " + program.string() +
                                 " cannot be run: " + process.error().text + ".");

@@ -1,12 +1,11 @@
 #include "displays/guard/guard_process.h"
 
 #include "base/program_files.h"
+#include "base/program_start.h"
 
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <fcntl.h>
-#include <spawn.h>
 #include <sys/epoll.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -14,40 +13,6 @@
 #include <unistd.h>
 
 namespace nocturo {
-
-namespace {
-
-class SpawnSettings {
-  public:
-    SpawnSettings() {
-        posix_spawn_file_actions_init(&actions_);
-        posix_spawnattr_init(&attributes_);
-    }
-    ~SpawnSettings() {
-        posix_spawnattr_destroy(&attributes_);
-        posix_spawn_file_actions_destroy(&actions_);
-    }
-    SpawnSettings(const SpawnSettings&) = delete;
-    SpawnSettings& operator=(const SpawnSettings&) = delete;
-
-    int spawn(const std::string& program, char* const* arguments, int connection, pid_t& process) {
-        sigset_t all;
-        sigfillset(&all);
-        posix_spawnattr_setsigmask(&attributes_, &all);
-        posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK);
-        for (const int standard : {STDIN_FILENO, STDOUT_FILENO}) {
-            posix_spawn_file_actions_addopen(&actions_, standard, "/dev/null", O_RDWR, 0);
-        }
-        posix_spawn_file_actions_adddup2(&actions_, connection, kGuardDescriptor);
-        return posix_spawn(&process, program.c_str(), &actions_, &attributes_, arguments, environ);
-    }
-
-  private:
-    posix_spawn_file_actions_t actions_{};
-    posix_spawnattr_t attributes_{};
-};
-
-} // namespace
 
 std::filesystem::path guardProgram(const char* name) {
     return programFile(name, NOCTURO_LIBEXEC_FROM_BIN);
@@ -69,17 +34,19 @@ Result<void> GuardProcess::start(const std::filesystem::path& program,
 
     std::vector<std::string> words{program.string()};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> pointers;
-    pointers.reserve(words.size() + 1);
-    for (std::string& word : words) {
-        pointers.push_back(word.data());
+    ProgramStart guard;
+    guard.makeSession();
+    sigset_t all;
+    sigfillset(&all);
+    guard.blockSignals(all);
+    guard.closeOff(STDIN_FILENO);
+    guard.closeOff(STDOUT_FILENO);
+    guard.give(guards.get(), kGuardDescriptor);
+    const auto process = guard.start(std::move(words));
+    if (!process) {
+        return tl::unexpected(process.error());
     }
-    pointers.push_back(nullptr);
-    if (const int error =
-            SpawnSettings().spawn(words.front(), pointers.data(), guards.get(), process_)) {
-        process_ = -1;
-        return failedWith(error);
-    }
+    process_ = *process;
     epoll_event interest{};
     interest.events = EPOLLIN | EPOLLRDHUP;
     epoll_ctl(ends_.get(), EPOLL_CTL_ADD, ours.get(), &interest);
