@@ -77,7 +77,10 @@ int run(const std::vector<std::string>& arguments) {
                                         {arguments[0]})});
     }
     const Arguments rest = Arguments(arguments).subspan(1);
-    if (std::find(rest.begin(), rest.end(), "--help") != rest.end()) {
+    // What stands behind "pause while" is said to that command.
+    const auto end =
+        command->verb == "pause" ? std::find(rest.begin(), rest.end(), "while") : rest.end();
+    if (std::find(rest.begin(), end, "--help") != end) {
         printHelp(*command);
         return kSuccess;
     }

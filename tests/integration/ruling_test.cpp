@@ -31,7 +31,7 @@ TEST_F(Ruling, APauseEndsByTheClockAndOutlivesARestart) {
 TEST_F(Ruling, APauseLastsAsLongAsACommand) {
     const auto paused =
         session_.run("nocturoctl", {"pause", "while", "sh", "-c",
-                                    NOCTURO_BIN_DIR "/nocturoctl status --json; exit 7"});
+                                    NOCTURO_BIN_DIR "/nocturoctl status --json; exit 7", "--help"});
     EXPECT_EQ(paused.exit, 7);
     EXPECT_EQ(nlohmann::json::parse(paused.output)["paused"], true);
     EXPECT_TRUE(waitUntil([&] { return ruler() == "settings"; }));
