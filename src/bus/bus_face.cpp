@@ -334,12 +334,15 @@ BusAnswer BusFace::show(const std::function<void()>& window) {
 int BusFace::renderPreview(sd_bus_message* call, void* self, sd_bus_error* error) {
     std::uint32_t display = 0;
     if (!readArgument(call, display) || !isOnline(display)) {
-        const std::string sentence =
-            translated("There is no display with the identifier %d.", {std::to_string(display)});
+        const std::string sentence = inLanguageOfCaller(call, [display] {
+            return translated("There is no display with the identifier %d.",
+                              {std::to_string(display)});
+        });
         return sd_bus_error_set(error, kInvalidArgumentError, sentence.c_str());
     }
     UserInterface& windows = static_cast<BusFace*>(self)->userInterface_;
-    if (const std::string why = windows.whyNoWindows(); !why.empty()) {
+    if (!windows.whyNoWindows().empty()) {
+        const auto why = inLanguageOfCaller(call, [&windows] { return windows.whyNoWindows(); });
         return sd_bus_error_set(error, kFailedError, why.c_str());
     }
     const auto picture = windows.previewPicture(display);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/result.h"
-#include "base/texts/texts_in_language.h"
 #include "bus/bus_names.h"
 #include "bus/bus_values.h"
 #include "bus/callers_language.h"
@@ -45,12 +44,9 @@ struct Served<Method, whenReady> {
             return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
         }
         BusAnswer answer = carryOut(*static_cast<Object*>(object), arguments);
-        if (!answer) {
-            // What fails changes nothing, so it may be tried again to be told in other words.
-            if (const auto language = languageOfCaller(call)) {
-                const TextsInLanguage theirs(*language);
-                answer = carryOut(*static_cast<Object*>(object), arguments);
-            }
+        if (!answer) { // what fails changes nothing, so it is tried again to be told in other words
+            answer = inLanguageOfCaller(
+                call, [&] { return carryOut(*static_cast<Object*>(object), arguments); });
         }
         if (!answer) {
             return sd_bus_error_set(error, answer.error().errorName,

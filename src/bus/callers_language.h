@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/texts/texts_in_language.h"
+
 #include <optional>
 #include <string>
 
@@ -11,5 +13,15 @@ namespace nocturo {
 /// for this one; nothing where the bus or the system does not tell. Waits for the bus for a tenth
 /// of a second at most.
 std::optional<std::string> languageOfCaller(sd_bus_message* call);
+
+/// What `tell` answers while all texts are read in that language, where it is known.
+template <typename Tell>
+auto inLanguageOfCaller(sd_bus_message* call, const Tell& tell) {
+    std::optional<TextsInLanguage> theirs;
+    if (const auto language = languageOfCaller(call)) {
+        theirs.emplace(*language);
+    }
+    return tell();
+}
 
 } // namespace nocturo

@@ -19,8 +19,7 @@ constexpr auto kTurnOfOthers = 1ms; // not less: the bus comes after timers that
 
 } // namespace
 
-bool DocumentQueue::open(std::vector<std::string> paths,
-                         std::function<void(std::string refusal)> opened) {
+bool DocumentQueue::open(std::vector<std::string> paths, Opened opened) {
     if (waiting_ > 0 && waiting_ + paths.size() > kLongestList) {
         return false;
     }
@@ -52,17 +51,17 @@ void DocumentQueue::openSome() {
         } else {
             const Request done = std::move(request);
             requests_.pop_front();
-            done.opened(tellRefused(controller_, done.refused));
+            if (!done.refused.empty()) {
+                // Whoever opened them with a click sees no standard error, and launchers drop the
+                // answer.
+                controller_.showRefusedDocuments(done.refused);
+            }
+            done.opened(done.refused);
         }
     }
 }
 
-std::string tellRefused(NDAppController& controller, const std::vector<std::string>& refused) {
-    if (refused.empty()) {
-        return {};
-    }
-    // Whoever opened them with a click sees no standard error, and launchers drop the answer.
-    controller.showRefusedDocuments(refused);
+std::string refusalOf(const std::vector<std::string>& refused) {
     if (refused.size() == 1) {
         return translated("\"%@\" is not an effect document.", {refused.front()});
     }

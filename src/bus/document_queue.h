@@ -21,16 +21,17 @@ class DocumentQueue {
     DocumentQueue(NDAppController& controller, RunLoop& runLoop)
         : controller_(controller), runLoop_(runLoop) {}
 
+    /// Told the paths of those that were refused.
+    using Opened = std::function<void(const std::vector<std::string>& refused)>;
+
     /// Opens the documents at these paths and shows the user which are refused. `opened` is called
-    /// when all is done, maybe at once, with a sentence that names those, empty when there are
-    /// none. False, and nothing is done, when too many wait already.
-    [[nodiscard]] bool open(std::vector<std::string> paths,
-                            std::function<void(std::string refusal)> opened);
+    /// when all is done, maybe at once. False, and nothing is done, when too many wait already.
+    [[nodiscard]] bool open(std::vector<std::string> paths, Opened opened);
 
   private:
     struct Request {
         std::vector<std::string> paths;
-        std::function<void(std::string refusal)> opened;
+        Opened opened;
         std::size_t next = 0;
         std::vector<std::string> refused;
     };
@@ -44,7 +45,7 @@ class DocumentQueue {
     std::unique_ptr<Timer> nextTurn_;
 };
 
-/// Shows the user these documents as refused, where there are any, and names them in one sentence.
-std::string tellRefused(NDAppController& controller, const std::vector<std::string>& refused);
+/// One sentence that names these documents, of which there is one at least, as refused.
+std::string refusalOf(const std::vector<std::string>& refused);
 
 } // namespace nocturo

@@ -137,7 +137,8 @@ int LauncherFace::open(sd_bus_message* call, void* self, sd_bus_error* error) {
     if (!readArguments(call, arguments)) {
         return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
     }
-    if (const BusAnswer ready = face.whetherReady(); !ready) {
+    if (!face.whetherReady()) {
+        const auto ready = inLanguageOfCaller(call, [&face] { return face.whetherReady(); });
         return sd_bus_error_set(error, kFailedError, ready.error().sentence.c_str());
     }
     auto& [paths, platform] = arguments;
@@ -145,10 +146,12 @@ int LauncherFace::open(sd_bus_message* call, void* self, sd_bus_error* error) {
     std::ranges::transform(paths, paths.begin(), pathOf);
     const std::shared_ptr<sd_bus_message> asked(sd_bus_message_ref(call), BusRelease());
     const bool isTaken =
-        face.documents_.open(std::move(paths), [asked](const std::string& refusal) {
-            if (refusal.empty()) {
+        face.documents_.open(std::move(paths), [asked](const std::vector<std::string>& refused) {
+            if (refused.empty()) {
                 sd_bus_reply_method_return(asked.get(), nullptr);
             } else {
+                const auto refusal =
+                    inLanguageOfCaller(asked.get(), [&refused] { return refusalOf(refused); });
                 sd_bus_reply_method_errorf(asked.get(), kFailedError, "%s", refusal.c_str());
             }
         });

@@ -32,9 +32,9 @@ void DesktopSession::launch(const std::vector<std::string>& documents,
             return;
         }
         listen();
-        static_cast<void>(documents_.open(documents, [this, refused](const std::string& problem) {
-            if (!problem.empty()) {
-                refused(problem);
+        static_cast<void>(documents_.open(documents, [this, refused](const auto& paths) {
+            if (!paths.empty()) {
+                refused(refusalOf(paths));
             }
             core_.hooks.launchDidFinish();
             windowRestoration_.restore();

@@ -381,6 +381,8 @@ TEST_F(ControlOfRunning, SpeaksTheUsersLanguageInAlignedColumns) {
     EXPECT_NE(screens.find("\n  [x]  1     SIM-1  "), std::string::npos) << screens;
     EXPECT_EQ(session_.run("nocturoctl", {"look", "none"}).errors,
               "nocturoctl: 「none」というルックはありません。\n");
+    EXPECT_EQ(session_.run("nocturo", {"/none"}).errors,
+              "nocturo: 「/none」は効果のドキュメントではありません。\n");
     EXPECT_EQ(status(), before) << "programs read this, not people";
 }
 
