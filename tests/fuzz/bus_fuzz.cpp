@@ -49,8 +49,8 @@ class Others {
         place.sun_family = AF_UNIX;
         std::memcpy(place.sun_path + 1, name.data(), name.size());
         const auto size = offsetof(sockaddr_un, sun_path) + 1 + name.size();
-        bind(listener_.get(), reinterpret_cast<const sockaddr*>(&place),
-             static_cast<socklen_t>(size));
+        fuzz::need(bind(listener_.get(), reinterpret_cast<const sockaddr*>(&place),
+                        static_cast<socklen_t>(size)) == 0);
         listen(listener_.get(), 8);
     }
 
