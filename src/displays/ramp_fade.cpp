@@ -1,0 +1,110 @@
+// Roots and powers of every entry in every frame would cost more than sending the ramps, and those
+// of the first frame would delay it. Tables stand in for them: both curves are smooth enough that
+// straight lines between so many nodes are off by less than the eye sees, and where a fade ends no
+// table is asked.
+
+#include "displays/ramp_fade.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <functional>
+#include <utility>
+
+namespace nocturo {
+
+namespace {
+
+constexpr std::size_t kIntervals = 2048;
+constexpr float kFull = 65535.0F;
+
+double lightOfSignal(double signal) {
+    return signal <= 0.04045 ? signal / 12.92 : std::pow((signal + 0.055) / 1.055, 2.4);
+}
+
+double signalOfLight(double light) {
+    return light <= 0.0031308 ? light * 12.92 : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
+}
+
+double lightnessOfLight(double light) {
+    constexpr double kStraightUpTo = 216.0 / 24389.0;
+    constexpr double kSlope = 24389.0 / 27.0;
+    return (light <= kStraightUpTo ? kSlope * light : 116 * std::cbrt(light) - 16) / 100;
+}
+
+double lightOfLightness(double lightness) {
+    constexpr double kStraightUpTo = 0.08;
+    constexpr double kSlope = 24389.0 / 27.0;
+    return lightness <= kStraightUpTo ? lightness * 100 / kSlope
+                                      : std::pow((lightness * 100 + 16) / 116, 3);
+}
+
+/// A curve over 0 to 1.
+class Table {
+  public:
+    template <typename Curve>
+    explicit Table(Curve curve) {
+        for (std::size_t i = 0; i < nodes_.size(); ++i) {
+            nodes_[i] = static_cast<float>(curve(static_cast<double>(i) / kIntervals));
+        }
+    }
+    float operator()(float value) const {
+        const float place = std::clamp(value, 0.0F, 1.0F) * kIntervals;
+        const auto node = std::min(static_cast<std::size_t>(place), kIntervals - 1);
+        return nodes_[node] +
+               (nodes_[node + 1] - nodes_[node]) * (place - static_cast<float>(node));
+    }
+
+  private:
+    std::array<float, kIntervals + 1> nodes_{};
+};
+
+void appendLightness(const std::vector<std::uint16_t>& channel, std::vector<float>& lightness) {
+    static const Table table([](double signal) { return lightnessOfLight(lightOfSignal(signal)); });
+    for (const std::uint16_t entry : channel) {
+        lightness.push_back(table(static_cast<float>(entry) / kFull));
+    }
+}
+
+std::vector<float> lightnessOf(const Ramp& ramp) {
+    std::vector<float> lightness;
+    lightness.reserve(std::size_t{3} * ramp.size());
+    appendLightness(ramp.red, lightness);
+    appendLightness(ramp.green, lightness);
+    appendLightness(ramp.blue, lightness);
+    return lightness;
+}
+
+std::uint16_t entryOf(float lightness) {
+    constexpr double kHalf = 0.5; // rounds
+    static const Table table(
+        [](double value) { return signalOfLight(lightOfLightness(value)) * kFull + kHalf; });
+    return static_cast<std::uint16_t>(table(lightness));
+}
+
+} // namespace
+
+RampFade::RampFade(const Ramp& from, Ramp to) : shown_(from) {
+    turn(std::move(to));
+}
+
+void RampFade::turn(Ramp to) {
+    to_ = std::move(to);
+    from_ = lightnessOf(shown_);
+    change_ = lightnessOf(to_);
+    std::transform(change_.begin(), change_.end(), from_.begin(), change_.begin(), std::minus<>());
+}
+
+const Ramp& RampFade::at(float share) {
+    std::size_t i = 0;
+    for (auto* channel : {&shown_.red, &shown_.green, &shown_.blue}) {
+        for (std::uint16_t& entry : *channel) {
+            entry = entryOf(from_[i] + change_[i] * share);
+            ++i;
+        }
+    }
+    return shown_;
+}
+
+} // namespace nocturo
