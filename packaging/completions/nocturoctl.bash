@@ -19,7 +19,7 @@ _nocturoctl() {
     UseHotKey UseSchedule EffectActive ZQFluxWarned'
   local settings="$switches Schedule SchedulePlace NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers
     AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue
-    NDColorFilterEffectVividness"
+    NDColorFilterEffectVividness FadeSeconds"
   local choices=''
   if ((cword == 1)); then
     choices="$verbs --help --version"
@@ -69,6 +69,7 @@ _nocturoctl() {
       choices='--keep --help'
     fi
     [[ $cur != -* || -n $choices ]] || choices='--help'
+    [[ $cur != -* || ' on off toggle look ' != *" ${words[1]} "* ]] || choices+=' --fade'
   fi
   mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$cur")
 }

@@ -18,7 +18,7 @@ end
 
 set -l effects invert overexposure dim color-filter hdtv-luminance
 set -l switches ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver UseHotKey UseSchedule EffectActive ZQFluxWarned
-set -l settings $switches Schedule SchedulePlace NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness
+set -l settings $switches Schedule SchedulePlace NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness FadeSeconds
 
 complete -c nocturoctl -f
 complete -c nocturoctl -l help -d 'Show help'
@@ -50,6 +50,7 @@ complete -c nocturoctl -n __fish_use_subcommand -a about -d 'Show the box about 
 complete -c nocturoctl -n __fish_use_subcommand -a preview -d 'Draw what a display shows into a picture'
 
 complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects dim temperature tint look set step reset screens open' -l keep -d 'Keep the colors even if hard to read'
+complete -c nocturoctl -n '__fish_seen_subcommand_from on off toggle look' -l fade -x -a '0 0.5 2 5' -d 'Take so many seconds'
 complete -c nocturoctl -n '__nocturoctl_at pause 0' -a '30m 1h until while cancel'
 complete -c nocturoctl -n '__nocturoctl_after pause until' -a 'tomorrow sunrise next'
 complete -c nocturoctl -n '__nocturoctl_at schedule 0' -a 'list add remove on off next'

@@ -599,6 +599,10 @@
             <translation>Den Effekt einschalten</translation>
         </message>
         <message>
+            <source>--fade has it come little by little, in up to 5 seconds.</source>
+            <translation>Mit --fade kommt er nach und nach, in bis zu 5 Sekunden.</translation>
+        </message>
+        <message>
             <source>Switch the effect off</source>
             <translation>Den Effekt ausschalten</translation>
         </message>
@@ -1171,10 +1175,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Öffnen fehlgeschlagen</translation>
         </message>
         <message>
-            <source>&amp;Clear Menu</source>
-            <translation>Liste &amp;leeren</translation>
-        </message>
-        <message>
             <source>&amp;Effect</source>
             <translation>&amp;Effekt</translation>
         </message>
@@ -1189,6 +1189,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open &amp;Recent</source>
             <translation>&amp;Zuletzt geöffnet</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>Liste &amp;leeren</translation>
         </message>
         <message>
             <source>&amp;Save...</source>
@@ -1823,6 +1827,10 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
         <message>
             <source>color filter: strength, 0 to 1</source>
             <translation>Farbfilter: Stärke, 0 bis 1</translation>
+        </message>
+        <message>
+            <source>seconds that a change fades for, 0 to 5</source>
+            <translation>Sekunden, die ein Übergang dauert, 0 bis 5</translation>
         </message>
         <message>
             <source>switch and choose looks by the schedule</source>

@@ -599,6 +599,10 @@
             <translation>Activar el efecto</translation>
         </message>
         <message>
+            <source>--fade has it come little by little, in up to 5 seconds.</source>
+            <translation>Con --fade llega poco a poco, en hasta 5 segundos.</translation>
+        </message>
+        <message>
             <source>Switch the effect off</source>
             <translation>Desactivar el efecto</translation>
         </message>
@@ -1171,10 +1175,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Error al abrir</translation>
         </message>
         <message>
-            <source>&amp;Clear Menu</source>
-            <translation>&amp;Vaciar el menú</translation>
-        </message>
-        <message>
             <source>&amp;Effect</source>
             <translation>&amp;Efecto</translation>
         </message>
@@ -1189,6 +1189,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open &amp;Recent</source>
             <translation>Abrir &amp;reciente</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vaciar el menú</translation>
         </message>
         <message>
             <source>&amp;Save...</source>
@@ -1823,6 +1827,10 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
         <message>
             <source>color filter: strength, 0 to 1</source>
             <translation>filtro de color: intensidad, de 0 a 1</translation>
+        </message>
+        <message>
+            <source>seconds that a change fades for, 0 to 5</source>
+            <translation>segundos que dura una transición, de 0 a 5</translation>
         </message>
         <message>
             <source>switch and choose looks by the schedule</source>

@@ -599,6 +599,10 @@
             <translation>Activer l’effet</translation>
         </message>
         <message>
+            <source>--fade has it come little by little, in up to 5 seconds.</source>
+            <translation>Avec --fade, il vient peu à peu, en 5 secondes au plus.</translation>
+        </message>
+        <message>
             <source>Switch the effect off</source>
             <translation>Désactiver l’effet</translation>
         </message>
@@ -1171,10 +1175,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Échec de l’ouverture</translation>
         </message>
         <message>
-            <source>&amp;Clear Menu</source>
-            <translation>&amp;Vider le menu</translation>
-        </message>
-        <message>
             <source>&amp;Effect</source>
             <translation>&amp;Effet</translation>
         </message>
@@ -1189,6 +1189,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>Open &amp;Recent</source>
             <translation>Documents &amp;récents</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Vider le menu</translation>
         </message>
         <message>
             <source>&amp;Save...</source>
@@ -1823,6 +1827,10 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
         <message>
             <source>color filter: strength, 0 to 1</source>
             <translation>filtre coloré : intensité, de 0 à 1</translation>
+        </message>
+        <message>
+            <source>seconds that a change fades for, 0 to 5</source>
+            <translation>durée d’une transition en secondes, de 0 à 5</translation>
         </message>
         <message>
             <source>switch and choose looks by the schedule</source>

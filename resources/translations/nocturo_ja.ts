@@ -599,6 +599,10 @@
             <translation>効果をオンにする</translation>
         </message>
         <message>
+            <source>--fade has it come little by little, in up to 5 seconds.</source>
+            <translation>--fade を付けると、最大 5 秒かけて少しずつ現れます。</translation>
+        </message>
+        <message>
             <source>Switch the effect off</source>
             <translation>効果をオフにする</translation>
         </message>
@@ -1170,10 +1174,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>開けませんでした</translation>
         </message>
         <message>
-            <source>&amp;Clear Menu</source>
-            <translation>履歴を消去(&amp;C)</translation>
-        </message>
-        <message>
             <source>&amp;Effect</source>
             <translation>効果(&amp;E)</translation>
         </message>
@@ -1188,6 +1188,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open &amp;Recent</source>
             <translation>最近使ったファイルを開く(&amp;R)</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>履歴を消去(&amp;C)</translation>
         </message>
         <message>
             <source>&amp;Save...</source>
@@ -1822,6 +1826,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>color filter: strength, 0 to 1</source>
             <translation>カラーフィルター: 強さ、0～1</translation>
+        </message>
+        <message>
+            <source>seconds that a change fades for, 0 to 5</source>
+            <translation>変化にかける秒数 (0〜5)</translation>
         </message>
         <message>
             <source>switch and choose looks by the schedule</source>

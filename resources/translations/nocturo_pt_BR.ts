@@ -599,6 +599,10 @@
             <translation>Ativar o efeito</translation>
         </message>
         <message>
+            <source>--fade has it come little by little, in up to 5 seconds.</source>
+            <translation>Com --fade ele vem aos poucos, em até 5 segundos.</translation>
+        </message>
+        <message>
             <source>Switch the effect off</source>
             <translation>Desativar o efeito</translation>
         </message>
@@ -1171,10 +1175,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Falha ao abrir</translation>
         </message>
         <message>
-            <source>&amp;Clear Menu</source>
-            <translation>&amp;Limpar menu</translation>
-        </message>
-        <message>
             <source>&amp;Effect</source>
             <translation>&amp;Efeito</translation>
         </message>
@@ -1189,6 +1189,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>Open &amp;Recent</source>
             <translation>Abrir &amp;recente</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>&amp;Limpar menu</translation>
         </message>
         <message>
             <source>&amp;Save...</source>
@@ -1823,6 +1827,10 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
         <message>
             <source>color filter: strength, 0 to 1</source>
             <translation>filtro de cor: intensidade, de 0 a 1</translation>
+        </message>
+        <message>
+            <source>seconds that a change fades for, 0 to 5</source>
+            <translation>segundos que uma transição dura, de 0 a 5</translation>
         </message>
         <message>
             <source>switch and choose looks by the schedule</source>

@@ -599,6 +599,10 @@
             <translation>启用效果</translation>
         </message>
         <message>
+            <source>--fade has it come little by little, in up to 5 seconds.</source>
+            <translation>使用 --fade 时效果会逐渐出现，最长 5 秒。</translation>
+        </message>
+        <message>
             <source>Switch the effect off</source>
             <translation>停用效果</translation>
         </message>
@@ -1167,10 +1171,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>打开失败</translation>
         </message>
         <message>
-            <source>&amp;Clear Menu</source>
-            <translation>清空列表(&amp;C)</translation>
-        </message>
-        <message>
             <source>&amp;Effect</source>
             <translation>效果(&amp;E)</translation>
         </message>
@@ -1185,6 +1185,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open &amp;Recent</source>
             <translation>打开最近的文件(&amp;R)</translation>
+        </message>
+        <message>
+            <source>&amp;Clear Menu</source>
+            <translation>清空列表(&amp;C)</translation>
         </message>
         <message>
             <source>&amp;Save...</source>
@@ -1818,6 +1822,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>color filter: strength, 0 to 1</source>
             <translation>颜色滤镜：强度，0 到 1</translation>
+        </message>
+        <message>
+            <source>seconds that a change fades for, 0 to 5</source>
+            <translation>渐变所用的秒数，0 到 5</translation>
         </message>
         <message>
             <source>switch and choose looks by the schedule</source>

@@ -107,6 +107,9 @@ void NDAppController::applicationWillTerminate() {
     if (effectActive()) {
         setEffectActive(false, false);
     }
+    if (fades_ != nullptr) {
+        fades_->finish();
+    }
     defaults_.synchronize();
 }
 
@@ -140,6 +143,7 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
     if (!isReady()) {
         return; // asked for while the launch still waits for an answer that may forbid it
     }
+    const auto change = changeOver(saveState ? lengthOfFades() : Fades::Length::zero());
     if (saveState) {
         defaults_.setBool(active, kEffectActive);
         if (automation_ != nullptr) {
@@ -149,6 +153,17 @@ void NDAppController::setEffectActive(bool active, bool saveState) {
     isSwitchedOn_ = active;
     paused_ = false;
     switchEffect(active);
+}
+
+void NDAppController::giveDisplaysBack() {
+    const auto atOnce = changeOver(Fades::Length::zero());
+    setEffectActive(false, true);
+}
+
+Fades::Length NDAppController::lengthOfFades() const {
+    const float seconds = std::clamp(defaults_.floatForKey(kFadeSeconds), kFadeSeconds.lowest,
+                                     kFadeSeconds.highest);
+    return std::chrono::duration_cast<Fades::Length>(std::chrono::duration<float>(seconds));
 }
 
 Ruling NDAppController::ruling(CGDirectDisplayID display) const {
@@ -211,6 +226,7 @@ void NDAppController::followRuling() {
     if (paused_) {
         return;
     }
+    const auto change = changeOver(lengthOfFades());
     if (isOn || effectActive()) {
         switchEffect(isOn);
     } else {
@@ -328,6 +344,7 @@ void NDAppController::updateApplyTimer() {
 }
 
 void NDAppController::defaultsDidChange(const Subjects& settings) {
+    const auto change = changeOver(lengthOfFades());
     const bool screens = settings.containAnyOf(kAffectedScreenSettings);
     if (screens && effectActive()) {
         adjustScreenControllers();

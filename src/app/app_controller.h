@@ -4,6 +4,7 @@
 #include "base/notification_center.h"
 #include "base/property_value.h"
 #include "displays/display_services.h"
+#include "displays/fades.h"
 #include "displays/screen_controller.h"
 #include "effects/group_effect.h"
 #include "hotkeys/action_target.h"
@@ -66,6 +67,9 @@ class NDAppController : public ActionTarget {
     }
     /// Without it the user's switch alone decides.
     void setAutomation(Automation* automation);
+    /// Without them every change is there at once.
+    void setFades(Fades* fades) { fades_ = fades; }
+    Fades* fades() const { return fades_; }
 
     // Launch and end
 
@@ -140,6 +144,17 @@ class NDAppController : public ActionTarget {
     void setEffectActive(bool active, bool saveState);
     /// Whether it is on, for one display at least.
     bool effectActive() const { return screenControllers_.has_value(); }
+
+    /// The user needs the displays as they are by themselves: switches the effect off at once.
+    void giveDisplaysBack();
+
+    /// While it lives all changes take that long, whatever "FadeSeconds" says. By itself what is
+    /// done by hand, by the automation or to the settings of the effects takes as long as that
+    /// says; all else, and what gives the displays back at the end, is there at once.
+    Fades::Change changeOver(Fades::Length length) const { return {fades_, length}; }
+
+    /// What "FadeSeconds" says.
+    Fades::Length lengthOfFades() const;
 
     /// Who says what a display shows, and for how long; of the screen saver it knows nothing.
     Ruling ruling(CGDirectDisplayID display) const;
@@ -246,6 +261,7 @@ class NDAppController : public ActionTarget {
     DesktopFace* desktop_ = nullptr;
     const InstalledApplications* installedApplications_ = nullptr;
     Automation* automation_ = nullptr;
+    Fades* fades_ = nullptr;
     bool startsSwitchedOff_ = false;
     bool startsWithSession_ = false;
     bool didCheckForNoEffectsAtStartup_ = false;

@@ -97,8 +97,10 @@ void NDAppController::initDefaults() {
             updateApplyTimer();
         }
     });
-    local.addObserver(this, NSApplicationDidChangeScreenParametersNotification,
-                      [this] { defaultsDidChange({}); });
+    local.addObserver(this, NSApplicationDidChangeScreenParametersNotification, [this] {
+        const auto atOnce = changeOver(Fades::Length::zero());
+        defaultsDidChange({});
+    });
     observe(local, kRulingNotification, &NDAppController::followRuling);
 }
 

@@ -128,6 +128,7 @@ void KeepColors::goBack() {
     if (!asAsked) {
         return;
     }
+    const auto atOnce = controller_.changeOver(Fades::Length::zero()); // nobody sees anything
     if (accepted_ && accepted_->active && *accepted_ != now()) {
         setScreenColors(defaults_, accepted_->colors);
     } else {

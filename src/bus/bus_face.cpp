@@ -56,10 +56,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 65> members;
+    static const std::array<sd_bus_vtable, 66> members;
 };
 
-const std::array<sd_bus_vtable, 65> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 66> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
@@ -85,6 +85,8 @@ const std::array<sd_bus_vtable, 65> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::setActive>, kFree),
     SD_BUS_METHOD_WITH_ARGS("Toggle", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::toggle>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("FadeNext", SD_BUS_ARGS("d", seconds), SD_BUS_NO_RESULT,
+                            kServe<&BusFace::fadeNext>, kFree),
     SD_BUS_METHOD_WITH_ARGS("Pause", SD_BUS_ARGS("s", words), SD_BUS_NO_RESULT,
                             kServe<&BusFace::pause>, kFree),
     SD_BUS_METHOD_WITH_ARGS("PauseWhileConnected", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
@@ -226,11 +228,13 @@ BusAnswer BusFace::whetherReady() const {
 }
 
 BusAnswer BusFace::setActive(bool active) {
+    const auto change = controller_.changeOver(wishedFade());
     controller_.setEffectActive(active, true);
     return {};
 }
 
 BusAnswer BusFace::toggle() {
+    const auto change = controller_.changeOver(wishedFade());
     controller_.toggleGlobalEffect();
     return {};
 }

@@ -5,6 +5,7 @@
 #include "bus/callers_present.h"
 #include "bus/launcher_face.h"
 #include "bus/told_state.h"
+#include "displays/fades.h"
 
 #include <functional>
 #include <memory>
@@ -12,6 +13,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace nocturo {
@@ -54,6 +56,9 @@ class BusFace {
     struct Table;
 
     BusAnswer setActive(bool active);
+    BusAnswer fadeNext(double seconds);
+    Fades::Length wishedFade();
+    std::string caller() const;
     BusAnswer toggle();
     BusAnswer pause(const std::string& words);
     BusAnswer resume();
@@ -117,6 +122,7 @@ class BusFace {
     LauncherFace launcherFace_;
     std::unique_ptr<BusSlot> object_;
     CallersPresent pausing_;
+    std::pair<std::string, Fades::Length> nextFade_; // of that caller
     BusDictionary announced_;
     std::set<std::string_view> unannounced_; // what may have changed, to be looked at soon
 };

@@ -1,5 +1,6 @@
 // What callers on the bus do with the effects, looks and affected displays.
 
+#include "app/app_controller.h"
 #include "base/texts/translated.h"
 #include "bus/bus_face.h"
 #include "displays/affected_screen_set.h"
@@ -11,9 +12,11 @@
 #include "effects/effect_choices.h"
 #include "effects/group_effect.h"
 #include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 #include "settings/settings_table.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace nocturo {
@@ -146,19 +149,44 @@ BusAnswer BusFace::removeScreens(const std::vector<std::int64_t>& displays) {
     return {};
 }
 
+std::string BusFace::caller() const {
+    const char* sender = sd_bus_message_get_sender(sd_bus_get_current_message(bus_->handle()));
+    return sender != nullptr ? sender : "";
+}
+
+BusAnswer BusFace::fadeNext(double seconds) {
+    if (auto problem = problemWithTyped(*settingNamed(kFadeSeconds.key), seconds)) {
+        return refusal(*std::move(problem));
+    }
+    nextFade_ = {caller(),
+                 std::chrono::duration_cast<Fades::Length>(std::chrono::duration<double>(seconds))};
+    return {};
+}
+
+Fades::Length BusFace::wishedFade() {
+    if (nextFade_.first.empty() || nextFade_.first != caller()) {
+        return controller_.lengthOfFades();
+    }
+    return std::exchange(nextFade_, {}).second;
+}
+
 BusAnswer BusFace::applyLook(const std::string& name) {
+    const auto change = controller_.changeOver(wishedFade());
     return answerOf(chosenLook_.apply(name));
 }
 
 BusAnswer BusFace::applyNextLook() {
+    const auto change = controller_.changeOver(wishedFade());
     return answerOf(chosenLook_.applyNext());
 }
 
 BusAnswer BusFace::applyPreviousLook() {
+    const auto change = controller_.changeOver(wishedFade());
     return answerOf(chosenLook_.applyPrevious());
 }
 
 BusAnswer BusFace::goBackFromLook() {
+    const auto change = controller_.changeOver(wishedFade());
     return answerOf(chosenLook_.goBack());
 }
 

@@ -3,6 +3,7 @@
 #include "base/activation_token.h"
 #include "ctl/bus_client.h"
 #include "ctl/effect_verbs.h"
+#include "ctl/fade_option.h"
 #include "ctl/failure.h"
 #include "ctl/followers.h"
 #include "ctl/look_verb.h"
@@ -29,15 +30,22 @@ namespace nocturo {
 
 namespace {
 
+template <typename... Values>
+void callFading(Arguments arguments, const char* method, Values... values) {
+    const FadeOption fade(arguments);
+    expect(fade.rest().empty());
+    BusClient client;
+    fade.tell(client);
+    client.call(method, values...);
+}
+
 template <bool active>
 void runSwitch(Arguments arguments) {
-    expect(arguments.empty());
-    BusClient().call("SetActive", active);
+    callFading(arguments, "SetActive", active);
 }
 
 void runToggle(Arguments arguments) {
-    expect(arguments.empty());
-    BusClient().call("Toggle");
+    callFading(arguments, "Toggle");
 }
 
 void runQuit(Arguments arguments) {
@@ -227,11 +235,12 @@ void runPreview(Arguments arguments) {
 }
 
 constexpr std::array kCommands = std::to_array<Command>({
-    {"on", "", ListedText("Switch the effect on"), ListedText(), runSwitch<true>, true},
-    {"off", "", ListedText("Switch the effect off"),
+    {"on", "[--fade SECONDS]", ListedText("Switch the effect on"),
+     ListedText("--fade has it come little by little, in up to 5 seconds."), runSwitch<true>, true},
+    {"off", "[--fade SECONDS]", ListedText("Switch the effect off"),
      ListedText("Every display gets its own colors back."), runSwitch<false>},
-    {"toggle", "", ListedText("Switch the effect on or off"), ListedText("Bind this to a key."),
-     runToggle, true},
+    {"toggle", "[--fade SECONDS]", ListedText("Switch the effect on or off"),
+     ListedText("Bind this to a key."), runToggle, true},
     {"pause", "[30m | until TIME | cancel | while COMMAND...]",
      ListedText("Switch the effect off for a time"),
      ListedText("For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is "
@@ -273,7 +282,7 @@ constexpr std::array kCommands = std::to_array<Command>({
          "From 1000 (candle) over 6500 (neutral) to 25000 (blue sky), as hue and vividness of the\n"
          "color filter, which is chosen. +N and -N go so far from the one in force."),
      runTemperature, true},
-    {"look", "[NAME | next | previous | back | list...]",
+    {"look", "[NAME | next | previous | back | list...] [--fade SECONDS]",
      ListedText("Show, choose or keep a combination of effects"),
      ListedText("list [--json]      all of them, those that come with Nocturo and your own\n"
                 "next, previous     the one after or before the one in force\n"

@@ -1,6 +1,7 @@
 #include "ctl/look_verb.h"
 
 #include "ctl/bus_client.h"
+#include "ctl/fade_option.h"
 #include "ctl/failure.h"
 #include "ctl/output.h"
 #include "ctl/report.h"
@@ -42,10 +43,22 @@ void move(const std::string& name, const std::string& place) {
     BusClient().call("MoveLook", name, number - 1);
 }
 
+template <typename... Names>
+void apply(const FadeOption& fade, const char* method, const Names&... names) {
+    BusClient client;
+    fade.tell(client);
+    client.call(method, names...);
+}
+
 } // namespace
 
-void runLook(Arguments arguments) {
+void runLook(Arguments words) {
+    const FadeOption fade(words);
+    const Arguments arguments = fade.rest();
     const std::string how = arguments.empty() ? "" : arguments[0];
+    const bool isShownOrKept = how.empty() || how == "list" || how == "rename" || how == "move" ||
+                               methodOf(kNamed, how) != nullptr;
+    expect(!(fade.isGiven() && isShownOrKept));
     if (how.empty()) {
         print(lookInForce(BusClient().properties()));
     } else if (how == "list") {
@@ -55,7 +68,7 @@ void runLook(Arguments arguments) {
         print(asJson ? looksArray(properties).dump() + '\n' : looksReport(properties));
     } else if (const char* step = methodOf(kSteps, how)) {
         expect(arguments.size() == 1);
-        BusClient().call(step);
+        apply(fade, step);
     } else if (const char* method = methodOf(kNamed, how)) {
         expect(arguments.size() > 1);
         BusClient().call(method, joined(arguments.subspan(1)));
@@ -66,7 +79,7 @@ void runLook(Arguments arguments) {
         expect(arguments.size() == 3);
         move(arguments[1], arguments[2]);
     } else {
-        BusClient().call("ApplyLook", joined(arguments));
+        apply(fade, "ApplyLook", joined(arguments));
     }
 }
 

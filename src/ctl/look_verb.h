@@ -5,6 +5,6 @@
 namespace nocturo {
 
 /// Shows, applies and keeps looks, by what follows the verb.
-void runLook(Arguments arguments);
+void runLook(Arguments words);
 
 } // namespace nocturo

@@ -5,6 +5,7 @@
 #include "base/log.h"
 #include "base/texts/translated.h"
 #include "displays/calibration/profile_calibrations.h"
+#include "displays/fading_hardware.h"
 #include "displays/gnome/gnome_hardware.h"
 #include "displays/guard/display_repair.h"
 #include "displays/guard/guarded_hardware.h"
@@ -41,6 +42,13 @@ std::string offersNoWay(const std::string& desktop) {
                       {desktop.empty() ? translated("This desktop") : desktop});
 }
 
+std::unique_ptr<GammaHardware> fading(std::unique_ptr<GammaHardware> hardware,
+                                      const DisplaySurroundings& surroundings, RunLoop& runLoop) {
+    return surroundings.fades == nullptr ? std::move(hardware)
+                                         : std::make_unique<FadingHardware>(
+                                               std::move(hardware), *surroundings.fades, runLoop);
+}
+
 Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoop& runLoop) {
     const std::string& xDisplay = surroundings.xDisplay;
     if (xDisplay.empty()) {
@@ -65,9 +73,10 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
     }
     OpenedDisplays opened;
     opened.restoredByHand = ServerMark(*server).takeRestored();
+    auto hardware =
+        std::make_unique<GuardedHardware>(std::move(*randr), xDisplay, runLoop, surroundings.letGo);
     opened.services = std::make_unique<RampDisplayServices>(
-        std::make_unique<GuardedHardware>(std::move(*randr), xDisplay, runLoop, surroundings.letGo),
-        std::move(profiles), &runLoop);
+        fading(std::move(hardware), surroundings, runLoop), std::move(profiles), &runLoop);
     opened.listening = server->onLoss(surroundings.lost);
     logInfo(kLogDisplays, "Displays are those of the X server " + xDisplay + ".");
     return opened;
@@ -101,8 +110,8 @@ OpenedDisplays wlrDisplays(std::unique_ptr<WaylandConnection> connection,
         calibrations->calibration(head.connector, head.rampSize);
     }
     calibrations->waitForAnswers(kWaitForCalibrations);
-    auto services = std::make_unique<RampDisplayServices>(std::move(hardware),
-                                                          std::move(calibrations), &runLoop);
+    auto services = std::make_unique<RampDisplayServices>(
+        fading(std::move(hardware), surroundings, runLoop), std::move(calibrations), &runLoop);
     logInfo(kLogDisplays, "Displays are those of a Wayland compositor with wlr-gamma-control.");
     return waylandDisplays(compositor, std::move(services), runLoop, surroundings.lost);
 }
@@ -116,6 +125,7 @@ OpenedDisplays kdeDisplays(std::unique_ptr<WaylandConnection> connection,
                                                             surroundings.stateDirectory},
                                                   runLoop);
     auto calibrations = std::make_unique<KdeCalibrations>(hardware->profiles());
+    // No fade: it takes one profile at a time, and each from a file.
     auto services = std::make_unique<RampDisplayServices>(std::move(hardware),
                                                           std::move(calibrations), &runLoop);
     logInfo(kLogDisplays, "Displays are those of KWin, by their color profiles.");
@@ -161,8 +171,8 @@ Result<OpenedDisplays> shellsDisplays(FoundShell found,
     }
     OpenedDisplays opened;
     opened.services = std::make_unique<RampDisplayServices>(
-        std::move(hardware), std::make_unique<ProfileCalibrations>(nullptr, surroundings.systemBus),
-        &loop);
+        fading(std::move(hardware), surroundings, loop),
+        std::make_unique<ProfileCalibrations>(nullptr, surroundings.systemBus), &loop);
     if (compositor != nullptr) {
         opened.listening =
             loop.watch(compositor->descriptor(), [compositor, lost = surroundings.lost] {
@@ -215,11 +225,14 @@ Result<OpenedDisplays> openWayland(DisplayChoice::Kind kind,
     return failedForNow(offersNoWay(surroundings.desktop));
 }
 
-OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surroundings) {
+OpenedDisplays openSimulated(unsigned count, const DisplaySurroundings& surroundings,
+                             RunLoop& runLoop) {
     const std::filesystem::path& pictureDirectory = surroundings.runtimeDirectory;
     OpenedDisplays opened;
-    opened.services = std::make_unique<RampDisplayServices>(
-        std::make_unique<SimulatedHardware>(count, pictureDirectory, surroundings.drawPicture));
+    auto hardware =
+        std::make_unique<SimulatedHardware>(count, pictureDirectory, surroundings.drawPicture);
+    opened.services =
+        std::make_unique<RampDisplayServices>(fading(std::move(hardware), surroundings, runLoop));
     if (!pictureDirectory.empty()) {
         opened.notice = translated("Displays are simulated; their pictures are in %@.",
                                    {pictureDirectory.string()});
@@ -269,7 +282,7 @@ Result<OpenedDisplays> openDisplays(const DisplayChoice& choice,
     using Kind = DisplayChoice::Kind;
     switch (choice.kind) {
     case Kind::simulated:
-        return openSimulated(choice.simulatedCount, surroundings);
+        return openSimulated(choice.simulatedCount, surroundings, loop);
     case Kind::wlr:
     case Kind::kde:
         return openWayland(choice.kind, surroundings, loop);

@@ -15,6 +15,7 @@ namespace nocturo {
 
 class Bus;
 class EventLoop;
+class Fades;
 class XConnection;
 
 /// Which display services the user wants.
@@ -42,6 +43,7 @@ struct DisplaySurroundings {
     DrawPicture drawPicture;                // of simulated displays
     std::function<void()> lost; // called when the displays' server has gone: nothing works any more
     std::function<void()> letGo; // called when somebody asks for the displays over their server
+    Fades* fades = nullptr;      // null where nothing fades
 };
 
 struct OpenedDisplays {

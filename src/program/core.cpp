@@ -31,6 +31,7 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       face(controller, defaults, centers.local, disturbances, desktop, keepColors, chosenLook,
            automation, sessionBus.get(), loop) {
     controller.setAutomation(&automation);
+    controller.setFades(&fades);
     for (Bus* bus : {sessionBus.get(), systemBus.get()}) {
         if (bus != nullptr) {
             bus->rejoin();
@@ -43,7 +44,7 @@ void Core::signalWasSent(int number) {
     if (number == InstanceLock::kReopenSignal) {
         controller.applicationShouldHandleReopen(false);
     } else if (number == InstanceLock::kSwitchOffSignal) {
-        controller.setEffectActive(false, true);
+        controller.giveDisplaysBack();
     } else {
         runLoop.quit();
     }

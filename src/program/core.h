@@ -12,6 +12,7 @@
 #include "base/notification_center.h"
 #include "base/wall_clock.h"
 #include "bus/bus_face.h"
+#include "displays/fades.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
 #include "program/desktop_on_demand.h"
@@ -41,6 +42,7 @@ struct Core {
     NotificationCenter workspaceCenter;
     NotificationCenter distributedCenter;
     const NotificationCenters centers;
+    Fades fades;
     NDAppController controller;
     const WakeRepeater wakeRepeater;
     DisturberFinder disturberFinder{sessionBus.get()};

@@ -84,7 +84,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
         options.displays,
         {xDisplayName(), server.get(), waylandDisplayName(), desktopName(), directory.value_or(""),
          stateDirectory(), sessionBusAddress(), core.systemBus.get(), drawTestCard,
-         [&] { loop.quit(kFailure); }, [&] { core.controller.setEffectActive(false, true); }},
+         [&] { loop.quit(kFailure); }, [&] { core.controller.giveDisplaysBack(); }, &core.fades},
         loop);
     if (!opened) {
         tell(stderr, opened.error().text);

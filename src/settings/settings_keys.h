@@ -38,5 +38,6 @@ inline constexpr RealSetting kDimLevel{"NDDimEffectLevel", -0.5F, -1.0F, 1.0F};
 inline constexpr RealSetting kColorFilterHue{"NDColorFilterEffectHue", 0.0F, 0.0F, 360.0F};
 inline constexpr RealSetting kColorFilterVividness{"NDColorFilterEffectVividness", 1.0F, 0.0F,
                                                    1.0F};
+inline constexpr RealSetting kFadeSeconds{"FadeSeconds", 0.0F, 0.0F, 5.0F};
 
 } // namespace nocturo

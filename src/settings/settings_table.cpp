@@ -22,9 +22,9 @@ Setting number(const RealSetting& setting, ListedText meaning) {
             false,       meaning,           SettingRange{setting.lowest, setting.highest}};
 }
 
-const std::array<Setting, 19>& rows() {
+const std::array<Setting, 20>& rows() {
     using enum SettingType;
-    static const std::array<Setting, 19> table = {{
+    static const std::array<Setting, 20> table = {{
         {kGroupEffect, effectNames, PropertyArray(), true, ListedText("the selected effects")},
         {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
         {kActivateOnClick, boolean, true, true,
@@ -46,6 +46,7 @@ const std::array<Setting, 19>& rows() {
         number(kDimLevel, ListedText("dim: -1 black, 0 unchanged, 1 white")),
         number(kColorFilterHue, ListedText("color filter: hue in degrees")),
         number(kColorFilterVividness, ListedText("color filter: strength, 0 to 1")),
+        number(kFadeSeconds, ListedText("seconds that a change fades for, 0 to 5")),
         {kUseSchedule, boolean, false, true, ListedText("switch and choose looks by the schedule")},
         {kSchedule, schedulePoints, PropertyArray(), false,
          ListedText("the schedule: times with looks or off")},

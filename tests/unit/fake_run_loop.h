@@ -73,6 +73,9 @@ class FakeRunLoop final : public RunLoop {
         return served;
     }
 
+    /// What has passed so far.
+    std::chrono::milliseconds now() const { return now_; }
+
     /// Timers that have yet to fire.
     std::size_t pendingTimers() const { return pending().size(); }
 

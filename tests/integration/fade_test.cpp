@@ -1,0 +1,72 @@
+// Changes that take their time, on a real X server.
+
+#include "nocturo_test.h"
+
+using namespace nocturo::rig;
+
+using Clock = std::chrono::steady_clock;
+
+struct Fade : NocturoOnX {
+    Fade() : NocturoOnX(4) {
+        select("NDInvertEffect", "<key>FadeSeconds</key><real>2</real>");
+        nocturo_ = session_.startNocturo();
+    }
+    void startOff() {
+        ctl({"off", "--fade", "0"});
+        ASSERT_EQ(shown(), "oooo");
+    }
+};
+
+TEST_F(Fade, ShowsManyStepsAndEndsExactly) {
+    ASSERT_TRUE(becomes("iiii", Milliseconds(500))) << "no start fades";
+    startOff();
+    const auto start = Clock::now();
+    ctl({"on"});
+    int frames = 0;
+    Clock::duration worst{};
+    Channels before = client_.ramp(output(3));
+    for (auto last = start; before != reversed(own_[3]) && Clock::now() - start < kPatience;) {
+        const Channels now = client_.ramp(output(3));
+        if (now != before) {
+            before = now;
+            ++frames;
+            worst = std::max(worst, Clock::now() - last);
+            last = Clock::now();
+        }
+    }
+    EXPECT_NEAR(std::chrono::duration<double>(Clock::now() - start).count(), 2, 0.3);
+    EXPECT_GE(frames, 55);
+    EXPECT_LE(frames, 126);
+    EXPECT_LE(worst, Milliseconds(250)); // on a machine that has other things to do as well
+    EXPECT_TRUE(becomes("iiii", Milliseconds(100))) << shown();
+    EXPECT_EQ(status()["disturbances"], 0);
+}
+
+TEST_F(Fade, HoldsUpNobodyWhoNeedsTheDisplays) {
+    becomes("iiii");
+    ctl({"off", "--fade", "5"});
+    ctl({"restore"});
+    EXPECT_TRUE(allOwnWithin(Milliseconds(100))) << shown();
+    ctl({"on", "--fade", "0"});
+    ctl({"off"});
+    kill(false);
+    EXPECT_TRUE(allOwnWithin(Milliseconds(1000))) << "by the guard: " << shown();
+    nocturo_ = session_.startNocturo();
+    ctl({"on", "--fade", "0"});
+    ctl({"look", "Just dimmer"});
+    ctl({"off"});
+    end();
+    EXPECT_EQ(shown(), "oooo");
+    says("nocturoctl", {"on", "--fade", "6"}, 2, "FadeSeconds");
+}
+
+TEST_F(Fade, SoakThousandTogglesOnTheWay) {
+    becomes("iiii");
+    for (int i = 0; i < 1000; ++i) {
+        ctl({"toggle", "--fade", i % 3 == 0 ? "0.1" : "5"});
+    }
+    ctl({"on", "--fade", "0.2"});
+    EXPECT_TRUE(becomes("iiii")) << shown();
+    ctl({"off", "--fade", "0.2"});
+    EXPECT_TRUE(becomes("oooo")) << shown();
+}
