@@ -4,6 +4,7 @@
 #include "desktop/preferences/preferences_controller.h"
 #include "desktop/preferences/sheet.h"
 #include "desktop/qt/localized.h"
+#include "displays/fades.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "effects/effect_choices.h"
@@ -35,7 +36,10 @@ void NDPreferencesController::connectEffects() {
     const auto connectSlider = [this](const ParameterSlider* slider,
                                       void (Self::*action)(const ParameterSlider&)) {
         connect(slider, &ParameterSlider::valueChangedByUser, this,
-                [this, slider, action] { (this->*action)(*slider); });
+                [this, slider, action] {
+                    const Fades::Change atOnce(surroundings_.fades, Fades::Length::zero());
+                    (this->*action)(*slider);
+                });
     };
     connectSlider(ui_->colorFilterHue, &Self::changeColorFilterHue);
     connectSlider(ui_->colorFilterVividness, &Self::changeColorFilterVividness);

@@ -33,6 +33,7 @@ class Menu;
 class NDScreenOptionMenuManager;
 class NotificationCenter;
 class ParameterSlider;
+class Fades;
 class PreferencePanel;
 class Subjects;
 
@@ -57,6 +58,8 @@ struct PreferenceSurroundings {
     std::function<std::filesystem::path()> documentFolder = {};
     /// The name of the look that the displays show; that of the settings without it.
     std::function<std::string()> shownLook = {};
+    /// What a slider sets is there at once. Without them everything is.
+    Fades* fades = nullptr;
 };
 
 /// The preference window. It holds no settings of its own: every control writes straight into the
