@@ -16,7 +16,7 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::size_t kIntervals = 2048;
+constexpr int kIntervals = 2048;
 constexpr float kFull = 65535.0F;
 
 double lightOfSignal(double signal) {
@@ -40,24 +40,26 @@ double lightOfLightness(double lightness) {
                                       : std::pow((lightness * 100 + 16) / 116, 3);
 }
 
-/// A curve over 0 to 1.
+/// A curve over 0 to 1; a little beyond does no harm.
 class Table {
   public:
     template <typename Curve>
     explicit Table(Curve curve) {
-        for (std::size_t i = 0; i < nodes_.size(); ++i) {
-            nodes_[i] = static_cast<float>(curve(static_cast<double>(i) / kIntervals));
+        for (int i = 0; i <= kIntervals; ++i) {
+            nodes_[static_cast<std::size_t>(i)] =
+                static_cast<float>(curve(static_cast<double>(i) / kIntervals));
         }
+        nodes_.back() = nodes_[kIntervals];
     }
     float operator()(float value) const {
-        const float place = std::clamp(value, 0.0F, 1.0F) * kIntervals;
-        const auto node = std::min(static_cast<std::size_t>(place), kIntervals - 1);
-        return nodes_[node] +
-               (nodes_[node + 1] - nodes_[node]) * (place - static_cast<float>(node));
+        const float place = value * kIntervals;
+        const auto whole = static_cast<int>(place);
+        const float* node = nodes_.data() + whole;
+        return node[0] + (node[1] - node[0]) * (place - static_cast<float>(whole));
     }
 
   private:
-    std::array<float, kIntervals + 1> nodes_{};
+    std::array<float, kIntervals + 2> nodes_{};
 };
 
 void appendLightness(const std::vector<std::uint16_t>& channel, std::vector<float>& lightness) {
@@ -76,11 +78,13 @@ std::vector<float> lightnessOf(const Ramp& ramp) {
     return lightness;
 }
 
-std::uint16_t entryOf(float lightness) {
+/// Entries of lightnesses, to be cut off.
+const Table& entryTable() {
     constexpr double kHalf = 0.5; // rounds
-    static const Table table(
-        [](double value) { return signalOfLight(lightOfLightness(value)) * kFull + kHalf; });
-    return static_cast<std::uint16_t>(table(lightness));
+    static const Table table([](double lightness) {
+        return signalOfLight(lightOfLightness(lightness)) * kFull + kHalf;
+    });
+    return table;
 }
 
 } // namespace
@@ -97,11 +101,12 @@ void RampFade::turn(Ramp to) {
 }
 
 const Ramp& RampFade::at(float share) {
-    std::size_t i = 0;
+    const Table& entries = entryTable();
+    const float* from = from_.data();
+    const float* change = change_.data();
     for (auto* channel : {&shown_.red, &shown_.green, &shown_.blue}) {
         for (std::uint16_t& entry : *channel) {
-            entry = entryOf(from_[i] + change_[i] * share);
-            ++i;
+            entry = static_cast<std::uint16_t>(entries(*from++ + *change++ * share));
         }
     }
     return shown_;
