@@ -21,6 +21,10 @@ void FadingHardware::whenChanged(std::function<void()> look) {
 }
 
 void FadingHardware::expectReads(std::span<const std::uint32_t> crtcs) {
+    if (underWay_.empty()) {
+        hardware_->expectReads(crtcs);
+        return;
+    }
     std::vector<std::uint32_t> read;
     for (const std::uint32_t crtc : crtcs) {
         if (!underWay_.contains(crtc)) {

@@ -36,10 +36,11 @@ class FadingHardware final : public GammaHardware {
     std::uint64_t topologyGeneration() override { return hardware_->topologyGeneration(); }
     void whenChanged(std::function<void()> look) override;
     bool listHeads(std::vector<Head>& heads) override { return hardware_->listHeads(heads); }
+    /// Allocates nothing where nothing fades.
     void expectReads(std::span<const std::uint32_t> crtcs) override;
     bool readRamp(std::uint32_t crtc, Ramp& ramp) override;
     void expectWrite(std::uint32_t crtc) override { hardware_->expectWrite(crtc); }
-    /// Allocates nothing where nothing is to be faded.
+    /// The same where nothing is to be faded.
     bool writeRamp(std::uint32_t crtc, const Ramp& ramp) override;
     void keepSystemRamp(std::uint32_t crtc, const Ramp& ramp) override {
         hardware_->keepSystemRamp(crtc, ramp);

@@ -49,8 +49,10 @@ TEST_F(Fade, HoldsUpNobodyWhoNeedsTheDisplays) {
     EXPECT_TRUE(allOwnWithin(Milliseconds(100))) << shown();
     ctl({"on", "--fade", "0"});
     ctl({"off"});
+    EXPECT_EQ(shown(), "????");
     kill(false);
-    EXPECT_TRUE(allOwnWithin(Milliseconds(1000))) << "by the guard: " << shown();
+    EXPECT_TRUE(allOwnWithin(Milliseconds(100))) << "by the guard: " << shown();
+    EXPECT_FALSE(isMarked());
     nocturo_ = session_.startNocturo();
     ctl({"on", "--fade", "0"});
     ctl({"look", "Just dimmer"});

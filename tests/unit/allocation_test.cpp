@@ -1,8 +1,11 @@
 // Re-application runs for as long as the effect is on, so it must not allocate.
 
 #include "display_services_fixture.h"
+#include "displays/fading_hardware.h"
 #include "effects/effect_registry.h"
+#include "fake_run_loop.h"
 
+#include <array>
 #include <cstdlib>
 #include <new>
 
@@ -33,8 +36,14 @@ struct OneDisplay : FakeGammaHardware {
 
 TEST_F(SettingsFixture, UpdateEffectAllocatesNothing) {
     const auto group = std::make_shared<NDGroupEffect>();
+    Fades fades;
+    FakeRunLoop runLoop;
+    const std::array<std::uint32_t, 1> crtcs{};
     for (const std::uint32_t size : {256U, 1024U}) {
-        RampDisplayServices services(std::make_unique<OneDisplay>(size));
+        auto ownedHardware =
+            std::make_unique<FadingHardware>(std::make_unique<OneDisplay>(size), fades, runLoop);
+        FadingHardware& hardware = *ownedHardware;
+        RampDisplayServices services(std::move(ownedHardware));
         setDisplayServices(&services);
         NDScreenController controller(group, services.onlineDisplays()->front().id);
         const long before = allocations;
@@ -45,6 +54,7 @@ TEST_F(SettingsFixture, UpdateEffectAllocatesNothing) {
         }
         ASSERT_EQ(group->effectCount(), 5U);
         const long withEffects = allocations;
+        hardware.expectReads(crtcs); // which the timer's comes along with
         controller.updateEffect();
         EXPECT_EQ(allocations, withEffects);
         for (const SelectableEffect& effect : selectableEffects()) {
