@@ -269,7 +269,7 @@ class NDAppController : public ActionTarget {
     bool statusItemShown_ = false;
     bool recordingHotKey_ = false;
     bool paused_ = false;
-    bool saverRuns_ = false; // known while there is an automation
+    bool saverRuns_ = false;    // known while there is an automation
     bool isSwitchedOn_ = false; // what the user wants, whatever rules over it
     std::shared_ptr<NDGroupEffect> globalEffect_;
     std::optional<ScreenControllers> screenControllers_; // the effect is on exactly when it has one
