@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <sys/ioctl.h>
 
 namespace nocturo {
 
@@ -15,6 +16,14 @@ namespace {
 
 constexpr std::uint64_t kPatience = 100'000; // microseconds
 constexpr std::size_t kLongestEnvironment = 4U << 20U;
+
+/// Whoever waits for an answer meanwhile takes all of it into the memory.
+bool isMoreWaiting(sd_bus* bus) {
+    std::uint64_t queued = 0;
+    int unread = 0;
+    return (sd_bus_get_n_queued_read(bus, &queued) >= 0 && queued > 0) ||
+           (ioctl(sd_bus_get_fd(bus), FIONREAD, &unread) == 0 && unread > 0);
+}
 
 std::uint32_t processOf(sd_bus_message* call) {
     constexpr const char* kBusService = "org.freedesktop.DBus";
@@ -49,6 +58,9 @@ std::string valueIn(std::string_view variables, std::string_view name) {
 } // namespace
 
 std::optional<std::string> languageOfCaller(sd_bus_message* call) {
+    if (isMoreWaiting(sd_bus_message_get_bus(call))) {
+        return std::nullopt;
+    }
     const std::uint32_t process = processOf(call);
     const auto file = openRegularFile("/proc/" + std::to_string(process) + "/environ");
     const auto variables =

@@ -10,8 +10,8 @@
 namespace nocturo {
 
 /// The language of our texts for whoever runs the program that sent the call, as usersLanguage() is
-/// for this one; nothing where the bus or the system does not tell. Waits for the bus for a tenth
-/// of a second at most.
+/// for this one; nothing where the bus or the system does not tell, or while more than that call
+/// waits to be read. Waits for the bus for a tenth of a second at most.
 std::optional<std::string> languageOfCaller(sd_bus_message* call);
 
 /// What `tell` answers while all texts are read in that language, where it is known.

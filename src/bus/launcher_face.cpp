@@ -4,7 +4,9 @@
 #include "base/activation_token.h"
 #include "base/bus_dictionary.h"
 #include "base/event_loop.h"
+#include "base/texts/texts_in_language.h"
 #include "base/texts/translated.h"
+#include "base/texts/users_language.h"
 
 #include <algorithm>
 #include <array>
@@ -18,6 +20,7 @@ constexpr const char* kApplicationInterface = "org.freedesktop.Application";
 
 // Of platform data.
 constexpr const char* kActivationToken = "activation-token";
+constexpr const char* kLanguage = "nocturo-language"; // as usersLanguage() has it
 
 // The one that runs may be asking its user something before it comes to open anything, and each
 // document may be as slow as one can be.
@@ -50,6 +53,17 @@ std::string pathOf(const std::string& uri) {
     return path;
 }
 
+/// What `tell` says in a language that the caller has told, or else in that of this process. To ask
+/// would wait, and who waits for an answer takes whatever others send into the memory.
+template <typename Tell>
+std::string inLanguage(const std::optional<std::string>& language, const Tell& tell) {
+    std::optional<TextsInLanguage> theirs;
+    if (language) {
+        theirs.emplace(*language);
+    }
+    return tell();
+}
+
 /// The address of the file at an absolute path.
 std::string uriOf(const std::string& path) {
     constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
@@ -74,6 +88,8 @@ static bool readArgument(sd_bus_message* call, PlatformData& data) {
         std::string text = readTextVariant(call);
         if (key == kActivationToken) {
             data.activationToken = std::move(text);
+        } else if (key == kLanguage) {
+            data.language = std::move(text);
         }
     });
 }
@@ -137,21 +153,23 @@ int LauncherFace::open(sd_bus_message* call, void* self, sd_bus_error* error) {
     if (!readArguments(call, arguments)) {
         return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
     }
-    if (!face.whetherReady()) {
-        const auto ready = inLanguageOfCaller(call, [&face] { return face.whetherReady(); });
-        return sd_bus_error_set(error, kFailedError, ready.error().sentence.c_str());
-    }
     auto& [paths, platform] = arguments;
+    if (!face.whetherReady()) {
+        const auto sentence =
+            inLanguage(platform.language, [&face] { return face.whetherReady().error().sentence; });
+        return sd_bus_error_set(error, kFailedError, sentence.c_str());
+    }
     keepActivationToken(platform.activationToken);
     std::ranges::transform(paths, paths.begin(), pathOf);
     const std::shared_ptr<sd_bus_message> asked(sd_bus_message_ref(call), BusRelease());
-    const bool isTaken =
-        face.documents_.open(std::move(paths), [asked](const std::vector<std::string>& refused) {
+    const bool isTaken = face.documents_.open(
+        std::move(paths),
+        [asked, language = platform.language](const std::vector<std::string>& refused) {
             if (refused.empty()) {
                 sd_bus_reply_method_return(asked.get(), nullptr);
             } else {
                 const auto refusal =
-                    inLanguageOfCaller(asked.get(), [&refused] { return refusalOf(refused); });
+                    inLanguage(language, [&refused] { return refusalOf(refused); });
                 sd_bus_reply_method_errorf(asked.get(), kFailedError, "%s", refusal.c_str());
             }
         });
@@ -195,7 +213,8 @@ std::optional<std::string> openInRunningApplication(const Bus& bus,
     }
     const BusMessage call = bus.newCall(kBusName, kObjectPath, kApplicationInterface, "Open");
     appendValue(call.get(), uris);
-    appendDictionary(call.get(), {{kActivationToken, givenActivationToken()}});
+    appendDictionary(call.get(),
+                     {{kActivationToken, givenActivationToken()}, {kLanguage, usersLanguage()}});
     sd_bus_error error{};
     const int patienceMs = kOpenTimeoutMs + kTimeoutOfEachMs * static_cast<int>(paths.size());
     const BusMessage answer = bus.callAndWait(call, patienceMs, &error);

@@ -17,12 +17,13 @@ class NDAppController;
 /// What a launcher tells of itself along with a call.
 struct PlatformData {
     std::string activationToken;
+    std::optional<std::string> language; // that sentences for it are to be in
 };
 struct IgnoredParameters {};
 
 /// What launchers and file managers see of the application on the session bus: the interface
 /// org.freedesktop.Application on the application's object. Of platform data only the token counts
-/// that lets a window come to the front.
+/// that lets a window come to the front, and the language of another start of Nocturo.
 ///
 /// A launcher starts the application by asking for one of these. What was asked before the launch
 /// was done is therefore the launch itself, and switches nothing.
