@@ -25,11 +25,23 @@ bool CallersAhead::admits(sd_bus_message* call) {
          waiting == 0)) {
         calls.since = now;
         calls.bySender.clear();
+        std::erase_if(trust_, [now](const auto& each) { return now > each.second.until; });
     }
     const char* sender = sd_bus_message_get_sender(call);
-    if (sender == nullptr ||
-        ++calls.bySender[sender] <= (isAnswered ? kMostCalls : kMostUnanswered)) {
+    if (sender == nullptr) {
         return true;
+    }
+    const auto trust = trust_.find(sender);
+    const int most = !isAnswered             ? kMostUnanswered
+                     : trust == trust_.end() ? kMostCalls
+                                             : trust->second.calls;
+    const int count = ++calls.bySender[sender];
+    if (count <= most) {
+        return true;
+    }
+    // Who is refused has not read its answers; once all has been read it gets half as many.
+    if (isAnswered && count == most + 1) {
+        trust_.insert_or_assign(sender, Trust{std::max(most / 2, 1), now + kMemory});
     }
     sd_bus_reply_method_errorf(call, SD_BUS_ERROR_LIMITS_EXCEEDED, "Wait for the answers.");
     return false;
