@@ -28,8 +28,10 @@ namespace nocturo {
 
 namespace {
 
-constexpr int kPatienceWithBusMs = 1000;
-constexpr timeval kPatienceInAll{2, 700000};
+constexpr int kPatienceWithNocturoMs = 500;
+constexpr int kPatienceWithShellMs = 1000;
+constexpr timeval kPatienceWithServer{2, 0};
+constexpr timeval kPatienceWithCompositor{2, 700000}; // and with all that is asked besides
 
 constexpr ListedText kSwitchedOff =
     ListedText("Nocturo has switched its effect off and given the displays back.");
@@ -46,10 +48,10 @@ constexpr ListedText kNothingChanged =
 /// everybody who asks it something.
 class Deadline {
   public:
-    explicit Deadline(const std::string& sentence) {
+    Deadline(const std::string& sentence, timeval patience) {
         sentence_ = "nocturoctl: " + sentence + '\n';
         std::signal(SIGALRM, tooLate);
-        const itimerval once{{}, kPatienceInAll};
+        const itimerval once{{}, patience};
         setitimer(ITIMER_REAL, &once, nullptr);
     }
     ~Deadline() {
@@ -67,12 +69,6 @@ class Deadline {
 
     static inline std::string sentence_;
 };
-
-/// Asks whoever is reached over the session bus, which may be one that changes other displays.
-bool switchOffOverTheBus(EventLoop& loop) {
-    const auto bus = Bus::connect(sessionBusAddress(), loop);
-    return bus != nullptr && switchRunningApplicationOff(*bus, kPatienceWithBusMs);
-}
 
 ListedText told(const RestoredByHand& done, bool switchedOff) {
     switch (done.repair) {
@@ -117,12 +113,14 @@ std::optional<ListedText> restoreProfiles(const std::string& display, bool switc
 
 /// The displays of GNOME or Cinnamon; nothing where there is no such shell, or where they are an X
 /// server's, which needs no bus.
-std::optional<RestoredByHand> restoreOverTheBus(EventLoop& loop) {
+std::optional<RestoredByHand> restoreOverTheBus(const Bus* bus) {
     const auto directory = runtimeDirectory();
     const bool isWayland = !environment("WAYLAND_DISPLAY").empty();
     const bool mayHaveDisplays = directory && (isWayland || hasShellJournals(*directory));
-    const auto bus = mayHaveDisplays ? Bus::connect(sessionBusAddress(), loop) : nullptr;
-    const auto shell = bus != nullptr ? findShell(*bus, kPatienceWithBusMs) : std::nullopt;
+    // A bus that was silent until now is not waited for once more.
+    const bool answers = bus != nullptr && sd_bus_is_ready(bus->handle()) > 0;
+    const auto shell =
+        mayHaveDisplays && answers ? findShell(*bus, kPatienceWithShellMs) : std::nullopt;
     if (!shell) {
         return std::nullopt;
     }
@@ -156,7 +154,10 @@ Result<RestoredByHand, RandrRefusal> restoreOnServer(const std::string& display,
 
 ListedText restore(const std::string& display, const std::string& waylandDisplay) {
     EventLoop loop;
-    const bool switchedOff = switchOffOverTheBus(loop);
+    // Whoever is reached over the bus may be one that changes other displays.
+    const auto bus = Bus::connect(sessionBusAddress(), loop);
+    const bool switchedOff =
+        bus != nullptr && switchRunningApplicationOff(*bus, kPatienceWithNocturoMs);
     // What a Wayland session has for an X server may have to be started first; elsewhere the X
     // server comes first, because it needs nobody else.
     Result<RestoredByHand, RandrRefusal> onServer{};
@@ -169,7 +170,7 @@ ListedText restore(const std::string& display, const std::string& waylandDisplay
     if (const auto done = restoreProfiles(waylandDisplay, switchedOff)) {
         return *done;
     }
-    if (const auto done = restoreOverTheBus(loop)) {
+    if (const auto done = restoreOverTheBus(bus.get())) {
         return told(*done, switchedOff);
     }
     if (!waylandDisplay.empty()) {
@@ -190,9 +191,9 @@ void restoreDisplays() {
     const std::string display = environment("DISPLAY");
     const std::string waylandDisplay = environment("WAYLAND_DISPLAY");
     const Deadline deadline(
-        waylandDisplay.empty()
-            ? translated("The X server %@ does not answer.", {display})
-            : translated("The compositor %@ does not answer.", {waylandDisplay}));
+        waylandDisplay.empty() ? translated("The X server %@ does not answer.", {display})
+                               : translated("The compositor %@ does not answer.", {waylandDisplay}),
+        waylandDisplay.empty() ? kPatienceWithServer : kPatienceWithCompositor);
     print(restore(display, waylandDisplay).translated() + '\n');
 }
 
