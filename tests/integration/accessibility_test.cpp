@@ -181,4 +181,15 @@ TEST_F(Accessibility, AFirstStartByKeyboardAloneIsHeard) {
     EXPECT_TRUE(has("check box", "Effect"));
     EXPECT_TRUE(has("list item", "Warm evening"));
     EXPECT_TRUE(has("slider", "Hue"));
+
+    // Names of files are text, and ten of them are enough.
+    session_.run("nocturo", std::vector<std::string>(12, "/<b>bold"));
+    std::string refusal;
+    for (int line = 0; line < 10; ++line) {
+        refusal += "“<b>bold” is not an effect document.\n";
+    }
+    EXPECT_TRUE(waitUntil([&] {
+        controls = reader.controls();
+        return has("label", refusal + "and 2 more");
+    }));
 }
