@@ -375,6 +375,10 @@
             <translation>Keine</translation>
         </message>
         <message>
+            <source>%@, not connected</source>
+            <translation>%@, nicht angeschlossen</translation>
+        </message>
+        <message>
             <source>Lighten %@</source>
             <translation>Aufhellen %@</translation>
         </message>
@@ -967,12 +971,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>angewendet</translation>
         </message>
         <message>
+            <source>monitor</source>
+            <translation>Monitor</translation>
+        </message>
+        <message>
             <source>none</source>
             <translation>keine</translation>
         </message>
         <message>
             <source>main</source>
             <translation>Hauptbildschirm</translation>
+        </message>
+        <message>
+            <source>not connected</source>
+            <translation>nicht angeschlossen</translation>
         </message>
         <message>
             <source>own</source>

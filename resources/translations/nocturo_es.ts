@@ -375,6 +375,10 @@
             <translation>Ninguna</translation>
         </message>
         <message>
+            <source>%@, not connected</source>
+            <translation>%@, no conectada</translation>
+        </message>
+        <message>
             <source>Lighten %@</source>
             <translation>Aclarar %@</translation>
         </message>
@@ -967,12 +971,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>aplicado</translation>
         </message>
         <message>
+            <source>monitor</source>
+            <translation>monitor</translation>
+        </message>
+        <message>
             <source>none</source>
             <translation>ninguna</translation>
         </message>
         <message>
             <source>main</source>
             <translation>principal</translation>
+        </message>
+        <message>
+            <source>not connected</source>
+            <translation>no conectada</translation>
         </message>
         <message>
             <source>own</source>

@@ -375,6 +375,10 @@
             <translation>Aucun</translation>
         </message>
         <message>
+            <source>%@, not connected</source>
+            <translation>%@, non connecté</translation>
+        </message>
+        <message>
             <source>Lighten %@</source>
             <translation>Éclaircir %@</translation>
         </message>
@@ -967,12 +971,20 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>appliqué</translation>
         </message>
         <message>
+            <source>monitor</source>
+            <translation>moniteur</translation>
+        </message>
+        <message>
             <source>none</source>
             <translation>aucune</translation>
         </message>
         <message>
             <source>main</source>
             <translation>principal</translation>
+        </message>
+        <message>
+            <source>not connected</source>
+            <translation>non connecté</translation>
         </message>
         <message>
             <source>own</source>

@@ -375,6 +375,10 @@
             <translation>なし</translation>
         </message>
         <message>
+            <source>%@, not connected</source>
+            <translation>%@（未接続）</translation>
+        </message>
+        <message>
             <source>Lighten %@</source>
             <translation>明るく %@</translation>
         </message>
@@ -966,12 +970,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>適用</translation>
         </message>
         <message>
+            <source>monitor</source>
+            <translation>モニター</translation>
+        </message>
+        <message>
             <source>none</source>
             <translation>なし</translation>
         </message>
         <message>
             <source>main</source>
             <translation>メイン</translation>
+        </message>
+        <message>
+            <source>not connected</source>
+            <translation>未接続</translation>
         </message>
         <message>
             <source>own</source>

@@ -375,6 +375,10 @@
             <translation>Nenhuma</translation>
         </message>
         <message>
+            <source>%@, not connected</source>
+            <translation>%@, não conectada</translation>
+        </message>
+        <message>
             <source>Lighten %@</source>
             <translation>Clarear %@</translation>
         </message>
@@ -967,12 +971,20 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>aplicado</translation>
         </message>
         <message>
+            <source>monitor</source>
+            <translation>monitor</translation>
+        </message>
+        <message>
             <source>none</source>
             <translation>nenhuma</translation>
         </message>
         <message>
             <source>main</source>
             <translation>principal</translation>
+        </message>
+        <message>
+            <source>not connected</source>
+            <translation>não conectada</translation>
         </message>
         <message>
             <source>own</source>

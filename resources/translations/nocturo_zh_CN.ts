@@ -375,6 +375,10 @@
             <translation>无</translation>
         </message>
         <message>
+            <source>%@, not connected</source>
+            <translation>%@（未连接）</translation>
+        </message>
+        <message>
             <source>Lighten %@</source>
             <translation>调亮 %@</translation>
         </message>
@@ -963,12 +967,20 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>已应用</translation>
         </message>
         <message>
+            <source>monitor</source>
+            <translation>显示器</translation>
+        </message>
+        <message>
             <source>none</source>
             <translation>无</translation>
         </message>
         <message>
             <source>main</source>
             <translation>主屏幕</translation>
+        </message>
+        <message>
+            <source>not connected</source>
+            <translation>未连接</translation>
         </message>
         <message>
             <source>own</source>

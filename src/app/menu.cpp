@@ -20,8 +20,8 @@ MenuItem MenuItem::separator() {
 
 bool MenuItem::showsTheSameAs(const MenuItem& other) const {
     const auto shown = [](const MenuItem& item) {
-        return std::tie(item.text, item.toolTip, item.indent, item.under, item.isSeparator,
-                        item.isVisible, item.isCheckable, item.isChecked);
+        return std::tie(item.text, item.detail, item.toolTip, item.indent, item.under,
+                        item.isSeparator, item.isVisible, item.isCheckable, item.isChecked);
     };
     return shown(*this) == shown(other);
 }
@@ -108,7 +108,8 @@ std::string indentedText(const MenuItem& item) {
     for (int level = 0; level < item.indent; ++level) {
         text += kLevel;
     }
-    return text + item.text;
+    text += item.text;
+    return item.detail.empty() ? text : text + " \u2013 " + withoutMnemonic(item.detail);
 }
 
 } // namespace nocturo

@@ -20,7 +20,8 @@ inline constexpr std::string_view kMenuWillOpenNotification = "NocturoMenuWillOp
 struct MenuItem {
     static MenuItem separator();
 
-    std::string text; // "&" stands before the letter that picks the item, "&&" for itself
+    std::string text;     // "&" stands before the letter that picks the item, "&&" for itself
+    std::string detail{}; // shown behind the text; any "&" in it is one
     std::string toolTip;
     int indent = 0; // in levels
     int under = 0;  // the number of the item whose submenu it is in; 0 for the menu itself

@@ -5,6 +5,7 @@
 #include "base/texts/translated.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
+#include "displays/display_names.h"
 #include "settings/defaults_store.h"
 
 #include <algorithm>
@@ -24,15 +25,16 @@ std::vector<CGDirectDisplayID> onlineDisplays() {
     return {displays.begin(), displays.begin() + count};
 }
 
-std::string displayName(CGDirectDisplayID display) {
+std::vector<DisplayInfo> everyOnlineDisplay() {
     DisplayServices* services = displayServices();
     const auto* infos = services != nullptr ? services->onlineDisplays() : nullptr;
-    if (infos == nullptr) {
-        return {};
-    }
-    const auto info = std::find_if(infos->begin(), infos->end(),
-                                   [&](const DisplayInfo& each) { return each.id == display; });
-    return info != infos->end() ? info->name : std::string();
+    return infos != nullptr ? *infos : std::vector<DisplayInfo>();
+}
+
+std::string displayName(CGDirectDisplayID display) {
+    const std::vector<DisplayInfo> infos = everyOnlineDisplay();
+    const auto info = std::ranges::find(infos, display, &DisplayInfo::id);
+    return info != infos.end() ? info->name : std::string();
 }
 
 } // namespace
@@ -87,6 +89,8 @@ void NDScreenOptionMenuManager::chooseAffectedScreen(std::int32_t tag) {
 MenuItem NDScreenOptionMenuManager::option(std::int32_t tag, std::string title, bool isChecked) {
     MenuItem item;
     item.text = std::move(title);
+    item.detail = tag != 0 ? DisplayNames::shared().monitorOf(static_cast<CGDirectDisplayID>(tag))
+                           : std::string();
     item.toolTip = tag != 0 ? displayName(static_cast<CGDirectDisplayID>(tag)) : std::string();
     item.indent = indent_;
     item.isCheckable = true;
@@ -120,7 +124,25 @@ std::vector<MenuItem> NDScreenOptionMenuManager::options(std::string& summary) {
     } else if (separator_) {
         run.insert(run.begin() + 1, MenuItem::separator());
     }
+    const std::vector<DisplayInfo> online = everyOnlineDisplay();
+    if (!online.empty() && !run.empty()) {
+        appendAbsent(run, online);
+    }
     return run;
+}
+
+/// What is not connected is told by a name that it had once; without one it would be a number.
+void NDScreenOptionMenuManager::appendAbsent(std::vector<MenuItem>& run,
+                                             const std::vector<DisplayInfo>& online) {
+    for (const CGDirectDisplayID display : absentAffectedDisplays(defaults_, online)) {
+        const std::string name = DisplayNames::shared().nameOf(display);
+        if (!name.empty()) {
+            MenuItem item = option(static_cast<std::int32_t>(display),
+                                   translated("%@, not connected", {withoutMnemonic(name)}), true);
+            item.detail.clear();
+            run.push_back(std::move(item));
+        }
+    }
 }
 
 } // namespace nocturo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/menu.h"
+#include "displays/display_services.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -14,7 +15,9 @@ class NotificationCenter;
 
 /// Keeps a run of items in a menu with which the user chooses the displays that the effect is
 /// applied to: "All Screens" and one item per online display, "Screen 1" and so on in the order of
-/// the online list, checked as the affected screen set says, with the display's name as tool tip.
+/// the online list, checked as the affected screen set says, with the monitor's name behind it and
+/// the display's as tool tip. Affected displays that are not connected follow, each by the name
+/// that it had when it was, as far as that is known.
 ///
 /// The run follows every change of a setting and of the screen arrangement. Items that stay are
 /// changed in place, so that an open menu, and what a desktop shows of an exported one, stays calm.
@@ -44,6 +47,8 @@ class NDScreenOptionMenuManager {
 
   private:
     MenuItem option(std::int32_t tag, std::string title, bool isChecked);
+
+    void appendAbsent(std::vector<MenuItem>& run, const std::vector<DisplayInfo>& online);
 
     /// The run as it should be; sets `summary` to what the title item should say.
     std::vector<MenuItem> options(std::string& summary);

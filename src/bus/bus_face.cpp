@@ -42,13 +42,6 @@ tl::unexpected<BusFailure> notAbsolute(const std::string& path) {
     return refusal(translated("\"%@\" is no absolute path.", {path}));
 }
 
-bool isOnline(CGDirectDisplayID display) {
-    DisplayServices* services = displayServices();
-    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
-    return online != nullptr && std::any_of(online->begin(), online->end(),
-                                            [&](const auto& each) { return each.id == display; });
-}
-
 } // namespace
 
 struct BusFace::Table {
@@ -56,10 +49,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 66> members;
+    static const std::array<sd_bus_vtable, 67> members;
 };
 
-const std::array<sd_bus_vtable, 66> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 67> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
@@ -69,6 +62,7 @@ const std::array<sd_bus_vtable, 66> BusFace::Table::members = {{
     SD_BUS_PROPERTY("Schedule", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Displays", "aa{sv}", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("AbsentDisplays", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Effects", "as", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DimLevel", "d", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("ColorFilterHue", "d", tellProperty, 0, kTold),
@@ -333,28 +327,6 @@ BusAnswer BusFace::show(const std::function<void()>& window) {
     }
     window();
     return {};
-}
-
-int BusFace::renderPreview(sd_bus_message* call, void* self, sd_bus_error* error) {
-    std::uint32_t display = 0;
-    if (!readArgument(call, display) || !isOnline(display)) {
-        const std::string sentence = inLanguageOfCaller(call, [display] {
-            return translated("There is no display with the identifier %d.",
-                              {std::to_string(display)});
-        });
-        return sd_bus_error_set(error, kInvalidArgumentError, sentence.c_str());
-    }
-    UserInterface& windows = static_cast<BusFace*>(self)->userInterface_;
-    if (!windows.whyNoWindows().empty()) {
-        const auto why = inLanguageOfCaller(call, [&windows] { return windows.whyNoWindows(); });
-        return sd_bus_error_set(error, kFailedError, why.c_str());
-    }
-    const auto picture = windows.previewPicture(display);
-    sd_bus_message* message = nullptr;
-    sd_bus_message_new_method_return(call, &message);
-    const BusMessage reply(message);
-    sd_bus_message_append_array(reply.get(), 'y', picture.data(), picture.size());
-    return sd_bus_message_send(reply.get());
 }
 
 BusAnswer BusFace::reopen() {

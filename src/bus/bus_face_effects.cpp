@@ -1,8 +1,10 @@
-// What callers on the bus do with the effects, looks and affected displays.
+// What callers on the bus do with the effects, looks and affected displays, and see of them.
 
 #include "app/app_controller.h"
+#include "app/user_interface.h"
 #include "base/texts/translated.h"
 #include "bus/bus_face.h"
+#include "bus/bus_object.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
 #include "documents/chosen_look.h"
@@ -22,6 +24,13 @@
 namespace nocturo {
 
 namespace {
+
+bool isOnline(CGDirectDisplayID display) {
+    DisplayServices* services = displayServices();
+    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
+    return online != nullptr && std::any_of(online->begin(), online->end(),
+                                            [&](const auto& each) { return each.id == display; });
+}
 
 std::optional<std::string> problemWithEffects(const std::vector<std::string>& names) {
     return problemWith(*settingNamed(NDGroupEffect::kName),
@@ -204,6 +213,28 @@ BusAnswer BusFace::deleteLook(const std::string& name) {
 
 BusAnswer BusFace::moveLook(const std::string& name, std::uint32_t place) {
     return answerOf(chosenLook_.looks().move(name, place));
+}
+
+int BusFace::renderPreview(sd_bus_message* call, void* self, sd_bus_error* error) {
+    std::uint32_t display = 0;
+    if (!readArgument(call, display) || !isOnline(display)) {
+        const std::string sentence = inLanguageOfCaller(call, [display] {
+            return translated("There is no display with the identifier %d.",
+                              {std::to_string(display)});
+        });
+        return sd_bus_error_set(error, kInvalidArgumentError, sentence.c_str());
+    }
+    UserInterface& windows = static_cast<BusFace*>(self)->userInterface_;
+    if (!windows.whyNoWindows().empty()) {
+        const auto why = inLanguageOfCaller(call, [&windows] { return windows.whyNoWindows(); });
+        return sd_bus_error_set(error, kFailedError, why.c_str());
+    }
+    const auto picture = windows.previewPicture(display);
+    sd_bus_message* message = nullptr;
+    sd_bus_message_new_method_return(call, &message);
+    const BusMessage reply(message);
+    sd_bus_message_append_array(reply.get(), 'y', picture.data(), picture.size());
+    return sd_bus_message_send(reply.get());
 }
 
 } // namespace nocturo

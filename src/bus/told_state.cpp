@@ -5,6 +5,7 @@
 #include "automation/automation.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
+#include "displays/display_names.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
 #include "effects/color_filter_effect.h"
@@ -67,6 +68,7 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
         {"Schedule", {&ToldState::schedule, kSchedules}},
         {"DisplayServices", {&ToldState::displayServicesName, kNone}},
         {"Displays", {&ToldState::displays, kAffectedScreenSettings}},
+        {"AbsentDisplays", {&ToldState::absentDisplays, kAffectedScreenSettings}},
         {"Effects", {&ToldState::effects, kEffects}},
         {"DimLevel", {&ToldState::dimLevel, kDim}},
         {"ColorFilterHue", {&ToldState::colorFilterHue, kHue}},
@@ -164,12 +166,24 @@ BusValue ToldState::displays() const {
         list.push_back({{"number", static_cast<std::int32_t>(i) + 1},
                         {"id", info.id},
                         {"name", info.name},
+                        {"monitor", DisplayNames::shared().monitorOf(info.id)},
                         {"main", info.main},
                         {"rampSize", static_cast<std::uint32_t>(info.rampSize)},
                         {"affected", inSet},
                         {"applied", applied},
                         {"heldByOther", info.obstacle == Obstacle::heldByOther},
                         {"obstacle", toldObstacle(info.obstacle)}});
+    }
+    return list;
+}
+
+BusValue ToldState::absentDisplays() const {
+    std::vector<BusDictionary> list;
+    DisplayServices* services = displayServices();
+    if (const auto* online = services != nullptr ? services->onlineDisplays() : nullptr) {
+        for (const CGDirectDisplayID display : absentAffectedDisplays(defaults_, *online)) {
+            list.push_back({{"id", display}, {"name", DisplayNames::shared().nameOf(display)}});
+        }
     }
     return list;
 }

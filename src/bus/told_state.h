@@ -56,6 +56,7 @@ class ToldState {
     BusValue schedule() const;
     BusValue displayServicesName() const;
     BusValue displays() const;
+    BusValue absentDisplays() const;
     BusValue effects() const;
     BusValue dimLevel() const;
     BusValue colorFilterHue() const;

@@ -64,12 +64,18 @@ bool isDisplay(const Json& value) {
     static constexpr auto kMembers = std::to_array<Member>({{"number", isInteger},
                                                             {"id", isCount},
                                                             {"name", isText},
+                                                            {"monitor", isText, true},
                                                             {"main", isBoolean},
                                                             {"rampSize", isCount},
                                                             {"affected", isBoolean},
                                                             {"applied", isBoolean},
                                                             {"heldByOther", isBoolean, true},
                                                             {"obstacle", isText, true}});
+    return fit(value, kMembers, Answer::whole);
+}
+
+bool isAbsentDisplay(const Json& value) {
+    static constexpr auto kMembers = std::to_array<Member>({{"id", isCount}, {"name", isText}});
     return fit(value, kMembers, Answer::whole);
 }
 
@@ -107,6 +113,7 @@ void checkAnswer(const Json& properties, Answer answer) {
                                {"schedule", isListOf<isPoint>, true},
                                {"displayServices", isText},
                                {"displays", isListOf<isDisplay>},
+                               {"absentDisplays", isListOf<isAbsentDisplay>, true},
                                {"effects", isListOf<isText>},
                                {"dimLevel", isNumber},
                                {"colorFilterHue", isNumber},

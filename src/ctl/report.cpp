@@ -23,12 +23,29 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::array kStatusOrder = std::to_array<const char*>(
-    {"active", "paused", "ruler", "rulesUntil", "ruledLook", "schedule", "displayServices",
-     "displays", "effects", "dimLevel", "colorFilterHue", "colorFilterVividness", "temperature",
-     "look", "looks", "affectedScreenSet", "hotKey", "disturbances", "disturber"});
-constexpr std::array<const char*, 9> kDisplayOrder = {
-    "number", "id", "name", "main", "rampSize", "affected", "applied", "heldByOther", "obstacle"};
+constexpr std::array kStatusOrder = std::to_array<const char*>({"active",
+                                                                "paused",
+                                                                "ruler",
+                                                                "rulesUntil",
+                                                                "ruledLook",
+                                                                "schedule",
+                                                                "displayServices",
+                                                                "displays",
+                                                                "absentDisplays",
+                                                                "effects",
+                                                                "dimLevel",
+                                                                "colorFilterHue",
+                                                                "colorFilterVividness",
+                                                                "temperature",
+                                                                "look",
+                                                                "looks",
+                                                                "affectedScreenSet",
+                                                                "hotKey",
+                                                                "disturbances",
+                                                                "disturber"});
+constexpr std::array<const char*, 10> kDisplayOrder = {
+    "number",   "id",       "name",    "monitor",     "main",
+    "rampSize", "affected", "applied", "heldByOther", "obstacle"};
 
 // The named members in that order, then whatever else there is.
 Json ordered(const Json& object, std::span<const char* const> order) {
@@ -230,15 +247,20 @@ std::string effectsReport(const Json& properties) {
 
 std::string screensReport(const Json& properties) {
     std::vector<Row> rows = {{"", translated("no."), translated("name"), translated("identifier"),
-                              translated("ramp"), translated("applied"), "", ""}};
+                              translated("ramp"), translated("applied"), translated("monitor"), "",
+                              ""}};
     for (const Json& display : properties["displays"]) {
         const bool hasRamp = display["rampSize"].get<unsigned>() != 0;
         rows.push_back({display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
                         plain(display["name"]), plain(display["id"]),
                         hasRamp ? plain(display["rampSize"]) : translated("none"),
-                        yesOrNo(display["applied"]),
+                        yesOrNo(display["applied"]), display.value("monitor", ""),
                         display["main"].get<bool>() ? translated("main") : "",
                         obstacleText(display.value("obstacle", ""))});
+    }
+    for (const Json& display : properties.value("absentDisplays", Json::array())) {
+        rows.push_back({"[x]", "-", "-", plain(display["id"]), "-", yesOrNo(false),
+                        plain(display["name"]), translated("not connected")});
     }
     return rows.size() > 1 ? table(rows) : "  " + translated("(none)") + '\n';
 }

@@ -64,6 +64,19 @@ std::vector<std::int64_t> affectedScreenIdentifiers(const DefaultsStore& default
     return identifiers;
 }
 
+std::vector<CGDirectDisplayID> absentAffectedDisplays(const DefaultsStore& defaults,
+                                                      const std::vector<DisplayInfo>& online) {
+    std::vector<CGDirectDisplayID> absent;
+    for (const std::int64_t identifier : affectedScreenIdentifiers(defaults)) {
+        const auto display = static_cast<CGDirectDisplayID>(identifier);
+        const bool isThere = std::ranges::find(online, display, &DisplayInfo::id) != online.end();
+        if (!isThere && std::ranges::find(absent, display) == absent.end()) {
+            absent.push_back(display);
+        }
+    }
+    return absent;
+}
+
 void chooseAffectedScreen(DefaultsStore& defaults, std::int32_t tag) {
     // Read before the older key is written: while the set key is absent that key is the set.
     std::vector<double> numbers = affectedScreenSet(defaults);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "displays/display_services.h"
 #include "settings/settings_keys.h"
 
 #include <array>
@@ -23,6 +24,10 @@ std::vector<double> affectedScreenSet(const DefaultsStore& defaults);
 /// The same for those who tell it: the numbers that can be identifiers. All others are skipped, as
 /// they match no display.
 std::vector<std::int64_t> affectedScreenIdentifiers(const DefaultsStore& defaults);
+
+/// Those of them that none of the online displays is, each once.
+std::vector<CGDirectDisplayID> absentAffectedDisplays(const DefaultsStore& defaults,
+                                                      const std::vector<DisplayInfo>& online);
 
 /// What picking a display in a menu does: 0 chooses all displays, an identifier goes into the set
 /// or out of it. Taking the last one out therefore means all displays again. The older key records

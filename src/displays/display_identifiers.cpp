@@ -1,7 +1,8 @@
 #include "displays/display_identifiers.h"
 
+#include "displays/edid.h"
+
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstring>
 
@@ -9,18 +10,8 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::size_t kEdidBlockSize = 128;
-constexpr std::array<std::uint8_t, 8> kEdidHeader = {0, 255, 255, 255, 255, 255, 255, 0};
 constexpr std::size_t kProductOffset = 8; // manufacturer, product and serial number, 8 bytes
 constexpr std::size_t kSerialNumberOffset = 12;
-constexpr std::array<std::size_t, 4> kDescriptorOffsets = {54, 72, 90, 108};
-constexpr std::array<std::uint8_t, 5> kSerialTextTag = {0, 0, 0, 255, 0};
-constexpr std::size_t kDescriptorTextSize = 13;
-
-bool isEdid(const std::vector<std::uint8_t>& edid) {
-    return edid.size() >= kEdidBlockSize &&
-           std::equal(kEdidHeader.begin(), kEdidHeader.end(), edid.begin());
-}
 
 std::string bytes(const std::vector<std::uint8_t>& edid, std::size_t offset, std::size_t count) {
     return {reinterpret_cast<const char*>(edid.data()) + offset, count};
@@ -32,13 +23,7 @@ bool isRealSerialNumber(std::uint32_t number) {
 }
 
 std::string serialText(const std::vector<std::uint8_t>& edid) {
-    for (const std::size_t offset : kDescriptorOffsets) {
-        const auto descriptor = edid.begin() + static_cast<std::ptrdiff_t>(offset);
-        if (!std::equal(kSerialTextTag.begin(), kSerialTextTag.end(), descriptor)) {
-            continue;
-        }
-        std::string text = bytes(edid, offset + kSerialTextTag.size(), kDescriptorTextSize);
-        text.erase(std::min(text.find('\n'), text.size()));
+    for (const std::string& text : edidTexts(edid, EdidText::serial)) {
         if (text.find_first_not_of(" 0") != std::string::npos) {
             return text;
         }

@@ -1,5 +1,6 @@
 #include "displays/display_list.h"
 
+#include "displays/display_names.h"
 #include "displays/ramp.h"
 
 #include <algorithm>
@@ -39,6 +40,7 @@ void DisplayList::takeHead(const Head& head, CGDirectDisplayID id) {
     const bool isMain = head.primary && std::none_of(online_.begin(), online_.end(),
                                                      [](const auto& info) { return info.main; });
     const std::uint32_t rampSize = isUsableRampSize(head.rampSize) ? head.rampSize : 0;
+    DisplayNames::shared().note(id, head.connector, head.edid);
     online_.push_back({id, head.connector, head.bounds, rampSize, isMain, head.obstacle});
     crtcs_.push_back(head.crtc);
     const auto [mode, isNew] = modes_.try_emplace(id, head.modeGeneration);

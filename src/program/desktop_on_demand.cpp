@@ -338,6 +338,9 @@ void DesktopOnDemand::popUpStatusMenu(int x, int y) {
 }
 
 void DesktopOnDemand::makeScreenMenus() {
+    if (!displayNames_) {
+        displayNames_.emplace(stateDirectory() / "displays.plist", centers_.local);
+    }
     menus_.makeScreenMenus();
     if (bus_ != nullptr) {
         launcherMenu_.emplace(menus_.dockMenu(), *bus_, loop_);

@@ -10,6 +10,7 @@
 #include "bus/tray.h"
 #include "desktop/desktop_library.h"
 #include "documents/recent_documents.h"
+#include "program/kept_display_names.h"
 #include "session/autostart.h"
 #include "session/tray_window.h"
 
@@ -86,6 +87,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     const NotificationCenters centers_;
     LookPicker& looks_;
     const RecentDocuments recentDocuments_;
+    std::optional<KeptDisplayNames> displayNames_;
     const Autostart autostart_;
     bool problemTold_ = false;
     AppMenus menus_;

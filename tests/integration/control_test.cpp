@@ -316,6 +316,10 @@ TEST_F(ControlOfRunning, EachVerbDoesWhatItSays) {
         EXPECT_EQ(run("nocturoctl " + std::string(refused)).exit, 2) << refused;
     }
     says("nocturoctl", {"open", "/nowhere"}, 1, "no such file");
+    end();
+    nocturo_ = session_.startNocturo({"--display-services=simulated:2"});
+    EXPECT_EQ(status()["absentDisplays"][0]["name"], "SIM-3");
+    says("nocturoctl", {"screens"}, 0, "SIM-3    not connected\n");
 }
 
 TEST_F(ControlOfRunning, CallersAtOnceLoseNoChange) {
@@ -419,6 +423,25 @@ TEST_F(ControlOfRunning, ManySlowDocumentsHoldNobodyUp) {
     EXPECT_TRUE(opening->errors().ends_with("and 490 more\n")) << opening->errors();
     EXPECT_EQ(session_.run("nocturo", Arguments(1001, document)).errors,
               "nocturo: No more than 1000 documents can be opened at once.\n");
+}
+
+TEST_F(ControlOfRunning, WhoReadsNoAnswersIsHeardLessAndLess) {
+    const auto ignored = [](sd_bus_message*, void*, sd_bus_error*) { return 0; };
+    const auto bus = session_.bus().connect();
+    ctl({"dim", "=-100%"});
+    ctl({"off"}); // nothing is drawn
+    for (int burst = 0; burst < 8; ++burst) {
+        nocturo_->signal(SIGSTOP); // so that all of them wait when it goes on
+        for (int call = 0; call < 150; ++call) {
+            sd_bus_call_method_async(bus.get(), nullptr, "org.nocturo.Nocturo",
+                                     "/org/nocturo/Nocturo", "org.nocturo.Nocturo1", "StepDim",
+                                     ignored, nullptr, "d", 0.001);
+        }
+        sd_bus_flush(bus.get());
+        nocturo_->signal(SIGCONT);
+        status();
+    }
+    EXPECT_LT(status()["dimLevel"], -0.75) << "100, 50, 25 and so on of 1200";
 }
 
 struct BusTrouble : NocturoOnX {

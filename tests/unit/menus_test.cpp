@@ -233,6 +233,21 @@ TEST_F(ScreenOptionMenu, FollowsTheArrangement) {
     EXPECT_EQ(model.item(title)->text, "None");
 }
 
+TEST_F(ScreenOptionMenu, NamesMonitorsThatAreThereAndThatWere) {
+    auto& edid = hardware_.heads[1].edid = {0, 255, 255, 255, 255, 255, 255, 0};
+    edid.resize(128);
+    const std::string_view descriptor("\0\0\0\xFC\0R&D 27\n", 12);
+    std::copy(descriptor.begin(), descriptor.end(), edid.begin() + 54);
+    ++hardware_.generation;
+    make();
+    store_->setObject(PropertyArray{number(1)}, "AffectedScreenSet");
+    EXPECT_EQ(shown(), "above All Screens Screen 1 [Screen 2 \u2013 R&&D 27] Screen 3 below");
+    removeDisplay("D2");
+    EXPECT_EQ(shown(), "above All Screens Screen 1 Screen 2 [R&&D 27, not connected] below");
+    click(4);
+    EXPECT_EQ(shown(), "above [All Screens] Screen 1 Screen 2 below");
+}
+
 TEST_F(ScreenOptionMenu, HidesTheRunOfASingleDisplayAlsoWhileThatIsPicked) {
     make(true, true);
     removeDisplay("D1");

@@ -2,6 +2,7 @@
 
 #include "display_services_fixture.h"
 #include "displays/display_gamma.h"
+#include "displays/edid.h"
 #include "displays/kernel_edid.h"
 #include "temporary_directory.h"
 
@@ -197,6 +198,21 @@ TEST(DisplayIdentifiers, AreOfTheKernelsMonitorWhateverTheDesktopCallsItsConnect
         EXPECT_EQ(kernelEdid(connectors.path(), name), (Edid{'E', 'D', 'I', 'D'})) << name;
     }
     EXPECT_TRUE(kernelEdid(connectors.path(), "HDMI-2").empty());
+}
+
+TEST(MonitorName, IsMakerAndModelAsFarAsTheyAreTold) {
+    const TemporaryDirectory directory;
+    writeText(directory / "pnp.ids", "ACR\tAcer\nDEL\tDell Inc.\n");
+    const auto named = [&](const std::string& model) {
+        Edid block = edid(1, 42);
+        block[90 + 3] = model.empty() ? 0 : 0xFC;
+        std::copy(model.begin(), model.end(), block.begin() + 90 + 5);
+        return monitorName(block, directory / "pnp.ids");
+    };
+    EXPECT_EQ(named("U2720Q\n  "), "Dell Inc. U2720Q");
+    EXPECT_EQ(named("DELL U\x1B[2J\n"), "DELL U[2J");
+    EXPECT_EQ(named(""), "Dell Inc.");
+    EXPECT_EQ(monitorName(edid(1, 42), "/nowhere") + monitorName({1, 2, 3}, "/nowhere"), "");
 }
 
 TEST(DisplayIdentifiers, TwinsTakeNeighboursAndKeepThem) {
