@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <pwd.h>
+#include <unistd.h>
 
 namespace nocturo {
 
@@ -10,9 +12,23 @@ std::string environment(const char* name) {
     return value != nullptr ? value : "";
 }
 
+namespace {
+
+/// A relative one would be another in every directory that Nocturo is started in.
+std::filesystem::path homeDirectory() {
+    std::filesystem::path named = environment("HOME");
+    if (named.is_absolute()) {
+        return named;
+    }
+    const passwd* user = getpwuid(getuid());
+    return std::filesystem::path("/") / (user != nullptr ? user->pw_dir : "");
+}
+
+} // namespace
+
 std::filesystem::path userDirectory(const char* variable, const char* inHome) {
     const std::filesystem::path named = environment(variable);
-    return named.is_absolute() ? named : std::filesystem::path(environment("HOME")) / inHome;
+    return named.is_absolute() ? named : homeDirectory() / inHome;
 }
 
 std::filesystem::path stateDirectory() {

@@ -10,7 +10,7 @@ namespace nocturo {
 std::string environment(const char* name);
 
 /// The directory that the variable names, if it does so by an absolute path, or else one in the
-/// user's home.
+/// user's home, which is that of the system's list of users where HOME is not absolute either.
 std::filesystem::path userDirectory(const char* variable, const char* inHome);
 
 /// Where what is no setting outlives a run. Need not exist.

@@ -161,13 +161,15 @@ std::filesystem::path followLinks(std::filesystem::path path) {
     return path;
 }
 
-void makePrivateDirectories(const std::filesystem::path& directory) {
+int makePrivateDirectories(const std::filesystem::path& directory) {
     std::error_code ignored;
     if (directory.empty() || std::filesystem::exists(directory, ignored)) {
-        return;
+        return 0;
     }
-    makePrivateDirectories(directory.parent_path());
-    ::mkdir(directory.c_str(), S_IRWXU);
+    if (const int error = makePrivateDirectories(directory.parent_path())) {
+        return error;
+    }
+    return ::mkdir(directory.c_str(), S_IRWXU) == 0 || errno == EEXIST ? 0 : errno;
 }
 
 } // namespace nocturo

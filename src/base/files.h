@@ -37,8 +37,9 @@ Result<struct stat> replaceFile(const std::filesystem::path& path, std::string_v
 /// `path`, or what it points to through any number of links, whether that exists or not.
 std::filesystem::path followLinks(std::filesystem::path path);
 
-/// Makes `directory` and the directories above it where they are missing, for the user alone.
-/// Failing is no error here: what needs the directory finds out.
-void makePrivateDirectories(const std::filesystem::path& directory);
+/// Makes `directory` and the directories above it where they are missing, for the user alone. The
+/// system's number for why one could not be made, which what needs the directory finds out as well;
+/// 0 where all are there.
+int makePrivateDirectories(const std::filesystem::path& directory);
 
 } // namespace nocturo

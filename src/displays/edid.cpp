@@ -27,7 +27,7 @@ std::string printable(const std::string& text) {
 
 /// Three letters of five bits each.
 std::string makersLetters(const std::vector<std::uint8_t>& edid) {
-    const unsigned packed = edid[kMakerOffset] << 8U | edid[kMakerOffset + 1];
+    const unsigned packed = unsigned{edid[kMakerOffset]} << 8U | edid[kMakerOffset + 1];
     std::string letters;
     for (const unsigned shift : {10U, 5U, 0U}) {
         letters += static_cast<char>('A' - 1 + (packed >> shift & 0x1FU));

@@ -42,7 +42,9 @@ std::string localTimestamp(std::chrono::system_clock::time_point when) {
 
 Result<FileStamp> writeSettingsFile(const std::filesystem::path& path,
                                     const PropertyDictionary& dictionary) {
-    makePrivateDirectories(path.parent_path());
+    if (const int error = makePrivateDirectories(path.parent_path())) {
+        return failedWith(error);
+    }
     return writePropertyListFile(path, dictionary, S_IRUSR | S_IWUSR);
 }
 

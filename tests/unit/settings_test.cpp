@@ -2,6 +2,7 @@
 
 #include "settings/settings_keeper.h"
 
+#include "base/environment.h"
 #include "base/log.h"
 #include "base/notification_center.h"
 #include "fake_run_loop.h"
@@ -164,6 +165,15 @@ TEST_F(SettingsKeeperTest, MakesAPrivateFileInADirectoryOfItsOwn) {
           std::pair("config", perms{0700})}) {
         EXPECT_EQ(std::filesystem::status(home / name).permissions(), permissions) << name;
     }
+}
+
+TEST_F(SettingsKeeperTest, LiesInNoDirectoryThatDependsOnWhereOneIs) {
+    const std::string before = std::getenv("HOME");
+    for (const char* odd : {"", "."}) {
+        ::setenv("HOME", odd, 1);
+        EXPECT_TRUE(userDirectory("NO_SUCH_VARIABLE", ".config").is_absolute()) << odd;
+    }
+    ::setenv("HOME", before.c_str(), 1);
 }
 
 TEST_F(SettingsKeeperTest, SetsAsideUnderTheLocalTimeWithoutReplacingAnything) {
