@@ -106,16 +106,41 @@ void XConnection::selectEvents(xcb_window_t window, std::uint32_t mask) {
     std::uint32_t& selected = selected_[window];
     if ((selected & mask) != mask) {
         selected |= mask;
-        xcb_change_window_attributes(handle(), window, XCB_CW_EVENT_MASK, &selected);
+        const std::uint32_t all = maskOf(window);
+        xcb_change_window_attributes(handle(), window, XCB_CW_EVENT_MASK, &all);
     }
+}
+
+std::uint32_t XConnection::maskOf(xcb_window_t window) const {
+    const auto lasting = selected_.find(window);
+    std::uint32_t mask = lasting != selected_.end() ? lasting->second : 0;
+    const auto [first, end] = selectedMeanwhile_.equal_range(window);
+    std::for_each(first, end, [&](const auto& each) { mask |= each.second; });
+    return mask;
+}
+
+xcb_void_cookie_t XConnection::sendMask(xcb_window_t window) {
+    const std::uint32_t mask = maskOf(window);
+    return xcb_change_window_attributes_checked(handle(), window, XCB_CW_EVENT_MASK, &mask);
+}
+
+std::shared_ptr<const void> XConnection::selectEventsMeanwhile(xcb_window_t window,
+                                                               std::uint32_t mask) {
+    const auto selected = selectedMeanwhile_.emplace(window, mask);
+    const auto send = [this, window] { // an error is of a window that has gone
+        xcb_discard_reply(handle(), sendMask(window).sequence);
+    };
+    send();
+    return {this, [this, selected, send](const void*) {
+                selectedMeanwhile_.erase(selected);
+                send();
+            }};
 }
 
 bool XConnection::selectEventsIfThere(xcb_window_t window, std::uint32_t mask) {
     std::uint32_t& selected = selected_[window];
     selected |= mask;
-    const auto cookie =
-        xcb_change_window_attributes_checked(handle(), window, XCB_CW_EVENT_MASK, &selected);
-    const XcbReply<xcb_generic_error_t> error(xcb_request_check(handle(), cookie));
+    const XcbReply<xcb_generic_error_t> error(xcb_request_check(handle(), sendMask(window)));
     if (error || isLost()) {
         selected_.erase(window);
         return false;

@@ -65,6 +65,11 @@ class XConnection {
     /// The same for a window of somebody else, which may have gone: false then. Waits.
     bool selectEventsIfThere(xcb_window_t window, std::uint32_t mask);
 
+    /// The same for as long as what is returned is kept, which the connection must outlive. Does
+    /// not wait, and is nothing where the window has gone.
+    [[nodiscard]] std::shared_ptr<const void> selectEventsMeanwhile(xcb_window_t window,
+                                                                    std::uint32_t mask);
+
     /// Hears of every event of a type. It is sent here only where it was selected.
     [[nodiscard]] XListener onEvent(unsigned type, Handler handler);
 
@@ -110,13 +115,17 @@ class XConnection {
     void handOut(const xcb_generic_event_t& event);
     void tellLoss();
     bool hasRead();
+    std::uint32_t maskOf(xcb_window_t window) const;
+    xcb_void_cookie_t sendMask(xcb_window_t window);
 
     XcbConnection connection_;
     std::vector<xcb_window_t> roots_;
     int screenNumber_;
     std::map<std::string, xcb_intern_atom_cookie_t, std::less<>> expectedAtoms_;
     std::map<std::string, xcb_atom_t, std::less<>> atoms_;
-    std::map<xcb_window_t, std::uint32_t> selected_; // masks: a client has one for each window
+    // Masks: a client has one for each window.
+    std::map<xcb_window_t, std::uint32_t> selected_;
+    std::multimap<xcb_window_t, std::uint32_t> selectedMeanwhile_;
     std::vector<std::weak_ptr<Listener>> listeners_;
     std::deque<Event> events_; // read, but not handed out yet
     bool lossIsTold_ = false;
