@@ -12,12 +12,12 @@ _nocturoctl_looks() {
 _nocturoctl() {
   local cur prev words cword
   _init_completion -n : || return
-  local verbs='on off toggle pause schedule status effects dim temperature tint look get set step reset screens hotkey watch restore quit
+  local verbs='on off toggle pause rules schedule status effects dim temperature tint look get set step reset screens hotkey watch restore quit
     open save preferences about preview'
   local effects='invert overexposure dim color-filter hdtv-luminance'
   local switches='ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver
-    UseHotKey UseSchedule EffectActive ZQFluxWarned'
-  local settings="$switches Schedule SchedulePlace NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers
+    UseHotKey UseSchedule UseRules EffectActive ZQFluxWarned'
+  local settings="$switches Schedule SchedulePlace Rules NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers
     AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue
     NDColorFilterEffectVividness FadeSeconds"
   local choices=''
@@ -27,6 +27,8 @@ _nocturoctl() {
     case ${words[1]}:$cword in
       pause:2) choices='30m 1h until while cancel' ;;
       pause:3) [[ $prev != until ]] || choices='tomorrow sunrise next' ;;
+      rules:2) choices='list add remove on off' ;;
+      rules:3) case $prev in list) choices='--json' ;; add) choices='fullscreen program game' ;; esac ;;
       schedule:2) choices='list add remove on off next' ;;
       schedule:3) [[ $prev != @(list|next) ]] || choices='--json' ;;
       status:2) choices='--all --json --bar --bar=polybar --bar=i3status-rust' ;;

@@ -17,8 +17,8 @@ function __nocturoctl_after -d 'True where the last two words are these'
 end
 
 set -l effects invert overexposure dim color-filter hdtv-luminance
-set -l switches ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver UseHotKey UseSchedule EffectActive ZQFluxWarned
-set -l settings $switches Schedule SchedulePlace NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness FadeSeconds
+set -l switches ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver UseHotKey UseSchedule UseRules EffectActive ZQFluxWarned
+set -l settings $switches Schedule SchedulePlace Rules NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness FadeSeconds
 
 complete -c nocturoctl -f
 complete -c nocturoctl -l help -d 'Show help'
@@ -27,6 +27,7 @@ complete -c nocturoctl -n __fish_use_subcommand -a on -d 'Switch the effect on'
 complete -c nocturoctl -n __fish_use_subcommand -a off -d 'Switch the effect off'
 complete -c nocturoctl -n __fish_use_subcommand -a toggle -d 'Switch the effect on or off'
 complete -c nocturoctl -n __fish_use_subcommand -a pause -d 'Switch the effect off for a time'
+complete -c nocturoctl -n __fish_use_subcommand -a rules -d 'Show or change what happens while programs are in front'
 complete -c nocturoctl -n __fish_use_subcommand -a schedule -d 'Show or change what happens by the clock and the sun'
 complete -c nocturoctl -n __fish_use_subcommand -a status -d 'Show the state of everything'
 complete -c nocturoctl -n __fish_use_subcommand -a effects -d 'List or choose the effects'
@@ -53,6 +54,9 @@ complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects dim tem
 complete -c nocturoctl -n '__fish_seen_subcommand_from on off toggle look' -l fade -x -a '0 0.5 2 5' -d 'Take so many seconds'
 complete -c nocturoctl -n '__nocturoctl_at pause 0' -a '30m 1h until while cancel'
 complete -c nocturoctl -n '__nocturoctl_after pause until' -a 'tomorrow sunrise next'
+complete -c nocturoctl -n '__nocturoctl_at rules 0' -a 'list add remove on off'
+complete -c nocturoctl -n '__nocturoctl_after rules add' -a 'fullscreen program game'
+complete -c nocturoctl -n '__nocturoctl_after rules list' -l json -d 'One list for programs'
 complete -c nocturoctl -n '__nocturoctl_at schedule 0' -a 'list add remove on off next'
 complete -c nocturoctl -n '__nocturoctl_after schedule list' -l json -d 'One list for programs'
 complete -c nocturoctl -n '__fish_seen_subcommand_from status' -l json -d 'One object for programs'

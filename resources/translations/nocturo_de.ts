@@ -411,6 +411,46 @@
             <translation>%1$@, aber nicht auf %2$@</translation>
         </message>
         <message>
+            <source>Paused until you go on</source>
+            <translation>Pause, bis Sie fortfahren</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>Pause bis %@</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@; von Hand</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@; von Hand bis %2$@</translation>
+        </message>
+        <message>
+            <source>%1$@; by the rule "%2$@"</source>
+            <translation>%1$@; nach der Regel „%2$@“</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@; nach Zeitplan</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@; nach Zeitplan bis %2$@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Aus</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>An</translation>
+        </message>
+        <message>
+            <source>%1$@. %2$@: %3$@</source>
+            <translation>%1$@. %2$@: %3$@</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Aus. Wählen Sie Effekte und schalten Sie dann ein</translation>
         </message>
@@ -427,34 +467,6 @@
             <translation>Pause: Bildschirmschoner</translation>
         </message>
         <message>
-            <source>Paused until you go on</source>
-            <translation>Pause, bis Sie fortfahren</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>Pause bis %@</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Aus</translation>
-        </message>
-        <message>
-            <source>%@; by hand</source>
-            <translation>%@; von Hand</translation>
-        </message>
-        <message>
-            <source>%1$@; by hand until %2$@</source>
-            <translation>%1$@; von Hand bis %2$@</translation>
-        </message>
-        <message>
-            <source>%@; by the schedule</source>
-            <translation>%@; nach Zeitplan</translation>
-        </message>
-        <message>
-            <source>%1$@; by the schedule until %2$@</source>
-            <translation>%1$@; nach Zeitplan bis %2$@</translation>
-        </message>
-        <message>
             <source>Nobody knows when that is: "%@".</source>
             <translation>Niemand weiß, wann das ist: „%@“.</translation>
         </message>
@@ -469,6 +481,18 @@
         <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>„%@“ ist keine Zeit für eine Pause wie 30m, 2h oder until 18:00.</translation>
+        </message>
+        <message>
+            <source>This desktop does not tell which window is in front.</source>
+            <translation>Diese Arbeitsumgebung sagt nicht, welches Fenster vorn ist.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ rules at most.</source>
+            <translation>„%1$@“ nimmt eine Liste von höchstens %2$@ Regeln.</translation>
+        </message>
+        <message>
+            <source>There is no rule %@.</source>
+            <translation>Es gibt keine Regel %@.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ points at most.</source>
@@ -499,10 +523,6 @@
             <translation>Die Einstellungen konnten nicht in „%@“ gespeichert werden.</translation>
         </message>
         <message>
-            <source>There is no display with the identifier %d.</source>
-            <translation>Einen Bildschirm mit der Kennung %d gibt es nicht.</translation>
-        </message>
-        <message>
             <source>A temperature is from 1000 to 25000 K.</source>
             <translation>Eine Farbtemperatur reicht von 1000 bis 25000 K.</translation>
         </message>
@@ -519,6 +539,10 @@
             <translation>Ein Bildschirm muss bleiben, denn keiner heißt alle; nocturoctl off schaltet den Effekt aus.</translation>
         </message>
         <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>Einen Bildschirm mit der Kennung %d gibt es nicht.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Dies sind keine Effektdokumente: %@</translation>
         </message>
@@ -533,10 +557,6 @@
         <message>
             <source>Nocturo answered something that this version does not understand.</source>
             <translation>Nocturo hat etwas geantwortet, was diese Version nicht versteht.</translation>
-        </message>
-        <message>
-            <source>On</source>
-            <translation>An</translation>
         </message>
         <message>
             <source>Nocturo is not running.</source>
@@ -641,6 +661,18 @@ morgens; while, solange ein Befehl läuft; sonst bis Sie den Effekt schalten ode
 time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
             <translation>POINT ist eine Zeit und ein Look oder off: 07:00 off, sunset-00:30 Warm evening. Statt einer
 Uhrzeit geht dawn, sunrise, sunset oder dusk. list und next nehmen --json.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens while programs are in front</source>
+            <translation>Zeigen oder ändern, was geschieht, während Programme vorn sind</translation>
+        </message>
+        <message>
+            <source>A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,
+program mpv Warm evening. The first one that holds for a display counts. list takes
+--json.</source>
+            <translation>Eine RULE ist fullscreen, program NAME oder game, und ein Look oder off: fullscreen off,
+program mpv Warm evening. Die erste, die für einen Bildschirm gilt, zählt. list nimmt
+--json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -1029,6 +1061,22 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Der Compositor %@ antwortet nicht.</translation>
+        </message>
+        <message>
+            <source>%@ is in front</source>
+            <translation>%@ ist vorn</translation>
+        </message>
+        <message>
+            <source>a game is running</source>
+            <translation>ein Spiel läuft</translation>
+        </message>
+        <message>
+            <source>a window fills %@</source>
+            <translation>ein Fenster füllt %@</translation>
+        </message>
+        <message>
+            <source>The rules are not in use; nocturoctl rules on changes that.</source>
+            <translation>Die Regeln sind nicht in Gebrauch; nocturoctl rules on ändert das.</translation>
         </message>
         <message>
             <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
@@ -1777,6 +1825,10 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <translation>Ohne Sitzungsbus kann dem laufenden Nocturo kein Dokument übergeben werden.</translation>
         </message>
         <message>
+            <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
+            <translation>„%@“ ist keine Regel wie fullscreen off oder program mpv Warm evening.</translation>
+        </message>
+        <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>„%@“ ist kein Punkt eines Zeitplans wie 07:00 off oder sunset-00:30 Warm evening.</translation>
         </message>
@@ -1855,6 +1907,14 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
         <message>
             <source>where the sun is looked at; empty: by the time zone</source>
             <translation>wo die Sonne betrachtet wird; leer: nach Zeitzone</translation>
+        </message>
+        <message>
+            <source>switch and choose looks by the rules</source>
+            <translation>nach den Regeln schalten und Looks wählen</translation>
+        </message>
+        <message>
+            <source>the rules: what is in front, with looks or off</source>
+            <translation>die Regeln: was vorn ist, mit Looks oder off</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

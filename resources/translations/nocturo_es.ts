@@ -411,6 +411,46 @@
             <translation>%1$@, pero no en %2$@</translation>
         </message>
         <message>
+            <source>Paused until you go on</source>
+            <translation>En pausa hasta que continúe</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>En pausa hasta %@</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@; a mano</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@; a mano hasta %2$@</translation>
+        </message>
+        <message>
+            <source>%1$@; by the rule "%2$@"</source>
+            <translation>%1$@; por la regla «%2$@»</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@; según el horario</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@; según el horario hasta %2$@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Desactivado</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>Activado</translation>
+        </message>
+        <message>
+            <source>%1$@. %2$@: %3$@</source>
+            <translation>%1$@. %2$@: %3$@</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Desactivado. Elija efectos y luego actívelo</translation>
         </message>
@@ -427,34 +467,6 @@
             <translation>En pausa: salvapantallas</translation>
         </message>
         <message>
-            <source>Paused until you go on</source>
-            <translation>En pausa hasta que continúe</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>En pausa hasta %@</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Desactivado</translation>
-        </message>
-        <message>
-            <source>%@; by hand</source>
-            <translation>%@; a mano</translation>
-        </message>
-        <message>
-            <source>%1$@; by hand until %2$@</source>
-            <translation>%1$@; a mano hasta %2$@</translation>
-        </message>
-        <message>
-            <source>%@; by the schedule</source>
-            <translation>%@; según el horario</translation>
-        </message>
-        <message>
-            <source>%1$@; by the schedule until %2$@</source>
-            <translation>%1$@; según el horario hasta %2$@</translation>
-        </message>
-        <message>
             <source>Nobody knows when that is: "%@".</source>
             <translation>Nadie sabe cuándo es: «%@».</translation>
         </message>
@@ -469,6 +481,18 @@
         <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>«%@» no es un tiempo de pausa como 30m, 2h o until 18:00.</translation>
+        </message>
+        <message>
+            <source>This desktop does not tell which window is in front.</source>
+            <translation>Este escritorio no dice qué ventana está delante.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ rules at most.</source>
+            <translation>«%1$@» admite una lista de %2$@ reglas como máximo.</translation>
+        </message>
+        <message>
+            <source>There is no rule %@.</source>
+            <translation>No hay ninguna regla %@.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ points at most.</source>
@@ -499,10 +523,6 @@
             <translation>No se pudieron guardar los ajustes en «%@».</translation>
         </message>
         <message>
-            <source>There is no display with the identifier %d.</source>
-            <translation>No hay ninguna pantalla con el identificador %d.</translation>
-        </message>
-        <message>
             <source>A temperature is from 1000 to 25000 K.</source>
             <translation>Una temperatura va de 1000 a 25000 K.</translation>
         </message>
@@ -519,6 +539,10 @@
             <translation>Tiene que quedar una pantalla, pues no elegir ninguna significa todas; nocturoctl off desactiva el efecto.</translation>
         </message>
         <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>No hay ninguna pantalla con el identificador %d.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Estos no son documentos de efecto: %@</translation>
         </message>
@@ -533,10 +557,6 @@
         <message>
             <source>Nocturo answered something that this version does not understand.</source>
             <translation>Nocturo ha respondido algo que esta versión no entiende.</translation>
-        </message>
-        <message>
-            <source>On</source>
-            <translation>Activado</translation>
         </message>
         <message>
             <source>Nocturo is not running.</source>
@@ -641,6 +661,18 @@ mañana; while, mientras se ejecuta una orden; o hasta que active el efecto o di
 time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
             <translation>POINT es una hora y un aspecto u off: 07:00 off, sunset-00:30 Warm evening. En vez de una
 hora puede tener dawn, sunrise, sunset o dusk. list y next admiten --json.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens while programs are in front</source>
+            <translation>Mostrar o cambiar lo que ocurre mientras hay programas delante</translation>
+        </message>
+        <message>
+            <source>A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,
+program mpv Warm evening. The first one that holds for a display counts. list takes
+--json.</source>
+            <translation>Una RULE es fullscreen, program NAME o game, y un aspecto u off: fullscreen off,
+program mpv Warm evening. Cuenta la primera que vale para una pantalla. list admite
+--json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -1029,6 +1061,22 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>El compositor %@ no responde.</translation>
+        </message>
+        <message>
+            <source>%@ is in front</source>
+            <translation>%@ está delante</translation>
+        </message>
+        <message>
+            <source>a game is running</source>
+            <translation>hay un juego en marcha</translation>
+        </message>
+        <message>
+            <source>a window fills %@</source>
+            <translation>una ventana ocupa %@</translation>
+        </message>
+        <message>
+            <source>The rules are not in use; nocturoctl rules on changes that.</source>
+            <translation>Las reglas no están en uso; nocturoctl rules on lo cambia.</translation>
         </message>
         <message>
             <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
@@ -1777,6 +1825,10 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <translation>Sin un bus de sesión no se puede pasar un documento al Nocturo en ejecución.</translation>
         </message>
         <message>
+            <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
+            <translation>«%@» no es una regla como fullscreen off o program mpv Warm evening.</translation>
+        </message>
+        <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>«%@» no es un punto de un horario como 07:00 off o sunset-00:30 Warm evening.</translation>
         </message>
@@ -1855,6 +1907,14 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
         <message>
             <source>where the sun is looked at; empty: by the time zone</source>
             <translation>dónde se mira el sol; vacío: según la zona horaria</translation>
+        </message>
+        <message>
+            <source>switch and choose looks by the rules</source>
+            <translation>activar y elegir aspectos según las reglas</translation>
+        </message>
+        <message>
+            <source>the rules: what is in front, with looks or off</source>
+            <translation>las reglas: lo que está delante, con aspectos u off</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -411,6 +411,46 @@
             <translation>%1$@, mais pas sur %2$@</translation>
         </message>
         <message>
+            <source>Paused until you go on</source>
+            <translation>En pause jusqu’à ce que vous repreniez</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>En pause jusqu’à %@</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@ ; à la main</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@ ; à la main jusqu’à %2$@</translation>
+        </message>
+        <message>
+            <source>%1$@; by the rule "%2$@"</source>
+            <translation>%1$@ ; selon la règle « %2$@ »</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@ ; selon le programme</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@ ; selon le programme jusqu’à %2$@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Désactivé</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>Activé</translation>
+        </message>
+        <message>
+            <source>%1$@. %2$@: %3$@</source>
+            <translation>%1$@. %2$@ : %3$@</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Désactivé. Choisissez des effets, puis activez</translation>
         </message>
@@ -427,34 +467,6 @@
             <translation>En pause : écran de veille</translation>
         </message>
         <message>
-            <source>Paused until you go on</source>
-            <translation>En pause jusqu’à ce que vous repreniez</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>En pause jusqu’à %@</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Désactivé</translation>
-        </message>
-        <message>
-            <source>%@; by hand</source>
-            <translation>%@ ; à la main</translation>
-        </message>
-        <message>
-            <source>%1$@; by hand until %2$@</source>
-            <translation>%1$@ ; à la main jusqu’à %2$@</translation>
-        </message>
-        <message>
-            <source>%@; by the schedule</source>
-            <translation>%@ ; selon le programme</translation>
-        </message>
-        <message>
-            <source>%1$@; by the schedule until %2$@</source>
-            <translation>%1$@ ; selon le programme jusqu’à %2$@</translation>
-        </message>
-        <message>
             <source>Nobody knows when that is: "%@".</source>
             <translation>Personne ne sait quand c’est : « %@ ».</translation>
         </message>
@@ -469,6 +481,18 @@
         <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>« %@ » n’est pas une durée de pause telle que 30m, 2h ou until 18:00.</translation>
+        </message>
+        <message>
+            <source>This desktop does not tell which window is in front.</source>
+            <translation>Ce bureau ne dit pas quelle fenêtre est au premier plan.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ rules at most.</source>
+            <translation>« %1$@ » accepte une liste de %2$@ règles au plus.</translation>
+        </message>
+        <message>
+            <source>There is no rule %@.</source>
+            <translation>Il n'y a pas de règle %@.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ points at most.</source>
@@ -499,10 +523,6 @@
             <translation>Impossible d’enregistrer les réglages dans « %@ ».</translation>
         </message>
         <message>
-            <source>There is no display with the identifier %d.</source>
-            <translation>Aucun écran n’a l’identifiant %d.</translation>
-        </message>
-        <message>
             <source>A temperature is from 1000 to 25000 K.</source>
             <translation>Une température va de 1000 à 25000 K.</translation>
         </message>
@@ -519,6 +539,10 @@
             <translation>Il doit rester un écran, car n’en choisir aucun signifie tous ; nocturoctl off désactive l’effet.</translation>
         </message>
         <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>Aucun écran n’a l’identifiant %d.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Ce ne sont pas des documents d’effet : %@</translation>
         </message>
@@ -533,10 +557,6 @@
         <message>
             <source>Nocturo answered something that this version does not understand.</source>
             <translation>Nocturo a répondu quelque chose que cette version ne comprend pas.</translation>
-        </message>
-        <message>
-            <source>On</source>
-            <translation>Activé</translation>
         </message>
         <message>
             <source>Nocturo is not running.</source>
@@ -641,6 +661,18 @@ heures du matin ; while, tant qu’une commande tourne ; ou jusqu’à une bascu
 time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
             <translation>POINT est une heure et une apparence ou off : 07:00 off, sunset-00:30 Warm evening. Au lieu d’une
 heure il peut avoir dawn, sunrise, sunset ou dusk. list et next acceptent --json.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens while programs are in front</source>
+            <translation>Afficher ou changer ce qui se passe quand des programmes sont au premier plan</translation>
+        </message>
+        <message>
+            <source>A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,
+program mpv Warm evening. The first one that holds for a display counts. list takes
+--json.</source>
+            <translation>Une RULE est fullscreen, program NAME ou game, et une apparence ou off : fullscreen off,
+program mpv Warm evening. La première qui vaut pour un écran compte. list accepte
+--json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -1029,6 +1061,22 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>Le compositeur %@ ne répond pas.</translation>
+        </message>
+        <message>
+            <source>%@ is in front</source>
+            <translation>%@ est au premier plan</translation>
+        </message>
+        <message>
+            <source>a game is running</source>
+            <translation>un jeu est en cours</translation>
+        </message>
+        <message>
+            <source>a window fills %@</source>
+            <translation>une fenêtre remplit %@</translation>
+        </message>
+        <message>
+            <source>The rules are not in use; nocturoctl rules on changes that.</source>
+            <translation>Les règles ne sont pas utilisées ; nocturoctl rules on change cela.</translation>
         </message>
         <message>
             <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
@@ -1777,6 +1825,10 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <translation>Sans bus de session, aucun document ne peut être transmis au Nocturo en cours d’exécution.</translation>
         </message>
         <message>
+            <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
+            <translation>« %@ » n'est pas une règle comme fullscreen off ou program mpv Warm evening.</translation>
+        </message>
+        <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>« %@ » n’est pas un point d’un programme tel que 07:00 off ou sunset-00:30 Warm evening.</translation>
         </message>
@@ -1855,6 +1907,14 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
         <message>
             <source>where the sun is looked at; empty: by the time zone</source>
             <translation>où l’on regarde le soleil ; vide : selon le fuseau horaire</translation>
+        </message>
+        <message>
+            <source>switch and choose looks by the rules</source>
+            <translation>basculer et choisir les apparences selon les règles</translation>
+        </message>
+        <message>
+            <source>the rules: what is in front, with looks or off</source>
+            <translation>les règles : ce qui est au premier plan, avec des apparences ou off</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -411,6 +411,46 @@
             <translation>%1$@（%2$@を除く）</translation>
         </message>
         <message>
+            <source>Paused until you go on</source>
+            <translation>再開するまで一時停止中</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>%@ まで一時停止中</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@（手動）</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@（%2$@ まで手動）</translation>
+        </message>
+        <message>
+            <source>%1$@; by the rule "%2$@"</source>
+            <translation>%1$@; 規則「%2$@」による</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@（スケジュール）</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@（%2$@ までスケジュール）</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>オフ</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>オン</translation>
+        </message>
+        <message>
+            <source>%1$@. %2$@: %3$@</source>
+            <translation>%1$@。%2$@: %3$@</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>オフ。効果を選んでからオンにしてください</translation>
         </message>
@@ -427,34 +467,6 @@
             <translation>一時停止中: スクリーンセーバー</translation>
         </message>
         <message>
-            <source>Paused until you go on</source>
-            <translation>再開するまで一時停止中</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>%@ まで一時停止中</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>オフ</translation>
-        </message>
-        <message>
-            <source>%@; by hand</source>
-            <translation>%@（手動）</translation>
-        </message>
-        <message>
-            <source>%1$@; by hand until %2$@</source>
-            <translation>%1$@（%2$@ まで手動）</translation>
-        </message>
-        <message>
-            <source>%@; by the schedule</source>
-            <translation>%@（スケジュール）</translation>
-        </message>
-        <message>
-            <source>%1$@; by the schedule until %2$@</source>
-            <translation>%1$@（%2$@ までスケジュール）</translation>
-        </message>
-        <message>
             <source>Nobody knows when that is: "%@".</source>
             <translation>それがいつかは分かりません: 「%@」。</translation>
         </message>
@@ -469,6 +481,18 @@
         <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>「%@」は、30m、2h、until 18:00 のような一時停止の時間ではありません。</translation>
+        </message>
+        <message>
+            <source>This desktop does not tell which window is in front.</source>
+            <translation>このデスクトップは、どのウィンドウが最前面にあるかを伝えません。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ rules at most.</source>
+            <translation>「%1$@」には最大 %2$@ 件の規則の一覧を指定します。</translation>
+        </message>
+        <message>
+            <source>There is no rule %@.</source>
+            <translation>規則 %@ はありません。</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ points at most.</source>
@@ -499,10 +523,6 @@
             <translation>「%@」に設定を保存できませんでした。</translation>
         </message>
         <message>
-            <source>There is no display with the identifier %d.</source>
-            <translation>識別子 %d の画面はありません。</translation>
-        </message>
-        <message>
             <source>A temperature is from 1000 to 25000 K.</source>
             <translation>色温度は 1000～25000 K です。</translation>
         </message>
@@ -519,6 +539,10 @@
             <translation>画面を 1 つは残す必要があります。何も選ばないとすべてを意味します。効果をオフにするには nocturoctl off を使います。</translation>
         </message>
         <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>識別子 %d の画面はありません。</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>効果のドキュメントではありません: %@</translation>
         </message>
@@ -533,10 +557,6 @@
         <message>
             <source>Nocturo answered something that this version does not understand.</source>
             <translation>Nocturoの応答をこのバージョンでは解釈できません。</translation>
-        </message>
-        <message>
-            <source>On</source>
-            <translation>オン</translation>
         </message>
         <message>
             <source>Nocturo is not running.</source>
@@ -641,6 +661,18 @@ while でコマンドの実行中。それ以外は、エフェクトを切り�
 time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
             <translation>POINT は時刻とルックまたは off です: 07:00 off、sunset-00:30 Warm evening。時刻の代わりに
 dawn、sunrise、sunset、dusk も使えます。list と next には --json を付けられます。</translation>
+        </message>
+        <message>
+            <source>Show or change what happens while programs are in front</source>
+            <translation>プログラムが最前面にある間のことを表示または変更する</translation>
+        </message>
+        <message>
+            <source>A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,
+program mpv Warm evening. The first one that holds for a display counts. list takes
+--json.</source>
+            <translation>RULE は fullscreen、program NAME または game に、ルックか off を続けたものです: fullscreen off、
+program mpv Warm evening。画面に当てはまる最初の規則が有効です。list には
+--json を付けられます。</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -1028,6 +1060,22 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>コンポジター %@ が応答しません。</translation>
+        </message>
+        <message>
+            <source>%@ is in front</source>
+            <translation>%@ が最前面にあります</translation>
+        </message>
+        <message>
+            <source>a game is running</source>
+            <translation>ゲームが動いています</translation>
+        </message>
+        <message>
+            <source>a window fills %@</source>
+            <translation>ウィンドウが %@ を占めています</translation>
+        </message>
+        <message>
+            <source>The rules are not in use; nocturoctl rules on changes that.</source>
+            <translation>規則は使われていません。nocturoctl rules on で使われます。</translation>
         </message>
         <message>
             <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
@@ -1776,6 +1824,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>セッションバスがないため、起動中の Nocturo にドキュメントを渡せません。</translation>
         </message>
         <message>
+            <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
+            <translation>「%@」は fullscreen off や program mpv Warm evening のような規則ではありません。</translation>
+        </message>
+        <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>「%@」は 07:00 off や sunset-00:30 Warm evening のようなスケジュールのポイントではありません。</translation>
         </message>
@@ -1854,6 +1906,14 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>where the sun is looked at; empty: by the time zone</source>
             <translation>太陽を見る場所。空ならタイムゾーンによる</translation>
+        </message>
+        <message>
+            <source>switch and choose looks by the rules</source>
+            <translation>規則で切り替えとルックの選択を行う</translation>
+        </message>
+        <message>
+            <source>the rules: what is in front, with looks or off</source>
+            <translation>規則: 最前面にあるものと、ルックまたは off</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -411,6 +411,46 @@
             <translation>%1$@, mas não em %2$@</translation>
         </message>
         <message>
+            <source>Paused until you go on</source>
+            <translation>Em pausa até você continuar</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>Em pausa até %@</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@; à mão</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@; à mão até %2$@</translation>
+        </message>
+        <message>
+            <source>%1$@; by the rule "%2$@"</source>
+            <translation>%1$@; pela regra "%2$@"</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@; pela agenda</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@; pela agenda até %2$@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>Desativado</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>Ativado</translation>
+        </message>
+        <message>
+            <source>%1$@. %2$@: %3$@</source>
+            <translation>%1$@. %2$@: %3$@</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>Desligado. Escolha efeitos e depois ligue</translation>
         </message>
@@ -427,34 +467,6 @@
             <translation>Em pausa: protetor de tela</translation>
         </message>
         <message>
-            <source>Paused until you go on</source>
-            <translation>Em pausa até você continuar</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>Em pausa até %@</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>Desativado</translation>
-        </message>
-        <message>
-            <source>%@; by hand</source>
-            <translation>%@; à mão</translation>
-        </message>
-        <message>
-            <source>%1$@; by hand until %2$@</source>
-            <translation>%1$@; à mão até %2$@</translation>
-        </message>
-        <message>
-            <source>%@; by the schedule</source>
-            <translation>%@; pela agenda</translation>
-        </message>
-        <message>
-            <source>%1$@; by the schedule until %2$@</source>
-            <translation>%1$@; pela agenda até %2$@</translation>
-        </message>
-        <message>
             <source>Nobody knows when that is: "%@".</source>
             <translation>Ninguém sabe quando é: "%@".</translation>
         </message>
@@ -469,6 +481,18 @@
         <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>"%@" não é um tempo de pausa como 30m, 2h ou until 18:00.</translation>
+        </message>
+        <message>
+            <source>This desktop does not tell which window is in front.</source>
+            <translation>Esta área de trabalho não diz qual janela está na frente.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ rules at most.</source>
+            <translation>"%1$@" aceita uma lista de no máximo %2$@ regras.</translation>
+        </message>
+        <message>
+            <source>There is no rule %@.</source>
+            <translation>Não há regra %@.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ points at most.</source>
@@ -499,10 +523,6 @@
             <translation>Não foi possível salvar as configurações em “%@”.</translation>
         </message>
         <message>
-            <source>There is no display with the identifier %d.</source>
-            <translation>Não há tela com o identificador %d.</translation>
-        </message>
-        <message>
             <source>A temperature is from 1000 to 25000 K.</source>
             <translation>Uma temperatura vai de 1000 a 25000 K.</translation>
         </message>
@@ -519,6 +539,10 @@
             <translation>Uma tela precisa ficar, pois nenhuma significa todas; nocturoctl off desativa o efeito.</translation>
         </message>
         <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>Não há tela com o identificador %d.</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>Estes não são documentos de efeito: %@</translation>
         </message>
@@ -533,10 +557,6 @@
         <message>
             <source>Nocturo answered something that this version does not understand.</source>
             <translation>O Nocturo respondeu algo que esta versão não entende.</translation>
-        </message>
-        <message>
-            <source>On</source>
-            <translation>Ativado</translation>
         </message>
         <message>
             <source>Nocturo is not running.</source>
@@ -641,6 +661,18 @@ manhã; while, enquanto um comando roda; ou até você alternar o efeito ou dize
 time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
             <translation>POINT é um horário e um visual ou off: 07:00 off, sunset-00:30 Warm evening. Em vez de um
 horário pode ter dawn, sunrise, sunset ou dusk. list e next aceitam --json.</translation>
+        </message>
+        <message>
+            <source>Show or change what happens while programs are in front</source>
+            <translation>Mostrar ou mudar o que acontece enquanto há programas na frente</translation>
+        </message>
+        <message>
+            <source>A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,
+program mpv Warm evening. The first one that holds for a display counts. list takes
+--json.</source>
+            <translation>Uma RULE é fullscreen, program NAME ou game, e um visual ou off: fullscreen off,
+program mpv Warm evening. Vale a primeira que se aplica a uma tela. list aceita
+--json.</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -1029,6 +1061,22 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>O compositor %@ não responde.</translation>
+        </message>
+        <message>
+            <source>%@ is in front</source>
+            <translation>%@ está na frente</translation>
+        </message>
+        <message>
+            <source>a game is running</source>
+            <translation>há um jogo em execução</translation>
+        </message>
+        <message>
+            <source>a window fills %@</source>
+            <translation>uma janela ocupa %@</translation>
+        </message>
+        <message>
+            <source>The rules are not in use; nocturoctl rules on changes that.</source>
+            <translation>As regras não estão em uso; nocturoctl rules on muda isso.</translation>
         </message>
         <message>
             <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
@@ -1777,6 +1825,10 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <translation>Sem um barramento de sessão, não é possível passar um documento ao Nocturo em execução.</translation>
         </message>
         <message>
+            <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
+            <translation>"%@" não é uma regra como fullscreen off ou program mpv Warm evening.</translation>
+        </message>
+        <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>"%@" não é um ponto de agenda como 07:00 off ou sunset-00:30 Warm evening.</translation>
         </message>
@@ -1855,6 +1907,14 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
         <message>
             <source>where the sun is looked at; empty: by the time zone</source>
             <translation>onde se olha o sol; vazio: pelo fuso horário</translation>
+        </message>
+        <message>
+            <source>switch and choose looks by the rules</source>
+            <translation>alternar e escolher visuais pelas regras</translation>
+        </message>
+        <message>
+            <source>the rules: what is in front, with looks or off</source>
+            <translation>as regras: o que está na frente, com visuais ou off</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -411,6 +411,46 @@
             <translation>%1$@，%2$@ 除外</translation>
         </message>
         <message>
+            <source>Paused until you go on</source>
+            <translation>已暂停，直到您继续</translation>
+        </message>
+        <message>
+            <source>Paused until %@</source>
+            <translation>已暂停至 %@</translation>
+        </message>
+        <message>
+            <source>%@; by hand</source>
+            <translation>%@；手动</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@</source>
+            <translation>%1$@；手动，至 %2$@</translation>
+        </message>
+        <message>
+            <source>%1$@; by the rule "%2$@"</source>
+            <translation>%1$@；按规则“%2$@”</translation>
+        </message>
+        <message>
+            <source>%@; by the schedule</source>
+            <translation>%@；按计划</translation>
+        </message>
+        <message>
+            <source>%1$@; by the schedule until %2$@</source>
+            <translation>%1$@；按计划，至 %2$@</translation>
+        </message>
+        <message>
+            <source>Off</source>
+            <translation>关</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>开</translation>
+        </message>
+        <message>
+            <source>%1$@. %2$@: %3$@</source>
+            <translation>%1$@。%2$@：%3$@</translation>
+        </message>
+        <message>
             <source>Off. Choose effects, then switch on</source>
             <translation>已关闭。请选择效果，然后打开</translation>
         </message>
@@ -427,34 +467,6 @@
             <translation>已暂停：屏幕保护程序</translation>
         </message>
         <message>
-            <source>Paused until you go on</source>
-            <translation>已暂停，直到您继续</translation>
-        </message>
-        <message>
-            <source>Paused until %@</source>
-            <translation>已暂停至 %@</translation>
-        </message>
-        <message>
-            <source>Off</source>
-            <translation>关</translation>
-        </message>
-        <message>
-            <source>%@; by hand</source>
-            <translation>%@；手动</translation>
-        </message>
-        <message>
-            <source>%1$@; by hand until %2$@</source>
-            <translation>%1$@；手动，至 %2$@</translation>
-        </message>
-        <message>
-            <source>%@; by the schedule</source>
-            <translation>%@；按计划</translation>
-        </message>
-        <message>
-            <source>%1$@; by the schedule until %2$@</source>
-            <translation>%1$@；按计划，至 %2$@</translation>
-        </message>
-        <message>
             <source>Nobody knows when that is: "%@".</source>
             <translation>无法得知那是何时：“%@”。</translation>
         </message>
@@ -469,6 +481,18 @@
         <message>
             <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
             <translation>“%@”不是 30m、2h 或 until 18:00 这样的暂停时间。</translation>
+        </message>
+        <message>
+            <source>This desktop does not tell which window is in front.</source>
+            <translation>此桌面不告知哪个窗口在最前面。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ rules at most.</source>
+            <translation>“%1$@”接受最多 %2$@ 条规则的列表。</translation>
+        </message>
+        <message>
+            <source>There is no rule %@.</source>
+            <translation>没有规则 %@。</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ points at most.</source>
@@ -499,10 +523,6 @@
             <translation>无法将设置保存到“%@”。</translation>
         </message>
         <message>
-            <source>There is no display with the identifier %d.</source>
-            <translation>没有标识符为 %d 的屏幕。</translation>
-        </message>
-        <message>
             <source>A temperature is from 1000 to 25000 K.</source>
             <translation>色温范围为 1000 到 25000 K。</translation>
         </message>
@@ -519,6 +539,10 @@
             <translation>必须保留一个屏幕，因为不选任何屏幕表示全部；nocturoctl off 可关闭效果。</translation>
         </message>
         <message>
+            <source>There is no display with the identifier %d.</source>
+            <translation>没有标识符为 %d 的屏幕。</translation>
+        </message>
+        <message>
             <source>These are not effect documents: %@</source>
             <translation>以下不是效果文档：%@</translation>
         </message>
@@ -533,10 +557,6 @@
         <message>
             <source>Nocturo answered something that this version does not understand.</source>
             <translation>Nocturo 的回答是此版本无法理解的。</translation>
-        </message>
-        <message>
-            <source>On</source>
-            <translation>开</translation>
         </message>
         <message>
             <source>Nocturo is not running.</source>
@@ -641,6 +661,18 @@ while 表示命令运行期间；否则直到您切换效果或使用 cancel。<
 time of day it may have dawn, sunrise, sunset or dusk. list and next take --json.</source>
             <translation>POINT 是时间加外观方案或 off：07:00 off、sunset-00:30 Warm evening。可以用 dawn、sunrise、
 sunset 或 dusk 代替时间。list 和 next 接受 --json。</translation>
+        </message>
+        <message>
+            <source>Show or change what happens while programs are in front</source>
+            <translation>显示或更改程序在最前面时的行为</translation>
+        </message>
+        <message>
+            <source>A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,
+program mpv Warm evening. The first one that holds for a display counts. list takes
+--json.</source>
+            <translation>RULE 是 fullscreen、program NAME 或 game，加上一个外观方案或 off：fullscreen off、
+program mpv Warm evening。对某个显示器成立的第一条规则有效。list 可带
+--json。</translation>
         </message>
         <message>
             <source>Show the state of everything</source>
@@ -1025,6 +1057,22 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>The compositor %@ does not answer.</source>
             <translation>合成器 %@ 没有响应。</translation>
+        </message>
+        <message>
+            <source>%@ is in front</source>
+            <translation>%@ 在最前面</translation>
+        </message>
+        <message>
+            <source>a game is running</source>
+            <translation>有游戏正在运行</translation>
+        </message>
+        <message>
+            <source>a window fills %@</source>
+            <translation>有窗口占满 %@</translation>
+        </message>
+        <message>
+            <source>The rules are not in use; nocturoctl rules on changes that.</source>
+            <translation>未使用规则；nocturoctl rules on 可启用。</translation>
         </message>
         <message>
             <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
@@ -1772,6 +1820,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>没有会话总线，无法将文档交给正在运行的 Nocturo。</translation>
         </message>
         <message>
+            <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
+            <translation>“%@”不是规则，例如 fullscreen off 或 program mpv Warm evening。</translation>
+        </message>
+        <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>“%@”不是 07:00 off 或 sunset-00:30 Warm evening 这样的计划时间点。</translation>
         </message>
@@ -1850,6 +1902,14 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>where the sun is looked at; empty: by the time zone</source>
             <translation>观察太阳的地点；留空则按时区</translation>
+        </message>
+        <message>
+            <source>switch and choose looks by the rules</source>
+            <translation>按规则切换并选择外观方案</translation>
+        </message>
+        <message>
+            <source>the rules: what is in front, with looks or off</source>
+            <translation>规则：最前面的内容，对应外观方案或 off</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -172,15 +172,12 @@ Ruling NDAppController::ruling(CGDirectDisplayID display) const {
 }
 
 Ruling NDAppController::ruling() const {
-    std::optional<Ruling> common;
-    for (const CGDirectDisplayID display : affectedDisplays(defaults_)) {
-        Ruling its = ruling(display);
-        if (common && *common != its) {
-            return ruling(kNoneInParticular);
-        }
-        common = std::move(its);
-    }
-    return common ? *common : ruling(kNoneInParticular);
+    const Ruling usual = ruling(kNoneInParticular);
+    const auto displays = affectedDisplays(defaults_);
+    const bool isThere =
+        displays.empty() || std::any_of(displays.begin(), displays.end(),
+                                        [&](auto display) { return ruling(display) == usual; });
+    return isThere ? usual : ruling(displays.front());
 }
 
 bool NDAppController::isWanted() const {
@@ -190,8 +187,8 @@ bool NDAppController::isWanted() const {
                                           [this](auto display) { return ruling(display).isOn; });
 }
 
-std::string NDAppController::titleOfRuledLook() const {
-    return automation_ != nullptr ? automation_->titleOfLook(ruling()) : std::string();
+std::string NDAppController::titleOfLook(const Ruling& ruling) const {
+    return automation_ != nullptr ? automation_->titleOfLook(ruling) : std::string();
 }
 
 std::shared_ptr<NDEffect> NDAppController::effectInForce(CGDirectDisplayID display) const {

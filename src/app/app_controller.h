@@ -159,12 +159,12 @@ class NDAppController : public ActionTarget {
     /// Who says what a display shows, and for how long; of the screen saver it knows nothing.
     Ruling ruling(CGDirectDisplayID display) const;
 
-    /// The same for all affected displays; where they differ, for one of which nobody says anything
-    /// in particular.
+    /// The same for all affected displays. Where they differ, for those of which nobody says
+    /// anything in particular, or for the first where there are none.
     Ruling ruling() const;
 
     /// The title of the look that rules over the effects of the settings; empty where none does.
-    std::string titleOfRuledLook() const;
+    std::string titleOfLook(const Ruling& ruling) const;
 
     /// Whether the effect is off only for a time, by the screen saver or a pause.
     bool isPaused() const { return paused_ || ruling().by == Ruler::pause; }

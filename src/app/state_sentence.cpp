@@ -82,6 +82,41 @@ std::string onSentence(const EffectState& state) {
                : translated("%1$@, but not on %2$@", {std::move(sentence), joined(state.without)});
 }
 
+/// Who says what, "Off" for one, and until when.
+std::string withRuler(const std::string& what, Ruler ruler, const std::string& until,
+                      const std::string& rule) {
+    switch (ruler) {
+    case Ruler::pause:
+        return until.empty() ? translated("Paused until you go on")
+                             : translated("Paused until %@", {until});
+    case Ruler::hand:
+        return until.empty() ? translated("%@; by hand", {what})
+                             : translated("%1$@; by hand until %2$@", {what, until});
+    case Ruler::rule:
+        return translated("%1$@; by the rule \"%2$@\"", {what, rule});
+    case Ruler::schedule:
+        return until.empty() ? translated("%@; by the schedule", {what})
+                             : translated("%1$@; by the schedule until %2$@", {what, until});
+    case Ruler::settings:
+        break;
+    }
+    return what;
+}
+
+/// "On: Invert on all screens. DP-1: Off; by the rule "fullscreen off"".
+std::string withThoseApart(std::string sentence, const EffectState& state) {
+    for (const DisplayApart& display : state.apart) {
+        const Ruling& ruling = display.ruling;
+        const std::string until = ruling.until ? clockText(*ruling.until, state.now) : "";
+        const std::string what = !ruling.isOn            ? translated("Off")
+                                 : !display.look.empty() ? display.look
+                                                         : translated("On");
+        sentence = translated("%1$@. %2$@: %3$@", {std::move(sentence), display.name,
+                                                   withRuler(what, ruling.by, until, ruling.rule)});
+    }
+    return sentence;
+}
+
 /// Where nobody rules over the user's own settings.
 std::string ownSentence(const EffectState& state) {
     const std::vector<std::string> names = namesOfEffects(state);
@@ -106,12 +141,13 @@ std::string signedPercentText(double share) {
 
 EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults) {
     EffectState state;
-    state.isOn = controller.effectActive();
-    state.isPausedForScreenSaver = controller.isPausedForScreenSaver();
     const Ruling ruling = controller.ruling();
+    state.isOn = controller.effectActive() && ruling.isOn;
+    state.isPausedForScreenSaver = controller.isPausedForScreenSaver();
     state.ruler = ruling.by;
     state.until = ruling.until;
-    state.look = controller.titleOfRuledLook();
+    state.rule = ruling.rule;
+    state.look = controller.titleOfLook(ruling);
     state.now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
     for (const SelectableEffect& effect : kSelectableEffects) {
         if (NDGroupEffect::effect().containsEffect(effect.className)) {
@@ -132,8 +168,15 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
         if (isNamed) {
             state.screens.push_back(display.name);
         }
-        if ((isNamed || affected.empty()) && display.obstacle != Obstacle::none) {
+        if (!isNamed && !affected.empty()) {
+            continue;
+        }
+        if (display.obstacle != Obstacle::none) {
             state.without.push_back(display.name);
+        }
+        if (Ruling its = controller.ruling(display.id); its != ruling) {
+            const std::string look = controller.titleOfLook(its);
+            state.apart.push_back({display.name, std::move(its), look});
         }
     }
     return state;
@@ -157,21 +200,12 @@ std::string stateSentence(const EffectState& state) {
     if (state.isPausedForScreenSaver) {
         return translated("Paused: screen saver");
     }
-    const std::string until = state.until ? clockText(*state.until, state.now) : std::string();
-    if (state.ruler == Ruler::pause) {
-        return until.empty() ? translated("Paused until you go on")
-                             : translated("Paused until %@", {until});
-    }
     if (state.ruler == Ruler::settings) {
-        return ownSentence(state);
+        return withThoseApart(ownSentence(state), state);
     }
+    const std::string until = state.until ? clockText(*state.until, state.now) : std::string();
     const std::string what = state.isOn ? onSentence(state) : translated("Off");
-    if (state.ruler == Ruler::hand) {
-        return until.empty() ? translated("%@; by hand", {what})
-                             : translated("%1$@; by hand until %2$@", {what, until});
-    }
-    return until.empty() ? translated("%@; by the schedule", {what})
-                         : translated("%1$@; by the schedule until %2$@", {what, until});
+    return withThoseApart(withRuler(what, state.ruler, until, state.rule), state);
 }
 
 std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults) {

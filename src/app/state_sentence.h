@@ -11,6 +11,14 @@ namespace nocturo {
 class DefaultsStore;
 class NDAppController;
 
+/// What there is to say about a display of which another word holds than of the others.
+struct DisplayApart {
+    std::string name;
+    Ruling ruling;
+    std::string look; // the title of the ruling's
+    bool operator==(const DisplayApart&) const = default;
+};
+
 /// What there is to say about the effect.
 struct EffectState {
     bool isPaused() const { return isPausedForScreenSaver || ruler == Ruler::pause; }
@@ -19,6 +27,7 @@ struct EffectState {
     bool isPausedForScreenSaver = false;
     Ruler ruler = Ruler::settings;
     std::optional<Moment> until; // that the ruler says so; nothing: no end is known
+    std::string rule;            // the ruler's words where it is one; or empty
     Moment now{};
     std::string look;                 // the title of one that rules over the effects; or empty
     std::vector<std::string> effects; // class names of the chosen ones, in any order
@@ -28,6 +37,7 @@ struct EffectState {
     bool isOnAllScreens = true;
     std::vector<std::string> screens; // names of those affected that are connected
     std::vector<std::string> without; // names of those affected that can show nothing of it
+    std::vector<DisplayApart> apart;  // those affected of which `ruler` and the like are not true
 };
 
 EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults);

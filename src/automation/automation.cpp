@@ -1,8 +1,10 @@
 #include "automation/automation.h"
 
 #include "automation/schedule_setting.h"
+#include "automation/word_list.h"
 #include "base/log.h"
 #include "base/notification_center.h"
+#include "base/notification_names.h"
 #include "base/texts/translated.h"
 #include "documents/look_effect.h"
 #include "documents/looks.h"
@@ -19,6 +21,7 @@ namespace nocturo {
 namespace {
 
 constexpr std::array kScheduleSettings = {kUseSchedule, kSchedule, kPlace};
+constexpr std::array kRuleSettings = {kUseRules, kRules};
 
 bool isOfTheSun(const SchedulePoint& point) {
     return point.anchor != SchedulePoint::Anchor::midnight;
@@ -31,9 +34,12 @@ std::optional<Moment> earlier(std::optional<Moment> one, std::optional<Moment> o
 } // namespace
 
 Automation::Automation(DefaultsStore& defaults, NotificationCenter& localCenter, WallClock& clock,
-                       Looks& looks, const std::filesystem::path& stateDirectory)
+                       RunLoop& runLoop, Looks& looks, const std::filesystem::path& stateDirectory)
     : defaults_(defaults), localCenter_(localCenter), clock_(clock), looks_(looks),
-      pauses_(stateDirectory / "pause.plist") {}
+      pauses_(stateDirectory / "pause.plist"), rules_(defaults, looks, runLoop, [this] {
+          handOverRule_ = {};
+          change();
+      }) {}
 
 Automation::~Automation() {
     localCenter_.removeObserver(this);
@@ -48,9 +54,14 @@ void Automation::start() {
             readSchedule();
             change();
         }
+        if (!wordsOf(defaults_, kRules).empty()) {
+            rules_.read();
+        }
     });
+    localCenter_.addObserver(this, NSApplicationDidChangeScreenParametersNotification,
+                             [this] { rules_.displaysDidChange(); });
     readSchedule();
-    awaitNext();
+    rules_.read();
 }
 
 std::optional<Claim> Automation::scheduleClaim() const {
@@ -62,9 +73,11 @@ std::optional<Claim> Automation::scheduleClaim() const {
                  around_.next ? std::optional(around_.next->moment) : std::nullopt};
 }
 
-Claims Automation::claims(bool isSwitchedOn, CGDirectDisplayID /*display*/) const {
-    return {.hand = hand_,
+Claims Automation::claims(bool isSwitchedOn, CGDirectDisplayID display) const {
+    auto rule = rules_.claim(display);
+    return {.hand = rule ? handOverRule_ : hand_,
             .pause = pauses_.claim(),
+            .rule = std::move(rule),
             .schedule = scheduleClaim(),
             .isSwitchedOn = isSwitchedOn};
 }
@@ -93,6 +106,10 @@ std::string Automation::titleOfLook(const Ruling& ruling) const {
 void Automation::wasSwitchedByHand(bool isOn) {
     const auto scheduled = scheduleClaim();
     hand_.isOn = scheduled && scheduled->isOn != isOn ? std::optional(isOn) : std::nullopt;
+    if (rules_.anyHolds()) {
+        handOverRule_.isOn = isOn;
+        handOverRule_.untilRuleEnds = true;
+    }
     if (pauses_.end()) {
         awaitNext();
     }
@@ -138,13 +155,29 @@ void Automation::resume() {
 }
 
 void Automation::settingsDidChange(const Subjects& settings) {
-    if (settings.containAnyOf(kScheduleSettings)) {
+    const bool schedule = settings.containAnyOf(kScheduleSettings);
+    const bool rules = settings.containAnyOf(kRuleSettings);
+    if (schedule) {
         hand_ = {};
         readSchedule();
         change();
-    } else if (settings.containAnyOf(kEffectSettings) && !hand_.choseEffects &&
-               scheduleClaim().value_or(Claim{}).isOn) {
-        hand_.choseEffects = true;
+    }
+    if (rules) {
+        rules_.read();
+    }
+    if (!schedule && !rules && settings.containAnyOf(kEffectSettings)) {
+        effectsWereChosen();
+    }
+}
+
+void Automation::effectsWereChosen() {
+    const bool overSchedule = !hand_.choseEffects && scheduleClaim().value_or(Claim{}).isOn;
+    const bool overRule = !handOverRule_.choseEffects && rules_.anyHolds();
+    hand_.choseEffects = hand_.choseEffects || overSchedule;
+    if (overRule) {
+        handOverRule_.choseEffects = handOverRule_.untilRuleEnds = true;
+    }
+    if (overSchedule || overRule) {
         change();
     }
 }
@@ -162,7 +195,7 @@ std::string Automation::problemWith(const SchedulePoint& point) {
 
 void Automation::readSchedule() {
     const bool isInUse = defaults_.boolForKey(kUseSchedule);
-    const std::vector<std::string> texts = wordsOfSchedule(defaults_);
+    const std::vector<std::string> texts = wordsOf(defaults_, kSchedule);
     std::vector<SchedulePoint> points;
     place_ = texts.empty() ? std::nullopt : placeOfSchedule(defaults_);
     listed_.clear();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/pauses.h"
+#include "automation/rules.h"
 #include "automation/schedule.h"
 #include "automation/who_wins.h"
 #include "base/result.h"
@@ -24,6 +25,7 @@ class DefaultsStore;
 class Looks;
 class NDEffect;
 class NotificationCenter;
+class RunLoop;
 class Subjects;
 
 /// Posted on the local notification center when another ruling may hold by itself: not by the
@@ -37,13 +39,14 @@ struct ListedPoint {
     std::string problem{};        // why it never comes, a sentence of the user's language
 };
 
-/// What happens by itself, beside the settings, which stay the user's: pauses and the schedule.
-/// Knows who rules what the displays show, and follows the clock with one timer. Main thread only.
+/// What happens by itself, beside the settings, which stay the user's: pauses, rules and the
+/// schedule. Knows who rules what the displays show, and follows the clock with one timer. Main
+/// thread only.
 class Automation {
   public:
     /// All must outlive this. `stateDirectory` is where a pause outlives the program.
     Automation(DefaultsStore& defaults, NotificationCenter& localCenter, WallClock& clock,
-               Looks& looks, const std::filesystem::path& stateDirectory);
+               RunLoop& runLoop, Looks& looks, const std::filesystem::path& stateDirectory);
     ~Automation();
     Automation(const Automation&) = delete;
     Automation& operator=(const Automation&) = delete;
@@ -62,7 +65,8 @@ class Automation {
     /// As people read it; empty where it has none.
     std::string titleOfLook(const Ruling& ruling) const;
 
-    /// The user turned the switch: that ends pauses and holds until the schedule's next point.
+    /// The user turned the switch: that ends pauses, and holds until the schedule's next point and
+    /// as long as the same rules hold.
     void wasSwitchedByHand(bool isOn);
 
     /// Begins a pause with an end told in words, as endOfPause() reads them; "until next" is the
@@ -74,6 +78,9 @@ class Automation {
 
     /// Ends all pauses.
     void resume();
+
+    Rules& rules() { return rules_; }
+    const Rules& rules() const { return rules_; }
 
     /// Every point, in the setting's order.
     const std::vector<ListedPoint>& listedPoints() const { return listed_; }
@@ -88,6 +95,7 @@ class Automation {
     std::optional<Claim> scheduleClaim() const;
     Result<std::optional<Moment>> endOf(std::string_view words);
     void settingsDidChange(const Subjects& settings);
+    void effectsWereChosen();
     void readSchedule();
     std::string problemWith(const SchedulePoint& point);
     void lookAtClock();
@@ -99,7 +107,8 @@ class Automation {
     WallClock& clock_;
     Looks& looks_;
     Pauses pauses_;
-    HandsClaim hand_;
+    HandsClaim hand_;         // over the schedule
+    HandsClaim handOverRule_; // for displays where one holds
     std::optional<Place> place_;
     std::optional<Schedule> schedule_; // while it is in use, of the points that can come
     std::vector<std::size_t> indexes_; // of its points in the setting
@@ -108,6 +117,7 @@ class Automation {
     std::set<std::string> explained_;                 // points that were logged
     std::map<std::string, AppliedLook> appliedLooks_; // by name
     std::unique_ptr<Timer> timer_;
+    Rules rules_;
 };
 
 } // namespace nocturo

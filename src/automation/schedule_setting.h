@@ -5,17 +5,12 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace nocturo {
 
 class DefaultsStore;
 class Looks;
-
-/// The points as the setting has them, readable or not.
-std::vector<std::string> wordsOfSchedule(const DefaultsStore& defaults);
 
 /// Where the sun is looked at: at the user's place, or at the time zone's.
 std::optional<Place> placeOfSchedule(const DefaultsStore& defaults);

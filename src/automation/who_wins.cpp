@@ -42,12 +42,13 @@ Ruling whoWins(const Claims& claims) {
     if (ruling.by == Ruler::settings) {
         return ruling; // they are the hand's
     }
-    const std::optional<Moment> nextPoint = claims.schedule ? claims.schedule->until : std::nullopt;
+    const bool untilNextPoint = claims.schedule && !claims.hand.untilRuleEnds;
+    const std::optional<Moment> until = untilNextPoint ? claims.schedule->until : std::nullopt;
     const bool isOn = claims.hand.isOn.value_or(ruling.isOn);
     const bool replacesLook = claims.hand.choseEffects && isOn && !ruling.look.empty();
     if (isOn != ruling.isOn || replacesLook) {
         const bool keepsLook = isOn && !claims.hand.choseEffects;
-        return {Claim{isOn, keepsLook ? ruling.look : std::string(), nextPoint}, Ruler::hand};
+        return {Claim{isOn, keepsLook ? ruling.look : std::string(), until}, Ruler::hand};
     }
     return ruling;
 }

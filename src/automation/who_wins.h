@@ -24,10 +24,11 @@ struct Claim {
     bool operator==(const Claim&) const = default;
 };
 
-/// What the user did against a rule or the schedule, which holds until the schedule's next point.
+/// What the user did against the schedule, which holds until its next point, or against a rule.
 struct HandsClaim {
     std::optional<bool> isOn; // nothing: the switch was left alone
     bool choseEffects = false;
+    bool untilRuleEnds = false; // and nobody knows when that is
     bool operator==(const HandsClaim&) const = default;
 };
 

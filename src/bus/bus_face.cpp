@@ -49,17 +49,19 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 67> members;
+    static const std::array<sd_bus_vtable, 71> members;
 };
 
-const std::array<sd_bus_vtable, 67> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 71> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Ruler", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("RulesUntil", "x", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("RuledLook", "s", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Rule", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Schedule", "aa{sv}", tellProperty, 0, kTold),
+    SD_BUS_PROPERTY("Rules", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("DisplayServices", "s", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Displays", "aa{sv}", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("AbsentDisplays", "aa{sv}", tellProperty, 0, kTold),
@@ -91,6 +93,10 @@ const std::array<sd_bus_vtable, 67> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::addSchedulePoint>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveSchedulePoint", SD_BUS_ARGS("u", index), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::removeSchedulePoint>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("AddRule", SD_BUS_ARGS("s", words), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::addRule>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("RemoveRule", SD_BUS_ARGS("u", index), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::removeRule>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AddEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::addEffects>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,

@@ -64,6 +64,8 @@ class BusFace {
     BusAnswer resume();
     BusAnswer addSchedulePoint(const std::string& words);
     BusAnswer removeSchedulePoint(std::uint32_t index);
+    BusAnswer addRule(const std::string& words);
+    BusAnswer removeRule(std::uint32_t index);
     static int pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* error);
     BusAnswer addEffects(const std::vector<std::string>& names);
     BusAnswer removeEffects(const std::vector<std::string>& names);

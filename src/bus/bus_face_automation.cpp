@@ -1,6 +1,7 @@
 // What callers on the bus do with what happens by itself.
 
 #include "automation/automation.h"
+#include "automation/rules_setting.h"
 #include "automation/schedule_setting.h"
 #include "bus/bus_face.h"
 #include "documents/chosen_look.h"
@@ -9,11 +10,16 @@
 
 namespace nocturo {
 
+namespace {
+
+BusAnswer answer(Result<void> done) {
+    return done ? BusAnswer() : refusal(std::move(done.error().text));
+}
+
+} // namespace
+
 BusAnswer BusFace::pause(const std::string& words) {
-    if (auto done = automation_.pause(words); !done) {
-        return refusal(std::move(done.error().text));
-    }
-    return {};
+    return answer(automation_.pause(words));
 }
 
 BusAnswer BusFace::resume() {
@@ -22,17 +28,19 @@ BusAnswer BusFace::resume() {
 }
 
 BusAnswer BusFace::addSchedulePoint(const std::string& words) {
-    if (auto done = nocturo::addSchedulePoint(defaults_, chosenLook_.looks(), words); !done) {
-        return refusal(std::move(done.error().text));
-    }
-    return {};
+    return answer(nocturo::addSchedulePoint(defaults_, chosenLook_.looks(), words));
 }
 
 BusAnswer BusFace::removeSchedulePoint(std::uint32_t index) {
-    if (auto done = nocturo::removeSchedulePoint(defaults_, index); !done) {
-        return refusal(std::move(done.error().text));
-    }
-    return {};
+    return answer(nocturo::removeSchedulePoint(defaults_, index));
+}
+
+BusAnswer BusFace::addRule(const std::string& words) {
+    return answer(nocturo::addRule(defaults_, chosenLook_.looks(), words));
+}
+
+BusAnswer BusFace::removeRule(std::uint32_t index) {
+    return answer(nocturo::removeRule(defaults_, index));
 }
 
 int BusFace::pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* /*error*/) {

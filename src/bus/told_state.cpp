@@ -43,12 +43,29 @@ std::string toldObstacle(Obstacle obstacle) {
     return {};
 }
 
+std::int64_t endOf(const Ruling& ruling) {
+    return ruling.until ? ruling.until->time_since_epoch().count() : 0;
+}
+
+std::vector<std::string> namesOf(const std::set<CGDirectDisplayID>& displays) {
+    std::vector<std::string> names;
+    DisplayServices* services = displayServices();
+    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
+    for (std::size_t i = 0; online != nullptr && i < online->size(); ++i) {
+        if (displays.contains((*online)[i].id)) {
+            names.push_back((*online)[i].name);
+        }
+    }
+    return names;
+}
+
 } // namespace
 
 const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
     static constexpr std::span<const std::string_view> kNone;
     static constexpr std::array kEffects = {kGroupEffect};
     static constexpr std::array kSchedules = {kUseSchedule, kSchedule, kPlace};
+    static constexpr std::array kRuleSettings = {kUseRules, kRules};
     static constexpr std::array kDim = {kDimLevel.key};
     static constexpr std::array kHue = {kColorFilterHue.key};
     static constexpr std::array kVividness = {kColorFilterVividness.key};
@@ -65,7 +82,9 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
         {"Ruler", {&ToldState::ruler, kNone}},
         {"RulesUntil", {&ToldState::rulesUntil, kNone}},
         {"RuledLook", {&ToldState::ruledLook, kNone}},
+        {"Rule", {&ToldState::rule, kNone}},
         {"Schedule", {&ToldState::schedule, kSchedules}},
+        {"Rules", {&ToldState::rules, kRuleSettings}},
         {"DisplayServices", {&ToldState::displayServicesName, kNone}},
         {"Displays", {&ToldState::displays, kAffectedScreenSettings}},
         {"AbsentDisplays", {&ToldState::absentDisplays, kAffectedScreenSettings}},
@@ -120,13 +139,26 @@ BusValue ToldState::ruler() const {
 }
 
 BusValue ToldState::rulesUntil() const {
-    const std::optional<Moment> until =
-        controller_.isPausedForScreenSaver() ? std::nullopt : controller_.ruling().until;
-    return until ? static_cast<std::int64_t>(until->time_since_epoch().count()) : std::int64_t{0};
+    return controller_.isPausedForScreenSaver() ? std::int64_t{0} : endOf(controller_.ruling());
 }
 
 BusValue ToldState::ruledLook() const {
     return controller_.isPausedForScreenSaver() ? std::string() : controller_.ruling().look;
+}
+
+BusValue ToldState::rule() const {
+    return controller_.isPausedForScreenSaver() ? std::string() : controller_.ruling().rule;
+}
+
+BusValue ToldState::rules() const {
+    std::vector<BusDictionary> list;
+    for (const ListedRule& rule : automation_.rules().listed()) {
+        list.push_back({{"rule", rule.words},
+                        {"holds", rule.holds},
+                        {"screens", namesOf(rule.filled)},
+                        {"problem", rule.problem}});
+    }
+    return list;
 }
 
 BusValue ToldState::schedule() const {
@@ -163,6 +195,7 @@ BusValue ToldState::displays() const {
                 return each->screenID() == info.id && each->hasCurve() && info.rampSize != 0 &&
                        info.obstacle == Obstacle::none;
             });
+        const Ruling ruling = controller_.ruling(info.id);
         list.push_back({{"number", static_cast<std::int32_t>(i) + 1},
                         {"id", info.id},
                         {"name", info.name},
@@ -172,7 +205,12 @@ BusValue ToldState::displays() const {
                         {"affected", inSet},
                         {"applied", applied},
                         {"heldByOther", info.obstacle == Obstacle::heldByOther},
-                        {"obstacle", toldObstacle(info.obstacle)}});
+                        {"obstacle", toldObstacle(info.obstacle)},
+                        {"on", ruling.isOn},
+                        {"ruler", std::string(nameOf(ruling.by))},
+                        {"rulesUntil", endOf(ruling)},
+                        {"ruledLook", ruling.look},
+                        {"rule", ruling.rule}});
     }
     return list;
 }

@@ -53,7 +53,9 @@ class ToldState {
     BusValue ruler() const;
     BusValue rulesUntil() const;
     BusValue ruledLook() const;
+    BusValue rule() const;
     BusValue schedule() const;
+    BusValue rules() const;
     BusValue displayServicesName() const;
     BusValue displays() const;
     BusValue absentDisplays() const;

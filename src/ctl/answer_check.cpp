@@ -70,7 +70,12 @@ bool isDisplay(const Json& value) {
                                                             {"affected", isBoolean},
                                                             {"applied", isBoolean},
                                                             {"heldByOther", isBoolean, true},
-                                                            {"obstacle", isText, true}});
+                                                            {"obstacle", isText, true},
+                                                            {"on", isBoolean, true},
+                                                            {"ruler", isText, true},
+                                                            {"rulesUntil", isInteger, true},
+                                                            {"ruledLook", isText, true},
+                                                            {"rule", isText, true}});
     return fit(value, kMembers, Answer::whole);
 }
 
@@ -101,6 +106,14 @@ bool isPoint(const Json& value) {
     return fit(value, kMembers, Answer::whole);
 }
 
+bool isRule(const Json& value) {
+    static constexpr auto kMembers = std::to_array<Member>({{"rule", isText},
+                                                            {"holds", isBoolean},
+                                                            {"screens", isListOf<isText>},
+                                                            {"problem", isText}});
+    return fit(value, kMembers, Answer::whole);
+}
+
 } // namespace
 
 void checkAnswer(const Json& properties, Answer answer) {
@@ -110,7 +123,9 @@ void checkAnswer(const Json& properties, Answer answer) {
                                {"ruler", isText, true},
                                {"rulesUntil", isInteger, true},
                                {"ruledLook", isText, true},
+                               {"rule", isText, true},
                                {"schedule", isListOf<isPoint>, true},
+                               {"rules", isListOf<isRule>, true},
                                {"displayServices", isText},
                                {"displays", isListOf<isDisplay>},
                                {"absentDisplays", isListOf<isAbsentDisplay>, true},

@@ -44,7 +44,7 @@ Shown shown(const Json& properties) {
     }
     const EffectState state = toldState(properties);
     const std::string sentence = stateSentence(state);
-    if (!state.isOn) {
+    if (!properties["active"].get<bool>()) {
         return state.isPaused() ? Shown{translated("Paused"), "paused", 100, sentence}
                                 : Shown{translated("Off"), "off", 100, sentence};
     }

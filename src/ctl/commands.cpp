@@ -11,6 +11,7 @@
 #include "ctl/pause_verb.h"
 #include "ctl/report.h"
 #include "ctl/restore.h"
+#include "ctl/rules_verb.h"
 #include "ctl/schedule_verb.h"
 #include "ctl/screen_verbs.h"
 #include "ctl/setting_text.h"
@@ -21,6 +22,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -253,6 +255,13 @@ constexpr std::array kCommands = std::to_array<Command>({
          "A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a\n"
          "time of day it may have dawn, sunrise, sunset or dusk. list and next take --json."),
      runSchedule},
+    {"rules", "[list | add RULE | remove N | on | off]",
+     ListedText("Show or change what happens while programs are in front"),
+     ListedText(
+         "A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,\n"
+         "program mpv Warm evening. The first one that holds for a display counts. list takes\n"
+         "--json."),
+     runRules},
     {"status", "[--all | --json | --bar[=BAR] [--follow]]",
      ListedText("Show the state of everything"),
      ListedText(
@@ -346,6 +355,14 @@ std::string joined(Arguments words) {
         text += (text.empty() ? "" : " ") + word;
     }
     return text;
+}
+
+std::uint32_t indexFrom(const std::string& text) {
+    std::uint32_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, number);
+    expect(error == std::errc() && rest == end && number > 0);
+    return number - 1;
 }
 
 void keepColors() {

@@ -2,6 +2,7 @@
 
 #include "base/texts/translated.h"
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +13,9 @@ using Arguments = std::span<const std::string>;
 
 /// What was typed without quotation marks.
 std::string joined(Arguments words);
+
+/// The index, from 0, of what a user counts from 1. Throws Failure for other texts.
+std::uint32_t indexFrom(const std::string& text);
 
 /// One verb of the command line.
 struct Command {

@@ -23,29 +23,15 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::array kStatusOrder = std::to_array<const char*>({"active",
-                                                                "paused",
-                                                                "ruler",
-                                                                "rulesUntil",
-                                                                "ruledLook",
-                                                                "schedule",
-                                                                "displayServices",
-                                                                "displays",
-                                                                "absentDisplays",
-                                                                "effects",
-                                                                "dimLevel",
-                                                                "colorFilterHue",
-                                                                "colorFilterVividness",
-                                                                "temperature",
-                                                                "look",
-                                                                "looks",
-                                                                "affectedScreenSet",
-                                                                "hotKey",
-                                                                "disturbances",
-                                                                "disturber"});
-constexpr std::array<const char*, 10> kDisplayOrder = {
-    "number",   "id",       "name",    "monitor",     "main",
-    "rampSize", "affected", "applied", "heldByOther", "obstacle"};
+constexpr std::array kStatusOrder = std::to_array<const char*>(
+    {"active",         "paused",   "ruler",    "rulesUntil",        "ruledLook",
+     "rule",           "schedule", "rules",    "displayServices",   "displays",
+     "absentDisplays", "effects",  "dimLevel", "colorFilterHue",    "colorFilterVividness",
+     "temperature",    "look",     "looks",    "affectedScreenSet", "hotKey",
+     "disturbances",   "disturber"});
+constexpr std::array kDisplayOrder = std::to_array<const char*>(
+    {"number", "id", "name", "monitor", "main", "rampSize", "affected", "applied", "heldByOther",
+     "obstacle", "on", "ruler", "rulesUntil", "ruledLook", "rule"});
 
 // The named members in that order, then whatever else there is.
 Json ordered(const Json& object, std::span<const char* const> order) {
@@ -144,6 +130,24 @@ std::string disturbanceReport(const Json& properties) {
            '\n';
 }
 
+/// Who says what is shown; `told` is all properties or those of a display.
+Ruling toldRuling(const Json& told, bool isOn) {
+    Ruling ruling;
+    ruling.by = rulerNamed(told.value("ruler", "")).value_or(Ruler::settings);
+    ruling.isOn = isOn;
+    ruling.look = told.value("ruledLook", "");
+    ruling.rule = told.value("rule", "");
+    if (const auto until = told.value("rulesUntil", std::int64_t{0}); until != 0) {
+        ruling.until = Moment(std::chrono::seconds(until));
+    }
+    return ruling;
+}
+
+bool isApart(const Ruling& its, const Ruling& usual) {
+    return its.by != usual.by || its.look != usual.look || its.rule != usual.rule ||
+           its.until != usual.until;
+}
+
 } // namespace
 
 std::string titleOfLookNamed(const Json& properties, const std::string& name) {
@@ -156,14 +160,14 @@ std::string titleOfLookNamed(const Json& properties, const std::string& name) {
 }
 
 EffectState toldState(const Json& properties) {
-    const auto ruler = rulerNamed(properties.value("ruler", ""));
+    const Ruling usual = toldRuling(properties, properties["active"].get<bool>());
     EffectState state;
-    state.isOn = properties["active"].get<bool>();
-    state.isPausedForScreenSaver = properties.value("paused", false) && !ruler;
-    state.ruler = ruler.value_or(Ruler::settings);
-    if (const auto until = properties.value("rulesUntil", std::int64_t{0}); until != 0) {
-        state.until = Moment(std::chrono::seconds(until));
-    }
+    state.isOn = usual.isOn;
+    state.isPausedForScreenSaver =
+        properties.value("paused", false) && !rulerNamed(properties.value("ruler", ""));
+    state.ruler = usual.by;
+    state.until = usual.until;
+    state.rule = usual.rule;
     state.now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
     state.effects = properties["effects"].get<std::vector<std::string>>();
     state.dimLevel = properties["dimLevel"].get<double>();
@@ -176,6 +180,14 @@ EffectState toldState(const Json& properties) {
             state.screens.push_back(plain(display["name"]));
             if (!display.value("obstacle", "").empty()) {
                 state.without.push_back(state.screens.back());
+            }
+            const bool isOn = display.value("on", usual.isOn);
+            const Ruling its = toldRuling(display, isOn);
+            if (!display.contains("ruler") || !isApart(its, usual)) {
+                state.isOn = state.isOn && isOn; // others may show an effect all the same
+            } else {
+                state.apart.push_back(
+                    {state.screens.back(), its, titleOfLookNamed(properties, its.look)});
             }
         }
     }

@@ -7,7 +7,6 @@
 #include "ctl/report.h"
 #include "settings/schedule_points.h"
 
-#include <charconv>
 #include <chrono>
 #include <cstdint>
 #include <string>
@@ -69,14 +68,6 @@ void printNext(const Json& properties, const Json& points, bool asJson) {
     } else {
         print(when(next) + "  " + shown(properties, next) + '\n');
     }
-}
-
-std::uint32_t indexFrom(const std::string& text) {
-    std::uint32_t number = 0;
-    const char* end = text.data() + text.size();
-    const auto [rest, error] = std::from_chars(text.data(), end, number);
-    expect(error == std::errc() && rest == end && number > 0);
-    return number - 1;
 }
 
 } // namespace

@@ -74,7 +74,8 @@ PropertyValue fromText(const Setting& setting, std::string_view text) {
     case SettingType::displayNumbers:
         return listFromText(text, numberFromText<std::int64_t>);
     case SettingType::schedulePoints:
-        return listFromText(text, [](std::string_view point) { return std::string(point); });
+    case SettingType::rules:
+        return listFromText(text, [](std::string_view words) { return std::string(words); });
     case SettingType::place:
         break;
     }

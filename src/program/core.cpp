@@ -23,7 +23,7 @@ Core::Core(DefaultsStore& store, EventLoop& loop)
       disturbances(controller, centers.local,
                    [this](auto answer) { disturberFinder.find(std::move(answer)); }),
       looks(programFile("looks", NOCTURO_DATA_FROM_BIN), dataDirectory() / "looks", centers.local),
-      clock(runLoop), automation(defaults, centers.local, clock, looks, stateDirectory()),
+      clock(runLoop), automation(defaults, centers.local, clock, runLoop, looks, stateDirectory()),
       desktop(runLoop, sessionBus.get(), controller, defaults, centers, lookPicker),
       keepColors(controller, defaults, centers.local, runLoop),
       hooks(controller, chosenLook, centers.local, runLoop,

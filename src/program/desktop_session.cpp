@@ -4,6 +4,7 @@
 #include "base/notification_names.h"
 #include "program/connected_displays.h"
 #include "program/core.h"
+#include "program/rule_sources.h"
 #include "program/surroundings.h"
 
 namespace nocturo {
@@ -18,6 +19,7 @@ DesktopSession::DesktopSession(Core& core, const ConnectedDisplays& displays, XC
 }
 
 DesktopSession::~DesktopSession() {
+    core_.automation.rules().stopListening();
     core_.desktop.setKeyboardLayout(nullptr);
     core_.desktop.setXServer(nullptr);
     core_.desktop.sessionIsEnding = nullptr;
@@ -60,6 +62,8 @@ void DesktopSession::listen() {
                      DesktopSources::Surroundings{displays_.areOfXServer() ? server_ : nullptr,
                                                   loginSession(), core_.sessionBus.get(),
                                                   core_.systemBus.get()});
+    core_.automation.rules().setSources(
+        ruleSources(server_, waylandDisplayName(), core_.sessionBus.get(), core_.runLoop));
     looksWatch_.emplace(core_.looks.directories(), core_.runLoop,
                         [this] { core_.looks.directoriesDidChange(); });
 }

@@ -25,6 +25,8 @@ inline constexpr std::string_view kGroupEffect = "NDGroupEffect";
 inline constexpr std::string_view kUseSchedule = "UseSchedule";
 inline constexpr std::string_view kSchedule = "Schedule";   // of points in words
 inline constexpr std::string_view kPlace = "SchedulePlace"; // empty: the time zone's
+inline constexpr std::string_view kUseRules = "UseRules";
+inline constexpr std::string_view kRules = "Rules"; // in words
 
 /// A setting that is a real number. Users may choose from `lowest` to `highest`; what a file or a
 /// document holds beyond is used as it stands.

@@ -1,6 +1,7 @@
 #include "settings/settings_table.h"
 
 #include "settings/defaults_store.h"
+#include "settings/rule_words.h"
 #include "settings/schedule_points.h"
 #include "settings/selectable_effects.h"
 #include "settings/settings_keys.h"
@@ -22,9 +23,9 @@ Setting number(const RealSetting& setting, ListedText meaning) {
             false,       meaning,           SettingRange{setting.lowest, setting.highest}};
 }
 
-const std::array<Setting, 20>& rows() {
+const std::array<Setting, 22>& rows() {
     using enum SettingType;
-    static const std::array<Setting, 20> table = {{
+    static const std::array<Setting, 22> table = {{
         {kGroupEffect, effectNames, PropertyArray(), true, ListedText("the selected effects")},
         {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
         {kActivateOnClick, boolean, true, true,
@@ -52,6 +53,9 @@ const std::array<Setting, 20>& rows() {
          ListedText("the schedule: times with looks or off")},
         {kPlace, place, std::string(), false,
          ListedText("where the sun is looked at; empty: by the time zone")},
+        {kUseRules, boolean, true, true, ListedText("switch and choose looks by the rules")},
+        {kRules, rules, PropertyArray(), false,
+         ListedText("the rules: what is in front, with looks or off")},
         {kFluxWarned, boolean, false, false, ListedText("the f.lux warning was answered")},
     }};
     return table;
@@ -98,6 +102,21 @@ Refusal problemWithPoints(const std::string& key, const PropertyValue& value) {
         const auto* words = element.as<std::string>();
         if (words == nullptr || !schedulePoint(*words)) {
             return noPointSentence(words != nullptr ? *words : std::string());
+        }
+    }
+    return std::nullopt;
+}
+
+Refusal problemWithRules(const std::string& key, const PropertyValue& value) {
+    const auto* array = value.as<PropertyArray>();
+    if (array == nullptr || array->size() > kMostRules) {
+        return translated("\"%1$@\" takes a list of %2$@ rules at most.",
+                          {key, std::to_string(kMostRules)});
+    }
+    for (const PropertyValue& element : *array) {
+        const auto* words = element.as<std::string>();
+        if (words == nullptr || !ruleFromWords(*words)) {
+            return noRuleSentence(words != nullptr ? *words : std::string());
         }
     }
     return std::nullopt;
@@ -162,6 +181,7 @@ PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setti
     case SettingType::effectNames:
     case SettingType::displayNumbers:
     case SettingType::schedulePoints:
+    case SettingType::rules:
         break;
     }
     const PropertyArray* array = defaults.arrayForKey(setting.key);
@@ -191,6 +211,8 @@ std::optional<std::string> problemWith(const Setting& setting, const PropertyVal
         return problemWithPoints(key, value);
     case SettingType::place:
         return problemWithPlace(key, value);
+    case SettingType::rules:
+        return problemWithRules(key, value);
     }
     return std::nullopt;
 }

@@ -19,7 +19,8 @@ enum class SettingType {
     effectNames,
     displayNumbers,
     schedulePoints, // a list of texts
-    place           // a text
+    place,          // a text
+    rules           // a list of texts
 };
 
 /// What users may choose from, both ends included.

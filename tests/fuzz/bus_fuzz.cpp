@@ -157,7 +157,7 @@ struct World {
     Looks looks{"/nowhere", fuzz::ownDirectory() / "looks", local};
     ChosenLook chosenLook{looks};
     SystemWallClock clock{loop};
-    Automation automation{store, local, clock, looks, fuzz::ownDirectory()};
+    Automation automation{store, local, clock, loop, looks, fuzz::ownDirectory()};
     BusFace face;
     LookPicker lookPicker{controller, chosenLook};
     const RecentDocuments documents{fuzz::ownDirectory() / "recent.plist"};

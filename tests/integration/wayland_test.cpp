@@ -89,6 +89,25 @@ TEST_F(Wayland, FollowsOutputsAndTellsOfOneThatAnotherProgramHas) {
     EXPECT_EQ(status()["displays"][0]["heldByOther"], false);
 }
 
+TEST_F(Wayland, FollowsRulesForItsWindows) {
+    end();
+    session_.environment()["QT_QPA_PLATFORM"] = "wayland";
+    nocturo_ = session_.startNocturo();
+    ctl({"rules", "add", "fullscreen", "off"});
+    const std::string window = "[app_id=\".*\"]"; // the one that there is
+    sway_->tell({"for_window", window, "fullscreen", "enable"});
+    sway_->tell({"focus", "output", kSecond});
+    EXPECT_TRUE(becomes("ii"));
+    ctl({"preferences"});
+    EXPECT_TRUE(becomes("io"));
+    sway_->tell({window, "fullscreen", "disable"});
+    EXPECT_TRUE(becomes("ii"));
+    ctl({"rules", "add", "program", "org.nocturo.Nocturo", "off"});
+    EXPECT_TRUE(becomes("oo"));
+    sway_->tell({window, "kill"});
+    EXPECT_TRUE(becomes("ii"));
+}
+
 TEST_F(Wayland, GivesTheLineForADesktopThatGrantsNoHotKey) {
     ctl({"hotkey", "set", "ctrl+super+k"}); // by the keymap
     ctl({"hotkey", "enable"});

@@ -4,6 +4,8 @@
 
 #include "app/look_picker.h"
 #include "app/looks_menu.h"
+#include "automation/filled_displays.h"
+#include "automation/rules_setting.h"
 #include "automation/schedule_setting.h"
 #include "automation/time_zone_place.h"
 #include "base/local_time.h"
@@ -55,6 +57,8 @@ TEST(WhoWins, IsOneAnswerForEveryCombination) {
     EXPECT_EQ(told(whoWins({.hand = {{}, true}, .schedule = evening})), "hand on 7");
     EXPECT_EQ(told(whoWins({.hand = {{}, true}, .schedule = off})), "schedule off 7");
     EXPECT_EQ(told(whoWins({.hand = {{}, true}, .rule = rule, .schedule = evening})), "hand on 7");
+    EXPECT_EQ(told(whoWins({.hand = {false, false, true}, .rule = rule, .schedule = evening})),
+              "hand off");
 }
 
 TEST(LocalTime, FindsEveryClockTimeOnceADay) {
@@ -96,7 +100,7 @@ struct AutomationTest : ControllerFixture {
     TemporaryDirectory state_;
     FakeWallClock clock_{kNoon};
     Looks looks_{"/nowhere", state_ / "looks", center_};
-    Automation automation_{*store_, center_, clock_, looks_, state_.path()};
+    Automation automation_{*store_, center_, clock_, runLoop_, looks_, state_.path()};
 };
 
 TEST_F(AutomationTest, APauseEndsByTheClockOrByHand) {
@@ -152,7 +156,7 @@ TEST_F(AutomationTest, APauseAndTheScreenSaverDoNotWakeEachOther) {
 TEST_F(AutomationTest, APauseOutlivesTheProgram) {
     const auto restarted = [&](Moment now) {
         FakeWallClock clock(now);
-        Automation next(*store_, center_, clock, looks_, state_.path());
+        Automation next(*store_, center_, clock, runLoop_, looks_, state_.path());
         next.start();
         return ::told(next.ruling(true));
     };
@@ -339,4 +343,179 @@ TEST_F(ScheduledTest, BadPointsAreToldAndLoseNothing) {
     EXPECT_FALSE(addSchedulePoint(*store_, looks_, "13:00 off")) << "full";
     EXPECT_TRUE(removeSchedulePoint(*store_, 0));
     EXPECT_FALSE(removeSchedulePoint(*store_, 9999));
+}
+
+TEST(RuleWords, AreReadAndWritten) {
+    for (const char* words : {"fullscreen off", "game Warm evening", "program mpv Night reading",
+                              "program \"Two words\" off", "program off off"}) {
+        const auto rule = ruleFromWords(words);
+        ASSERT_TRUE(rule) << words;
+        EXPECT_EQ(textOf(*rule), words);
+    }
+    for (const char* wrong :
+         {"", "fullscreen", "fullscreen ", "game", "program", "program mpv", "program mpv ",
+          "program \"mpv off", "program \"\" off", "program \"a\"b off", "window off", " off"}) {
+        EXPECT_FALSE(ruleFromWords(wrong)) << wrong;
+    }
+}
+
+TEST(FilledDisplays, AreThoseOfTheTopmostWindowThatMatters) {
+    const std::vector<DisplayInfo> displays = {{1, "", {0, 0, 100, 100}},
+                                               {2, "", {100, 0, 100, 100}}};
+    using Ids = std::set<CGDirectDisplayID>;
+    constexpr DisplayRect kFirst = {0, 0, 100, 100};
+    const StackedWindow film{kFirst, true, true, true};
+    const StackedWindow game{kFirst, true, true}; // without a frame
+    const auto filled = [&](const std::vector<StackedWindow>& stack) {
+        return filledDisplays(stack, displays);
+    };
+    const auto above = [&](const StackedWindow& window) { return filled({window, film}); };
+    EXPECT_EQ(filled({film}), Ids{1});
+    EXPECT_EQ(filled({game}), Ids{1});
+    EXPECT_EQ(filled({{kFirst, true, false, true}}), Ids{1}) << "whatever its type";
+    EXPECT_EQ(filled({{{-10, -10, 65535, 65535}, true, true, true}}), (Ids{1, 2}));
+    EXPECT_EQ(filled({{kFirst, false, true, true}}), Ids());
+    EXPECT_EQ(filled({{kFirst, true, false}}), Ids()) << "the desktop's background";
+    EXPECT_EQ(filled({{kFirst, true, true, false, true}}), Ids()) << "maximized";
+    EXPECT_EQ(filled({{{0, 0, 100, 99}, true, true, true}}), Ids());
+    EXPECT_EQ(filled({{{0, 0, 0, 0}, true, true, true}}), Ids());
+    EXPECT_EQ(above({{0, 0, 20, 20}, true, true}), Ids{1}) << "a picture in the picture";
+    EXPECT_EQ(above({{0, 0, 100, 50}, true, true}), Ids());
+    EXPECT_EQ(above({{0, 0, 20, 20}, true, true, false, false, true}), Ids()) << "worked in";
+    EXPECT_EQ(above({{0, 0, 20, 20}, true, false, false, false, true}), Ids{1}) << "a dialog";
+    EXPECT_EQ(above({{120, 0, 20, 20}, true, true, false, false, true}), Ids{1}) << "elsewhere";
+}
+
+/// With two displays and a desktop whose windows are what the test says.
+struct RulesTest : AutomationTest {
+    struct Told : Foreground, Games {
+        explicit Told(RulesTest& test) : test_(test) { ++test_.listening_; }
+        ~Told() override { --test_.listening_; }
+        bool isTold() const override { return true; }
+        const InFront& inFront() const override { return test_.inFront_; }
+        void displaysDidChange() override {}
+        bool areRunning() const override { return test_.isGaming_; }
+        RulesTest& test_;
+    };
+    RulesTest() {
+        hardware_.addUpTo(2);
+        center_.post(NSApplicationDidChangeScreenParametersNotification);
+        EXPECT_TRUE(looks_.save("Dark", {.dim = true, .dimLevel = -1}));
+        automation_.rules().setSources({[this](bool, auto changed) {
+                                            changed_ = changed;
+                                            return std::make_unique<Told>(*this);
+                                        },
+                                        [this](auto changed) {
+                                            changed_ = changed;
+                                            return std::make_unique<Told>(*this);
+                                        }});
+    }
+    void add(const char* words) { EXPECT_TRUE(addRule(*store_, looks_, words)) << words; }
+    void now(InFront inFront, bool isGaming = false) {
+        inFront_ = std::move(inFront);
+        isGaming_ = isGaming;
+        changed_();
+    }
+    /// One letter a display: i inverted, b black, o its own ramp.
+    std::string shown() {
+        std::string letters;
+        for (const std::uint32_t crtc : {1, 2}) {
+            const Ramp& ramp = hardware_.ramps.at(crtc);
+            letters += ramp.red.back() != 0 ? 'o' : ramp.red.front() != 0 ? 'i' : 'b';
+        }
+        return letters;
+    }
+    int listening_ = 0;
+    InFront inFront_;
+    bool isGaming_ = false;
+    std::function<void()> changed_;
+};
+
+TEST_F(RulesTest, HoldForTheDisplayThatIsFilledOrForAll) {
+    EXPECT_EQ(listening_, 0);
+    add("fullscreen off");
+    add("program MPV dark");
+    add("game off");
+    EXPECT_EQ(listening_, 2);
+    EXPECT_EQ(shown(), "ii");
+    now({{}, {id("D1")}});
+    EXPECT_EQ(shown(), "oi");
+    EXPECT_EQ(controller_.ruling().by, Ruler::settings) << "of the others";
+    EXPECT_EQ(::told(controller_.ruling(id("D1"))), "rule off");
+    now({{"gl", "mpv"}, {id("D1")}});
+    EXPECT_EQ(shown(), "ob") << "the first rule counts";
+    now({{"gl", "mpv"}, {id("D1"), id("D2")}});
+    EXPECT_EQ(shown(), "oo");
+    EXPECT_FALSE(controller_.effectActive());
+    EXPECT_EQ(controller_.ruling().rule, "fullscreen off");
+    now({}, true);
+    runLoop_.advance(1000);
+    EXPECT_EQ(controller_.ruling().rule, "game off");
+    EXPECT_TRUE(store_->boolForKey(kEffectActive)) << "the user's";
+    store_->setBool(false, kUseRules);
+    EXPECT_EQ(shown(), "ii");
+    EXPECT_EQ(listening_, 0);
+    EXPECT_TRUE(removeRule(*store_, 2));
+    EXPECT_FALSE(removeRule(*store_, 2));
+}
+
+TEST_F(RulesTest, ComeAtOnceAndGoOnceNothingChangesForASecond) {
+    add("fullscreen off");
+    for (int flaps = 0; flaps < 5; ++flaps) {
+        now({{}, {id("D1")}});
+        EXPECT_EQ(shown(), "oi");
+        runLoop_.advance(3000);
+        now({});
+        runLoop_.advance(999);
+    }
+    EXPECT_EQ(shown(), "oi");
+    runLoop_.advance(1);
+    EXPECT_EQ(shown(), "ii");
+    EXPECT_EQ(runLoop_.pendingTimers(), 1U) << "that applies the effect again";
+}
+
+TEST_F(RulesTest, YieldToTheHandUntilOthersHold) {
+    add("fullscreen off");
+    now({{}, {id("D1")}});
+    controller_.toggleGlobalEffect();
+    EXPECT_EQ(shown(), "oo");
+    controller_.toggleGlobalEffect();
+    EXPECT_EQ(shown(), "ii");
+    EXPECT_EQ(::told(controller_.ruling(id("D1"))), "hand on");
+    now({});
+    runLoop_.advance(1000);
+    EXPECT_EQ(told(), "settings on");
+    now({{}, {id("D1")}});
+    EXPECT_EQ(shown(), "oi") << "the next film";
+    EXPECT_TRUE(automation_.pause(""));
+    EXPECT_EQ(shown(), "oo");
+    automation_.resume();
+    store_->setObject(PropertyArray{static_cast<std::int64_t>(id("D1"))}, kAffectedScreenSet);
+    EXPECT_FALSE(controller_.effectActive());
+    store_->setObject(PropertyArray{static_cast<std::int64_t>(id("D2"))}, kAffectedScreenSet);
+    EXPECT_EQ(shown(), "oi");
+}
+
+TEST_F(RulesTest, ThatAreBadAreToldAndLoseNothing) {
+    PropertyArray rules(10000, "program mpv dark");
+    rules[0] = "window off";
+    rules[1] = std::int64_t{7};
+    rules[2] = "fullscreen Gone";
+    store_->setObject(rules, kRules);
+    now({{"mpv"}, {id("D1")}});
+    EXPECT_EQ(shown(), "bb");
+    const auto listed = automation_.rules().listed();
+    ASSERT_EQ(listed.size(), kMostRules);
+    for (std::size_t i = 0; i < listed.size(); ++i) {
+        EXPECT_EQ(listed[i].problem.empty(), i > 2) << i;
+        EXPECT_EQ(listed[i].holds, i > 2) << i;
+    }
+    EXPECT_EQ(store_->arrayForKey(kRules)->size(), 10000U);
+    EXPECT_FALSE(addRule(*store_, looks_, "game off")) << "full";
+    EXPECT_TRUE(looks_.remove("Dark"));
+    EXPECT_EQ(shown(), "ii");
+    automation_.rules().setSources({[](bool, auto) { return nullptr; }, {}});
+    store_->setObject(PropertyArray{"program mpv off"}, kRules);
+    EXPECT_FALSE(automation_.rules().canSeeWindows());
+    EXPECT_THAT(automation_.rules().listed().at(0).problem, testing::HasSubstr("does not tell"));
 }

@@ -1,0 +1,39 @@
+#include "automation/rules_setting.h"
+
+#include "automation/word_list.h"
+#include "base/texts/translated.h"
+#include "documents/looks.h"
+#include "settings/rule_words.h"
+#include "settings/settings_keys.h"
+
+#include <string>
+
+namespace nocturo {
+
+Result<void> addRule(DefaultsStore& defaults, Looks& looks, std::string_view words) {
+    auto rule = ruleFromWords(words);
+    if (!rule) {
+        return failed(noRuleSentence(std::string(words)));
+    }
+    if (!rule->look.empty()) {
+        const Look* look = looks.named(rule->look);
+        if (look == nullptr) {
+            return failed(translated("There is no look \"%@\".", {rule->look}));
+        }
+        rule->look = look->name;
+    }
+    if (!addWords(defaults, kRules, textOf(*rule), kMostRules)) {
+        return failed(translated("\"%1$@\" takes a list of %2$@ rules at most.",
+                                 {std::string(kRules), std::to_string(kMostRules)}));
+    }
+    return {};
+}
+
+Result<void> removeRule(DefaultsStore& defaults, std::size_t index) {
+    if (!removeWords(defaults, kRules, index)) {
+        return failed(translated("There is no rule %@.", {std::to_string(index + 1)}));
+    }
+    return {};
+}
+
+} // namespace nocturo

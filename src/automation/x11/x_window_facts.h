@@ -1,0 +1,32 @@
+#pragma once
+
+#include "automation/filled_displays.h"
+#include "x11/x_connection.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace nocturo {
+
+/// Stands in a window's facts for all desktops of a window manager, or for none that it tells.
+inline constexpr std::uint32_t kEveryDesktop = 0xFFFFFFFF;
+
+/// What a client's window says of itself, and what the server says of it.
+struct XWindowFacts {
+    StackedWindow
+        window; // `isVisible` whatever the desktop; whether it is active is not known here
+    std::uint32_t desktop = kEveryDesktop;
+};
+
+/// The facts of each of the windows, in order, by one round trip. A window that has gone is not
+/// visible, and what is of another type than it should be counts as not there.
+std::vector<XWindowFacts> factsOf(XConnection& server, const std::vector<xcb_window_t>& windows);
+
+/// Has the server's numbers for all names that are needed here asked for at once.
+void expectAtomsOfFacts(XConnection& server);
+
+/// What the program of a window is called: both parts of its class; empty where it has none.
+std::vector<std::string> programOf(XConnection& server, xcb_window_t window);
+
+} // namespace nocturo
