@@ -17,6 +17,7 @@
 #include "hotkeys/keyboard/xkb_keyboard_layout.h"
 #include "hotkeys/x11/x11_hot_key_service.h"
 #include "rig/session.h"
+#include "rig/x_window.h"
 #include "running_costs.h"
 #include "settings/defaults_store.h"
 #include "x11/x_connection.h"
@@ -194,6 +195,38 @@ void measureHotKey(rig::Session& session, BusClient& client) {
                 percentile(samples, 0.99) / 1000.0, 5.0, "ms");
 }
 
+/// From a window's change to the last display's ramp seen changed by another program. The rules
+/// stay, and so do their windows' part of the desktop, which is played here.
+void measureRules(rig::Session& session, BusClient& client) {
+    rig::XClient observer(session.server().display());
+    const std::uint32_t last = observer.crtcOf("DUMMY3");
+    rig::XWindow film(session.server().display(), "film", 0, 0);
+    client.call("SetActive", true);
+    for (const char* rule : {"fullscreen off", "program film off", "game off"}) {
+        client.call("AddRule", std::string(rule));
+    }
+    observer.setRootProperty("_NET_SUPPORTING_WM_CHECK", {film.id()});
+    observer.setRootProperty("_NET_CLIENT_LIST_STACKING", {film.id()});
+    std::vector<double> samples;
+    for (int i = 0; i < 200; ++i) {
+        client.callSetSetting("UseRules", false); // or the rule would hold for a second
+        film.place(0, 0, 100, 80);
+        observer.setRootProperty("_NET_ACTIVE_WINDOW", {0});
+        client.callSetSetting("UseRules", true);
+        const auto before = observer.ramp(last);
+        const auto start = SteadyClock::now();
+        if (i % 2 == 0) {
+            film.place(3 * rig::XServer::kWidth, 0, rig::XServer::kWidth, rig::XServer::kHeight);
+        } else {
+            observer.setRootProperty("_NET_ACTIVE_WINDOW", {film.id()});
+        }
+        waitForChange(observer, last, before);
+        samples.push_back(microsecondsSince(start));
+    }
+    printFigure("rule, from a window's change to the last of four ramps, p99",
+                percentile(samples, 0.99) / 1000.0, 50.0, "ms");
+}
+
 void measureReapplication(rig::Session& session) {
     const auto connection = XConnection::open(session.server().display());
     auto hardware = RandrHardware::open(connection.get());
@@ -237,6 +270,7 @@ void run() {
     BusClient client;
     measureChanges(session, client);
     measureHotKey(session, client);
+    measureRules(session, client);
     printWakeUps(*nocturo, client);
 }
 
