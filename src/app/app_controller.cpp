@@ -1,6 +1,7 @@
 #include "app/app_controller.h"
 
 #include "app/desktop_face.h"
+#include "app/online_displays.h"
 #include "app/user_interface.h"
 #include "automation/automation.h"
 #include "base/notification_names.h"
@@ -15,9 +16,7 @@
 #include "settings/settings_keys.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
-#include <span>
 #include <utility>
 
 namespace nocturo {
@@ -30,36 +29,9 @@ constexpr auto kReapplicationPeriod = 6000ms;
 constexpr auto kModeChangeDelay = 50ms;
 constexpr std::string_view kToggleAction = "toggleGlobalEffect:";
 
-// The first ten online displays; empty when they cannot be listed.
-class OnlineDisplays {
-  public:
-    OnlineDisplays() {
-        if (CGGetOnlineDisplayList(kZQMaxDisplays, ids_.data(), &count_) != kCGErrorSuccess) {
-            count_ = 0;
-        }
-    }
-    std::span<const CGDirectDisplayID> ids() const { return std::span(ids_).first(count_); }
-
-  private:
-    std::array<CGDirectDisplayID, kZQMaxDisplays> ids_{};
-    std::uint32_t count_ = 0;
-};
-
 template <typename Range, typename Value>
 bool contains(const Range& range, const Value& value) {
     return std::find(range.begin(), range.end(), value) != range.end();
-}
-
-constexpr CGDirectDisplayID kNoneInParticular = 0;
-
-std::vector<CGDirectDisplayID> affectedDisplays(const DefaultsStore& defaults) {
-    const std::vector<double> affected = affectedScreenSet(defaults);
-    const OnlineDisplays online;
-    std::vector<CGDirectDisplayID> displays(online.ids().begin(), online.ids().end());
-    std::erase_if(displays, [&](CGDirectDisplayID display) {
-        return !affected.empty() && !contains(affected, static_cast<double>(display));
-    });
-    return displays;
 }
 
 } // namespace
@@ -161,74 +133,9 @@ void NDAppController::giveDisplaysBack() {
 }
 
 Fades::Length NDAppController::lengthOfFades() const {
-    const float seconds = std::clamp(defaults_.floatForKey(kFadeSeconds), kFadeSeconds.lowest,
-                                     kFadeSeconds.highest);
+    const float seconds =
+        std::clamp(defaults_.floatForKey(kFadeSeconds), kFadeSeconds.lowest, kFadeSeconds.highest);
     return std::chrono::duration_cast<Fades::Length>(std::chrono::duration<float>(seconds));
-}
-
-Ruling NDAppController::ruling(CGDirectDisplayID display) const {
-    return automation_ != nullptr ? automation_->ruling(isSwitchedOn_, display)
-                                  : Ruling{{isSwitchedOn_}, Ruler::settings};
-}
-
-Ruling NDAppController::ruling() const {
-    const Ruling usual = ruling(kNoneInParticular);
-    const auto displays = affectedDisplays(defaults_);
-    const bool isThere =
-        displays.empty() || std::any_of(displays.begin(), displays.end(),
-                                        [&](auto display) { return ruling(display) == usual; });
-    return isThere ? usual : ruling(displays.front());
-}
-
-bool NDAppController::isWanted() const {
-    const auto displays = affectedDisplays(defaults_);
-    return displays.empty() ? ruling(kNoneInParticular).isOn
-                            : std::any_of(displays.begin(), displays.end(),
-                                          [this](auto display) { return ruling(display).isOn; });
-}
-
-std::string NDAppController::titleOfLook(const Ruling& ruling) const {
-    return automation_ != nullptr ? automation_->titleOfLook(ruling) : std::string();
-}
-
-std::shared_ptr<NDEffect> NDAppController::effectInForce(CGDirectDisplayID display) const {
-    auto ruled = automation_ != nullptr ? automation_->effectOf(ruling(display)) : nullptr;
-    return ruled != nullptr ? ruled : globalEffect_;
-}
-
-void NDAppController::takeRuledEffects() {
-    for (const auto& controller : *screenControllers_) {
-        auto effect = effectInForce(controller->screenID());
-        if (effect.get() != &controller->effect()) {
-            controller->setEffect(std::move(effect));
-            controller->updateEffect();
-        }
-    }
-}
-
-void NDAppController::pause(std::string_view words) {
-    if (automation_ != nullptr) {
-        static_cast<void>(automation_->pause(words)); // menus have words that are understood
-    }
-}
-
-void NDAppController::followRuling() {
-    if (!isReady() || paused_) {
-        return; // the end of the screen saver asks again
-    }
-    const bool isOn = isWanted();
-    if (isOn && !effectActive() && saverRuns_) {
-        screenSaverDidStart();
-    }
-    if (paused_) {
-        return;
-    }
-    const auto change = changeOver(lengthOfFades());
-    if (isOn || effectActive()) {
-        switchEffect(isOn);
-    } else {
-        centers_.local.post(kEffectActivationNotification); // off by another word
-    }
 }
 
 void NDAppController::switchEffect(bool active) {
