@@ -339,7 +339,8 @@ void DesktopOnDemand::popUpStatusMenu(int x, int y) {
 
 void DesktopOnDemand::makeScreenMenus() {
     if (!displayNames_) {
-        displayNames_.emplace(stateDirectory() / "displays.plist", centers_.local);
+        displayNames_.emplace(userDirectory("XDG_CACHE_HOME", ".cache") / "nocturo/displays.plist",
+                              centers_.local);
     }
     menus_.makeScreenMenus();
     if (bus_ != nullptr) {
