@@ -95,6 +95,12 @@ TEST_F(RulesOnX, AreHurtByNothingThatWindowsSay) {
     EXPECT_TRUE(becomes("ii"));
     liar.place(-30000, -30000, 65535, 65535);
     EXPECT_TRUE(becomes("oo")) << "it does fill them";
+    const std::array maximized = {client_.atom("_NET_WM_STATE_MAXIMIZED_VERT"),
+                                  client_.atom("_NET_WM_STATE_MAXIMIZED_HORZ")};
+    liar.setProperty("_NET_WM_STATE", "ATOM", 32, 2, maximized.data());
+    EXPECT_TRUE(becomes("ii"));
+    liar.setProperty("_NET_WM_STATE", "STRING", 8, 3, "abc");
+    EXPECT_TRUE(becomes("oo"));
     liar.place(0, 0, 1, 1);
     EXPECT_TRUE(becomes("ii"));
     for (int i = 0; i < 50; ++i) {

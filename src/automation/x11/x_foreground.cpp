@@ -73,7 +73,10 @@ void XForeground::listen() {
         clientDidChange(reinterpret_cast<const xcb_unmap_notify_event_t&>(event).window);
     }));
     listeners_.push_back(server_.onEvent(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
-        clientDidChange(reinterpret_cast<const xcb_property_notify_event_t&>(event).window);
+        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+        if (isOfFacts(server_, change.atom)) {
+            clientDidChange(change.window);
+        }
     }));
 }
 

@@ -109,6 +109,11 @@ void expectAtomsOfFacts(XConnection& server) {
     }
 }
 
+bool isOfFacts(XConnection& server, xcb_atom_t property) {
+    return property == XCB_ATOM_WM_TRANSIENT_FOR || property == server.atom(kState) ||
+           property == server.atom(kType) || property == server.atom(kDesktop);
+}
+
 std::vector<std::string> programOf(XConnection& server, xcb_window_t window) {
     std::vector<std::string> names;
     const auto cookie = xcb_get_property(server.handle(), false, window, XCB_ATOM_WM_CLASS,

@@ -26,6 +26,9 @@ std::vector<XWindowFacts> factsOf(XConnection& server, const std::vector<xcb_win
 /// Has the server's numbers for all names that are needed here asked for at once.
 void expectAtomsOfFacts(XConnection& server);
 
+/// Whether a change of that property of a window may be one of its facts.
+bool isOfFacts(XConnection& server, xcb_atom_t property);
+
 /// What the program of a window is called: both parts of its class; empty where it has none.
 std::vector<std::string> programOf(XConnection& server, xcb_window_t window);
 
