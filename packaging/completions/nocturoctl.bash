@@ -17,7 +17,7 @@ _nocturoctl() {
   local effects='invert overexposure dim color-filter hdtv-luminance'
   local switches='ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver
     UseHotKey UseSchedule UseRules EffectActive ZQFluxWarned'
-  local settings="$switches Schedule SchedulePlace Rules NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers
+  local settings="$switches Schedule SchedulePlace Rules DisplayLooks NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers
     AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue
     NDColorFilterEffectVividness FadeSeconds"
   local choices=''
@@ -49,7 +49,7 @@ _nocturoctl() {
         ;;
       get:2 | set:2 | step:2 | reset:2) choices=$settings ;;
       set:3) [[ " $switches " != *[[:space:]]"$prev"[[:space:]]* ]] || choices='true false' ;;
-      screens:2) choices='all only add remove toggle' ;;
+      screens:2) choices='all only add remove toggle look' ;;
       screens:*) [[ ${words[2]} == all ]] || choices=$(_nocturoctl_displays) ;;
       hotkey:2) choices='set none enable disable' ;;
       open:2 | save:2)

@@ -18,7 +18,7 @@ end
 
 set -l effects invert overexposure dim color-filter hdtv-luminance
 set -l switches ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver UseHotKey UseSchedule UseRules EffectActive ZQFluxWarned
-set -l settings $switches Schedule SchedulePlace Rules NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness FadeSeconds
+set -l settings $switches Schedule SchedulePlace Rules DisplayLooks NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness FadeSeconds
 
 complete -c nocturoctl -f
 complete -c nocturoctl -l help -d 'Show help'
@@ -77,8 +77,8 @@ end
 for setting in $switches
     complete -c nocturoctl -n "__nocturoctl_after set $setting" -a 'true false'
 end
-complete -c nocturoctl -n '__nocturoctl_at screens 0' -a 'all only add remove toggle'
-complete -c nocturoctl -n '__fish_seen_subcommand_from screens; and __fish_seen_subcommand_from only add remove toggle' -a '(__nocturoctl_displays)'
+complete -c nocturoctl -n '__nocturoctl_at screens 0' -a 'all only add remove toggle look'
+complete -c nocturoctl -n '__fish_seen_subcommand_from screens; and __fish_seen_subcommand_from only add remove toggle look' -a '(__nocturoctl_displays)'
 complete -c nocturoctl -n '__nocturoctl_at hotkey 0' -a 'set none enable disable'
 complete -c nocturoctl -n '__nocturoctl_at open 0' -k -a '(__fish_complete_suffix .nocturo)'
 complete -c nocturoctl -n '__nocturoctl_at save 0' -k -a '(__fish_complete_suffix .nocturo)'

@@ -439,6 +439,10 @@
             <translation>%1$@; nach Zeitplan bis %2$@</translation>
         </message>
         <message>
+            <source>%@, its own look</source>
+            <translation>%@, ein eigener Look</translation>
+        </message>
+        <message>
             <source>Off</source>
             <translation>Aus</translation>
         </message>
@@ -783,10 +787,12 @@ Bildschirme, die es nicht gibt, werden ohne --force abgelehnt.</translation>
         <message>
             <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
 alone; toggle puts each into the set of affected displays or takes it out. An
-empty set means all displays, which is also what all chooses.</source>
+empty set means all displays, which is also what all chooses. look gives a display a
+look of its own; - takes it away.</source>
             <translation>DISPLAY ist die Nummer in der Liste, der Name oder die Kennung. only wählt nur diese;
 toggle nimmt jeden in die Menge der betroffenen auf oder aus ihr heraus. Eine leere
-Menge heißt alle Bildschirme; das wählt auch all.</translation>
+Menge heißt alle Bildschirme; das wählt auch all. look gibt
+einem Bildschirm einen eigenen Look, - nimmt ihn wieder weg.</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -1825,6 +1831,14 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <translation>Ohne Sitzungsbus kann dem laufenden Nocturo kein Dokument übergeben werden.</translation>
         </message>
         <message>
+            <source>"%@" is no identifier of a display with a look, such as 71524911 Night reading.</source>
+            <translation>„%@“ ist keine Kennung eines Bildschirms mit einem Look, wie etwa 71524911 Night reading.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ looks at most.</source>
+            <translation>„%1$@“ nimmt eine Liste von höchstens %2$@ Looks.</translation>
+        </message>
+        <message>
             <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
             <translation>„%@“ ist keine Regel wie fullscreen off oder program mpv Warm evening.</translation>
         </message>
@@ -1915,6 +1929,10 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
         <message>
             <source>the rules: what is in front, with looks or off</source>
             <translation>die Regeln: was vorn ist, mit Looks oder off</translation>
+        </message>
+        <message>
+            <source>displays by identifier with looks of their own</source>
+            <translation>Bildschirme mit eigenen Looks, nach Kennung</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -439,6 +439,10 @@
             <translation>%1$@; según el horario hasta %2$@</translation>
         </message>
         <message>
+            <source>%@, its own look</source>
+            <translation>%@, su propio aspecto</translation>
+        </message>
+        <message>
             <source>Off</source>
             <translation>Desactivado</translation>
         </message>
@@ -783,10 +787,12 @@ pantallas que no existen se rechazan sin --force.</translation>
         <message>
             <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
 alone; toggle puts each into the set of affected displays or takes it out. An
-empty set means all displays, which is also what all chooses.</source>
+empty set means all displays, which is also what all chooses. look gives a display a
+look of its own; - takes it away.</source>
             <translation>DISPLAY es su número en la lista, su nombre o su identificador. only elige solo estas;
 toggle pone cada una en el conjunto de las afectadas o la quita de él. Un conjunto
-vacío significa todas las pantallas, que es también lo que elige all.</translation>
+vacío significa todas las pantallas, que es también lo que elige all. look da a
+una pantalla un aspecto propio; - se lo quita.</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -1825,6 +1831,14 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <translation>Sin un bus de sesión no se puede pasar un documento al Nocturo en ejecución.</translation>
         </message>
         <message>
+            <source>"%@" is no identifier of a display with a look, such as 71524911 Night reading.</source>
+            <translation>«%@» no es el identificador de una pantalla con un aspecto, como 71524911 Night reading.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ looks at most.</source>
+            <translation>«%1$@» admite una lista de %2$@ aspectos como máximo.</translation>
+        </message>
+        <message>
             <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
             <translation>«%@» no es una regla como fullscreen off o program mpv Warm evening.</translation>
         </message>
@@ -1915,6 +1929,10 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
         <message>
             <source>the rules: what is in front, with looks or off</source>
             <translation>las reglas: lo que está delante, con aspectos u off</translation>
+        </message>
+        <message>
+            <source>displays by identifier with looks of their own</source>
+            <translation>pantallas con aspectos propios, por identificador</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -439,6 +439,10 @@
             <translation>%1$@ ; selon le programme jusqu’à %2$@</translation>
         </message>
         <message>
+            <source>%@, its own look</source>
+            <translation>%@, son apparence propre</translation>
+        </message>
+        <message>
             <source>Off</source>
             <translation>Désactivé</translation>
         </message>
@@ -783,10 +787,12 @@ Par exemple : nocturoctl set NDDimEffectLevel -30%. Les nombres hors de la plage
         <message>
             <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
 alone; toggle puts each into the set of affected displays or takes it out. An
-empty set means all displays, which is also what all chooses.</source>
+empty set means all displays, which is also what all chooses. look gives a display a
+look of its own; - takes it away.</source>
             <translation>DISPLAY est son numéro dans la liste, son nom ou son identifiant. only ne choisit que
 ceux-là ; toggle met chacun dans l’ensemble des écrans concernés ou l’en retire. Un
-ensemble vide signifie tous les écrans, ce que choisit aussi all.</translation>
+ensemble vide signifie tous les écrans, ce que choisit aussi all. look donne
+à un écran une apparence à lui ; - la retire.</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -1825,6 +1831,14 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <translation>Sans bus de session, aucun document ne peut être transmis au Nocturo en cours d’exécution.</translation>
         </message>
         <message>
+            <source>"%@" is no identifier of a display with a look, such as 71524911 Night reading.</source>
+            <translation>« %@ » n’est pas l’identifiant d’un écran suivi d’une apparence, comme 71524911 Night reading.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ looks at most.</source>
+            <translation>« %1$@ » accepte une liste de %2$@ apparences au plus.</translation>
+        </message>
+        <message>
             <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
             <translation>« %@ » n'est pas une règle comme fullscreen off ou program mpv Warm evening.</translation>
         </message>
@@ -1915,6 +1929,10 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
         <message>
             <source>the rules: what is in front, with looks or off</source>
             <translation>les règles : ce qui est au premier plan, avec des apparences ou off</translation>
+        </message>
+        <message>
+            <source>displays by identifier with looks of their own</source>
+            <translation>écrans ayant leur propre apparence, par identifiant</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -439,6 +439,10 @@
             <translation>%1$@（%2$@ までスケジュール）</translation>
         </message>
         <message>
+            <source>%@, its own look</source>
+            <translation>%@ (独自のルック)</translation>
+        </message>
+        <message>
             <source>Off</source>
             <translation>オフ</translation>
         </message>
@@ -782,10 +786,12 @@ that are not there are refused without --force.</source>
         <message>
             <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
 alone; toggle puts each into the set of affected displays or takes it out. An
-empty set means all displays, which is also what all chooses.</source>
+empty set means all displays, which is also what all chooses. look gives a display a
+look of its own; - takes it away.</source>
             <translation>DISPLAY は一覧の番号、名前、または識別子です。only はそれだけを選びます。toggle は
 それぞれを対象に加えたり、対象から外したりします。対象が空のときはすべての画面を
-意味し、all を選んだときも同じです。</translation>
+意味し、all を選んだときも同じです。look は画面に独自のルックを与え、
+- はそれを取り消します。</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -1824,6 +1830,14 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>セッションバスがないため、起動中の Nocturo にドキュメントを渡せません。</translation>
         </message>
         <message>
+            <source>"%@" is no identifier of a display with a look, such as 71524911 Night reading.</source>
+            <translation>「%@」は画面の識別子とルックではありません。例: 71524911 Night reading</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ looks at most.</source>
+            <translation>「%1$@」には最大 %2$@ 個のルックのリストを指定します。</translation>
+        </message>
+        <message>
             <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
             <translation>「%@」は fullscreen off や program mpv Warm evening のような規則ではありません。</translation>
         </message>
@@ -1914,6 +1928,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>the rules: what is in front, with looks or off</source>
             <translation>規則: 最前面にあるものと、ルックまたは off</translation>
+        </message>
+        <message>
+            <source>displays by identifier with looks of their own</source>
+            <translation>独自のルックを持つ画面 (識別子ごと)</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

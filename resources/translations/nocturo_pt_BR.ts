@@ -439,6 +439,10 @@
             <translation>%1$@; pela agenda até %2$@</translation>
         </message>
         <message>
+            <source>%@, its own look</source>
+            <translation>%@, seu próprio visual</translation>
+        </message>
+        <message>
             <source>Off</source>
             <translation>Desativado</translation>
         </message>
@@ -783,10 +787,12 @@ existem são recusados sem --force.</translation>
         <message>
             <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
 alone; toggle puts each into the set of affected displays or takes it out. An
-empty set means all displays, which is also what all chooses.</source>
+empty set means all displays, which is also what all chooses. look gives a display a
+look of its own; - takes it away.</source>
             <translation>DISPLAY é seu número na lista, seu nome ou seu identificador. only escolhe só essas;
 toggle põe cada uma no conjunto das telas afetadas ou a retira dele. Um conjunto
-vazio significa todas as telas, que é também o que all escolhe.</translation>
+vazio significa todas as telas, que é também o que all escolhe. look dá a
+uma tela um visual próprio; - o retira.</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -1825,6 +1831,14 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <translation>Sem um barramento de sessão, não é possível passar um documento ao Nocturo em execução.</translation>
         </message>
         <message>
+            <source>"%@" is no identifier of a display with a look, such as 71524911 Night reading.</source>
+            <translation>"%@" não é o identificador de uma tela com um visual, como 71524911 Night reading.</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ looks at most.</source>
+            <translation>"%1$@" aceita uma lista de no máximo %2$@ visuais.</translation>
+        </message>
+        <message>
             <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
             <translation>"%@" não é uma regra como fullscreen off ou program mpv Warm evening.</translation>
         </message>
@@ -1915,6 +1929,10 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
         <message>
             <source>the rules: what is in front, with looks or off</source>
             <translation>as regras: o que está na frente, com visuais ou off</translation>
+        </message>
+        <message>
+            <source>displays by identifier with looks of their own</source>
+            <translation>telas com visuais próprios, por identificador</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

@@ -439,6 +439,10 @@
             <translation>%1$@；按计划，至 %2$@</translation>
         </message>
         <message>
+            <source>%@, its own look</source>
+            <translation>%@，自己的外观方案</translation>
+        </message>
+        <message>
             <source>Off</source>
             <translation>关</translation>
         </message>
@@ -781,9 +785,11 @@ that are not there are refused without --force.</source>
         <message>
             <source>DISPLAY is its number in the list, its name or its identifier. only chooses these
 alone; toggle puts each into the set of affected displays or takes it out. An
-empty set means all displays, which is also what all chooses.</source>
+empty set means all displays, which is also what all chooses. look gives a display a
+look of its own; - takes it away.</source>
             <translation>DISPLAY 是列表中的编号、名称或标识符。only 只选择这些；toggle 将每个屏幕
-加入受影响的屏幕集合或从中移除。空集合表示所有屏幕，这也是 all 的选择。</translation>
+加入受影响的屏幕集合或从中移除。空集合表示所有屏幕，这也是 all 的选择。
+look 为屏幕指定自己的外观方案，- 将其取消。</translation>
         </message>
         <message>
             <source>Show or choose the global hot key</source>
@@ -1820,6 +1826,14 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>没有会话总线，无法将文档交给正在运行的 Nocturo。</translation>
         </message>
         <message>
+            <source>"%@" is no identifier of a display with a look, such as 71524911 Night reading.</source>
+            <translation>“%@”不是屏幕标识符加外观方案，例如 71524911 Night reading。</translation>
+        </message>
+        <message>
+            <source>"%1$@" takes a list of %2$@ looks at most.</source>
+            <translation>“%1$@”最多接受 %2$@ 个外观方案的列表。</translation>
+        </message>
+        <message>
             <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
             <translation>“%@”不是规则，例如 fullscreen off 或 program mpv Warm evening。</translation>
         </message>
@@ -1910,6 +1924,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>the rules: what is in front, with looks or off</source>
             <translation>规则：最前面的内容，对应外观方案或 off</translation>
+        </message>
+        <message>
+            <source>displays by identifier with looks of their own</source>
+            <translation>有自己外观方案的屏幕，按标识符</translation>
         </message>
         <message>
             <source>the f.lux warning was answered</source>

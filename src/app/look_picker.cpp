@@ -9,8 +9,9 @@
 namespace nocturo {
 
 std::string LookPicker::shown() {
-    std::string ruled = controller_.ruling().look;
-    return ruled.empty() ? chosen_.nameInForce() : ruled;
+    const Ruling ruling = controller_.ruling();
+    const bool isOfOneDisplay = ruling.by == Ruler::settings; // and no choice for all
+    return ruling.look.empty() || isOfOneDisplay ? chosen_.nameInForce() : ruling.look;
 }
 
 void LookPicker::pick(const std::string& name) {

@@ -103,13 +103,18 @@ std::string withRuler(const std::string& what, Ruler ruler, const std::string& u
     return what;
 }
 
+std::string ofOwn(const DisplayApart& display) {
+    return display.ruling.by == Ruler::settings ? translated("%@, its own look", {display.look})
+                                                : display.look;
+}
+
 /// "On: Invert on all screens. DP-1: Off; by the rule "fullscreen off"".
 std::string withThoseApart(std::string sentence, const EffectState& state) {
     for (const DisplayApart& display : state.apart) {
         const Ruling& ruling = display.ruling;
         const std::string until = ruling.until ? clockText(*ruling.until, state.now) : "";
         const std::string what = !ruling.isOn            ? translated("Off")
-                                 : !display.look.empty() ? display.look
+                                 : !display.look.empty() ? ofOwn(display)
                                                          : translated("On");
         sentence = translated("%1$@. %2$@: %3$@", {std::move(sentence), display.name,
                                                    withRuler(what, ruling.by, until, ruling.rule)});

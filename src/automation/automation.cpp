@@ -1,5 +1,6 @@
 #include "automation/automation.h"
 
+#include "automation/display_looks_setting.h"
 #include "automation/schedule_setting.h"
 #include "automation/word_list.h"
 #include "base/log.h"
@@ -57,11 +58,30 @@ void Automation::start() {
         if (!wordsOf(defaults_, kRules).empty()) {
             rules_.read();
         }
+        if (!wordsOf(defaults_, kDisplayLooks).empty()) {
+            readDisplayLooks();
+            change();
+        }
     });
     localCenter_.addObserver(this, NSApplicationDidChangeScreenParametersNotification,
                              [this] { rules_.displaysDidChange(); });
+    readDisplayLooks();
     readSchedule();
     rules_.read();
+}
+
+void Automation::readDisplayLooks() {
+    displayLooks_ = looksOfDisplays(defaults_, looks_, [this](const std::string& words) {
+        if (explained_.insert(words).second) {
+            logWarning(kLogApp, "The look of a display, \"" + words +
+                                    "\", is none; it has the effects of all.");
+        }
+    });
+}
+
+std::string Automation::lookOfDisplay(CGDirectDisplayID display) const {
+    const auto found = displayLooks_.find(display);
+    return found != displayLooks_.end() ? found->second : std::string();
 }
 
 std::optional<Claim> Automation::scheduleClaim() const {
@@ -79,6 +99,7 @@ Claims Automation::claims(bool isSwitchedOn, CGDirectDisplayID display) const {
             .pause = pauses_.claim(),
             .rule = std::move(rule),
             .schedule = scheduleClaim(),
+            .look = lookOfDisplay(display),
             .isSwitchedOn = isSwitchedOn};
 }
 
@@ -164,6 +185,10 @@ void Automation::settingsDidChange(const Subjects& settings) {
     }
     if (rules) {
         rules_.read();
+    }
+    if (settings.contain(kDisplayLooks)) {
+        readDisplayLooks();
+        change();
     }
     if (!schedule && !rules && settings.containAnyOf(kEffectSettings)) {
         effectsWereChosen();

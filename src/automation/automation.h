@@ -82,6 +82,9 @@ class Automation {
     Rules& rules() { return rules_; }
     const Rules& rules() const { return rules_; }
 
+    /// The name of the look that a display has of its own; empty where it has none.
+    std::string lookOfDisplay(CGDirectDisplayID display) const;
+
     /// Every point, in the setting's order.
     const std::vector<ListedPoint>& listedPoints() const { return listed_; }
 
@@ -91,6 +94,7 @@ class Automation {
         std::shared_ptr<NDEffect> effect;
     };
 
+    void readDisplayLooks();
     Claims claims(bool isSwitchedOn, CGDirectDisplayID display) const;
     std::optional<Claim> scheduleClaim() const;
     Result<std::optional<Moment>> endOf(std::string_view words);
@@ -114,8 +118,9 @@ class Automation {
     std::vector<std::size_t> indexes_; // of its points in the setting
     Schedule::Around around_;
     std::vector<ListedPoint> listed_;
-    std::set<std::string> explained_;                 // points that were logged
-    std::map<std::string, AppliedLook> appliedLooks_; // by name
+    std::set<std::string> explained_;                       // words that were logged
+    std::map<std::string, AppliedLook> appliedLooks_;       // by name
+    std::map<CGDirectDisplayID, std::string> displayLooks_; // names of those that are there
     std::unique_ptr<Timer> timer_;
     Rules rules_;
 };

@@ -22,19 +22,8 @@ Ruling rulingByItself(const Claims& claims) {
     return {Claim{claims.isSwitchedOn}, Ruler::settings};
 }
 
-} // namespace
-
-std::string_view nameOf(Ruler ruler) {
-    return kNames.at(static_cast<std::size_t>(ruler));
-}
-
-std::optional<Ruler> rulerNamed(std::string_view name) {
-    const auto* const found = std::find(kNames.begin(), kNames.end(), name);
-    return found != kNames.end() ? std::optional(static_cast<Ruler>(found - kNames.begin()))
-                                 : std::nullopt;
-}
-
-Ruling whoWins(const Claims& claims) {
+/// As if the display had no look of its own.
+Ruling strongest(const Claims& claims) {
     if (claims.pause) {
         return {*claims.pause, Ruler::pause};
     }
@@ -49,6 +38,26 @@ Ruling whoWins(const Claims& claims) {
     if (isOn != ruling.isOn || replacesLook) {
         const bool keepsLook = isOn && !claims.hand.choseEffects;
         return {Claim{isOn, keepsLook ? ruling.look : std::string(), until}, Ruler::hand};
+    }
+    return ruling;
+}
+
+} // namespace
+
+std::string_view nameOf(Ruler ruler) {
+    return kNames.at(static_cast<std::size_t>(ruler));
+}
+
+std::optional<Ruler> rulerNamed(std::string_view name) {
+    const auto* const found = std::find(kNames.begin(), kNames.end(), name);
+    return found != kNames.end() ? std::optional(static_cast<Ruler>(found - kNames.begin()))
+                                 : std::nullopt;
+}
+
+Ruling whoWins(const Claims& claims) {
+    Ruling ruling = strongest(claims);
+    if (ruling.isOn && ruling.look.empty()) {
+        ruling.look = claims.look;
     }
     return ruling;
 }

@@ -38,6 +38,7 @@ struct Claims {
     std::optional<Claim> pause{};
     std::optional<Claim> rule{};
     std::optional<Claim> schedule{};
+    std::string look{}; // of the display's own, by name; empty for the effects of the settings
     bool isSwitchedOn = false; // as the user last did, and as the settings keep it
 };
 
@@ -50,7 +51,8 @@ struct Ruling : Claim {
 /// The one place that decides between them. Turning the switch ends a pause, so one that is there
 /// was asked for later and holds. A switch turned on by hand shows what the rule or the schedule
 /// has, unless that is off. Effects chosen by hand stand in for a look, but light no display that
-/// is off.
+/// is off. Wherever the settings' effects would be shown, a display with a look of its own shows
+/// that.
 Ruling whoWins(const Claims& claims);
 
 } // namespace nocturo

@@ -49,10 +49,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 71> members;
+    static const std::array<sd_bus_vtable, 72> members;
 };
 
-const std::array<sd_bus_vtable, 71> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 72> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
@@ -137,6 +137,8 @@ const std::array<sd_bus_vtable, 71> BusFace::Table::members = {{
     SD_BUS_METHOD_WITH_ARGS("MoveLook", SD_BUS_ARGS("s", name, "u", place), SD_BUS_NO_RESULT,
                             kServe<&BusFace::moveLook>, kFree),
     SD_BUS_SIGNAL_WITH_ARGS("LookChanged", SD_BUS_ARGS("s", name), 0),
+    SD_BUS_METHOD_WITH_ARGS("SetDisplayLook", SD_BUS_ARGS("u", id, "s", name), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::setDisplayLook>, kFree),
     SD_BUS_METHOD_WITH_ARGS("SetSetting", SD_BUS_ARGS("s", key, "v", value), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::setSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ResetSetting", SD_BUS_ARGS("s", key), SD_BUS_NO_RESULT,

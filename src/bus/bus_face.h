@@ -85,6 +85,7 @@ class BusFace {
     BusAnswer saveLook(const std::string& name);
     BusAnswer renameLook(const std::string& name, const std::string& to);
     BusAnswer deleteLook(const std::string& name);
+    BusAnswer setDisplayLook(std::uint32_t display, const std::string& look);
     BusAnswer moveLook(const std::string& name, std::uint32_t place);
     BusAnswer setSetting(const std::string& key, const std::optional<PropertyValue>& value);
     BusAnswer resetSetting(const std::string& key);

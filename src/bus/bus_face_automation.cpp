@@ -1,10 +1,12 @@
 // What callers on the bus do with what happens by itself.
 
 #include "automation/automation.h"
+#include "automation/display_looks_setting.h"
 #include "automation/rules_setting.h"
 #include "automation/schedule_setting.h"
 #include "bus/bus_face.h"
 #include "documents/chosen_look.h"
+#include "settings/display_looks.h"
 
 #include <utility>
 
@@ -41,6 +43,14 @@ BusAnswer BusFace::addRule(const std::string& words) {
 
 BusAnswer BusFace::removeRule(std::uint32_t index) {
     return answer(nocturo::removeRule(defaults_, index));
+}
+
+BusAnswer BusFace::setDisplayLook(std::uint32_t display, const std::string& look) {
+    const std::string words = textOf(DisplayLook{display, look.empty() ? "-" : look});
+    if (!displayLookFromWords(words)) {
+        return refusal(noDisplayLookSentence(words));
+    }
+    return answer(setLookOfDisplay(defaults_, chosenLook_.looks(), display, look));
 }
 
 int BusFace::pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* /*error*/) {

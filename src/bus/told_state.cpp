@@ -66,6 +66,7 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
     static constexpr std::array kEffects = {kGroupEffect};
     static constexpr std::array kSchedules = {kUseSchedule, kSchedule, kPlace};
     static constexpr std::array kRuleSettings = {kUseRules, kRules};
+    static constexpr std::array kOfDisplays = {kAffectedScreenSet, kAffectedScreens, kDisplayLooks};
     static constexpr std::array kDim = {kDimLevel.key};
     static constexpr std::array kHue = {kColorFilterHue.key};
     static constexpr std::array kVividness = {kColorFilterVividness.key};
@@ -86,7 +87,7 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
         {"Schedule", {&ToldState::schedule, kSchedules}},
         {"Rules", {&ToldState::rules, kRuleSettings}},
         {"DisplayServices", {&ToldState::displayServicesName, kNone}},
-        {"Displays", {&ToldState::displays, kAffectedScreenSettings}},
+        {"Displays", {&ToldState::displays, kOfDisplays}},
         {"AbsentDisplays", {&ToldState::absentDisplays, kAffectedScreenSettings}},
         {"Effects", {&ToldState::effects, kEffects}},
         {"DimLevel", {&ToldState::dimLevel, kDim}},
@@ -210,7 +211,8 @@ BusValue ToldState::displays() const {
                         {"ruler", std::string(nameOf(ruling.by))},
                         {"rulesUntil", endOf(ruling)},
                         {"ruledLook", ruling.look},
-                        {"rule", ruling.rule}});
+                        {"rule", ruling.rule},
+                        {"look", automation_.lookOfDisplay(info.id)}});
     }
     return list;
 }

@@ -75,7 +75,8 @@ bool isDisplay(const Json& value) {
                                                             {"ruler", isText, true},
                                                             {"rulesUntil", isInteger, true},
                                                             {"ruledLook", isText, true},
-                                                            {"rule", isText, true}});
+                                                            {"rule", isText, true},
+                                                            {"look", isText, true}});
     return fit(value, kMembers, Answer::whole);
 }
 

@@ -313,12 +313,13 @@ constexpr std::array kCommands = std::to_array<Command>({
      runStep, true},
     {"reset", "KEY", ListedText("Give a setting its default value again"), ListedText(), runReset,
      true},
-    {"screens", "[all | only|add|remove|toggle DISPLAY...]",
+    {"screens", "[all | only|add|remove|toggle DISPLAY... | look DISPLAY NAME|-]",
      ListedText("List or choose the affected displays"),
      ListedText(
          "DISPLAY is its number in the list, its name or its identifier. only chooses these\n"
          "alone; toggle puts each into the set of affected displays or takes it out. An\n"
-         "empty set means all displays, which is also what all chooses."),
+         "empty set means all displays, which is also what all chooses. look gives a display a\n"
+         "look of its own; - takes it away."),
      runScreens, true},
     {"hotkey", "[set KEYS | none | enable | disable]",
      ListedText("Show or choose the global hot key"),

@@ -31,7 +31,7 @@ constexpr std::array kStatusOrder = std::to_array<const char*>(
      "disturbances",   "disturber"});
 constexpr std::array kDisplayOrder = std::to_array<const char*>(
     {"number", "id", "name", "monitor", "main", "rampSize", "affected", "applied", "heldByOther",
-     "obstacle", "on", "ruler", "rulesUntil", "ruledLook", "rule"});
+     "obstacle", "on", "ruler", "rulesUntil", "ruledLook", "rule", "look"});
 
 // The named members in that order, then whatever else there is.
 Json ordered(const Json& object, std::span<const char* const> order) {
@@ -258,16 +258,21 @@ std::string effectsReport(const Json& properties) {
 }
 
 std::string screensReport(const Json& properties) {
+    const Json& displays = properties["displays"];
+    const bool haveLooks = std::any_of(displays.begin(), displays.end(), [](const Json& each) {
+        return !each.value("look", "").empty();
+    });
     std::vector<Row> rows = {{"", translated("no."), translated("name"), translated("identifier"),
                               translated("ramp"), translated("applied"), translated("monitor"), "",
-                              ""}};
-    for (const Json& display : properties["displays"]) {
+                              haveLooks ? translated("look") : "", ""}};
+    for (const Json& display : displays) {
         const bool hasRamp = display["rampSize"].get<unsigned>() != 0;
         rows.push_back({display["affected"].get<bool>() ? "[x]" : "[ ]", plain(display["number"]),
                         plain(display["name"]), plain(display["id"]),
                         hasRamp ? plain(display["rampSize"]) : translated("none"),
                         yesOrNo(display["applied"]), display.value("monitor", ""),
                         display["main"].get<bool>() ? translated("main") : "",
+                        titleOfLookNamed(properties, display.value("look", "")),
                         obstacleText(display.value("obstacle", ""))});
     }
     for (const Json& display : properties.value("absentDisplays", Json::array())) {

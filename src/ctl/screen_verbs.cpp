@@ -3,6 +3,7 @@
 #include "ctl/failure.h"
 #include "ctl/output.h"
 #include "ctl/report.h"
+#include "settings/display_looks.h"
 
 #include <algorithm>
 #include <charconv>
@@ -35,6 +36,18 @@ Displays affectedDisplays(const Json& properties) {
         }
     }
     return displays;
+}
+
+/// A display that is there, or one that has a look.
+std::uint32_t displayWithLookFromText(const Json& properties, const std::string& text) {
+    const auto number = wholeNumber(text);
+    for (const Json& words : properties["settings"].value("DisplayLooks", Json::array())) {
+        const auto own = displayLookFromWords(words.get<std::string>());
+        if (number && own && own->display == *number) {
+            return *number;
+        }
+    }
+    return displayFromText(properties, text);
 }
 
 } // namespace
@@ -84,6 +97,13 @@ void runScreens(Arguments arguments) {
     if (how == "all") {
         expect(arguments.size() == 1);
         client.call("AffectAllScreens");
+        return;
+    }
+    if (how == "look") {
+        expect(arguments.size() > 2);
+        const std::string look = joined(arguments.subspan(2));
+        client.call("SetDisplayLook", displayWithLookFromText(client.properties(), arguments[1]),
+                    look == "-" ? std::string() : look);
         return;
     }
     expect(arguments.size() > 1 &&

@@ -75,6 +75,7 @@ PropertyValue fromText(const Setting& setting, std::string_view text) {
         return listFromText(text, numberFromText<std::int64_t>);
     case SettingType::schedulePoints:
     case SettingType::rules:
+    case SettingType::displayLooks:
         return listFromText(text, [](std::string_view words) { return std::string(words); });
     case SettingType::place:
         break;

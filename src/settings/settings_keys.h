@@ -26,7 +26,8 @@ inline constexpr std::string_view kUseSchedule = "UseSchedule";
 inline constexpr std::string_view kSchedule = "Schedule";   // of points in words
 inline constexpr std::string_view kPlace = "SchedulePlace"; // empty: the time zone's
 inline constexpr std::string_view kUseRules = "UseRules";
-inline constexpr std::string_view kRules = "Rules"; // in words
+inline constexpr std::string_view kRules = "Rules";               // in words
+inline constexpr std::string_view kDisplayLooks = "DisplayLooks"; // in words
 
 /// A setting that is a real number. Users may choose from `lowest` to `highest`; what a file or a
 /// document holds beyond is used as it stands.

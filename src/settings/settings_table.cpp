@@ -1,6 +1,7 @@
 #include "settings/settings_table.h"
 
 #include "settings/defaults_store.h"
+#include "settings/display_looks.h"
 #include "settings/rule_words.h"
 #include "settings/schedule_points.h"
 #include "settings/selectable_effects.h"
@@ -23,9 +24,9 @@ Setting number(const RealSetting& setting, ListedText meaning) {
             false,       meaning,           SettingRange{setting.lowest, setting.highest}};
 }
 
-const std::array<Setting, 22>& rows() {
+const std::array<Setting, 23>& rows() {
     using enum SettingType;
-    static const std::array<Setting, 22> table = {{
+    static const std::array<Setting, 23> table = {{
         {kGroupEffect, effectNames, PropertyArray(), true, ListedText("the selected effects")},
         {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
         {kActivateOnClick, boolean, true, true,
@@ -56,6 +57,8 @@ const std::array<Setting, 22>& rows() {
         {kUseRules, boolean, true, true, ListedText("switch and choose looks by the rules")},
         {kRules, rules, PropertyArray(), false,
          ListedText("the rules: what is in front, with looks or off")},
+        {kDisplayLooks, displayLooks, PropertyArray(), false,
+         ListedText("displays by identifier with looks of their own")},
         {kFluxWarned, boolean, false, false, ListedText("the f.lux warning was answered")},
     }};
     return table;
@@ -92,34 +95,43 @@ bool isListOfDisplays(const PropertyValue& value) {
            });
 }
 
-Refusal problemWithPoints(const std::string& key, const PropertyValue& value) {
-    const auto* array = value.as<PropertyArray>();
-    if (array == nullptr || array->size() > kMostSchedulePoints) {
-        return translated("\"%1$@\" takes a list of %2$@ points at most.",
-                          {key, std::to_string(kMostSchedulePoints)});
-    }
-    for (const PropertyValue& element : *array) {
+/// Of a list of texts, about the first of them that `read` makes nothing of.
+template <typename Read>
+Refusal problemWithTexts(const PropertyArray& list, Read read,
+                         std::string (*sentence)(const std::string& words)) {
+    for (const PropertyValue& element : list) {
         const auto* words = element.as<std::string>();
-        if (words == nullptr || !schedulePoint(*words)) {
-            return noPointSentence(words != nullptr ? *words : std::string());
+        if (words == nullptr || !read(*words)) {
+            return sentence(words != nullptr ? *words : std::string());
         }
     }
     return std::nullopt;
 }
 
+Refusal problemWithPoints(const std::string& key, const PropertyValue& value) {
+    const auto* list = value.as<PropertyArray>();
+    if (list == nullptr || list->size() > kMostSchedulePoints) {
+        return translated("\"%1$@\" takes a list of %2$@ points at most.",
+                          {key, std::to_string(kMostSchedulePoints)});
+    }
+    return problemWithTexts(*list, schedulePoint, noPointSentence);
+}
+
 Refusal problemWithRules(const std::string& key, const PropertyValue& value) {
-    const auto* array = value.as<PropertyArray>();
-    if (array == nullptr || array->size() > kMostRules) {
+    const auto* list = value.as<PropertyArray>();
+    if (list == nullptr || list->size() > kMostRules) {
         return translated("\"%1$@\" takes a list of %2$@ rules at most.",
                           {key, std::to_string(kMostRules)});
     }
-    for (const PropertyValue& element : *array) {
-        const auto* words = element.as<std::string>();
-        if (words == nullptr || !ruleFromWords(*words)) {
-            return noRuleSentence(words != nullptr ? *words : std::string());
-        }
+    return problemWithTexts(*list, ruleFromWords, noRuleSentence);
+}
+
+Refusal problemWithDisplayLooks(const PropertyValue& value) {
+    const auto* list = value.as<PropertyArray>();
+    if (list == nullptr || list->size() > kMostDisplayLooks) {
+        return tooManyDisplayLooksSentence();
     }
-    return std::nullopt;
+    return problemWithTexts(*list, displayLookFromWords, noDisplayLookSentence);
 }
 
 Refusal problemWithPlace(const std::string& key, const PropertyValue& value) {
@@ -182,6 +194,7 @@ PropertyValue effectiveValue(const DefaultsStore& defaults, const Setting& setti
     case SettingType::displayNumbers:
     case SettingType::schedulePoints:
     case SettingType::rules:
+    case SettingType::displayLooks:
         break;
     }
     const PropertyArray* array = defaults.arrayForKey(setting.key);
@@ -213,6 +226,8 @@ std::optional<std::string> problemWith(const Setting& setting, const PropertyVal
         return problemWithPlace(key, value);
     case SettingType::rules:
         return problemWithRules(key, value);
+    case SettingType::displayLooks:
+        return problemWithDisplayLooks(value);
     }
     return std::nullopt;
 }

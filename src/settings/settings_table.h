@@ -20,7 +20,8 @@ enum class SettingType {
     displayNumbers,
     schedulePoints, // a list of texts
     place,          // a text
-    rules           // a list of texts
+    rules,          // a list of texts
+    displayLooks    // a list of texts
 };
 
 /// What users may choose from, both ends included.

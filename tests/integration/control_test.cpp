@@ -214,7 +214,7 @@ TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
     const Json before = status();
     EXPECT_EQ(before["displayServices"], "simulated");
     EXPECT_EQ(before["displays"].size(), 3U);
-    EXPECT_EQ(before["settings"].size(), 22U);
+    EXPECT_EQ(before["settings"].size(), 23U);
     const struct {
         const char* key;
         const char* typed;

@@ -73,3 +73,20 @@ TEST_F(Ruling, TheScheduleRulesOverTheSettings) {
     ctl({"schedule", "off"});
     EXPECT_EQ(ruler(), "settings");
 }
+
+TEST_F(Ruling, ADisplayHasALookOfItsOwn) {
+    ctl({"screens", "look", "SIM-2", "night", "reading"});
+    end();
+    start();
+    const std::string second = std::to_string(status()["displays"][1]["id"].get<unsigned>());
+    EXPECT_EQ(status()["displays"][1]["ruledLook"], "Night reading");
+    EXPECT_EQ(status()["displays"][0]["ruledLook"], "");
+    EXPECT_NE(ctl({"status"}).output.find("SIM-2: Night reading, its own look"), std::string::npos);
+    EXPECT_NE(ctl({"screens"}).output.find("Night reading\n"), std::string::npos);
+    says("nocturoctl", {"screens", "look", "SIM-2", "No such look"}, 2, "No such look");
+    says("nocturoctl", {"set", "DisplayLooks", "0 Night reading"}, 2, "0 Night reading");
+    end();
+    nocturo_ = session_.startNocturo({"--display-services=simulated:1"});
+    ctl({"screens", "look", second, "-"}); // which is not there
+    EXPECT_EQ(ctl({"get", "DisplayLooks"}).output, "[]\n");
+}

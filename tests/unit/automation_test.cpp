@@ -4,6 +4,8 @@
 
 #include "app/look_picker.h"
 #include "app/looks_menu.h"
+#include "app/state_sentence.h"
+#include "automation/display_looks_setting.h"
 #include "automation/filled_displays.h"
 #include "automation/rules_setting.h"
 #include "automation/schedule_setting.h"
@@ -59,6 +61,11 @@ TEST(WhoWins, IsOneAnswerForEveryCombination) {
     EXPECT_EQ(told(whoWins({.hand = {{}, true}, .rule = rule, .schedule = evening})), "hand on 7");
     EXPECT_EQ(told(whoWins({.hand = {false, false, true}, .rule = rule, .schedule = evening})),
               "hand off");
+    EXPECT_EQ(told(whoWins({.look = "Own", .isSwitchedOn = true})), "settings on Own");
+    EXPECT_EQ(told(whoWins({.look = "Own"})), "settings off");
+    EXPECT_EQ(told(whoWins({.schedule = evening, .look = "Own"})), "schedule on Evening 7");
+    EXPECT_EQ(told(whoWins({.hand = {{}, true}, .schedule = evening, .look = "Own"})),
+              "hand on Own 7");
 }
 
 TEST(LocalTime, FindsEveryClockTimeOnceADay) {
@@ -457,6 +464,39 @@ TEST_F(RulesTest, HoldForTheDisplayThatIsFilledOrForAll) {
     EXPECT_EQ(listening_, 0);
     EXPECT_TRUE(removeRule(*store_, 2));
     EXPECT_FALSE(removeRule(*store_, 2));
+}
+
+TEST_F(RulesTest, LeaveADisplayTheLookOfItsOwn) {
+    const CGDirectDisplayID second = id("D2");
+    EXPECT_FALSE(setLookOfDisplay(*store_, looks_, second, "No such look"));
+    EXPECT_TRUE(setLookOfDisplay(*store_, looks_, second, "dark"));
+    EXPECT_EQ(store_->arrayForKey(kDisplayLooks)->front(),
+              PropertyValue(std::to_string(second) + " Dark"));
+    EXPECT_EQ(shown(), "ib");
+    EXPECT_THAT(stateSentence(controller_, *store_),
+                testing::HasSubstr(". D2: Dark, its own look"));
+    chooseEffects({"NDHDTVLuminanceEffect"});
+    EXPECT_EQ(shown(), "ob") << "the settings are those of the others";
+    chooseEffects({"NDInvertEffect"});
+    add("game off");
+    now({}, true);
+    EXPECT_EQ(shown(), "oo");
+    now({}, false);
+    runLoop_.advance(1000);
+    EXPECT_EQ(shown(), "ib");
+
+    hardware_.remove("D2");
+    center_.post(NSApplicationDidChangeScreenParametersNotification);
+    hardware_.ramps[3] = identityRamp(256);
+    hardware_.add("D2", 3);
+    center_.post(NSApplicationDidChangeScreenParametersNotification);
+    controller_.setEffectActive(false, true);
+    controller_.setEffectActive(true, true);
+    EXPECT_EQ(hardware_.ramps.at(3), Ramp(256)) << "by its identifier, wherever it is";
+    EXPECT_TRUE(looks_.remove("Dark"));
+    EXPECT_EQ(hardware_.ramps.at(3), hardware_.ramps.at(1)) << "as all";
+    EXPECT_TRUE(setLookOfDisplay(*store_, looks_, second, ""));
+    EXPECT_TRUE(store_->arrayForKey(kDisplayLooks)->empty());
 }
 
 TEST_F(RulesTest, ComeAtOnceAndGoOnceNothingChangesForASecond) {
