@@ -45,6 +45,11 @@ TEST_F(Wayland, InvertsTheAffectedScreensAndGivesThemBackHoweverItEnds) {
     EXPECT_EQ(sway_->ramp(kFirst)->front().size(), 4096U);
     EXPECT_EQ(status()["displayServices"], "wlr");
     EXPECT_EQ(status()["displays"][0]["rampSize"], 4096);
+    ctl({"off", "--fade", "1"});
+    EXPECT_TRUE(becomes("??"));
+    EXPECT_TRUE(becomes("oo"));
+    ctl({"on", "--fade", "0.1"});
+    EXPECT_TRUE(becomes("ii"));
     ctl({"off"});
     EXPECT_TRUE(becomes("oo"));
     ctl({"screens", "toggle", "2"});
