@@ -35,11 +35,10 @@ void NDPreferencesController::connectEffects() {
     connectBox(ui_->dimScreen, &Self::changeDim);
     const auto connectSlider = [this](const ParameterSlider* slider,
                                       void (Self::*action)(const ParameterSlider&)) {
-        connect(slider, &ParameterSlider::valueChangedByUser, this,
-                [this, slider, action] {
-                    const Fades::Change atOnce(surroundings_.fades, Fades::Length::zero());
-                    (this->*action)(*slider);
-                });
+        connect(slider, &ParameterSlider::valueChangedByUser, this, [this, slider, action] {
+            const Fades::Change atOnce(surroundings_.fades, Fades::Length::zero());
+            (this->*action)(*slider);
+        });
     };
     connectSlider(ui_->colorFilterHue, &Self::changeColorFilterHue);
     connectSlider(ui_->colorFilterVividness, &Self::changeColorFilterVividness);
