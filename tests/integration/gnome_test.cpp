@@ -25,11 +25,11 @@ struct Mutter : NocturoOnX {
     Mutter() : NocturoOnX(2) {}
     void SetUp() override {
         NEEDS("mutter");
-        for (int i = 0; i < 2; ++i) {
-            Channels own = own_[static_cast<std::size_t>(i)];
+        for (std::size_t i = 0; i < 2; ++i) {
+            Channels own = own_[i];
             std::swap(own[0][9], own[1][9 + i]); // so that neither is the identity
             own[0][10] += 3;
-            setOwn(i, own);
+            setOwn(static_cast<int>(i), own);
         }
         ASSERT_TRUE(waitUntil([&] { // now and then it crashes before it is there
             mutter_ = session_.start("mutter", {"--x11"});
