@@ -78,6 +78,10 @@ std::vector<float> lightnessOf(const Ramp& ramp) {
     return lightness;
 }
 
+bool haveEqualChannels(const Ramp& ramp) {
+    return ramp.red == ramp.green && ramp.red == ramp.blue;
+}
+
 /// Entries of lightnesses, to be cut off.
 const Table& entryTable() {
     constexpr double kHalf = 0.5; // rounds
@@ -95,6 +99,7 @@ RampFade::RampFade(const Ramp& from, Ramp to) : shown_(from) {
 
 void RampFade::turn(Ramp to) {
     to_ = std::move(to);
+    isGray_ = haveEqualChannels(shown_) && haveEqualChannels(to_);
     from_ = lightnessOf(shown_);
     change_ = lightnessOf(to_);
     std::transform(change_.begin(), change_.end(), from_.begin(), change_.begin(), std::minus<>());
@@ -105,6 +110,10 @@ const Ramp& RampFade::at(float share) {
     const float* from = from_.data();
     const float* change = change_.data();
     for (auto* channel : {&shown_.red, &shown_.green, &shown_.blue}) {
+        if (isGray_ && channel != &shown_.red) {
+            *channel = shown_.red;
+            continue;
+        }
         for (std::uint16_t& entry : *channel) {
             entry = static_cast<std::uint16_t>(entries(*from++ + *change++ * share));
         }

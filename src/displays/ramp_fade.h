@@ -29,7 +29,8 @@ class RampFade {
     using Lightness = std::vector<float>; // red, green, blue; 0 black to 1 full
 
     Lightness from_;
-    Lightness change_; // in all
+    Lightness change_;    // in all
+    bool isGray_ = false; // all the way, so that one channel is as the others
     Ramp to_;
     Ramp shown_;
 };
