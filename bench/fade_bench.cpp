@@ -1,12 +1,15 @@
-// What a fade shows, and what it costs: on a real X server with four displays, and of ramps of 4096
-// entries, which that server has not.
+// What a fade shows, and what it costs: on a real X server with four displays, and under a real
+// sway with ramps of 4096 entries, which that server has not.
 
 #include "ctl/bus_client.h"
 #include "ctl/failure.h"
 #include "displays/ramp_fade.h"
 #include "figures.h"
 #include "rig/session.h"
+#include "rig/sway.h"
+#include "running_costs.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 #include <exception>
@@ -20,6 +23,13 @@ namespace {
 using SteadyClock = std::chrono::steady_clock;
 
 constexpr const char* kLength = "FadeSeconds";
+
+double processorMilliseconds(const rig::Process& process) {
+    std::ifstream figures("/proc/" + std::to_string(process.id()) + "/schedstat");
+    double nanoseconds = 0;
+    figures >> nanoseconds;
+    return nanoseconds / 1e6;
+}
 
 class Measurement {
   public:
@@ -55,16 +65,10 @@ class Measurement {
         }
         return millisecondsSince(start);
     }
-    double processorMilliseconds() const {
-        std::ifstream figures("/proc/" + std::to_string(nocturo_->id()) + "/schedstat");
-        double nanoseconds = 0;
-        figures >> nanoseconds;
-        return nanoseconds / 1e6;
-    }
 
     void fade(std::vector<double>& gaps, std::vector<double>& shares) {
         const auto start = SteadyClock::now();
-        const double before = processorMilliseconds();
+        const double before = processorMilliseconds(*nocturo_);
         client_->call("Toggle");
         do {
             gaps.push_back(waitForChange());
@@ -72,29 +76,33 @@ class Measurement {
         while (millisecondsSince(start) < 2100) {
             observer_.ramp(last_);
         }
-        shares.push_back(100 * (processorMilliseconds() - before) / 2000);
+        shares.push_back(100 * (processorMilliseconds(*nocturo_) - before) / 2000);
     }
 
     /// How long toggles take until the last display changes.
-    std::vector<double> toggles(double length, bool hasTwoSteps) {
+    std::vector<double> toggles(double length) {
         client_->callSetSetting(kLength, length);
         std::vector<double> samples;
+        auto before = observer_.ramp(last_);
+        auto end = rig::Channels(before);
+        for (auto& channel : end) {
+            std::reverse(channel.begin(), channel.end());
+        }
         for (int i = 0; i < 1000; ++i) {
-            const auto before = observer_.ramp(last_);
             const auto start = SteadyClock::now();
             client_->call("Toggle");
             while (observer_.ramp(last_) == before) {
             }
             samples.push_back(millisecondsSince(start));
-            if (hasTwoSteps) {
-                waitForChange();
+            while (observer_.ramp(last_) != end) {
             }
+            std::swap(before, end);
         }
         return samples;
     }
     void measureFirstStep() {
-        auto atOnce = toggles(0, false);
-        auto fading = toggles(0.02, true);
+        auto atOnce = toggles(0);
+        auto fading = toggles(0.02);
         const double usual = percentile(atOnce, 0.5);
         std::printf("toggle to the last of four: median %.2f ms\n", usual);
         printFigure("toggle to the first step of a fade there, median",
@@ -107,6 +115,29 @@ class Measurement {
     std::unique_ptr<rig::Process> nocturo_;
     std::optional<BusClient> client_;
 };
+
+/// Of four outputs with ramps of 4096 entries, in a sway without hardware.
+void measureUnderSway() {
+    if (const std::string why = rig::Sway::whyMissing(); !why.empty()) {
+        std::printf("no figure under sway: %s\n", why.c_str());
+        return;
+    }
+    const rig::Sway sway(4, 4096);
+    rig::Session session(0);
+    session.environment()["WAYLAND_DISPLAY"] = sway.display();
+    session.environment()["XDG_CURRENT_DESKTOP"] = "sway";
+    session.writeSettings("<key>NDGroupEffect</key><array><string>NDInvertEffect</string></array>"
+                          "<key>FadeSeconds</key><real>2</real>");
+    const auto nocturo = session.startNocturo();
+    std::vector<double> shares;
+    for (int i = 0; i < 5; ++i) {
+        const double before = processorMilliseconds(*nocturo);
+        session.run("nocturoctl", {"toggle"});
+        pass(2);
+        shares.push_back((processorMilliseconds(*nocturo) - before) / 20);
+    }
+    printFigure("a fade over four ramps of 4096, processor, worst", percentile(shares, 1), 3, "%");
+}
 
 /// What Nocturo calculates in a frame.
 void measureLargeRamps() {
@@ -132,6 +163,7 @@ void measureLargeRamps() {
 int main() {
     try {
         nocturo::measureLargeRamps();
+        nocturo::measureUnderSway();
         nocturo::Measurement().run();
     } catch (const nocturo::Failure& failure) {
         std::cerr << failure.sentence << '\n';
