@@ -280,6 +280,16 @@ TEST_F(PreferencesWindow, LooksAreShownPickedKeptRenamedMovedAndDeleted) {
     type("Film");
     QTest::keyClick(&row, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(titles(), "Film, Negative, Mine");
+    const auto drag = [&row](int from, int to) {
+        const auto middle = [&row](int at) { return row.visualItemRect(row.item(at)).center(); };
+        QTest::mousePress(row.viewport(), Qt::LeftButton, {}, middle(from));
+        QTest::mouseMove(row.viewport(), middle(to) + QPoint(from < to ? 5 : -5, 0));
+        QTest::mouseRelease(row.viewport(), Qt::LeftButton, {}, middle(to));
+    };
+    drag(0, 2);
+    EXPECT_EQ(titles(), "Negative, Mine, Film");
+    drag(2, 0);
+    EXPECT_EQ(titles(), "Film, Negative, Mine");
     QTest::keyClick(&row, Qt::Key_Delete);
     answer("Delete");
     EXPECT_EQ(titles(), "Negative, Mine");

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -124,6 +125,7 @@ LooksRow::LooksRow(QWidget* parent) : QListWidget(parent) {
 }
 
 void LooksRow::setLooks(const std::vector<Look>& looks) {
+    endDrag();
     const Look* current = currentLook();
     const std::string before = current != nullptr ? current->name : std::string();
     looks_ = looks;
@@ -236,8 +238,84 @@ void LooksRow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+// Dragged by hand: Qt's own way runs a loop of its own until the button is let go.
+
+void LooksRow::mousePressEvent(QMouseEvent* event) {
+    pressedAt_ = event->pos();
+    QListWidget::mousePressEvent(event);
+}
+
+void LooksRow::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint way = event->pos() - pressedAt_;
+    const QListWidgetItem* pressed = itemAt(pressedAt_);
+    const bool mayStart = event->buttons() == Qt::LeftButton && pressed != nullptr && count() > 1 &&
+                          way.manhattanLength() >= QApplication::startDragDistance();
+    if (dragged_ < 0 && mayStart) {
+        dragged_ = row(pressed);
+        setCurrentRow(dragged_);
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    }
+    if (dragged_ < 0) {
+        QListWidget::mouseMoveEvent(event);
+        return;
+    }
+    gap_ = gapAt(event->pos());
+    const QRect seen = viewport()->rect();
+    const int beyond = std::min(event->pos().x() - seen.left() - tileSize().width() / 4, 0) +
+                       std::max(event->pos().x() - seen.right() + tileSize().width() / 4, 0);
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() +
+                                    (isRightToLeft() ? -beyond : beyond) / 2);
+    viewport()->update();
+}
+
+void LooksRow::mouseReleaseEvent(QMouseEvent* event) {
+    if (dragged_ < 0) {
+        QListWidget::mouseReleaseEvent(event);
+        return;
+    }
+    const int places = gap_ < 0 ? 0 : gap_ - dragged_ - (gap_ > dragged_ ? 1 : 0);
+    endDrag();
+    if (places != 0) {
+        Q_EMIT moveWanted(places);
+    }
+}
+
+void LooksRow::endDrag() {
+    dragged_ = gap_ = -1;
+    viewport()->unsetCursor();
+    viewport()->update();
+}
+
+/// Away from the row none, so that one may think better of it.
+int LooksRow::gapAt(QPoint point) const {
+    if (point.y() < -height() || point.y() > 2 * height()) {
+        return -1;
+    }
+    int gap = 0;
+    while (gap < count()) {
+        const int middle = visualItemRect(item(gap)).center().x();
+        if (isRightToLeft() ? point.x() > middle : point.x() < middle) {
+            break;
+        }
+        ++gap;
+    }
+    return gap;
+}
+
+void LooksRow::paintGap() {
+    QPainter painter(viewport());
+    const bool isLast = gap_ == count();
+    const QRect beside = visualItemRect(item(isLast ? gap_ - 1 : gap_));
+    const int x = isLast == isRightToLeft() ? beside.left() : beside.right() - kFrame + 1;
+    painter.fillRect(QRect(x, beside.top() + kMargin, kFrame, beside.height() - 2 * kMargin),
+                     palette().color(QPalette::Highlight));
+}
+
 void LooksRow::paintEvent(QPaintEvent* event) {
     QListWidget::paintEvent(event);
+    if (gap_ >= 0) {
+        paintGap();
+    }
     if (!wasPainted_) {
         QTimer::singleShot(0, this, [this] {
             wasPainted_ = true;

@@ -11,9 +11,9 @@
 namespace nocturo {
 
 /// Looks in a row that scrolls: of each a small picture of what it makes of a display, and its
-/// title below. A click, or Space or Return, picks one. The one in force is framed, and ticked for
-/// screen readers. Pictures are drawn when they are first to be seen, but for the first time only
-/// once everything else is. Main thread only.
+/// title below. A click, or Space or Return, picks one, and one can be dragged to another place.
+/// The one in force is framed, and ticked for screen readers. Pictures are drawn when they are
+/// first to be seen, but for the first time only once everything else is. Main thread only.
 class LooksRow : public QListWidget {
     Q_OBJECT
 
@@ -52,6 +52,9 @@ class LooksRow : public QListWidget {
   protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -59,12 +62,18 @@ class LooksRow : public QListWidget {
     void pick(const QListWidgetItem& item);
     QSize tileSize() const;
     void makeRoomForBar();
+    void paintGap();
+    int gapAt(QPoint point) const;
+    void endDrag();
 
     std::vector<Look> looks_;
     std::vector<QImage> pictures_; // of each, null until it is drawn
     PreviewCurves curves_;
     bool wasPainted_ = false;
     bool scrolls_ = false; // wider than the row
+    QPoint pressedAt_;
+    int dragged_ = -1; // the row that is being dragged
+    int gap_ = -1;     // before which it would go now; -1 where it would stay
 };
 
 } // namespace nocturo

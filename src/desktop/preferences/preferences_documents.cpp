@@ -82,14 +82,13 @@ class FilePanel : public QFileDialog {
         // Null in a dialog of the desktop, which has asked by itself.
         auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         const QFileInfo chosen(selectedFiles().value(0));
-        if (field == nullptr || chosen.isDir()) {
-            QFileDialog::accept(); // goes there
-        } else if (acceptMode() == AcceptSave) {
+        const bool goesThere = chosen.isDir();
+        if (field != nullptr && !goesThere && acceptMode() == AcceptSave) {
             acceptToSave(*field, withSuffix(chosen.filePath()));
-        } else if (chosen.isFile()) {
-            QFileDialog::accept();
-        } else {
+        } else if (field != nullptr && !goesThere && !chosen.isFile()) {
             showAlert(*this, localized("Opening failed"), notADocument(chosen.filePath()));
+        } else {
+            QFileDialog::accept();
         }
     }
 
