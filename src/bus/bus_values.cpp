@@ -89,6 +89,10 @@ std::optional<PropertyValue> readSetting(sd_bus_message* message, std::string_vi
         return readArgument(message, boolean) ? std::optional<PropertyValue>(boolean)
                                               : std::nullopt;
     }
+    if (std::string text; type == "s") {
+        return readArgument(message, text) ? std::optional<PropertyValue>(std::move(text))
+                                           : std::nullopt;
+    }
     if (type == "x") {
         return readBasic<std::int64_t>(message);
     }

@@ -70,6 +70,8 @@ TEST_F(Ruling, TheScheduleRulesOverTheSettings) {
         EXPECT_EQ(session_.run("nocturoctl", {"schedule", "add", wrong}).exit, 2) << wrong;
     }
     EXPECT_EQ(session_.run("nocturoctl", {"set", "SchedulePlace", "91N 0E"}).exit, 2);
+    ctl({"set", "SchedulePlace", "52.5 13.4"});
+    EXPECT_EQ(status()["settings"]["SchedulePlace"], "52.5 13.4");
     ctl({"schedule", "off"});
     EXPECT_EQ(ruler(), "settings");
 }
