@@ -67,6 +67,7 @@ class NDAppController : public ActionTarget {
     }
     /// Without it the user's switch alone decides.
     void setAutomation(Automation* automation);
+    Automation* automation() const { return automation_; }
     /// Without them every change is there at once.
     void setFades(Fades* fades) { fades_ = fades; }
     Fades* fades() const { return fades_; }

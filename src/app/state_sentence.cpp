@@ -1,6 +1,7 @@
 #include "app/state_sentence.h"
 
 #include "app/app_controller.h"
+#include "automation/automation.h"
 #include "base/local_time.h"
 #include "base/texts/translated.h"
 #include "displays/affected_screen_set.h"
@@ -153,7 +154,9 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
     state.until = ruling.until;
     state.rule = ruling.rule;
     state.look = controller.titleOfLook(ruling);
-    state.now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    if (controller.automation() != nullptr) {
+        state.now = controller.automation()->now();
+    }
     for (const SelectableEffect& effect : kSelectableEffects) {
         if (NDGroupEffect::effect().containsEffect(effect.className)) {
             state.effects.emplace_back(effect.className);

@@ -88,6 +88,9 @@ class Automation {
     /// Every point, in the setting's order.
     const std::vector<ListedPoint>& listedPoints() const { return listed_; }
 
+    /// By the clock that it follows.
+    Moment now() const { return clock_.now(); }
+
   private:
     struct AppliedLook {
         EffectDocument effects;

@@ -40,6 +40,17 @@ bool addWords(DefaultsStore& defaults, std::string_view key, const std::string& 
     return true;
 }
 
+bool replaceWords(DefaultsStore& defaults, std::string_view key, std::size_t index,
+                  const std::string& words) {
+    PropertyArray list = stored(defaults, key);
+    if (index >= list.size()) {
+        return false;
+    }
+    list[index] = words;
+    defaults.setObject(std::move(list), key);
+    return true;
+}
+
 bool removeWords(DefaultsStore& defaults, std::string_view key, std::size_t index) {
     PropertyArray list = stored(defaults, key);
     if (index >= list.size()) {

@@ -18,7 +18,10 @@ std::vector<std::string> wordsOf(const DefaultsStore& defaults, std::string_view
 bool addWords(DefaultsStore& defaults, std::string_view key, const std::string& words,
               std::size_t most);
 
-/// False where there is none of that index.
+// False where there is none of that index.
+
+bool replaceWords(DefaultsStore& defaults, std::string_view key, std::size_t index,
+                  const std::string& words);
 bool removeWords(DefaultsStore& defaults, std::string_view key, std::size_t index);
 
 } // namespace nocturo

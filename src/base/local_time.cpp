@@ -41,15 +41,18 @@ sys_days localDay(Moment moment) {
     return sys_days(year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday);
 }
 
+minutes timeOfDay(Moment moment) {
+    const std::tm local = localTime(moment);
+    return minutes(local.tm_hour * 60 + local.tm_min);
+}
+
 Moment momentOf(sys_days day, minutes sinceMidnight) {
     // What mktime makes of a time without being told which clock it is of depends on what it was
     // asked before.
     std::optional<Moment> first;
     for (const int isSummerTime : {1, 0}) {
         const Moment moment = momentOf(wallTime(day, sinceMidnight, isSummerTime));
-        const std::tm shown = localTime(moment);
-        const auto minuteOfDay = minutes(shown.tm_hour * 60 + shown.tm_min);
-        if (localDay(moment) + minuteOfDay == day + sinceMidnight) {
+        if (localDay(moment) + timeOfDay(moment) == day + sinceMidnight) {
             first = std::min(first.value_or(moment), moment);
         }
     }

@@ -12,6 +12,9 @@ namespace nocturo {
 /// The day that it is there and then, in the time zone of the system or of $TZ as it is now.
 std::chrono::sys_days localDay(Moment moment);
 
+/// What the clock on the wall shows then.
+std::chrono::minutes timeOfDay(Moment moment);
+
 /// When the clock on the wall shows that time, from 0:00 to 24:00, on a local day: the first of two
 /// where it is set back. A time that is left out where it is set forward comes as much later.
 Moment momentOf(std::chrono::sys_days day, std::chrono::minutes sinceMidnight);

@@ -8,6 +8,7 @@
 #include "automation/display_looks_setting.h"
 #include "automation/filled_displays.h"
 #include "automation/rules_setting.h"
+#include "automation/schedule_day.h"
 #include "automation/schedule_setting.h"
 #include "automation/time_zone_place.h"
 #include "base/local_time.h"
@@ -246,6 +247,21 @@ TEST(Schedule, MissesNoPointAndMeetsNoneTwice) {
     for (std::size_t i = 0; i < all.size(); ++i) {
         EXPECT_EQ(all[i].point, (i + 2) % 3) << i;
     }
+}
+
+TEST(ScheduleDay, MovesPointsFromWhatTheyAreCountedFrom) {
+    const SunOfDay sun{.sunrise = 5h, .sunset = 20h};
+    const auto at = [&](const char* words) { return timeOfPoint(*schedulePoint(words), sun); };
+    EXPECT_EQ(at("sunset-00:30 A"), 19h + 30min);
+    EXPECT_EQ(at("sunset+05:00 A"), 1h) << "of the next day";
+    EXPECT_EQ(at("dusk A"), std::nullopt);
+    const auto moved = [&](const char* words, std::chrono::minutes to) {
+        return textOf(movedTo(*schedulePoint(words), to, sun));
+    };
+    EXPECT_EQ(moved("07:00 off", 8h), "08:00 off");
+    EXPECT_EQ(moved("sunset A", 19h), "sunset-01:00 A");
+    EXPECT_EQ(moved("sunrise A", 23h), "sunrise-06:00 A");
+    EXPECT_EQ(moved("dawn A", 23h), "dawn A");
 }
 
 TEST(Schedule, FollowsThePolarSun) {
