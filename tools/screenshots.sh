@@ -28,7 +28,7 @@ DBUS_SYSTEM_BUS_ADDRESS=unix:path=$home/no-bus "$xorg" ":$((RANDOM % 20000 + 100
 server=$!
 read -r number <"$home/number"
 export DISPLAY=":$number" QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$home XDG_CONFIG_HOME=$home HOME=$home
-export QT_QPA_PLATFORMTHEME=generic
+export QT_QPA_PLATFORMTHEME=generic TZ=Europe/Berlin
 xsetroot -solid '#6a7c8a'
 
 # take SCALE WINDOW FILE LOOK...
@@ -38,7 +38,7 @@ take() {
 
 if [ -n "$looks" ]; then
   mkdir -p "$looks"
-  for window in preferences switching curves about keep no-effect save screens status-menu; do
+  for window in preferences switching schedule curves about keep no-effect save screens status-menu; do
     take 1 "$window" "$looks/$window.png"
     take 1 "$window" "$looks/$window-dark.png" dark
     take 2 "$window" "$looks/$window-200.png"
@@ -48,7 +48,7 @@ if [ -n "$looks" ]; then
       LANGUAGE=$language take 1 "$window" "$looks/$window-$language.png"
     done
   done
-  for window in preferences switching; do
+  for window in preferences switching schedule; do
     take 1 "$window" "$looks/$window-tall.png" tall
     xrandr -s 1024x600
     take 1 "$window" "$looks/$window-1024x600.png"
@@ -59,7 +59,7 @@ if [ -n "$looks" ]; then
     xrandr -s 2048x1536
   done
 else
-  for window in preferences switching about keep status-menu; do
+  for window in preferences switching schedule about keep status-menu; do
     take 1 "$window" "docs/images/$window.png"
   done
   take 1 preferences docs/images/preferences-dark.png dark

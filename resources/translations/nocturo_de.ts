@@ -240,6 +240,10 @@
             <translation>Als S&amp;ymbol im Benachrichtigungsfeld der Leiste</translation>
         </message>
         <message>
+            <source>Schedule</source>
+            <translation>Zeitplan</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>Ö&amp;ffnen …</translation>
         </message>
@@ -1479,6 +1483,86 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>%@ (%@)</source>
             <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source> min</source>
+            <translation> min</translation>
+        </message>
+        <message>
+            <source>Resume</source>
+            <translation>Fortfahren</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Zeitplan</translation>
+        </message>
+        <message>
+            <source>Choose looks by the clock and the sun</source>
+            <translation>Looks nach Uhr und Sonne wählen</translation>
+        </message>
+        <message>
+            <source>Place</source>
+            <translation>Ort</translation>
+        </message>
+        <message>
+            <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
+            <translation>Breite und Länge, etwa 52.5 13.4; leer: nach Zeitzone</translation>
+        </message>
+        <message>
+            <source>Place of the sun:</source>
+            <translation>Ort der Sonne:</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Uhrzeit</translation>
+        </message>
+        <message>
+            <source>Dawn</source>
+            <translation>Morgendämmerung</translation>
+        </message>
+        <message>
+            <source>Sunrise</source>
+            <translation>Sonnenaufgang</translation>
+        </message>
+        <message>
+            <source>Sunset</source>
+            <translation>Sonnenuntergang</translation>
+        </message>
+        <message>
+            <source>Dusk</source>
+            <translation>Abenddämmerung</translation>
+        </message>
+        <message>
+            <source>What the point's time is counted from</source>
+            <translation>Wovon an die Zeit des Punktes zählt</translation>
+        </message>
+        <message>
+            <source>Minutes before or after the sun</source>
+            <translation>Minuten vor oder nach der Sonne</translation>
+        </message>
+        <message>
+            <source>Look of the point</source>
+            <translation>Look des Punktes</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Hinzufügen</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Entfernen</translation>
+        </message>
+        <message>
+            <source>Next: %1$@ at %2$@</source>
+            <translation>Als Nächstes: %1$@ um %2$@</translation>
+        </message>
+        <message>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Eine Pause gibt den Bildschirmen für eine Weile ihre eigenen Farben.</translation>
+        </message>
+        <message>
+            <source>Paused until %1$@, %2$@ h left</source>
+            <translation>Pause bis %1$@, noch %2$@ h</translation>
         </message>
         <message>
             <source>To see what the effects do, start it with --display-services=simulated.</source>

@@ -240,6 +240,10 @@
             <translation>Como icono en la bandeja del si&amp;stema del panel</translation>
         </message>
         <message>
+            <source>Schedule</source>
+            <translation>Horario</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
@@ -1479,6 +1483,86 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>%@ (%@)</source>
             <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source> min</source>
+            <translation> min</translation>
+        </message>
+        <message>
+            <source>Resume</source>
+            <translation>Continuar</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Horario</translation>
+        </message>
+        <message>
+            <source>Choose looks by the clock and the sun</source>
+            <translation>Elegir aspectos según el reloj y el sol</translation>
+        </message>
+        <message>
+            <source>Place</source>
+            <translation>Lugar</translation>
+        </message>
+        <message>
+            <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
+            <translation>Latitud y longitud, como 52.5 13.4; vacío: según la zona horaria</translation>
+        </message>
+        <message>
+            <source>Place of the sun:</source>
+            <translation>Lugar del sol:</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Hora</translation>
+        </message>
+        <message>
+            <source>Dawn</source>
+            <translation>Alba</translation>
+        </message>
+        <message>
+            <source>Sunrise</source>
+            <translation>Amanecer</translation>
+        </message>
+        <message>
+            <source>Sunset</source>
+            <translation>Puesta de sol</translation>
+        </message>
+        <message>
+            <source>Dusk</source>
+            <translation>Anochecer</translation>
+        </message>
+        <message>
+            <source>What the point's time is counted from</source>
+            <translation>Desde qué se cuenta la hora del punto</translation>
+        </message>
+        <message>
+            <source>Minutes before or after the sun</source>
+            <translation>Minutos antes o después del sol</translation>
+        </message>
+        <message>
+            <source>Look of the point</source>
+            <translation>Aspecto del punto</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Añadir</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Quitar</translation>
+        </message>
+        <message>
+            <source>Next: %1$@ at %2$@</source>
+            <translation>A continuación: %1$@ a las %2$@</translation>
+        </message>
+        <message>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Una pausa devuelve a las pantallas sus propios colores por un rato.</translation>
+        </message>
+        <message>
+            <source>Paused until %1$@, %2$@ h left</source>
+            <translation>En pausa hasta %1$@, quedan %2$@ h</translation>
         </message>
         <message>
             <source>To see what the effects do, start it with --display-services=simulated.</source>

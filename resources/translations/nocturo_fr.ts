@@ -240,6 +240,10 @@
             <translation>Comme icône dans la &amp;zone de notification du tableau de bord</translation>
         </message>
         <message>
+            <source>Schedule</source>
+            <translation>Programme</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>&amp;Ouvrir…</translation>
         </message>
@@ -1479,6 +1483,86 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>%@ (%@)</source>
             <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source> min</source>
+            <translation> min</translation>
+        </message>
+        <message>
+            <source>Resume</source>
+            <translation>Reprendre</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Programme</translation>
+        </message>
+        <message>
+            <source>Choose looks by the clock and the sun</source>
+            <translation>Choisir les apparences selon l’heure et le soleil</translation>
+        </message>
+        <message>
+            <source>Place</source>
+            <translation>Lieu</translation>
+        </message>
+        <message>
+            <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
+            <translation>Latitude et longitude, par exemple 52.5 13.4 ; vide : selon le fuseau horaire</translation>
+        </message>
+        <message>
+            <source>Place of the sun:</source>
+            <translation>Lieu du soleil :</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Heure</translation>
+        </message>
+        <message>
+            <source>Dawn</source>
+            <translation>Aube</translation>
+        </message>
+        <message>
+            <source>Sunrise</source>
+            <translation>Lever du soleil</translation>
+        </message>
+        <message>
+            <source>Sunset</source>
+            <translation>Coucher du soleil</translation>
+        </message>
+        <message>
+            <source>Dusk</source>
+            <translation>Crépuscule</translation>
+        </message>
+        <message>
+            <source>What the point's time is counted from</source>
+            <translation>D’où se compte l’heure du point</translation>
+        </message>
+        <message>
+            <source>Minutes before or after the sun</source>
+            <translation>Minutes avant ou après le soleil</translation>
+        </message>
+        <message>
+            <source>Look of the point</source>
+            <translation>Apparence du point</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Ajouter</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Retirer</translation>
+        </message>
+        <message>
+            <source>Next: %1$@ at %2$@</source>
+            <translation>Ensuite : %1$@ à %2$@</translation>
+        </message>
+        <message>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Une pause rend aux écrans leurs propres couleurs pour un moment.</translation>
+        </message>
+        <message>
+            <source>Paused until %1$@, %2$@ h left</source>
+            <translation>En pause jusqu’à %1$@, encore %2$@ h</translation>
         </message>
         <message>
             <source>To see what the effects do, start it with --display-services=simulated.</source>

@@ -240,6 +240,10 @@
             <translation>パネルのシステムトレイのアイコンとして(&amp;Y)</translation>
         </message>
         <message>
+            <source>Schedule</source>
+            <translation>スケジュール</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>開く(&amp;N)...</translation>
         </message>
@@ -1478,6 +1482,86 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>%@ (%@)</source>
             <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source> min</source>
+            <translation> 分</translation>
+        </message>
+        <message>
+            <source>Resume</source>
+            <translation>再開</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>スケジュール</translation>
+        </message>
+        <message>
+            <source>Choose looks by the clock and the sun</source>
+            <translation>時刻と太陽に合わせてルックを選ぶ</translation>
+        </message>
+        <message>
+            <source>Place</source>
+            <translation>場所</translation>
+        </message>
+        <message>
+            <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
+            <translation>緯度と経度（例：52.5 13.4）。空ならタイムゾーンによる</translation>
+        </message>
+        <message>
+            <source>Place of the sun:</source>
+            <translation>太陽の場所：</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>時刻</translation>
+        </message>
+        <message>
+            <source>Dawn</source>
+            <translation>夜明け</translation>
+        </message>
+        <message>
+            <source>Sunrise</source>
+            <translation>日の出</translation>
+        </message>
+        <message>
+            <source>Sunset</source>
+            <translation>日の入り</translation>
+        </message>
+        <message>
+            <source>Dusk</source>
+            <translation>日暮れ</translation>
+        </message>
+        <message>
+            <source>What the point's time is counted from</source>
+            <translation>時刻の基準</translation>
+        </message>
+        <message>
+            <source>Minutes before or after the sun</source>
+            <translation>太陽より前または後の分数</translation>
+        </message>
+        <message>
+            <source>Look of the point</source>
+            <translation>この時点のルック</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>追加</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>削除</translation>
+        </message>
+        <message>
+            <source>Next: %1$@ at %2$@</source>
+            <translation>次：%2$@ に%1$@</translation>
+        </message>
+        <message>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>一時停止の間、画面は本来の色に戻ります。</translation>
+        </message>
+        <message>
+            <source>Paused until %1$@, %2$@ h left</source>
+            <translation>%1$@ まで一時停止中（残り %2$@）</translation>
         </message>
         <message>
             <source>To see what the effects do, start it with --display-services=simulated.</source>

@@ -240,6 +240,10 @@
             <translation>Como um í&amp;cone na bandeja do painel</translation>
         </message>
         <message>
+            <source>Schedule</source>
+            <translation>Agenda</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
@@ -1479,6 +1483,86 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>%@ (%@)</source>
             <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source> min</source>
+            <translation> min</translation>
+        </message>
+        <message>
+            <source>Resume</source>
+            <translation>Continuar</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Agenda</translation>
+        </message>
+        <message>
+            <source>Choose looks by the clock and the sun</source>
+            <translation>Escolher visuais pelo relógio e pelo sol</translation>
+        </message>
+        <message>
+            <source>Place</source>
+            <translation>Lugar</translation>
+        </message>
+        <message>
+            <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
+            <translation>Latitude e longitude, como 52.5 13.4; vazio: pelo fuso horário</translation>
+        </message>
+        <message>
+            <source>Place of the sun:</source>
+            <translation>Lugar do sol:</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Hora</translation>
+        </message>
+        <message>
+            <source>Dawn</source>
+            <translation>Alvorada</translation>
+        </message>
+        <message>
+            <source>Sunrise</source>
+            <translation>Nascer do sol</translation>
+        </message>
+        <message>
+            <source>Sunset</source>
+            <translation>Pôr do sol</translation>
+        </message>
+        <message>
+            <source>Dusk</source>
+            <translation>Anoitecer</translation>
+        </message>
+        <message>
+            <source>What the point's time is counted from</source>
+            <translation>De onde se conta a hora do ponto</translation>
+        </message>
+        <message>
+            <source>Minutes before or after the sun</source>
+            <translation>Minutos antes ou depois do sol</translation>
+        </message>
+        <message>
+            <source>Look of the point</source>
+            <translation>Visual do ponto</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Adicionar</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Remover</translation>
+        </message>
+        <message>
+            <source>Next: %1$@ at %2$@</source>
+            <translation>A seguir: %1$@ às %2$@</translation>
+        </message>
+        <message>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Uma pausa devolve às telas as próprias cores por um tempo.</translation>
+        </message>
+        <message>
+            <source>Paused until %1$@, %2$@ h left</source>
+            <translation>Em pausa até %1$@, faltam %2$@ h</translation>
         </message>
         <message>
             <source>To see what the effects do, start it with --display-services=simulated.</source>

@@ -240,6 +240,10 @@
             <translation>作为面板系统托盘中的图标(&amp;Y)</translation>
         </message>
         <message>
+            <source>Schedule</source>
+            <translation>计划</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>打开(&amp;N)...</translation>
         </message>
@@ -1475,6 +1479,86 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>%@ (%@)</source>
             <translation>%@ (%@)</translation>
+        </message>
+        <message>
+            <source> min</source>
+            <translation> 分钟</translation>
+        </message>
+        <message>
+            <source>Resume</source>
+            <translation>继续</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>计划</translation>
+        </message>
+        <message>
+            <source>Choose looks by the clock and the sun</source>
+            <translation>按时间和太阳选择外观方案</translation>
+        </message>
+        <message>
+            <source>Place</source>
+            <translation>地点</translation>
+        </message>
+        <message>
+            <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
+            <translation>纬度和经度，例如 52.5 13.4；留空则按时区</translation>
+        </message>
+        <message>
+            <source>Place of the sun:</source>
+            <translation>太阳的地点：</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>时间</translation>
+        </message>
+        <message>
+            <source>Dawn</source>
+            <translation>黎明</translation>
+        </message>
+        <message>
+            <source>Sunrise</source>
+            <translation>日出</translation>
+        </message>
+        <message>
+            <source>Sunset</source>
+            <translation>日落</translation>
+        </message>
+        <message>
+            <source>Dusk</source>
+            <translation>黄昏</translation>
+        </message>
+        <message>
+            <source>What the point's time is counted from</source>
+            <translation>时间点从何算起</translation>
+        </message>
+        <message>
+            <source>Minutes before or after the sun</source>
+            <translation>太阳之前或之后的分钟数</translation>
+        </message>
+        <message>
+            <source>Look of the point</source>
+            <translation>该时间点的外观方案</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>添加</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>移除</translation>
+        </message>
+        <message>
+            <source>Next: %1$@ at %2$@</source>
+            <translation>接下来：%2$@ %1$@</translation>
+        </message>
+        <message>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>暂停会让屏幕暂时恢复自己的颜色。</translation>
+        </message>
+        <message>
+            <source>Paused until %1$@, %2$@ h left</source>
+            <translation>已暂停至 %1$@，还剩 %2$@</translation>
         </message>
         <message>
             <source>To see what the effects do, start it with --display-services=simulated.</source>

@@ -74,7 +74,7 @@ NDPreferencesController& AppWindows::preferencesController() {
             [this] { return stateSentence(controller_, defaults_); }, &looks_.chosen(),
             [this](const std::string& name) { looks_.pick(name); }, autostart,
             [this] { return documentFolder ? documentFolder() : std::filesystem::path(); },
-            [this] { return looks_.shown(); }, controller_.fades()});
+            [this] { return looks_.shown(); }, controller_.fades(), controller_.automation()});
         preferenceController->setKeyboardLayout(layout_);
         QObject::connect(preferenceController.get(), &NDPreferencesController::documentWasUsed,
                          preferenceController.get(), [this](const QString& path) {

@@ -1,3 +1,5 @@
+#include "automation/automation.h"
+#include "automation/word_list.h"
 #include "desktop/controls/parameter_slider.h"
 #include "desktop/hotkey_field/hot_key_text_field.h"
 #include "desktop/looks/looks_row.h"
@@ -5,6 +7,8 @@
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
 #include "desktop/preview/effect_preview.h"
+#include "desktop/schedule/point_handle.h"
+#include "desktop/schedule/schedule_page.h"
 #include "display_services_fixture.h"
 #include "documents/chosen_look.h"
 #include "documents/effect_document_file.h"
@@ -12,7 +16,9 @@
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
+#include "fake_wall_clock.h"
 #include "session/autostart.h"
+#include "settings/settings_keys.h"
 #include "temporary_directory.h"
 
 #include <gmock/gmock.h>
@@ -21,6 +27,8 @@
 #include <QtWidgets>
 
 using namespace nocturo;
+using testing::ElementsAre;
+using testing::StartsWith;
 
 struct PreferencesWindow : DisplayServicesFixture {
     PreferencesWindow() {
@@ -418,6 +426,50 @@ TEST_F(EffectDocuments, PanelsSaveAndOpen) {
 
     choose("saveButton", "/proc/mine.nocturo");
     EXPECT_EQ(said(), "Could not save settings at this location.");
+}
+
+TEST_F(PreferencesWindow, PointsOfTheScheduleAreAddedMovedAndRemoved) {
+    FakeWallClock clock(Moment(std::chrono::days(20'000) + std::chrono::hours(12)));
+    FakeRunLoop runLoop;
+    Automation automation(*store_, center_, clock, runLoop, looks, home.path());
+    store_->setObject(std::string("52.5 13.4"), kPlace);
+    automation.start();
+    SchedulePage page;
+    page.setSurroundings({*store_, center_, automation, looks});
+    page.resize(800, 500);
+    page.show();
+    const auto press = [&page](const char* name) { page.findChild<QPushButton*>(name)->click(); };
+    const auto words = [this] { return wordsOf(*store_, kSchedule); };
+    press("addPoint");
+    press("addPoint");
+    EXPECT_THAT(words(), ElementsAre("sunset Negative", "sunrise off"));
+    auto* handle = page.findChildren<PointHandle*>().value(0);
+    const int sunset = handle->value();
+    QTest::keyClick(handle, Qt::Key_Left);
+    EXPECT_EQ(words()[0], "sunset-00:05 Negative");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(handle)->text(QAccessible::Value),
+              clockText(sunset - 5));
+    const auto dragged = [&](int by, Qt::Key key) {
+        const QPoint middle = handle->rect().center();
+        QTest::mousePress(handle, Qt::LeftButton, {}, middle);
+        QTest::mouseMove(handle, middle + QPoint(by, 0));
+        EXPECT_EQ(words()[0], "sunset-00:05 Negative") << "until it is let go";
+        QTest::keyClick(handle, key);
+        QTest::mouseRelease(handle, Qt::LeftButton);
+        return words()[0];
+    };
+    EXPECT_EQ(dragged(-100, Qt::Key_Escape), "sunset-00:05 Negative");
+    EXPECT_THAT(dragged(-100, Qt::Key_Shift), StartsWith("sunset-0"));
+    EXPECT_LT(handle->value(), sunset - 60);
+    page.findChild<QTreeWidget*>()->setCurrentItem(page.findChild<QTreeWidget*>()->topLevelItem(0));
+    press("removePoint");
+    EXPECT_EQ(words().size(), 1U);
+    EXPECT_THAT(words()[0], StartsWith("sunset"));
+
+    EXPECT_TRUE(automation.pause("30m"));
+    EXPECT_TRUE(page.findChild<QPushButton*>("resume")->isEnabled());
+    press("resume");
+    EXPECT_FALSE(automation.ruling(true).by == Ruler::pause);
 }
 
 TEST_F(PreferencesWindow, TheQuestionAboutColorsStandsOverIt) {

@@ -4,6 +4,7 @@
 #include "app/app_controller.h"
 #include "app/app_menus.h"
 #include "app/look_picker.h"
+#include "automation/automation.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/runtime_directory.h"
@@ -23,6 +24,7 @@
 #include "effects/group_effect.h"
 #include "session/autostart.h"
 #include "settings/defaults_store.h"
+#include "settings/settings_keys.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -49,6 +51,12 @@ struct LongTexts : QTranslator {
         return english.size() < 4 ? english
                                   : english + QString(english.size() / 3 + 1, QLatin1Char('x'));
     }
+};
+
+/// Stands still, in an afternoon of spring.
+struct StillClock : WallClock {
+    Moment now() const override { return Moment(std::chrono::seconds(1'776'178'800)); }
+    std::unique_ptr<Timer> wakeAt(Moment, std::function<void()>) override { return nullptr; }
 };
 
 QPalette darkPalette() {
@@ -101,6 +109,8 @@ void show(AppWindows& windows, const QString& window) {
         press("affectedScreens");
     } else if (window == QLatin1String("switching")) {
         windows.shownPreferences()->findChild<QTabWidget*>()->setCurrentIndex(1);
+    } else if (window == QLatin1String("schedule")) {
+        windows.shownPreferences()->findChild<QTabWidget*>()->setCurrentIndex(2);
     } else if (window == QLatin1String("curves")) {
         press("showCurves");
     }
@@ -114,7 +124,10 @@ int run(const QStringList& arguments) {
     EventLoop runLoop;
     const QtLoop qtLoop(runLoop);
     NDAppController controller(defaults, centers, runLoop);
+    StillClock clock;
     Looks looks(QCoreApplication::applicationDirPath().toStdString() + "/looks", "", centers.local);
+    Automation automation(defaults, centers.local, clock, runLoop, looks, *runtimeDirectory());
+    controller.setAutomation(&automation);
     ChosenLook chosenLook(looks);
     LookPicker lookPicker(controller, chosenLook);
     AppWindows windows(controller, defaults, centers, lookPicker, {});
@@ -142,6 +155,14 @@ int run(const QStringList& arguments) {
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
     AppMenus appMenus(controller, defaults, centers.local, lookPicker, recentDocuments, {});
     const DesktopMenus menus(controller, windows, recentDocuments, appMenus, nullptr);
+    if (arguments[1] == QLatin1String("schedule")) {
+        defaults.setObject(std::string("52.52 13.4"), kPlace);
+        defaults.setObject(
+            PropertyArray{"sunset-00:30 Warm evening", "23:00 Night reading", "07:30 off"},
+            kSchedule);
+        defaults.setBool(true, kUseSchedule);
+    }
+    automation.start();
     controller.applicationDidFinishLaunching();
     appMenus.setActivateItemTitles(controller.effectActive());
     appMenus.makeScreenMenus();

@@ -5,6 +5,7 @@
 #include "desktop/preferences/sheet.h"
 #include "desktop/qt/localized.h"
 #include "displays/fades.h"
+#include "documents/chosen_look.h"
 #include "effects/color_filter_effect.h"
 #include "effects/dim_effect.h"
 #include "effects/effect_choices.h"
@@ -76,6 +77,12 @@ void NDPreferencesController::connectSettings() {
         ui_->hotKeyField->setHotKey(nullptr);
         changeHotKey(*ui_->hotKeyField);
     });
+    if (surroundings_.automation != nullptr && surroundings_.looks != nullptr) {
+        ui_->schedule->setSurroundings({surroundings_.defaults, surroundings_.localCenter,
+                                        *surroundings_.automation, surroundings_.looks->looks()});
+    } else {
+        ui_->pages->removeTab(ui_->pages->indexOf(ui_->schedulePage));
+    }
 }
 
 void NDPreferencesController::setRecordingHotKey(bool recording) {

@@ -346,6 +346,7 @@ void NDPreferencesController::updateState() {
         return;
     }
     ui_->effectSwitch->setChecked(surroundings_.isOn());
+    ui_->schedule->follow();
     ui_->looks->tick();
     const QString sentence = QString::fromStdString(surroundings_.stateSentence());
     if (ui_->stateSentence->text() != sentence) {

@@ -22,6 +22,7 @@ class NocturoPreferencePanel;
 
 namespace nocturo {
 
+class Automation;
 class Autostart;
 class ChosenLook;
 class DefaultsStore;
@@ -60,6 +61,8 @@ struct PreferenceSurroundings {
     std::function<std::string()> shownLook = {};
     /// What a slider sets is there at once. Without them everything is.
     Fades* fades = nullptr;
+    /// What happens by itself; without it, or without looks, there is no page for it.
+    Automation* automation = nullptr;
 };
 
 /// The preference window. It holds no settings of its own: every control writes straight into the

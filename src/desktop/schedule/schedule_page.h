@@ -1,0 +1,114 @@
+#pragma once
+
+#include "automation/schedule_day.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QPushButton;
+class QSpinBox;
+class QTimeEdit;
+class QTreeWidget;
+
+namespace nocturo {
+
+class Automation;
+class DefaultsStore;
+class Looks;
+class NotificationCenter;
+class ScheduleStrip;
+
+/// What the page needs of its surroundings; all must outlive it.
+struct ScheduleSurroundings {
+    DefaultsStore& defaults;
+    NotificationCenter& localCenter;
+    Automation& automation;
+    Looks& looks;
+};
+
+/// The page of what happens by itself: pauses, and the schedule with its points on a day and in a
+/// list, of which the current one is edited. It holds no settings: every control writes at once,
+/// and follows whoever else does. Its controls are made when it is first shown. Main thread only.
+class SchedulePage : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit SchedulePage(QWidget* parent = nullptr);
+    ~SchedulePage() override;
+
+    /// Without them the page stays empty.
+    void setSurroundings(const ScheduleSurroundings& surroundings);
+
+    /// Somebody turned the switch, which ends pauses.
+    void follow();
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+  private:
+    struct ListedLook {
+        std::string name; // empty where the effect goes off
+        QString title;
+    };
+
+    void make();
+    QLayout* newEditor();
+    QWidget* newPauseBox();
+    QWidget* newScheduleBox();
+    void listen();
+
+    void update();
+    void updatePoints();
+    void orderTabs();
+    void updateEditor();
+    void updateSentence();
+    void updatePause();
+    void followClock();
+
+    void choose(int index);
+    void addPoint();
+    void changePoint();
+    void movePoint(int index, int minutes);
+    void takePlace();
+    void say(const std::string& problem);
+
+    std::optional<SchedulePoint> pointAt(int index) const;
+    QString titleOf(const SchedulePoint& point) const;
+    QString whenText(const SchedulePoint& point) const;
+
+    std::optional<ScheduleSurroundings> around_;
+    std::vector<ListedLook> listedLooks_;
+    std::vector<std::optional<SchedulePoint>> points_; // of the setting; nothing for other words
+    SunOfDay sun_;
+    int current_ = -1;
+    QTimer clock_; // while the page is shown
+
+    // Null until the page is made.
+    QLabel* pause_ = nullptr;
+    QPushButton* begin_ = nullptr;
+    QPushButton* resume_ = nullptr;
+    QCheckBox* use_ = nullptr;
+    QLabel* sentence_ = nullptr;
+    ScheduleStrip* strip_ = nullptr;
+    QTreeWidget* list_ = nullptr;
+    QComboBox* anchor_ = nullptr;
+    QTimeEdit* time_ = nullptr;
+    QSpinBox* offset_ = nullptr;
+    QComboBox* look_ = nullptr;
+    QPushButton* add_ = nullptr;
+    QPushButton* remove_ = nullptr;
+    QLabel* problem_ = nullptr;
+    QLineEdit* place_ = nullptr;
+};
+
+} // namespace nocturo
