@@ -214,7 +214,7 @@ TEST_F(Application, ThePreferenceWindowTakesClicksMnemonicsAndAHotKey) {
     press("ctrl+w"); // otherwise closes the window
     EXPECT_TRUE(hotKeyBecomes("⌃W"));
     EXPECT_TRUE(isShown("Preferences"));
-    press("ctrl+Tab");
+    press("ctrl+shift+Tab"); // back
     press("alt+i");
     EXPECT_TRUE(turns(true));
     press("ctrl+w"); // what is registered now is nobody else's
