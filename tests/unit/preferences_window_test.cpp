@@ -443,7 +443,7 @@ TEST_F(PreferencesWindow, PointsOfTheScheduleAreAddedMovedAndRemoved) {
     press("addPoint");
     press("addPoint");
     EXPECT_THAT(words(), ElementsAre("sunset Negative", "sunrise off"));
-    auto* handle = page.findChildren<PointHandle*>().value(0);
+    auto* handle = page.findChild<QSlider*>();
     const int sunset = handle->value();
     QTest::keyClick(handle, Qt::Key_Left);
     EXPECT_EQ(words()[0], "sunset-00:05 Negative");
