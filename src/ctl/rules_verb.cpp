@@ -38,7 +38,7 @@ std::string reason(const Json& told) {
     return translated("a window fills %@", {screens});
 }
 
-void printList(const Json& properties, const Json& rules) {
+void printRules(const Json& properties, const Json& rules) {
     std::string text;
     int number = 0;
     for (const Json& told : rules) {
@@ -82,7 +82,7 @@ void runRules(Arguments arguments) {
         if (asJson) {
             print(rules.dump() + '\n');
         } else {
-            printList(properties, rules);
+            printRules(properties, rules);
         }
     } else if (how == "on" || how == "off") {
         expect(arguments.size() == 1);

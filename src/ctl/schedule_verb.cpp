@@ -33,7 +33,7 @@ std::string when(const Json& point) {
     return clockText(Moment(std::chrono::seconds(point["next"].get<std::int64_t>())), now);
 }
 
-void printList(const Json& properties, const Json& points) {
+void printSchedule(const Json& properties, const Json& points) {
     std::string text;
     int number = 0;
     for (const Json& point : points) {
@@ -88,7 +88,7 @@ void runSchedule(Arguments arguments) {
         } else if (asJson) {
             print(points.dump() + '\n');
         } else {
-            printList(properties, points);
+            printSchedule(properties, points);
         }
     } else if (how == "on" || how == "off") {
         expect(arguments.size() == 1);

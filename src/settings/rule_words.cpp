@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kFullscreen = "fullscreen";
 constexpr std::string_view kProgram = "program";
 constexpr std::string_view kGame = "game";
-constexpr std::string_view kOff = "off";
+constexpr std::string_view kWordForOff = "off";
 
 /// Takes the first word away, and the space after it.
 std::string_view takeWord(std::string_view& words) {
@@ -49,7 +49,7 @@ std::optional<Rule> ruleFromWords(std::string_view words) {
     if (words.empty() || rule.program.empty() == (rule.when == Rule::When::program)) {
         return std::nullopt;
     }
-    rule.look = words != kOff ? words : std::string_view();
+    rule.look = words != kWordForOff ? words : std::string_view();
     return rule;
 }
 
@@ -68,7 +68,7 @@ std::string conditionText(const Rule& rule) {
 }
 
 std::string textOf(const Rule& rule) {
-    return conditionText(rule) + ' ' + (rule.look.empty() ? std::string(kOff) : rule.look);
+    return conditionText(rule) + ' ' + (rule.look.empty() ? std::string(kWordForOff) : rule.look);
 }
 
 } // namespace nocturo
