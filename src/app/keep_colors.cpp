@@ -49,17 +49,17 @@ KeepColors::~KeepColors() {
 
 void KeepColors::keep() {
     accepted_ = now();
-    kept_ = accepted_->colors;
+    kept_ = accepted_;
     withdraw();
 }
 
 KeepColors::State KeepColors::now() const {
-    return {screenColors(defaults_), controller_.effectActive()};
+    return {screenColors(defaults_), controller_.ruling().look, controller_.effectActive()};
 }
 
 void KeepColors::judge() {
     State state = now();
-    if (kept_ && kept_ != state.colors) {
+    if (kept_ && !kept_->looksAs(state)) {
         kept_.reset();
     }
     const std::optional<bool> unreadable = controller_.everyAffectedDisplayIsUnreadable();
@@ -129,9 +129,12 @@ void KeepColors::goBack() {
         return;
     }
     const auto atOnce = controller_.changeOver(Fades::Length::zero()); // nobody sees anything
-    if (accepted_ && accepted_->active && *accepted_ != now()) {
+    const bool hasColors = accepted_ && accepted_->active && *accepted_ != now();
+    if (hasColors) {
         setScreenColors(defaults_, accepted_->colors);
-    } else {
+    }
+    // Colors are of no use against the look of a rule or the schedule.
+    if (!hasColors || controller_.everyAffectedDisplayIsUnreadable() == true) {
         controller_.setEffectActive(false, true);
     }
 }

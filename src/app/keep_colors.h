@@ -48,8 +48,12 @@ class KeepColors {
 
     struct State {
         ScreenColors colors;
+        std::string look{}; // of whoever rules over the settings' effects; empty for nobody
         bool active = false;
         bool operator==(const State&) const = default;
+        bool looksAs(const State& other) const {
+            return colors == other.colors && look == other.look;
+        }
     };
     State now() const;
 
@@ -60,7 +64,7 @@ class KeepColors {
     BurstSettler settler_; // changes that belong together, as a document's, are judged once
     std::optional<State> accepted_;   // read or kept last
     std::optional<State> questioned_; // while the question is open
-    std::optional<ScreenColors> kept_;
+    std::optional<State> kept_;
     std::unique_ptr<Timer> countdown_;
     int secondsLeft_ = 0;
     bool waitsForPointer_ = false;

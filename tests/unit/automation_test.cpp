@@ -2,6 +2,7 @@
 
 #include "automation/automation.h"
 
+#include "app/keep_colors.h"
 #include "app/look_picker.h"
 #include "app/looks_menu.h"
 #include "app/state_sentence.h"
@@ -453,6 +454,29 @@ struct RulesTest : AutomationTest {
     bool isGaming_ = false;
     std::function<void()> changed_;
 };
+
+TEST_F(RulesTest, LeaveNobodyInTheDarkWhateverTheSettingsSay) {
+    KeepColors question(controller_, *store_, center_, runLoop_);
+    add("game Dark");
+    const auto passes = [this] { runLoop_.advance((KeepColors::kSeconds + 1) * 1000); };
+    question.keep();
+    now({}, true);
+    EXPECT_EQ(shown(), "bb");
+    passes();
+    EXPECT_EQ(shown(), "oo") << "what was kept was not the look";
+
+    now({}, false);
+    passes();
+    controller_.setEffectActive(true, true);
+    passes();
+    EXPECT_EQ(shown(), "ii");
+    for (const char* display : {"D1", "D2"}) {
+        EXPECT_TRUE(setLookOfDisplay(*store_, looks_, id(display), "Dark"));
+    }
+    chooseEffects({"NDInvertEffect", "NDHideStripesEffect"});
+    passes();
+    EXPECT_EQ(shown(), "oo") << "other colors are of no use";
+}
 
 TEST_F(RulesTest, HoldForTheDisplayThatIsFilledOrForAll) {
     EXPECT_EQ(listening_, 0);
