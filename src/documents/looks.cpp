@@ -67,10 +67,12 @@ std::size_t shownCharacter(std::string_view text) {
     return isShown ? size : 0;
 }
 
-/// Whether it can be a file and be shown in a line.
+/// Whether it can be a file and be shown in a line, and stands for no look and no option where
+/// looks are named.
 bool isName(std::string_view name) {
-    if (name.empty() || name.size() > kLongestName || name.starts_with('.') ||
-        name.starts_with(' ') || name.ends_with(' ') || name.find('/') != name.npos) {
+    if (name.empty() || name.size() > kLongestName || name == "off" || name.starts_with('-') ||
+        name.starts_with('.') || name.starts_with(' ') || name.ends_with(' ') ||
+        name.find('/') != name.npos) {
         return false;
     }
     while (!name.empty()) {

@@ -64,8 +64,8 @@ TEST_F(LooksTest, AreKeptRenamedOrderedAndDeleted) {
     EXPECT_TRUE(looks_.remove("Film"));
     EXPECT_FALSE(looks_.remove("Paper tint")) << "not the user's";
     EXPECT_FALSE(looks_.named("Film"));
-    for (const char* name : {"", ".hidden", "a/b", " a", "a\nb", "\xFF", "\xC0\xAF", "\xE2\x80\xAE",
-                             "\xED\xA0\x80", "\xC3"}) {
+    for (const char* name : {"", "off", "-", ".hidden", "a/b", " a", "a\nb", "\xFF", "\xC0\xAF",
+                             "\xE2\x80\xAE", "\xED\xA0\x80", "\xC3"}) {
         EXPECT_FALSE(looks_.save(name, {})) << name;
     }
     EXPECT_THAT(namesIn(home_ / "own"), ElementsAre("E-ink \xC3\xA9.nocturo", "order.plist"));
