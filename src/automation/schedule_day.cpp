@@ -10,10 +10,10 @@ namespace {
 using namespace std::chrono;
 using Anchor = SchedulePoint::Anchor;
 
-constexpr minutes kDay = 24h;
+constexpr minutes kWholeDay = 24h;
 
 minutes withinDay(minutes time) {
-    return (time % kDay + kDay) % kDay;
+    return (time % kWholeDay + kWholeDay) % kWholeDay;
 }
 
 } // namespace
@@ -55,8 +55,8 @@ SchedulePoint movedTo(SchedulePoint point, minutes time, const SunOfDay& sun) {
         return point;
     }
     point.offset = withinDay(time - *start);
-    if (point.anchor != Anchor::midnight && point.offset > kDay / 2) {
-        point.offset -= kDay;
+    if (point.anchor != Anchor::midnight && point.offset > kWholeDay / 2) {
+        point.offset -= kWholeDay;
     }
     return point;
 }
