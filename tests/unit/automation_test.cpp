@@ -434,6 +434,7 @@ struct RulesTest : AutomationTest {
                                             return std::make_unique<Told>(*this);
                                         }});
     }
+    ~RulesTest() override { automation_.rules().stopListening(); }
     void add(const char* words) { EXPECT_TRUE(addRule(*store_, looks_, words)) << words; }
     void now(InFront inFront, bool isGaming = false) {
         inFront_ = std::move(inFront);
