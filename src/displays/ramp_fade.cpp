@@ -17,7 +17,7 @@ namespace nocturo {
 namespace {
 
 constexpr int kIntervals = 2048;
-constexpr float kFull = 65535.0F;
+constexpr float kFullRamp = 65535.0F;
 
 double lightOfSignal(double signal) {
     return signal <= 0.04045 ? signal / 12.92 : std::pow((signal + 0.055) / 1.055, 2.4);
@@ -65,7 +65,7 @@ class Table {
 void appendLightness(const std::vector<std::uint16_t>& channel, std::vector<float>& lightness) {
     static const Table table([](double signal) { return lightnessOfLight(lightOfSignal(signal)); });
     for (const std::uint16_t entry : channel) {
-        lightness.push_back(table(static_cast<float>(entry) / kFull));
+        lightness.push_back(table(static_cast<float>(entry) / kFullRamp));
     }
 }
 
@@ -86,7 +86,7 @@ bool haveEqualChannels(const Ramp& ramp) {
 const Table& entryTable() {
     constexpr double kHalf = 0.5; // rounds
     static const Table table([](double lightness) {
-        return signalOfLight(lightOfLightness(lightness)) * kFull + kHalf;
+        return signalOfLight(lightOfLightness(lightness)) * kFullRamp + kHalf;
     });
     return table;
 }

@@ -40,7 +40,7 @@ remove() {
 in_session() {
   sed -i '/^Exec=/s/$/ --display-services=simulated/' \
     "$root/usr/share/dbus-1/services/org.nocturo.Nocturo.service"
-  inside env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/tmp XDG_CONFIG_HOME=/tmp XDG_STATE_HOME=/tmp \
+  inside env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/tmp XDG_CONFIG_HOME=/tmp XDG_STATE_HOME=/tmp XDG_CACHE_HOME=/tmp \
     dbus-run-session -- sh -ec "
       dbus-send --session --print-reply --dest=org.freedesktop.DBus / \
         org.freedesktop.DBus.StartServiceByName string:org.nocturo.Nocturo uint32:0
