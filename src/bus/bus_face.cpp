@@ -230,13 +230,13 @@ BusAnswer BusFace::whetherReady() const {
 }
 
 BusAnswer BusFace::setActive(bool active) {
-    const auto change = controller_.changeOver(wishedFade());
+    const auto change = wishedChange();
     controller_.setEffectActive(active, true);
     return {};
 }
 
 BusAnswer BusFace::toggle() {
-    const auto change = controller_.changeOver(wishedFade());
+    const auto change = wishedChange();
     controller_.toggleGlobalEffect();
     return {};
 }

@@ -57,7 +57,7 @@ class BusFace {
 
     BusAnswer setActive(bool active);
     BusAnswer fadeNext(double seconds);
-    Fades::Length wishedFade();
+    Fades::Change wishedChange();
     std::string caller() const;
     BusAnswer toggle();
     BusAnswer pause(const std::string& words);

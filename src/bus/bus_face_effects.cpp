@@ -172,30 +172,32 @@ BusAnswer BusFace::fadeNext(double seconds) {
     return {};
 }
 
-Fades::Length BusFace::wishedFade() {
+Fades::Change BusFace::wishedChange() {
     if (nextFade_.first.empty() || nextFade_.first != caller()) {
-        return controller_.lengthOfFades();
+        return controller_.changeOver(controller_.lengthOfFades());
     }
-    return std::exchange(nextFade_, {}).second;
+    const Fades::Length length = std::exchange(nextFade_, {}).second;
+    const bool isAtOnce = length == Fades::Length::zero();
+    return {controller_.fades(), length, isAtOnce ? Fades::Former::ends : Fades::Former::goesOn};
 }
 
 BusAnswer BusFace::applyLook(const std::string& name) {
-    const auto change = controller_.changeOver(wishedFade());
+    const auto change = wishedChange();
     return answerOf(chosenLook_.apply(name));
 }
 
 BusAnswer BusFace::applyNextLook() {
-    const auto change = controller_.changeOver(wishedFade());
+    const auto change = wishedChange();
     return answerOf(chosenLook_.applyNext());
 }
 
 BusAnswer BusFace::applyPreviousLook() {
-    const auto change = controller_.changeOver(wishedFade());
+    const auto change = wishedChange();
     return answerOf(chosenLook_.applyPrevious());
 }
 
 BusAnswer BusFace::goBackFromLook() {
-    const auto change = controller_.changeOver(wishedFade());
+    const auto change = wishedChange();
     return answerOf(chosenLook_.goBack());
 }
 

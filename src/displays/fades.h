@@ -12,13 +12,16 @@ class Fades {
   public:
     using Length = std::chrono::milliseconds;
 
+    /// What is on its way when a change is made.
+    enum class Former { goesOn, ends };
+
     /// What is written while one lives takes that long; 0 is at once, as it is without one. What is
-    /// on its way already goes on as it was. Of several that live at a time the first counts. The
-    /// fades may be null, and must outlive it.
+    /// on its way already goes on as it was, or ends with this at its result. Of several that live
+    /// at a time the first counts. The fades may be null, and must outlive it.
     class [[nodiscard]] Change {
       public:
-        Change(Fades* fades, Length length)
-            : fades_(fades != nullptr && !fades->isChanging_ ? fades : nullptr) {
+        Change(Fades* fades, Length length, Former former = Former::goesOn)
+            : fades_(fades != nullptr && !fades->isChanging_ ? fades : nullptr), former_(former) {
             if (fades_ != nullptr) {
                 fades_->isChanging_ = true;
                 fades_->length_ = length;
@@ -28,6 +31,9 @@ class Fades {
             if (fades_ != nullptr) {
                 fades_->isChanging_ = false;
                 fades_->length_ = Length::zero();
+                if (former_ == Former::ends) {
+                    fades_->finish();
+                }
             }
         }
         Change(const Change&) = delete;
@@ -35,6 +41,7 @@ class Fades {
 
       private:
         Fades* fades_; // null where another change counts
+        Former former_;
     };
 
     /// Of the change that is being made.

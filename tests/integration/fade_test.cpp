@@ -48,7 +48,9 @@ TEST_F(Fade, HoldsUpNobodyWhoNeedsTheDisplays) {
     ctl({"off", "--fade", "5"});
     ctl({"restore"});
     EXPECT_TRUE(allOwnWithin(Milliseconds(100))) << shown();
+    ctl({"on", "--fade", "5"});
     ctl({"on", "--fade", "0"});
+    EXPECT_EQ(shown(), "iiii") << "what was on its way has ended";
     ctl({"off"});
     EXPECT_EQ(shown(), "????");
     kill(false);
