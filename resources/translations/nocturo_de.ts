@@ -491,6 +491,10 @@
             <translation>„%@“ ist keine Zeit für eine Pause wie 30m, 2h oder until 18:00.</translation>
         </message>
         <message>
+            <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
+            <translation>Mit dem Look „%@“ konnte niemand die Bildschirme lesen; er bedeutet Aus, bis er geändert wird.</translation>
+        </message>
+        <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Diese Arbeitsumgebung sagt nicht, welches Fenster vorn ist.</translation>
         </message>

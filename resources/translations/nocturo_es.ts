@@ -491,6 +491,10 @@
             <translation>«%@» no es un tiempo de pausa como 30m, 2h o until 18:00.</translation>
         </message>
         <message>
+            <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
+            <translation>Con el aspecto «%@» nadie podía leer las pantallas; significa apagado hasta que se cambie.</translation>
+        </message>
+        <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Este escritorio no dice qué ventana está delante.</translation>
         </message>

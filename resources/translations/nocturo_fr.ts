@@ -491,6 +491,10 @@
             <translation>« %@ » n’est pas une durée de pause telle que 30m, 2h ou until 18:00.</translation>
         </message>
         <message>
+            <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
+            <translation>Avec l’apparence « %@ », personne ne pouvait lire les écrans ; elle vaut arrêt jusqu’à ce qu’elle soit modifiée.</translation>
+        </message>
+        <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Ce bureau ne dit pas quelle fenêtre est au premier plan.</translation>
         </message>

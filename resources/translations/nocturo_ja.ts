@@ -491,6 +491,10 @@
             <translation>「%@」は、30m、2h、until 18:00 のような一時停止の時間ではありません。</translation>
         </message>
         <message>
+            <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
+            <translation>ルック「%@」では画面を読めませんでした。変更されるまではオフとして扱われます。</translation>
+        </message>
+        <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>このデスクトップは、どのウィンドウが最前面にあるかを伝えません。</translation>
         </message>

@@ -491,6 +491,10 @@
             <translation>"%@" não é um tempo de pausa como 30m, 2h ou until 18:00.</translation>
         </message>
         <message>
+            <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
+            <translation>Com o visual “%@” ninguém conseguia ler as telas; ele significa desligado até ser alterado.</translation>
+        </message>
+        <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Esta área de trabalho não diz qual janela está na frente.</translation>
         </message>

@@ -491,6 +491,10 @@
             <translation>“%@”不是 30m、2h 或 until 18:00 这样的暂停时间。</translation>
         </message>
         <message>
+            <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
+            <translation>在外观方案“%@”下无人能看清屏幕；在更改之前，它表示关闭。</translation>
+        </message>
+        <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>此桌面不告知哪个窗口在最前面。</translation>
         </message>

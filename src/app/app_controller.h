@@ -167,6 +167,10 @@ class NDAppController : public ActionTarget {
     /// The title of the look that rules over the effects of the settings; empty where none does.
     std::string titleOfLook(const Ruling& ruling) const;
 
+    /// The user cannot read the screens under looks of rules or the schedule: those that rule now
+    /// mean off from then on. False where none does.
+    bool refuseRuledLooks();
+
     /// Whether the effect is off only for a time, by the screen saver or a pause.
     bool isPaused() const { return paused_ || ruling().by == Ruler::pause; }
 

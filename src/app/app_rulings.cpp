@@ -53,6 +53,18 @@ std::string NDAppController::titleOfLook(const Ruling& ruling) const {
     return automation_ != nullptr ? automation_->titleOfLook(ruling) : std::string();
 }
 
+bool NDAppController::refuseRuledLooks() {
+    for (const CGDirectDisplayID display : affectedDisplays(defaults_)) {
+        const Ruling its = ruling(display);
+        if (its.isOn && !its.look.empty() && (its.by == Ruler::rule || its.by == Ruler::schedule)) {
+            automation_->refuseLook(its.look);
+            refuseRuledLooks(); // those of others
+            return true;
+        }
+    }
+    return false;
+}
+
 std::shared_ptr<NDEffect> NDAppController::effectInForce(CGDirectDisplayID display) const {
     auto ruled = automation_ != nullptr ? automation_->effectOf(ruling(display)) : nullptr;
     return ruled != nullptr ? ruled : globalEffect_;

@@ -6,6 +6,7 @@
 
 #include "app/app_controller.h"
 #include "app/desktop_face.h"
+#include "automation/automation.h"
 #include "base/log.h"
 #include "base/notification_names.h"
 #include "base/run_loop.h"
@@ -97,6 +98,7 @@ void KeepColors::ask() {
     logInfo(kLogApp, "The screens are hard to read now; they go back by themselves in " +
                          std::to_string(kSeconds) + " s unless these colors are kept.");
     secondsLeft_ = kSeconds;
+    tellRules(true);
     countdown_ = runLoop_.scheduleRepeatingTimer(1s, [this] { tick(); });
     showSeconds();
 }
@@ -129,19 +131,31 @@ void KeepColors::goBack() {
         return;
     }
     const auto atOnce = controller_.changeOver(Fades::Length::zero()); // nobody sees anything
+    // Colors are of no use against the look of a rule or the schedule, which the user never chose
+    // for the time after it.
+    if (controller_.refuseRuledLooks() && controller_.everyAffectedDisplayIsUnreadable() == false) {
+        return;
+    }
     const bool hasColors = accepted_ && accepted_->active && *accepted_ != now();
     if (hasColors) {
         setScreenColors(defaults_, accepted_->colors);
     }
-    // Colors are of no use against the look of a rule or the schedule.
+    // Nor are they against looks of the displays' own.
     if (!hasColors || controller_.everyAffectedDisplayIsUnreadable() == true) {
         controller_.setEffectActive(false, true);
+    }
+}
+
+void KeepColors::tellRules(bool asking) {
+    if (Automation* automation = controller_.automation()) {
+        automation->rules().setAsking(asking);
     }
 }
 
 void KeepColors::withdraw() {
     countdown_.reset();
     questioned_.reset();
+    tellRules(false);
     if (DesktopFace* desktop = controller_.desktopFace()) {
         desktop->withdrawKeepColors();
     }

@@ -16,9 +16,9 @@ class Timer;
 
 /// Asks "Keep these colors?" when no display that the effect is on can be read, whoever brought
 /// that about, and goes back when nobody says so within ten seconds: to the last settings that
-/// could be read or were kept, or to no effect where there are none. Where nobody can see the
-/// question the seconds alone pass. Colors that were kept are not asked about again until they
-/// change.
+/// could be read or were kept, or to no effect where there are none; looks of rules and of the
+/// schedule mean off from then on. Where nobody can see the question the seconds alone pass. Colors
+/// that were kept are not asked about again until they change.
 class KeepColors {
   public:
     static constexpr int kSeconds = 10;
@@ -44,6 +44,7 @@ class KeepColors {
     void tick();
     void answer(bool keepThem);
     void goBack();
+    void tellRules(bool asking);
     void withdraw();
 
     struct State {

@@ -37,7 +37,8 @@ std::optional<Moment> earlier(std::optional<Moment> one, std::optional<Moment> o
 Automation::Automation(DefaultsStore& defaults, NotificationCenter& localCenter, WallClock& clock,
                        RunLoop& runLoop, Looks& looks, const std::filesystem::path& stateDirectory)
     : defaults_(defaults), localCenter_(localCenter), clock_(clock), looks_(looks),
-      pauses_(stateDirectory / "pause.plist"), rules_(defaults, looks, runLoop, [this] {
+      pauses_(stateDirectory / "pause.plist"),
+      rules_(defaults, looks, refusedLooks_, runLoop, [this] {
           handOverRule_ = {};
           change();
       }) {}
@@ -51,6 +52,7 @@ void Automation::start() {
     localCenter_.addObserver(this, NSUserDefaultsDidChangeNotification,
                              [this](const Subjects& settings) { settingsDidChange(settings); });
     localCenter_.addObserver(this, kLooksDidChangeNotification, [this] {
+        forgiveLooks();
         if (!listed_.empty()) {
             readSchedule();
             change();
@@ -88,7 +90,8 @@ std::optional<Claim> Automation::scheduleClaim() const {
     if (!around_.current) {
         return std::nullopt;
     }
-    const std::string& look = schedule_->points()[around_.current->point].look;
+    const std::string& own = schedule_->points()[around_.current->point].look;
+    const std::string look = refusedLooks_.contains(own) ? "" : own;
     return Claim{!look.empty(), look,
                  around_.next ? std::optional(around_.next->moment) : std::nullopt};
 }
@@ -136,6 +139,17 @@ void Automation::wasSwitchedByHand(bool isOn) {
     }
 }
 
+void Automation::refuseLook(const std::string& look) {
+    refusedLooks_.insert(look);
+    lookAtClock();
+    change();
+}
+
+void Automation::forgiveLooks() {
+    refusedLooks_.clear();
+    lookAtClock();
+}
+
 Result<std::optional<Moment>> Automation::endOf(std::string_view words) {
     const Moment now = clock_.now();
     std::optional<Moment> end;
@@ -178,6 +192,9 @@ void Automation::resume() {
 void Automation::settingsDidChange(const Subjects& settings) {
     const bool schedule = settings.containAnyOf(kScheduleSettings);
     const bool rules = settings.containAnyOf(kRuleSettings);
+    if (schedule || rules) {
+        forgiveLooks();
+    }
     if (schedule) {
         hand_ = {};
         readSchedule();
@@ -256,7 +273,10 @@ void Automation::lookAtClock() {
     }
     around_ = around;
     for (std::size_t i = 0; schedule_ && i < indexes_.size(); ++i) {
-        listed_[indexes_[i]].next = schedule_->next(i, now);
+        ListedPoint& listed = listed_[indexes_[i]];
+        const std::string& look = schedule_->points()[i].look;
+        listed.next = schedule_->next(i, now);
+        listed.problem = refusedLooks_.contains(look) ? refusedLookSentence(look) : "";
     }
 }
 

@@ -82,6 +82,10 @@ class Automation {
     Rules& rules() { return rules_; }
     const Rules& rules() const { return rules_; }
 
+    /// Nobody could read the screens under this look of a rule or of the schedule: it means off
+    /// until looks, rules or schedule are changed.
+    void refuseLook(const std::string& look);
+
     /// The name of the look that a display has of its own; empty where it has none.
     std::string lookOfDisplay(CGDirectDisplayID display) const;
 
@@ -106,6 +110,7 @@ class Automation {
     void readSchedule();
     std::string problemWith(const SchedulePoint& point);
     void lookAtClock();
+    void forgiveLooks();
     void awaitNext();
     void change();
 
@@ -114,8 +119,9 @@ class Automation {
     WallClock& clock_;
     Looks& looks_;
     Pauses pauses_;
-    HandsClaim hand_;         // over the schedule
-    HandsClaim handOverRule_; // for displays where one holds
+    HandsClaim hand_;                    // over the schedule
+    HandsClaim handOverRule_;            // for displays where one holds
+    std::set<std::string> refusedLooks_; // names
     std::optional<Place> place_;
     std::optional<Schedule> schedule_; // while it is in use, of the points that can come
     std::vector<std::size_t> indexes_; // of its points in the setting

@@ -8,6 +8,7 @@
 #include "settings/settings_keys.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <strings.h>
 
@@ -22,6 +23,9 @@ constexpr auto kSettling = 1000ms;
 
 constexpr CGDirectDisplayID kAll = 0;
 
+/// Of Nocturo's own windows, on X servers and under Wayland.
+constexpr std::array kOwnPrograms = {"nocturo", "org.nocturo.Nocturo"};
+
 bool isCalled(const std::vector<std::string>& names, const std::string& name) {
     return std::any_of(names.begin(), names.end(), [&](const std::string& each) {
         return strcasecmp(each.c_str(), name.c_str()) == 0;
@@ -30,8 +34,17 @@ bool isCalled(const std::vector<std::string>& names, const std::string& name) {
 
 } // namespace
 
-Rules::Rules(DefaultsStore& defaults, Looks& looks, RunLoop& runLoop, std::function<void()> changed)
-    : defaults_(defaults), looks_(looks), runLoop_(runLoop), changed_(std::move(changed)) {}
+std::string refusedLookSentence(const std::string& look) {
+    return translated(
+        "Nobody could read the screens under the look \"%@\"; it means off until it is "
+        "changed.",
+        {look});
+}
+
+Rules::Rules(DefaultsStore& defaults, Looks& looks, const std::set<std::string>& refusedLooks,
+             RunLoop& runLoop, std::function<void()> changed)
+    : defaults_(defaults), looks_(looks), refusedLooks_(refusedLooks), runLoop_(runLoop),
+      changed_(std::move(changed)) {}
 
 Rules::~Rules() = default;
 
@@ -105,9 +118,20 @@ void Rules::listen() {
     }
 }
 
-std::set<Rules::Held> Rules::held() const {
+void Rules::setAsking(bool asking) {
+    isAsking_ = asking;
+    look();
+}
+
+std::set<Rules::Held> Rules::held() {
     std::set<Held> held;
     const InFront inFront = foreground_ != nullptr ? foreground_->inFront() : InFront();
+    const bool isOwn = std::any_of(kOwnPrograms.begin(), kOwnPrograms.end(), [&](const char* own) {
+        return isCalled(inFront.programs, own);
+    });
+    if (!isAsking_ || !isOwn) { // or the question would end the rule that it is about, and itself
+        programs_ = inFront.programs;
+    }
     const bool areGames = games_ != nullptr && games_->areRunning();
     for (std::size_t i = 0; isInUse_ && i < rules_.size(); ++i) {
         const auto& rule = rules_[i].rule;
@@ -121,7 +145,7 @@ std::set<Rules::Held> Rules::held() const {
             }
             break;
         case Rule::When::program:
-            if (isCalled(inFront.programs, rule->program)) {
+            if (isCalled(programs_, rule->program)) {
                 held.emplace(i, kAll);
             }
             break;
@@ -161,7 +185,8 @@ std::optional<Claim> Rules::claim(CGDirectDisplayID display) const {
     for (const auto& [index, where] : holding_) {
         if (where == kAll || where == display) {
             const ReadRule& read = rules_[index];
-            return Claim{!read.rule->look.empty(), read.rule->look, {}, read.words};
+            const std::string look = isAmongRefused(*read.rule) ? "" : read.rule->look;
+            return Claim{!look.empty(), look, {}, read.words};
         }
     }
     return std::nullopt;
@@ -183,6 +208,9 @@ std::vector<ListedRule> Rules::listed() const {
         ListedRule& told = list.emplace_back();
         told.words = read.words;
         told.problem = read.problem;
+        if (read.rule && isAmongRefused(*read.rule)) {
+            told.problem = refusedLookSentence(read.rule->look);
+        }
         if (read.rule && read.rule->when != Rule::When::game && isBlind) {
             told.problem = translated("This desktop does not tell which window is in front.");
         }

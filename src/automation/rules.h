@@ -28,13 +28,18 @@ struct ListedRule {
     std::string problem{};                // why it never holds, a sentence of the user's language
 };
 
+/// Says so of a look that is left out because of it, in the user's language.
+std::string refusedLookSentence(const std::string& look);
+
 /// The rules of the settings and which of them hold. A rule holds as soon as what it is about
 /// comes, and until nothing has changed for a second after that went. Nothing is listened to that
 /// no rule is about. Main thread only.
 class Rules {
   public:
-    /// All must outlive this. `changed` is called when others hold.
-    Rules(DefaultsStore& defaults, Looks& looks, RunLoop& runLoop, std::function<void()> changed);
+    /// All must outlive this. A rule with one of the `refusedLooks` means off. `changed` is called
+    /// when others hold.
+    Rules(DefaultsStore& defaults, Looks& looks, const std::set<std::string>& refusedLooks,
+          RunLoop& runLoop, std::function<void()> changed);
     ~Rules();
     Rules(const Rules&) = delete;
     Rules& operator=(const Rules&) = delete;
@@ -56,6 +61,10 @@ class Rules {
 
     bool anyHolds() const { return !holding_.empty(); }
 
+    /// While Nocturo asks something about what a rule shows, windows of its own do not count as in
+    /// front of the program that it shows that for.
+    void setAsking(bool asking);
+
     /// Displays came, went or moved.
     void displaysDidChange();
 
@@ -73,11 +82,13 @@ class Rules {
 
     bool isAbout(Rule::When when) const;
     void listen();
-    std::set<Held> held() const;
+    bool isAmongRefused(const Rule& rule) const { return refusedLooks_.contains(rule.look); }
+    std::set<Held> held();
     void look();
 
     DefaultsStore& defaults_;
     Looks& looks_;
+    const std::set<std::string>& refusedLooks_;
     RunLoop& runLoop_;
     std::function<void()> changed_;
     RuleSources sources_;
@@ -86,8 +97,10 @@ class Rules {
     bool followsFilling_ = false;
     std::unique_ptr<Foreground> foreground_; // while a rule is about windows
     std::unique_ptr<Games> games_;           // while one is about games
-    std::set<Held> seen_;                    // what holds by what is told
-    std::set<Held> holding_;                 // the same with what held until a moment ago
+    std::vector<std::string> programs_;      // what the one that counts as in front is called
+    bool isAsking_ = false;
+    std::set<Held> seen_;    // what holds by what is told
+    std::set<Held> holding_; // the same with what held until a moment ago
     std::unique_ptr<Timer> settling_;
 };
 

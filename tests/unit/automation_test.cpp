@@ -479,6 +479,35 @@ TEST_F(RulesTest, LeaveNobodyInTheDarkWhateverTheSettingsSay) {
     EXPECT_EQ(shown(), "oo") << "other colors are of no use";
 }
 
+TEST_F(RulesTest, AreNotEndedByTheQuestionAboutTheirLook) {
+    struct InFrontWhileItAsks : BlindDesktop {
+        explicit InFrontWhileItAsks(RulesTest& test) : test_(test) {}
+        void askToKeepColors(int /*seconds*/, std::function<void(bool)> /*answered*/) override {
+            test_.now({{"nocturo", "Nocturo"}});
+        }
+        void withdrawKeepColors() override { test_.now({{"film"}}); }
+        RulesTest& test_;
+    } desktop(*this);
+    add("program film Dark");
+    controller_.setDesktopFace(&desktop);
+    KeepColors question(controller_, *store_, center_, runLoop_);
+    now({{"film"}});
+    runLoop_.advance(KeepColors::kSeconds * 1000);
+    EXPECT_EQ(shown(), "bb");
+    runLoop_.advance(1000);
+    EXPECT_EQ(shown(), "oo");
+    EXPECT_EQ(told(), "rule off");
+    EXPECT_THAT(automation_.rules().listed().at(0).problem, testing::HasSubstr("Dark"));
+    now({});
+    runLoop_.advance(1000);
+    EXPECT_EQ(shown(), "ii") << "what the user had";
+    now({{"film"}});
+    EXPECT_EQ(shown(), "oo") << "it was refused";
+    EXPECT_TRUE(looks_.save("Dark", {.invertScreen = true}));
+    EXPECT_EQ(shown(), "ii");
+    EXPECT_EQ(told(), "rule on Dark");
+}
+
 TEST_F(RulesTest, HoldForTheDisplayThatIsFilledOrForAll) {
     EXPECT_EQ(listening_, 0);
     add("fullscreen off");
