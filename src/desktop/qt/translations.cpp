@@ -29,6 +29,18 @@ void install(QCoreApplication& application, const QString& file, const QString& 
     }
 }
 
+// Numbers are written as in the language of the texts, whatever else the session speaks, and as
+// plainly as the texts that the program itself makes: without separators of thousands.
+void setNumbersOf(const QString& language) {
+    const QLocale texts(language.isEmpty() ? QStringLiteral("en") : language);
+    QLocale numbers;
+    if (numbers.language() != texts.language()) {
+        numbers = texts;
+    }
+    numbers.setNumberOptions(QLocale::OmitGroupSeparator);
+    QLocale::setDefault(numbers);
+}
+
 } // namespace
 
 void installTranslations(QCoreApplication& application) {
@@ -36,6 +48,7 @@ void installTranslations(QCoreApplication& application) {
     // What is installed last is asked first.
     install(application, QStringLiteral("nocturo_en"), kTexts);
     const QString language = QString::fromStdString(usersLanguage());
+    setNumbersOf(language);
     if (language.isEmpty()) {
         return;
     }
