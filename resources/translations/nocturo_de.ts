@@ -659,10 +659,12 @@
             <translation>Den Effekt für eine Zeit ausschalten</translation>
         </message>
         <message>
-            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
-morning; while a command runs; or until you switch the effect or say cancel.</source>
-            <translation>So lange, etwa 30m, 2h oder 1h30m; until 18:00 oder until tomorrow, das ist sechs Uhr
-morgens; while, solange ein Befehl läuft; sonst bis Sie den Effekt schalten oder cancel sagen.</translation>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,
+which is six in the morning, or next, the schedule's next point; while a command
+runs; or until you switch the effect or say cancel.</source>
+            <translation>So lange, etwa 30m, 2h oder 1h30m; until 18:00, sunrise (Sonnenaufgang), tomorrow,
+das ist sechs Uhr morgens, oder next, der nächste Punkt des Zeitplans; while, solange ein
+Befehl läuft; sonst bis Sie den Effekt schalten oder cancel sagen.</translation>
         </message>
         <message>
             <source>Show or change what happens by the clock and the sun</source>
@@ -807,10 +809,20 @@ einem Bildschirm einen eigenen Look, - nimmt ihn wieder weg.</translation>
             <translation>Das globale Tastenkürzel zeigen oder wählen</translation>
         </message>
         <message>
-            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
-hot key toggles the effect while it is enabled.</source>
-            <translation>KEYS ist eine Taste mit beliebigen Zusatztasten, etwa 'ctrl+super+F5' oder
-'alt+shift+k'. Das Tastenkürzel schaltet den Effekt um, solange es aktiviert ist.</translation>
+            <source>KEYS is one key and any of ctrl, alt (or option), shift and super (or command),
+such as 'ctrl+super+F5' or 'alt+shift+k'. The hot key toggles the effect while it
+is enabled. Keys are what they type, and f1 to f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter and keypadclear.</source>
+            <translation>KEYS ist eine Taste mit beliebigen von ctrl, alt (oder option), shift und super (oder
+command), etwa 'ctrl+super+F5' oder 'alt+shift+k'. Das Tastenkürzel schaltet den Effekt um,
+solange es aktiviert ist. Tasten heißen nach dem, was sie schreiben, und f1 bis f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 bis keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter und keypadclear.</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -879,16 +891,16 @@ von den eigenen Farben eines Bildschirms nichts bekannt, erhält er neutrale.</t
             <translation>Nocturo wurde beendet.</translation>
         </message>
         <message>
+            <source>nocturoctl %@ --help tells more.</source>
+            <translation>nocturoctl %@ --help sagt mehr.</translation>
+        </message>
+        <message>
             <source>Usage: %@</source>
             <translation>Aufruf: %@</translation>
         </message>
         <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Steuert das Nocturo, das in dieser Sitzung läuft.</translation>
-        </message>
-        <message>
-            <source>nocturoctl VERB --help tells more.</source>
-            <translation>nocturoctl VERB --help sagt mehr.</translation>
         </message>
         <message>
             <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
@@ -1681,8 +1693,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Der Desktop führt es als %@; ändern lässt sich das in seinen Einstellungen.</translation>
         </message>
         <message>
-            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
-            <translation>Ein Tastenkürzel ist eine Taste mit beliebigen der Zusatztasten ctrl, alt (oder option), shift und super (oder command), verbunden mit +, etwa ctrl+super+F5. Tasten sind f1 bis f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 bis keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear oder das Zeichen, das eine Taste schreibt.</translation>
+            <source>A hot key is one key and any of ctrl, alt, shift and super, joined by +, such as ctrl+super+F5; nocturoctl hotkey --help lists the keys.</source>
+            <translation>Ein Tastenkürzel ist eine Taste mit beliebigen von ctrl, alt, shift und super, verbunden mit +, etwa ctrl+super+F5; nocturoctl hotkey --help nennt die Tasten.</translation>
         </message>
         <message>
             <source>No hot key was given.</source>

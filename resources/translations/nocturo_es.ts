@@ -659,10 +659,12 @@
             <translation>Desactivar el efecto por un tiempo</translation>
         </message>
         <message>
-            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
-morning; while a command runs; or until you switch the effect or say cancel.</source>
-            <translation>Ese tiempo, como 30m, 2h o 1h30m; until 18:00, o until tomorrow, que son las seis de la
-mañana; while, mientras se ejecuta una orden; o hasta que active el efecto o diga cancel.</translation>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,
+which is six in the morning, or next, the schedule's next point; while a command
+runs; or until you switch the effect or say cancel.</source>
+            <translation>Ese tiempo, como 30m, 2h o 1h30m; until 18:00, sunrise (la salida del sol), tomorrow, que
+son las seis de la mañana, o next, el próximo punto del horario; while, mientras se ejecuta
+una orden; o hasta que active el efecto o diga cancel.</translation>
         </message>
         <message>
             <source>Show or change what happens by the clock and the sun</source>
@@ -807,10 +809,20 @@ una pantalla un aspecto propio; - se lo quita.</translation>
             <translation>Mostrar o elegir el atajo global</translation>
         </message>
         <message>
-            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
-hot key toggles the effect while it is enabled.</source>
-            <translation>KEYS es una tecla con cualesquiera modificadoras, como 'ctrl+super+F5' o
-'alt+shift+k'. El atajo conmuta el efecto mientras esté habilitado.</translation>
+            <source>KEYS is one key and any of ctrl, alt (or option), shift and super (or command),
+such as 'ctrl+super+F5' or 'alt+shift+k'. The hot key toggles the effect while it
+is enabled. Keys are what they type, and f1 to f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter and keypadclear.</source>
+            <translation>KEYS es una tecla con cualesquiera de ctrl, alt (u option), shift y super (o command),
+como 'ctrl+super+F5' o 'alt+shift+k'. El atajo conmuta el efecto mientras esté habilitado.
+Las teclas son lo que escriben, y f1 a f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter y keypadclear.</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -879,16 +891,16 @@ sesión. Una pantalla de cuyos colores no se sabe nada recibe colores neutros.</
             <translation>Nocturo ha terminado.</translation>
         </message>
         <message>
+            <source>nocturoctl %@ --help tells more.</source>
+            <translation>nocturoctl %@ --help dice más.</translation>
+        </message>
+        <message>
             <source>Usage: %@</source>
             <translation>Uso: %@</translation>
         </message>
         <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Maneja el Nocturo que se ejecuta en esta sesión.</translation>
-        </message>
-        <message>
-            <source>nocturoctl VERB --help tells more.</source>
-            <translation>nocturoctl VERB --help dice más.</translation>
         </message>
         <message>
             <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
@@ -1681,8 +1693,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>El escritorio lo tiene como %@; se cambia en su configuración.</translation>
         </message>
         <message>
-            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
-            <translation>Un atajo es una tecla con cualesquiera de ctrl, alt (u option), shift y super (o command), unidas por +, como ctrl+super+F5. Las teclas son f1 a f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, o el carácter que escribe una tecla.</translation>
+            <source>A hot key is one key and any of ctrl, alt, shift and super, joined by +, such as ctrl+super+F5; nocturoctl hotkey --help lists the keys.</source>
+            <translation>Un atajo es una tecla con cualesquiera de ctrl, alt, shift y super, unidas por +, como ctrl+super+F5; nocturoctl hotkey --help enumera las teclas.</translation>
         </message>
         <message>
             <source>No hot key was given.</source>

@@ -659,10 +659,12 @@
             <translation>Désactiver l’effet pour un temps</translation>
         </message>
         <message>
-            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
-morning; while a command runs; or until you switch the effect or say cancel.</source>
-            <translation>Pendant cette durée, comme 30m, 2h ou 1h30m ; until 18:00, ou until tomorrow, soit six
-heures du matin ; while, tant qu’une commande tourne ; ou jusqu’à une bascule ou cancel.</translation>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,
+which is six in the morning, or next, the schedule's next point; while a command
+runs; or until you switch the effect or say cancel.</source>
+            <translation>Pendant cette durée, comme 30m, 2h ou 1h30m ; until 18:00, sunrise (le lever du soleil),
+tomorrow, soit six heures du matin, ou next, le prochain point du programme ; while, tant
+qu’une commande tourne ; ou jusqu’à une bascule ou cancel.</translation>
         </message>
         <message>
             <source>Show or change what happens by the clock and the sun</source>
@@ -807,10 +809,20 @@ ensemble vide signifie tous les écrans, ce que choisit aussi all. look donne
             <translation>Afficher ou choisir le raccourci global</translation>
         </message>
         <message>
-            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
-hot key toggles the effect while it is enabled.</source>
-            <translation>KEYS est une touche avec des touches de modification, comme 'ctrl+super+F5' ou
-'alt+shift+k'. Le raccourci bascule l’effet tant qu’il est activé.</translation>
+            <source>KEYS is one key and any of ctrl, alt (or option), shift and super (or command),
+such as 'ctrl+super+F5' or 'alt+shift+k'. The hot key toggles the effect while it
+is enabled. Keys are what they type, and f1 to f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter and keypadclear.</source>
+            <translation>KEYS est une touche avec n’importe lesquelles de ctrl, alt (ou option), shift et super (ou
+command), comme 'ctrl+super+F5' ou 'alt+shift+k'. Le raccourci bascule l’effet tant qu’il est
+activé. Les touches sont ce qu’elles tapent, et f1 à f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 à keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter et keypadclear.</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -879,16 +891,16 @@ dont on ne connaît pas les couleurs propres reçoit des couleurs neutres.</tran
             <translation>Nocturo s’est terminé.</translation>
         </message>
         <message>
+            <source>nocturoctl %@ --help tells more.</source>
+            <translation>nocturoctl %@ --help en dit plus.</translation>
+        </message>
+        <message>
             <source>Usage: %@</source>
             <translation>Utilisation : %@</translation>
         </message>
         <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Commande le Nocturo qui tourne dans cette session.</translation>
-        </message>
-        <message>
-            <source>nocturoctl VERB --help tells more.</source>
-            <translation>nocturoctl VERB --help en dit plus.</translation>
         </message>
         <message>
             <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
@@ -1681,8 +1693,8 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Le bureau l’a enregistré comme %@ ; cela se change dans ses réglages.</translation>
         </message>
         <message>
-            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
-            <translation>Un raccourci est une touche avec n’importe lesquelles de ctrl, alt (ou option), shift et super (ou command), jointes par +, comme ctrl+super+F5. Les touches sont f1 à f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 à keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, ou le caractère que tape une touche.</translation>
+            <source>A hot key is one key and any of ctrl, alt, shift and super, joined by +, such as ctrl+super+F5; nocturoctl hotkey --help lists the keys.</source>
+            <translation>Un raccourci est une touche avec n’importe lesquelles de ctrl, alt, shift et super, jointes par +, comme ctrl+super+F5 ; nocturoctl hotkey --help donne la liste des touches.</translation>
         </message>
         <message>
             <source>No hot key was given.</source>

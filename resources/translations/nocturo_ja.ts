@@ -659,10 +659,12 @@
             <translation>しばらくの間エフェクトをオフにする</translation>
         </message>
         <message>
-            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
-morning; while a command runs; or until you switch the effect or say cancel.</source>
-            <translation>30m、2h、1h30m のような時間の間。until 18:00、または朝 6 時を指す until tomorrow まで。
-while でコマンドの実行中。それ以外は、エフェクトを切り替えるか cancel と指定するまで。</translation>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,
+which is six in the morning, or next, the schedule's next point; while a command
+runs; or until you switch the effect or say cancel.</source>
+            <translation>30m、2h、1h30m のような時間の間。until 18:00、sunrise (日の出)、朝 6 時を指す tomorrow、
+またはスケジュールの次の点を指す next まで。while でコマンドの実行中。それ以外は、
+エフェクトを切り替えるか cancel と指定するまで。</translation>
         </message>
         <message>
             <source>Show or change what happens by the clock and the sun</source>
@@ -806,10 +808,20 @@ look of its own; - takes it away.</source>
             <translation>グローバルショートカットキーを表示または選択する</translation>
         </message>
         <message>
-            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
-hot key toggles the effect while it is enabled.</source>
-            <translation>KEYS は 1 つのキーと任意の修飾キーです。例: 'ctrl+super+F5'、'alt+shift+k'。
-ショートカットキーは、有効な間、効果を切り替えます。</translation>
+            <source>KEYS is one key and any of ctrl, alt (or option), shift and super (or command),
+such as 'ctrl+super+F5' or 'alt+shift+k'. The hot key toggles the effect while it
+is enabled. Keys are what they type, and f1 to f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter and keypadclear.</source>
+            <translation>KEYS は 1 つのキーと任意の ctrl、alt (または option)、shift、super (または command) です。
+例: 'ctrl+super+F5'、'alt+shift+k'。ショートカットキーは、有効な間、効果を切り替えます。
+キーは、入力される文字、または f1～f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0～keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter, keypadclear。</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -878,16 +890,16 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>Nocturo が終了しました。</translation>
         </message>
         <message>
+            <source>nocturoctl %@ --help tells more.</source>
+            <translation>詳しくは nocturoctl %@ --help を参照してください。</translation>
+        </message>
+        <message>
             <source>Usage: %@</source>
             <translation>使い方: %@</translation>
         </message>
         <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>このセッションで動作している Nocturo を操作します。</translation>
-        </message>
-        <message>
-            <source>nocturoctl VERB --help tells more.</source>
-            <translation>詳しくは nocturoctl VERB --help を参照してください。</translation>
         </message>
         <message>
             <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
@@ -1680,8 +1692,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>デスクトップでは %@ として登録されています。変更はデスクトップの設定で行います。</translation>
         </message>
         <message>
-            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
-            <translation>ショートカットキーは、1 つのキーと任意の ctrl、alt (または option)、shift、super (または command) を + でつないだものです (例: ctrl+super+F5)。キーは f1～f20、left、right、up、down、home、end、pageup、pagedown、insert、delete、backspace、tab、space、return、escape、menu、volumeup、volumedown、mute、eisu、kana、keypad0～keypad9、keypadplus、keypadminus、keypadmultiply、keypaddivide、keypaddecimal、keypadcomma、keypadequals、keypadenter、keypadclear、またはキーで入力される文字です。</translation>
+            <source>A hot key is one key and any of ctrl, alt, shift and super, joined by +, such as ctrl+super+F5; nocturoctl hotkey --help lists the keys.</source>
+            <translation>ショートカットキーは、1 つのキーと任意の ctrl、alt、shift、super を + でつないだものです (例: ctrl+super+F5)。キーの一覧は nocturoctl hotkey --help で表示されます。</translation>
         </message>
         <message>
             <source>No hot key was given.</source>

@@ -659,10 +659,12 @@
             <translation>Desativar o efeito por um tempo</translation>
         </message>
         <message>
-            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
-morning; while a command runs; or until you switch the effect or say cancel.</source>
-            <translation>Por esse tempo, como 30m, 2h ou 1h30m; until 18:00, ou until tomorrow, que é seis da
-manhã; while, enquanto um comando roda; ou até você alternar o efeito ou dizer cancel.</translation>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,
+which is six in the morning, or next, the schedule's next point; while a command
+runs; or until you switch the effect or say cancel.</source>
+            <translation>Por esse tempo, como 30m, 2h ou 1h30m; until 18:00, sunrise (o nascer do sol), tomorrow,
+que é seis da manhã, ou next, o próximo ponto da agenda; while, enquanto um comando roda;
+ou até você alternar o efeito ou dizer cancel.</translation>
         </message>
         <message>
             <source>Show or change what happens by the clock and the sun</source>
@@ -807,10 +809,20 @@ uma tela um visual próprio; - o retira.</translation>
             <translation>Mostrar ou escolher o atalho global</translation>
         </message>
         <message>
-            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
-hot key toggles the effect while it is enabled.</source>
-            <translation>KEYS é uma tecla com quaisquer modificadoras, como 'ctrl+super+F5' ou
-'alt+shift+k'. O atalho alterna o efeito enquanto estiver habilitado.</translation>
+            <source>KEYS is one key and any of ctrl, alt (or option), shift and super (or command),
+such as 'ctrl+super+F5' or 'alt+shift+k'. The hot key toggles the effect while it
+is enabled. Keys are what they type, and f1 to f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter and keypadclear.</source>
+            <translation>KEYS é uma tecla com quaisquer de ctrl, alt (ou option), shift e super (ou command), como
+'ctrl+super+F5' ou 'alt+shift+k'. O atalho alterna o efeito enquanto estiver habilitado. As
+teclas são o que elas digitam, e f1 a f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter e keypadclear.</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -879,16 +891,16 @@ barramento de sessão. Uma tela cujas cores não se conhecem recebe cores neutra
             <translation>O Nocturo foi encerrado.</translation>
         </message>
         <message>
+            <source>nocturoctl %@ --help tells more.</source>
+            <translation>nocturoctl %@ --help diz mais.</translation>
+        </message>
+        <message>
             <source>Usage: %@</source>
             <translation>Uso: %@</translation>
         </message>
         <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>Controla o Nocturo em execução nesta sessão.</translation>
-        </message>
-        <message>
-            <source>nocturoctl VERB --help tells more.</source>
-            <translation>nocturoctl VERB --help diz mais.</translation>
         </message>
         <message>
             <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
@@ -1681,8 +1693,8 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>A área de trabalho o registrou como %@; isso se altera nas configurações dela.</translation>
         </message>
         <message>
-            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
-            <translation>Um atalho é uma tecla com quaisquer de ctrl, alt (ou option), shift e super (ou command), unidas por +, como ctrl+super+F5. As teclas são f1 a f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 a keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, ou o caractere que uma tecla digita.</translation>
+            <source>A hot key is one key and any of ctrl, alt, shift and super, joined by +, such as ctrl+super+F5; nocturoctl hotkey --help lists the keys.</source>
+            <translation>Um atalho é uma tecla com quaisquer de ctrl, alt, shift e super, unidas por +, como ctrl+super+F5; nocturoctl hotkey --help lista as teclas.</translation>
         </message>
         <message>
             <source>No hot key was given.</source>

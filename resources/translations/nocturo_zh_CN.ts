@@ -659,10 +659,11 @@
             <translation>暂时关闭效果</translation>
         </message>
         <message>
-            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is six in the
-morning; while a command runs; or until you switch the effect or say cancel.</source>
-            <translation>持续这么久，例如 30m、2h 或 1h30m；until 18:00，或 until tomorrow，即早上六点；
-while 表示命令运行期间；否则直到您切换效果或使用 cancel。</translation>
+            <source>For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,
+which is six in the morning, or next, the schedule's next point; while a command
+runs; or until you switch the effect or say cancel.</source>
+            <translation>持续这么久，例如 30m、2h 或 1h30m；until 18:00、sunrise（日出）、tomorrow（早上六点）
+或 next（计划的下一个点）；while 表示命令运行期间；否则直到您切换效果或使用 cancel。</translation>
         </message>
         <message>
             <source>Show or change what happens by the clock and the sun</source>
@@ -804,10 +805,20 @@ look 为屏幕指定自己的外观方案，- 将其取消。</translation>
             <translation>显示或选择全局快捷键</translation>
         </message>
         <message>
-            <source>KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The
-hot key toggles the effect while it is enabled.</source>
-            <translation>KEYS 是一个按键加任意修饰键，例如 'ctrl+super+F5' 或 'alt+shift+k'。
-快捷键启用时会切换效果。</translation>
+            <source>KEYS is one key and any of ctrl, alt (or option), shift and super (or command),
+such as 'ctrl+super+F5' or 'alt+shift+k'. The hot key toggles the effect while it
+is enabled. Keys are what they type, and f1 to f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter and keypadclear.</source>
+            <translation>KEYS 是一个按键加任意的 ctrl、alt（或 option）、shift 和 super（或 command），例如
+'ctrl+super+F5' 或 'alt+shift+k'。快捷键启用时会切换效果。按键为其所输入的字符，或
+f1 到 f20, left, right, up, down, home,
+end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,
+menu, volumeup, volumedown, mute, eisu, kana, keypad0 到 keypad9, keypadplus,
+keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,
+keypadequals, keypadenter 和 keypadclear。</translation>
         </message>
         <message>
             <source>Take the effects from a document</source>
@@ -875,16 +886,16 @@ nothing is known of a display's own colors it gets plain ones.</source>
             <translation>Nocturo 已退出。</translation>
         </message>
         <message>
+            <source>nocturoctl %@ --help tells more.</source>
+            <translation>nocturoctl %@ --help 提供更多说明。</translation>
+        </message>
+        <message>
             <source>Usage: %@</source>
             <translation>用法：%@</translation>
         </message>
         <message>
             <source>Drives the Nocturo that runs in this session.</source>
             <translation>控制在此会话中运行的 Nocturo。</translation>
-        </message>
-        <message>
-            <source>nocturoctl VERB --help tells more.</source>
-            <translation>nocturoctl VERB --help 提供更多说明。</translation>
         </message>
         <message>
             <source>With --keep, colors that leave every screen hard to read stay. Without it they go back
@@ -1677,8 +1688,8 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>桌面将其登记为 %@；可在桌面设置中更改。</translation>
         </message>
         <message>
-            <source>A hot key is one key and any of ctrl, alt (or option), shift and super (or command), joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, keypadclear, or the character that a key types.</source>
-            <translation>快捷键是一个按键加任意的 ctrl、alt（或 option）、shift 和 super（或 command），以 + 连接，例如 ctrl+super+F5。按键为 f1到f20、left、right、up、down、home、end、pageup、pagedown、insert、delete、backspace、tab、space、return、escape、menu、volumeup、volumedown、mute、eisu、kana、keypad0到keypad9、keypadplus、keypadminus、keypadmultiply、keypaddivide、keypaddecimal、keypadcomma、keypadequals、keypadenter、keypadclear，或按键所输入的字符。</translation>
+            <source>A hot key is one key and any of ctrl, alt, shift and super, joined by +, such as ctrl+super+F5; nocturoctl hotkey --help lists the keys.</source>
+            <translation>快捷键是一个按键加任意的 ctrl、alt、shift 和 super，以 + 连接，例如 ctrl+super+F5；nocturoctl hotkey --help 列出按键。</translation>
         </message>
         <message>
             <source>No hot key was given.</source>

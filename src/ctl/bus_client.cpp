@@ -136,7 +136,7 @@ struct BusClient::Watching {
     bool isToBeToldAll() const { return !isToldAll && owner && !owner->empty(); }
 };
 
-void BusClient::watch(Follower& follower) {
+bool BusClient::watch(Follower& follower) {
     Watching watching{follower, {}, false, false, {}};
     const auto changes =
         bus_->onSignal(kBusName, kObjectPath, kPropertiesInterface, "PropertiesChanged",
@@ -155,7 +155,7 @@ void BusClient::watch(Follower& follower) {
         const int processed = sd_bus_process(bus_->handle(), nullptr);
         check(processed);
         if (processed == 0 && !wait(output)) {
-            return;
+            return false;
         }
     }
     if (watching.failure) {
@@ -164,6 +164,7 @@ void BusClient::watch(Follower& follower) {
     do {
         output.write(output.isDone() ? follower.next() : "");
     } while (!output.isDone() && wait(output));
+    return true;
 }
 
 bool BusClient::tellAll(Follower& follower) {

@@ -68,8 +68,8 @@ class BusClient {
     Json properties();
 
     /// Tells the follower of everything and prints what it says, until it has enough, Nocturo ends
-    /// or nobody can read any more. Misses no change.
-    void watch(Follower& follower);
+    /// or nobody reads any more, which is then answered by false. Misses no change.
+    bool watch(Follower& follower);
 
   private:
     struct Watching;

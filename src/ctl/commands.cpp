@@ -245,9 +245,9 @@ constexpr std::array kCommands = std::to_array<Command>({
      ListedText("Bind this to a key."), runToggle, true},
     {"pause", "[30m | until TIME | cancel | while COMMAND...]",
      ListedText("Switch the effect off for a time"),
-     ListedText("For so long, such as 30m, 2h or 1h30m; until 18:00, or until tomorrow, which is "
-                "six in the\n"
-                "morning; while a command runs; or until you switch the effect or say cancel."),
+     ListedText("For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,\n"
+                "which is six in the morning, or next, the schedule's next point; while a command\n"
+                "runs; or until you switch the effect or say cancel."),
      runPause},
     {"schedule", "[list | add POINT | remove N | on | off | next]",
      ListedText("Show or change what happens by the clock and the sun"),
@@ -323,8 +323,14 @@ constexpr std::array kCommands = std::to_array<Command>({
      runScreens, true},
     {"hotkey", "[set KEYS | none | enable | disable]",
      ListedText("Show or choose the global hot key"),
-     ListedText("KEYS is one key and any modifiers, such as 'ctrl+super+F5' or 'alt+shift+k'. The\n"
-                "hot key toggles the effect while it is enabled."),
+     ListedText(
+         "KEYS is one key and any of ctrl, alt (or option), shift and super (or command),\n"
+         "such as 'ctrl+super+F5' or 'alt+shift+k'. The hot key toggles the effect while it\n"
+         "is enabled. Keys are what they type, and f1 to f20, left, right, up, down, home,\n"
+         "end, pageup, pagedown, insert, delete, backspace, tab, space, return, escape,\n"
+         "menu, volumeup, volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus,\n"
+         "keypadminus, keypadmultiply, keypaddivide, keypaddecimal, keypadcomma,\n"
+         "keypadequals, keypadenter and keypadclear."),
      runHotKey},
     {"open", "FILE", ListedText("Take the effects from a document"), ListedText(), runOpen, true},
     {"save", "FILE", ListedText("Save the effects as a document"), ListedText(), runSave},

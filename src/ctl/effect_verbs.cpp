@@ -89,8 +89,8 @@ std::string dimText(const Json& properties) {
 }
 
 std::string tintText(const Json& properties) {
-    const std::string text = properties["colorFilterHue"].dump() + "\u00B0  " +
-                             percentText(properties["colorFilterVividness"].get<double>());
+    const std::string text =
+        hueText(properties) + "  " + percentText(properties["colorFilterVividness"].get<double>());
     return isChosen(properties, NDColorFilterEffect::kName)
                ? text
                : translated("%@  (the color filter is not chosen)", {text});
@@ -164,7 +164,7 @@ void runTint(Arguments arguments) {
 }
 
 void runStep(Arguments arguments) {
-    expect(arguments.size() == 2);
+    expect(arguments.size() == 2 && isStep(arguments[1]));
     const std::string& key = arguments[0];
     const double by = amount(arguments[1], isShare(key) ? 1.0 : 0.0);
     BusClient client;

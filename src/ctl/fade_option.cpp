@@ -16,7 +16,9 @@ FadeOption::FadeOption(Arguments arguments) : rest_(arguments.begin(), arguments
         return;
     }
     expect(option + 1 != rest_.end());
-    seconds_ = settingFromText(*settingNamed(kFadeSeconds.key), *(option + 1)).number();
+    Setting seconds = *settingNamed(kFadeSeconds.key);
+    seconds.key = *option; // as refusals are to call it
+    seconds_ = settingFromText(seconds, *(option + 1)).number();
     rest_.erase(option, option + 2);
 }
 

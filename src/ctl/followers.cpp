@@ -84,8 +84,9 @@ class BarFollower : public Follower {
 void runWatch(std::span<const std::string> arguments) {
     expect(arguments.empty());
     Watcher watcher;
-    BusClient().watch(watcher);
-    std::cerr << "nocturoctl: " << translated("Nocturo has ended.") << '\n';
+    if (BusClient().watch(watcher)) {
+        std::cerr << "nocturoctl: " << translated("Nocturo has ended.") << '\n';
+    }
 }
 
 void runBar(std::span<const std::string> arguments) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <iostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace nocturo {
@@ -20,15 +21,23 @@ std::string call(const Command& command) {
            std::string(command.usage);
 }
 
+std::string whereToReadOn(std::string_view verb) {
+    return translated("nocturoctl %@ --help tells more.", {std::string(verb)});
+}
+
 void printHelp() {
     std::string text = translated("Usage: %@", {"nocturoctl VERB [ARGUMENT...]"}) + "\n\n" +
                        translated("Drives the Nocturo that runs in this session.") + "\n\n";
     for (const Command& command : commands()) {
         std::string line = "  " + call(command);
-        line.resize(std::max(line.size() + 2, kUsageColumn), ' ');
+        if (line.size() + 2 > kUsageColumn) {
+            text += line + '\n';
+            line.clear();
+        }
+        line.resize(kUsageColumn, ' ');
         text += line + command.summary.translated() + '\n';
     }
-    print(text + '\n' + translated("nocturoctl VERB --help tells more.") + "\n\n" +
+    print(text + '\n' + whereToReadOn("VERB") + "\n\n" +
           translated("With --keep, colors that leave every screen hard to read stay. Without "
                      "it they go back\nafter ten seconds, unless somebody keeps them.") +
           "\n\n" +
@@ -93,7 +102,7 @@ int run(const std::vector<std::string>& arguments) {
         }
     } catch (const Failure& failure) {
         if (failure.sentence.empty()) {
-            return tell({kUsage, usage(*command)});
+            return tell({kUsage, usage(*command) + "; " + whereToReadOn(command->verb)});
         }
         throw;
     }

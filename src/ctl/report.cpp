@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -159,6 +160,11 @@ std::string titleOfLookNamed(const Json& properties, const std::string& name) {
     return name;
 }
 
+std::string hueText(const Json& properties) {
+    const double hue = properties["colorFilterHue"].get<double>();
+    return Json(std::round(hue * 100.0) / 100.0).dump() + "\u00B0";
+}
+
 EffectState toldState(const Json& properties) {
     const Ruling usual = toldRuling(properties, properties["active"].get<bool>());
     EffectState state;
@@ -223,7 +229,7 @@ std::string statusReport(const Json& properties, bool all) {
     text +=
         table({{translated("look"), lookNamed(properties)},
                {translated("dim level"), signedPercentText(properties["dimLevel"].get<double>())},
-               {translated("color filter hue"), plain(properties["colorFilterHue"]) + "\u00B0"},
+               {translated("color filter hue"), hueText(properties)},
                {translated("color filter vividness"),
                 percentText(properties["colorFilterVividness"].get<double>())},
                {translated("hot key"), hotKeyText(properties["hotKey"])},

@@ -33,6 +33,9 @@ std::string titleOfLookInForce(const Json& properties);
 /// The title of a look; the name itself where there is no such look.
 std::string titleOfLookNamed(const Json& properties, const std::string& name);
 
+/// The hue of the color filter for people, with at most two decimals: "30.84°".
+std::string hueText(const Json& properties);
+
 /// What there is to say about the effect.
 EffectState toldState(const Json& properties);
 

@@ -19,6 +19,14 @@ bool isInUse(const Json& properties) {
     return properties["settings"].value("UseSchedule", false);
 }
 
+/// A line that says so where the schedule is not in use.
+std::string whetherInUse(const Json& properties) {
+    return isInUse(properties)
+               ? std::string()
+               : translated("The schedule is not in use; nocturoctl schedule on changes that.") +
+                     '\n';
+}
+
 /// "sunset-00:30 Warm evening", with the look's title.
 std::string shown(const Json& properties, const Json& point) {
     const auto words = point["point"].get<std::string>();
@@ -47,11 +55,7 @@ void printSchedule(const Json& properties, const Json& points) {
     if (text.empty()) {
         text = "  " + translated("(none)") + '\n';
     }
-    if (!isInUse(properties)) {
-        text +=
-            translated("The schedule is not in use; nocturoctl schedule on changes that.") + '\n';
-    }
-    print(text);
+    print(text + whetherInUse(properties));
 }
 
 void printNext(const Json& properties, const Json& points, bool asJson) {
@@ -64,7 +68,8 @@ void printNext(const Json& properties, const Json& points, bool asJson) {
     if (asJson) {
         print(next.dump() + '\n');
     } else if (next.is_null()) {
-        print(translated("Nothing is scheduled.") + '\n');
+        print(isInUse(properties) ? translated("Nothing is scheduled.") + '\n'
+                                  : whetherInUse(properties));
     } else {
         print(when(next) + "  " + shown(properties, next) + '\n');
     }
@@ -95,7 +100,9 @@ void runSchedule(Arguments arguments) {
         BusClient().callSetSetting("UseSchedule", how == "on");
     } else if (how == "add") {
         expect(arguments.size() > 1);
-        BusClient().call("AddSchedulePoint", joined(arguments.subspan(1)));
+        BusClient client;
+        client.call("AddSchedulePoint", joined(arguments.subspan(1)));
+        print(whetherInUse(client.properties()));
     } else {
         expect(how == "remove" && arguments.size() == 2);
         BusClient().call("RemoveSchedulePoint", indexFrom(arguments[1]));

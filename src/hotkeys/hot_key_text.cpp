@@ -172,12 +172,8 @@ std::string withoutModifierGlyphs(std::string_view text) {
 
 std::string hotKeyTextSyntax() {
     return translated(
-        "A hot key is one key and any of ctrl, alt (or option), shift and super (or command), "
-        "joined by +, such as ctrl+super+F5. Keys are f1 to f20, left, right, up, down, home, end, "
-        "pageup, pagedown, insert, delete, backspace, tab, space, return, escape, menu, volumeup, "
-        "volumedown, mute, eisu, kana, keypad0 to keypad9, keypadplus, keypadminus, "
-        "keypadmultiply, keypaddivide, keypaddecimal, keypadcomma, keypadequals, keypadenter, "
-        "keypadclear, or the character that a key types.");
+        "A hot key is one key and any of ctrl, alt, shift and super, joined by +, such as "
+        "ctrl+super+F5; nocturoctl hotkey --help lists the keys.");
 }
 
 Result<HotKeyCombination> parseHotKeyText(std::string_view text, KeyboardLayout* layout) {
