@@ -415,6 +415,10 @@
             <translation>%1$@, aber nicht auf %2$@</translation>
         </message>
         <message>
+            <source>Paused while %@ runs</source>
+            <translation>Pause, solange %@ läuft</translation>
+        </message>
+        <message>
             <source>Paused until you go on</source>
             <translation>Pause, bis Sie fortfahren</translation>
         </message>
@@ -425,6 +429,10 @@
         <message>
             <source>%@; by hand</source>
             <translation>%@; von Hand</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@ or a rule holds</source>
+            <translation>%1$@; von Hand bis %2$@ oder bis eine Regel gilt</translation>
         </message>
         <message>
             <source>%1$@; by hand until %2$@</source>
@@ -487,8 +495,12 @@
             <translation>Die Zeitzone hat keinen Ort für die Sonne; setzen Sie einen mit: nocturoctl set SchedulePlace "52.5 13.4"</translation>
         </message>
         <message>
-            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
-            <translation>„%@“ ist keine Zeit für eine Pause wie 30m, 2h oder until 18:00.</translation>
+            <source>"%@" is no length of a pause, such as 30m, 2h or 1h30m, up to 366d.</source>
+            <translation>„%@“ ist keine Länge einer Pause wie 30m, 2h oder 1h30m, bis zu 366d.</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h, until 18:00 or until sunset.</source>
+            <translation>„%@“ ist keine Zeit für eine Pause wie 30m, 2h, until 18:00 oder until sunset.</translation>
         </message>
         <message>
             <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
@@ -497,6 +509,10 @@
         <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Diese Arbeitsumgebung sagt nicht, welches Fenster vorn ist.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@"; the name of a program with spaces stands between quotation marks.</source>
+            <translation>Einen Look „%@“ gibt es nicht; der Name eines Programms mit Leerzeichen steht in Anführungszeichen.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ rules at most.</source>
@@ -651,8 +667,8 @@
             <translation>Den Effekt ein- oder ausschalten</translation>
         </message>
         <message>
-            <source>Bind this to a key.</source>
-            <translation>Legen Sie dies auf eine Taste.</translation>
+            <source>Bind this to a key. --fade has it come and go little by little, in up to 5 seconds.</source>
+            <translation>Legen Sie dies auf eine Taste. Mit --fade kommt und geht er allmählich, in bis zu 5 Sekunden.</translation>
         </message>
         <message>
             <source>Switch the effect off for a time</source>
@@ -1945,6 +1961,14 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
         <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>„%@“ ist kein Punkt eines Zeitplans wie 07:00 off oder sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
+            <source>It holds until Nocturo quits; the settings cannot be saved to %1$@ (%2$@).</source>
+            <translation>Es gilt, bis Nocturo beendet wird; die Einstellungen können nicht in %1$@ gesichert werden (%2$@).</translation>
+        </message>
+        <message>
+            <source>the file that is there cannot be read</source>
+            <translation>die Datei dort kann nicht gelesen werden</translation>
         </message>
         <message>
             <source>the selected effects</source>

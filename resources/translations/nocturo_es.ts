@@ -415,6 +415,10 @@
             <translation>%1$@, pero no en %2$@</translation>
         </message>
         <message>
+            <source>Paused while %@ runs</source>
+            <translation>En pausa mientras se ejecuta %@</translation>
+        </message>
+        <message>
             <source>Paused until you go on</source>
             <translation>En pausa hasta que continúe</translation>
         </message>
@@ -425,6 +429,10 @@
         <message>
             <source>%@; by hand</source>
             <translation>%@; a mano</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@ or a rule holds</source>
+            <translation>%1$@; a mano hasta %2$@ o hasta que se cumpla una regla</translation>
         </message>
         <message>
             <source>%1$@; by hand until %2$@</source>
@@ -487,8 +495,12 @@
             <translation>La zona horaria no tiene un lugar para el sol; indique uno con: nocturoctl set SchedulePlace "52.5 13.4"</translation>
         </message>
         <message>
-            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
-            <translation>«%@» no es un tiempo de pausa como 30m, 2h o until 18:00.</translation>
+            <source>"%@" is no length of a pause, such as 30m, 2h or 1h30m, up to 366d.</source>
+            <translation>«%@» no es una duración de pausa, como 30m, 2h o 1h30m, hasta 366d.</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h, until 18:00 or until sunset.</source>
+            <translation>«%@» no es un tiempo de pausa, como 30m, 2h, until 18:00 o until sunset.</translation>
         </message>
         <message>
             <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
@@ -497,6 +509,10 @@
         <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Este escritorio no dice qué ventana está delante.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@"; the name of a program with spaces stands between quotation marks.</source>
+            <translation>No existe el aspecto «%@»; el nombre de un programa con espacios va entre comillas.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ rules at most.</source>
@@ -651,8 +667,8 @@
             <translation>Activar o desactivar el efecto</translation>
         </message>
         <message>
-            <source>Bind this to a key.</source>
-            <translation>Asígnelo a una tecla.</translation>
+            <source>Bind this to a key. --fade has it come and go little by little, in up to 5 seconds.</source>
+            <translation>Asígnelo a una tecla. Con --fade aparece y desaparece poco a poco, en hasta 5 segundos.</translation>
         </message>
         <message>
             <source>Switch the effect off for a time</source>
@@ -1945,6 +1961,14 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
         <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>«%@» no es un punto de un horario como 07:00 off o sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
+            <source>It holds until Nocturo quits; the settings cannot be saved to %1$@ (%2$@).</source>
+            <translation>Vale hasta que Nocturo termine; los ajustes no se pueden guardar en %1$@ (%2$@).</translation>
+        </message>
+        <message>
+            <source>the file that is there cannot be read</source>
+            <translation>el archivo que hay allí no se puede leer</translation>
         </message>
         <message>
             <source>the selected effects</source>

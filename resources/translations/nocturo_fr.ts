@@ -415,6 +415,10 @@
             <translation>%1$@, mais pas sur %2$@</translation>
         </message>
         <message>
+            <source>Paused while %@ runs</source>
+            <translation>En pause tant que %@ s’exécute</translation>
+        </message>
+        <message>
             <source>Paused until you go on</source>
             <translation>En pause jusqu’à ce que vous repreniez</translation>
         </message>
@@ -425,6 +429,10 @@
         <message>
             <source>%@; by hand</source>
             <translation>%@ ; à la main</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@ or a rule holds</source>
+            <translation>%1$@ ; à la main jusqu’à %2$@ ou jusqu’à ce qu’une règle s’applique</translation>
         </message>
         <message>
             <source>%1$@; by hand until %2$@</source>
@@ -487,8 +495,12 @@
             <translation>Le fuseau horaire n’a pas de lieu pour le soleil ; indiquez-en un avec : nocturoctl set SchedulePlace "52.5 13.4"</translation>
         </message>
         <message>
-            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
-            <translation>« %@ » n’est pas une durée de pause telle que 30m, 2h ou until 18:00.</translation>
+            <source>"%@" is no length of a pause, such as 30m, 2h or 1h30m, up to 366d.</source>
+            <translation>« %@ » n’est pas une durée de pause, comme 30m, 2h ou 1h30m, jusqu’à 366d.</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h, until 18:00 or until sunset.</source>
+            <translation>« %@ » n’est pas un temps de pause, comme 30m, 2h, until 18:00 ou until sunset.</translation>
         </message>
         <message>
             <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
@@ -497,6 +509,10 @@
         <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Ce bureau ne dit pas quelle fenêtre est au premier plan.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@"; the name of a program with spaces stands between quotation marks.</source>
+            <translation>L’apparence « %@ » n’existe pas ; le nom d’un programme qui contient des espaces se met entre guillemets.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ rules at most.</source>
@@ -651,8 +667,8 @@
             <translation>Activer ou désactiver l’effet</translation>
         </message>
         <message>
-            <source>Bind this to a key.</source>
-            <translation>À associer à une touche.</translation>
+            <source>Bind this to a key. --fade has it come and go little by little, in up to 5 seconds.</source>
+            <translation>À lier à une touche. Avec --fade, il vient et s’en va peu à peu, en 5 secondes au plus.</translation>
         </message>
         <message>
             <source>Switch the effect off for a time</source>
@@ -1945,6 +1961,14 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
         <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>« %@ » n’est pas un point d’un programme tel que 07:00 off ou sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
+            <source>It holds until Nocturo quits; the settings cannot be saved to %1$@ (%2$@).</source>
+            <translation>Cela vaut jusqu’à la fermeture de Nocturo ; les réglages ne peuvent pas être enregistrés dans %1$@ (%2$@).</translation>
+        </message>
+        <message>
+            <source>the file that is there cannot be read</source>
+            <translation>le fichier qui s’y trouve ne peut pas être lu</translation>
         </message>
         <message>
             <source>the selected effects</source>

@@ -415,6 +415,10 @@
             <translation>%1$@（%2$@を除く）</translation>
         </message>
         <message>
+            <source>Paused while %@ runs</source>
+            <translation>%@ の実行中は一時停止</translation>
+        </message>
+        <message>
             <source>Paused until you go on</source>
             <translation>再開するまで一時停止中</translation>
         </message>
@@ -425,6 +429,10 @@
         <message>
             <source>%@; by hand</source>
             <translation>%@（手動）</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@ or a rule holds</source>
+            <translation>%1$@; 手動 (%2$@ まで、またはルールが成り立つまで)</translation>
         </message>
         <message>
             <source>%1$@; by hand until %2$@</source>
@@ -487,8 +495,12 @@
             <translation>タイムゾーンに太陽の場所がありません。次のように設定してください: nocturoctl set SchedulePlace "52.5 13.4"</translation>
         </message>
         <message>
-            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
-            <translation>「%@」は、30m、2h、until 18:00 のような一時停止の時間ではありません。</translation>
+            <source>"%@" is no length of a pause, such as 30m, 2h or 1h30m, up to 366d.</source>
+            <translation>「%@」は一時停止の長さではありません。30m、2h、1h30m などで、366d までです。</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h, until 18:00 or until sunset.</source>
+            <translation>「%@」は一時停止の時間ではありません。30m、2h、until 18:00、until sunset などです。</translation>
         </message>
         <message>
             <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
@@ -497,6 +509,10 @@
         <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>このデスクトップは、どのウィンドウが最前面にあるかを伝えません。</translation>
+        </message>
+        <message>
+            <source>There is no look "%@"; the name of a program with spaces stands between quotation marks.</source>
+            <translation>「%@」というルックはありません。空白を含むプログラム名は引用符で囲みます。</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ rules at most.</source>
@@ -651,8 +667,8 @@
             <translation>効果のオン／オフを切り替える</translation>
         </message>
         <message>
-            <source>Bind this to a key.</source>
-            <translation>これをキーに割り当ててください。</translation>
+            <source>Bind this to a key. --fade has it come and go little by little, in up to 5 seconds.</source>
+            <translation>キーに割り当ててください。--fade を付けると、最大 5 秒かけて少しずつ切り替わります。</translation>
         </message>
         <message>
             <source>Switch the effect off for a time</source>
@@ -1944,6 +1960,14 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>「%@」は 07:00 off や sunset-00:30 Warm evening のようなスケジュールのポイントではありません。</translation>
+        </message>
+        <message>
+            <source>It holds until Nocturo quits; the settings cannot be saved to %1$@ (%2$@).</source>
+            <translation>Nocturo が終了するまで有効です。設定を %1$@ に保存できません (%2$@)。</translation>
+        </message>
+        <message>
+            <source>the file that is there cannot be read</source>
+            <translation>そこにあるファイルを読めません</translation>
         </message>
         <message>
             <source>the selected effects</source>

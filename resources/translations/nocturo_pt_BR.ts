@@ -415,6 +415,10 @@
             <translation>%1$@, mas não em %2$@</translation>
         </message>
         <message>
+            <source>Paused while %@ runs</source>
+            <translation>Em pausa enquanto %@ é executado</translation>
+        </message>
+        <message>
             <source>Paused until you go on</source>
             <translation>Em pausa até você continuar</translation>
         </message>
@@ -425,6 +429,10 @@
         <message>
             <source>%@; by hand</source>
             <translation>%@; à mão</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@ or a rule holds</source>
+            <translation>%1$@; à mão até %2$@ ou até valer uma regra</translation>
         </message>
         <message>
             <source>%1$@; by hand until %2$@</source>
@@ -487,8 +495,12 @@
             <translation>O fuso horário não tem um lugar para o sol; defina um com: nocturoctl set SchedulePlace "52.5 13.4"</translation>
         </message>
         <message>
-            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
-            <translation>"%@" não é um tempo de pausa como 30m, 2h ou until 18:00.</translation>
+            <source>"%@" is no length of a pause, such as 30m, 2h or 1h30m, up to 366d.</source>
+            <translation>“%@” não é uma duração de pausa, como 30m, 2h ou 1h30m, até 366d.</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h, until 18:00 or until sunset.</source>
+            <translation>“%@” não é um tempo de pausa, como 30m, 2h, until 18:00 ou until sunset.</translation>
         </message>
         <message>
             <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
@@ -497,6 +509,10 @@
         <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>Esta área de trabalho não diz qual janela está na frente.</translation>
+        </message>
+        <message>
+            <source>There is no look "%@"; the name of a program with spaces stands between quotation marks.</source>
+            <translation>Não existe o visual “%@”; o nome de um programa com espaços fica entre aspas.</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ rules at most.</source>
@@ -651,8 +667,8 @@
             <translation>Ativar ou desativar o efeito</translation>
         </message>
         <message>
-            <source>Bind this to a key.</source>
-            <translation>Associe isto a uma tecla.</translation>
+            <source>Bind this to a key. --fade has it come and go little by little, in up to 5 seconds.</source>
+            <translation>Associe isto a uma tecla. Com --fade ele vem e vai aos poucos, em até 5 segundos.</translation>
         </message>
         <message>
             <source>Switch the effect off for a time</source>
@@ -1945,6 +1961,14 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
         <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>"%@" não é um ponto de agenda como 07:00 off ou sunset-00:30 Warm evening.</translation>
+        </message>
+        <message>
+            <source>It holds until Nocturo quits; the settings cannot be saved to %1$@ (%2$@).</source>
+            <translation>Vale até o Nocturo ser encerrado; os ajustes não podem ser salvos em %1$@ (%2$@).</translation>
+        </message>
+        <message>
+            <source>the file that is there cannot be read</source>
+            <translation>o arquivo que está lá não pode ser lido</translation>
         </message>
         <message>
             <source>the selected effects</source>

@@ -415,6 +415,10 @@
             <translation>%1$@，%2$@ 除外</translation>
         </message>
         <message>
+            <source>Paused while %@ runs</source>
+            <translation>%@ 运行期间暂停</translation>
+        </message>
+        <message>
             <source>Paused until you go on</source>
             <translation>已暂停，直到您继续</translation>
         </message>
@@ -425,6 +429,10 @@
         <message>
             <source>%@; by hand</source>
             <translation>%@；手动</translation>
+        </message>
+        <message>
+            <source>%1$@; by hand until %2$@ or a rule holds</source>
+            <translation>%1$@；手动，直到 %2$@ 或有规则成立</translation>
         </message>
         <message>
             <source>%1$@; by hand until %2$@</source>
@@ -487,8 +495,12 @@
             <translation>该时区没有用于计算太阳的地点；请设置：nocturoctl set SchedulePlace "52.5 13.4"</translation>
         </message>
         <message>
-            <source>"%@" is no time to pause for, such as 30m, 2h or until 18:00.</source>
-            <translation>“%@”不是 30m、2h 或 until 18:00 这样的暂停时间。</translation>
+            <source>"%@" is no length of a pause, such as 30m, 2h or 1h30m, up to 366d.</source>
+            <translation>“%@”不是暂停的时长，例如 30m、2h 或 1h30m，最长 366d。</translation>
+        </message>
+        <message>
+            <source>"%@" is no time to pause for, such as 30m, 2h, until 18:00 or until sunset.</source>
+            <translation>“%@”不是暂停的时间，例如 30m、2h、until 18:00 或 until sunset。</translation>
         </message>
         <message>
             <source>Nobody could read the screens under the look "%@"; it means off until it is changed.</source>
@@ -497,6 +509,10 @@
         <message>
             <source>This desktop does not tell which window is in front.</source>
             <translation>此桌面不告知哪个窗口在最前面。</translation>
+        </message>
+        <message>
+            <source>There is no look "%@"; the name of a program with spaces stands between quotation marks.</source>
+            <translation>没有外观方案“%@”；含空格的程序名要放在引号中。</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ rules at most.</source>
@@ -651,8 +667,8 @@
             <translation>启用或停用效果</translation>
         </message>
         <message>
-            <source>Bind this to a key.</source>
-            <translation>可将它绑定到一个按键。</translation>
+            <source>Bind this to a key. --fade has it come and go little by little, in up to 5 seconds.</source>
+            <translation>请绑定到一个按键。使用 --fade 时会在最多 5 秒内逐渐出现和消失。</translation>
         </message>
         <message>
             <source>Switch the effect off for a time</source>
@@ -1939,6 +1955,14 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
             <translation>“%@”不是 07:00 off 或 sunset-00:30 Warm evening 这样的计划时间点。</translation>
+        </message>
+        <message>
+            <source>It holds until Nocturo quits; the settings cannot be saved to %1$@ (%2$@).</source>
+            <translation>在 Nocturo 退出前有效；设置无法保存到 %1$@（%2$@）。</translation>
+        </message>
+        <message>
+            <source>the file that is there cannot be read</source>
+            <translation>该处的文件无法读取</translation>
         </message>
         <message>
             <source>the selected effects</source>

@@ -161,7 +161,8 @@ class NDAppController : public ActionTarget {
     Ruling ruling(CGDirectDisplayID display) const;
 
     /// The same for all affected displays. Where they differ, for those of which nobody says
-    /// anything in particular, or for the first where there are none.
+    /// anything in particular, or where there are none for one that just has a look of its own, or
+    /// for the first.
     Ruling ruling() const;
 
     /// The title of the look that rules over the effects of the settings; empty where none does.

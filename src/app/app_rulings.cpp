@@ -36,10 +36,19 @@ Ruling NDAppController::ruling(CGDirectDisplayID display) const {
 Ruling NDAppController::ruling() const {
     const Ruling usual = ruling(kNoneInParticular);
     const auto displays = affectedDisplays(defaults_);
-    const bool isThere =
-        displays.empty() || std::any_of(displays.begin(), displays.end(),
-                                        [&](auto display) { return ruling(display) == usual; });
-    return isThere ? usual : ruling(displays.front());
+    std::optional<Ruling> butForItsLook;
+    for (const CGDirectDisplayID display : displays) {
+        Ruling its = ruling(display);
+        if (its == usual) {
+            return usual;
+        }
+        const std::string own = std::exchange(its.look, usual.look);
+        if (!butForItsLook && its == usual) {
+            butForItsLook = its;
+            butForItsLook->look = own;
+        }
+    }
+    return displays.empty() ? usual : butForItsLook.value_or(ruling(displays.front()));
 }
 
 bool NDAppController::isWanted() const {

@@ -85,14 +85,21 @@ std::string onSentence(const EffectState& state) {
 
 /// Who says what, "Off" for one, and until when.
 std::string withRuler(const std::string& what, Ruler ruler, const std::string& until,
-                      const std::string& rule) {
+                      const std::string& rule, bool mayRulesFollow) {
     switch (ruler) {
     case Ruler::pause:
+        if (!rule.empty()) {
+            return translated("Paused while %@ runs", {rule});
+        }
         return until.empty() ? translated("Paused until you go on")
                              : translated("Paused until %@", {until});
     case Ruler::hand:
-        return until.empty() ? translated("%@; by hand", {what})
-                             : translated("%1$@; by hand until %2$@", {what, until});
+        if (until.empty()) {
+            return translated("%@; by hand", {what});
+        }
+        return mayRulesFollow
+                   ? translated("%1$@; by hand until %2$@ or a rule holds", {what, until})
+                   : translated("%1$@; by hand until %2$@", {what, until});
     case Ruler::rule:
         return translated("%1$@; by the rule \"%2$@\"", {what, rule});
     case Ruler::schedule:
@@ -117,8 +124,10 @@ std::string withThoseApart(std::string sentence, const EffectState& state) {
         const std::string what = !ruling.isOn            ? translated("Off")
                                  : !display.look.empty() ? ofOwn(display)
                                                          : translated("On");
-        sentence = translated("%1$@. %2$@: %3$@", {std::move(sentence), display.name,
-                                                   withRuler(what, ruling.by, until, ruling.rule)});
+        sentence = translated(
+            "%1$@. %2$@: %3$@",
+            {std::move(sentence), display.name,
+             withRuler(what, ruling.by, until, ruling.rule, state.mayRulesFollow && !ruling.isOn)});
     }
     return sentence;
 }
@@ -154,8 +163,9 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
     state.until = ruling.until;
     state.rule = ruling.rule;
     state.look = controller.titleOfLook(ruling);
-    if (controller.automation() != nullptr) {
-        state.now = controller.automation()->now();
+    if (const Automation* automation = controller.automation()) {
+        state.now = automation->now();
+        state.mayRulesFollow = automation->rules().mayOthersSwitchOn();
     }
     for (const SelectableEffect& effect : kSelectableEffects) {
         if (NDGroupEffect::effect().containsEffect(effect.className)) {
@@ -173,21 +183,30 @@ EffectState effectState(const NDAppController& controller, const DefaultsStore& 
         const DisplayInfo& display = (*online)[i];
         const bool isNamed =
             std::find(affected.begin(), affected.end(), display.id) != affected.end();
-        if (isNamed) {
-            state.screens.push_back(display.name);
-        }
         if (!isNamed && !affected.empty()) {
             continue;
         }
         if (display.obstacle != Obstacle::none) {
             state.without.push_back(display.name);
         }
-        if (Ruling its = controller.ruling(display.id); its != ruling) {
-            const std::string look = controller.titleOfLook(its);
-            state.apart.push_back({display.name, std::move(its), look});
-        }
+        const Ruling its = controller.ruling(display.id);
+        addScreen(state, ruling, {display.name, its, controller.titleOfLook(its)});
     }
     return state;
+}
+
+void addScreen(EffectState& state, const Ruling& usual, const DisplayApart& display) {
+    const bool isApart = display.ruling != usual;
+    if (isApart) {
+        state.apart.push_back(display);
+    }
+    // A look that nobody but the displays' own settings says is on those alone that have it.
+    const bool isOwn =
+        !usual.look.empty() && (usual.by == Ruler::settings || usual.by == Ruler::hand);
+    state.isOnAllScreens = state.isOnAllScreens && !(isApart && isOwn);
+    if (!isApart || !isOwn) {
+        state.screens.push_back(display.name);
+    }
 }
 
 std::vector<std::string> namesOfEffects(const EffectState& state) {
@@ -213,7 +232,9 @@ std::string stateSentence(const EffectState& state) {
     }
     const std::string until = state.until ? clockText(*state.until, state.now) : std::string();
     const std::string what = state.isOn ? onSentence(state) : translated("Off");
-    return withThoseApart(withRuler(what, state.ruler, until, state.rule), state);
+    return withThoseApart(
+        withRuler(what, state.ruler, until, state.rule, state.mayRulesFollow && !state.isOn),
+        state);
 }
 
 std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults) {

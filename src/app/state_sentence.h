@@ -27,7 +27,8 @@ struct EffectState {
     bool isPausedForScreenSaver = false;
     Ruler ruler = Ruler::settings;
     std::optional<Moment> until; // that the ruler says so; nothing: no end is known
-    std::string rule;            // the ruler's words where it is one; or empty
+    std::string rule;            // the words of a rule or a command, where one is the reason
+    bool mayRulesFollow = false; // a rule that does not hold now may switch on
     Moment now{};
     std::string look;                 // the title of one that rules over the effects; or empty
     std::vector<std::string> effects; // class names of the chosen ones, in any order
@@ -35,10 +36,14 @@ struct EffectState {
     double hue = 0; // degrees
     double vividness = 0;
     bool isOnAllScreens = true;
-    std::vector<std::string> screens; // names of those affected that are connected
+    std::vector<std::string> screens; // names of those affected that are connected and not apart
     std::vector<std::string> without; // names of those affected that can show nothing of it
     std::vector<DisplayApart> apart;  // those affected of which `ruler` and the like are not true
 };
+
+/// Adds an affected display that is connected, with what is said of it, to a state that has all
+/// else; the looks' titles are given.
+void addScreen(EffectState& state, const Ruling& usual, const DisplayApart& display);
 
 EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults);
 

@@ -6,6 +6,7 @@
 #include "base/log.h"
 #include "base/notification_center.h"
 #include "base/notification_names.h"
+#include "base/texts/shortened.h"
 #include "base/texts/translated.h"
 #include "documents/look_effect.h"
 #include "documents/looks.h"
@@ -26,6 +27,15 @@ constexpr std::array kRuleSettings = {kUseRules, kRules};
 
 bool isOfTheSun(const SchedulePoint& point) {
     return point.anchor != SchedulePoint::Anchor::midnight;
+}
+
+/// Of words such as "until sunset-00:30".
+std::optional<SchedulePoint> pointOfSun(std::string_view words) {
+    constexpr std::string_view kUntil = "until ";
+    auto point = words.starts_with(kUntil)
+                     ? schedulePoint(std::string(words.substr(kUntil.size())) + " off")
+                     : std::nullopt;
+    return point && isOfTheSun(*point) ? point : std::nullopt;
 }
 
 std::optional<Moment> earlier(std::optional<Moment> one, std::optional<Moment> other) {
@@ -146,8 +156,10 @@ void Automation::refuseLook(const std::string& look) {
 }
 
 void Automation::forgiveLooks() {
-    refusedLooks_.clear();
-    lookAtClock();
+    if (!std::exchange(refusedLooks_, {}).empty()) {
+        lookAtClock();
+        change();
+    }
 }
 
 Result<std::optional<Moment>> Automation::endOf(std::string_view words) {
@@ -155,15 +167,13 @@ Result<std::optional<Moment>> Automation::endOf(std::string_view words) {
     std::optional<Moment> end;
     if (words == "until next") {
         end = around_.next ? std::optional(around_.next->moment) : std::nullopt;
-    } else if (words == "until sunrise") {
-        end = Schedule({SchedulePoint{SchedulePoint::Anchor::sunrise, {}, {}}},
-                       placeOfSchedule(defaults_))
-                  .next(0, now);
+    } else if (const auto point = pointOfSun(words)) {
+        end = Schedule({*point}, placeOfSchedule(defaults_)).next(0, now);
     } else {
         return endOfPause(words, now);
     }
     if (!end) {
-        return failed(translated("Nobody knows when that is: \"%@\".", {std::string(words)}));
+        return failed(translated("Nobody knows when that is: \"%@\".", {shortened(words)}));
     }
     return end;
 }
@@ -178,8 +188,13 @@ Result<void> Automation::pause(std::string_view words) {
     return {};
 }
 
-void Automation::holdPause(bool held) {
-    pauses_.setHeld(held);
+void Automation::holdPause(const std::string& command) {
+    pauses_.hold(command);
+    change();
+}
+
+void Automation::releasePause() {
+    pauses_.release();
     change();
 }
 

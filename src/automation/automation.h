@@ -70,11 +70,14 @@ class Automation {
     void wasSwitchedByHand(bool isOn);
 
     /// Begins a pause with an end told in words, as endOfPause() reads them; "until next" is the
-    /// next point of the schedule, and "until sunrise" the next sunrise.
+    /// next point of the schedule, and "until sunrise" or "until sunset-00:30" what the sun does
+    /// next.
     Result<void> pause(std::string_view words);
 
-    /// Begins or ends the pause of programs that run.
-    void holdPause(bool held);
+    /// Begins the pause of programs that run, the last of which may be a command in words; and ends
+    /// it.
+    void holdPause(const std::string& command);
+    void releasePause();
 
     /// Ends all pauses.
     void resume();
@@ -88,6 +91,9 @@ class Automation {
 
     /// The name of the look that a display has of its own; empty where it has none.
     std::string lookOfDisplay(CGDirectDisplayID display) const;
+
+    /// All of them, whether the displays are there or not.
+    const std::map<CGDirectDisplayID, std::string>& displayLooks() const { return displayLooks_; }
 
     /// Every point, in the setting's order.
     const std::vector<ListedPoint>& listedPoints() const { return listed_; }
@@ -129,7 +135,7 @@ class Automation {
     std::vector<ListedPoint> listed_;
     std::set<std::string> explained_;                       // words that were logged
     std::map<std::string, AppliedLook> appliedLooks_;       // by name
-    std::map<CGDirectDisplayID, std::string> displayLooks_; // names of those that are there
+    std::map<CGDirectDisplayID, std::string> displayLooks_; // names of looks that there are
     std::unique_ptr<Timer> timer_;
     Rules rules_;
 };

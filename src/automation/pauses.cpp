@@ -2,9 +2,11 @@
 
 #include "base/local_time.h"
 #include "base/log.h"
+#include "base/texts/shortened.h"
 #include "base/texts/translated.h"
 #include "settings/settings_file.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <string>
@@ -47,6 +49,10 @@ std::optional<seconds> unitOf(char letter) {
     }
 }
 
+bool isOfLength(char letter) {
+    return (letter >= '0' && letter <= '9') || unitOf(letter);
+}
+
 std::optional<seconds> duration(std::string_view text) {
     seconds sum{0};
     while (!text.empty()) {
@@ -78,8 +84,15 @@ Result<std::optional<Moment>> endOfPause(std::string_view words, Moment now) {
     } else if (const auto length = duration(words)) {
         return now + *length;
     }
-    return failed(translated("\"%@\" is no time to pause for, such as 30m, 2h or until 18:00.",
-                             {std::string(words)}));
+    if (std::all_of(words.begin(), words.end(), isOfLength)) {
+        return failed(
+            translated("\"%@\" is no length of a pause, such as 30m, 2h or 1h30m, up to 366d.",
+                       {shortened(words)}));
+    }
+    return failed(
+        translated("\"%@\" is no time to pause for, such as 30m, 2h, until 18:00 or until "
+                   "sunset.",
+                   {shortened(words)}));
 }
 
 void Pauses::restore(Moment now) {
@@ -116,7 +129,7 @@ void Pauses::forget() {
 
 bool Pauses::end() {
     const bool was = claim().has_value();
-    isHeld_ = false;
+    held_.reset();
     if (timed_) {
         forget();
     }
@@ -132,10 +145,10 @@ bool Pauses::expire(Moment now) {
 }
 
 std::optional<Claim> Pauses::claim() const {
-    if (!timed_ && !isHeld_) {
-        return std::nullopt;
+    if (held_) {
+        return Claim{false, {}, {}, *held_};
     }
-    return Claim{false, {}, isHeld_ ? std::nullopt : timed_->until};
+    return timed_ ? std::optional(Claim{false, {}, timed_->until}) : std::nullopt;
 }
 
 } // namespace nocturo

@@ -5,7 +5,9 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 namespace nocturo {
 
@@ -22,8 +24,9 @@ class Pauses {
     /// Without an end it lasts until it is ended. Replaces an earlier one.
     void begin(std::optional<Moment> until);
 
-    /// While programs ask for one.
-    void setHeld(bool held) { isHeld_ = held; }
+    /// While programs ask for one, the last of which may be a command in words.
+    void hold(std::string command) { held_ = std::move(command); }
+    void release() { held_.reset(); }
 
     /// Ends all; false where there was none.
     bool end();
@@ -42,7 +45,7 @@ class Pauses {
 
     std::filesystem::path file_;
     std::optional<Timed> timed_;
-    bool isHeld_ = false;
+    std::optional<std::string> held_; // the command
 };
 
 /// When a pause ends that was asked for in words: "30m", "1h30m", "until 18:00", "until tomorrow",

@@ -192,6 +192,13 @@ std::optional<Claim> Rules::claim(CGDirectDisplayID display) const {
     return std::nullopt;
 }
 
+bool Rules::mayOthersSwitchOn() const {
+    const auto rules = listed();
+    return isInUse_ && std::any_of(rules.begin(), rules.end(), [](const ListedRule& each) {
+               return switchesOn(each.words) && !each.holds && each.problem.empty();
+           });
+}
+
 void Rules::displaysDidChange() {
     if (foreground_ != nullptr) {
         foreground_->displaysDidChange();

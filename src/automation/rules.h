@@ -61,6 +61,9 @@ class Rules {
 
     bool anyHolds() const { return !holding_.empty(); }
 
+    /// Whether a rule that does not hold now would switch the effect on.
+    bool mayOthersSwitchOn() const;
+
     /// While Nocturo asks something about what a rule shows, windows of its own do not count as in
     /// front of the program that it shows that for.
     void setAsking(bool asking);

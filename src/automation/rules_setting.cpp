@@ -1,6 +1,7 @@
 #include "automation/rules_setting.h"
 
 #include "automation/word_list.h"
+#include "base/texts/shortened.h"
 #include "base/texts/translated.h"
 #include "documents/looks.h"
 #include "settings/rule_words.h"
@@ -17,8 +18,14 @@ Result<void> addRule(DefaultsStore& defaults, Looks& looks, std::string_view wor
     }
     if (!rule->look.empty()) {
         const Look* look = looks.named(rule->look);
+        if (look == nullptr && rule->look.find(' ') != std::string::npos &&
+            rule->when == Rule::When::program && rule->program.find(' ') == std::string::npos) {
+            return failed(translated("There is no look \"%@\"; the name of a program with spaces "
+                                     "stands between quotation marks.",
+                                     {shortened(rule->look)}));
+        }
         if (look == nullptr) {
-            return failed(translated("There is no look \"%@\".", {rule->look}));
+            return failed(translated("There is no look \"%@\".", {shortened(rule->look)}));
         }
         rule->look = look->name;
     }

@@ -2,6 +2,7 @@
 
 #include "automation/time_zone_place.h"
 #include "automation/word_list.h"
+#include "base/texts/shortened.h"
 #include "base/texts/translated.h"
 #include "documents/looks.h"
 #include "settings/defaults_store.h"
@@ -30,7 +31,7 @@ Result<void> addSchedulePoint(DefaultsStore& defaults, Looks& looks, std::string
     if (!point->look.empty()) {
         const Look* look = looks.named(point->look);
         if (look == nullptr) {
-            return failed(translated("There is no look \"%@\".", {point->look}));
+            return failed(translated("There is no look \"%@\".", {shortened(point->look)}));
         }
         point->look = look->name;
     }

@@ -20,7 +20,7 @@ struct Claim {
     bool isOn = false;
     std::string look{};            // its name; empty for the effects of the settings
     std::optional<Moment> until{}; // nothing: no end is known
-    std::string rule{};            // the words of the rule that says so; empty for none
+    std::string rule{};            // its words, or the command that a pause is for; or empty
     bool operator==(const Claim&) const = default;
 };
 

@@ -18,6 +18,7 @@
 #include "hotkeys/hot_key_grant.h"
 #include "hotkeys/hot_key_text.h"
 #include "settings/defaults_store.h"
+#include "settings/settings_keeper.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_table.h"
 
@@ -49,10 +50,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 72> members;
+    static const std::array<sd_bus_vtable, 74> members;
 };
 
-const std::array<sd_bus_vtable, 72> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 74> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
@@ -87,6 +88,8 @@ const std::array<sd_bus_vtable, 72> BusFace::Table::members = {{
                             kServe<&BusFace::pause>, kFree),
     SD_BUS_METHOD_WITH_ARGS("PauseWhileConnected", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
                             pauseWhileConnected, kFree),
+    SD_BUS_METHOD_WITH_ARGS("PauseWhileRunning", SD_BUS_ARGS("s", command), SD_BUS_NO_RESULT,
+                            pauseWhileRunning, kFree),
     SD_BUS_METHOD_WITH_ARGS("Resume", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT, kServe<&BusFace::resume>,
                             kFree),
     SD_BUS_METHOD_WITH_ARGS("AddSchedulePoint", SD_BUS_ARGS("s", words), SD_BUS_NO_RESULT,
@@ -143,6 +146,8 @@ const std::array<sd_bus_vtable, 72> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::setSetting>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ResetSetting", SD_BUS_ARGS("s", key), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::resetSetting>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("SaveSettings", SD_BUS_NO_ARGS, SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::saveSettings>, kFree),
     SD_BUS_METHOD_WITH_ARGS("ToggleScreen", SD_BUS_ARGS("u", id), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::toggleScreen>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AddScreens", SD_BUS_ARGS("ax", ids), SD_BUS_NO_RESULT,
@@ -182,7 +187,7 @@ BusFace::BusFace(NDAppController& controller, DefaultsStore& defaults,
       userInterface_(userInterface), keepColors_(keepColors), chosenLook_(chosenLook),
       automation_(automation), bus_(bus), loop_(loop),
       state_(controller, defaults, disturbances, chosenLook, automation),
-      launcherFace_(controller, bus, loop), pausing_([this] { automation_.holdPause(false); }) {
+      launcherFace_(controller, bus, loop), pausing_([this] { automation_.releasePause(); }) {
     if (bus_ != nullptr) {
         object_ = bus_->addObject(kObjectPath, kNocturoInterface, Table::members.data(), this);
     }
@@ -263,6 +268,11 @@ BusAnswer BusFace::resetSetting(const std::string& key) {
     }
     defaults_.removeObjectForKey(setting->key);
     return {};
+}
+
+BusAnswer BusFace::saveSettings() {
+    auto saved = keeper_ != nullptr ? keeper_->save() : Result<void>();
+    return saved ? BusAnswer() : failure(std::move(saved.error().text));
 }
 
 BusAnswer BusFace::toggleScreen(std::uint32_t display) {

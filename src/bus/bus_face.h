@@ -23,6 +23,7 @@ class ChosenLook;
 class EventLoop;
 class KeepColors;
 class NotificationCenter;
+class SettingsKeeper;
 class UserInterface;
 
 /// The application's object on the session bus; its interface and what each member does stand in
@@ -41,6 +42,9 @@ class BusFace {
 
     /// Names and reads keys by this layout, which must outlive the face; null for none.
     void setKeyboardLayout(KeyboardLayout* layout);
+
+    /// Keeps the settings, and must outlive the face; without it they are in memory alone.
+    void setSettingsKeeper(SettingsKeeper* keeper) { keeper_ = keeper; }
 
     /// Announces changes from now on. Each is announced from the event loop, once everybody else
     /// who follows it has acted.
@@ -66,7 +70,9 @@ class BusFace {
     BusAnswer removeSchedulePoint(std::uint32_t index);
     BusAnswer addRule(const std::string& words);
     BusAnswer removeRule(std::uint32_t index);
+    int holdPause(sd_bus_message* call, const std::string& command);
     static int pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* error);
+    static int pauseWhileRunning(sd_bus_message* call, void* self, sd_bus_error* error);
     BusAnswer addEffects(const std::vector<std::string>& names);
     BusAnswer removeEffects(const std::vector<std::string>& names);
     BusAnswer toggleEffects(const std::vector<std::string>& names);
@@ -89,6 +95,7 @@ class BusFace {
     BusAnswer moveLook(const std::string& name, std::uint32_t place);
     BusAnswer setSetting(const std::string& key, const std::optional<PropertyValue>& value);
     BusAnswer resetSetting(const std::string& key);
+    BusAnswer saveSettings();
     BusAnswer toggleScreen(std::uint32_t display);
     BusAnswer addScreens(const std::vector<std::int64_t>& displays);
     BusAnswer removeScreens(const std::vector<std::int64_t>& displays);
@@ -122,6 +129,7 @@ class BusFace {
     EventLoop& loop_;
     ToldState state_;
     KeyboardLayout* layout_ = nullptr;
+    SettingsKeeper* keeper_ = nullptr;
     LauncherFace launcherFace_;
     std::unique_ptr<BusSlot> object_;
     CallersPresent pausing_;

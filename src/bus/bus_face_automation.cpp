@@ -53,11 +53,22 @@ BusAnswer BusFace::setDisplayLook(std::uint32_t display, const std::string& look
     return answer(setLookOfDisplay(defaults_, chosenLook_.looks(), display, look));
 }
 
-int BusFace::pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* /*error*/) {
-    auto& face = *static_cast<BusFace*>(self);
-    face.pausing_.add(call);
-    face.automation_.holdPause(true);
+int BusFace::holdPause(sd_bus_message* call, const std::string& command) {
+    pausing_.add(call);
+    automation_.holdPause(command);
     return sd_bus_reply_method_return(call, nullptr);
+}
+
+int BusFace::pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* /*error*/) {
+    return static_cast<BusFace*>(self)->holdPause(call, {});
+}
+
+int BusFace::pauseWhileRunning(sd_bus_message* call, void* self, sd_bus_error* error) {
+    std::string command;
+    if (!readArgument(call, command)) {
+        return sd_bus_error_set(error, SD_BUS_ERROR_INVALID_ARGS, nullptr);
+    }
+    return static_cast<BusFace*>(self)->holdPause(call, command);
 }
 
 } // namespace nocturo

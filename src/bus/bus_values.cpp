@@ -1,5 +1,6 @@
 #include "bus/bus_values.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -107,7 +108,10 @@ std::optional<PropertyValue> readSetting(sd_bus_message* message, std::string_vi
 }
 
 BusValue arrayValue(const PropertyArray& array) {
-    if (!array.empty() && array.front().number()) {
+    const bool areNumbers = std::all_of(array.begin(), array.end(), [](const PropertyValue& each) {
+        return each.number().has_value();
+    });
+    if (areNumbers && !array.empty()) {
         std::vector<std::int64_t> numbers;
         for (const PropertyValue& element : array) {
             numbers.push_back(static_cast<std::int64_t>(element.number().value_or(0.0)));
@@ -115,10 +119,9 @@ BusValue arrayValue(const PropertyArray& array) {
         return numbers;
     }
     std::vector<std::string> strings;
-    for (const PropertyValue& element : array) {
-        if (const auto* text = element.as<std::string>()) {
-            strings.push_back(*text);
-        }
+    for (const PropertyValue& element : array) { // one that is no text keeps its place
+        const auto* text = element.as<std::string>();
+        strings.push_back(text != nullptr ? *text : std::string());
     }
     return strings;
 }

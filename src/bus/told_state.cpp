@@ -88,7 +88,7 @@ const std::map<std::string_view, ToldState::Property>& ToldState::properties() {
         {"Rules", {&ToldState::rules, kRuleSettings}},
         {"DisplayServices", {&ToldState::displayServicesName, kNone}},
         {"Displays", {&ToldState::displays, kOfDisplays}},
-        {"AbsentDisplays", {&ToldState::absentDisplays, kAffectedScreenSettings}},
+        {"AbsentDisplays", {&ToldState::absentDisplays, kOfDisplays}},
         {"Effects", {&ToldState::effects, kEffects}},
         {"DimLevel", {&ToldState::dimLevel, kDim}},
         {"ColorFilterHue", {&ToldState::colorFilterHue, kHue}},
@@ -220,9 +220,24 @@ BusValue ToldState::displays() const {
 BusValue ToldState::absentDisplays() const {
     std::vector<BusDictionary> list;
     DisplayServices* services = displayServices();
-    if (const auto* online = services != nullptr ? services->onlineDisplays() : nullptr) {
-        for (const CGDirectDisplayID display : absentAffectedDisplays(defaults_, *online)) {
-            list.push_back({{"id", display}, {"name", DisplayNames::shared().nameOf(display)}});
+    const auto* online = services != nullptr ? services->onlineDisplays() : nullptr;
+    if (online == nullptr) {
+        return list;
+    }
+    const auto add = [&](CGDirectDisplayID display, bool isAffected) {
+        list.push_back({{"id", display},
+                        {"name", DisplayNames::shared().nameOf(display)},
+                        {"affected", isAffected},
+                        {"look", automation_.lookOfDisplay(display)}});
+    };
+    const auto affected = absentAffectedDisplays(defaults_, *online);
+    for (const CGDirectDisplayID display : affected) {
+        add(display, true);
+    }
+    for (const auto& [display, look] : automation_.displayLooks()) {
+        const bool isThere = std::ranges::find(*online, display, &DisplayInfo::id) != online->end();
+        if (!isThere && std::ranges::find(affected, display) == affected.end()) {
+            add(display, affectedScreenSet(defaults_).empty());
         }
     }
     return list;

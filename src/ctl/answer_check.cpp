@@ -81,7 +81,8 @@ bool isDisplay(const Json& value) {
 }
 
 bool isAbsentDisplay(const Json& value) {
-    static constexpr auto kMembers = std::to_array<Member>({{"id", isCount}, {"name", isText}});
+    static constexpr auto kMembers = std::to_array<Member>(
+        {{"id", isCount}, {"name", isText}, {"affected", isBoolean, true}, {"look", isText, true}});
     return fit(value, kMembers, Answer::whole);
 }
 

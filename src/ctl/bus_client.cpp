@@ -66,11 +66,14 @@ void BusClient::callWith(const char* method, const std::vector<BusValue>& argume
     send(message);
 }
 
-std::unique_ptr<BusSlot> BusClient::callThoseToCome(const char* method) {
+std::unique_ptr<BusSlot> BusClient::callThoseToCome(const char* method,
+                                                    const std::string& argument) {
     return bus_->followOwner(
-        kBusName, [this, method, isFirst = true](const std::string& owner) mutable {
+        kBusName, [this, method, argument, isFirst = true](const std::string& owner) mutable {
             if (!std::exchange(isFirst, false) && !owner.empty()) {
-                sd_bus_send(bus_->handle(), newCall(kNocturoInterface, method).get(), nullptr);
+                const BusMessage message = newCall(kNocturoInterface, method);
+                appendValue(message.get(), argument);
+                sd_bus_send(bus_->handle(), message.get(), nullptr);
             }
         });
 }
@@ -80,6 +83,7 @@ void BusClient::callSetSetting(const std::string& key, const PropertyValue& valu
     check(sd_bus_message_append(message.get(), "s", key.c_str()));
     appendVariant(message.get(), busValue(value));
     send(message);
+    callWith("SaveSettings", {});
 }
 
 std::string BusClient::renderPreview(std::uint32_t display) {

@@ -52,15 +52,23 @@ class BusClient {
         callWith(method, {BusValue(arguments)...});
     }
 
+    /// The same for what changes settings, which are on the disk afterwards.
+    template <class... Arguments>
+    void callAndSave(const char* method, const Arguments&... arguments) {
+        callWith(method, {BusValue(arguments)...});
+        callWith("SaveSettings", {});
+    }
+
     /// Calls each Nocturo that comes after the one that runs now, from loop(), whatever it answers.
-    [[nodiscard]] std::unique_ptr<BusSlot> callThoseToCome(const char* method);
+    [[nodiscard]] std::unique_ptr<BusSlot> callThoseToCome(const char* method,
+                                                           const std::string& argument);
 
     EventLoop& loop() { return loop_; }
 
     /// A picture in PNG of what the effects do on the display of that identifier.
     std::string renderPreview(std::uint32_t display);
 
-    /// `value` is of a type that a setting can have.
+    /// `value` is of a type that a setting can have. It is on the disk afterwards.
     void callSetSetting(const std::string& key, const PropertyValue& value);
 
     /// All properties, their names with a small first letter: {"active": true, ...}. Those that

@@ -120,7 +120,7 @@ void runSet(Arguments arguments) {
 void runReset(Arguments arguments) {
     expect(arguments.size() == 1);
     settingFromName(arguments[0]);
-    BusClient().call("ResetSetting", arguments[0]);
+    BusClient().callAndSave("ResetSetting", arguments[0]);
 }
 
 HotKeyGrant grantIn(const Json& hotKey) {
@@ -156,9 +156,9 @@ void runHotKey(Arguments arguments) {
         if (arguments[1].empty()) {
             throw Failure{kUsage, hotKeyTextSyntax()};
         }
-        client.call("SetHotKey", arguments[1]);
+        client.callAndSave("SetHotKey", arguments[1]);
     } else if (how == "none" && arguments.size() == 1) {
-        client.call("SetHotKey", std::string());
+        client.callAndSave("SetHotKey", std::string());
     } else if ((how == "enable" || how == "disable") && arguments.size() == 1) {
         client.callSetSetting("UseHotKey", how == "enable");
     } else {
@@ -242,7 +242,9 @@ constexpr std::array kCommands = std::to_array<Command>({
     {"off", "[--fade SECONDS]", ListedText("Switch the effect off"),
      ListedText("Every display gets its own colors back."), runSwitch<false>},
     {"toggle", "[--fade SECONDS]", ListedText("Switch the effect on or off"),
-     ListedText("Bind this to a key."), runToggle, true},
+     ListedText(
+         "Bind this to a key. --fade has it come and go little by little, in up to 5 seconds."),
+     runToggle, true},
     {"pause", "[30m | until TIME | cancel | while COMMAND...]",
      ListedText("Switch the effect off for a time"),
      ListedText("For so long, such as 30m, 2h or 1h30m; until 18:00, sunrise, tomorrow,\n"

@@ -1,6 +1,7 @@
 #include "ctl/pause_verb.h"
 
 #include "base/program_start.h"
+#include "base/texts/shortened.h"
 #include "ctl/bus_client.h"
 #include "ctl/failure.h"
 
@@ -35,11 +36,12 @@ int exitStatus(int status) {
 }
 
 [[noreturn]] void pauseWhile(Arguments command) {
-    constexpr const char* kMethod = "PauseWhileConnected";
+    constexpr const char* kMethod = "PauseWhileRunning";
     constexpr std::array kSignals = {SIGCHLD};
     BusClient client;
-    client.call(kMethod);
-    [[maybe_unused]] const auto again = client.callThoseToCome(kMethod);
+    const std::string words = shortened(joined(command));
+    client.call(kMethod, words);
+    [[maybe_unused]] const auto again = client.callThoseToCome(kMethod, words);
     EventLoop& loop = client.loop();
     pid_t process = 0;
     loop.handleSignals(kSignals, [&](int) {

@@ -6,6 +6,7 @@
 #include "documents/looks.h"
 #include "hotkeys/hot_key_text.h"
 #include "hotkeys/hot_key_words.h"
+#include "settings/rule_words.h"
 #include "settings/selectable_effects.h"
 #include "settings/settings_table.h"
 
@@ -144,6 +145,15 @@ Ruling toldRuling(const Json& told, bool isOn) {
     return ruling;
 }
 
+bool mayRulesSwitchOn(const Json& properties) {
+    const Json rules = properties.value("rules", Json::array());
+    return properties["settings"].value("UseRules", true) &&
+           std::any_of(rules.begin(), rules.end(), [](const Json& told) {
+               return switchesOn(told["rule"].get<std::string>()) && !told["holds"].get<bool>() &&
+                      told["problem"].get<std::string>().empty();
+           });
+}
+
 bool isApart(const Ruling& its, const Ruling& usual) {
     return its.by != usual.by || its.look != usual.look || its.rule != usual.rule ||
            its.until != usual.until;
@@ -180,21 +190,21 @@ EffectState toldState(const Json& properties) {
     state.hue = properties["colorFilterHue"].get<double>();
     state.vividness = properties["colorFilterVividness"].get<double>();
     state.look = titleOfLookNamed(properties, properties.value("ruledLook", ""));
+    state.mayRulesFollow = mayRulesSwitchOn(properties);
     state.isOnAllScreens = properties["affectedScreenSet"].empty();
     for (const Json& display : properties["displays"]) {
         if (display["affected"].get<bool>()) {
-            state.screens.push_back(plain(display["name"]));
             if (!display.value("obstacle", "").empty()) {
-                state.without.push_back(state.screens.back());
+                state.without.push_back(plain(display["name"]));
             }
             const bool isOn = display.value("on", usual.isOn);
-            const Ruling its = toldRuling(display, isOn);
+            Ruling its = toldRuling(display, isOn);
             if (!display.contains("ruler") || !isApart(its, usual)) {
                 state.isOn = state.isOn && isOn; // others may show an effect all the same
-            } else {
-                state.apart.push_back(
-                    {state.screens.back(), its, titleOfLookNamed(properties, its.look)});
+                its = usual;
             }
+            addScreen(state, usual,
+                      {plain(display["name"]), its, titleOfLookNamed(properties, its.look)});
         }
     }
     return state;
@@ -265,9 +275,10 @@ std::string effectsReport(const Json& properties) {
 
 std::string screensReport(const Json& properties) {
     const Json& displays = properties["displays"];
-    const bool haveLooks = std::any_of(displays.begin(), displays.end(), [](const Json& each) {
-        return !each.value("look", "").empty();
-    });
+    const Json absent = properties.value("absentDisplays", Json::array());
+    const auto hasLook = [](const Json& each) { return !each.value("look", "").empty(); };
+    const bool haveLooks = std::any_of(displays.begin(), displays.end(), hasLook) ||
+                           std::any_of(absent.begin(), absent.end(), hasLook);
     std::vector<Row> rows = {{"", translated("no."), translated("name"), translated("identifier"),
                               translated("ramp"), translated("applied"), translated("monitor"), "",
                               haveLooks ? translated("look") : "", ""}};
@@ -281,9 +292,11 @@ std::string screensReport(const Json& properties) {
                         titleOfLookNamed(properties, display.value("look", "")),
                         obstacleText(display.value("obstacle", ""))});
     }
-    for (const Json& display : properties.value("absentDisplays", Json::array())) {
-        rows.push_back({"[x]", "-", "-", plain(display["id"]), "-", yesOrNo(false),
-                        plain(display["name"]), translated("not connected")});
+    for (const Json& display : absent) {
+        rows.push_back({display.value("affected", true) ? "[x]" : "[ ]", "-", "-",
+                        plain(display["id"]), "-", yesOrNo(false), plain(display["name"]),
+                        translated("not connected"),
+                        titleOfLookNamed(properties, display.value("look", ""))});
     }
     return rows.size() > 1 ? table(rows) : "  " + translated("(none)") + '\n';
 }

@@ -89,10 +89,10 @@ void runRules(Arguments arguments) {
         BusClient().callSetSetting("UseRules", how == "on");
     } else if (how == "add") {
         expect(words.size() > 1 && !asJson);
-        BusClient().call("AddRule", ruleFrom(words.subspan(1)));
+        BusClient().callAndSave("AddRule", ruleFrom(words.subspan(1)));
     } else {
         expect(how == "remove" && arguments.size() == 2);
-        BusClient().call("RemoveRule", indexFrom(arguments[1]));
+        BusClient().callAndSave("RemoveRule", indexFrom(arguments[1]));
     }
 }
 

@@ -101,11 +101,11 @@ void runSchedule(Arguments arguments) {
     } else if (how == "add") {
         expect(arguments.size() > 1);
         BusClient client;
-        client.call("AddSchedulePoint", joined(arguments.subspan(1)));
+        client.callAndSave("AddSchedulePoint", joined(arguments.subspan(1)));
         print(whetherInUse(client.properties()));
     } else {
         expect(how == "remove" && arguments.size() == 2);
-        BusClient().call("RemoveSchedulePoint", indexFrom(arguments[1]));
+        BusClient().callAndSave("RemoveSchedulePoint", indexFrom(arguments[1]));
     }
 }
 

@@ -41,10 +41,18 @@ Displays affectedDisplays(const Json& properties) {
 /// A display that is there, or one that has a look.
 std::uint32_t displayWithLookFromText(const Json& properties, const std::string& text) {
     const auto number = wholeNumber(text);
+    const auto isOnline = [&](const Json& display) { return display["name"] == text; };
+    const Json& online = properties["displays"];
+    for (const Json& display : properties.value("absentDisplays", Json::array())) {
+        const bool isNamed = display["name"] == text && std::ranges::none_of(online, isOnline);
+        if (isNamed || (number && display["id"] == *number)) {
+            return display["id"].get<std::uint32_t>();
+        }
+    }
     for (const Json& words : properties["settings"].value("DisplayLooks", Json::array())) {
-        const auto own = displayLookFromWords(words.get<std::string>());
+        const auto own = displayLookFromWords(words.is_string() ? words.get<std::string>() : "");
         if (number && own && own->display == *number) {
-            return *number;
+            return *number; // whose look is gone
         }
     }
     return displayFromText(properties, text);
@@ -96,14 +104,15 @@ void runScreens(Arguments arguments) {
     const std::string& how = arguments[0];
     if (how == "all") {
         expect(arguments.size() == 1);
-        client.call("AffectAllScreens");
+        client.callAndSave("AffectAllScreens");
         return;
     }
     if (how == "look") {
         expect(arguments.size() > 2);
         const std::string look = joined(arguments.subspan(2));
-        client.call("SetDisplayLook", displayWithLookFromText(client.properties(), arguments[1]),
-                    look == "-" ? std::string() : look);
+        client.callAndSave("SetDisplayLook",
+                           displayWithLookFromText(client.properties(), arguments[1]),
+                           look == "-" ? std::string() : look);
         return;
     }
     expect(arguments.size() > 1 &&
@@ -115,13 +124,13 @@ void runScreens(Arguments arguments) {
     }
     if (how == "toggle") {
         for (const std::int64_t display : named) {
-            client.call("ToggleScreen", static_cast<std::uint32_t>(display));
+            client.callAndSave("ToggleScreen", static_cast<std::uint32_t>(display));
         }
     } else if (how == "only") {
         const Displays sorted(named.begin(), named.end());
         client.callSetSetting("AffectedScreenSet", PropertyArray(sorted.begin(), sorted.end()));
     } else {
-        client.call(how == "add" ? "AddScreens" : "RemoveScreens", named);
+        client.callAndSave(how == "add" ? "AddScreens" : "RemoveScreens", named);
     }
 }
 

@@ -75,6 +75,7 @@ int run(const RunOptions& options, EventLoop& loop, const std::string& startupId
         return endAfterHandingOver(claim, documents);
     }
     SettingsKeeper keeper(core.defaults, settingsPath(), core.runLoop);
+    core.face.setSettingsKeeper(&keeper);
 
     const auto server = XConnection::open(xServerOfDisplays(options.displays));
     if (server != nullptr) {

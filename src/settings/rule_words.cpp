@@ -1,6 +1,8 @@
 #include "settings/rule_words.h"
 
+#include "base/texts/shortened.h"
 #include "base/texts/translated.h"
+#include "settings/schedule_points.h"
 
 #include <algorithm>
 
@@ -11,7 +13,10 @@ namespace {
 constexpr std::string_view kFullscreen = "fullscreen";
 constexpr std::string_view kProgram = "program";
 constexpr std::string_view kGame = "game";
-constexpr std::string_view kWordForOff = "off";
+
+bool isControl(char letter) {
+    return static_cast<unsigned char>(letter) < ' ' || letter == '\x7F';
+}
 
 /// Takes the first word away, and the space after it.
 std::string_view takeWord(std::string_view& words) {
@@ -36,6 +41,9 @@ std::string_view takeName(std::string_view& words) {
 } // namespace
 
 std::optional<Rule> ruleFromWords(std::string_view words) {
+    if (std::any_of(words.begin(), words.end(), isControl)) {
+        return std::nullopt;
+    }
     Rule rule;
     const std::string_view when = takeWord(words);
     if (when == kProgram) {
@@ -46,16 +54,22 @@ std::optional<Rule> ruleFromWords(std::string_view words) {
     } else if (when != kFullscreen) {
         return std::nullopt;
     }
-    if (words.empty() || rule.program.empty() == (rule.when == Rule::When::program)) {
+    const bool isNamed = !rule.program.empty() && rule.program.size() <= kLongestProgram;
+    if (words.empty() || isNamed != (rule.when == Rule::When::program)) {
         return std::nullopt;
     }
-    rule.look = words != kWordForOff ? words : std::string_view();
+    rule.look = isWordForOff(words) ? std::string_view() : words;
     return rule;
+}
+
+bool switchesOn(std::string_view words) {
+    const auto rule = ruleFromWords(words);
+    return rule && !rule->look.empty();
 }
 
 std::string noRuleSentence(const std::string& words) {
     return translated("\"%@\" is no rule, such as fullscreen off or program mpv Warm evening.",
-                      {words});
+                      {shortened(words)});
 }
 
 std::string conditionText(const Rule& rule) {

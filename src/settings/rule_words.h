@@ -20,11 +20,17 @@ struct Rule {
     bool operator==(const Rule&) const = default;
 };
 
+/// Longer ones are none.
+inline constexpr std::size_t kLongestProgram = 200; // bytes
+
 /// More are left alone.
 inline constexpr std::size_t kMostRules = 100;
 
 /// Nothing for other words.
 std::optional<Rule> ruleFromWords(std::string_view words);
+
+/// Whether the words are those of a rule with a look.
+bool switchesOn(std::string_view words);
 
 /// Says so, in the user's language.
 std::string noRuleSentence(const std::string& words);

@@ -1,6 +1,7 @@
 #include "settings/schedule_points.h"
 
 #include "base/local_time.h"
+#include "base/texts/shortened.h"
 #include "base/texts/translated.h"
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <strings.h>
 
 namespace nocturo {
 
@@ -16,7 +18,6 @@ namespace {
 using namespace std::chrono;
 using Anchor = SchedulePoint::Anchor;
 
-constexpr std::string_view kOff = "off";
 constexpr minutes kFarthest = 12h;
 
 struct NamedAnchor {
@@ -54,6 +55,19 @@ std::optional<SchedulePoint> pointInTime(std::string_view time) {
     return minute ? std::optional(SchedulePoint{Anchor::midnight, *minute, {}}) : std::nullopt;
 }
 
+/// "sunset-00:30 Evening" of "sunset -00:30 Evening"; all else as it is.
+std::string withOffsetBesideAnchor(const std::string& words) {
+    const auto space = words.find(' ');
+    const auto second = space != std::string::npos ? words.find(' ', space + 1) : space;
+    if (second == std::string::npos) {
+        return words;
+    }
+    const std::string offset = words.substr(space + 1, second - space - 1);
+    const auto point = pointInTime(words.substr(0, space) + offset);
+    const bool isApart = !offset.empty() && (offset[0] == '-' || offset[0] == '+');
+    return point && isApart ? words.substr(0, space) + words.substr(space + 1) : words;
+}
+
 /// A number of degrees with a sign or with the letter of its half of the earth.
 std::optional<double> degrees(std::string_view text, double most, std::string_view halves) {
     double sign = 1;
@@ -73,14 +87,20 @@ std::optional<double> degrees(std::string_view text, double most, std::string_vi
 
 } // namespace
 
-std::optional<SchedulePoint> schedulePoint(std::string_view words) {
+bool isWordForOff(std::string_view words) {
+    return words.size() == kWordForOff.size() &&
+           strncasecmp(words.data(), kWordForOff.data(), words.size()) == 0;
+}
+
+std::optional<SchedulePoint> schedulePoint(std::string_view typed) {
+    const std::string words = withOffsetBesideAnchor(std::string(typed));
     const auto space = words.find(' ');
-    if (space == std::string_view::npos || space + 1 == words.size()) {
+    if (space == std::string::npos || space + 1 == words.size()) {
         return std::nullopt;
     }
-    auto point = pointInTime(words.substr(0, space));
-    const std::string_view look = words.substr(space + 1);
-    if (point && look != kOff) {
+    auto point = pointInTime(std::string_view(words).substr(0, space));
+    const std::string look = words.substr(space + 1);
+    if (point && !isWordForOff(look)) {
         point->look = look;
     }
     return point;
@@ -89,7 +109,7 @@ std::optional<SchedulePoint> schedulePoint(std::string_view words) {
 std::string noPointSentence(const std::string& words) {
     return translated("\"%@\" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm "
                       "evening.",
-                      {words});
+                      {shortened(words)});
 }
 
 std::string timeText(const SchedulePoint& point) {
@@ -107,7 +127,7 @@ std::string timeText(const SchedulePoint& point) {
 }
 
 std::string textOf(const SchedulePoint& point) {
-    return timeText(point) + ' ' + (point.look.empty() ? std::string(kOff) : point.look);
+    return timeText(point) + ' ' + (point.look.empty() ? std::string(kWordForOff) : point.look);
 }
 
 std::optional<Place> placeFromText(std::string_view words) {

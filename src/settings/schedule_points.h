@@ -22,7 +22,11 @@ struct SchedulePoint {
 /// More are left alone.
 inline constexpr std::size_t kMostSchedulePoints = 100;
 
-/// Nothing for other words.
+/// What stands for no effect instead of a look's name, and whether that is it, in any case.
+inline constexpr std::string_view kWordForOff = "off";
+bool isWordForOff(std::string_view words);
+
+/// Nothing for other words. The sun's offset may stand apart.
 std::optional<SchedulePoint> schedulePoint(std::string_view words);
 
 /// Says so, in the user's language.

@@ -2,6 +2,7 @@
 
 #include "base/log.h"
 #include "base/run_loop.h"
+#include "base/texts/translated.h"
 
 #include <string>
 #include <system_error>
@@ -40,20 +41,26 @@ void SettingsKeeper::userDomainDidChange() {
     }
     timer_ = runLoop_.scheduleTimer(kWriteDelay, [this] {
         timer_.reset();
-        write(Reason::timedWrite);
+        static_cast<void>(write(Reason::timedWrite)); // says what went wrong
     });
 }
 
-bool SettingsKeeper::synchronize() {
+Result<void> SettingsKeeper::save() {
     return write(Reason::writeNow);
 }
 
-bool SettingsKeeper::write(Reason reason) {
+tl::unexpected<Problem> SettingsKeeper::unsaved(const std::string& why) const {
+    return failed(translated("It holds until Nocturo quits; the settings cannot be saved to %1$@ "
+                             "(%2$@).",
+                             {path_.string(), why}));
+}
+
+Result<void> SettingsKeeper::write(Reason reason) {
     if (!lostFile_ && store_.changedKeys().empty()) {
-        return true;
+        return {};
     }
     if (!takeInFile(reason)) {
-        return false;
+        return unsaved(translated("the file that is there cannot be read"));
     }
     const Result<FileStamp> written = writeSettingsFile(path_, store_.userDomain());
     if (!written) {
@@ -63,7 +70,7 @@ bool SettingsKeeper::write(Reason reason) {
                                          "); they hold until Nocturo quits, and saving is tried "
                                          "again with the next change.");
         }
-        return false;
+        return unsaved(written.error().text);
     }
     known_ = *written;
     lostFile_ = false;
@@ -71,7 +78,7 @@ bool SettingsKeeper::write(Reason reason) {
     store_.markKept();
     timer_.reset();
     watch_.renew();
-    return true;
+    return {};
 }
 
 void SettingsKeeper::processFileEvents() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/result.h"
 #include "settings/defaults_store.h"
 #include "settings/file_watch.h"
 #include "settings/settings_file.h"
@@ -40,18 +41,22 @@ class SettingsKeeper final : public DefaultsPersistence {
     SettingsKeeper& operator=(const SettingsKeeper&) = delete;
 
     void userDomainDidChange() override;
-    bool synchronize() override;
+    bool synchronize() override { return save().has_value(); }
+
+    /// Writes at once whatever is not yet on the disk; where that fails a sentence for the user.
+    Result<void> save();
 
   private:
     enum class Reason { start, event, secondLook, timedWrite, writeNow };
 
-    bool write(Reason reason);
+    Result<void> write(Reason reason);
     bool takeInFile(Reason reason);
     bool isStillBeingWritten(const std::optional<FileStamp>& stamp, Reason reason);
     void processFileEvents();
     void lookAgain();
     bool setAside(Reason reason);
     void tellUnreadable(const std::string& what);
+    tl::unexpected<Problem> unsaved(const std::string& why) const;
 
     DefaultsStore& store_;
     std::filesystem::path path_;

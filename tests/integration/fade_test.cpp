@@ -62,7 +62,7 @@ TEST_F(Fade, HoldsUpNobodyWhoNeedsTheDisplays) {
     ctl({"off"});
     end();
     EXPECT_EQ(shown(), "oooo");
-    says("nocturoctl", {"on", "--fade", "6"}, 2, "FadeSeconds");
+    says("nocturoctl", {"on", "--fade", "6"}, 2, "--fade");
 }
 
 TEST_F(Fade, SoakThousandTogglesOnTheWay) {

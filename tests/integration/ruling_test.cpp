@@ -34,6 +34,7 @@ TEST_F(Ruling, APauseLastsAsLongAsACommand) {
                                     NOCTURO_BIN_DIR "/nocturoctl status --json; exit 7", "--help"});
     EXPECT_EQ(paused.exit, 7);
     EXPECT_EQ(nlohmann::json::parse(paused.output)["paused"], true);
+    EXPECT_EQ(nlohmann::json::parse(paused.output)["rule"].get<std::string>().find("sh -c "), 0U);
     EXPECT_TRUE(waitUntil([&] { return ruler() == "settings"; }));
     EXPECT_EQ(session_.run("nocturoctl", {"pause", "while", "/no/such"}).exit, 1);
 
@@ -49,6 +50,9 @@ TEST_F(Ruling, APauseLastsAsLongAsACommand) {
 
 TEST_F(Ruling, TheScheduleRulesOverTheSettings) {
     ctl({"schedule", "add", "00:00", "red", "night", "vision"});
+    nocturo_.reset(); // killed; what was said to be done is on the disk
+    waitForTheBus();
+    start();
     EXPECT_NE(ctl({"schedule"}).output.find("not in use"), std::string::npos);
     ctl({"schedule", "on"});
     EXPECT_EQ(status()["ruledLook"], "Red night vision");
@@ -74,6 +78,9 @@ TEST_F(Ruling, TheScheduleRulesOverTheSettings) {
     EXPECT_EQ(status()["settings"]["SchedulePlace"], "52.5 13.4");
     ctl({"schedule", "off"});
     EXPECT_EQ(ruler(), "settings");
+    std::filesystem::remove(session_.settingsFile());
+    std::filesystem::create_symlink("/proc/nowhere/settings.plist", session_.settingsFile());
+    says("nocturoctl", {"rules", "off"}, 1, "cannot be saved to ");
 }
 
 TEST_F(Ruling, ADisplayHasALookOfItsOwn) {
@@ -89,6 +96,9 @@ TEST_F(Ruling, ADisplayHasALookOfItsOwn) {
     says("nocturoctl", {"set", "DisplayLooks", "0 Night reading"}, 2, "0 Night reading");
     end();
     nocturo_ = session_.startNocturo({"--display-services=simulated:1"});
-    ctl({"screens", "look", second, "-"}); // which is not there
+    ctl({"screens", "only", "1"});
+    EXPECT_NE(ctl({"screens"}).output.find("not connected  Night reading\n"), std::string::npos);
+    ctl({"screens", "look", "SIM-2", "just", "dimmer"}); // which is not there
+    ctl({"screens", "look", second, "-"});
     EXPECT_EQ(ctl({"get", "DisplayLooks"}).output, "[]\n");
 }
