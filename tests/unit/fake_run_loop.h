@@ -101,6 +101,7 @@ class FakeRunLoop final : public RunLoop {
 
     std::unique_ptr<Timer> schedule(Entry entry) {
         entry.due += now_;
+        std::erase_if(entries_, [](const auto& each) { return each.expired(); });
         auto timer = std::make_unique<FakeTimer>(std::make_shared<Entry>(std::move(entry)));
         entries_.push_back(timer->entry);
         return timer;
