@@ -21,6 +21,7 @@
 #include <QPalette>
 #include <QScreen>
 #include <QSettings>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -32,6 +33,24 @@ constexpr QSize kPictureSize(640, 400);
 constexpr auto kGeometry = "Geometry";
 constexpr auto kPage = "Page";
 constexpr double kMostOfScreen = 0.9; // the window has a title besides
+
+/// Gives windows and dialogs their icon once the first one shows something: reading its pictures
+/// and handing them to the server takes as long as all else that a window needs.
+class LateIcon : public QObject {
+  public:
+    LateIcon() : QObject(qApp) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Expose) {
+            qApp->removeEventFilter(this);
+            QTimer::singleShot(0, this, [this] {
+                QApplication::setWindowIcon(applicationIcon());
+                deleteLater();
+            });
+        }
+        return false;
+    }
+};
 
 // Where the display server places windows, the one where a window was tells nothing of the one
 // where it comes to, which may be smaller.
@@ -52,7 +71,7 @@ AppWindows::AppWindows(NDAppController& controller, DefaultsStore& defaults,
                        std::filesystem::path guide)
     : controller_(controller), defaults_(defaults), localCenter_(centers.local),
       distributedCenter_(centers.distributed), looks_(looks), guide_(std::move(guide)) {
-    QApplication::setWindowIcon(applicationIcon()); // of dialogs as well
+    new LateIcon; // deletes itself
 }
 
 AppWindows::~AppWindows() {

@@ -69,11 +69,10 @@ void NDPreferencesController::updatePreview() {
     PreviewCurves curves = previewCurves(previewed_);
     curves.seenThrough = seenWithEffect_ ? previewCurves(seenOn_).after : seenOn_;
     ui_->preview->setCurves(curves);
-    for (QTimer* timer : {&strips_, &looks_}) {
-        if (!timer->isActive()) {
-            timer->start();
-        }
+    if (!strips_.isActive()) {
+        strips_.start();
     }
+    looks_.start(); // anew: their pictures wait until a slider rests
 }
 
 void NDPreferencesController::updateStrips() {
