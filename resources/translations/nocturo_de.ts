@@ -196,6 +196,14 @@
             <translation>Während des Bildschirmschoners &amp;pausieren</translation>
         </message>
         <message>
+            <source>Fa&amp;de:</source>
+            <translation>Überb&amp;lenden:</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Wie lange die Farben brauchen, wenn der Effekt geschaltet wird</translation>
+        </message>
+        <message>
             <source>Hot key</source>
             <translation>Tastenkürzel</translation>
         </message>
@@ -1405,10 +1413,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>&amp;Zurücknehmen</translation>
         </message>
         <message>
-            <source> %</source>
-            <translation> %</translation>
-        </message>
-        <message>
             <source>Close anyway</source>
             <translation>Trotzdem schließen</translation>
         </message>
@@ -1435,6 +1439,18 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>Effekt öffnen</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation> %</translation>
+        </message>
+        <message>
+            <source> s</source>
+            <translation> s</translation>
+        </message>
+        <message>
+            <source>at once</source>
+            <translation>sofort</translation>
         </message>
         <message>
             <source>R</source>

@@ -196,6 +196,14 @@
             <translation>Pausar mientras se ejec&amp;uta el salvapantallas</translation>
         </message>
         <message>
+            <source>Fa&amp;de:</source>
+            <translation>Transici&amp;ón:</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Cuánto tardan los colores en cambiar al activar o desactivar el efecto</translation>
+        </message>
+        <message>
             <source>Hot key</source>
             <translation>Atajo de teclado</translation>
         </message>
@@ -1405,10 +1413,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>&amp;Restaurar</translation>
         </message>
         <message>
-            <source> %</source>
-            <translation> %</translation>
-        </message>
-        <message>
             <source>Close anyway</source>
             <translation>Cerrar de todos modos</translation>
         </message>
@@ -1435,6 +1439,18 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>Abrir efecto</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation> %</translation>
+        </message>
+        <message>
+            <source> s</source>
+            <translation> s</translation>
+        </message>
+        <message>
+            <source>at once</source>
+            <translation>al instante</translation>
         </message>
         <message>
             <source>R</source>

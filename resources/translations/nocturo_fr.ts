@@ -196,6 +196,14 @@
             <translation>Suspendre pendant l’écono&amp;miseur d’écran</translation>
         </message>
         <message>
+            <source>Fa&amp;de:</source>
+            <translation>Fo&amp;ndu :</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Durée du changement des couleurs quand l'effet est activé ou désactivé</translation>
+        </message>
+        <message>
             <source>Hot key</source>
             <translation>Raccourci clavier</translation>
         </message>
@@ -1405,10 +1413,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>&amp;Rétablir</translation>
         </message>
         <message>
-            <source> %</source>
-            <translation> %</translation>
-        </message>
-        <message>
             <source>Close anyway</source>
             <translation>Fermer quand même</translation>
         </message>
@@ -1435,6 +1439,18 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>Open Effect</source>
             <translation>Ouvrir un effet</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation> %</translation>
+        </message>
+        <message>
+            <source> s</source>
+            <translation> s</translation>
+        </message>
+        <message>
+            <source>at once</source>
+            <translation>immédiat</translation>
         </message>
         <message>
             <source>R</source>

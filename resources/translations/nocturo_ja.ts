@@ -196,6 +196,14 @@
             <translation>スクリーンセーバーの実行中は一時停止する(&amp;A)</translation>
         </message>
         <message>
+            <source>Fa&amp;de:</source>
+            <translation>フェード(&amp;D):</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>効果を切り替えるときに色が変わるまでの時間</translation>
+        </message>
+        <message>
             <source>Hot key</source>
             <translation>ショートカットキー</translation>
         </message>
@@ -1404,10 +1412,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>元に戻す(&amp;G)</translation>
         </message>
         <message>
-            <source> %</source>
-            <translation>%</translation>
-        </message>
-        <message>
             <source>Close anyway</source>
             <translation>このまま閉じる</translation>
         </message>
@@ -1434,6 +1438,18 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>効果を開く</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source> s</source>
+            <translation> 秒</translation>
+        </message>
+        <message>
+            <source>at once</source>
+            <translation>すぐに</translation>
         </message>
         <message>
             <source>R</source>

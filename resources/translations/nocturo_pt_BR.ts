@@ -196,6 +196,14 @@
             <translation>Pausar en&amp;quanto o protetor de tela estiver ativo</translation>
         </message>
         <message>
+            <source>Fa&amp;de:</source>
+            <translation>Transiçã&amp;o:</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Quanto tempo as cores levam para mudar quando o efeito é ligado ou desligado</translation>
+        </message>
+        <message>
             <source>Hot key</source>
             <translation>Atalho de teclado</translation>
         </message>
@@ -1405,10 +1413,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>&amp;Reverter</translation>
         </message>
         <message>
-            <source> %</source>
-            <translation>%</translation>
-        </message>
-        <message>
             <source>Close anyway</source>
             <translation>Fechar mesmo assim</translation>
         </message>
@@ -1435,6 +1439,18 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>Open Effect</source>
             <translation>Abrir efeito</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source> s</source>
+            <translation> s</translation>
+        </message>
+        <message>
+            <source>at once</source>
+            <translation>na hora</translation>
         </message>
         <message>
             <source>R</source>

@@ -196,6 +196,14 @@
             <translation>屏幕保护程序运行时暂停(&amp;A)</translation>
         </message>
         <message>
+            <source>Fa&amp;de:</source>
+            <translation>渐变(&amp;D)：</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>切换效果时颜色变化所需的时间</translation>
+        </message>
+        <message>
             <source>Hot key</source>
             <translation>快捷键</translation>
         </message>
@@ -1400,10 +1408,6 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>还原(&amp;G)</translation>
         </message>
         <message>
-            <source> %</source>
-            <translation>%</translation>
-        </message>
-        <message>
             <source>Close anyway</source>
             <translation>仍然关闭</translation>
         </message>
@@ -1430,6 +1434,18 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>打开效果</translation>
+        </message>
+        <message>
+            <source> %</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source> s</source>
+            <translation> 秒</translation>
+        </message>
+        <message>
+            <source>at once</source>
+            <translation>立即</translation>
         </message>
         <message>
             <source>R</source>

@@ -173,6 +173,11 @@ TEST_F(PreferencesWindow, SlidersAreThereWithTheirEffectAndKeepTheirValueWithout
     stepDown("colorFilterVividness");
     EXPECT_FLOAT_EQ(NDColorFilterEffect::hue(), 209.25F);
     EXPECT_FLOAT_EQ(NDColorFilterEffect::vividness(), 0.99F);
+    EXPECT_EQ(slider("fade").shownText(), "at once");
+    store_->setFloat(1.5F, "FadeSeconds");
+    stepDown("fade");
+    EXPECT_FLOAT_EQ(store_->floatForKey("FadeSeconds"), 1.4F);
+    EXPECT_EQ(slider("fade").shownText(), "1.4 s");
 }
 
 TEST_F(PreferencesWindow, AsksBeforeItClosesWithoutAnEffectThatTheUserTookAway) {
@@ -230,7 +235,7 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained)
     EXPECT_EQ(tabbed(find<QWidget>("effectSwitch")),
               "effectSwitch qt_tabwidget_tabbar activateAtLaunch startWithSession activateOnClick "
               "continuouslyApply "
-              "deactivateForScreenSaver useHotKey hotKeyField showInTaskBar openButton saveButton "
+              "deactivateForScreenSaver fade useHotKey hotKeyField showInTaskBar openButton saveButton "
               "closeButton");
 }
 

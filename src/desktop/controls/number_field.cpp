@@ -21,8 +21,11 @@ NumberField::NumberField(QWidget* parent) : QDoubleSpinBox(parent) {
 }
 
 QString NumberField::textFromValue(double value) const {
-    const QString digits = locale().toString(std::abs(value), 'f', 0);
-    const bool isZero = digits == locale().toString(0.0, 'f', 0); // has no sign
+    const QString digits = locale().toString(std::abs(value), 'f', shownDecimals_);
+    const bool isZero = digits == locale().toString(0.0, 'f', shownDecimals_); // has no sign
+    if (isZero && !zero_.isEmpty()) {
+        return zero_;
+    }
     const QString sign = isZero      ? QString()
                          : value < 0 ? QString(kMinus)
                          : withSign_ ? QStringLiteral("+")

@@ -89,6 +89,7 @@ void ParameterSlider::setParameter(const Parameter& parameter) {
         static_cast<int>(std::lround(shareOf(parameter.defaultValue) * TrackSlider::kPositions)));
     const QSignalBlocker quiet(field_);
     field_->setUnit(parameter.unit);
+    field_->setShown(parameter.decimals, parameter.zero);
     field_->setSigned(parameter.track == TrackSlider::Track::Middle);
     field_->setRange(parameter.minimum * parameter.scale, parameter.maximum * parameter.scale);
     field_->setSingleStep(parameter.step * parameter.scale);

@@ -25,6 +25,8 @@ class ParameterSlider : public QWidget {
         QString unit = {};
         TrackSlider::Track track = TrackSlider::Track::Fill; // with Middle the number has a sign
         bool reciprocal = false; // positions are even in 1 / value, as mired are of kelvin
+        int decimals = 0;        // that are shown
+        QString zero = {};       // shown instead of the number 0
     };
 
     explicit ParameterSlider(QWidget* parent = nullptr);

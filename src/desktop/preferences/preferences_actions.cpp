@@ -65,6 +65,8 @@ void NDPreferencesController::connectSettings() {
     connect(ui_->refuseTray, &QAbstractButton::clicked, ui_->trayOffer, &QWidget::hide);
     connectBox(ui_->continuouslyApply, &Self::changeContinouslyApply);
     connectBox(ui_->deactivateForScreenSaver, &Self::changeDeactivateForScreenSaver);
+    connect(ui_->fade, &ParameterSlider::valueChangedByUser, this,
+            [this] { changeFade(*ui_->fade); });
     connectBox(ui_->useHotKey, &Self::changeUseHotKey);
     connect(ui_->showStatusItem, &QButtonGroup::idClicked, this,
             [this] { changeShowStatusItem(*ui_->showStatusItem); });

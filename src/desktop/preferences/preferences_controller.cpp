@@ -4,21 +4,13 @@
 #include "base/notification_center.h"
 #include "desktop/hotkey_field/hot_key_grant_row.h"
 #include "desktop/menus/drawn_menu.h"
-#include "desktop/preferences/filter_colors.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/sheet.h"
 #include "desktop/qt/localized.h"
 #include "displays/affected_screen_set.h"
 #include "displays/display_functions.h"
 #include "documents/looks.h"
-#include "effects/color_filter_effect.h"
-#include "effects/color_temperature.h"
-#include "effects/dim_effect.h"
-#include "effects/effect_choices.h"
 #include "effects/group_effect.h"
-#include "effects/hdtv_luminance_effect.h"
-#include "effects/hide_stripes_effect.h"
-#include "effects/invert_effect.h"
 #include "hotkeys/hot_key_grant.h"
 #include "hotkeys/saved_hot_key.h"
 #include "session/autostart.h"
@@ -33,7 +25,6 @@
 #include <QStyle>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace nocturo {
@@ -114,55 +105,6 @@ void NDPreferencesController::loadWindow() {
     connectSettings();
     connectDocuments();
     windowDidLoad();
-}
-
-void NDPreferencesController::setUpSliders() {
-    using Track = TrackSlider::Track;
-    const QString percent = localized(" %");
-    ui_->colorFilterHue->setParameter({.minimum = kColorFilterHue.lowest,
-                                       .maximum = kColorFilterHue.highest,
-                                       .defaultValue = kColorFilterHue.whenAbsent,
-                                       .step = 1,
-                                       .page = 15,
-                                       .unit = QStringLiteral("°"),
-                                       .track = Track::Hue});
-    ui_->colorFilterVividness->setParameter({.minimum = kColorFilterVividness.lowest,
-                                             .maximum = kColorFilterVividness.highest,
-                                             .defaultValue = kColorFilterVividness.whenAbsent,
-                                             .scale = 100,
-                                             .unit = percent});
-    ui_->temperature->setParameter({.minimum = kLowestTemperature,
-                                    .maximum = kHighestTemperature,
-                                    .defaultValue = kNeutralTemperature,
-                                    .step = 50,
-                                    .page = 500,
-                                    .unit = QStringLiteral(" K"),
-                                    .track = Track::Temperature,
-                                    .reciprocal = true});
-    ui_->dimLevel->setParameter({.minimum = kDimLevel.lowest,
-                                 .maximum = kDimLevel.highest,
-                                 .defaultValue = kDimLevel.whenAbsent,
-                                 .scale = 100,
-                                 .unit = percent,
-                                 .track = Track::Middle});
-    // As wide as the longest word, so that the sliders keep their length.
-    int width = 0;
-    for (int degrees = 0; degrees < 360; degrees += 30) {
-        width = std::max(width, ui_->hueWord->fontMetrics().horizontalAdvance(hueWord(degrees)));
-    }
-    for (const double kelvin : {1900.0, 2700.0, 4000.0, kNeutralTemperature}) {
-        width =
-            std::max(width, ui_->hueWord->fontMetrics().horizontalAdvance(temperatureWord(kelvin)));
-    }
-    ui_->hueWord->setFixedWidth(width);
-    const auto setUpTimer = [this](QTimer& timer, int milliseconds,
-                                   void (NDPreferencesController::*action)()) {
-        timer.setSingleShot(true);
-        timer.setInterval(milliseconds);
-        connect(&timer, &QTimer::timeout, this, action);
-    };
-    setUpTimer(strips_, 16, &NDPreferencesController::updateStrips);
-    setUpTimer(looks_, 60, &NDPreferencesController::updateLooks);
 }
 
 void NDPreferencesController::windowDidLoad() {
@@ -303,44 +245,6 @@ void NDPreferencesController::updateHotKeyGrant() {
     }
 }
 
-void NDPreferencesController::updateEffects() {
-    const auto isSelected = [](std::string_view name) {
-        return NDGroupEffect::effect().containsEffect(name);
-    };
-    ui_->invertScreen->setChecked(isSelected(NDInvertEffect::kName));
-    ui_->hideStripes->setChecked(isSelected(NDHideStripesEffect::kName));
-    ui_->hdtvLuminance->setChecked(isSelected(NDHDTVLuminanceEffect::kName));
-    const bool filters = isSelected(NDColorFilterEffect::kName);
-    ui_->colorFilter->setChecked(filters);
-    ui_->colorFilterHue->setEnabled(filters);
-    ui_->colorFilterVividness->setEnabled(filters);
-    updateFilter();
-    const bool dims = isSelected(NDDimEffect::kName);
-    ui_->dimScreen->setChecked(dims);
-    ui_->dimLevel->setEnabled(dims);
-    ui_->dimLevel->setValue(NDDimEffect::level());
-}
-
-void NDPreferencesController::updateFilter() {
-    const float hue = NDColorFilterEffect::hue();
-    const float vividness = NDColorFilterEffect::vividness();
-    ui_->colorFilterHue->setValue(hue);
-    ui_->colorFilterHue->setWord(hueWord(static_cast<double>(hue)));
-    ui_->hueWord->setText(hueWord(static_cast<double>(hue)));
-    ui_->hueWord->setEnabled(ui_->colorFilterHue->isEnabled());
-    ui_->colorFilterVividness->setValue(vividness);
-    const auto kelvin = ui_->colorFilter->isChecked() ? filterTemperature() : std::nullopt;
-    const QString word = kelvin ? temperatureWord(*kelvin) : QString();
-    if (!kelvin) {
-        ui_->temperature->setEmpty();
-    } else if (std::lround(*kelvin) !=
-               std::lround(static_cast<double>(ui_->temperature->value()))) {
-        ui_->temperature->setValue(static_cast<float>(*kelvin));
-    }
-    ui_->temperature->setWord(word);
-    ui_->temperatureWord->setText(word);
-}
-
 void NDPreferencesController::updateState() {
     if (!isWindowLoaded() || !surroundings_.toggle) {
         return;
@@ -362,6 +266,7 @@ void NDPreferencesController::updateBoxes() {
     ui_->activateAtLaunch->setChecked(defaults.boolForKey(kActivateAtLaunch));
     ui_->activateOnClick->setChecked(defaults.boolForKey(kActivateOnClick));
     ui_->deactivateForScreenSaver->setChecked(defaults.boolForKey(kDeactivateForScreenSaver));
+    ui_->fade->setValue(defaults.floatForKey(kFadeSeconds));
     // Every other number means an ordinary application, too.
     const bool inTray = defaults.integerForKey(kShowStatusItem) == kStatusItemRow;
     (inTray ? ui_->showInTray : ui_->showInTaskBar)->setChecked(true);

@@ -133,6 +133,7 @@ class NDPreferencesController : public QObject {
     void changeStartWithSession(const QAbstractButton& sender);
     void changeContinouslyApply(const QAbstractButton& sender);
     void changeDeactivateForScreenSaver(const QAbstractButton& sender);
+    void changeFade(const ParameterSlider& sender);
     void changeShowStatusItem(const QButtonGroup& sender);
 
     /// Starts a recording where no key is there to be used, and ends one when none is wanted.
