@@ -252,6 +252,10 @@
             <translation>Zeitplan</translation>
         </message>
         <message>
+            <source>Rules</source>
+            <translation>Regeln</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>Ö&amp;ffnen …</translation>
         </message>
@@ -1533,6 +1537,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
+            <source>Choose looks by what is in front</source>
+            <translation>Looks danach wählen, was vorn ist</translation>
+        </message>
+        <message>
+            <source>Rules</source>
+            <translation>Regeln</translation>
+        </message>
+        <message>
+            <source>What the rule is about</source>
+            <translation>Worum es in der Regel geht</translation>
+        </message>
+        <message>
+            <source>Program</source>
+            <translation>Programm</translation>
+        </message>
+        <message>
+            <source>As its windows are called</source>
+            <translation>Wie seine Fenster heißen</translation>
+        </message>
+        <message>
+            <source>Pick a window</source>
+            <translation>Fenster wählen</translation>
+        </message>
+        <message>
+            <source>The next window that comes to the front tells its program</source>
+            <translation>Das nächste Fenster, das nach vorn kommt, verrät sein Programm</translation>
+        </message>
+        <message>
+            <source>Look of the rule</source>
+            <translation>Look der Regel</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Hinzufügen</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Entfernen</translation>
+        </message>
+        <message>
+            <source>A window fills a screen</source>
+            <translation>Ein Fenster füllt einen Bildschirm</translation>
+        </message>
+        <message>
+            <source>A program is in front</source>
+            <translation>Ein Programm ist vorn</translation>
+        </message>
+        <message>
+            <source>A game is running</source>
+            <translation>Ein Spiel läuft</translation>
+        </message>
+        <message>
+            <source>No rule holds now.</source>
+            <translation>Gerade gilt keine Regel.</translation>
+        </message>
+        <message>
+            <source>Now: %@</source>
+            <translation>Jetzt: %@</translation>
+        </message>
+        <message>
+            <source>Now click a window of the program.</source>
+            <translation>Klicken Sie jetzt auf ein Fenster des Programms.</translation>
+        </message>
+        <message>
             <source> min</source>
             <translation> min</translation>
         </message>
@@ -1591,14 +1659,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Look of the point</source>
             <translation>Look des Punktes</translation>
-        </message>
-        <message>
-            <source>Add</source>
-            <translation>Hinzufügen</translation>
-        </message>
-        <message>
-            <source>Remove</source>
-            <translation>Entfernen</translation>
         </message>
         <message>
             <source>Next: %1$@ at %2$@</source>

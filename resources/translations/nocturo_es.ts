@@ -252,6 +252,10 @@
             <translation>Horario</translation>
         </message>
         <message>
+            <source>Rules</source>
+            <translation>Reglas</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
@@ -1533,6 +1537,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
+            <source>Choose looks by what is in front</source>
+            <translation>Elegir aspectos según lo que esté delante</translation>
+        </message>
+        <message>
+            <source>Rules</source>
+            <translation>Reglas</translation>
+        </message>
+        <message>
+            <source>What the rule is about</source>
+            <translation>De qué trata la regla</translation>
+        </message>
+        <message>
+            <source>Program</source>
+            <translation>Programa</translation>
+        </message>
+        <message>
+            <source>As its windows are called</source>
+            <translation>Como se llaman sus ventanas</translation>
+        </message>
+        <message>
+            <source>Pick a window</source>
+            <translation>Elegir una ventana</translation>
+        </message>
+        <message>
+            <source>The next window that comes to the front tells its program</source>
+            <translation>La próxima ventana que pase al frente indica su programa</translation>
+        </message>
+        <message>
+            <source>Look of the rule</source>
+            <translation>Aspecto de la regla</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Añadir</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Quitar</translation>
+        </message>
+        <message>
+            <source>A window fills a screen</source>
+            <translation>Una ventana ocupa toda una pantalla</translation>
+        </message>
+        <message>
+            <source>A program is in front</source>
+            <translation>Un programa está delante</translation>
+        </message>
+        <message>
+            <source>A game is running</source>
+            <translation>Se está ejecutando un juego</translation>
+        </message>
+        <message>
+            <source>No rule holds now.</source>
+            <translation>Ahora no se cumple ninguna regla.</translation>
+        </message>
+        <message>
+            <source>Now: %@</source>
+            <translation>Ahora: %@</translation>
+        </message>
+        <message>
+            <source>Now click a window of the program.</source>
+            <translation>Ahora haga clic en una ventana del programa.</translation>
+        </message>
+        <message>
             <source> min</source>
             <translation> min</translation>
         </message>
@@ -1591,14 +1659,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Look of the point</source>
             <translation>Aspecto del punto</translation>
-        </message>
-        <message>
-            <source>Add</source>
-            <translation>Añadir</translation>
-        </message>
-        <message>
-            <source>Remove</source>
-            <translation>Quitar</translation>
         </message>
         <message>
             <source>Next: %1$@ at %2$@</source>

@@ -252,6 +252,10 @@
             <translation>Programme</translation>
         </message>
         <message>
+            <source>Rules</source>
+            <translation>Règles</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>&amp;Ouvrir…</translation>
         </message>
@@ -1533,6 +1537,70 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>%@ (%@)</translation>
         </message>
         <message>
+            <source>Choose looks by what is in front</source>
+            <translation>Choisir les apparences selon ce qui est au premier plan</translation>
+        </message>
+        <message>
+            <source>Rules</source>
+            <translation>Règles</translation>
+        </message>
+        <message>
+            <source>What the rule is about</source>
+            <translation>Ce que concerne la règle</translation>
+        </message>
+        <message>
+            <source>Program</source>
+            <translation>Programme</translation>
+        </message>
+        <message>
+            <source>As its windows are called</source>
+            <translation>Tel que ses fenêtres le nomment</translation>
+        </message>
+        <message>
+            <source>Pick a window</source>
+            <translation>Choisir une fenêtre</translation>
+        </message>
+        <message>
+            <source>The next window that comes to the front tells its program</source>
+            <translation>La prochaine fenêtre qui passe au premier plan indique son programme</translation>
+        </message>
+        <message>
+            <source>Look of the rule</source>
+            <translation>Apparence de la règle</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Ajouter</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Retirer</translation>
+        </message>
+        <message>
+            <source>A window fills a screen</source>
+            <translation>Une fenêtre remplit un écran</translation>
+        </message>
+        <message>
+            <source>A program is in front</source>
+            <translation>Un programme est au premier plan</translation>
+        </message>
+        <message>
+            <source>A game is running</source>
+            <translation>Un jeu est en cours</translation>
+        </message>
+        <message>
+            <source>No rule holds now.</source>
+            <translation>Aucune règle ne s'applique en ce moment.</translation>
+        </message>
+        <message>
+            <source>Now: %@</source>
+            <translation>En ce moment : %@</translation>
+        </message>
+        <message>
+            <source>Now click a window of the program.</source>
+            <translation>Cliquez maintenant sur une fenêtre du programme.</translation>
+        </message>
+        <message>
             <source> min</source>
             <translation> min</translation>
         </message>
@@ -1591,14 +1659,6 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>Look of the point</source>
             <translation>Apparence du point</translation>
-        </message>
-        <message>
-            <source>Add</source>
-            <translation>Ajouter</translation>
-        </message>
-        <message>
-            <source>Remove</source>
-            <translation>Retirer</translation>
         </message>
         <message>
             <source>Next: %1$@ at %2$@</source>

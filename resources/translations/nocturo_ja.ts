@@ -252,6 +252,10 @@
             <translation>スケジュール</translation>
         </message>
         <message>
+            <source>Rules</source>
+            <translation>ルール</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>開く(&amp;N)...</translation>
         </message>
@@ -1532,6 +1536,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
+            <source>Choose looks by what is in front</source>
+            <translation>前面にあるものに応じてルックを選ぶ</translation>
+        </message>
+        <message>
+            <source>Rules</source>
+            <translation>ルール</translation>
+        </message>
+        <message>
+            <source>What the rule is about</source>
+            <translation>ルールの対象</translation>
+        </message>
+        <message>
+            <source>Program</source>
+            <translation>プログラム</translation>
+        </message>
+        <message>
+            <source>As its windows are called</source>
+            <translation>ウィンドウのクラス名</translation>
+        </message>
+        <message>
+            <source>Pick a window</source>
+            <translation>ウィンドウを選択</translation>
+        </message>
+        <message>
+            <source>The next window that comes to the front tells its program</source>
+            <translation>次に前面に来るウィンドウからプログラムを読み取ります</translation>
+        </message>
+        <message>
+            <source>Look of the rule</source>
+            <translation>ルールのルック</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>追加</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>削除</translation>
+        </message>
+        <message>
+            <source>A window fills a screen</source>
+            <translation>ウィンドウが画面全体を占める</translation>
+        </message>
+        <message>
+            <source>A program is in front</source>
+            <translation>プログラムが前面にある</translation>
+        </message>
+        <message>
+            <source>A game is running</source>
+            <translation>ゲームが実行中</translation>
+        </message>
+        <message>
+            <source>No rule holds now.</source>
+            <translation>現在当てはまるルールはありません。</translation>
+        </message>
+        <message>
+            <source>Now: %@</source>
+            <translation>現在: %@</translation>
+        </message>
+        <message>
+            <source>Now click a window of the program.</source>
+            <translation>プログラムのウィンドウをクリックしてください。</translation>
+        </message>
+        <message>
             <source> min</source>
             <translation> 分</translation>
         </message>
@@ -1590,14 +1658,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Look of the point</source>
             <translation>この時点のルック</translation>
-        </message>
-        <message>
-            <source>Add</source>
-            <translation>追加</translation>
-        </message>
-        <message>
-            <source>Remove</source>
-            <translation>削除</translation>
         </message>
         <message>
             <source>Next: %1$@ at %2$@</source>

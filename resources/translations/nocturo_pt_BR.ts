@@ -252,6 +252,10 @@
             <translation>Agenda</translation>
         </message>
         <message>
+            <source>Rules</source>
+            <translation>Regras</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>Ab&amp;rir…</translation>
         </message>
@@ -1533,6 +1537,70 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>%@ (%@)</translation>
         </message>
         <message>
+            <source>Choose looks by what is in front</source>
+            <translation>Escolher visuais pelo que está na frente</translation>
+        </message>
+        <message>
+            <source>Rules</source>
+            <translation>Regras</translation>
+        </message>
+        <message>
+            <source>What the rule is about</source>
+            <translation>Do que trata a regra</translation>
+        </message>
+        <message>
+            <source>Program</source>
+            <translation>Programa</translation>
+        </message>
+        <message>
+            <source>As its windows are called</source>
+            <translation>Como suas janelas se chamam</translation>
+        </message>
+        <message>
+            <source>Pick a window</source>
+            <translation>Escolher uma janela</translation>
+        </message>
+        <message>
+            <source>The next window that comes to the front tells its program</source>
+            <translation>A próxima janela que vier para a frente indica seu programa</translation>
+        </message>
+        <message>
+            <source>Look of the rule</source>
+            <translation>Visual da regra</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>Adicionar</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>Remover</translation>
+        </message>
+        <message>
+            <source>A window fills a screen</source>
+            <translation>Uma janela ocupa toda uma tela</translation>
+        </message>
+        <message>
+            <source>A program is in front</source>
+            <translation>Um programa está na frente</translation>
+        </message>
+        <message>
+            <source>A game is running</source>
+            <translation>Um jogo está em execução</translation>
+        </message>
+        <message>
+            <source>No rule holds now.</source>
+            <translation>Nenhuma regra vale agora.</translation>
+        </message>
+        <message>
+            <source>Now: %@</source>
+            <translation>Agora: %@</translation>
+        </message>
+        <message>
+            <source>Now click a window of the program.</source>
+            <translation>Agora clique em uma janela do programa.</translation>
+        </message>
+        <message>
             <source> min</source>
             <translation> min</translation>
         </message>
@@ -1591,14 +1659,6 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>Look of the point</source>
             <translation>Visual do ponto</translation>
-        </message>
-        <message>
-            <source>Add</source>
-            <translation>Adicionar</translation>
-        </message>
-        <message>
-            <source>Remove</source>
-            <translation>Remover</translation>
         </message>
         <message>
             <source>Next: %1$@ at %2$@</source>

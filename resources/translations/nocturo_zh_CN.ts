@@ -252,6 +252,10 @@
             <translation>计划</translation>
         </message>
         <message>
+            <source>Rules</source>
+            <translation>规则</translation>
+        </message>
+        <message>
             <source>Ope&amp;n...</source>
             <translation>打开(&amp;N)...</translation>
         </message>
@@ -1528,6 +1532,70 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
+            <source>Choose looks by what is in front</source>
+            <translation>根据前台内容选择外观方案</translation>
+        </message>
+        <message>
+            <source>Rules</source>
+            <translation>规则</translation>
+        </message>
+        <message>
+            <source>What the rule is about</source>
+            <translation>规则的条件</translation>
+        </message>
+        <message>
+            <source>Program</source>
+            <translation>程序</translation>
+        </message>
+        <message>
+            <source>As its windows are called</source>
+            <translation>其窗口的名称</translation>
+        </message>
+        <message>
+            <source>Pick a window</source>
+            <translation>选取窗口</translation>
+        </message>
+        <message>
+            <source>The next window that comes to the front tells its program</source>
+            <translation>下一个来到前台的窗口会给出其程序</translation>
+        </message>
+        <message>
+            <source>Look of the rule</source>
+            <translation>规则的外观方案</translation>
+        </message>
+        <message>
+            <source>Add</source>
+            <translation>添加</translation>
+        </message>
+        <message>
+            <source>Remove</source>
+            <translation>移除</translation>
+        </message>
+        <message>
+            <source>A window fills a screen</source>
+            <translation>窗口占满一个屏幕</translation>
+        </message>
+        <message>
+            <source>A program is in front</source>
+            <translation>某程序在前台</translation>
+        </message>
+        <message>
+            <source>A game is running</source>
+            <translation>游戏正在运行</translation>
+        </message>
+        <message>
+            <source>No rule holds now.</source>
+            <translation>目前没有规则生效。</translation>
+        </message>
+        <message>
+            <source>Now: %@</source>
+            <translation>现在：%@</translation>
+        </message>
+        <message>
+            <source>Now click a window of the program.</source>
+            <translation>现在请点按该程序的窗口。</translation>
+        </message>
+        <message>
             <source> min</source>
             <translation> 分钟</translation>
         </message>
@@ -1586,14 +1654,6 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Look of the point</source>
             <translation>该时间点的外观方案</translation>
-        </message>
-        <message>
-            <source>Add</source>
-            <translation>添加</translation>
-        </message>
-        <message>
-            <source>Remove</source>
-            <translation>移除</translation>
         </message>
         <message>
             <source>Next: %1$@ at %2$@</source>

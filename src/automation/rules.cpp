@@ -60,12 +60,16 @@ void Rules::stopListening() {
     sources_ = {};
 }
 
+std::unique_ptr<Foreground> Rules::follow(std::function<void()> changed) const {
+    auto followed = sources_.foreground ? sources_.foreground(false, std::move(changed)) : nullptr;
+    return followed != nullptr && followed->isTold() ? std::move(followed) : nullptr;
+}
+
 bool Rules::canSeeWindows() const {
     if (foreground_ != nullptr) {
         return foreground_->isTold();
     }
-    const auto tried = sources_.foreground ? sources_.foreground(false, [] {}) : nullptr;
-    return tried != nullptr && tried->isTold();
+    return follow([] {}) != nullptr;
 }
 
 void Rules::read() {

@@ -50,6 +50,10 @@ class Rules {
     /// Hears of nothing any more; what holds goes on holding. For the end of the program.
     void stopListening();
 
+    /// Follows what is in front as long as what is returned lives, which the sources must outlive;
+    /// null where the desktop does not tell of its windows. `changed` is called when that changes.
+    std::unique_ptr<Foreground> follow(std::function<void()> changed) const;
+
     /// Whether the desktop tells of its windows, as far as can be said now.
     bool canSeeWindows() const;
 

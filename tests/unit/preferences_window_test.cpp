@@ -1,4 +1,5 @@
 #include "automation/automation.h"
+#include "automation/foreground.h"
 #include "automation/word_list.h"
 #include "desktop/controls/parameter_slider.h"
 #include "desktop/hotkey_field/hot_key_text_field.h"
@@ -7,6 +8,7 @@
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
 #include "desktop/preview/effect_preview.h"
+#include "desktop/rules/rules_page.h"
 #include "desktop/schedule/point_handle.h"
 #include "desktop/schedule/schedule_page.h"
 #include "display_services_fixture.h"
@@ -232,11 +234,12 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained)
         "temperature dimScreen affectedScreens previewDisplay showCurves openButton saveButton "
         "closeButton");
     controller.showPage(1);
-    EXPECT_EQ(tabbed(find<QWidget>("effectSwitch")),
-              "effectSwitch qt_tabwidget_tabbar activateAtLaunch startWithSession activateOnClick "
-              "continuouslyApply "
-              "deactivateForScreenSaver fade useHotKey hotKeyField showInTaskBar openButton saveButton "
-              "closeButton");
+    EXPECT_EQ(
+        tabbed(find<QWidget>("effectSwitch")),
+        "effectSwitch qt_tabwidget_tabbar activateAtLaunch startWithSession activateOnClick "
+        "continuouslyApply "
+        "deactivateForScreenSaver fade useHotKey hotKeyField showInTaskBar openButton saveButton "
+        "closeButton");
 }
 
 TEST_F(PreferencesWindow, HasASwitchThatFollowsTheEffect) {
@@ -475,6 +478,58 @@ TEST_F(PreferencesWindow, PointsOfTheScheduleAreAddedMovedAndRemoved) {
     EXPECT_TRUE(page.findChild<QPushButton*>("resume")->isEnabled());
     press("resume");
     EXPECT_FALSE(automation.ruling(true).by == Ruler::pause);
+}
+
+/// Tells of the windows what a test says.
+struct ToldForeground : Foreground {
+    explicit ToldForeground(const InFront& told) : told_(told) {}
+    bool isTold() const override { return true; }
+    const InFront& inFront() const override { return told_; }
+    void displaysDidChange() override {}
+    const InFront& told_;
+};
+
+TEST_F(PreferencesWindow, RulesAreAddedReplacedAndRemovedForProgramsThatArePicked) {
+    FakeWallClock clock(Moment{});
+    FakeRunLoop runLoop;
+    Automation automation(*store_, center_, clock, runLoop, looks, home.path());
+    automation.start();
+    InFront inFront{{"nocturo", "Nocturo"}};
+    std::function<void()> changed;
+    RulesPage page;
+    page.setSurroundings({*store_, center_, automation, looks});
+    page.show();
+    const auto combos = page.findChildren<QComboBox*>();
+    EXPECT_EQ(combos[0]->count(), 1) << "of games alone, where nobody tells of windows";
+    page.hide();
+    automation.rules().setSources({[&](bool, std::function<void()> heard) {
+                                       changed = std::move(heard);
+                                       return std::make_unique<ToldForeground>(inFront);
+                                   },
+                                   {}});
+    page.show();
+    const auto press = [&page](const char* name) { page.findChild<QPushButton*>(name)->click(); };
+    const auto choose = [](QComboBox& combo, int row) {
+        combo.setCurrentIndex(row);
+        Q_EMIT combo.activated(row);
+    };
+    page.findChild<QCheckBox*>("useRules")->click();
+    press("addRule");
+    choose(*combos[0], 1);
+    EXPECT_FALSE(page.findChild<QPushButton*>("addRule")->isEnabled());
+    press("pickWindow");
+    changed();
+    inFront.programs = {"gimp-2.10", "Gimp"};
+    changed();
+    press("addRule");
+    choose(*combos[1], 1);
+    press("addRule");
+    EXPECT_THAT(wordsOf(*store_, kRules), ElementsAre("fullscreen off", "program Gimp Negative"));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(page.findChild<QPushButton*>("pickWindow")->isChecked());
+    EXPECT_EQ(page.findChild<QLabel*>()->text(), "Now: Gimp is in front – Negative");
+    press("removeRule");
+    EXPECT_THAT(wordsOf(*store_, kRules), ElementsAre("fullscreen off"));
 }
 
 TEST_F(PreferencesWindow, TheQuestionAboutColorsStandsOverIt) {

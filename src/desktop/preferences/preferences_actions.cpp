@@ -19,6 +19,7 @@
 #include "ui_NocturoPreferencePanel.h"
 
 #include <QButtonGroup>
+#include <QShortcut>
 
 namespace nocturo {
 
@@ -79,12 +80,32 @@ void NDPreferencesController::connectSettings() {
         ui_->hotKeyField->setHotKey(nullptr);
         changeHotKey(*ui_->hotKeyField);
     });
+    connectPageKeys();
     if (surroundings_.automation != nullptr && surroundings_.looks != nullptr) {
-        ui_->schedule->setSurroundings({surroundings_.defaults, surroundings_.localCenter,
-                                        *surroundings_.automation, surroundings_.looks->looks()});
+        const AutomationSurroundings around{surroundings_.defaults, surroundings_.localCenter,
+                                            *surroundings_.automation,
+                                            surroundings_.looks->looks()};
+        ui_->schedule->setSurroundings(around);
+        ui_->rules->setSurroundings(around);
     } else {
-        ui_->pages->removeTab(ui_->pages->indexOf(ui_->schedulePage));
+        for (QWidget* page : {ui_->schedulePage, ui_->rulesPage}) {
+            ui_->pages->removeTab(ui_->pages->indexOf(page));
+        }
     }
+}
+
+/// Wherever the keyboard is; the pages by themselves hear of them only while it is in one.
+void NDPreferencesController::connectPageKeys() {
+    const auto go = [this](const QKeySequence& keys, int step) {
+        connect(new QShortcut(keys, panel_.get()), &QShortcut::activated, this, [this, step] {
+            const int count = ui_->pages->count();
+            showPage((page() + step + count) % count);
+        });
+    };
+    go(Qt::CTRL | Qt::Key_Tab, 1);
+    go(Qt::CTRL | Qt::Key_PageDown, 1);
+    go(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1);
+    go(Qt::CTRL | Qt::Key_PageUp, -1);
 }
 
 void NDPreferencesController::setRecordingHotKey(bool recording) {

@@ -166,6 +166,7 @@ class NDPreferencesController : public QObject {
     void connectEffects();
     void connectSettings();
     void connectDocuments();
+    void connectPageKeys();
     void windowDidLoad();
     bool windowShouldClose();
     void resignFirstResponder();

@@ -2,6 +2,7 @@
 
 #include "automation/automation.h"
 #include "automation/schedule_setting.h"
+#include "desktop/controls/page_parts.h"
 #include "desktop/qt/localized.h"
 #include "desktop/schedule/point_handle.h"
 #include "desktop/schedule/schedule_page.h"
@@ -14,13 +15,11 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTabWidget>
 #include <QTimeEdit>
 #include <QTreeWidget>
 
@@ -51,19 +50,6 @@ class OffsetField : public QSpinBox {
     }
 };
 
-QLabel* newLabel() {
-    auto* label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
-void describe(QWidget& control, const QString& name, const QString& toolTip = {}) {
-    control.setAccessibleName(name);
-    control.setToolTip(toolTip);
-    control.setWhatsThis(toolTip);
-}
-
 } // namespace
 
 void SchedulePage::make() {
@@ -72,31 +58,20 @@ void SchedulePage::make() {
     layout->addWidget(newScheduleBox(), 1);
 }
 
-/// From the tabs on as they are seen: they were made after all others, and handles come and go.
-void SchedulePage::orderTabs() {
-    QWidget* before = parentWidget();
-    while (before != nullptr && qobject_cast<QTabWidget*>(before) == nullptr) {
-        before = before->parentWidget();
-    }
-    before = before != nullptr ? before->focusProxy() : nullptr;
+/// As they are seen, since handles come and go.
+void SchedulePage::orderControls() {
     std::vector<QWidget*> order = {begin_, resume_, use_};
     std::ranges::copy(strip_->handlesInOrder(), std::back_inserter(order));
-    for (QWidget* part : std::initializer_list<QWidget*>{list_, anchor_, time_, offset_, look_,
-                                                         add_, remove_, place_}) {
-        order.push_back(part);
-    }
-    for (QWidget* part : order) {
-        if (before != nullptr) {
-            setTabOrder(before, part);
-        }
-        before = part;
-    }
+    std::ranges::copy(std::initializer_list<QWidget*>{list_, anchor_, time_, offset_, look_, add_,
+                                                      remove_, place_},
+                      std::back_inserter(order));
+    orderTabs(*this, order);
 }
 
 QWidget* SchedulePage::newPauseBox() {
     auto* box = new QGroupBox(localized("Pause"));
     auto* layout = new QHBoxLayout(box);
-    pause_ = newLabel();
+    pause_ = newSentence();
     begin_ = new QPushButton(localized("Pause"));
     begin_->setAutoDefault(false);
     auto* menu = new QMenu(begin_);
@@ -128,24 +103,17 @@ QWidget* SchedulePage::newScheduleBox() {
     use_->setObjectName(QStringLiteral("useSchedule"));
     connect(use_, &QAbstractButton::clicked, this,
             [this](bool on) { around_->defaults.setBool(on, kUseSchedule); });
-    sentence_ = newLabel();
+    sentence_ = newSentence();
     strip_ = new ScheduleStrip;
     connect(strip_, &ScheduleStrip::moved, this, &SchedulePage::movePoint);
     connect(strip_, &ScheduleStrip::chosen, this, &SchedulePage::choose);
-    list_ = new QTreeWidget;
-    list_->setColumnCount(3);
-    list_->setHeaderHidden(true);
-    list_->setRootIsDecorated(false);
-    list_->setUniformRowHeights(true);
-    list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    list_->setMinimumHeight(list_->fontMetrics().height() * 5);
-    describe(*list_, localized("Schedule"));
+    list_ = newList(localized("Schedule"), 3);
     connect(list_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
         if (item != nullptr) {
             choose(item->data(0, Qt::UserRole).toInt());
         }
     });
-    problem_ = newLabel();
+    problem_ = newSentence();
     place_ = new QLineEdit;
     place_->setObjectName(QStringLiteral("schedulePlace"));
     describe(*place_, localized("Place"),

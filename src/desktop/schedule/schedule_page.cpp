@@ -5,6 +5,7 @@
 #include "automation/word_list.h"
 #include "base/local_time.h"
 #include "base/notification_center.h"
+#include "desktop/controls/page_parts.h"
 #include "desktop/qt/localized.h"
 #include "desktop/schedule/point_handle.h"
 #include "desktop/schedule/schedule_strip.h"
@@ -51,7 +52,7 @@ SchedulePage::~SchedulePage() {
     }
 }
 
-void SchedulePage::setSurroundings(const ScheduleSurroundings& surroundings) {
+void SchedulePage::setSurroundings(const AutomationSurroundings& surroundings) {
     around_.emplace(surroundings);
 }
 
@@ -154,14 +155,14 @@ void SchedulePage::updatePoints() {
     }
     strip_->setPoints(std::move(shown));
     strip_->setCurrent(current_);
-    orderTabs();
+    orderControls();
 }
 
 void SchedulePage::updateEditor() {
     const auto point = pointAt(current_);
     const bool isOfTheSun = point && point->anchor != Anchor::midnight;
-    const std::array<QSignalBlocker, 4> quiet{QSignalBlocker(anchor_), QSignalBlocker(time_),
-                                              QSignalBlocker(offset_), QSignalBlocker(look_)};
+    const std::array<QSignalBlocker, 3> quiet{QSignalBlocker(anchor_), QSignalBlocker(time_),
+                                              QSignalBlocker(offset_)};
     for (QWidget* part : std::initializer_list<QWidget*>{anchor_, time_, offset_, look_}) {
         part->setEnabled(point.has_value());
     }
@@ -169,10 +170,7 @@ void SchedulePage::updateEditor() {
     add_->setEnabled(points_.size() < kMostSchedulePoints);
     time_->setVisible(!isOfTheSun);
     offset_->setVisible(isOfTheSun);
-    look_->clear();
-    for (const ListedLook& look : listedLooks_) {
-        look_->addItem(look.title, QString::fromStdString(look.name));
-    }
+    listLooks(*look_, around_->looks, point ? QString::fromStdString(point->look) : QString());
     if (point) {
         anchor_->setCurrentIndex(static_cast<int>(point->anchor));
         const QTime time = QTime(0, 0).addSecs(isOfTheSun ? 0 : 60 * count(point->offset));
@@ -180,11 +178,6 @@ void SchedulePage::updateEditor() {
             time_->setTime(time);
         }
         offset_->setValue(isOfTheSun ? count(point->offset) : 0);
-        const QString name = QString::fromStdString(point->look);
-        if (look_->findData(name) < 0) { // it is gone
-            look_->addItem(name, name);
-        }
-        look_->setCurrentIndex(look_->findData(name));
     }
     say(current_ < 0
             ? std::string()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "automation/schedule_day.h"
+#include "desktop/automation_surroundings.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -21,19 +22,7 @@ class QTreeWidget;
 
 namespace nocturo {
 
-class Automation;
-class DefaultsStore;
-class Looks;
-class NotificationCenter;
 class ScheduleStrip;
-
-/// What the page needs of its surroundings; all must outlive it.
-struct ScheduleSurroundings {
-    DefaultsStore& defaults;
-    NotificationCenter& localCenter;
-    Automation& automation;
-    Looks& looks;
-};
 
 /// The page of what happens by itself: pauses, and the schedule with its points on a day and in a
 /// list, of which the current one is edited. It holds no settings: every control writes at once,
@@ -46,7 +35,7 @@ class SchedulePage : public QWidget {
     ~SchedulePage() override;
 
     /// Without them the page stays empty.
-    void setSurroundings(const ScheduleSurroundings& surroundings);
+    void setSurroundings(const AutomationSurroundings& surroundings);
 
     /// Somebody turned the switch, which ends pauses.
     void follow();
@@ -69,7 +58,7 @@ class SchedulePage : public QWidget {
 
     void update();
     void updatePoints();
-    void orderTabs();
+    void orderControls();
     void updateEditor();
     void updateSentence();
     void updatePause();
@@ -86,7 +75,7 @@ class SchedulePage : public QWidget {
     QString titleOf(const SchedulePoint& point) const;
     QString whenText(const SchedulePoint& point) const;
 
-    std::optional<ScheduleSurroundings> around_;
+    std::optional<AutomationSurroundings> around_;
     std::vector<ListedLook> listedLooks_;
     std::vector<std::optional<SchedulePoint>> points_; // of the setting; nothing for other words
     SunOfDay sun_;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QTreeWidget;
+class QWidget;
+
+namespace nocturo {
+
+class Looks;
+
+// What pages that are made by hand are made of.
+
+/// Sentences, as many as it takes.
+QLabel* newSentence();
+
+/// Rows of texts without a header, as wide as they need to be.
+QTreeWidget* newList(const QString& name, int columns);
+
+/// For screen readers and the pointer.
+void describe(QWidget& control, const QString& name, const QString& toolTip = {});
+
+/// Lists "Off", whose data is empty, and the looks with their names as data, and chooses one, which
+/// may be gone. Tells nobody.
+void listLooks(QComboBox& choice, Looks& looks, const QString& chosen);
+
+/// The keyboard comes to them after the tabs that the page belongs to, in this order: whatever is
+/// made late would be last otherwise.
+void orderTabs(const QWidget& page, const std::vector<QWidget*>& order);
+
+} // namespace nocturo
