@@ -140,6 +140,14 @@
             <translation>Zeigt neben dem Bild, was aus jedem Farbkanal wird</translation>
         </message>
         <message>
+            <source>Its loo&amp;k:</source>
+            <translation>Ei&amp;gener Look:</translation>
+        </message>
+        <message>
+            <source>What this screen shows in place of the effects of all, also when it comes back</source>
+            <translation>Was dieser Bildschirm statt der Effekte aller zeigt, auch wenn er wiederkommt</translation>
+        </message>
+        <message>
             <source>Screens</source>
             <translation>Bildschirme</translation>
         </message>
@@ -1257,12 +1265,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Den Look „%@“ löschen?</translation>
         </message>
         <message>
-            <source>Delete</source>
-            <translation>Löschen</translation>
+            <source>It will be missed by: %@.</source>
+            <translation>Er fehlt dann hier: %@.</translation>
         </message>
         <message>
-            <source>OK</source>
-            <translation>OK</translation>
+            <source>Delete</source>
+            <translation>Löschen</translation>
         </message>
         <message>
             <source>Name:</source>
@@ -1421,6 +1429,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Trotzdem schließen</translation>
         </message>
         <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
             <source>Nocturo effects</source>
             <translation>Nocturo-Effekte</translation>
         </message>
@@ -1443,6 +1455,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>Effekt öffnen</translation>
+        </message>
+        <message>
+            <source>As all screens</source>
+            <translation>Wie alle Bildschirme</translation>
         </message>
         <message>
             <source> %</source>

@@ -140,6 +140,14 @@
             <translation>Muestra junto a la imagen qué pasa con cada canal de color</translation>
         </message>
         <message>
+            <source>Its loo&amp;k:</source>
+            <translation>&amp;Su aspecto:</translation>
+        </message>
+        <message>
+            <source>What this screen shows in place of the effects of all, also when it comes back</source>
+            <translation>Lo que muestra esta pantalla en lugar de los efectos de todas, también cuando vuelva</translation>
+        </message>
+        <message>
             <source>Screens</source>
             <translation>Pantallas</translation>
         </message>
@@ -1257,12 +1265,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>¿Eliminar el aspecto «%@»?</translation>
         </message>
         <message>
-            <source>Delete</source>
-            <translation>Eliminar</translation>
+            <source>It will be missed by: %@.</source>
+            <translation>Lo echarán en falta: %@.</translation>
         </message>
         <message>
-            <source>OK</source>
-            <translation>Aceptar</translation>
+            <source>Delete</source>
+            <translation>Eliminar</translation>
         </message>
         <message>
             <source>Name:</source>
@@ -1421,6 +1429,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Cerrar de todos modos</translation>
         </message>
         <message>
+            <source>OK</source>
+            <translation>Aceptar</translation>
+        </message>
+        <message>
             <source>Nocturo effects</source>
             <translation>Efectos de Nocturo</translation>
         </message>
@@ -1443,6 +1455,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>Abrir efecto</translation>
+        </message>
+        <message>
+            <source>As all screens</source>
+            <translation>Como todas las pantallas</translation>
         </message>
         <message>
             <source> %</source>

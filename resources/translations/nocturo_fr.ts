@@ -140,6 +140,14 @@
             <translation>Montre à côté de l’image ce que devient chaque canal de couleur</translation>
         </message>
         <message>
+            <source>Its loo&amp;k:</source>
+            <translation>Son a&amp;pparence :</translation>
+        </message>
+        <message>
+            <source>What this screen shows in place of the effects of all, also when it comes back</source>
+            <translation>Ce que cet écran montre à la place des effets de tous, aussi quand il revient</translation>
+        </message>
+        <message>
             <source>Screens</source>
             <translation>Écrans</translation>
         </message>
@@ -1257,12 +1265,12 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Supprimer l’apparence « %@ » ?</translation>
         </message>
         <message>
-            <source>Delete</source>
-            <translation>Supprimer</translation>
+            <source>It will be missed by: %@.</source>
+            <translation>Il manquera à : %@.</translation>
         </message>
         <message>
-            <source>OK</source>
-            <translation>OK</translation>
+            <source>Delete</source>
+            <translation>Supprimer</translation>
         </message>
         <message>
             <source>Name:</source>
@@ -1421,6 +1429,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Fermer quand même</translation>
         </message>
         <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
             <source>Nocturo effects</source>
             <translation>Effets Nocturo</translation>
         </message>
@@ -1443,6 +1455,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
         <message>
             <source>Open Effect</source>
             <translation>Ouvrir un effet</translation>
+        </message>
+        <message>
+            <source>As all screens</source>
+            <translation>Comme tous les écrans</translation>
         </message>
         <message>
             <source> %</source>

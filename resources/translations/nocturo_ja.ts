@@ -140,6 +140,14 @@
             <translation>画像の横に、各色チャンネルがどう変わるかを表示します</translation>
         </message>
         <message>
+            <source>Its loo&amp;k:</source>
+            <translation>ルック(&amp;K):</translation>
+        </message>
+        <message>
+            <source>What this screen shows in place of the effects of all, also when it comes back</source>
+            <translation>この画面が全画面共通の効果の代わりに表示するもの。再接続後も同じです</translation>
+        </message>
+        <message>
             <source>Screens</source>
             <translation>画面</translation>
         </message>
@@ -1256,12 +1264,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>ルック“%@”を削除しますか？</translation>
         </message>
         <message>
-            <source>Delete</source>
-            <translation>削除</translation>
+            <source>It will be missed by: %@.</source>
+            <translation>次で使われています: %@</translation>
         </message>
         <message>
-            <source>OK</source>
-            <translation>OK</translation>
+            <source>Delete</source>
+            <translation>削除</translation>
         </message>
         <message>
             <source>Name:</source>
@@ -1420,6 +1428,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>このまま閉じる</translation>
         </message>
         <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
             <source>Nocturo effects</source>
             <translation>Nocturo の効果</translation>
         </message>
@@ -1442,6 +1454,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>効果を開く</translation>
+        </message>
+        <message>
+            <source>As all screens</source>
+            <translation>すべての画面と同じ</translation>
         </message>
         <message>
             <source> %</source>

@@ -140,6 +140,14 @@
             <translation>Mostra ao lado da imagem o que acontece com cada canal de cor</translation>
         </message>
         <message>
+            <source>Its loo&amp;k:</source>
+            <translation>Seu visua&amp;l:</translation>
+        </message>
+        <message>
+            <source>What this screen shows in place of the effects of all, also when it comes back</source>
+            <translation>O que esta tela mostra no lugar dos efeitos de todas, também quando voltar</translation>
+        </message>
+        <message>
             <source>Screens</source>
             <translation>Telas</translation>
         </message>
@@ -1257,12 +1265,12 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Excluir o visual “%@”?</translation>
         </message>
         <message>
-            <source>Delete</source>
-            <translation>Excluir</translation>
+            <source>It will be missed by: %@.</source>
+            <translation>Fará falta a: %@.</translation>
         </message>
         <message>
-            <source>OK</source>
-            <translation>OK</translation>
+            <source>Delete</source>
+            <translation>Excluir</translation>
         </message>
         <message>
             <source>Name:</source>
@@ -1421,6 +1429,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Fechar mesmo assim</translation>
         </message>
         <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+        <message>
             <source>Nocturo effects</source>
             <translation>Efeitos do Nocturo</translation>
         </message>
@@ -1443,6 +1455,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
         <message>
             <source>Open Effect</source>
             <translation>Abrir efeito</translation>
+        </message>
+        <message>
+            <source>As all screens</source>
+            <translation>Como todas as telas</translation>
         </message>
         <message>
             <source> %</source>

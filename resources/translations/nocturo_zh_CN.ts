@@ -140,6 +140,14 @@
             <translation>在图片旁显示每个颜色通道的变化</translation>
         </message>
         <message>
+            <source>Its loo&amp;k:</source>
+            <translation>外观方案(&amp;K)：</translation>
+        </message>
+        <message>
+            <source>What this screen shows in place of the effects of all, also when it comes back</source>
+            <translation>此屏幕显示的外观方案，代替所有屏幕的效果，重新连接后依然有效</translation>
+        </message>
+        <message>
             <source>Screens</source>
             <translation>屏幕</translation>
         </message>
@@ -1252,12 +1260,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>删除外观方案“%@”？</translation>
         </message>
         <message>
-            <source>Delete</source>
-            <translation>删除</translation>
+            <source>It will be missed by: %@.</source>
+            <translation>以下项目正在使用它：%@。</translation>
         </message>
         <message>
-            <source>OK</source>
-            <translation>确定</translation>
+            <source>Delete</source>
+            <translation>删除</translation>
         </message>
         <message>
             <source>Name:</source>
@@ -1416,6 +1424,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>仍然关闭</translation>
         </message>
         <message>
+            <source>OK</source>
+            <translation>确定</translation>
+        </message>
+        <message>
             <source>Nocturo effects</source>
             <translation>Nocturo 效果</translation>
         </message>
@@ -1438,6 +1450,10 @@ after ten seconds, unless somebody keeps them.</source>
         <message>
             <source>Open Effect</source>
             <translation>打开效果</translation>
+        </message>
+        <message>
+            <source>As all screens</source>
+            <translation>与所有屏幕相同</translation>
         </message>
         <message>
             <source> %</source>

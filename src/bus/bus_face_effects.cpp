@@ -2,6 +2,7 @@
 
 #include "app/app_controller.h"
 #include "app/user_interface.h"
+#include "automation/look_names.h"
 #include "base/texts/translated.h"
 #include "bus/bus_face.h"
 #include "bus/bus_object.h"
@@ -206,7 +207,7 @@ BusAnswer BusFace::saveLook(const std::string& name) {
 }
 
 BusAnswer BusFace::renameLook(const std::string& name, const std::string& to) {
-    return answerOf(chosenLook_.rename(name, to));
+    return answerOf(nocturo::renameLook(defaults_, chosenLook_, name, to));
 }
 
 BusAnswer BusFace::deleteLook(const std::string& name) {

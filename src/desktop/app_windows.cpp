@@ -3,6 +3,7 @@
 #include "app/app_controller.h"
 #include "app/look_picker.h"
 #include "app/state_sentence.h"
+#include "automation/automation.h"
 #include "base/notification_names.h"
 #include "desktop/about/about_box_controller.h"
 #include "desktop/about/about_box_views.h"
@@ -261,8 +262,13 @@ bool AppWindows::saveEffectFile(const std::string& path) {
 }
 
 std::vector<std::uint8_t> AppWindows::previewPicture(CGDirectDisplayID display) {
+    Automation* automation = controller_.automation();
+    const auto own = automation != nullptr
+                         ? automation->effectOf({{true, automation->lookOfDisplay(display)}})
+                         : nullptr;
     const PreviewCurves curves = previewCurves(
-        curveWithoutEffect(display, [this](CGDirectDisplayID id) { return capturedCurve(id); }));
+        curveWithoutEffect(display, [this](CGDirectDisplayID id) { return capturedCurve(id); }),
+        own.get());
     const QImage image = renderEffectPreview(curves, kPictureSize, 1.0, QGuiApplication::palette());
     QByteArray png;
     QBuffer buffer(&png);

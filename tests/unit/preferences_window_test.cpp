@@ -291,9 +291,16 @@ TEST_F(PreferencesWindow, LooksAreShownPickedKeptRenamedMovedAndDeleted) {
     type("Mine"); // is there
     EXPECT_NE(controller.window()->findChild<QDialog*>(), nullptr);
     type("Yours");
+    store_->setObject(PropertyArray{"07:00 off", "sunset Yours"}, kSchedule);
+    store_->setObject(PropertyArray{"game Yours"}, kRules);
+    store_->setObject(PropertyArray{"5 Yours"}, kDisplayLooks);
     row.setCurrentRow(2);
     QTest::keyClick(&row, Qt::Key_F2);
+    type("Mine"); // is there, so nothing is another
+    EXPECT_THAT(wordsOf(*store_, kRules), ElementsAre("game Yours"));
     type("Film");
+    EXPECT_THAT(wordsOf(*store_, kSchedule), ElementsAre("07:00 off", "sunset Film"));
+    EXPECT_THAT(wordsOf(*store_, kDisplayLooks), ElementsAre("5 Film"));
     QTest::keyClick(&row, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(titles(), "Film, Negative, Mine");
     const auto drag = [&row](int from, int to) {
@@ -307,6 +314,7 @@ TEST_F(PreferencesWindow, LooksAreShownPickedKeptRenamedMovedAndDeleted) {
     drag(2, 0);
     EXPECT_EQ(titles(), "Film, Negative, Mine");
     QTest::keyClick(&row, Qt::Key_Delete);
+    EXPECT_THAT(said().toStdString(), StartsWith("It will be missed by: sunset Film, game Film"));
     answer("Delete");
     EXPECT_EQ(titles(), "Negative, Mine");
     row.setCurrentRow(0);
@@ -478,6 +486,30 @@ TEST_F(PreferencesWindow, PointsOfTheScheduleAreAddedMovedAndRemoved) {
     EXPECT_TRUE(page.findChild<QPushButton*>("resume")->isEnabled());
     press("resume");
     EXPECT_FALSE(automation.ruling(true).by == Ruler::pause);
+}
+
+TEST_F(PreferencesWindow, ADisplayIsGivenALookOfItsOwnWhichThePreviewDraws) {
+    FakeWallClock clock(Moment{});
+    FakeRunLoop runLoop;
+    Automation automation(*store_, center_, clock, runLoop, looks, home.path());
+    automation.start();
+    NDPreferencesController window{{.defaults = *store_,
+                                    .localCenter = center_,
+                                    .capturedCurve = [](CGDirectDisplayID) { return nullptr; },
+                                    .recordingDidChange = [](bool) {},
+                                    .looks = &chosenLook,
+                                    .automation = &automation}};
+    window.loadWindow();
+    auto& look = *window.window()->findChild<QComboBox*>("displayLook");
+    const auto drawn = [&] {
+        return window.window()->findChild<EffectPreview*>()->curves().after.redTable[0];
+    };
+    for (const auto& [row, list, black] : {std::tuple{1, 1U, 1.0F}, std::tuple{0, 0U, 0.0F}}) {
+        look.setCurrentIndex(row);
+        Q_EMIT look.activated(row);
+        EXPECT_EQ(wordsOf(*store_, kDisplayLooks).size(), list);
+        EXPECT_EQ(drawn(), black);
+    }
 }
 
 /// Tells of the windows what a test says.

@@ -1,6 +1,5 @@
 #include "desktop/controls/page_parts.h"
 
-#include "desktop/qt/localized.h"
 #include "documents/looks.h"
 
 #include <QComboBox>
@@ -37,10 +36,10 @@ void describe(QWidget& control, const QString& name, const QString& toolTip) {
     control.setWhatsThis(toolTip);
 }
 
-void listLooks(QComboBox& choice, Looks& looks, const QString& chosen) {
+void listLooks(QComboBox& choice, Looks& looks, const QString& chosen, const QString& none) {
     const QSignalBlocker quiet(choice);
     choice.clear();
-    choice.addItem(localized("Off"), QString());
+    choice.addItem(none, QString());
     for (const Look& look : looks.all()) {
         choice.addItem(QString::fromStdString(look.title), QString::fromStdString(look.name));
     }

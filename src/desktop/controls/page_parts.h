@@ -24,9 +24,9 @@ QTreeWidget* newList(const QString& name, int columns);
 /// For screen readers and the pointer.
 void describe(QWidget& control, const QString& name, const QString& toolTip = {});
 
-/// Lists "Off", whose data is empty, and the looks with their names as data, and chooses one, which
-/// may be gone. Tells nobody.
-void listLooks(QComboBox& choice, Looks& looks, const QString& chosen);
+/// Lists the text for none, whose data is empty, and the looks with their names as data, and
+/// chooses one, which may be gone. Tells nobody.
+void listLooks(QComboBox& choice, Looks& looks, const QString& chosen, const QString& none);
 
 /// The keyboard comes to them after the tabs that the page belongs to, in this order: whatever is
 /// made late would be last otherwise.

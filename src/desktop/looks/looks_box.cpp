@@ -1,5 +1,6 @@
 #include "desktop/looks/looks_box.h"
 
+#include "automation/look_names.h"
 #include "desktop/looks/looks_row.h"
 #include "desktop/looks/name_sheet.h"
 #include "desktop/preferences/sheet.h"
@@ -78,8 +79,10 @@ void LooksBox::makeMenu() {
             [this](const QPoint& point) { menu_->popup(row_->viewport()->mapToGlobal(point)); });
 }
 
-void LooksBox::setLooks(ChosenLook& chosen, std::function<void(const std::string& name)> pick,
+void LooksBox::setLooks(DefaultsStore& defaults, ChosenLook& chosen,
+                        std::function<void(const std::string& name)> pick,
                         std::function<std::string()> shown) {
+    defaults_ = &defaults;
     chosen_ = &chosen;
     shown_ = std::move(shown);
     connect(row_, &LooksRow::picked, this,
@@ -120,8 +123,9 @@ void LooksBox::askForOtherName() {
     auto* sheet =
         new NameSheet(window(), localized("Rename Look"), QString::fromStdString(look->name),
                       localized("Rename"), [this, from = look->name](const std::string& name) {
-                          auto renamed =
-                              name == from ? Result<void>() : chosen_->rename(from, name);
+                          auto renamed = name == from
+                                             ? Result<void>()
+                                             : renameLook(*defaults_, *chosen_, from, name);
                           row_->setCurrentLook(name);
                           return renamed;
                       });
@@ -133,9 +137,16 @@ void LooksBox::askWhetherToRemove() {
     if (look == nullptr || !look->isOwn) {
         return;
     }
+    QStringList naming;
+    for (const std::string& each : namingLook(*defaults_, chosen_->looks(), look->name)) {
+        naming << QString::fromStdString(each);
+    }
     QMessageBox* question = newSheet(
         window(), QMessageBox::Question,
-        filled(localized("Delete the look \"%@\"?"), {QString::fromStdString(look->title)}), {});
+        filled(localized("Delete the look \"%@\"?"), {QString::fromStdString(look->title)}),
+        naming.isEmpty()
+            ? QString()
+            : filled(localized("It will be missed by: %@."), {naming.join(QStringLiteral(", "))}));
     auto* remove = question->addButton(localized("Delete"), QMessageBox::DestructiveRole);
     question->setDefaultButton(question->addButton(localized("Cancel"), QMessageBox::RejectRole));
     connect(remove, &QAbstractButton::clicked, this,
@@ -154,10 +165,7 @@ void LooksBox::move(int places) {
 
 void LooksBox::showFailure(const Result<void>& result) {
     if (!result) {
-        QMessageBox* alert = newSheet(window(), QMessageBox::Warning,
-                                      QString::fromStdString(result.error().text), {});
-        alert->setDefaultButton(alert->addButton(localized("OK"), QMessageBox::AcceptRole));
-        showSheet(*alert);
+        nocturo::showFailure(window(), result.error().text);
     }
 }
 

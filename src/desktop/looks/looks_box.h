@@ -13,6 +13,7 @@ class QToolButton;
 namespace nocturo {
 
 class ChosenLook;
+class DefaultsStore;
 class LooksRow;
 struct PreviewCurves;
 
@@ -23,9 +24,10 @@ class LooksBox : public QWidget {
   public:
     explicit LooksBox(QWidget* parent = nullptr);
 
-    /// `chosen` must outlive the box. `pick` is called with the name of a look that was clicked;
+    /// Both must outlive the box. `pick` is called with the name of a look that was clicked;
     /// `shown` answers with that of the one to tick, which is that in force without it.
-    void setLooks(ChosenLook& chosen, std::function<void(const std::string& name)> pick,
+    void setLooks(DefaultsStore& defaults, ChosenLook& chosen,
+                  std::function<void(const std::string& name)> pick,
                   std::function<std::string()> shown = {});
 
     /// Lists the looks anew. Nothing before there are any.
@@ -45,6 +47,7 @@ class LooksBox : public QWidget {
     void move(int places);
     void showFailure(const Result<void>& result);
 
+    DefaultsStore* defaults_ = nullptr; // what names looks
     ChosenLook* chosen_ = nullptr;
     std::function<std::string()> shown_;
     LooksRow* row_;

@@ -46,10 +46,7 @@ void NDPreferencesController::connectEffects() {
     connectSlider(ui_->colorFilterVividness, &Self::changeColorFilterVividness);
     connectSlider(ui_->temperature, &Self::changeTemperature);
     connectSlider(ui_->dimLevel, &Self::changeDimLevel);
-    connect(ui_->previewDisplay, &QComboBox::currentIndexChanged, this, [this] {
-        readPreviewedDisplay();
-        updatePreview();
-    });
+    connectDisplays();
 }
 
 void NDPreferencesController::connectSettings() {
@@ -169,10 +166,7 @@ void NDPreferencesController::changeActivateOnClick(const QAbstractButton& sende
 
 void NDPreferencesController::changeStartWithSession(const QAbstractButton& sender) {
     if (const auto changed = surroundings_.autostart->setOn(sender.isChecked()); !changed) {
-        QMessageBox* alert = newSheet(panel_.get(), QMessageBox::Warning,
-                                      QString::fromStdString(changed.error().text), {});
-        alert->setDefaultButton(alert->addButton(localized("OK"), QMessageBox::AcceptRole));
-        showSheet(*alert);
+        showFailure(panel_.get(), changed.error().text);
     }
     updateStartWithSession();
 }

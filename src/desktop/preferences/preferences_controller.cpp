@@ -123,7 +123,8 @@ void NDPreferencesController::windowDidLoad() {
     Q_EMIT ui_->showCurves->toggled(false);
     ui_->looksGroup->setVisible(surroundings_.looks != nullptr);
     if (surroundings_.looks != nullptr) {
-        ui_->looks->setLooks(*surroundings_.looks, surroundings_.pickLook, surroundings_.shownLook);
+        ui_->looks->setLooks(surroundings_.defaults, *surroundings_.looks, surroundings_.pickLook,
+                             surroundings_.shownLook);
         surroundings_.localCenter.addObserver(this, kLooksDidChangeNotification,
                                               [this] { ui_->looks->list(); });
     }

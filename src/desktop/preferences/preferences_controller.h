@@ -31,6 +31,7 @@ class HotKeyGrantRow;
 class HXHotKeyTextField;
 class KeyboardLayout;
 class Menu;
+class NDEffect;
 class NDScreenOptionMenuManager;
 class NotificationCenter;
 class ParameterSlider;
@@ -180,6 +181,10 @@ class NDPreferencesController : public QObject {
     void setUpSliders();
     void updateBoxes();
     void setContains(std::string_view effect, const QAbstractButton& sender);
+    void connectDisplays();
+    void changeDisplayLook();
+    void updateDisplayLook(const std::string& name);
+    void listAbsentDisplays(const QVariant& chosen);
     DisplayInfo displayOfWindow() const;
     void listPreviewedDisplays();
     void readPreviewedDisplay();
@@ -201,8 +206,10 @@ class NDPreferencesController : public QObject {
     std::unique_ptr<Menu> screensMenu_;
     std::unique_ptr<DrawnMenu> drawnScreensMenu_;
     std::unique_ptr<NDScreenOptionMenuManager> _screensMenuManager;
-    ZQGammaCurve previewed_; // without the effect
-    ZQGammaCurve seenOn_;    // of the display that the window is on, without the effect
+    ZQGammaCurve previewed_;                    // without the effect
+    std::shared_ptr<NDEffect> previewedEffect_; // a look of its own; null for those selected
+    std::shared_ptr<NDEffect> seenEffect_;      // what is shown where the window is, likewise
+    ZQGammaCurve seenOn_; // of the display that the window is on, without the effect
     bool seenWithEffect_ = false;
     QTimer strips_; // of color are drawn once for many steps of a slider
     QTimer looks_;  // as well

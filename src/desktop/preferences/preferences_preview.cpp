@@ -1,11 +1,18 @@
 // What the preference window shows of displays: the picture and the plot of one, the strips of
 // color and the pictures of looks.
 
+#include "automation/automation.h"
+#include "automation/display_looks_setting.h"
+#include "base/notification_center.h"
+#include "desktop/controls/page_parts.h"
 #include "desktop/preferences/filter_colors.h"
 #include "desktop/preferences/preference_panel.h"
 #include "desktop/preferences/preferences_controller.h"
+#include "desktop/preferences/sheet.h"
 #include "desktop/qt/localized.h"
 #include "displays/display_functions.h"
+#include "displays/display_names.h"
+#include "documents/chosen_look.h"
 #include "ui_NocturoPreferencePanel.h"
 
 #include <QScreen>
@@ -14,6 +21,18 @@
 #include <algorithm>
 
 namespace nocturo {
+
+void NDPreferencesController::connectDisplays() {
+    connect(ui_->previewDisplay, &QComboBox::currentIndexChanged, this, [this] {
+        readPreviewedDisplay();
+        updatePreview();
+    });
+    connect(ui_->displayLook, &QComboBox::activated, this,
+            &NDPreferencesController::changeDisplayLook);
+    // Looks of displays are read again before it is posted, and others than the hand may rule.
+    surroundings_.localCenter.addObserver(this, kRulingNotification,
+                                          [this] { displaysDidChange(); });
+}
 
 void NDPreferencesController::listPreviewedDisplays() {
     const auto* online =
@@ -33,9 +52,49 @@ void NDPreferencesController::listPreviewedDisplays() {
             ui_->previewDisplay->setCurrentIndex(static_cast<int>(i));
         }
     }
+    listAbsentDisplays(chosen);
     for (QWidget* part :
          std::initializer_list<QWidget*>{ui_->previewDisplayLabel, ui_->previewDisplay}) {
-        part->setVisible(count > 1);
+        part->setVisible(ui_->previewDisplay->count() > 1);
+    }
+}
+
+/// Those that have a look of their own, so that it can be seen and taken away.
+void NDPreferencesController::listAbsentDisplays(const QVariant& chosen) {
+    if (surroundings_.automation == nullptr || surroundings_.looks == nullptr) {
+        return;
+    }
+    for (const auto& [display, look] : looksOfDisplays(
+             surroundings_.defaults, surroundings_.looks->looks(), [](const std::string&) {})) {
+        const QString name = QString::fromStdString(DisplayNames::shared().nameOf(display));
+        if (ui_->previewDisplay->findData(display) < 0 && !name.isEmpty()) {
+            ui_->previewDisplay->addItem(filled(localized("%@, not connected"), {name}), display);
+            if (chosen.isValid() && chosen.toUInt() == display) {
+                ui_->previewDisplay->setCurrentIndex(ui_->previewDisplay->count() - 1);
+            }
+        }
+    }
+}
+
+void NDPreferencesController::changeDisplayLook() {
+    const auto changed = setLookOfDisplay(surroundings_.defaults, surroundings_.looks->looks(),
+                                          ui_->previewDisplay->currentData().toUInt(),
+                                          ui_->displayLook->currentData().toString().toStdString());
+    if (!changed) {
+        showFailure(panel_.get(), changed.error().text);
+    }
+    displaysDidChange();
+}
+
+/// The look that a display has of its own. A single display has none, unless it was given one.
+void NDPreferencesController::updateDisplayLook(const std::string& name) {
+    const bool isShown = surroundings_.automation != nullptr && surroundings_.looks != nullptr &&
+                         (ui_->previewDisplay->count() > 1 || !name.empty());
+    ui_->displayLookLabel->setVisible(isShown);
+    ui_->displayLook->setVisible(isShown);
+    if (isShown) {
+        listLooks(*ui_->displayLook, surroundings_.looks->looks(), QString::fromStdString(name),
+                  localized("As all screens"));
     }
 }
 
@@ -63,11 +122,20 @@ void NDPreferencesController::readPreviewedDisplay() {
     seenWithEffect_ =
         seenOn.obstacle == Obstacle::none && surroundings_.capturedCurve(seenOn.id) != nullptr;
     ui_->preview->setDisplayName(ui_->previewDisplay->currentText());
+    if (Automation* automation = surroundings_.automation; automation != nullptr) {
+        const std::string look = automation->lookOfDisplay(previewed);
+        previewedEffect_ = automation->effectOf({{true, look}});
+        seenEffect_ = automation->effectOf(automation->ruling(true, seenOn.id));
+        updateDisplayLook(look);
+    } else {
+        updateDisplayLook({});
+    }
 }
 
 void NDPreferencesController::updatePreview() {
-    PreviewCurves curves = previewCurves(previewed_);
-    curves.seenThrough = seenWithEffect_ ? previewCurves(seenOn_).after : seenOn_;
+    PreviewCurves curves = previewCurves(previewed_, previewedEffect_.get());
+    curves.seenThrough =
+        seenWithEffect_ ? previewCurves(seenOn_, seenEffect_.get()).after : seenOn_;
     ui_->preview->setCurves(curves);
     if (!strips_.isActive()) {
         strips_.start();

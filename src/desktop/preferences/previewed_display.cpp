@@ -10,9 +10,13 @@ ZQGammaCurve curveWithoutEffect(CGDirectDisplayID display, const CapturedCurve& 
     return captured != nullptr ? *captured : ZQDisplayGammaCurve(display);
 }
 
-PreviewCurves previewCurves(const ZQGammaCurve& withoutEffect) {
+PreviewCurves previewCurves(const ZQGammaCurve& withoutEffect, NDEffect* effect) {
     PreviewCurves curves{withoutEffect, withoutEffect};
-    NDGroupEffect::effect().applyEffectOnGammaCurve(&curves.after, 0);
+    if (effect != nullptr) {
+        effect->applyEffectOnGammaCurve(&curves.after, 0);
+    } else {
+        NDGroupEffect::effect().applyEffectOnGammaCurve(&curves.after, 0);
+    }
     return curves;
 }
 

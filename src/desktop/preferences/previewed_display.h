@@ -8,6 +8,8 @@
 
 namespace nocturo {
 
+class NDEffect;
+
 /// The curve that was captured from a display before the effect was put on it; null while the
 /// effect is not on that display.
 using CapturedCurve = std::function<const ZQGammaCurve*(CGDirectDisplayID)>;
@@ -15,7 +17,7 @@ using CapturedCurve = std::function<const ZQGammaCurve*(CGDirectDisplayID)>;
 /// The curve of a display without the effect; without samples when it cannot be told.
 ZQGammaCurve curveWithoutEffect(CGDirectDisplayID display, const CapturedCurve& capturedCurve);
 
-/// What the selected effects make of it.
-PreviewCurves previewCurves(const ZQGammaCurve& withoutEffect);
+/// What the effect makes of it; the selected effects where it is null.
+PreviewCurves previewCurves(const ZQGammaCurve& withoutEffect, NDEffect* effect);
 
 } // namespace nocturo

@@ -1,5 +1,7 @@
 #include "desktop/preferences/sheet.h"
 
+#include "desktop/qt/localized.h"
+
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
@@ -20,6 +22,13 @@ QMessageBox* newSheet(QWidget* window, QMessageBox::Icon icon, const QString& ti
 void showSheet(QMessageBox& sheet) {
     widenMessage(sheet);
     sheet.show();
+}
+
+void showFailure(QWidget* window, const std::string& sentence) {
+    QMessageBox* alert =
+        newSheet(window, QMessageBox::Warning, QString::fromStdString(sentence), {});
+    alert->setDefaultButton(alert->addButton(localized("OK"), QMessageBox::AcceptRole));
+    showSheet(*alert);
 }
 
 void widenMessage(QMessageBox& message) {

@@ -166,7 +166,7 @@ void RulesPage::offerConditions() {
 
 void RulesPage::update() {
     use_->setChecked(around_->defaults.boolForKey(kUseRules));
-    listLooks(*look_, around_->looks, look_->currentData().toString());
+    listLooks(*look_, around_->looks, look_->currentData().toString(), localized("Off"));
     updateList();
     updateControls();
 }
@@ -235,7 +235,7 @@ void RulesPage::choose() {
     if (when >= 0) {
         when_->setCurrentIndex(when);
         program_->setText(QString::fromStdString(rule->program));
-        listLooks(*look_, around_->looks, QString::fromStdString(rule->look));
+        listLooks(*look_, around_->looks, QString::fromStdString(rule->look), localized("Off"));
     }
     say(item != nullptr ? item->data(1, Qt::UserRole).toString().toStdString() : std::string());
     updateControls();

@@ -170,7 +170,8 @@ void SchedulePage::updateEditor() {
     add_->setEnabled(points_.size() < kMostSchedulePoints);
     time_->setVisible(!isOfTheSun);
     offset_->setVisible(isOfTheSun);
-    listLooks(*look_, around_->looks, point ? QString::fromStdString(point->look) : QString());
+    listLooks(*look_, around_->looks, point ? QString::fromStdString(point->look) : QString(),
+              localized("Off"));
     if (point) {
         anchor_->setCurrentIndex(static_cast<int>(point->anchor));
         const QTime time = QTime(0, 0).addSecs(isOfTheSun ? 0 : 60 * count(point->offset));
