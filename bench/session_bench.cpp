@@ -22,7 +22,9 @@
 #include "settings/defaults_store.h"
 #include "x11/x_connection.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cstring>
 #include <ctime>
 #include <exception>
 #include <iostream>
@@ -195,36 +197,77 @@ void measureHotKey(rig::Session& session, BusClient& client) {
                 percentile(samples, 0.99) / 1000.0, 5.0, "ms");
 }
 
-/// From a window's change to the last display's ramp seen changed by another program. The rules
-/// stay, and so do their windows' part of the desktop, which is played here.
+bool anyRuleHolds(BusClient& client) {
+    const Json rules = client.properties()["rules"];
+    return std::any_of(rules.begin(), rules.end(),
+                       [](const Json& rule) { return rule["holds"].get<bool>(); });
+}
+
+/// Whether a property of the root window names the window.
+bool names(rig::XClient& observer, const char* property, const rig::XWindow& window) {
+    const auto bytes = observer.rootBytes(property);
+    std::vector<xcb_window_t> windows(bytes.size() / sizeof(xcb_window_t));
+    std::memcpy(windows.data(), bytes.data(), windows.size() * sizeof(xcb_window_t));
+    return std::find(windows.begin(), windows.end(), window.id()) != windows.end();
+}
+
+void bringToFront(rig::XClient& observer, rig::XWindow& window) {
+    const bool isManaged = rig::waitUntil([&] {
+        observer.setRootProperty("_NUDGE", {1}); // what came while it started it looks at then
+        return names(observer, "_NET_CLIENT_LIST", window);
+    });
+    window.activate();
+    if (!isManaged ||
+        !rig::waitUntil([&] { return names(observer, "_NET_ACTIVE_WINDOW", window); })) {
+        throw std::runtime_error("the window manager does not show the window");
+    }
+}
+
+/// From what a program asks of the window manager to the last display's ramp seen changed by
+/// another program. The rules stay.
 void measureRules(rig::Session& session, BusClient& client) {
+    using namespace std::string_view_literals;
     rig::XClient observer(session.server().display());
     const std::uint32_t last = observer.crtcOf("DUMMY3");
-    rig::XWindow film(session.server().display(), "film", 0, 0);
+    const auto place = static_cast<std::int16_t>(3 * rig::XServer::kWidth + 50);
+    rig::XWindow film(session.server().display(), "film\0Film"sv, place, 50);
+    bringToFront(observer, film);
+    rig::XWindow other(session.server().display(), "other\0Other"sv, 50, 50);
     client.call("SetActive", true);
     for (const char* rule : {"fullscreen off", "program film off", "game off"}) {
         client.call("AddRule", std::string(rule));
     }
-    observer.setRootProperty("_NET_SUPPORTING_WM_CHECK", {film.id()});
-    observer.setRootProperty("_NET_CLIENT_LIST_STACKING", {film.id()});
     std::vector<double> samples;
     for (int i = 0; i < 200; ++i) {
         client.callSetSetting("UseRules", false); // or the rule would hold for a second
-        film.place(0, 0, 100, 80);
-        observer.setRootProperty("_NET_ACTIVE_WINDOW", {0});
+        film.setFullscreen(false);
+        bringToFront(observer, other);
         client.callSetSetting("UseRules", true);
+        while (anyRuleHolds(client)) {
+        }
         const auto before = observer.ramp(last);
         const auto start = SteadyClock::now();
-        if (i % 2 == 0) {
-            film.place(3 * rig::XServer::kWidth, 0, rig::XServer::kWidth, rig::XServer::kHeight);
-        } else {
-            observer.setRootProperty("_NET_ACTIVE_WINDOW", {film.id()});
-        }
+        i % 2 == 0 ? film.setFullscreen(true) : film.activate();
         waitForChange(observer, last, before);
         samples.push_back(microsecondsSince(start));
     }
     printFigure("rule, from a window's change to the last of four ramps, p99",
                 percentile(samples, 0.99) / 1000.0, 50.0, "ms");
+}
+
+/// With all that could act by itself, beside the rules of before.
+void measureWaiting(const rig::Process& nocturo, BusClient& client) {
+    constexpr int kWatched = 60;
+    client.call("AddSchedulePoint", std::string("00:00 Night reading"));
+    client.call("AddSchedulePoint", std::string("sunset+00:10 off"));
+    client.callSetSetting("SchedulePlace", std::string("52.5 13.4"));
+    client.callSetSetting("UseSchedule", true);
+    client.call("Pause", std::string("until tomorrow"));
+    pass(2);
+    const long before = wakeUps(nocturo.id());
+    pass(kWatched);
+    printFigure("wake-ups in 60 s with schedule, rules and a pause, off",
+                static_cast<double>(wakeUps(nocturo.id()) - before), 0, "");
 }
 
 void measureReapplication(rig::Session& session) {
@@ -270,8 +313,10 @@ void run() {
     BusClient client;
     measureChanges(session, client);
     measureHotKey(session, client);
+    const auto manager = session.start("openbox", {"--sm-disable"});
     measureRules(session, client);
     printWakeUps(*nocturo, client);
+    measureWaiting(*nocturo, client);
 }
 
 } // namespace
