@@ -83,12 +83,26 @@ void Automation::start() {
 }
 
 void Automation::readDisplayLooks() {
-    displayLooks_ = looksOfDisplays(defaults_, looks_, [this](const std::string& words) {
-        if (explained_.insert(words).second) {
-            logWarning(kLogApp, "The look of a display, \"" + words +
-                                    "\", is none; it has the effects of all.");
+    std::vector<std::string> leftOut;
+    displayLooks_ = looksOfDisplays(defaults_, looks_,
+                                    [&](const std::string& words) { leftOut.push_back(words); });
+    explain(leftOut, "gives a display no look; it has the effects of all.");
+}
+
+/// Says it once, however many they are.
+void Automation::explain(const std::vector<std::string>& words, const std::string& consequence) {
+    const std::string* first = nullptr;
+    std::size_t others = 0;
+    for (const std::string& each : words) {
+        if (explained_.insert(each).second) {
+            others += first != nullptr ? 1 : 0;
+            first = first != nullptr ? first : &each;
         }
-    });
+    }
+    if (first != nullptr) {
+        const std::string more = others > 0 ? ", as " + std::to_string(others) + " others," : "";
+        logWarning(kLogApp, "\"" + shortened(*first) + "\"" + more + ' ' + consequence);
+    }
 }
 
 std::string Automation::lookOfDisplay(CGDirectDisplayID display) const {
@@ -254,6 +268,7 @@ void Automation::readSchedule() {
     const bool isInUse = defaults_.boolForKey(kUseSchedule);
     const std::vector<std::string> texts = wordsOf(defaults_, kSchedule);
     std::vector<SchedulePoint> points;
+    std::vector<std::string> useless;
     place_ = texts.empty() ? std::nullopt : placeOfSchedule(defaults_);
     listed_.clear();
     indexes_.clear();
@@ -266,12 +281,11 @@ void Automation::readSchedule() {
         if (listed_.back().problem.empty()) {
             points.push_back(*point);
             indexes_.push_back(listed_.size() - 1);
-        } else if (isInUse && explained_.insert(words).second) {
-            logWarning(kLogApp, "The point \"" + words +
-                                    "\" of the schedule changes nothing; nocturoctl schedule "
-                                    "tells why.");
+        } else if (isInUse) {
+            useless.push_back(words);
         }
     }
+    explain(useless, "in the schedule changes nothing; nocturoctl schedule tells why.");
     schedule_.reset();
     if (isInUse && !points.empty()) {
         schedule_.emplace(std::move(points), place_);

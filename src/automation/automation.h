@@ -115,6 +115,7 @@ class Automation {
     void effectsWereChosen();
     void readSchedule();
     std::string problemWith(const SchedulePoint& point);
+    void explain(const std::vector<std::string>& words, const std::string& consequence);
     void lookAtClock();
     void forgiveLooks();
     void awaitNext();
@@ -133,7 +134,7 @@ class Automation {
     std::vector<std::size_t> indexes_; // of its points in the setting
     Schedule::Around around_;
     std::vector<ListedPoint> listed_;
-    std::set<std::string> explained_;                       // words that were logged
+    std::set<std::string> explained_; // words that were logged, alone or with others
     std::map<std::string, AppliedLook> appliedLooks_;       // by name
     std::map<CGDirectDisplayID, std::string> displayLooks_; // names of looks that there are
     std::unique_ptr<Timer> timer_;
