@@ -43,6 +43,7 @@ test         lxqt-panel                a tray that asks for items over the bus
 test         libglib2.0-bin            gdbus, which speaks to menus, and gio, which opens documents
 test         mate-session-manager      a session to log out of
 test         openbox                   a window manager
+test         gamemode                  games that ask for the machine
 test         sway                      a real Wayland compositor
 test         qt6-wayland               windows there
 test         libwlroots-dev            ... whose outputs are given ramps, where it is 0.15

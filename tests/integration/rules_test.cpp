@@ -136,4 +136,17 @@ TEST_F(RulesOnX, HoldWhileAGameAsksForTheMachine) {
     EXPECT_TRUE(becomes("oo"));
     gameMode.reset();
     EXPECT_TRUE(becomes("ii"));
+
+    NEEDS("gamemoded");
+    const auto daemon = session_.start("gamemoded");
+    ASSERT_TRUE(session_.bus().waitForName(kService, *daemon));
+    const auto game = session_.start("sleep", {"1000"});
+    const auto tell = [&](const char* method) {
+        const auto process = static_cast<int>(game->id());
+        session_.bus().call(kService, kPath, kService, method, "i", process);
+    };
+    tell("RegisterGame");
+    EXPECT_TRUE(becomes("oo"));
+    tell("UnregisterGame");
+    EXPECT_TRUE(becomes("ii"));
 }
