@@ -27,10 +27,20 @@ GameMode::GameMode(const Bus& bus, std::function<void()> changed)
     });
 }
 
+// Whoever may send a signal may send many, also while GameMode hangs: one question at a time.
 void GameMode::ask() {
-    BusMessage call = bus_.newCall(kService, kPath, kProperties, "Get");
+    askAgain_ = question_ != nullptr;
+    if (askAgain_) {
+        return;
+    }
+    const BusMessage call = bus_.newCall(kService, kPath, kProperties, "Get");
     sd_bus_message_append(call.get(), "ss", kService, "ClientCount");
     question_ = bus_.call(call, [this](sd_bus_message* answer) {
+        question_.reset();
+        if (askAgain_) {
+            ask();
+            return;
+        }
         std::int32_t count = 0;
         const bool isCount = sd_bus_message_is_method_error(answer, nullptr) == 0 &&
                              sd_bus_message_read(answer, "v", "i", &count) > 0;

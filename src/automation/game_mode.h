@@ -20,6 +20,7 @@ class GameMode : public Games {
     const Bus& bus_;
     std::function<void()> changed_;
     bool areRunning_ = false;
+    bool askAgain_ = false; // it has said something since
     std::unique_ptr<BusSlot> owner_;
     std::unique_ptr<BusSlot> changes_;
     std::unique_ptr<BusSlot> question_;

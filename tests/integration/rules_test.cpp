@@ -134,6 +134,18 @@ TEST_F(RulesOnX, HoldWhileAGameAsksForTheMachine) {
     EXPECT_TRUE(becomes("ii"));
     setGames(2);
     EXPECT_TRUE(becomes("oo"));
+    gameMode->signal(SIGSTOP); // and others say without end that it has changed
+    const auto bus = session_.bus().connect();
+    for (int i = 0; i < 2000; ++i) {
+        sd_bus_message* news = nullptr;
+        sd_bus_message_new_signal(bus.get(), &news, kPath, "org.freedesktop.DBus.Properties",
+                                  "PropertiesChanged");
+        sd_bus_message_set_destination(news, "org.nocturo.Nocturo");
+        sd_bus_send(bus.get(), news, nullptr);
+        sd_bus_message_unref(news);
+    }
+    sd_bus_flush(bus.get());
+    EXPECT_EQ(status()["ruler"], "rule") << "the bus still takes calls";
     gameMode.reset();
     EXPECT_TRUE(becomes("ii"));
 
