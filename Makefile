@@ -42,8 +42,8 @@ tests: deps-test
 test: tests ## builds and runs every test
 	@ctest --preset release --no-tests=error --parallel $(TEST_JOBS) --label-exclude '^soak$$'
 
-soak: tests ## builds and runs the tests that take minutes
-	@ctest --preset release --no-tests=error --label-regex '^soak$$'
+soak: tests ## builds and runs the tests that take minutes, and prints their figures
+	@ctest --preset release --no-tests=error --verbose --label-regex '^soak$$'
 
 unit-asan: deps-test ## runs the unit tests under AddressSanitizer and UndefinedBehaviorSanitizer
 	cmake --preset asan

@@ -1,7 +1,8 @@
-// Calls Nocturo over the bus, over one connection. "toggle" toggles; "ask" asks for everything;
-// "open" opens a thousand files that do not exist; "drag" moves a setting to and fro, as a slider
-// does. With a number that often, one after the other; else as fast as the bus takes it, until it
-// is killed, without reading an answer.
+// Calls Nocturo over the bus, over one connection. "toggle" toggles; "fade" does that slowly, so
+// that the next comes on the way; "look" goes on to the next look; "schedule" switches the schedule
+// on and off; "ask" asks for everything; "open" opens a thousand files that do not exist; "drag"
+// moves a setting to and fro, as a slider does. With a number that often, one after the other; else
+// as fast as the bus takes it, until it is killed, without reading an answer.
 
 #include <cstdlib>
 #include <string>
@@ -31,6 +32,14 @@ sd_bus_message* newCall(sd_bus* bus, const std::string& what, int left) {
     } else if (what == "drag") {
         make(kOwn, "SetSetting");
         sd_bus_message_append(call, "sv", "NDDimEffectLevel", "d", -0.01 * (left % 100));
+    } else if (what == "schedule") {
+        make(kOwn, "SetSetting");
+        sd_bus_message_append(call, "sv", "UseSchedule", "b", left % 2);
+    } else if (what == "look") {
+        make(kOwn, "ApplyNextLook");
+    } else if (what == "fade" && left % 2 == 0) {
+        make(kOwn, "FadeNext");
+        sd_bus_message_append(call, "d", 0.05);
     } else {
         make(kOwn, "Toggle");
     }

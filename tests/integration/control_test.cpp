@@ -6,6 +6,7 @@
 #include <array>
 #include <cstring>
 #include <functional>
+#include <iostream>
 #include <iterator>
 #include <sstream>
 
@@ -473,8 +474,12 @@ struct BusTrouble : NocturoOnX {
             << before << kilobytesOf("Rss:");
         others = floods({"ask", "open"});
         EXPECT_FALSE(nocturo_->wait(Milliseconds(500)));
+        std::cout << "Rss " << before << " kB, afterwards " << kilobytesOf("Rss:") << " kB; ";
         nocturo_->signal(SIGTERM);
+        const auto start = std::chrono::steady_clock::now();
         EXPECT_TRUE(allOwnWithin(Milliseconds(200)));
+        std::cout << "SIGTERM gave the displays back in "
+                  << (std::chrono::steady_clock::now() - start) / Milliseconds(1) << " ms\n";
         EXPECT_EQ(nocturo_->wait(), 0);
     }
 
