@@ -62,9 +62,12 @@ std::optional<seconds> duration(std::string_view text) {
             return std::nullopt;
         }
         sum += *number * *unit;
+        if (sum > kLongest) {
+            return std::nullopt;
+        }
         text.remove_prefix(1);
     }
-    return sum > 0s && sum <= kLongest ? std::optional(sum) : std::nullopt;
+    return sum > 0s ? std::optional(sum) : std::nullopt;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "settings/display_looks.h"
 
 #include "base/texts/translated.h"
+#include "settings/longest_words.h"
 #include "settings/settings_keys.h"
 
 #include <charconv>
@@ -14,7 +15,7 @@ std::optional<DisplayLook> displayLookFromWords(std::string_view words) {
     const auto [rest, error] = std::from_chars(words.data(), end, look.display);
     constexpr std::uint32_t kMost = std::numeric_limits<std::int32_t>::max();
     if (error != std::errc() || look.display == 0 || look.display > kMost || end - rest < 2 ||
-        *rest != ' ') {
+        *rest != ' ' || words.size() > kLongestWords) {
         return std::nullopt;
     }
     look.look.assign(rest + 1, end);

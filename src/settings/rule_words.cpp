@@ -2,6 +2,7 @@
 
 #include "base/texts/shortened.h"
 #include "base/texts/translated.h"
+#include "settings/longest_words.h"
 #include "settings/schedule_points.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ std::string_view takeName(std::string_view& words) {
 } // namespace
 
 std::optional<Rule> ruleFromWords(std::string_view words) {
-    if (std::any_of(words.begin(), words.end(), isControl)) {
+    if (words.size() > kLongestWords || std::any_of(words.begin(), words.end(), isControl)) {
         return std::nullopt;
     }
     Rule rule;

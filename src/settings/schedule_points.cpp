@@ -3,6 +3,7 @@
 #include "base/local_time.h"
 #include "base/texts/shortened.h"
 #include "base/texts/translated.h"
+#include "settings/longest_words.h"
 
 #include <algorithm>
 #include <array>
@@ -95,7 +96,7 @@ bool isWordForOff(std::string_view words) {
 std::optional<SchedulePoint> schedulePoint(std::string_view typed) {
     const std::string words = withOffsetBesideAnchor(std::string(typed));
     const auto space = words.find(' ');
-    if (space == std::string::npos || space + 1 == words.size()) {
+    if (space == std::string::npos || space + 1 == words.size() || words.size() > kLongestWords) {
         return std::nullopt;
     }
     auto point = pointInTime(std::string_view(words).substr(0, space));

@@ -5,6 +5,7 @@
 #include "automation/display_looks_setting.h"
 #include "automation/filled_displays.h"
 #include "automation_fixture.h"
+#include "settings/longest_words.h"
 
 using namespace nocturo;
 
@@ -24,6 +25,7 @@ TEST(RuleWords, AreReadAndWritten) {
                               "program \"\" off", "program \"a\"b off", "window off", " off"}) {
         EXPECT_FALSE(ruleFromWords(wrong)) << wrong;
     }
+    EXPECT_FALSE(ruleFromWords("game " + std::string(kLongestWords, 'l')));
 }
 
 TEST(FilledDisplays, AreThoseOfTheTopmostWindowThatMatters) {
