@@ -15,8 +15,8 @@ namespace nocturo {
 
 namespace {
 
-constexpr std::uint32_t kWholeProperty = UINT32_MAX / 4; // in units of four bytes
-constexpr unsigned kLoss = 256;                          // beyond the types of events
+constexpr std::uint32_t kMostNumbers = 1U << 18U; // of a property; any client may write any
+constexpr unsigned kLoss = 256;                   // beyond the types of events
 
 xcb_intern_atom_cookie_t askForAtom(xcb_connection_t* connection, std::string_view name) {
     return xcb_intern_atom(connection, false, static_cast<std::uint16_t>(name.size()), name.data());
@@ -91,8 +91,8 @@ void XConnection::expectAtom(std::string_view name) {
 
 std::optional<std::vector<std::uint32_t>> XConnection::property(xcb_window_t window,
                                                                 xcb_atom_t name) const {
-    const auto cookie = xcb_get_property(handle(), false, window, name, XCB_GET_PROPERTY_TYPE_ANY,
-                                         0, kWholeProperty);
+    const auto cookie =
+        xcb_get_property(handle(), false, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, kMostNumbers);
     const XcbReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(handle(), cookie, nullptr));
     if (!reply || reply->type == XCB_ATOM_NONE || reply->format != 32) {
@@ -196,7 +196,7 @@ void XConnection::takeIn() {
 }
 
 void XConnection::take(Event event) {
-    if (typeOf(*event) == XCB_DESTROY_NOTIFY) {
+    if (event->response_type == XCB_DESTROY_NOTIFY) { // by the server, not another client
         selected_.erase(reinterpret_cast<const xcb_destroy_notify_event_t&>(*event).window);
     }
     bool isAwaited = false;

@@ -56,7 +56,7 @@ class XConnection {
     xcb_atom_t atom(std::string_view name);
     void expectAtom(std::string_view name);
 
-    /// The property of the window as 32-bit numbers; nothing when it is not there.
+    /// The property of the window as 32-bit numbers, 262,144 at most; nothing when it is not there.
     std::optional<std::vector<std::uint32_t>> property(xcb_window_t window, xcb_atom_t name) const;
 
     /// Has these events of a window sent here, beside those that others here have asked for.
