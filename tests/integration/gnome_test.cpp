@@ -185,6 +185,20 @@ TEST_F(Shell, IsWrittenDirectlyWhereItLendsNone) {
     EXPECT_TRUE(becomes("oo"));
 }
 
+TEST_F(Shell, IsChangedAllTheSameOnAFullDisk) {
+    startShell("{}");
+    startOnFullDisk(kGnome);
+    EXPECT_TRUE(becomes("ii"));
+    EXPECT_TRUE(nocturo_->waitForError("if Nocturo is killed, the displays keep its effect"));
+    EXPECT_TRUE(journalsIn(session_).empty());
+    freeDisk();
+    ctl({"effects", "only", "dim"});
+    EXPECT_EQ(journalsIn(session_).size(), 1U);
+    nocturo_->signal(SIGKILL);
+    EXPECT_TRUE(becomes("oo"));
+    reapGuards();
+}
+
 TEST_F(Shell, MayHangWithoutHangingAnybodyElse) {
     startWith("{}");
     EXPECT_TRUE(becomes("ii"));

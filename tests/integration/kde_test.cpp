@@ -149,6 +149,22 @@ TEST_F(Kde, GivesTheProfileBackAfterKills) {
     EXPECT_TRUE(waitUntil([&] { return namesIn(state).empty(); }));
 }
 
+TEST_F(Kde, ChangesNothingOnAFullDisk) {
+    const std::string own = calibrated(1);
+    kwin_.emplace(Kind::kwin, std::vector<Compositor::Output>{{.path = own, .source = 1}});
+    session_.environment()["WAYLAND_DISPLAY"] = kwin_->display();
+    startOnFullDisk();
+    EXPECT_TRUE(nocturo_->waitForError("No effect can be shown on DP-1: "));
+    EXPECT_EQ(obstacle(), "refused");
+    EXPECT_EQ(kwin_->configurations(), 0);
+    freeDisk();
+    ctl({"off"});
+    ctl({"on"});
+    EXPECT_TRUE(shows(reversed(calibration(1))));
+    kill(false);
+    EXPECT_TRUE(has(own, 1));
+}
+
 TEST_F(Kde, FollowsOutputsThatComeAndGoWithTheProfileThatTheyWereLeft) {
     for (const Kind kind : {Kind::kwin, Kind::kwinWithRegistry}) {
         const std::string own = calibrated(1);

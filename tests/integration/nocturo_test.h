@@ -9,6 +9,8 @@
 #include <csignal>
 #include <fstream>
 
+#include <sys/resource.h>
+
 namespace nocturo::rig {
 
 /// Skips the test where this system lacks a program that it is about.
@@ -42,6 +44,18 @@ struct NocturoTest : testing::Test {
             << nlohmann::json(arguments) << result.output << result.errors;
     }
     nlohmann::json status() { return nlohmann::json::parse(ctl({"status", "--json"}).output); }
+
+    /// Starts it where nothing can be written to any file, as on a full disk, until freeDisk().
+    void startOnFullDisk(const std::string& options = "") {
+        nocturo_ = session_.start(
+            "/bin/sh",
+            {"-c", "trap '' XFSZ; ulimit -S -f 0; exec " NOCTURO_BIN_DIR "/nocturo " + options});
+        ASSERT_TRUE(session_.bus().waitForName("org.nocturo.Nocturo", *nocturo_));
+    }
+    void freeDisk() {
+        const rlimit enough{RLIM_INFINITY, RLIM_INFINITY};
+        ASSERT_EQ(prlimit(nocturo_->id(), RLIMIT_FSIZE, &enough, nullptr), 0);
+    }
 
     /// Selects an effect for a Nocturo that does not run, which would ask without one; with more
     /// settings as XML.

@@ -36,7 +36,7 @@ void ShellGuard::willWrite(std::uint32_t crtc, const Ramp& ramp) {
         return;
     }
     known->second.changed = ramp != known->second.system;
-    if (known->second.changed && !isProtecting_) {
+    if (known->second.changed && !isStored_) {
         guards_.start();
         store();
         isProtecting_ = true;
@@ -47,7 +47,7 @@ void ShellGuard::allIsWritten() {
     const bool isAnyChanged = std::any_of(crtcs_.begin(), crtcs_.end(),
                                           [](const auto& crtc) { return crtc.second.changed; });
     if (isProtecting_ && !isAnyChanged) {
-        isProtecting_ = false;
+        isProtecting_ = isStored_ = false;
         file_.remove();
     }
 }
@@ -58,6 +58,7 @@ void ShellGuard::store() {
         journal.entries.push_back({crtc, known.system});
     }
     const Result<void> written = journal.write(file_);
+    isStored_ = written.has_value();
     if (!written && !std::exchange(failureLogged_, true)) {
         logWarning(kLogDisplays, "The displays' own colors cannot be kept in " +
                                      file_.path().string() + " (" + written.error().text +

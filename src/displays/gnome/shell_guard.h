@@ -42,7 +42,8 @@ class ShellGuard {
     std::string connection_;
     Guards guards_;
     std::map<std::uint32_t, Crtc> crtcs_;
-    bool isProtecting_ = false; // the journal is there
+    bool isProtecting_ = false; // while any CRTC is changed
+    bool isStored_ = false;     // the journal is there, as it should be
     bool failureLogged_ = false;
 };
 

@@ -268,7 +268,8 @@ bool OutputProfiles::prepare(const OutputDevice& device, Output& output) {
     if (const auto written =
             replaceFile(file, content, S_IRUSR | S_IWUSR, Durability::lastsWhileTheSystemRuns);
         !written) {
-        effectRefused(device, output, written.error().text);
+        effectRefused(device, output,
+                      file.string() + " cannot be written: " + written.error().text);
         return false;
     }
     output.sent = output.wanted;
@@ -347,8 +348,7 @@ void OutputProfiles::effectRefused(const OutputDevice& device, Output& output,
                                    const std::string& reason) {
     output.sent = {};
     setRefused(output, true);
-    logWarning(kLogDisplays,
-               "The desktop refuses to show an effect on " + device.name + ": " + reason + ".");
+    logWarning(kLogDisplays, "No effect can be shown on " + device.name + ": " + reason + ".");
 }
 
 void OutputProfiles::ownRefused(const OutputDevice& device, Output& output,
