@@ -1,5 +1,6 @@
 #include "base/texts/translated.h"
 #include "base/texts/users_language.h"
+#include "ctl/answer_check.h"
 #include "ctl/commands.h"
 #include "ctl/failure.h"
 #include "ctl/output.h"
@@ -109,6 +110,15 @@ int run(const std::vector<std::string>& arguments) {
     return kSuccess;
 }
 
+/// What settings hold is of any type, and nobody has looked at all of it before it is used.
+int runUnderstanding(const std::vector<std::string>& arguments) {
+    try {
+        return run(arguments);
+    } catch (const Json::exception&) {
+        failBecauseNotUnderstood();
+    }
+}
+
 } // namespace
 
 } // namespace nocturo
@@ -116,7 +126,7 @@ int run(const std::vector<std::string>& arguments) {
 int main(int argc, char* argv[]) {
     try {
         nocturo::setLanguageOfTexts(nocturo::usersLanguage());
-        return nocturo::run(std::vector<std::string>(argv + 1, argv + argc));
+        return nocturo::runUnderstanding(std::vector<std::string>(argv + 1, argv + argc));
     } catch (const nocturo::Failure& failure) {
         return nocturo::tell(failure);
     }
