@@ -27,6 +27,15 @@ struct Told {
     const char* type;
 };
 constexpr Told kTold[] = {{"Active", "b"},
+                          {"Paused", "b"},
+                          {"Ruler", "s"},
+                          {"RulesUntil", "x"},
+                          {"RuledLook", "s"},
+                          {"Rule", "s"},
+                          {"AbsentDisplays", "aa{sv}"},
+                          {"Looks", "aa{sv}"},
+                          {"Look", "s"},
+                          {"Temperature", "u"},
                           {"DisplayServices", "s"},
                           {"Displays", "aa{sv}"},
                           {"Effects", "as"},

@@ -1,5 +1,7 @@
+#include "automation/automation.h"
 #include "base/notification_center.h"
 #include "displays/affected_screen_set.h"
+#include "displays/display_names.h"
 #include "documents/effect_document.h"
 #include "documents/looks.h"
 #include "documents/recent_documents.h"
@@ -9,8 +11,11 @@
 #include "hotkeys/hot_key.h"
 #include "hotkeys/portal/granted_hot_keys.h"
 #include "hotkeys/saved_hot_key.h"
+#include "program/kept_display_names.h"
 #include "settings/defaults_store.h"
 #include "settings/property_lists/property_list.h"
+#include "unit/fake_run_loop.h"
+#include "unit/fake_wall_clock.h"
 
 #include <cmath>
 #include <fstream>
@@ -30,6 +35,27 @@ void readAsFiles(std::string_view bytes) {
     }
     need(RecentDocuments(directory / "Look.nocturo").paths().size() <= RecentDocuments::kMost);
     const GrantedHotKeys granted(directory / "Look.nocturo", "KDE");
+    for (const char* name : {"pause.plist", "displays.plist"}) {
+        std::ofstream(directory / name, std::ios::binary) << bytes;
+    }
+    DisplayNames::shared() = {}; // so that nothing of the input before is left
+    const KeptDisplayNames names(directory / "displays.plist", NotificationCenter::defaultCenter());
+}
+
+/// Whatever settings say is to happen by itself, the clock goes on and somebody rules.
+void followSettings(DefaultsStore& store) {
+    FakeRunLoop loop;
+    FakeWallClock clock{Moment(std::chrono::days(20000))};
+    NotificationCenter center;
+    Looks looks("/nowhere", "/nowhere", center);
+    Automation automation(store, center, clock, loop, looks, fuzz::ownDirectory());
+    automation.start();
+    for (int day = 0; day < 2; ++day) {
+        const Ruling ruling = automation.ruling(true, 7);
+        need(!ruling.until || *ruling.until > automation.now());
+        clock.passTo(automation.now() + std::chrono::hours(25));
+    }
+    need(automation.listedPoints().size() <= 100 && automation.rules().listed().size() <= 100);
 }
 
 /// A document that is accepted is finite and survives being saved and opened.
@@ -53,6 +79,7 @@ void readAsSettings(const PropertyDictionary& list) {
     curve.sampleCount = kGammaCurveCapacity;
     NDGroupEffect().applyEffectOnGammaCurve(&curve, 0.0);
 
+    followSettings(store);
     const std::string written = propertyListXml(store.userDomain());
     const auto again = parsePropertyList(written);
     need(again && propertyListXml(*again) == written);

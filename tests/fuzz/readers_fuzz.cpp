@@ -1,9 +1,15 @@
+#include "automation/pauses.h"
 #include "displays/calibration/calibration_profile.h"
 #include "displays/display_identifiers.h"
 #include "displays/guard/journal.h"
 #include "harness.h"
 #include "hotkeys/hot_key_text.h"
 #include "hotkeys/key_naming.h"
+#include "settings/display_looks.h"
+#include "settings/rule_words.h"
+#include "settings/schedule_points.h"
+
+#include <cmath>
 
 using namespace nocturo;
 using fuzz::need;
@@ -40,6 +46,24 @@ void readHotKey(std::string_view text) {
     need(!hotKey || !HXStringFromKeyCode(hotKey->keyCode, hotKey->modifierFlags, nullptr).empty());
 }
 
+/// What is read of words is the same again when it is written in words.
+template <typename Read>
+void readWords(std::string_view words, Read read) {
+    const auto found = read(words);
+    need(!found || read(textOf(*found)) == found);
+}
+
+void readWhatHappensByItself(std::string_view words) {
+    readWords(words, schedulePoint);
+    readWords(words, ruleFromWords);
+    readWords(words, displayLookFromWords);
+    const auto place = placeFromText(words);
+    need(!place || (std::abs(place->latitude) <= 90 && std::abs(place->longitude) <= 180));
+    const Moment now{std::chrono::days(20000)};
+    const auto end = endOfPause(words, now);
+    need(!end || !*end || (**end > now && **end <= now + std::chrono::days(366)));
+}
+
 } // namespace
 
 /// What monitors, colour programs, users and earlier runs may hand over.
@@ -50,5 +74,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     readEdid(bytes);
     readJournal(text);
     readHotKey(text);
+    readWhatHappensByItself(text);
     return 0;
 }
