@@ -438,7 +438,8 @@ TEST_F(ControlOfRunning, WhoReadsNoAnswersIsHeardLessAndLess) {
                                      "/org/nocturo/Nocturo", "org.nocturo.Nocturo1", "StepDim",
                                      ignored, nullptr, "d", 0.001);
         }
-        sd_bus_flush(bus.get());
+        sd_bus_call_method(bus.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                           "org.freedesktop.DBus", "GetId", nullptr, nullptr, ""); // after them
         nocturo_->signal(SIGCONT);
         status();
     }
