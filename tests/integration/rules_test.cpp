@@ -101,6 +101,12 @@ TEST_F(RulesOnX, AreHurtByNothingThatWindowsSay) {
     EXPECT_TRUE(becomes("ii"));
     liar.setProperty("_NET_WM_STATE", "STRING", 8, 3, "abc");
     EXPECT_TRUE(becomes("oo"));
+    const std::array dialog = {client_.atom("_NET_WM_WINDOW_TYPE_DIALOG"),
+                               client_.atom("_NET_WM_WINDOW_TYPE_NORMAL")};
+    liar.setProperty("_NET_WM_WINDOW_TYPE", "ATOM", 32, 2, dialog.data());
+    EXPECT_TRUE(becomes("ii")) << "as Qt says it";
+    liar.setProperty("_NET_WM_WINDOW_TYPE", "STRING", 8, 3, "abc");
+    EXPECT_TRUE(becomes("oo"));
     liar.place(0, 0, 1, 1);
     EXPECT_TRUE(becomes("ii"));
     for (int i = 0; i < 50; ++i) {

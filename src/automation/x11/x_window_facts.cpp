@@ -14,6 +14,7 @@ constexpr const char* kMaximizedUp = "_NET_WM_STATE_MAXIMIZED_VERT";
 constexpr const char* kMaximizedAcross = "_NET_WM_STATE_MAXIMIZED_HORZ";
 constexpr const char* kType = "_NET_WM_WINDOW_TYPE";
 constexpr const char* kNormal = "_NET_WM_WINDOW_TYPE_NORMAL";
+constexpr const char* kDialog = "_NET_WM_WINDOW_TYPE_DIALOG";
 constexpr const char* kDesktop = "_NET_WM_DESKTOP";
 
 constexpr std::uint32_t kMostNumbers = 64;   // of a property; no window has so many states
@@ -80,7 +81,8 @@ XWindowFacts answer(XConnection& server, const Questions& questions) {
     facts.window.isVisible =
         attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE && !has(states, kHidden);
     facts.window.isOrdinary =
-        types.empty() ? owner.empty() || owner.front() == XCB_WINDOW_NONE : has(types, kNormal);
+        types.empty() ? owner.empty() || owner.front() == XCB_WINDOW_NONE
+                      : has(types, kNormal) && !has(types, kDialog); // Qt's dialogs say both
     facts.window.isFullscreen = has(states, kFullscreen);
     facts.window.isMaximized = has(states, kMaximizedUp) && has(states, kMaximizedAcross);
     return facts;
@@ -103,8 +105,8 @@ std::vector<XWindowFacts> factsOf(XConnection& server, const std::vector<xcb_win
 }
 
 void expectAtomsOfFacts(XConnection& server) {
-    for (const char* name :
-         {kState, kFullscreen, kHidden, kMaximizedUp, kMaximizedAcross, kType, kNormal, kDesktop}) {
+    for (const char* name : {kState, kFullscreen, kHidden, kMaximizedUp, kMaximizedAcross, kType,
+                             kNormal, kDialog, kDesktop}) {
         server.expectAtom(name);
     }
 }
