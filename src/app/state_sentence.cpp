@@ -1,19 +1,13 @@
 #include "app/state_sentence.h"
 
-#include "app/app_controller.h"
-#include "automation/automation.h"
 #include "base/local_time.h"
 #include "base/texts/translated.h"
-#include "displays/affected_screen_set.h"
-#include "displays/display_functions.h"
 #include "effects/color_filter_effect.h"
 #include "effects/color_temperature.h"
 #include "effects/dim_effect.h"
-#include "effects/group_effect.h"
 #include "effects/hdtv_luminance_effect.h"
 #include "effects/hide_stripes_effect.h"
 #include "effects/invert_effect.h"
-#include "settings/defaults_store.h"
 #include "settings/selectable_effects.h"
 
 #include <algorithm>
@@ -154,47 +148,6 @@ std::string signedPercentText(double share) {
     return translated("%@ %%", {sign + digits});
 }
 
-EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults) {
-    EffectState state;
-    const Ruling ruling = controller.ruling();
-    state.isOn = controller.effectActive() && ruling.isOn;
-    state.isPausedForScreenSaver = controller.isPausedForScreenSaver();
-    state.ruler = ruling.by;
-    state.until = ruling.until;
-    state.rule = ruling.rule;
-    state.look = controller.titleOfLook(ruling);
-    if (const Automation* automation = controller.automation()) {
-        state.now = automation->now();
-        state.mayRulesFollow = automation->rules().mayOthersSwitchOn();
-    }
-    for (const SelectableEffect& effect : kSelectableEffects) {
-        if (NDGroupEffect::effect().containsEffect(effect.className)) {
-            state.effects.emplace_back(effect.className);
-        }
-    }
-    state.dimLevel = static_cast<double>(NDDimEffect::level());
-    state.hue = static_cast<double>(NDColorFilterEffect::hue());
-    state.vividness = static_cast<double>(NDColorFilterEffect::vividness());
-    const std::vector<double> affected = affectedScreenSet(defaults);
-    state.isOnAllScreens = affected.empty();
-    const auto* online =
-        displayServices() != nullptr ? displayServices()->onlineDisplays() : nullptr;
-    for (std::size_t i = 0; online != nullptr && i < online->size(); ++i) {
-        const DisplayInfo& display = (*online)[i];
-        const bool isNamed =
-            std::find(affected.begin(), affected.end(), display.id) != affected.end();
-        if (!isNamed && !affected.empty()) {
-            continue;
-        }
-        if (display.obstacle != Obstacle::none) {
-            state.without.push_back(display.name);
-        }
-        const Ruling its = controller.ruling(display.id);
-        addScreen(state, ruling, {display.name, its, controller.titleOfLook(its)});
-    }
-    return state;
-}
-
 void addScreen(EffectState& state, const Ruling& usual, const DisplayApart& display) {
     const bool isApart = display.ruling != usual;
     if (isApart) {
@@ -235,10 +188,6 @@ std::string stateSentence(const EffectState& state) {
     return withThoseApart(
         withRuler(what, state.ruler, until, state.rule, state.mayRulesFollow && !state.isOn),
         state);
-}
-
-std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults) {
-    return stateSentence(effectState(controller, defaults));
 }
 
 } // namespace nocturo

@@ -8,9 +8,6 @@
 
 namespace nocturo {
 
-class DefaultsStore;
-class NDAppController;
-
 /// What there is to say about a display of which another word holds than of the others.
 struct DisplayApart {
     std::string name;
@@ -45,8 +42,6 @@ struct EffectState {
 /// else; the looks' titles are given.
 void addScreen(EffectState& state, const Ruling& usual, const DisplayApart& display);
 
-EffectState effectState(const NDAppController& controller, const DefaultsStore& defaults);
-
 /// The chosen effects as a person would say them, in the order in which they are applied, in the
 /// user's language: "Invert", "Dim −30 %".
 std::vector<std::string> namesOfEffects(const EffectState& state);
@@ -54,7 +49,6 @@ std::vector<std::string> namesOfEffects(const EffectState& state);
 /// What the displays show, why and until when, in one sentence of the user's language: "On: Invert,
 /// Dim −30 % on all screens, but not on DP-2", "Paused until 18:00".
 std::string stateSentence(const EffectState& state);
-std::string stateSentence(const NDAppController& controller, const DefaultsStore& defaults);
 
 /// A share as people read it: "40 %"; with the sign that a printed text has, "−30 %".
 std::string percentText(double share);

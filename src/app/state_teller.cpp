@@ -1,7 +1,7 @@
 #include "app/state_teller.h"
 
 #include "app/app_controller.h"
-#include "app/state_sentence.h"
+#include "app/effect_state.h"
 #include "automation/automation.h"
 #include "base/notification_names.h"
 #include "base/run_loop.h"

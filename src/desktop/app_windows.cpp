@@ -1,8 +1,8 @@
 #include "desktop/app_windows.h"
 
 #include "app/app_controller.h"
+#include "app/effect_state.h"
 #include "app/look_picker.h"
-#include "app/state_sentence.h"
 #include "automation/automation.h"
 #include "base/notification_names.h"
 #include "desktop/about/about_box_controller.h"

@@ -1,7 +1,7 @@
 // Rules, looks of displays, and what displays show by them.
 
+#include "app/effect_state.h"
 #include "app/keep_colors.h"
-#include "app/state_sentence.h"
 #include "automation/display_looks_setting.h"
 #include "automation/filled_displays.h"
 #include "automation_fixture.h"

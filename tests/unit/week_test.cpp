@@ -1,8 +1,8 @@
 // A week of everything that happens by itself, with whatever users, programs and machines do
 // meanwhile, in minutes.
 
+#include "app/effect_state.h"
 #include "app/keep_colors.h"
-#include "app/state_sentence.h"
 #include "automation/display_looks_setting.h"
 #include "automation/schedule_setting.h"
 #include "automation_fixture.h"
