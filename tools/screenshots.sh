@@ -38,7 +38,7 @@ take() {
 
 if [ -n "$looks" ]; then
   mkdir -p "$looks"
-  for window in preferences switching schedule curves about keep no-effect save screens status-menu; do
+  for window in preferences switching schedule rules curves about keep no-effect save screens status-menu; do
     take 1 "$window" "$looks/$window.png"
     take 1 "$window" "$looks/$window-dark.png" dark
     take 2 "$window" "$looks/$window-200.png"
@@ -48,7 +48,7 @@ if [ -n "$looks" ]; then
       LANGUAGE=$language take 1 "$window" "$looks/$window-$language.png"
     done
   done
-  for window in preferences switching schedule; do
+  for window in preferences switching schedule rules; do
     take 1 "$window" "$looks/$window-tall.png" tall
     xrandr -s 1024x600
     take 1 "$window" "$looks/$window-1024x600.png"
@@ -59,7 +59,7 @@ if [ -n "$looks" ]; then
     xrandr -s 2048x1536
   done
 else
-  for window in preferences switching schedule about keep status-menu; do
+  for window in preferences switching schedule rules about keep status-menu; do
     take 1 "$window" "docs/images/$window.png"
   done
   take 1 preferences docs/images/preferences-dark.png dark

@@ -3,6 +3,7 @@
 #include "base/event_loop.h"
 #include "desktop/app_windows.h"
 #include "desktop/menus/desktop_menus.h"
+#include "desktop/qt/dark_palette.h"
 #include "desktop/qt/qt_loop.h"
 #include "desktop/qt/translations.h"
 #include "desktop/test_card/test_card.h"
@@ -122,6 +123,7 @@ class QtDesktop : public DesktopPart {
     void setItemEmbedded(bool embedded) override { menus_.setItemEmbedded(embedded); }
     void setItemImage(bool active) override { menus_.setItemImage(active); }
     void offerTray() override { windows_.offerTray(); }
+    void preferDark(bool dark) override { nocturo::preferDark(dark); }
     void setItemToolTip(const std::string& sentence) override { menus_.setItemToolTip(sentence); }
     void popUpStatusMenu(int x, int y) override { menus_.popUpStatusMenu(x, y); }
     void setKeyboardLayout(KeyboardLayout* layout) override { windows_.setKeyboardLayout(layout); }

@@ -66,6 +66,9 @@ class DesktopPart {
     /// Offers, in the preference window, to show the application in the tray.
     virtual void offerTray() = 0;
 
+    /// The user wants windows dark, or no longer.
+    virtual void preferDark(bool dark) = 0;
+
     /// Shows the status menu at that point of the screen.
     virtual void popUpStatusMenu(int x, int y) = 0;
 

@@ -118,6 +118,9 @@ Result<DesktopPart*> DesktopOnDemand::load() {
     part_->setItemImage(itemActive_);
     part_->setItemToolTip(itemToolTip_);
     part_->setItemEmbedded(itemEmbedded_);
+    if (bus_ != nullptr) {
+        colorScheme_.emplace(*bus_, [this](bool dark) { part_->preferDark(dark); });
+    }
     if (aboutBoxColor_) {
         part_->windows().setAboutBoxBackgroundColor(*aboutBoxColor_);
     }

@@ -12,6 +12,7 @@
 #include "documents/recent_documents.h"
 #include "program/kept_display_names.h"
 #include "session/autostart.h"
+#include "session/color_scheme.h"
 #include "session/tray_window.h"
 
 #include <functional>
@@ -104,7 +105,8 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     KeyboardLayout* layout_ = nullptr;
     XConnection* server_ = nullptr;
     std::optional<OpaqueColor> aboutBoxColor_;
-    std::unique_ptr<DesktopPart> part_; // null until it is needed
+    std::unique_ptr<DesktopPart> part_;      // null until it is needed
+    std::optional<ColorScheme> colorScheme_; // of the part
 };
 
 /// Draws what a simulated display shows, by the library. False when that cannot be done; where the

@@ -10,6 +10,9 @@ using namespace nocturo::rig;
 using Pixel = std::uint32_t;
 constexpr Pixel kDark = 0x363636; // of the image, where no color is asked for
 
+constexpr const char* kPortal = "org.freedesktop.portal.Desktop";
+constexpr const char* kSettings = "org.freedesktop.portal.Settings";
+
 struct DesktopPanels : NocturoOnX {
     DesktopPanels() : NocturoOnX(2) {
         session_.showWindows();
@@ -19,7 +22,8 @@ struct DesktopPanels : NocturoOnX {
     }
 
     /// The pixels of that color in the corner where panels stand.
-    int count(Pixel color) {
+    int count(Pixel color) { return count(color, color); }
+    int count(Pixel first, Pixel last) {
         const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server_.get())).data->root;
         const auto cookie = xcb_get_image(server_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, root, 0, 0, 100,
                                           32, 0x00ffffff);
@@ -30,7 +34,23 @@ struct DesktopPanels : NocturoOnX {
         }
         const auto* pixels = reinterpret_cast<const Pixel*>(xcb_get_image_data(image.get()));
         const auto length = static_cast<std::size_t>(xcb_get_image_data_length(image.get()));
-        return static_cast<int>(std::count(pixels, pixels + length / sizeof(Pixel), color));
+        return static_cast<int>(
+            std::count_if(pixels, pixels + length / sizeof(Pixel),
+                          [=](Pixel each) { return first <= each && each <= last; }));
+    }
+
+    /// The desktop's portal, which tells that windows are to be dark.
+    std::unique_ptr<Process> startPortal() {
+        auto portal = session_.startMock(session_.bus(), kPortal,
+                                         {kPortal, "/org/freedesktop/portal/desktop", kSettings});
+        mock("AddMethod", "sssss", kSettings, "Read", "ss", "v",
+             "ret = dbus.UInt32(1, variant_level=2)");
+        return portal;
+    }
+    template <typename... Arguments>
+    void mock(const char* method, const char* types, Arguments... arguments) {
+        session_.bus().call(kPortal, "/org/freedesktop/portal/desktop", "org.freedesktop.DBus.Mock",
+                            method, types, arguments...);
     }
 
     void setTrayColor(std::uint16_t red, std::uint16_t green, std::uint16_t blue) {
@@ -175,4 +195,15 @@ TEST_F(DesktopPanels, LxqtShowsTheItemBeforeAfterAndAgain) {
         }));
     }
     EXPECT_EQ(nocturo_->errors(), "");
+}
+
+TEST_F(DesktopPanels, WindowsAreDarkWhileTheDesktopIs) {
+    const auto portal = startPortal();
+    nocturo_ = session_.startNocturo();
+    ctl({"preferences"});
+    xdotool({"windowmove", windowCalled("Nocturo Preferences"), "0", "0"});
+    EXPECT_TRUE(waitUntil([&] { return count(0x202020, 0x404040) > 500; }));
+    mock("EmitSignal", "sssav", kSettings, "SettingChanged", "ssv", 3, "s",
+         "org.freedesktop.appearance", "s", "color-scheme", "u", 2U);
+    EXPECT_TRUE(waitUntil([&] { return count(0xe0e0e0, 0xffffff) > 500; }));
 }

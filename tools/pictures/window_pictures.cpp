@@ -5,6 +5,7 @@
 #include "app/app_menus.h"
 #include "app/look_picker.h"
 #include "automation/automation.h"
+#include "automation/foreground.h"
 #include "base/event_loop.h"
 #include "base/notification_center.h"
 #include "base/runtime_directory.h"
@@ -12,6 +13,7 @@
 #include "base/texts/users_language.h"
 #include "desktop/app_windows.h"
 #include "desktop/menus/desktop_menus.h"
+#include "desktop/qt/dark_palette.h"
 #include "desktop/qt/qt_loop.h"
 #include "desktop/qt/translations.h"
 #include "desktop/test_card/test_card.h"
@@ -59,21 +61,12 @@ struct StillClock : WallClock {
     std::unique_ptr<Timer> wakeAt(Moment, std::function<void()>) override { return nullptr; }
 };
 
-QPalette darkPalette() {
-    QPalette palette(QColor(53, 53, 53), QColor(42, 42, 42));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::AlternateBase, QColor(48, 48, 48));
-    palette.setColor(QPalette::Window, QColor(49, 49, 49));
-    palette.setColor(QPalette::Button, QColor(60, 60, 60));
-    palette.setColor(QPalette::Highlight, QColor(61, 125, 200));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, QColor(235, 235, 235));
-        palette.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
-    }
-    return palette;
-}
+struct GimpInFront : Foreground {
+    bool isTold() const override { return true; }
+    const InFront& inFront() const override { return told; }
+    void displaysDidChange() override {}
+    InFront told{{"gimp-2.10"}};
+};
 
 void show(AppWindows& windows, const QString& window) {
     if (window == QLatin1String("about")) {
@@ -111,6 +104,8 @@ void show(AppWindows& windows, const QString& window) {
         windows.shownPreferences()->findChild<QTabWidget*>()->setCurrentIndex(1);
     } else if (window == QLatin1String("schedule")) {
         windows.shownPreferences()->findChild<QTabWidget*>()->setCurrentIndex(2);
+    } else if (window == QLatin1String("rules")) {
+        windows.shownPreferences()->findChild<QTabWidget*>()->setCurrentIndex(3);
     } else if (window == QLatin1String("curves")) {
         press("showCurves");
     }
@@ -162,8 +157,15 @@ int run(const QStringList& arguments) {
             kSchedule);
         defaults.setBool(true, kUseSchedule);
     }
+    if (arguments[1] == QLatin1String("rules")) {
+        defaults.setObject(
+            PropertyArray{"fullscreen off", "program gimp-2.10 Just dimmer", "game Night reading"},
+            kRules);
+    }
     automation.start();
     controller.applicationDidFinishLaunching();
+    automation.rules().setSources(
+        {[](bool, const std::function<void()>&) { return std::make_unique<GimpInFront>(); }, {}});
     appMenus.setActivateItemTitles(controller.effectActive());
     appMenus.makeScreenMenus();
     show(windows, arguments[1]);

@@ -30,6 +30,17 @@ QTreeWidget* newList(const QString& name, int columns) {
     return list;
 }
 
+QTreeWidgetItem* newRow(QTreeWidget& list, const QStringList& texts) {
+    auto* row = new QTreeWidgetItem(&list, texts);
+    const QFontMetrics metrics = list.fontMetrics();
+    const int line = metrics.height();
+    for (int column = 0; column < texts.size(); ++column) {
+        const int width = metrics.horizontalAdvance(texts[column]);
+        row->setSizeHint(column, {width + 2 * line, line * 3 / 2});
+    }
+    return row;
+}
+
 void describe(QWidget& control, const QString& name, const QString& toolTip) {
     control.setAccessibleName(name);
     control.setToolTip(toolTip);

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <vector>
 
 class QComboBox;
 class QLabel;
 class QTreeWidget;
+class QTreeWidgetItem;
 class QWidget;
 
 namespace nocturo {
@@ -20,6 +21,9 @@ QLabel* newSentence();
 
 /// Rows of texts without a header, as wide as they need to be.
 QTreeWidget* newList(const QString& name, int columns);
+
+/// Adds a row to such a list, with some room around its texts.
+QTreeWidgetItem* newRow(QTreeWidget& list, const QStringList& texts);
 
 /// For screen readers and the pointer.
 void describe(QWidget& control, const QString& name, const QString& toolTip = {});

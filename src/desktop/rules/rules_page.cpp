@@ -104,10 +104,9 @@ QLayout* RulesPage::newCondition() {
     describe(*pick_, {}, localized("The next window that comes to the front tells its program"));
     connect(pick_, &QAbstractButton::clicked, this, &RulesPage::pickWindow);
     auto* row = new QHBoxLayout;
-    row->addWidget(when_);
+    row->addWidget(when_, 1);
     row->addWidget(program_, 1);
     row->addWidget(pick_);
-    row->addStretch();
     return row;
 }
 
@@ -179,9 +178,9 @@ void RulesPage::updateList() {
         list_->clear();
         for (const ListedRule& listed : around_->automation.rules().listed()) {
             const auto rule = ruleFromWords(listed.words);
-            auto* row = new QTreeWidgetItem(list_);
-            row->setText(0, rule ? conditionOf(*rule) : QString::fromStdString(listed.words));
-            row->setText(1, rule ? titleOf(rule->look) : QString());
+            QTreeWidgetItem* row =
+                newRow(*list_, {rule ? conditionOf(*rule) : QString::fromStdString(listed.words),
+                                rule ? titleOf(rule->look) : QString()});
             row->setData(0, Qt::UserRole, QString::fromStdString(listed.words));
             row->setData(1, Qt::UserRole, QString::fromStdString(listed.problem));
             if (listed.holds) {

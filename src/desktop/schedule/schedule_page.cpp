@@ -141,13 +141,11 @@ void SchedulePage::updatePoints() {
     for (const int index : order) {
         const auto place = static_cast<std::size_t>(index);
         const ScheduleStrip::Point& point = shown[place];
-        auto* row = new QTreeWidgetItem(list_);
-        const int line = list_->fontMetrics().height();
-        row->setSizeHint(0, {line * 4, line * 3 / 2});
         const ListedPoint& listed = around_->automation.listedPoints()[place];
-        row->setText(0, point.time ? clockText(*point.time) : QStringLiteral("–"));
-        row->setText(1, points_[place] ? point.description : QString::fromStdString(listed.words));
-        row->setText(2, point.name);
+        QTreeWidgetItem* row = newRow(
+            *list_, {point.time ? clockText(*point.time) : QStringLiteral("–"),
+                     points_[place] ? point.description : QString::fromStdString(listed.words),
+                     point.name});
         row->setData(0, Qt::UserRole, index);
         if (index == current_) {
             list_->setCurrentItem(row);
