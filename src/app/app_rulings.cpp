@@ -34,7 +34,7 @@ Ruling NDAppController::ruling(CGDirectDisplayID display) const {
 }
 
 Ruling NDAppController::ruling() const {
-    const Ruling usual = ruling(kNoneInParticular);
+    Ruling usual = ruling(kNoneInParticular);
     const auto displays = affectedDisplays(defaults_);
     std::optional<Ruling> butForItsLook;
     for (const CGDirectDisplayID display : displays) {

@@ -93,18 +93,18 @@ bool isWordForOff(std::string_view words) {
            strncasecmp(words.data(), kWordForOff.data(), words.size()) == 0;
 }
 
-std::optional<SchedulePoint> schedulePoint(std::string_view typed) {
-    const std::string words = withOffsetBesideAnchor(std::string(typed));
-    const auto space = words.find(' ');
-    if (space == std::string::npos || space + 1 == words.size() || words.size() > kLongestWords) {
+std::optional<SchedulePoint> schedulePoint(std::string_view words) {
+    const std::string point = withOffsetBesideAnchor(std::string(words));
+    const auto space = point.find(' ');
+    if (space == std::string::npos || space + 1 == point.size() || point.size() > kLongestWords) {
         return std::nullopt;
     }
-    auto point = pointInTime(std::string_view(words).substr(0, space));
-    const std::string look = words.substr(space + 1);
-    if (point && !isWordForOff(look)) {
-        point->look = look;
+    auto read = pointInTime(std::string_view(point).substr(0, space));
+    const std::string look = point.substr(space + 1);
+    if (read && !isWordForOff(look)) {
+        read->look = look;
     }
-    return point;
+    return read;
 }
 
 std::string noPointSentence(const std::string& words) {
