@@ -189,7 +189,7 @@ struct WeekTest : RulesTest {
                 shown->effect().applyEffectOnGammaCurve(&curve, 0);
                 channelFromTable(curve.redTable.data(), curve.sampleCount, wanted.red);
             }
-            const std::uint32_t crtc = each.name.back() - '0';
+            const auto crtc = static_cast<std::uint32_t>(each.name.back() - '0');
             EXPECT_EQ(hardware_.ramps.at(crtc).red, wanted.red)
                 << each.name << ' ' << sentence << nocturo::told(ruling);
         }
@@ -224,7 +224,7 @@ TEST_F(WeekTest, SoakIsAlwaysExplainedAndLeavesNothingBehind) {
     }
     EXPECT_NE(clock_.now(), start);
     EXPECT_GT(steps, 10000);
-    EXPECT_LE(allocated(), afterADay + 256 * 1024);
+    EXPECT_LE(allocated(), afterADay + 256U * 1024U);
 
     store_->setBool(false, kUseSchedule);
     store_->setBool(false, kUseRules);
