@@ -19,7 +19,7 @@ _nocturoctl() {
     UseHotKey UseSchedule UseRules EffectActive ZQFluxWarned'
   local settings="$switches Schedule SchedulePlace Rules DisplayLooks NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers
     AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue
-    NDColorFilterEffectVividness FadeSeconds"
+    NDColorFilterEffectVividness FadeSeconds ScheduleFadeMinutes"
   local choices='' looks=''
   if ((cword == 1)); then
     choices="$verbs help --help --version"

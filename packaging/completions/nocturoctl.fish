@@ -18,7 +18,7 @@ end
 
 set -l effects invert overexposure dim color-filter hdtv-luminance
 set -l switches ActivateAtLaunch ActivateOnClick ContinuouslyApply NDDeactivateForScreenSaver UseHotKey UseSchedule UseRules EffectActive ZQFluxWarned
-set -l settings $switches Schedule SchedulePlace Rules DisplayLooks NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness FadeSeconds
+set -l settings $switches Schedule SchedulePlace Rules DisplayLooks NDGroupEffect ShowStatusItem HotKeyCode HotKeyModifiers AffectedScreenSet AffectedScreens NDDimEffectLevel NDColorFilterEffectHue NDColorFilterEffectVividness FadeSeconds ScheduleFadeMinutes
 
 complete -c nocturoctl -f
 complete -c nocturoctl -l help -d 'Show help'

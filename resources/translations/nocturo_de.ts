@@ -2139,6 +2139,10 @@ wenn es eines gibt. Ohne Datei schaltet ein zweiter Start von Nocturo den Effekt
             <translation>wo die Sonne betrachtet wird; leer: nach Zeitzone</translation>
         </message>
         <message>
+            <source>minutes that a change by the schedule fades for, 0 to 60</source>
+            <translation>Minuten, die ein Übergang nach Zeitplan dauert, 0 bis 60</translation>
+        </message>
+        <message>
             <source>switch and choose looks by the rules</source>
             <translation>nach den Regeln schalten und Looks wählen</translation>
         </message>

@@ -2139,6 +2139,10 @@ ejecutando, si lo hay. Iniciar Nocturo otra vez sin documento conmuta el efecto.
             <translation>dónde se mira el sol; vacío: según la zona horaria</translation>
         </message>
         <message>
+            <source>minutes that a change by the schedule fades for, 0 to 60</source>
+            <translation>minutos que dura la transición de un cambio del horario, de 0 a 60</translation>
+        </message>
+        <message>
             <source>switch and choose looks by the rules</source>
             <translation>activar y elegir aspectos según las reglas</translation>
         </message>

@@ -2139,6 +2139,10 @@ d’exécution s’il y en a un. Relancer Nocturo sans document bascule l’effe
             <translation>où l’on regarde le soleil ; vide : selon le fuseau horaire</translation>
         </message>
         <message>
+            <source>minutes that a change by the schedule fades for, 0 to 60</source>
+            <translation>durée en minutes de la transition d’un changement du programme, de 0 à 60</translation>
+        </message>
+        <message>
             <source>switch and choose looks by the rules</source>
             <translation>basculer et choisir les apparences selon les règles</translation>
         </message>

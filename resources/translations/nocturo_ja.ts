@@ -2138,6 +2138,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>太陽を見る場所。空ならタイムゾーンによる</translation>
         </message>
         <message>
+            <source>minutes that a change by the schedule fades for, 0 to 60</source>
+            <translation>スケジュールによる変化にかける分数 (0〜60)</translation>
+        </message>
+        <message>
             <source>switch and choose looks by the rules</source>
             <translation>規則で切り替えとルックの選択を行う</translation>
         </message>

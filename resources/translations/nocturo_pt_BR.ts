@@ -2139,6 +2139,10 @@ houver um. Iniciar o Nocturo outra vez sem documento alterna o efeito.</translat
             <translation>onde se olha o sol; vazio: pelo fuso horário</translation>
         </message>
         <message>
+            <source>minutes that a change by the schedule fades for, 0 to 60</source>
+            <translation>minutos que dura a transição de uma mudança da agenda, de 0 a 60</translation>
+        </message>
+        <message>
             <source>switch and choose looks by the rules</source>
             <translation>alternar e escolher visuais pelas regras</translation>
         </message>

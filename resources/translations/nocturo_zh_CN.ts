@@ -2133,6 +2133,10 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
             <translation>观察太阳的地点；留空则按时区</translation>
         </message>
         <message>
+            <source>minutes that a change by the schedule fades for, 0 to 60</source>
+            <translation>计划引起的变化所用的分钟数，0 到 60</translation>
+        </message>
+        <message>
             <source>switch and choose looks by the rules</source>
             <translation>按规则切换并选择外观方案</translation>
         </message>

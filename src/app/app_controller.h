@@ -151,7 +151,8 @@ class NDAppController : public ActionTarget {
 
     /// While it lives all changes take that long, whatever "FadeSeconds" says. By itself what is
     /// done by hand, by the automation or to the settings of the effects takes as long as that
-    /// says; all else, and what gives the displays back at the end, is there at once.
+    /// says, and a point of the schedule as "ScheduleFadeMinutes" says; all else, and what gives
+    /// the displays back at the end, is there at once.
     Fades::Change changeOver(Fades::Length length) const { return {fades_, length}; }
 
     /// What "FadeSeconds" says.
@@ -253,6 +254,7 @@ class NDAppController : public ActionTarget {
     void bringEffectBack(std::function<void(bool launched)> finished);
     void restoreEffect();
     void followRuling();
+    Fades::Length lengthOfRuledFades() const;
     bool isWanted() const;
     void takeRuledEffects();
     std::shared_ptr<NDEffect> effectInForce(CGDirectDisplayID display) const;

@@ -95,6 +95,16 @@ void NDAppController::pause(std::string_view words) {
     }
 }
 
+Fades::Length NDAppController::lengthOfRuledFades() const {
+    if (automation_ == nullptr || !automation_->isAtPoint() || ruling().by != Ruler::schedule) {
+        return lengthOfFades();
+    }
+    const std::chrono::duration<float, std::ratio<60>> minutes(
+        std::clamp(defaults_.floatForKey(kScheduleFadeMinutes), kScheduleFadeMinutes.lowest,
+                   kScheduleFadeMinutes.highest));
+    return std::max(lengthOfFades(), std::chrono::duration_cast<Fades::Length>(minutes));
+}
+
 void NDAppController::followRuling() {
     if (!isReady() || paused_) {
         return; // the end of the screen saver asks again
@@ -106,7 +116,7 @@ void NDAppController::followRuling() {
     if (paused_) {
         return;
     }
-    const auto change = changeOver(lengthOfFades());
+    const auto change = changeOver(lengthOfRuledFades());
     if (isOn || effectActive()) {
         switchEffect(isOn);
     } else {

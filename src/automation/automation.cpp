@@ -309,6 +309,11 @@ void Automation::lookAtClock() {
     }
 }
 
+bool Automation::isAtPoint() const {
+    constexpr std::chrono::seconds kLate{2};
+    return around_.current && now() - around_.current->moment < kLate;
+}
+
 void Automation::awaitNext() {
     const auto pause = pauses_.claim();
     const auto moment = earlier(pause ? pause->until : std::nullopt,

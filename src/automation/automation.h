@@ -101,6 +101,10 @@ class Automation {
     /// By the clock that it follows.
     Moment now() const { return clock_.now(); }
 
+    /// Whether a point of the schedule has come just now: not one that was slept through, or that
+    /// was there before the schedule was changed.
+    bool isAtPoint() const;
+
   private:
     struct AppliedLook {
         EffectDocument effects;

@@ -1,8 +1,21 @@
 #include "displays/fading_hardware.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace nocturo {
+
+namespace {
+
+// The steps of a change that takes minutes are smaller than the eye sees long before they are a
+// frame apart, and each of them wakes the machine.
+constexpr int kMostSteps = 600;
+
+Fades::Length frameOf(Fades::Length length) {
+    return std::max<Fades::Length>(FadingHardware::kFrame, length / kMostSteps);
+}
+
+} // namespace
 
 FadingHardware::FadingHardware(std::unique_ptr<GammaHardware> hardware, Fades& fades,
                                RunLoop& runLoop, Clock clock)
@@ -55,6 +68,7 @@ bool FadingHardware::writeRamp(std::uint32_t crtc, const Ramp& ramp) {
             fade.turn(ramp); // and the next frame shows it
             found->second.start = clock_();
             found->second.length = length;
+            keepPace();
             return true;
         }
         underWay_.erase(found);
@@ -72,15 +86,24 @@ bool FadingHardware::begin(std::uint32_t crtc, const Ramp& ramp, Fades::Length l
         return false;
     }
     underWay_.emplace(crtc, std::move(fade));
-    if (frames_ == nullptr) {
-        frames_ = runLoop_.scheduleRepeatingTimer(kFrame, [this] { showNextFrame(); });
-    }
+    keepPace();
     return true;
+}
+
+void FadingHardware::keepPace() {
+    Fades::Length pace = Fades::Length::max();
+    for (const auto& [crtc, fade] : underWay_) {
+        pace = std::min(pace, frameOf(fade.length));
+    }
+    if (frames_ == nullptr || pace != pace_) {
+        pace_ = pace;
+        frames_ = runLoop_.scheduleRepeatingTimer(pace_, [this] { showNextFrame(); });
+    }
 }
 
 // What is shown at a moment is there until the next frame, so it is that of the frame's end.
 float FadingHardware::shareOf(const Fade& fade) const {
-    const std::chrono::duration<float> shown = clock_() - fade.start + kFrame;
+    const std::chrono::duration<float> shown = clock_() - fade.start + frameOf(fade.length);
     return shown / std::chrono::duration<float>(fade.length);
 }
 
@@ -92,7 +115,11 @@ void FadingHardware::showNextFrame() {
         hardware_->writeRamp(crtc, share < 1 ? fade.ramp.at(share) : fade.ramp.end());
         each = share < 1 ? std::next(each) : underWay_.erase(each);
     }
-    endAwaited();
+    if (underWay_.empty()) {
+        endAwaited();
+    } else {
+        keepPace();
+    }
     if (look_) {
         look_(); // what was read on the way may tell of changes
     }

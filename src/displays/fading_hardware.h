@@ -17,7 +17,8 @@
 namespace nocturo {
 
 /// Hardware that shows a new ramp little by little, as long as the fades say: the first step at
-/// once, the others a frame apart, and at the end the very ramp. To whoever reads it the new ramp
+/// once, the others a frame apart, or less often where nobody could see the steps, and at the end
+/// the very ramp. To whoever reads it the new ramp
 /// is there from the beginning, so nobody takes a step on the way for anything.
 class FadingHardware final : public GammaHardware {
   public:
@@ -58,6 +59,7 @@ class FadingHardware final : public GammaHardware {
 
     bool begin(std::uint32_t crtc, const Ramp& ramp, Fades::Length length);
     float shareOf(const Fade& fade) const;
+    void keepPace();
     void showNextFrame();
     void finish();
     void endAwaited();
@@ -69,6 +71,7 @@ class FadingHardware final : public GammaHardware {
     std::function<void()> look_;
     std::map<std::uint32_t, Fade> underWay_; // by CRTC
     std::unique_ptr<Timer> frames_;          // while there are some
+    Fades::Length pace_{0};                  // from one to the next
     bool isEndAwaited_ = false;
 };
 

@@ -42,5 +42,6 @@ inline constexpr RealSetting kColorFilterHue{"NDColorFilterEffectHue", 0.0F, 0.0
 inline constexpr RealSetting kColorFilterVividness{"NDColorFilterEffectVividness", 1.0F, 0.0F,
                                                    1.0F};
 inline constexpr RealSetting kFadeSeconds{"FadeSeconds", 0.0F, 0.0F, 5.0F};
+inline constexpr RealSetting kScheduleFadeMinutes{"ScheduleFadeMinutes", 0.0F, 0.0F, 60.0F};
 
 } // namespace nocturo

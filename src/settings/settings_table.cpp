@@ -24,9 +24,9 @@ Setting number(const RealSetting& setting, ListedText meaning) {
             false,       meaning,           SettingRange{setting.lowest, setting.highest}};
 }
 
-const std::array<Setting, 23>& rows() {
+const std::array<Setting, 24>& rows() {
     using enum SettingType;
-    static const std::array<Setting, 23> table = {{
+    static const std::array<Setting, 24> table = {{
         {kGroupEffect, effectNames, PropertyArray(), true, ListedText("the selected effects")},
         {kActivateAtLaunch, boolean, true, true, ListedText("switch the effect on at every start")},
         {kActivateOnClick, boolean, true, true,
@@ -54,6 +54,8 @@ const std::array<Setting, 23>& rows() {
          ListedText("the schedule: times with looks or off")},
         {kPlace, place, std::string(), false,
          ListedText("where the sun is looked at; empty: by the time zone")},
+        number(kScheduleFadeMinutes,
+               ListedText("minutes that a change by the schedule fades for, 0 to 60")),
         {kUseRules, boolean, true, true, ListedText("switch and choose looks by the rules")},
         {kRules, rules, PropertyArray(), false,
          ListedText("the rules: what is in front, with looks or off")},

@@ -115,7 +115,7 @@ TEST_F(ControlOfRunning, SettingsGoThereAndBack) {
     const Json before = status();
     EXPECT_EQ(before["displayServices"], "simulated");
     EXPECT_EQ(before["displays"].size(), 3U);
-    EXPECT_EQ(before["settings"].size(), 23U);
+    EXPECT_EQ(before["settings"].size(), 24U);
     const struct {
         const char* key;
         const char* typed;

@@ -1,7 +1,7 @@
 // Changes that take their time, as displays show them and as everybody else sees them.
 
 #include "app/keep_colors.h"
-#include "controller_fixture.h"
+#include "automation_fixture.h"
 #include "displays/display_gamma.h"
 #include "displays/fading_hardware.h"
 #include "effects/dim_effect.h"
@@ -96,6 +96,33 @@ TEST_F(FadesTest, AnotherChangeStartsFromWhatIsShown) {
     controller_.setEffectActive(false, true);
     runLoop_.advance(1000);
     EXPECT_TRUE(hardware_.ramps == own_);
+}
+
+TEST_F(FadesTest, APointOfTheScheduleComesOverMinutes) {
+    using namespace std::chrono_literals;
+    const TimeZone zone("UTC");
+    const TemporaryDirectory home;
+    FakeWallClock clock(AutomationTest::kNoon);
+    Looks looks("/nowhere", home / "looks", center_);
+    Automation automation(*store_, center_, clock, runLoop_, looks, home.path());
+    controller_.setAutomation(&automation);
+    automation.start();
+    const double light = lightness(200);
+    store_->setFloat(30, kScheduleFadeMinutes.key);
+    store_->setObject(PropertyArray{"13:00 off", "14:00 Gone"}, kSchedule);
+    store_->setBool(true, kUseSchedule);
+    controller_.setEffectActive(true, true);
+    runLoop_.advance(1000);
+    EXPECT_TRUE(hardware_.ramps == inverted_) << "by hand";
+    const double dark = lightness(200);
+    hardware_.writes.clear();
+    clock.passTo(AutomationTest::kNoon + 1h);
+    runLoop_.advance(15 * 60'000);
+    EXPECT_NEAR(lightness(200), (light + dark) / 2, 0.002);
+    EXPECT_NEAR(static_cast<double>(hardware_.writes.size()), 600, 4);
+    runLoop_.advance(15 * 60'000);
+    EXPECT_TRUE(hardware_.ramps == own_);
+    controller_.setAutomation(nullptr);
 }
 
 TEST_F(FadesTest, NobodySeesAStepOnTheWay) {
