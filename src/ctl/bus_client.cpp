@@ -83,7 +83,6 @@ void BusClient::callSetSetting(const std::string& key, const PropertyValue& valu
     check(sd_bus_message_append(message.get(), "s", key.c_str()));
     appendVariant(message.get(), busValue(value));
     send(message);
-    callWith("SaveSettings", {});
 }
 
 std::string BusClient::renderPreview(std::uint32_t display) {

@@ -55,9 +55,10 @@ class BusClient {
     /// The same for what changes settings, which are on the disk afterwards.
     template <class... Arguments>
     void callAndSave(const char* method, const Arguments&... arguments) {
-        callWith(method, {BusValue(arguments)...});
-        callWith("SaveSettings", {});
+        call(method, arguments...);
+        saveSettings();
     }
+    void saveSettings() { call("SaveSettings"); }
 
     /// Calls each Nocturo that comes after the one that runs now, from loop(), whatever it answers.
     [[nodiscard]] std::unique_ptr<BusSlot> callThoseToCome(const char* method,
@@ -68,7 +69,7 @@ class BusClient {
     /// A picture in PNG of what the effects do on the display of that identifier.
     std::string renderPreview(std::uint32_t display);
 
-    /// `value` is of a type that a setting can have. It is on the disk afterwards.
+    /// `value` is of a type that a setting can have.
     void callSetSetting(const std::string& key, const PropertyValue& value);
 
     /// All properties, their names with a small first letter: {"active": true, ...}. Those that

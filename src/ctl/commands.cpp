@@ -115,6 +115,7 @@ void runSet(Arguments arguments) {
         checkDisplays(client.properties(), value);
     }
     client.callSetSetting(own[0], value);
+    client.saveSettings();
 }
 
 void runReset(Arguments arguments) {
@@ -161,6 +162,7 @@ void runHotKey(Arguments arguments) {
         client.callAndSave("SetHotKey", std::string());
     } else if ((how == "enable" || how == "disable") && arguments.size() == 1) {
         client.callSetSetting("UseHotKey", how == "enable");
+        client.saveSettings();
     } else {
         expect(arguments.empty());
     }

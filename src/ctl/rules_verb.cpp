@@ -86,7 +86,9 @@ void runRules(Arguments arguments) {
         }
     } else if (how == "on" || how == "off") {
         expect(arguments.size() == 1);
-        BusClient().callSetSetting("UseRules", how == "on");
+        BusClient client;
+        client.callSetSetting("UseRules", how == "on");
+        client.saveSettings();
     } else if (how == "add") {
         expect(words.size() > 1 && !asJson);
         BusClient().callAndSave("AddRule", ruleFrom(words.subspan(1)));

@@ -97,7 +97,9 @@ void runSchedule(Arguments arguments) {
         }
     } else if (how == "on" || how == "off") {
         expect(arguments.size() == 1);
-        BusClient().callSetSetting("UseSchedule", how == "on");
+        BusClient client;
+        client.callSetSetting("UseSchedule", how == "on");
+        client.saveSettings();
     } else if (how == "add") {
         expect(arguments.size() > 1);
         BusClient client;

@@ -129,6 +129,7 @@ void runScreens(Arguments arguments) {
     } else if (how == "only") {
         const Displays sorted(named.begin(), named.end());
         client.callSetSetting("AffectedScreenSet", PropertyArray(sorted.begin(), sorted.end()));
+        client.saveSettings();
     } else {
         client.callAndSave(how == "add" ? "AddScreens" : "RemoveScreens", named);
     }
