@@ -43,7 +43,7 @@ class BusFace {
     /// Names and reads keys by this layout, which must outlive the face; null for none.
     void setKeyboardLayout(KeyboardLayout* layout);
 
-    /// Keeps the settings, and must outlive the face; without it they are in memory alone.
+    /// Keeps the settings while calls are served; without it they are in memory alone.
     void setSettingsKeeper(SettingsKeeper* keeper) { keeper_ = keeper; }
 
     /// Announces changes from now on. Each is announced from the event loop, once everybody else
