@@ -53,10 +53,11 @@ if [ -n "$looks" ]; then
     xrandr -s 1024x600
     take 1 "$window" "$looks/$window-1024x600.png"
     xrandr -s 1280x720
-    for language in en fr; do
-      LANGUAGE=$language take 1.5 "$window" "$looks/$window-1280x720-$language.png"
-    done
+    take 1.5 "$window" "$looks/$window-1280x720.png"
     xrandr -s 2048x1536
+    for language in en de es fr ja pt_BR zh_CN; do
+      LANGUAGE=$language take 1.5 "$window" "$looks/$window-low-$language.png" low
+    done
   done
 else
   for window in preferences switching schedule rules about keep status-menu; do

@@ -40,14 +40,6 @@
             <translation>Looks und Effekte</translation>
         </message>
         <message>
-            <source>Looks</source>
-            <translation>Looks</translation>
-        </message>
-        <message>
-            <source>Effects</source>
-            <translation>Effekte</translation>
-        </message>
-        <message>
             <source>&amp;Invert</source>
             <translation>&amp;Invertieren</translation>
         </message>
@@ -112,16 +104,20 @@
             <translation>Verschiebt alle Farben in Richtung Schwarz oder Weiß</translation>
         </message>
         <message>
-            <source>&amp;Level:</source>
-            <translation>Stä&amp;rke:</translation>
+            <source>Level</source>
+            <translation>Stärke</translation>
         </message>
         <message>
             <source>Negative values make the screen darker, positive ones lighter</source>
             <translation>Negative Werte machen den Bildschirm dunkler, positive heller</translation>
         </message>
         <message>
-            <source>Preview</source>
-            <translation>Vorschau</translation>
+            <source>A&amp;pply to:</source>
+            <translation>A&amp;nwenden auf:</translation>
+        </message>
+        <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>Die Bildschirme, auf die der Effekt angewendet wird</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
@@ -146,18 +142,6 @@
         <message>
             <source>What this screen shows in place of the effects of all, also when it comes back</source>
             <translation>Was dieser Bildschirm statt der Effekte aller zeigt, auch wenn er wiederkommt</translation>
-        </message>
-        <message>
-            <source>Screens</source>
-            <translation>Bildschirme</translation>
-        </message>
-        <message>
-            <source>A&amp;pply to:</source>
-            <translation>A&amp;nwenden auf:</translation>
-        </message>
-        <message>
-            <source>The screens that the effect is applied to</source>
-            <translation>Die Bildschirme, auf die der Effekt angewendet wird</translation>
         </message>
         <message>
             <source>Switching</source>

@@ -40,14 +40,6 @@
             <translation>Aspectos y efectos</translation>
         </message>
         <message>
-            <source>Looks</source>
-            <translation>Aspectos</translation>
-        </message>
-        <message>
-            <source>Effects</source>
-            <translation>Efectos</translation>
-        </message>
-        <message>
             <source>&amp;Invert</source>
             <translation>&amp;Invertir</translation>
         </message>
@@ -112,16 +104,20 @@
             <translation>Acerca todos los colores al negro o al blanco</translation>
         </message>
         <message>
-            <source>&amp;Level:</source>
-            <translation>Nive&amp;l:</translation>
+            <source>Level</source>
+            <translation>Nivel</translation>
         </message>
         <message>
             <source>Negative values make the screen darker, positive ones lighter</source>
             <translation>Los valores negativos oscurecen la pantalla y los positivos la aclaran</translation>
         </message>
         <message>
-            <source>Preview</source>
-            <translation>Vista previa</translation>
+            <source>A&amp;pply to:</source>
+            <translation>A&amp;plicar a:</translation>
+        </message>
+        <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>Las pantallas a las que se aplica el efecto</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
@@ -146,18 +142,6 @@
         <message>
             <source>What this screen shows in place of the effects of all, also when it comes back</source>
             <translation>Lo que muestra esta pantalla en lugar de los efectos de todas, también cuando vuelva</translation>
-        </message>
-        <message>
-            <source>Screens</source>
-            <translation>Pantallas</translation>
-        </message>
-        <message>
-            <source>A&amp;pply to:</source>
-            <translation>A&amp;plicar a:</translation>
-        </message>
-        <message>
-            <source>The screens that the effect is applied to</source>
-            <translation>Las pantallas a las que se aplica el efecto</translation>
         </message>
         <message>
             <source>Switching</source>

@@ -40,14 +40,6 @@
             <translation>Apparences et effets</translation>
         </message>
         <message>
-            <source>Looks</source>
-            <translation>Apparences</translation>
-        </message>
-        <message>
-            <source>Effects</source>
-            <translation>Effets</translation>
-        </message>
-        <message>
             <source>&amp;Invert</source>
             <translation>&amp;Inverser</translation>
         </message>
@@ -112,16 +104,20 @@
             <translation>Rapproche toutes les couleurs du noir ou du blanc</translation>
         </message>
         <message>
-            <source>&amp;Level:</source>
-            <translation>&amp;Niveau :</translation>
+            <source>Level</source>
+            <translation>Niveau</translation>
         </message>
         <message>
             <source>Negative values make the screen darker, positive ones lighter</source>
             <translation>Les valeurs négatives assombrissent l’écran, les positives l’éclaircissent</translation>
         </message>
         <message>
-            <source>Preview</source>
-            <translation>Aperçu</translation>
+            <source>A&amp;pply to:</source>
+            <translation>Appli&amp;quer à :</translation>
+        </message>
+        <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>Les écrans auxquels l’effet est appliqué</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
@@ -146,18 +142,6 @@
         <message>
             <source>What this screen shows in place of the effects of all, also when it comes back</source>
             <translation>Ce que cet écran montre à la place des effets de tous, aussi quand il revient</translation>
-        </message>
-        <message>
-            <source>Screens</source>
-            <translation>Écrans</translation>
-        </message>
-        <message>
-            <source>A&amp;pply to:</source>
-            <translation>Appli&amp;quer à :</translation>
-        </message>
-        <message>
-            <source>The screens that the effect is applied to</source>
-            <translation>Les écrans auxquels l’effet est appliqué</translation>
         </message>
         <message>
             <source>Switching</source>

@@ -40,14 +40,6 @@
             <translation>ルックと効果</translation>
         </message>
         <message>
-            <source>Looks</source>
-            <translation>ルック</translation>
-        </message>
-        <message>
-            <source>Effects</source>
-            <translation>効果</translation>
-        </message>
-        <message>
             <source>&amp;Invert</source>
             <translation>反転(&amp;I)</translation>
         </message>
@@ -112,16 +104,20 @@
             <translation>すべての色を黒または白に近づけます</translation>
         </message>
         <message>
-            <source>&amp;Level:</source>
-            <translation>レベル(&amp;L)：</translation>
+            <source>Level</source>
+            <translation>レベル</translation>
         </message>
         <message>
             <source>Negative values make the screen darker, positive ones lighter</source>
             <translation>負の値で画面が暗く、正の値で明るくなります</translation>
         </message>
         <message>
-            <source>Preview</source>
-            <translation>プレビュー</translation>
+            <source>A&amp;pply to:</source>
+            <translation>適用先(&amp;P)：</translation>
+        </message>
+        <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>効果を適用する画面</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
@@ -146,18 +142,6 @@
         <message>
             <source>What this screen shows in place of the effects of all, also when it comes back</source>
             <translation>この画面が全画面共通の効果の代わりに表示するもの。再接続後も同じです</translation>
-        </message>
-        <message>
-            <source>Screens</source>
-            <translation>画面</translation>
-        </message>
-        <message>
-            <source>A&amp;pply to:</source>
-            <translation>適用先(&amp;P)：</translation>
-        </message>
-        <message>
-            <source>The screens that the effect is applied to</source>
-            <translation>効果を適用する画面</translation>
         </message>
         <message>
             <source>Switching</source>

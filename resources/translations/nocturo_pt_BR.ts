@@ -40,14 +40,6 @@
             <translation>Visuais e efeitos</translation>
         </message>
         <message>
-            <source>Looks</source>
-            <translation>Visuais</translation>
-        </message>
-        <message>
-            <source>Effects</source>
-            <translation>Efeitos</translation>
-        </message>
-        <message>
             <source>&amp;Invert</source>
             <translation>&amp;Inverter</translation>
         </message>
@@ -112,16 +104,20 @@
             <translation>Aproxima todas as cores do preto ou do branco</translation>
         </message>
         <message>
-            <source>&amp;Level:</source>
-            <translation>&amp;Nível:</translation>
+            <source>Level</source>
+            <translation>Nível</translation>
         </message>
         <message>
             <source>Negative values make the screen darker, positive ones lighter</source>
             <translation>Valores negativos escurecem a tela, positivos a clareiam</translation>
         </message>
         <message>
-            <source>Preview</source>
-            <translation>Pré-visualização</translation>
+            <source>A&amp;pply to:</source>
+            <translation>A&amp;plicar a:</translation>
+        </message>
+        <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>As telas em que o efeito é aplicado</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
@@ -146,18 +142,6 @@
         <message>
             <source>What this screen shows in place of the effects of all, also when it comes back</source>
             <translation>O que esta tela mostra no lugar dos efeitos de todas, também quando voltar</translation>
-        </message>
-        <message>
-            <source>Screens</source>
-            <translation>Telas</translation>
-        </message>
-        <message>
-            <source>A&amp;pply to:</source>
-            <translation>A&amp;plicar a:</translation>
-        </message>
-        <message>
-            <source>The screens that the effect is applied to</source>
-            <translation>As telas em que o efeito é aplicado</translation>
         </message>
         <message>
             <source>Switching</source>

@@ -40,14 +40,6 @@
             <translation>外观与效果</translation>
         </message>
         <message>
-            <source>Looks</source>
-            <translation>外观方案</translation>
-        </message>
-        <message>
-            <source>Effects</source>
-            <translation>效果</translation>
-        </message>
-        <message>
             <source>&amp;Invert</source>
             <translation>反转(&amp;I)</translation>
         </message>
@@ -112,16 +104,20 @@
             <translation>使所有颜色趋向黑色或白色</translation>
         </message>
         <message>
-            <source>&amp;Level:</source>
-            <translation>程度(&amp;L)：</translation>
+            <source>Level</source>
+            <translation>程度</translation>
         </message>
         <message>
             <source>Negative values make the screen darker, positive ones lighter</source>
             <translation>负值使屏幕变暗，正值使屏幕变亮</translation>
         </message>
         <message>
-            <source>Preview</source>
-            <translation>预览</translation>
+            <source>A&amp;pply to:</source>
+            <translation>应用于(&amp;P)：</translation>
+        </message>
+        <message>
+            <source>The screens that the effect is applied to</source>
+            <translation>应用效果的屏幕</translation>
         </message>
         <message>
             <source>Sho&amp;w:</source>
@@ -146,18 +142,6 @@
         <message>
             <source>What this screen shows in place of the effects of all, also when it comes back</source>
             <translation>此屏幕显示的外观方案，代替所有屏幕的效果，重新连接后依然有效</translation>
-        </message>
-        <message>
-            <source>Screens</source>
-            <translation>屏幕</translation>
-        </message>
-        <message>
-            <source>A&amp;pply to:</source>
-            <translation>应用于(&amp;P)：</translation>
-        </message>
-        <message>
-            <source>The screens that the effect is applied to</source>
-            <translation>应用效果的屏幕</translation>
         </message>
         <message>
             <source>Switching</source>

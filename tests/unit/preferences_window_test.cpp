@@ -242,6 +242,17 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained)
         "closeButton");
 }
 
+TEST_F(PreferencesWindow, FitsASmallScreenWithLargeText) {
+    show();
+    controller.window()->resize(640, 333); // of 960 x 500 at 150 %
+    QCoreApplication::processEvents();
+    const auto& page = find<QScrollArea>("effectsPage");
+    EXPECT_EQ(page.verticalScrollBar()->maximum() + page.horizontalScrollBar()->maximum(), 0);
+    EXPECT_FALSE(find<QWidget>("openButton").isVisible());
+    controller.window()->resize(900, 600);
+    EXPECT_TRUE(find<QWidget>("openButton").isVisible());
+}
+
 TEST_F(PreferencesWindow, HasASwitchThatFollowsTheEffect) {
     show();
     QTest::keyClick(controller.window(), Qt::Key_E, Qt::ControlModifier);

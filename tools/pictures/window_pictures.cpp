@@ -1,5 +1,5 @@
 // Shows one window of Nocturo on the X server, in the looks asked for, and keeps what the server
-// shows: window_pictures WINDOW FILE [dark] [rtl] [long] [tall]
+// shows: window_pictures WINDOW FILE [dark] [rtl] [long] [tall | low]
 
 #include "app/app_controller.h"
 #include "app/app_menus.h"
@@ -172,6 +172,8 @@ int run(const QStringList& arguments) {
     if (QWidget* shown = windows.shownPreferences();
         shown != nullptr && arguments.contains(QLatin1String("tall"))) {
         shown->resize(shown->width(), 2 * shown->width());
+    } else if (shown != nullptr && arguments.contains(QLatin1String("low"))) {
+        shown->resize(640, 333); // 960 x 500 with text at 150 %
     }
     QTimer::singleShot(1000, [&] {
         QRect area;
@@ -197,7 +199,7 @@ int main(int argc, char** argv) {
     installTranslations(*QCoreApplication::instance());
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
-        std::fputs("Usage: window_pictures WINDOW FILE [dark] [rtl] [long] [tall]\n", stderr);
+        std::fputs("Usage: window_pictures WINDOW FILE [dark] [rtl] [long] [tall | low]\n", stderr);
         return 2;
     }
     QApplication::setQuitOnLastWindowClosed(false);

@@ -19,7 +19,7 @@ namespace {
 constexpr int kWheelNotch = 120;
 constexpr double kMiddlePull = 3.0; // logical pixels
 constexpr double kTrackEnd = 4.0;   // beyond where the handle's middle gets
-constexpr int kLeastLength = 9;     // handles
+constexpr int kLeastLength = 6;     // handles
 
 } // namespace
 

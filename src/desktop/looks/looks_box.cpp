@@ -36,7 +36,7 @@ LooksBox::LooksBox(QWidget* parent)
                             localized("Keeps the effects under a name of your own"))),
       menuButton_(newButton(this, localized("Change"),
                             localized("Renames, moves or deletes the look that is marked"))),
-      menu_(new QMenu(this)) {
+      buttons_(new QVBoxLayout), menu_(new QMenu(this)) {
     setFocusProxy(row_);
     row_->setObjectName(QStringLiteral("looksRow"));
     row_->setAccessibleName(localized("Looks"));
@@ -44,14 +44,13 @@ LooksBox::LooksBox(QWidget* parent)
     saveButton_->setObjectName(QStringLiteral("saveLook"));
     menuButton_->setObjectName(QStringLiteral("changeLook"));
     makeMenu();
-    auto* buttons = new QVBoxLayout;
-    buttons->addWidget(saveButton_);
-    buttons->addWidget(menuButton_);
-    buttons->addStretch();
+    buttons_->addWidget(saveButton_);
+    buttons_->addWidget(menuButton_);
+    buttons_->addStretch();
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(row_, 1, Qt::AlignTop);
-    layout->addLayout(buttons);
+    layout->addLayout(buttons_);
     connect(saveButton_, &QToolButton::clicked, this, &LooksBox::askForName);
     connect(row_, &LooksRow::renameWanted, this, &LooksBox::askForOtherName);
     connect(row_, &LooksRow::removalWanted, this, &LooksBox::askWhetherToRemove);
@@ -101,6 +100,11 @@ void LooksBox::tick() {
     if (chosen_ != nullptr) {
         row_->setInForce(shown_ ? shown_() : chosen_->nameInForce());
     }
+}
+
+void LooksBox::setTight(bool isTight) {
+    row_->setTight(isTight);
+    buttons_->setSpacing(isTight ? 2 : -1);
 }
 
 void LooksBox::setCurves(const PreviewCurves& curves) {

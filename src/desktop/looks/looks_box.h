@@ -9,6 +9,7 @@
 
 class QMenu;
 class QToolButton;
+class QVBoxLayout;
 
 namespace nocturo {
 
@@ -36,6 +37,9 @@ class LooksBox : public QWidget {
     /// Shows which look is in force now.
     void tick();
 
+    /// Whether there is little room; there is enough at first.
+    void setTight(bool isTight);
+
     /// What the pictures are drawn from.
     void setCurves(const PreviewCurves& curves);
 
@@ -53,6 +57,7 @@ class LooksBox : public QWidget {
     LooksRow* row_;
     QToolButton* saveButton_;
     QToolButton* menuButton_;
+    QVBoxLayout* buttons_;
     QMenu* menu_;
 };
 

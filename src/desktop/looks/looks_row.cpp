@@ -23,15 +23,9 @@ namespace {
 constexpr int kMargin = 5;
 constexpr int kFrame = 3; // around the picture of the look in force
 
-QSize pictureSize(const QFontMetrics& metrics) {
-    const int height = static_cast<int>(std::lround(metrics.height() * 4.2));
-    return {static_cast<int>(std::lround(height * kPictureShape)), height};
-}
-
-QSize tileSizeFor(const QFontMetrics& metrics) {
-    return pictureSize(metrics) + QSize(2 * kMargin + metrics.height(), 3 * kMargin) +
-           QSize(0, metrics.height());
-}
+// Of a picture, in lines of text.
+constexpr double kHeight = 4.2;
+constexpr double kTightHeight = 2.1;
 
 bool isPickingKey(int key) {
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -42,16 +36,16 @@ class LookDelegate : public QStyledItemDelegate {
   public:
     explicit LookDelegate(LooksRow& row) : QStyledItemDelegate(&row), row_(row) {}
 
-    QSize sizeHint(const QStyleOptionViewItem& option,
+    QSize sizeHint(const QStyleOptionViewItem& /*option*/,
                    const QModelIndex& /*index*/) const override {
-        return tileSizeFor(option.fontMetrics);
+        return row_.tileSize();
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         painter->save();
         const QPalette& palette = option.palette;
-        const QSize size = pictureSize(option.fontMetrics);
+        const QSize size = row_.pictureSize();
         const QRect place(option.rect.center().x() - size.width() / 2, option.rect.top() + kMargin,
                           size.width(), size.height());
         const double ratio = painter->device()->devicePixelRatioF();
@@ -181,13 +175,13 @@ const QImage& LooksRow::picture(int row, QSize pixels) {
 }
 
 QSize LooksRow::minimumSizeHint() const {
-    return {tileSize().width() * 2, sizeHint().height()};
+    return {leastTileWidth() * 3, sizeHint().height()};
 }
 
 QSize LooksRow::sizeHint() const {
-    const QSize tile = tileSize();
-    return {tile.width() * std::clamp(count(), 1, 6) + 2 * frameWidth(),
-            tile.height() + 2 * frameWidth() +
+    return {(leastTileWidth() + fontMetrics().height()) * std::clamp(count(), 1, 6) +
+                2 * frameWidth(),
+            tileSize().height() + 2 * frameWidth() +
                 (scrolls_ ? horizontalScrollBar()->sizeHint().height() : 0)};
 }
 
@@ -195,12 +189,33 @@ void LooksRow::pick(const QListWidgetItem& item) {
     Q_EMIT picked(QString::fromStdString(looks_[static_cast<std::size_t>(row(&item))].name));
 }
 
+QSize LooksRow::pictureSize() const {
+    const int height =
+        static_cast<int>(std::lround(fontMetrics().height() * (isTight_ ? kTightHeight : kHeight)));
+    return {static_cast<int>(std::lround(height * kPictureShape)), height};
+}
+
+int LooksRow::leastTileWidth() const {
+    return pictureSize().width() + 2 * kMargin;
+}
+
+/// Titles have the room that there is; the row scrolls only once the pictures have none.
 QSize LooksRow::tileSize() const {
-    return tileSizeFor(fontMetrics());
+    const int share = viewport()->width() / std::max(count(), 1);
+    const int widest = QFontMetrics(font()).height() * 8;
+    return {std::clamp(share, leastTileWidth(), std::max(widest, leastTileWidth())),
+            pictureSize().height() + 3 * kMargin + fontMetrics().height()};
+}
+
+void LooksRow::setTight(bool isTight) {
+    isTight_ = isTight;
+    scheduleDelayedItemsLayout();
+    makeRoomForBar();
+    updateGeometry();
 }
 
 void LooksRow::makeRoomForBar() {
-    const bool scrolls = tileSize().width() * count() > width() - 2 * frameWidth();
+    const bool scrolls = leastTileWidth() * count() > width() - 2 * frameWidth();
     if (std::exchange(scrolls_, scrolls) != scrolls) {
         updateGeometry();
     }
@@ -209,14 +224,13 @@ void LooksRow::makeRoomForBar() {
 void LooksRow::changeEvent(QEvent* event) {
     QListWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        scheduleDelayedItemsLayout();
-        makeRoomForBar();
-        updateGeometry();
+        setTight(isTight_);
     }
 }
 
 void LooksRow::resizeEvent(QResizeEvent* event) {
     QListWidget::resizeEvent(event);
+    scheduleDelayedItemsLayout();
     makeRoomForBar();
 }
 

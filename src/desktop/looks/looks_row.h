@@ -37,6 +37,13 @@ class LooksRow : public QListWidget {
     /// The picture of a row, in device pixels.
     const QImage& picture(int row, QSize pixels);
 
+    /// Half as high where there is little room; not at first.
+    void setTight(bool isTight);
+
+    /// Of a look's picture, and of all that is shown of it.
+    QSize pictureSize() const;
+    QSize tileSize() const;
+
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
@@ -60,7 +67,7 @@ class LooksRow : public QListWidget {
 
   private:
     void pick(const QListWidgetItem& item);
-    QSize tileSize() const;
+    int leastTileWidth() const;
     void makeRoomForBar();
     void paintGap();
     int gapAt(QPoint point) const;
@@ -71,6 +78,7 @@ class LooksRow : public QListWidget {
     PreviewCurves curves_;
     bool wasPainted_ = false;
     bool scrolls_ = false; // wider than the row
+    bool isTight_ = false;
     QPoint pressedAt_;
     int dragged_ = -1; // the row that is being dragged
     int gap_ = -1;     // before which it would go now; -1 where it would stay

@@ -60,6 +60,11 @@ void PreferencePanel::timerEvent(QTimerEvent* /*event*/) {
     }
 }
 
+void PreferencePanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    Q_EMIT resized();
+}
+
 void PreferencePanel::closeEvent(QCloseEvent* event) {
     event->setAccepted(closingDirectly_ || !shouldClose || shouldClose());
     if (event->isAccepted()) {

@@ -30,6 +30,9 @@ class PreferencePanel : public QWidget {
     /// It was closed, and is about to be hidden.
     void closed();
 
+    /// It has another size now.
+    void resized();
+
     /// It is on another screen now.
     void screenChanged();
 
@@ -39,6 +42,7 @@ class PreferencePanel : public QWidget {
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
   private:

@@ -121,7 +121,7 @@ void NDPreferencesController::windowDidLoad() {
         ui_->preview->setPlotShown(shown);
     });
     Q_EMIT ui_->showCurves->toggled(false);
-    ui_->looksGroup->setVisible(surroundings_.looks != nullptr);
+    ui_->looks->setVisible(surroundings_.looks != nullptr);
     if (surroundings_.looks != nullptr) {
         ui_->looks->setLooks(surroundings_.defaults, *surroundings_.looks, surroundings_.pickLook,
                              surroundings_.shownLook);
@@ -161,6 +161,7 @@ void NDPreferencesController::windowDidLoad() {
     });
     connect(panel_.get(), &PreferencePanel::screenChanged, this,
             &NDPreferencesController::displaysDidChange);
+    connect(panel_.get(), &PreferencePanel::resized, this, &NDPreferencesController::fitRoom);
     connect(ui_->closeButton, &QPushButton::clicked, panel_.get(), &QWidget::close);
 }
 
@@ -192,6 +193,40 @@ void NDPreferencesController::resignFirstResponder() {
     if (QWidget* focus = panel_->focusWidget()) {
         focus->clearFocus();
     }
+}
+
+/// On a small screen or with large text the window leaves out what the menu "File" has as well,
+/// and its parts draw together.
+void NDPreferencesController::fitRoom() {
+    const bool wasTight = ui_->closeButton->isHidden();
+    if (!wasTight) {
+        roomy_ = ui_->effectsPageContent->minimumSizeHint() + panel_->size() -
+                 ui_->pages->currentWidget()->size();
+    }
+    const bool isTight = panel_->size().expandedTo(roomy_) != panel_->size();
+    if (isTight == wasTight) {
+        return;
+    }
+    for (QWidget* button :
+         std::initializer_list<QWidget*>{ui_->openButton, ui_->saveButton, ui_->closeButton}) {
+        button->setVisible(!isTight);
+    }
+    const int space = isTight ? 2 : 6;
+    const int margin = isTight ? 4 : panel_->style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    for (QLayout* layout :
+         std::initializer_list<QLayout*>{ui_->panelLayout, ui_->effectsPageLayout}) {
+        layout->setContentsMargins(margin, margin, margin, margin);
+    }
+    for (QGridLayout* layout : {ui_->panelLayout, ui_->effectsPageLayout, ui_->previewLayout}) {
+        layout->setVerticalSpacing(space);
+    }
+    ui_->effectsLayout->setVerticalSpacing(isTight ? 2 : 9);
+    ui_->effectsLayout->removeItem(ui_->dimLayout);
+    ui_->effectsLayout->addItem(ui_->dimLayout, 5, 0, 1, isTight ? 4 : 3); // below the words, too
+    ui_->effectsPageLayout->setHorizontalSpacing(isTight ? 9 : 18);
+    ui_->showCurves->setToolButtonStyle(isTight ? Qt::ToolButtonIconOnly
+                                                : Qt::ToolButtonTextBesideIcon);
+    ui_->looks->setTight(isTight);
 }
 
 bool NDPreferencesController::windowShouldClose() {

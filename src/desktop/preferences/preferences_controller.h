@@ -169,6 +169,7 @@ class NDPreferencesController : public QObject {
     void connectDocuments();
     void connectPageKeys();
     void windowDidLoad();
+    void fitRoom();
     bool windowShouldClose();
     void resignFirstResponder();
     void updateEffects();
@@ -203,6 +204,7 @@ class NDPreferencesController : public QObject {
     std::unique_ptr<PreferencePanel> panel_;
     HotKeyGrantRow* hotKeyGrant_ = nullptr; // of the panel
     bool recordingHotKey_ = false;
+    QSize roomy_; // what the window takes with nothing left out
     std::unique_ptr<Menu> screensMenu_;
     std::unique_ptr<DrawnMenu> drawnScreensMenu_;
     std::unique_ptr<NDScreenOptionMenuManager> _screensMenuManager;

@@ -180,7 +180,7 @@ QSize EffectPreview::sizeHint() const {
 
 QSize EffectPreview::minimumSizeHint() const {
     const int em = fontMetrics().height();
-    return {14 * em, 7 * em};
+    return {10 * em, 4 * em};
 }
 
 void EffectPreview::paintEvent(QPaintEvent* /*event*/) {
