@@ -1,4 +1,5 @@
 #include "automation/pauses.h"
+#include "automation/x11/x_window_facts.h"
 #include "displays/calibration/calibration_profile.h"
 #include "displays/display_identifiers.h"
 #include "displays/guard/journal.h"
@@ -57,6 +58,10 @@ void readWhatHappensByItself(std::string_view words) {
     readWords(words, schedulePoint);
     readWords(words, ruleFromWords);
     readWords(words, displayLookFromWords);
+    for (const std::string& name : programNames(words)) {
+        need(name.size() <= words.size() && name.find('\0') == std::string::npos);
+        readWords(textOf(Rule{Rule::When::program, name, {}}), ruleFromWords);
+    }
     const auto place = placeFromText(words);
     need(!place || (std::abs(place->latitude) <= 90 && std::abs(place->longitude) <= 180));
     const Moment now{std::chrono::days(20000)};

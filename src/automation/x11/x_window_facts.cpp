@@ -116,23 +116,26 @@ bool isOfFacts(XConnection& server, xcb_atom_t property) {
            property == server.atom(kType) || property == server.atom(kDesktop);
 }
 
-std::vector<std::string> programOf(XConnection& server, xcb_window_t window) {
+std::vector<std::string> programNames(std::string_view windowClass) {
     std::vector<std::string> names;
+    while (!windowClass.empty() && names.size() < 2) {
+        const auto end = std::min(windowClass.find('\0'), windowClass.size());
+        names.emplace_back(windowClass.substr(0, end));
+        windowClass.remove_prefix(std::min(end + 1, windowClass.size()));
+    }
+    return names;
+}
+
+std::vector<std::string> programOf(XConnection& server, xcb_window_t window) {
     const auto cookie = xcb_get_property(server.handle(), false, window, XCB_ATOM_WM_CLASS,
                                          XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestClass);
     const XcbReply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(server.handle(), cookie, nullptr));
     if (!reply || reply->format != 8) {
-        return names;
+        return {};
     }
-    std::string_view rest(static_cast<const char*>(xcb_get_property_value(reply.get())),
-                          static_cast<std::size_t>(xcb_get_property_value_length(reply.get())));
-    while (!rest.empty() && names.size() < 2) { // the instance and the class
-        const auto end = std::min(rest.find('\0'), rest.size());
-        names.emplace_back(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    return names;
+    return programNames({static_cast<const char*>(xcb_get_property_value(reply.get())),
+                         static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))});
 }
 
 } // namespace nocturo

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace nocturo {
@@ -28,6 +29,10 @@ void expectAtomsOfFacts(XConnection& server);
 
 /// Whether a change of that property of a window may be one of its facts.
 bool isOfFacts(XConnection& server, xcb_atom_t property);
+
+/// The names in a window's class, which is its program's to write: the instance and the class, and
+/// nothing of what follows.
+std::vector<std::string> programNames(std::string_view windowClass);
 
 /// What the program of a window is called: both parts of its class; empty where it has none.
 std::vector<std::string> programOf(XConnection& server, xcb_window_t window);
