@@ -551,8 +551,8 @@
             <translation>„%@“ ist kein Effektdokument.</translation>
         </message>
         <message>
-            <source>Could not save settings at "%@".</source>
-            <translation>Die Einstellungen konnten nicht in „%@“ gespeichert werden.</translation>
+            <source>Could not save settings at "%@": %@.</source>
+            <translation>Die Einstellungen konnten nicht in „%@“ gespeichert werden: %@.</translation>
         </message>
         <message>
             <source>A temperature is from 1000 to 25000 K.</source>

@@ -551,8 +551,8 @@
             <translation>«%@» no es un documento de efecto.</translation>
         </message>
         <message>
-            <source>Could not save settings at "%@".</source>
-            <translation>No se pudieron guardar los ajustes en «%@».</translation>
+            <source>Could not save settings at "%@": %@.</source>
+            <translation>No se pudieron guardar los ajustes en «%@»: %@.</translation>
         </message>
         <message>
             <source>A temperature is from 1000 to 25000 K.</source>

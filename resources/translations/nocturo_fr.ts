@@ -551,8 +551,8 @@
             <translation>« %@ » n’est pas un document d’effet.</translation>
         </message>
         <message>
-            <source>Could not save settings at "%@".</source>
-            <translation>Impossible d’enregistrer les réglages dans « %@ ».</translation>
+            <source>Could not save settings at "%@": %@.</source>
+            <translation>Impossible d’enregistrer les réglages dans « %@ » : %@.</translation>
         </message>
         <message>
             <source>A temperature is from 1000 to 25000 K.</source>

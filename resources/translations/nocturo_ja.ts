@@ -551,8 +551,8 @@
             <translation>「%@」は効果のドキュメントではありません。</translation>
         </message>
         <message>
-            <source>Could not save settings at "%@".</source>
-            <translation>「%@」に設定を保存できませんでした。</translation>
+            <source>Could not save settings at "%@": %@.</source>
+            <translation>「%@」に設定を保存できませんでした：%@。</translation>
         </message>
         <message>
             <source>A temperature is from 1000 to 25000 K.</source>

@@ -551,8 +551,8 @@
             <translation>“%@” não é um documento de efeito.</translation>
         </message>
         <message>
-            <source>Could not save settings at "%@".</source>
-            <translation>Não foi possível salvar as configurações em “%@”.</translation>
+            <source>Could not save settings at "%@": %@.</source>
+            <translation>Não foi possível salvar as configurações em “%@”: %@.</translation>
         </message>
         <message>
             <source>A temperature is from 1000 to 25000 K.</source>

@@ -551,8 +551,8 @@
             <translation>“%@”不是效果文档。</translation>
         </message>
         <message>
-            <source>Could not save settings at "%@".</source>
-            <translation>无法将设置保存到“%@”。</translation>
+            <source>Could not save settings at "%@": %@.</source>
+            <translation>无法将设置保存到“%@”：%@。</translation>
         </message>
         <message>
             <source>A temperature is from 1000 to 25000 K.</source>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/result.h"
 #include "displays/display_services.h"
 
 #include <cstdint>
@@ -43,9 +44,9 @@ class UserInterface {
     /// The same, and takes it over also while the window is not loaded.
     virtual bool applyEffectFile(const std::string& path) = 0;
 
-    /// Writes what the preference window shows, or would show, to an effect document; false when
-    /// that failed.
-    virtual bool saveEffectFile(const std::string& path) = 0;
+    /// Writes what the preference window shows, or would show, to an effect document. The problem
+    /// is the system's word on why that failed.
+    virtual Result<void> saveEffectFile(const std::string& path) = 0;
 
     /// A PNG picture of what the effect does on an online display, whether it is on or not: its
     /// curves and a scene seen through them. Empty when nothing can be shown.

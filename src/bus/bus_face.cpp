@@ -319,8 +319,9 @@ BusAnswer BusFace::saveFile(const std::string& path) {
     if (!isAbsolute(path)) {
         return notAbsolute(path);
     }
-    if (!userInterface_.saveEffectFile(path)) {
-        return failure(translated("Could not save settings at \"%@\".", {path}));
+    if (const auto saved = userInterface_.saveEffectFile(path); !saved) {
+        return failure(
+            translated("Could not save settings at \"%@\": %@.", {path, saved.error().text}));
     }
     return {};
 }

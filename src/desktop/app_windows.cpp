@@ -256,7 +256,7 @@ bool AppWindows::applyEffectFile(const std::string& path) {
     return openEffectFile(path);
 }
 
-bool AppWindows::saveEffectFile(const std::string& path) {
+Result<void> AppWindows::saveEffectFile(const std::string& path) {
     loadPreferences();
     return preferencesController().writeEffectFile(QString::fromStdString(path));
 }

@@ -81,7 +81,7 @@ class AppWindows : public UserInterface {
     bool preferencesVisible() const override;
     bool openEffectFile(const std::string& path) override;
     bool applyEffectFile(const std::string& path) override;
-    bool saveEffectFile(const std::string& path) override;
+    Result<void> saveEffectFile(const std::string& path) override;
     std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) override;
 
   private:

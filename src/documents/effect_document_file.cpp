@@ -22,15 +22,18 @@ std::optional<EffectDocument> readEffectDocument(const std::filesystem::path& pa
     return effectDocument(contents.dictionary);
 }
 
-bool writeEffectDocument(const std::filesystem::path& path, const EffectDocument& document) {
+Result<void> writeEffectDocument(const std::filesystem::path& path,
+                                 const EffectDocument& document) {
     const bool hidden = isExtensionHidden(path); // on the file that goes
-    if (!writePropertyListFile(path, propertyDictionary(document), kReadableToWhomTheUmaskLets)) {
-        return false;
+    const auto written =
+        writePropertyListFile(path, propertyDictionary(document), kReadableToWhomTheUmaskLets);
+    if (!written) {
+        return tl::unexpected(written.error());
     }
     if (hidden) {
         setExtensionHidden(path, true);
     }
-    return true;
+    return {};
 }
 
 bool isExtensionHidden(const std::filesystem::path& path) {

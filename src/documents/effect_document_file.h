@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/result.h"
 #include "documents/effect_document.h"
 
 #include <filesystem>
@@ -17,10 +18,11 @@ inline constexpr std::string_view kEffectDocumentMimeType = "application/x-noctu
 /// property list or is no document. Never blocks on what is no ordinary file.
 std::optional<EffectDocument> readEffectDocument(const std::filesystem::path& path);
 
-/// Replaces the file at `path` as a whole; false when that failed, and then the old file, if there
-/// was one, is as it was. A link stays and its target is replaced; the permissions of an existing
-/// file and whether its extension is hidden are kept. Missing directories are not made.
-bool writeEffectDocument(const std::filesystem::path& path, const EffectDocument& document);
+/// Replaces the file at `path` as a whole. The problem is the system's word on why that failed;
+/// then the old file, if there was one, is as it was. A link stays and its target is replaced; the
+/// permissions of an existing file and whether its extension is hidden are kept. Missing
+/// directories are not made.
+Result<void> writeEffectDocument(const std::filesystem::path& path, const EffectDocument& document);
 
 /// Whether people are to see the file at `path` without its extension. False where the file system
 /// cannot keep that.

@@ -11,9 +11,11 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <fcntl.h>
 #include <strings.h>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 
 namespace nocturo {
@@ -118,8 +120,8 @@ tl::unexpected<Problem> noName(const std::string& name) {
     return failed(translated("\"%@\" cannot be the name of a look.", {name}));
 }
 
-tl::unexpected<Problem> notKept(const std::filesystem::path& place) {
-    return failed(translated("Could not save settings at \"%@\".", {place.string()}));
+tl::unexpected<Problem> notKept(const std::filesystem::path& place, const std::string& why) {
+    return failed(translated("Could not save settings at \"%@\": %@.", {place.string(), why}));
 }
 
 } // namespace
@@ -224,8 +226,8 @@ Result<void> Looks::save(const std::string& name, const EffectDocument& effects)
         return noName(name);
     }
     makePrivateDirectories(own_);
-    if (!writeEffectDocument(file(name), effects)) {
-        return notKept(file(name));
+    if (const auto written = writeEffectDocument(file(name), effects); !written) {
+        return notKept(file(name), written.error().text);
     }
     return changed();
 }
@@ -241,7 +243,7 @@ Result<void> Looks::rename(std::string_view name, const std::string& to) {
     if (::renameat2(AT_FDCWD, file((*look)->name).c_str(), AT_FDCWD, file(to).c_str(),
                     RENAME_NOREPLACE) != 0) {
         return errno == EEXIST ? failed(translated("There is a look \"%@\" already.", {to}))
-                               : notKept(file(to));
+                               : notKept(file(to), std::strerror(errno));
     }
     return changed();
 }
@@ -251,9 +253,8 @@ Result<void> Looks::remove(std::string_view name) {
     if (!look) {
         return tl::unexpected(look.error());
     }
-    std::error_code error;
-    if (!std::filesystem::remove(file((*look)->name), error)) {
-        return notKept(file((*look)->name));
+    if (::unlink(file((*look)->name).c_str()) != 0) {
+        return notKept(file((*look)->name), std::strerror(errno));
     }
     return changed();
 }
@@ -272,8 +273,10 @@ Result<void> Looks::move(std::string_view name, std::size_t place) {
     order.emplace(order.begin() + static_cast<std::ptrdiff_t>(std::min(place, order.size())),
                   look->name);
     makePrivateDirectories(own_);
-    if (!writePropertyListFile(own_ / kOrderFile, {{kOrder, std::move(order)}}, 0600)) {
-        return notKept(own_ / kOrderFile);
+    if (const auto written =
+            writePropertyListFile(own_ / kOrderFile, {{kOrder, std::move(order)}}, 0600);
+        !written) {
+        return notKept(own_ / kOrderFile, written.error().text);
     }
     return changed();
 }

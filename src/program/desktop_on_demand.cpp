@@ -200,7 +200,7 @@ bool DesktopOnDemand::applyEffectFile(const std::string& path) {
     return document.has_value();
 }
 
-bool DesktopOnDemand::saveEffectFile(const std::string& path) {
+Result<void> DesktopOnDemand::saveEffectFile(const std::string& path) {
     return part_ != nullptr ? part_->windows().saveEffectFile(path)
                             : writeEffectDocument(path, currentEffects());
 }

@@ -58,7 +58,7 @@ class DesktopOnDemand : public UserInterface, public DesktopFace {
     bool preferencesVisible() const override;
     bool openEffectFile(const std::string& path) override;
     bool applyEffectFile(const std::string& path) override;
-    bool saveEffectFile(const std::string& path) override;
+    Result<void> saveEffectFile(const std::string& path) override;
     std::vector<std::uint8_t> previewPicture(CGDirectDisplayID display) override;
 
     void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override;

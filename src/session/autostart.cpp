@@ -65,21 +65,25 @@ bool Autostart::isOn() const {
 }
 
 Result<void> Autostart::setOn(bool on) const {
-    std::error_code error;
+    std::string problem;
     if (on == isInstalled_) {
+        std::error_code error;
         std::filesystem::remove(own_, error); // what is installed holds
+        problem = error ? error.message() : "";
     } else {
         makePrivateDirectories(own_.parent_path());
         std::string entry = "[Desktop Entry]\nType=Application\nName=Nocturo\n";
         entry += on ? "Exec=" + quoted(program_) + " --at-login\nIcon=org.nocturo.Nocturo\n"
                     : "Hidden=true\n";
         constexpr mode_t kMode = 0644;
-        if (!replaceFile(own_, entry, kMode, Durability::survivesPowerCuts)) {
-            error = std::make_error_code(std::errc::io_error);
+        if (const auto replaced = replaceFile(own_, entry, kMode, Durability::survivesPowerCuts);
+            !replaced) {
+            problem = replaced.error().text;
         }
     }
-    if (error) {
-        return failed(translated("Could not save settings at \"%@\".", {own_.string()}));
+    if (!problem.empty()) {
+        return failed(
+            translated("Could not save settings at \"%@\": %@.", {own_.string(), problem}));
     }
     return {};
 }

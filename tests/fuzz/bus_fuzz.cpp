@@ -112,7 +112,9 @@ class NoWindows : public UserInterface {
     bool preferencesVisible() const override { return false; }
     bool openEffectFile(const std::string& path) override { return path.size() % 2 == 0; }
     bool applyEffectFile(const std::string& path) override { return path.size() % 2 == 0; }
-    bool saveEffectFile(const std::string& path) override { return path.size() % 2 == 0; }
+    Result<void> saveEffectFile(const std::string& path) override {
+        return path.size() % 2 == 0 ? Result<void>() : failedWith(ENOSPC);
+    }
     std::vector<std::uint8_t> previewPicture(CGDirectDisplayID /*display*/) override {
         return {1, 2, 3};
     }

@@ -241,7 +241,7 @@ TEST_F(Application, DocumentsNeedNoWindowAndQtComesWithThePreview) {
     const auto saved = session_.runtimeDirectory() / "saved.nocturo";
     ctl({"save", saved});
     EXPECT_EQ(readEffectDocument(saved), readEffectDocument(file));
-    EXPECT_EQ(session_.run("nocturoctl", {"save", "/proc/no.nocturo"}).exit, 1);
+    says("nocturoctl", {"save", "/proc/no.nocturo"}, 1, "No such file");
     ctl({"set", "UseHotKey", "true"});
     ctl({"toggle"});
     ctl({"toggle"});

@@ -48,7 +48,7 @@ struct Surroundings : UserInterface, BlindDesktop, InstalledApplications {
     std::string whyNoWindows() override { return {}; }
     bool openEffectFile(const std::string& /*path*/) override { return false; }
     bool applyEffectFile(const std::string& /*path*/) override { return false; }
-    bool saveEffectFile(const std::string& /*path*/) override { return false; }
+    Result<void> saveEffectFile(const std::string& /*path*/) override { return {}; }
     std::vector<std::uint8_t> previewPicture(CGDirectDisplayID /*display*/) override { return {}; }
 
     void showAlert(const Alert& alert, std::function<void(AlertAnswer answer)> answered) override {

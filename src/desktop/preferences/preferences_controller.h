@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/result.h"
 #include "desktop/preferences/previewed_display.h"
 
 #include <QObject>
@@ -156,8 +157,8 @@ class NDPreferencesController : public QObject {
     /// are no controls, and an effect document changes nothing.
     bool openEffectFile(const QString& path);
 
-    /// Writes what the controls show, which must be loaded; false when that failed.
-    bool writeEffectFile(const QString& path) const;
+    /// Writes what the controls show, which must be loaded. The problem is the system's word.
+    Result<void> writeEffectFile(const QString& path) const;
 
   Q_SIGNALS:
     /// The document at `path` was opened, or saved at the user's wish.

@@ -182,7 +182,7 @@ void NDPreferencesController::saveEffectAt(const QString& path, bool hideExtensi
     }
 }
 
-bool NDPreferencesController::writeEffectFile(const QString& path) const {
+Result<void> NDPreferencesController::writeEffectFile(const QString& path) const {
     EffectDocument document;
     document.invertScreen = ui_->invertScreen->isChecked();
     document.overexposure = ui_->hideStripes->isChecked();
