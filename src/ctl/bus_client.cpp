@@ -78,6 +78,14 @@ std::unique_ptr<BusSlot> BusClient::callThoseToCome(const char* method,
         });
 }
 
+void BusClient::saveSettings() {
+    try {
+        call("SaveSettings");
+    } catch (const Failure& failure) {
+        throw NotSaved{failure};
+    }
+}
+
 void BusClient::callSetSetting(const std::string& key, const PropertyValue& value) {
     const BusMessage message = newCall(kNocturoInterface, "SetSetting");
     check(sd_bus_message_append(message.get(), "s", key.c_str()));

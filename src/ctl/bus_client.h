@@ -58,7 +58,8 @@ class BusClient {
         call(method, arguments...);
         saveSettings();
     }
-    void saveSettings() { call("SaveSettings"); }
+    /// Throws NotSaved.
+    void saveSettings();
 
     /// Calls each Nocturo that comes after the one that runs now, from loop(), whatever it answers.
     [[nodiscard]] std::unique_ptr<BusSlot> callThoseToCome(const char* method,

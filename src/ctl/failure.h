@@ -16,6 +16,9 @@ struct Failure {
     std::string sentence;
 };
 
+/// Thrown where a verb has done all but keep what it did beyond Nocturo's end.
+struct NotSaved : Failure {};
+
 /// Throws a Failure without a sentence, which tells of the verb's usage, unless the arguments fit.
 inline void expect(bool argumentsFit) {
     if (!argumentsFit) {

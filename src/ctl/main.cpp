@@ -98,14 +98,19 @@ int run(const std::vector<std::string>& arguments) {
     const bool keep = command->changesColors && std::erase(own, "--keep") > 0;
     try {
         command->run(own);
+    } catch (const NotSaved&) {
         if (keep) {
-            keepColors();
+            keepColors(); // they have changed all the same
         }
+        throw;
     } catch (const Failure& failure) {
         if (failure.sentence.empty()) {
             return tell({kUsage, usage(*command) + "; " + whereToReadOn(command->verb)});
         }
         throw;
+    }
+    if (keep) {
+        keepColors();
     }
     return kSuccess;
 }
