@@ -547,6 +547,10 @@
             <translation>Keine Einstellung nimmt einen Wert dieser Art.</translation>
         </message>
         <message>
+            <source>The display server keeps %@ to itself, so it cannot be the hot key.</source>
+            <translation>Der Anzeigeserver behält %@ für sich, daher kann es nicht das Tastenkürzel sein.</translation>
+        </message>
+        <message>
             <source>"%@" is not an effect document.</source>
             <translation>„%@“ ist kein Effektdokument.</translation>
         </message>

@@ -547,6 +547,10 @@
             <translation>Ningún ajuste admite un valor de este tipo.</translation>
         </message>
         <message>
+            <source>The display server keeps %@ to itself, so it cannot be the hot key.</source>
+            <translation>El servidor gráfico se reserva %@, así que no puede ser el atajo de teclado.</translation>
+        </message>
+        <message>
             <source>"%@" is not an effect document.</source>
             <translation>«%@» no es un documento de efecto.</translation>
         </message>

@@ -547,6 +547,10 @@
             <translation>Aucun réglage n’accepte une valeur de ce type.</translation>
         </message>
         <message>
+            <source>The display server keeps %@ to itself, so it cannot be the hot key.</source>
+            <translation>Le serveur d’affichage se réserve %@, qui ne peut donc pas être le raccourci clavier.</translation>
+        </message>
+        <message>
             <source>"%@" is not an effect document.</source>
             <translation>« %@ » n’est pas un document d’effet.</translation>
         </message>

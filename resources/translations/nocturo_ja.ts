@@ -547,6 +547,10 @@
             <translation>この種類の値を受け付ける設定はありません。</translation>
         </message>
         <message>
+            <source>The display server keeps %@ to itself, so it cannot be the hot key.</source>
+            <translation>%@はディスプレイサーバーが自分で使うため、ショートカットキーにできません。</translation>
+        </message>
+        <message>
             <source>"%@" is not an effect document.</source>
             <translation>「%@」は効果のドキュメントではありません。</translation>
         </message>

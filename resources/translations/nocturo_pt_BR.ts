@@ -547,6 +547,10 @@
             <translation>Nenhuma configuração aceita um valor deste tipo.</translation>
         </message>
         <message>
+            <source>The display server keeps %@ to itself, so it cannot be the hot key.</source>
+            <translation>O servidor gráfico reserva %@ para si, por isso não pode ser o atalho de teclado.</translation>
+        </message>
+        <message>
             <source>"%@" is not an effect document.</source>
             <translation>“%@” não é um documento de efeito.</translation>
         </message>

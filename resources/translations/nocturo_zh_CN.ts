@@ -547,6 +547,10 @@
             <translation>没有设置接受此类型的值。</translation>
         </message>
         <message>
+            <source>The display server keeps %@ to itself, so it cannot be the hot key.</source>
+            <translation>显示服务器自己占用 %@，因此不能用作快捷键。</translation>
+        </message>
+        <message>
             <source>"%@" is not an effect document.</source>
             <translation>“%@”不是效果文档。</translation>
         </message>

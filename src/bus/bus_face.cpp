@@ -17,6 +17,8 @@
 #include "documents/looks.h"
 #include "hotkeys/hot_key_grant.h"
 #include "hotkeys/hot_key_text.h"
+#include "hotkeys/key_naming.h"
+#include "hotkeys/keyboard/keyboard_layout.h"
 #include "settings/defaults_store.h"
 #include "settings/settings_keeper.h"
 #include "settings/settings_keys.h"
@@ -298,6 +300,13 @@ BusAnswer BusFace::setHotKey(const std::string& text) {
             return refusal(result.error().text + " " + hotKeyTextSyntax());
         }
         combination = *result;
+        if (layout_ != nullptr &&
+            layout_->isServers(combination.keyCode,
+                               HXCarbonModifierFlags(combination.modifierFlags) >> 8U)) {
+            return failure(translated("The display server keeps %@ to itself, so it cannot be the "
+                                      "hot key.",
+                                      {text}));
+        }
     }
     const DefaultsStore::Batch oneChange(defaults_);
     defaults_.setInteger(combination.keyCode, kHotKeyCode);

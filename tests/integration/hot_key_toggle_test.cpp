@@ -68,6 +68,7 @@ TEST_F(HotKeyToggle, TogglesOnReleaseAndFollowsTheChosenCombination) {
     ctl({"hotkey", "none"});
     EXPECT_TRUE(hotKey().is_null());
     says("nocturoctl", {"hotkey", "set", "ctrl+nokey"}, 2, "ctrl+super+F5");
+    says("nocturoctl", {"hotkey", "set", "ctrl+alt+f1"}, 1, "keeps ctrl+alt+f1 to itself");
     EXPECT_TRUE(hotKey().is_null());
 }
 

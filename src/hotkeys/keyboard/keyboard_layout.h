@@ -23,6 +23,12 @@ class KeyboardLayout {
     /// What XKB calls the symbol that the key types alone ("F5", "a", "KP_5"); empty where
     /// that cannot be told.
     virtual std::string keySymName(std::uint16_t /*keyCode*/) { return {}; }
+
+    /// Whether the display server itself acts on the key with these modifiers, as to switch to
+    /// another console, so that no program ever hears of it. `modifierKeyState` as above.
+    virtual bool isServers(std::uint16_t /*keyCode*/, std::uint32_t /*modifierKeyState*/) {
+        return false;
+    }
 };
 
 } // namespace nocturo

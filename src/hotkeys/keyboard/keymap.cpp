@@ -66,19 +66,32 @@ std::string Keymap::text(std::uint16_t keyCode, std::uint32_t modifierKeyState,
     return isControlCharacter(typed) ? std::string() : typed;
 }
 
-std::string Keymap::keySymName(std::uint16_t keyCode, xkb_layout_index_t group) const {
+xkb_keysym_t Keymap::symbol(std::uint16_t keyCode, std::uint32_t modifierKeyState,
+                            xkb_layout_index_t group) const {
     const auto evdevCode = evdevFromVirtualKeyCode(keyCode);
     if (!state_ || !evdevCode) {
-        return {};
+        return XKB_KEY_NoSymbol;
     }
-    xkb_state_update_mask(state_.get(), 0, 0, numLockMask_, 0, 0, group);
-    const xkb_keysym_t symbol =
-        xkb_state_key_get_one_sym(state_.get(), *evdevCode + xkb_keycode_t{kEvdevToX11Offset});
+    xkb_state_update_mask(state_.get(), modifierMask(modifierKeyState), 0, numLockMask_, 0, 0,
+                          group);
+    return xkb_state_key_get_one_sym(state_.get(), *evdevCode + xkb_keycode_t{kEvdevToX11Offset});
+}
+
+std::string Keymap::keySymName(std::uint16_t keyCode, xkb_layout_index_t group) const {
+    const xkb_keysym_t symbol = this->symbol(keyCode, 0, group);
     std::array<char, 64> name{};
     if (symbol == XKB_KEY_NoSymbol || xkb_keysym_get_name(symbol, name.data(), name.size()) <= 0) {
         return {};
     }
     return name.data();
+}
+
+bool Keymap::isServers(std::uint16_t keyCode, std::uint32_t modifierKeyState,
+                       xkb_layout_index_t group) const {
+    constexpr xkb_keysym_t kLastOfServer = 0x1008FEFF; // consoles, modes and grabs
+    const xkb_keysym_t symbol = this->symbol(keyCode, modifierKeyState, group);
+    return symbol == XKB_KEY_Terminate_Server ||
+           (symbol >= XKB_KEY_XF86Switch_VT_1 && symbol <= kLastOfServer);
 }
 
 } // namespace nocturo

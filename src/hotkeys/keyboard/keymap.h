@@ -31,10 +31,16 @@ class Keymap {
     /// KeyboardLayout::keySymName in that group.
     std::string keySymName(std::uint16_t keyCode, xkb_layout_index_t group) const;
 
+    /// KeyboardLayout::isServers in that group.
+    bool isServers(std::uint16_t keyCode, std::uint32_t modifierKeyState,
+                   xkb_layout_index_t group) const;
+
   private:
     static constexpr std::size_t kModifierCount = 5;
 
     xkb_mod_mask_t modifierMask(std::uint32_t modifierKeyState) const;
+    xkb_keysym_t symbol(std::uint16_t keyCode, std::uint32_t modifierKeyState,
+                        xkb_layout_index_t group) const;
 
     std::unique_ptr<xkb_state, Release> state_; // holds its keymap
     std::array<xkb_mod_mask_t, kModifierCount> modifierMasks_{};

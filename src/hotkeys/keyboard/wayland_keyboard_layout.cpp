@@ -161,4 +161,8 @@ std::string WaylandKeyboardLayout::keySymName(std::uint16_t keyCode) {
     return keymap().keySymName(keyCode, 0);
 }
 
+bool WaylandKeyboardLayout::isServers(std::uint16_t keyCode, std::uint32_t modifierKeyState) {
+    return keymap().isServers(keyCode, modifierKeyState, 0);
+}
+
 } // namespace nocturo

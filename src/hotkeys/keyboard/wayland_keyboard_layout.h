@@ -30,6 +30,7 @@ class WaylandKeyboardLayout final : public KeyboardLayout {
 
     std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t modifierKeyState) override;
     std::string keySymName(std::uint16_t keyCode) override;
+    bool isServers(std::uint16_t keyCode, std::uint32_t modifierKeyState) override;
 
   private:
     struct Listeners;

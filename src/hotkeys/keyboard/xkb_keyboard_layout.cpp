@@ -92,4 +92,8 @@ std::string XkbKeyboardLayout::keySymName(std::uint16_t keyCode) {
     return isThere() ? keymap_.keySymName(keyCode, group_) : std::string();
 }
 
+bool XkbKeyboardLayout::isServers(std::uint16_t keyCode, std::uint32_t modifierKeyState) {
+    return isThere() && keymap_.isServers(keyCode, modifierKeyState, group_);
+}
+
 } // namespace nocturo

@@ -20,6 +20,7 @@ class XkbKeyboardLayout final : public KeyboardLayout {
 
     std::string textForKeyDown(std::uint16_t keyCode, std::uint32_t modifierKeyState) override;
     std::string keySymName(std::uint16_t keyCode) override;
+    bool isServers(std::uint16_t keyCode, std::uint32_t modifierKeyState) override;
 
   private:
     void prepare();
