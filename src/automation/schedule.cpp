@@ -16,6 +16,9 @@ using namespace std::chrono;
 // polar seasons, and for a whole polar year.
 constexpr std::array kReaches = {days(3), days(20), days(400)};
 
+// The four of the sun in a polar year, which is looked through again for each point.
+constexpr std::size_t kMostMoments = 4000;
+
 // What lies nearer than this to the end of a reach may be behind another beyond it.
 constexpr days kMargin(2);
 
@@ -28,12 +31,25 @@ bool isWithin(const std::optional<Schedule::Occurrence>& found, Moment now, days
 Schedule::Schedule(std::vector<SchedulePoint> points, std::optional<Place> place)
     : points_(std::move(points)), place_(place) {}
 
+std::optional<Moment> Schedule::momentOfSun(sys_days day, SchedulePoint::Anchor anchor) {
+    if (!place_) {
+        return std::nullopt;
+    }
+    if (momentsOfSun_.size() >= kMostMoments) {
+        momentsOfSun_.clear();
+    }
+    const auto [found, isNew] = momentsOfSun_.try_emplace({day, anchor});
+    if (isNew) {
+        found->second = sun_.moment(*place_, day.time_since_epoch().count(), anchor);
+    }
+    return found->second;
+}
+
 std::optional<Moment> Schedule::occurrence(const SchedulePoint& point, sys_days day) {
     if (point.anchor == SchedulePoint::Anchor::midnight) {
         return momentOf(day, point.offset);
     }
-    const auto moment =
-        place_ ? sun_.moment(*place_, day.time_since_epoch().count(), point.anchor) : std::nullopt;
+    const auto moment = momentOfSun(day, point.anchor);
     return moment ? std::optional(*moment + point.offset) : std::nullopt;
 }
 

@@ -5,7 +5,9 @@
 #include "settings/schedule_points.h"
 
 #include <cstddef>
+#include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace nocturo {
@@ -39,6 +41,7 @@ class Schedule {
     std::optional<Moment> next(std::size_t point, Moment now);
 
   private:
+    std::optional<Moment> momentOfSun(std::chrono::sys_days day, SchedulePoint::Anchor anchor);
     std::optional<Moment> occurrence(const SchedulePoint& point, std::chrono::sys_days day);
     Around aroundWithin(Moment now, std::chrono::days reach, std::size_t first, std::size_t last);
     Around around(Moment now, std::size_t first, std::size_t last);
@@ -46,6 +49,9 @@ class Schedule {
     std::vector<SchedulePoint> points_;
     std::optional<Place> place_;
     Sun sun_;
+    /// What the sun does on a day, which many points may share.
+    std::map<std::pair<std::chrono::sys_days, SchedulePoint::Anchor>, std::optional<Moment>>
+        momentsOfSun_;
 };
 
 } // namespace nocturo
