@@ -15,10 +15,6 @@ constexpr std::string_view kFullscreen = "fullscreen";
 constexpr std::string_view kProgram = "program";
 constexpr std::string_view kGame = "game";
 
-bool isControl(char letter) {
-    return static_cast<unsigned char>(letter) < ' ' || letter == '\x7F';
-}
-
 /// Takes the first word away, and the space after it.
 std::string_view takeWord(std::string_view& words) {
     const auto space = std::min(words.find(' '), words.size());

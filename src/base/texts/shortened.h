@@ -6,6 +6,10 @@
 
 namespace nocturo {
 
+inline bool isControl(char letter) {
+    return static_cast<unsigned char>(letter) < ' ' || letter == '\x7F';
+}
+
 /// What somebody typed, on one line and with no more of it than a sentence has room for.
 inline std::string shortened(std::string_view words) {
     constexpr std::size_t kMost = 80; // bytes of UTF-8
@@ -20,8 +24,7 @@ inline std::string shortened(std::string_view words) {
         text += "\u2026";
     }
     for (char& letter : text) {
-        const bool isControl = static_cast<unsigned char>(letter) < ' ' || letter == '\x7F';
-        letter = isControl ? ' ' : letter;
+        letter = isControl(letter) ? ' ' : letter;
     }
     return text;
 }
