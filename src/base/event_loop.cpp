@@ -1,7 +1,10 @@
 #include "base/event_loop.h"
 
+#include "base/log.h"
+
 #include <csignal>
 #include <ctime>
+#include <string>
 #include <sys/epoll.h>
 #include <sys/signalfd.h>
 #include <utility>
@@ -185,9 +188,12 @@ void EventLoop::handleSignals(std::span<const int> signalNumbers,
     }
 }
 
-int EventLoop::signalCame(sd_event_source* source, const struct signalfd_siginfo* /*info*/,
+int EventLoop::signalCame(sd_event_source* source, const struct signalfd_siginfo* info,
                           void* self) {
-    static_cast<EventLoop*>(self)->signalHandler_(sd_event_source_get_signal(source));
+    const int number = sd_event_source_get_signal(source);
+    logInfo(kLogApp, "The process " + std::to_string(info->ssi_pid) + " has sent the signal " +
+                         std::to_string(number) + ".");
+    static_cast<EventLoop*>(self)->signalHandler_(number);
     return 0;
 }
 

@@ -7,6 +7,7 @@
 #include "automation/automation.h"
 #include "base/activation_token.h"
 #include "base/event_loop.h"
+#include "base/log.h"
 #include "base/notification_center.h"
 #include "base/notification_names.h"
 #include "base/texts/translated.h"
@@ -363,6 +364,7 @@ BusAnswer BusFace::reopen() {
 }
 
 BusAnswer BusFace::quit() {
+    logInfo(kLogApp, "Somebody on the session bus has Nocturo quit.");
     loop_.callSoon([this] { loop_.quit(); }); // so that the caller has its answer first
     return {};
 }

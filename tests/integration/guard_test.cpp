@@ -47,6 +47,7 @@ void Guard::killAtRandomMoments(int rounds) {
     int late = 0;
     int neither = 0;                                // was left
     std::pair<Milliseconds, std::string> longest{}; // and what was going on
+    session_.environment()["NOCTURO_LOG"] = "app";  // who ends it, should anybody else
     startChanging();
     ctl({"schedule", "add", "00:00 Night reading"});
     ctl({"schedule", "off"});
