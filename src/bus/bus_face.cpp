@@ -12,8 +12,6 @@
 #include "base/notification_names.h"
 #include "base/texts/translated.h"
 #include "bus/bus_names.h"
-#include "displays/affected_screen_set.h"
-#include "displays/display_functions.h"
 #include "documents/chosen_look.h"
 #include "documents/looks.h"
 #include "hotkeys/hot_key_grant.h"
@@ -276,16 +274,6 @@ BusAnswer BusFace::resetSetting(const std::string& key) {
 BusAnswer BusFace::saveSettings() {
     auto saved = keeper_ != nullptr ? keeper_->save() : Result<void>();
     return saved ? BusAnswer() : failure(std::move(saved.error().text));
-}
-
-BusAnswer BusFace::toggleScreen(std::uint32_t display) {
-    chooseAffectedScreen(defaults_, static_cast<std::int32_t>(display));
-    return {};
-}
-
-BusAnswer BusFace::affectAllScreens() {
-    chooseAffectedScreen(defaults_, 0);
-    return {};
 }
 
 BusAnswer BusFace::keepColors() {

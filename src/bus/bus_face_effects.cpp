@@ -140,6 +140,16 @@ BusAnswer BusFace::stepSetting(const std::string& key, double by) {
     return {};
 }
 
+BusAnswer BusFace::toggleScreen(std::uint32_t display) {
+    chooseAffectedScreen(defaults_, static_cast<std::int32_t>(display));
+    return {};
+}
+
+BusAnswer BusFace::affectAllScreens() {
+    chooseAffectedScreen(defaults_, 0);
+    return {};
+}
+
 BusAnswer BusFace::addScreens(const std::vector<std::int64_t>& displays) {
     addAffectedScreens(defaults_, displays);
     return {};
