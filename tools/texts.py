@@ -26,9 +26,13 @@ PLACEHOLDER = re.compile(r"%(?:\d\$)?[@d]|%%")
 MNEMONIC = re.compile(r"&([^&\s])")
 
 # What is reached from one window with one press of Alt, beside the panel's own controls; a menu is
-# a window, too.
+# a window, too, and so is a page of the panel that is made by hand.
 WINDOWS = {
     PANEL: ["&File", "&Effect", "&Help"],
+    "schedule": ["&Choose looks by the clock and the sun", "Pa&use", "Resu&me", "&When:", "&Look:",
+                 "&Add", "&Remove", "&Place of the sun:", "Change o&ver:"],
+    "rules": ["&Choose looks by what is in front", "&When:", "&Program:", "P&ick a window", "&Look:",
+              "&Add", "&Remove"],
     "question": ["&Keep", "&Go back"],
     "save panel": ["&Hide extension"],
     "file menu": ["&Open...", "Open &Recent", "&Save...", "&Preferences...", "&Close",
@@ -38,6 +42,8 @@ WINDOWS = {
     "effect menu while on": ["&Deactivate Effect"],
     "help menu": ["User &Guide", "&About Nocturo"],
 }
+
+PAGES = {"schedule", "rules"}
 
 LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 CODE = re.compile(r'"(?:[^"\\\n]|\\.)*"|\'(?:[^\'\\\n]|\\.)+\'|(//[^\n]*|/\*.*?\*/)', re.DOTALL)
@@ -163,9 +169,12 @@ def windows(root):
     pages = [{text.text for text in page.iter("string")}
              for page in panel.iter("widget") if page.get("class") == "nocturo::PageArea"]
     for window, also in WINDOWS.items():
-        if window == PANEL:  # one page at a time
+        hidden = set().union(*pages)  # but for one page at a time
+        if window == PANEL:
             for page in pages:
-                yield window, also, set().union(*pages) - page
+                yield window, also, hidden - page
+        elif window in PAGES:
+            yield window, also + WINDOWS[PANEL], hidden
         else:
             yield window, also, set()
 
@@ -175,7 +184,7 @@ def clashes(table, root):
     for window, also, hidden in windows(root):
         keys = collections.defaultdict(list)
         for (context, english), translation in table.items():
-            if ((context == window and english not in hidden)
+            if ((context == (PANEL if window in PAGES else window) and english not in hidden)
                     or (context == DEFAULT_TABLE and english in also)):
                 for key in MNEMONIC.findall(translation):
                     keys[key.casefold()].append(english)

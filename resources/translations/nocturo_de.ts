@@ -1541,44 +1541,52 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
-            <source>Choose looks by what is in front</source>
-            <translation>Looks danach wählen, was vorn ist</translation>
+            <source>&amp;Choose looks by what is in front</source>
+            <translation>Looks danach wählen, was &amp;vorn ist</translation>
         </message>
         <message>
             <source>Rules</source>
             <translation>Regeln</translation>
         </message>
         <message>
-            <source>What the rule is about</source>
-            <translation>Worum es in der Regel geht</translation>
-        </message>
-        <message>
-            <source>Program</source>
-            <translation>Programm</translation>
-        </message>
-        <message>
             <source>As its windows are called</source>
             <translation>Wie seine Fenster heißen</translation>
         </message>
         <message>
-            <source>Pick a window</source>
-            <translation>Fenster wählen</translation>
+            <source>P&amp;ick a window</source>
+            <translation>Fens&amp;ter wählen</translation>
         </message>
         <message>
             <source>The next window that comes to the front tells its program</source>
             <translation>Das nächste Fenster, das nach vorn kommt, verrät sein Programm</translation>
         </message>
         <message>
-            <source>Look of the rule</source>
-            <translation>Look der Regel</translation>
+            <source>&amp;When:</source>
+            <translation>&amp;Wann:</translation>
         </message>
         <message>
-            <source>Add</source>
-            <translation>Hinzufügen</translation>
+            <source>&amp;Program:</source>
+            <translation>&amp;Programm:</translation>
         </message>
         <message>
-            <source>Remove</source>
-            <translation>Entfernen</translation>
+            <source>&amp;Look:</source>
+            <translation>&amp;Look:</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>Hin&amp;zufügen</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>E&amp;ntfernen</translation>
+        </message>
+        <message>
+            <source>Move the rule up</source>
+            <translation>Regel nach oben</translation>
+        </message>
+        <message>
+            <source>Move the rule down</source>
+            <translation>Regel nach unten</translation>
         </message>
         <message>
             <source>A window fills a screen</source>
@@ -1609,28 +1617,40 @@ after ten seconds, unless somebody keeps them.</source>
             <translation> min</translation>
         </message>
         <message>
-            <source>Resume</source>
-            <translation>Fortfahren</translation>
+            <source>&amp;Choose looks by the clock and the sun</source>
+            <translation>Looks nach &amp;Uhr und Sonne wählen</translation>
         </message>
         <message>
-            <source>Schedule</source>
-            <translation>Zeitplan</translation>
+            <source>Pa&amp;use</source>
+            <translation>&amp;Pause</translation>
         </message>
         <message>
-            <source>Choose looks by the clock and the sun</source>
-            <translation>Looks nach Uhr und Sonne wählen</translation>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Eine Pause gibt den Bildschirmen für eine Weile ihre eigenen Farben.</translation>
         </message>
         <message>
-            <source>Place</source>
-            <translation>Ort</translation>
+            <source>Resu&amp;me</source>
+            <translation>F&amp;ortfahren</translation>
         </message>
         <message>
             <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
             <translation>Breite und Länge, etwa 52.5 13.4; leer: nach Zeitzone</translation>
         </message>
         <message>
-            <source>Place of the sun:</source>
-            <translation>Ort der Sonne:</translation>
+            <source>How long the colors take to change when a point comes</source>
+            <translation>Wie lange die Farben für den Wechsel brauchen, wenn ein Punkt kommt</translation>
+        </message>
+        <message>
+            <source>&amp;Place of the sun:</source>
+            <translation>O&amp;rt der Sonne:</translation>
+        </message>
+        <message>
+            <source>Change o&amp;ver:</source>
+            <translation>Ü&amp;bergang:</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Zeitplan</translation>
         </message>
         <message>
             <source>Time</source>
@@ -1653,24 +1673,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Abenddämmerung</translation>
         </message>
         <message>
-            <source>What the point's time is counted from</source>
-            <translation>Wovon an die Zeit des Punktes zählt</translation>
-        </message>
-        <message>
             <source>Minutes before or after the sun</source>
             <translation>Minuten vor oder nach der Sonne</translation>
         </message>
         <message>
-            <source>Look of the point</source>
-            <translation>Look des Punktes</translation>
-        </message>
-        <message>
             <source>Next: %1$@ at %2$@</source>
             <translation>Als Nächstes: %1$@ um %2$@</translation>
-        </message>
-        <message>
-            <source>A pause gives the screens their own colors for a while.</source>
-            <translation>Eine Pause gibt den Bildschirmen für eine Weile ihre eigenen Farben.</translation>
         </message>
         <message>
             <source>Paused until %1$@, %2$@ h left</source>

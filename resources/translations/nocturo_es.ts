@@ -1541,44 +1541,52 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
-            <source>Choose looks by what is in front</source>
-            <translation>Elegir aspectos según lo que esté delante</translation>
+            <source>&amp;Choose looks by what is in front</source>
+            <translation>Elegir aspectos según lo que esté de&amp;lante</translation>
         </message>
         <message>
             <source>Rules</source>
             <translation>Reglas</translation>
         </message>
         <message>
-            <source>What the rule is about</source>
-            <translation>De qué trata la regla</translation>
-        </message>
-        <message>
-            <source>Program</source>
-            <translation>Programa</translation>
-        </message>
-        <message>
             <source>As its windows are called</source>
             <translation>Como se llaman sus ventanas</translation>
         </message>
         <message>
-            <source>Pick a window</source>
-            <translation>Elegir una ventana</translation>
+            <source>P&amp;ick a window</source>
+            <translation>Elegir una &amp;ventana</translation>
         </message>
         <message>
             <source>The next window that comes to the front tells its program</source>
             <translation>La próxima ventana que pase al frente indica su programa</translation>
         </message>
         <message>
-            <source>Look of the rule</source>
-            <translation>Aspecto de la regla</translation>
+            <source>&amp;When:</source>
+            <translation>&amp;Cuándo:</translation>
         </message>
         <message>
-            <source>Add</source>
-            <translation>Añadir</translation>
+            <source>&amp;Program:</source>
+            <translation>&amp;Programa:</translation>
         </message>
         <message>
-            <source>Remove</source>
-            <translation>Quitar</translation>
+            <source>&amp;Look:</source>
+            <translation>A&amp;specto:</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>Aña&amp;dir</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>&amp;Quitar</translation>
+        </message>
+        <message>
+            <source>Move the rule up</source>
+            <translation>Subir la regla</translation>
+        </message>
+        <message>
+            <source>Move the rule down</source>
+            <translation>Bajar la regla</translation>
         </message>
         <message>
             <source>A window fills a screen</source>
@@ -1609,28 +1617,40 @@ after ten seconds, unless somebody keeps them.</source>
             <translation> min</translation>
         </message>
         <message>
-            <source>Resume</source>
-            <translation>Continuar</translation>
+            <source>&amp;Choose looks by the clock and the sun</source>
+            <translation>Elegir aspectos según el relo&amp;j y el sol</translation>
         </message>
         <message>
-            <source>Schedule</source>
-            <translation>Horario</translation>
+            <source>Pa&amp;use</source>
+            <translation>&amp;Pausa</translation>
         </message>
         <message>
-            <source>Choose looks by the clock and the sun</source>
-            <translation>Elegir aspectos según el reloj y el sol</translation>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Una pausa devuelve a las pantallas sus propios colores por un rato.</translation>
         </message>
         <message>
-            <source>Place</source>
-            <translation>Lugar</translation>
+            <source>Resu&amp;me</source>
+            <translation>C&amp;ontinuar</translation>
         </message>
         <message>
             <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
             <translation>Latitud y longitud, como 52.5 13.4; vacío: según la zona horaria</translation>
         </message>
         <message>
-            <source>Place of the sun:</source>
-            <translation>Lugar del sol:</translation>
+            <source>How long the colors take to change when a point comes</source>
+            <translation>Cuánto tardan en cambiar los colores cuando llega un punto</translation>
+        </message>
+        <message>
+            <source>&amp;Place of the sun:</source>
+            <translation>&amp;Lugar del sol:</translation>
+        </message>
+        <message>
+            <source>Change o&amp;ver:</source>
+            <translation>Tra&amp;nsición:</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Horario</translation>
         </message>
         <message>
             <source>Time</source>
@@ -1653,24 +1673,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Anochecer</translation>
         </message>
         <message>
-            <source>What the point's time is counted from</source>
-            <translation>Desde qué se cuenta la hora del punto</translation>
-        </message>
-        <message>
             <source>Minutes before or after the sun</source>
             <translation>Minutos antes o después del sol</translation>
         </message>
         <message>
-            <source>Look of the point</source>
-            <translation>Aspecto del punto</translation>
-        </message>
-        <message>
             <source>Next: %1$@ at %2$@</source>
             <translation>A continuación: %1$@ a las %2$@</translation>
-        </message>
-        <message>
-            <source>A pause gives the screens their own colors for a while.</source>
-            <translation>Una pausa devuelve a las pantallas sus propios colores por un rato.</translation>
         </message>
         <message>
             <source>Paused until %1$@, %2$@ h left</source>

@@ -1541,44 +1541,52 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>%@ (%@)</translation>
         </message>
         <message>
-            <source>Choose looks by what is in front</source>
-            <translation>Choisir les apparences selon ce qui est au premier plan</translation>
+            <source>&amp;Choose looks by what is in front</source>
+            <translation>&amp;Choisir les apparences selon ce qui est au premier plan</translation>
         </message>
         <message>
             <source>Rules</source>
             <translation>Règles</translation>
         </message>
         <message>
-            <source>What the rule is about</source>
-            <translation>Ce que concerne la règle</translation>
-        </message>
-        <message>
-            <source>Program</source>
-            <translation>Programme</translation>
-        </message>
-        <message>
             <source>As its windows are called</source>
             <translation>Tel que ses fenêtres le nomment</translation>
         </message>
         <message>
-            <source>Pick a window</source>
-            <translation>Choisir une fenêtre</translation>
+            <source>P&amp;ick a window</source>
+            <translation>Cho&amp;isir une fenêtre</translation>
         </message>
         <message>
             <source>The next window that comes to the front tells its program</source>
             <translation>La prochaine fenêtre qui passe au premier plan indique son programme</translation>
         </message>
         <message>
-            <source>Look of the rule</source>
-            <translation>Apparence de la règle</translation>
+            <source>&amp;When:</source>
+            <translation>&amp;Quand :</translation>
         </message>
         <message>
-            <source>Add</source>
-            <translation>Ajouter</translation>
+            <source>&amp;Program:</source>
+            <translation>&amp;Programme :</translation>
         </message>
         <message>
-            <source>Remove</source>
-            <translation>Retirer</translation>
+            <source>&amp;Look:</source>
+            <translation>&amp;Apparence :</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>A&amp;jouter</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>Re&amp;tirer</translation>
+        </message>
+        <message>
+            <source>Move the rule up</source>
+            <translation>Monter la règle</translation>
+        </message>
+        <message>
+            <source>Move the rule down</source>
+            <translation>Descendre la règle</translation>
         </message>
         <message>
             <source>A window fills a screen</source>
@@ -1609,28 +1617,40 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation> min</translation>
         </message>
         <message>
-            <source>Resume</source>
-            <translation>Reprendre</translation>
+            <source>&amp;Choose looks by the clock and the sun</source>
+            <translation>&amp;Choisir les apparences selon l’heure et le soleil</translation>
         </message>
         <message>
-            <source>Schedule</source>
-            <translation>Programme</translation>
+            <source>Pa&amp;use</source>
+            <translation>Pa&amp;use</translation>
         </message>
         <message>
-            <source>Choose looks by the clock and the sun</source>
-            <translation>Choisir les apparences selon l’heure et le soleil</translation>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Une pause rend aux écrans leurs propres couleurs pour un moment.</translation>
         </message>
         <message>
-            <source>Place</source>
-            <translation>Lieu</translation>
+            <source>Resu&amp;me</source>
+            <translation>&amp;Reprendre</translation>
         </message>
         <message>
             <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
             <translation>Latitude et longitude, par exemple 52.5 13.4 ; vide : selon le fuseau horaire</translation>
         </message>
         <message>
-            <source>Place of the sun:</source>
-            <translation>Lieu du soleil :</translation>
+            <source>How long the colors take to change when a point comes</source>
+            <translation>Durée du changement des couleurs quand vient un point</translation>
+        </message>
+        <message>
+            <source>&amp;Place of the sun:</source>
+            <translation>&amp;Lieu du soleil :</translation>
+        </message>
+        <message>
+            <source>Change o&amp;ver:</source>
+            <translation>Tra&amp;nsition :</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Programme</translation>
         </message>
         <message>
             <source>Time</source>
@@ -1653,24 +1673,12 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Crépuscule</translation>
         </message>
         <message>
-            <source>What the point's time is counted from</source>
-            <translation>D’où se compte l’heure du point</translation>
-        </message>
-        <message>
             <source>Minutes before or after the sun</source>
             <translation>Minutes avant ou après le soleil</translation>
         </message>
         <message>
-            <source>Look of the point</source>
-            <translation>Apparence du point</translation>
-        </message>
-        <message>
             <source>Next: %1$@ at %2$@</source>
             <translation>Ensuite : %1$@ à %2$@</translation>
-        </message>
-        <message>
-            <source>A pause gives the screens their own colors for a while.</source>
-            <translation>Une pause rend aux écrans leurs propres couleurs pour un moment.</translation>
         </message>
         <message>
             <source>Paused until %1$@, %2$@ h left</source>

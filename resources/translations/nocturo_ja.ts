@@ -1540,44 +1540,52 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
-            <source>Choose looks by what is in front</source>
-            <translation>前面にあるものに応じてルックを選ぶ</translation>
+            <source>&amp;Choose looks by what is in front</source>
+            <translation>前面にあるものに応じてルックを選ぶ(&amp;C)</translation>
         </message>
         <message>
             <source>Rules</source>
             <translation>ルール</translation>
         </message>
         <message>
-            <source>What the rule is about</source>
-            <translation>ルールの対象</translation>
-        </message>
-        <message>
-            <source>Program</source>
-            <translation>プログラム</translation>
-        </message>
-        <message>
             <source>As its windows are called</source>
             <translation>ウィンドウのクラス名</translation>
         </message>
         <message>
-            <source>Pick a window</source>
-            <translation>ウィンドウを選択</translation>
+            <source>P&amp;ick a window</source>
+            <translation>ウィンドウを選択(&amp;I)</translation>
         </message>
         <message>
             <source>The next window that comes to the front tells its program</source>
             <translation>次に前面に来るウィンドウからプログラムを読み取ります</translation>
         </message>
         <message>
-            <source>Look of the rule</source>
-            <translation>ルールのルック</translation>
+            <source>&amp;When:</source>
+            <translation>条件(&amp;W):</translation>
         </message>
         <message>
-            <source>Add</source>
-            <translation>追加</translation>
+            <source>&amp;Program:</source>
+            <translation>プログラム(&amp;P):</translation>
         </message>
         <message>
-            <source>Remove</source>
-            <translation>削除</translation>
+            <source>&amp;Look:</source>
+            <translation>ルック(&amp;L):</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>追加(&amp;A)</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>削除(&amp;R)</translation>
+        </message>
+        <message>
+            <source>Move the rule up</source>
+            <translation>ルールを上へ移動</translation>
+        </message>
+        <message>
+            <source>Move the rule down</source>
+            <translation>ルールを下へ移動</translation>
         </message>
         <message>
             <source>A window fills a screen</source>
@@ -1608,28 +1616,40 @@ after ten seconds, unless somebody keeps them.</source>
             <translation> 分</translation>
         </message>
         <message>
-            <source>Resume</source>
-            <translation>再開</translation>
+            <source>&amp;Choose looks by the clock and the sun</source>
+            <translation>時刻と太陽に合わせてルックを選ぶ(&amp;C)</translation>
         </message>
         <message>
-            <source>Schedule</source>
-            <translation>スケジュール</translation>
+            <source>Pa&amp;use</source>
+            <translation>一時停止(&amp;U)</translation>
         </message>
         <message>
-            <source>Choose looks by the clock and the sun</source>
-            <translation>時刻と太陽に合わせてルックを選ぶ</translation>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>一時停止の間、画面は本来の色に戻ります。</translation>
         </message>
         <message>
-            <source>Place</source>
-            <translation>場所</translation>
+            <source>Resu&amp;me</source>
+            <translation>再開(&amp;M)</translation>
         </message>
         <message>
             <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
             <translation>緯度と経度（例：52.5 13.4）。空ならタイムゾーンによる</translation>
         </message>
         <message>
-            <source>Place of the sun:</source>
-            <translation>太陽の場所：</translation>
+            <source>How long the colors take to change when a point comes</source>
+            <translation>予定の時刻に色が変わるのにかかる時間</translation>
+        </message>
+        <message>
+            <source>&amp;Place of the sun:</source>
+            <translation>太陽の場所(&amp;P):</translation>
+        </message>
+        <message>
+            <source>Change o&amp;ver:</source>
+            <translation>切り替え時間(&amp;V):</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>スケジュール</translation>
         </message>
         <message>
             <source>Time</source>
@@ -1652,24 +1672,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>日暮れ</translation>
         </message>
         <message>
-            <source>What the point's time is counted from</source>
-            <translation>時刻の基準</translation>
-        </message>
-        <message>
             <source>Minutes before or after the sun</source>
             <translation>太陽より前または後の分数</translation>
         </message>
         <message>
-            <source>Look of the point</source>
-            <translation>この時点のルック</translation>
-        </message>
-        <message>
             <source>Next: %1$@ at %2$@</source>
             <translation>次：%2$@ に%1$@</translation>
-        </message>
-        <message>
-            <source>A pause gives the screens their own colors for a while.</source>
-            <translation>一時停止の間、画面は本来の色に戻ります。</translation>
         </message>
         <message>
             <source>Paused until %1$@, %2$@ h left</source>

@@ -1541,44 +1541,52 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>%@ (%@)</translation>
         </message>
         <message>
-            <source>Choose looks by what is in front</source>
-            <translation>Escolher visuais pelo que está na frente</translation>
+            <source>&amp;Choose looks by what is in front</source>
+            <translation>Escolher visuais pelo que está na &amp;frente</translation>
         </message>
         <message>
             <source>Rules</source>
             <translation>Regras</translation>
         </message>
         <message>
-            <source>What the rule is about</source>
-            <translation>Do que trata a regra</translation>
-        </message>
-        <message>
-            <source>Program</source>
-            <translation>Programa</translation>
-        </message>
-        <message>
             <source>As its windows are called</source>
             <translation>Como suas janelas se chamam</translation>
         </message>
         <message>
-            <source>Pick a window</source>
-            <translation>Escolher uma janela</translation>
+            <source>P&amp;ick a window</source>
+            <translation>Escolher uma ja&amp;nela</translation>
         </message>
         <message>
             <source>The next window that comes to the front tells its program</source>
             <translation>A próxima janela que vier para a frente indica seu programa</translation>
         </message>
         <message>
-            <source>Look of the rule</source>
-            <translation>Visual da regra</translation>
+            <source>&amp;When:</source>
+            <translation>&amp;Quando:</translation>
         </message>
         <message>
-            <source>Add</source>
-            <translation>Adicionar</translation>
+            <source>&amp;Program:</source>
+            <translation>&amp;Programa:</translation>
         </message>
         <message>
-            <source>Remove</source>
-            <translation>Remover</translation>
+            <source>&amp;Look:</source>
+            <translation>&amp;Visual:</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>A&amp;dicionar</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>Re&amp;mover</translation>
+        </message>
+        <message>
+            <source>Move the rule up</source>
+            <translation>Mover a regra para cima</translation>
+        </message>
+        <message>
+            <source>Move the rule down</source>
+            <translation>Mover a regra para baixo</translation>
         </message>
         <message>
             <source>A window fills a screen</source>
@@ -1609,28 +1617,40 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation> min</translation>
         </message>
         <message>
-            <source>Resume</source>
-            <translation>Continuar</translation>
+            <source>&amp;Choose looks by the clock and the sun</source>
+            <translation>Escolher visuais pelo relógio e pelo so&amp;l</translation>
         </message>
         <message>
-            <source>Schedule</source>
-            <translation>Agenda</translation>
+            <source>Pa&amp;use</source>
+            <translation>&amp;Pausa</translation>
         </message>
         <message>
-            <source>Choose looks by the clock and the sun</source>
-            <translation>Escolher visuais pelo relógio e pelo sol</translation>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>Uma pausa devolve às telas as próprias cores por um tempo.</translation>
         </message>
         <message>
-            <source>Place</source>
-            <translation>Lugar</translation>
+            <source>Resu&amp;me</source>
+            <translation>C&amp;ontinuar</translation>
         </message>
         <message>
             <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
             <translation>Latitude e longitude, como 52.5 13.4; vazio: pelo fuso horário</translation>
         </message>
         <message>
-            <source>Place of the sun:</source>
-            <translation>Lugar do sol:</translation>
+            <source>How long the colors take to change when a point comes</source>
+            <translation>Quanto tempo as cores levam para mudar quando chega um ponto</translation>
+        </message>
+        <message>
+            <source>&amp;Place of the sun:</source>
+            <translation>L&amp;ugar do sol:</translation>
+        </message>
+        <message>
+            <source>Change o&amp;ver:</source>
+            <translation>&amp;Transição:</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Agenda</translation>
         </message>
         <message>
             <source>Time</source>
@@ -1653,24 +1673,12 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Anoitecer</translation>
         </message>
         <message>
-            <source>What the point's time is counted from</source>
-            <translation>De onde se conta a hora do ponto</translation>
-        </message>
-        <message>
             <source>Minutes before or after the sun</source>
             <translation>Minutos antes ou depois do sol</translation>
         </message>
         <message>
-            <source>Look of the point</source>
-            <translation>Visual do ponto</translation>
-        </message>
-        <message>
             <source>Next: %1$@ at %2$@</source>
             <translation>A seguir: %1$@ às %2$@</translation>
-        </message>
-        <message>
-            <source>A pause gives the screens their own colors for a while.</source>
-            <translation>Uma pausa devolve às telas as próprias cores por um tempo.</translation>
         </message>
         <message>
             <source>Paused until %1$@, %2$@ h left</source>

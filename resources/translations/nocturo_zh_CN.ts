@@ -1536,44 +1536,52 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>%@ (%@)</translation>
         </message>
         <message>
-            <source>Choose looks by what is in front</source>
-            <translation>根据前台内容选择外观方案</translation>
+            <source>&amp;Choose looks by what is in front</source>
+            <translation>根据前台内容选择外观方案(&amp;C)</translation>
         </message>
         <message>
             <source>Rules</source>
             <translation>规则</translation>
         </message>
         <message>
-            <source>What the rule is about</source>
-            <translation>规则的条件</translation>
-        </message>
-        <message>
-            <source>Program</source>
-            <translation>程序</translation>
-        </message>
-        <message>
             <source>As its windows are called</source>
             <translation>其窗口的名称</translation>
         </message>
         <message>
-            <source>Pick a window</source>
-            <translation>选取窗口</translation>
+            <source>P&amp;ick a window</source>
+            <translation>选取窗口(&amp;I)</translation>
         </message>
         <message>
             <source>The next window that comes to the front tells its program</source>
             <translation>下一个来到前台的窗口会给出其程序</translation>
         </message>
         <message>
-            <source>Look of the rule</source>
-            <translation>规则的外观方案</translation>
+            <source>&amp;When:</source>
+            <translation>何时(&amp;W)：</translation>
         </message>
         <message>
-            <source>Add</source>
-            <translation>添加</translation>
+            <source>&amp;Program:</source>
+            <translation>程序(&amp;P)：</translation>
         </message>
         <message>
-            <source>Remove</source>
-            <translation>移除</translation>
+            <source>&amp;Look:</source>
+            <translation>外观方案(&amp;L)：</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>添加(&amp;A)</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>移除(&amp;R)</translation>
+        </message>
+        <message>
+            <source>Move the rule up</source>
+            <translation>上移规则</translation>
+        </message>
+        <message>
+            <source>Move the rule down</source>
+            <translation>下移规则</translation>
         </message>
         <message>
             <source>A window fills a screen</source>
@@ -1604,28 +1612,40 @@ after ten seconds, unless somebody keeps them.</source>
             <translation> 分钟</translation>
         </message>
         <message>
-            <source>Resume</source>
-            <translation>继续</translation>
+            <source>&amp;Choose looks by the clock and the sun</source>
+            <translation>按时间和太阳选择外观方案(&amp;C)</translation>
         </message>
         <message>
-            <source>Schedule</source>
-            <translation>计划</translation>
+            <source>Pa&amp;use</source>
+            <translation>暂停(&amp;U)</translation>
         </message>
         <message>
-            <source>Choose looks by the clock and the sun</source>
-            <translation>按时间和太阳选择外观方案</translation>
+            <source>A pause gives the screens their own colors for a while.</source>
+            <translation>暂停会让屏幕暂时恢复自己的颜色。</translation>
         </message>
         <message>
-            <source>Place</source>
-            <translation>地点</translation>
+            <source>Resu&amp;me</source>
+            <translation>继续(&amp;M)</translation>
         </message>
         <message>
             <source>Latitude and longitude, such as 52.5 13.4; by the time zone where empty</source>
             <translation>纬度和经度，例如 52.5 13.4；留空则按时区</translation>
         </message>
         <message>
-            <source>Place of the sun:</source>
-            <translation>太阳的地点：</translation>
+            <source>How long the colors take to change when a point comes</source>
+            <translation>到达计划点时颜色变化所需的时间</translation>
+        </message>
+        <message>
+            <source>&amp;Place of the sun:</source>
+            <translation>太阳的地点(&amp;P)：</translation>
+        </message>
+        <message>
+            <source>Change o&amp;ver:</source>
+            <translation>过渡(&amp;V)：</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>计划</translation>
         </message>
         <message>
             <source>Time</source>
@@ -1648,24 +1668,12 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>黄昏</translation>
         </message>
         <message>
-            <source>What the point's time is counted from</source>
-            <translation>时间点从何算起</translation>
-        </message>
-        <message>
             <source>Minutes before or after the sun</source>
             <translation>太阳之前或之后的分钟数</translation>
         </message>
         <message>
-            <source>Look of the point</source>
-            <translation>该时间点的外观方案</translation>
-        </message>
-        <message>
             <source>Next: %1$@ at %2$@</source>
             <translation>接下来：%2$@ %1$@</translation>
-        </message>
-        <message>
-            <source>A pause gives the screens their own colors for a while.</source>
-            <translation>暂停会让屏幕暂时恢复自己的颜色。</translation>
         </message>
         <message>
             <source>Paused until %1$@, %2$@ h left</source>

@@ -7,6 +7,7 @@
 #include "settings/rule_words.h"
 #include "settings/settings_keys.h"
 
+#include <algorithm>
 #include <string>
 
 namespace nocturo {
@@ -32,6 +33,13 @@ Result<void> addRule(DefaultsStore& defaults, Looks& looks, std::string_view wor
     if (!addWords(defaults, kRules, textOf(*rule), kMostRules)) {
         return failed(translated("\"%1$@\" takes a list of %2$@ rules at most.",
                                  {std::string(kRules), std::to_string(kMostRules)}));
+    }
+    return {};
+}
+
+Result<void> moveRule(DefaultsStore& defaults, std::size_t from, std::size_t to) {
+    if (!moveWords(defaults, kRules, from, to)) {
+        return failed(translated("There is no rule %@.", {std::to_string(std::max(from, to) + 1)}));
     }
     return {};
 }

@@ -14,6 +14,7 @@ class Looks;
 
 /// The look may be named by its title. A rule that is there already stays as it is.
 Result<void> addRule(DefaultsStore& defaults, Looks& looks, std::string_view words);
+Result<void> moveRule(DefaultsStore& defaults, std::size_t from, std::size_t to);
 Result<void> removeRule(DefaultsStore& defaults, std::size_t index);
 
 } // namespace nocturo

@@ -51,6 +51,18 @@ bool replaceWords(DefaultsStore& defaults, std::string_view key, std::size_t ind
     return true;
 }
 
+bool moveWords(DefaultsStore& defaults, std::string_view key, std::size_t from, std::size_t to) {
+    PropertyArray list = stored(defaults, key);
+    if (std::max(from, to) >= list.size()) {
+        return false;
+    }
+    PropertyValue moved = std::move(list[from]);
+    list.erase(list.begin() + static_cast<std::ptrdiff_t>(from));
+    list.insert(list.begin() + static_cast<std::ptrdiff_t>(to), std::move(moved));
+    defaults.setObject(std::move(list), key);
+    return true;
+}
+
 bool removeWords(DefaultsStore& defaults, std::string_view key, std::size_t index) {
     PropertyArray list = stored(defaults, key);
     if (index >= list.size()) {

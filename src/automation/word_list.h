@@ -22,6 +22,7 @@ bool addWords(DefaultsStore& defaults, std::string_view key, const std::string& 
 
 bool replaceWords(DefaultsStore& defaults, std::string_view key, std::size_t index,
                   const std::string& words);
+bool moveWords(DefaultsStore& defaults, std::string_view key, std::size_t from, std::size_t to);
 bool removeWords(DefaultsStore& defaults, std::string_view key, std::size_t index);
 
 } // namespace nocturo

@@ -493,6 +493,8 @@ TEST_F(PreferencesWindow, PointsOfTheScheduleAreAddedMovedAndRemoved) {
     EXPECT_EQ(words().size(), 1U);
     EXPECT_THAT(words()[0], StartsWith("sunset"));
 
+    page.findChild<QSpinBox*>("scheduleFade")->setValue(30);
+    EXPECT_EQ(store_->floatForKey(kScheduleFadeMinutes), 30);
     EXPECT_TRUE(automation.pause("30m"));
     EXPECT_TRUE(page.findChild<QPushButton*>("resume")->isEnabled());
     press("resume");
@@ -571,6 +573,8 @@ TEST_F(PreferencesWindow, RulesAreAddedReplacedAndRemovedForProgramsThatArePicke
     QCoreApplication::processEvents();
     EXPECT_FALSE(page.findChild<QPushButton*>("pickWindow")->isChecked());
     EXPECT_EQ(page.findChild<QLabel*>()->text(), "Now: Gimp is in front – Negative");
+    page.findChild<QToolButton*>()->click(); // up
+    EXPECT_THAT(wordsOf(*store_, kRules), ElementsAre("program Gimp Negative", "fullscreen off"));
     press("removeRule");
     EXPECT_THAT(wordsOf(*store_, kRules), ElementsAre("fullscreen off"));
 }

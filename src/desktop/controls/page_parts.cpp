@@ -2,7 +2,10 @@
 
 #include "documents/looks.h"
 
+#include <QAbstractButton>
+#include <QBoxLayout>
 #include <QComboBox>
+#include <QFormLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -11,6 +14,14 @@
 
 namespace nocturo {
 
+namespace {
+
+int heightOfRow(const QTreeWidget& list) {
+    return list.fontMetrics().height() * 3 / 2;
+}
+
+} // namespace
+
 QLabel* newSentence() {
     auto* label = new QLabel;
     label->setTextFormat(Qt::PlainText);
@@ -18,14 +29,23 @@ QLabel* newSentence() {
     return label;
 }
 
-QTreeWidget* newList(const QString& name, int columns) {
+QLabel* newLabel(const QString& text, QWidget* control) {
+    auto* label = new QLabel(text);
+    label->setBuddy(control);
+    return label;
+}
+
+QTreeWidget* newList(const QString& name, int columns, int widest) {
     auto* list = new QTreeWidget;
     list->setColumnCount(columns);
     list->setHeaderHidden(true);
     list->setRootIsDecorated(false);
     list->setUniformRowHeights(true);
+    list->header()->setStretchLastSection(false);
     list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    list->setMinimumHeight(list->fontMetrics().height() * 5);
+    list->header()->setSectionResizeMode(widest, QHeaderView::Stretch);
+    list->setMinimumHeight(3 * heightOfRow(*list) + 2 * list->frameWidth());
+    list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     describe(*list, name);
     return list;
 }
@@ -33,12 +53,36 @@ QTreeWidget* newList(const QString& name, int columns) {
 QTreeWidgetItem* newRow(QTreeWidget& list, const QStringList& texts) {
     auto* row = new QTreeWidgetItem(&list, texts);
     const QFontMetrics metrics = list.fontMetrics();
-    const int line = metrics.height();
     for (int column = 0; column < texts.size(); ++column) {
         const int width = metrics.horizontalAdvance(texts[column]);
-        row->setSizeHint(column, {width + 2 * line, line * 3 / 2});
+        row->setSizeHint(column, {width + 2 * metrics.height(), heightOfRow(list)});
     }
     return row;
+}
+
+void addRow(QFormLayout& form, const QString& label, const std::vector<QWidget*>& controls) {
+    auto* row = new QHBoxLayout;
+    for (QWidget* control : controls) {
+        row->addWidget(control, control == controls.front() ? 1 : 0);
+    }
+    form.addRow(newLabel(label, controls.front()), row);
+}
+
+QLayout* newListAndForm(QTreeWidget* list, QFormLayout* form,
+                        const std::vector<QAbstractButton*>& buttons) {
+    auto* row = new QHBoxLayout;
+    for (QAbstractButton* button : buttons) {
+        row->addWidget(button);
+    }
+    row->addStretch();
+    auto* column = new QVBoxLayout;
+    column->addLayout(form);
+    column->addLayout(row);
+    column->addStretch();
+    auto* both = new QHBoxLayout;
+    both->addWidget(list, 1);
+    both->addLayout(column);
+    return both;
 }
 
 void describe(QWidget& control, const QString& name, const QString& toolTip) {

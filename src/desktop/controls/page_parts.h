@@ -4,8 +4,11 @@
 
 #include <vector>
 
+class QAbstractButton;
 class QComboBox;
+class QFormLayout;
 class QLabel;
+class QLayout;
 class QTreeWidget;
 class QTreeWidgetItem;
 class QWidget;
@@ -19,11 +22,22 @@ class Looks;
 /// Sentences, as many as it takes.
 QLabel* newSentence();
 
-/// Rows of texts without a header, as wide as they need to be.
-QTreeWidget* newList(const QString& name, int columns);
+/// The label of a control, with its mnemonic.
+QLabel* newLabel(const QString& text, QWidget* control);
+
+/// Rows of texts without a header. One column takes the room that the others leave; the list takes
+/// what is left of the page's height, and that of three rows at least.
+QTreeWidget* newList(const QString& name, int columns, int widest);
 
 /// Adds a row to such a list, with some room around its texts.
 QTreeWidgetItem* newRow(QTreeWidget& list, const QStringList& texts);
+
+/// Adds a row whose label belongs to the first of its controls.
+void addRow(QFormLayout& form, const QString& label, const std::vector<QWidget*>& controls);
+
+/// A list, and beside it what its current row is made of with the buttons below.
+QLayout* newListAndForm(QTreeWidget* list, QFormLayout* form,
+                        const std::vector<QAbstractButton*>& buttons);
 
 /// For screen readers and the pointer.
 void describe(QWidget& control, const QString& name, const QString& toolTip = {});

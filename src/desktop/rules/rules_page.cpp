@@ -13,10 +13,13 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -70,65 +73,79 @@ void RulesPage::hideEvent(QHideEvent* event) {
 }
 
 void RulesPage::make() {
-    use_ = new QCheckBox(localized("Choose looks by what is in front"));
+    use_ = new QCheckBox(localized("&Choose looks by what is in front"));
     use_->setObjectName(QStringLiteral("useRules"));
     connect(use_, &QAbstractButton::clicked, this,
             [this](bool on) { around_->defaults.setBool(on, kUseRules); });
     sentence_ = newSentence();
-    list_ = newList(localized("Rules"), 2);
+    list_ = newList(localized("Rules"), 2, 0);
     connect(list_, &QTreeWidget::currentItemChanged, this, &RulesPage::choose);
     problem_ = newSentence();
+    form_ = newForm();
+    makeButtons();
+    makeMoves();
+    auto* top = new QHBoxLayout;
+    top->addWidget(use_);
+    top->addWidget(sentence_, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(use_);
-    layout->addWidget(sentence_);
-    layout->addWidget(list_, 1);
+    layout->addLayout(top);
+    layout->addLayout(newListAndForm(list_, form_, {add_, remove_, up_, down_}), 1);
     layout->addWidget(problem_);
-    layout->addLayout(newCondition());
-    layout->addLayout(newAnswer());
-    orderTabs(*this, {use_, list_, when_, program_, pick_, look_, add_, remove_});
+    orderTabs(*this, {use_, list_, when_, program_, pick_, look_, add_, remove_, up_, down_});
 }
 
-QLayout* RulesPage::newCondition() {
+QFormLayout* RulesPage::newForm() {
     when_ = new QComboBox;
-    describe(*when_, localized("What the rule is about"));
     connect(when_, &QComboBox::activated, this, &RulesPage::updateControls);
     program_ = new QLineEdit;
     program_->setObjectName(QStringLiteral("ruleProgram"));
-    program_->setPlaceholderText(localized("Program"));
-    describe(*program_, localized("Program"), localized("As its windows are called"));
+    describe(*program_, {}, localized("As its windows are called"));
     connect(program_, &QLineEdit::textChanged, this, &RulesPage::updateControls);
-    pick_ = new QPushButton(localized("Pick a window"));
+    pick_ = new QPushButton(localized("P&ick a window"));
     pick_->setObjectName(QStringLiteral("pickWindow"));
     pick_->setCheckable(true);
     pick_->setAutoDefault(false);
     describe(*pick_, {}, localized("The next window that comes to the front tells its program"));
     connect(pick_, &QAbstractButton::clicked, this, &RulesPage::pickWindow);
-    auto* row = new QHBoxLayout;
-    row->addWidget(when_, 1);
-    row->addWidget(program_, 1);
-    row->addWidget(pick_);
-    return row;
+    look_ = new QComboBox;
+    auto* form = new QFormLayout;
+    addRow(*form, localized("&When:"), {when_});
+    addRow(*form, localized("&Program:"), {program_, pick_});
+    addRow(*form, localized("&Look:"), {look_});
+    return form;
 }
 
-QLayout* RulesPage::newAnswer() {
-    look_ = new QComboBox;
-    describe(*look_, localized("Look of the rule"));
-    add_ = new QPushButton(localized("Add"));
+void RulesPage::makeButtons() {
+    add_ = new QPushButton(localized("&Add"));
     add_->setObjectName(QStringLiteral("addRule"));
+    add_->setAutoDefault(false);
     connect(add_, &QAbstractButton::clicked, this, &RulesPage::add);
-    remove_ = new QPushButton(localized("Remove"));
+    remove_ = new QPushButton(localized("&Remove"));
     remove_->setObjectName(QStringLiteral("removeRule"));
+    remove_->setAutoDefault(false);
     connect(remove_, &QAbstractButton::clicked, this, [this] {
         const int row = list_->indexOfTopLevelItem(list_->currentItem());
         static_cast<void>(removeRule(around_->defaults, static_cast<std::size_t>(row)));
     });
-    auto* row = new QHBoxLayout;
-    row->addWidget(look_, 1);
-    for (QPushButton* button : {add_, remove_}) {
-        button->setAutoDefault(false);
-        row->addWidget(button);
-    }
-    return row;
+}
+
+/// The keys are the list's alone, since a choice opens by one of them.
+void RulesPage::makeMoves() {
+    const auto make = [this](const QString& name, Qt::ArrowType arrow, Qt::Key key, int by) {
+        auto* button = new QToolButton;
+        const QKeySequence keys(Qt::ALT | key);
+        button->setArrowType(arrow);
+        button->setFocusPolicy(Qt::StrongFocus);
+        describe(*button, name,
+                 QStringLiteral("%1 (%2)").arg(name, keys.toString(QKeySequence::NativeText)));
+        connect(button, &QAbstractButton::clicked, this, [this, by] { move(by); });
+        auto* shortcut = new QShortcut(keys, list_);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, by] { move(by); });
+        return button;
+    };
+    up_ = make(localized("Move the rule up"), Qt::UpArrow, Qt::Key_Up, -1);
+    down_ = make(localized("Move the rule down"), Qt::DownArrow, Qt::Key_Down, 1);
 }
 
 void RulesPage::listen() {
@@ -201,10 +218,18 @@ void RulesPage::updateList() {
 
 void RulesPage::updateControls() {
     const bool isOfProgram = when_->currentData().toInt() == static_cast<int>(Rule::When::program);
-    program_->setVisible(isOfProgram);
-    pick_->setVisible(isOfProgram);
+    form_->setRowVisible(1, isOfProgram);
     add_->setEnabled(!isOfProgram || !program_->text().trimmed().isEmpty());
-    remove_->setEnabled(list_->currentItem() != nullptr);
+    const int row = list_->indexOfTopLevelItem(list_->currentItem());
+    remove_->setEnabled(row >= 0);
+    for (const auto& [button, isOfUse] :
+         {std::pair(up_, row > 0),
+          std::pair(down_, row >= 0 && row + 1 < list_->topLevelItemCount())}) {
+        if (!isOfUse && button->hasFocus()) {
+            list_->setFocus(); // not the other button, which would undo the move
+        }
+        button->setEnabled(isOfUse);
+    }
 }
 
 QString RulesPage::conditionOf(const Rule& rule) const {
@@ -262,6 +287,15 @@ void RulesPage::add() {
         say(added.error().text);
     } else {
         list_->setCurrentItem(list_->topLevelItem(list_->topLevelItemCount() - 1));
+    }
+}
+
+void RulesPage::move(int by) {
+    const int row = list_->indexOfTopLevelItem(list_->currentItem());
+    const int to = row + by;
+    if (row >= 0 && to >= 0 &&
+        moveRule(around_->defaults, static_cast<std::size_t>(row), static_cast<std::size_t>(to))) {
+        list_->setCurrentItem(list_->topLevelItem(to));
     }
 }
 

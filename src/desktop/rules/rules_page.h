@@ -11,10 +11,12 @@
 
 class QCheckBox;
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
+class QToolButton;
 class QTreeWidget;
 
 namespace nocturo {
@@ -41,8 +43,9 @@ class RulesPage : public QWidget {
 
   private:
     void make();
-    QLayout* newCondition();
-    QLayout* newAnswer();
+    QFormLayout* newForm();
+    void makeButtons();
+    void makeMoves();
     void listen();
     void offerConditions();
 
@@ -54,6 +57,7 @@ class RulesPage : public QWidget {
 
     void choose();
     void add();
+    void move(int by);
     void pickWindow(bool isWanted);
     void windowCameToFront();
     void say(const std::string& problem);
@@ -65,12 +69,15 @@ class RulesPage : public QWidget {
     QCheckBox* use_ = nullptr;
     QLabel* sentence_ = nullptr;
     QTreeWidget* list_ = nullptr;
+    QFormLayout* form_ = nullptr;
     QComboBox* when_ = nullptr;
     QLineEdit* program_ = nullptr;
     QPushButton* pick_ = nullptr;
     QComboBox* look_ = nullptr;
     QPushButton* add_ = nullptr;
     QPushButton* remove_ = nullptr;
+    QToolButton* up_ = nullptr;
+    QToolButton* down_ = nullptr;
     QLabel* problem_ = nullptr;
 };
 

@@ -25,6 +25,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace nocturo {
@@ -77,6 +78,12 @@ void SchedulePage::listen() {
     // After every change of the schedule's settings, too, once it was read.
     around_->localCenter.addObserver(this, kRulingNotification, [this] { follow(); });
     around_->localCenter.addObserver(this, kLooksDidChangeNotification, [this] { follow(); });
+    around_->localCenter.addObserver(this, NSUserDefaultsDidChangeNotification,
+                                     [this](const Subjects& settings) {
+                                         if (settings.contain(kScheduleFadeMinutes.key)) {
+                                             follow();
+                                         }
+                                     });
 }
 
 void SchedulePage::follow() {
@@ -88,7 +95,7 @@ void SchedulePage::follow() {
 void SchedulePage::followClock() {
     const Moment now = around_->automation.now();
     strip_->setNow(count(timeOfDay(now)));
-    updatePause();
+    updateSentence();
     const auto sinceMinute = static_cast<int>((now - floor<minutes>(now)).count());
     clock_.start(kMillisecondsOfMinute - 1000 * sinceMinute);
 }
@@ -111,7 +118,9 @@ void SchedulePage::update() {
     updatePoints();
     updateEditor();
     updateSentence();
-    updatePause();
+    const QSignalBlocker quiet(fade_);
+    fade_->setValue(
+        static_cast<int>(std::lround(around_->defaults.floatForKey(kScheduleFadeMinutes))));
     if (!place_->hasFocus()) {
         const PropertyValue* typed = around_->defaults.objectForKey(kPlace);
         const auto* words = typed != nullptr ? typed->as<std::string>() : nullptr;
@@ -184,6 +193,9 @@ void SchedulePage::updateEditor() {
 }
 
 void SchedulePage::updateSentence() {
+    const Ruling ruling = around_->automation.ruling(true);
+    const bool isPaused = ruling.by == Ruler::pause;
+    resume_->setEnabled(isPaused);
     const ListedPoint* next = nullptr;
     for (const ListedPoint& listed : around_->automation.listedPoints()) {
         if (listed.next && (next == nullptr || *listed.next <= *next->next)) {
@@ -191,29 +203,26 @@ void SchedulePage::updateSentence() {
         }
     }
     const auto point = next != nullptr ? schedulePoint(next->words) : std::nullopt;
-    sentence_->setText(
-        point ? filled(localized("Next: %1$@ at %2$@"),
-                       {titleOf(*point),
-                        QString::fromStdString(clockText(*next->next, around_->automation.now()))})
-              : localized("Nothing is scheduled."));
+    if (isPaused) {
+        sentence_->setText(pauseText(ruling));
+    } else if (point) {
+        const std::string time = clockText(*next->next, around_->automation.now());
+        sentence_->setText(filled(localized("Next: %1$@ at %2$@"),
+                                  {titleOf(*point), QString::fromStdString(time)}));
+    } else {
+        sentence_->setText(localized("Nothing is scheduled."));
+    }
 }
 
-void SchedulePage::updatePause() {
-    const Ruling ruling = around_->automation.ruling(true);
-    const bool isPaused = ruling.by == Ruler::pause;
-    const Moment now = around_->automation.now();
-    QString text = localized("A pause gives the screens their own colors for a while.");
-    if (isPaused && ruling.until) {
-        const auto left = count(ceil<minutes>(*ruling.until - now));
-        text = filled(
-            localized("Paused until %1$@, %2$@ h left"),
-            {QString::fromStdString(clockText(*ruling.until, now)),
-             QStringLiteral("%1:%2").arg(left / 60).arg(left % 60, 2, 10, QLatin1Char('0'))});
-    } else if (isPaused) {
-        text = localized("Paused until you go on");
+QString SchedulePage::pauseText(const Ruling& ruling) const {
+    if (!ruling.until) {
+        return localized("Paused until you go on");
     }
-    pause_->setText(text);
-    resume_->setEnabled(isPaused);
+    const Moment now = around_->automation.now();
+    const auto left = count(ceil<minutes>(*ruling.until - now));
+    return filled(localized("Paused until %1$@, %2$@ h left"),
+                  {QString::fromStdString(clockText(*ruling.until, now)),
+                   QStringLiteral("%1:%2").arg(left / 60).arg(left % 60, 2, 10, QLatin1Char('0'))});
 }
 
 void SchedulePage::choose(int index) {

@@ -22,6 +22,7 @@ class QTreeWidget;
 
 namespace nocturo {
 
+struct Ruling;
 class ScheduleStrip;
 
 /// The page of what happens by itself: pauses, and the schedule with its points on a day and in a
@@ -51,9 +52,9 @@ class SchedulePage : public QWidget {
     };
 
     void make();
+    QLayout* newTop();
     QLayout* newEditor();
-    QWidget* newPauseBox();
-    QWidget* newScheduleBox();
+    QLayout* newBottom();
     void listen();
 
     void update();
@@ -61,7 +62,7 @@ class SchedulePage : public QWidget {
     void orderControls();
     void updateEditor();
     void updateSentence();
-    void updatePause();
+    QString pauseText(const Ruling& ruling) const;
     void followClock();
 
     void choose(int index);
@@ -83,7 +84,6 @@ class SchedulePage : public QWidget {
     QTimer clock_; // while the page is shown
 
     // Null until the page is made.
-    QLabel* pause_ = nullptr;
     QPushButton* begin_ = nullptr;
     QPushButton* resume_ = nullptr;
     QCheckBox* use_ = nullptr;
@@ -98,6 +98,7 @@ class SchedulePage : public QWidget {
     QPushButton* remove_ = nullptr;
     QLabel* problem_ = nullptr;
     QLineEdit* place_ = nullptr;
+    QSpinBox* fade_ = nullptr;
 };
 
 } // namespace nocturo

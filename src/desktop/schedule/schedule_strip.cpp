@@ -30,7 +30,8 @@ void paintCentered(QPainter& painter, int x, const QRect& row, const QString& te
 } // namespace
 
 ScheduleStrip::ScheduleStrip(QWidget* parent) : QWidget(parent) {
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    followFont();
 }
 
 void ScheduleStrip::addHandle() {
@@ -115,18 +116,25 @@ std::vector<QWidget*> ScheduleStrip::handlesInOrder() const {
 }
 
 QSize ScheduleStrip::sizeHint() const {
-    return {fontMetrics().height() * 30, fontMetrics().height() * 9 / 2};
+    return {fontMetrics().height() * 30, maximumHeight()};
 }
 
-QSize ScheduleStrip::minimumSizeHint() const {
-    return {fontMetrics().height() * 15, sizeHint().height()};
+void ScheduleStrip::followFont() {
+    const int line = fontMetrics().height();
+    setMinimumSize(line * 15, line * 3 / 2);
+    setMaximumHeight(line * 9 / 2);
+    placeHandles();
+}
+
+bool ScheduleStrip::hasRoomForTimes() const {
+    return height() >= 7 * fontMetrics().height() / 2;
 }
 
 /// Room is left for half a time at both ends.
 QRect ScheduleStrip::track() const {
-    const int line = fontMetrics().height();
-    const int margin = fontMetrics().horizontalAdvance(clockText(0)) / 2 + 2;
-    return rect().adjusted(margin, line + 4, -margin, -line - 4);
+    const int above = hasRoomForTimes() ? fontMetrics().height() + 4 : 2;
+    const int beside = fontMetrics().horizontalAdvance(clockText(0)) / 2 + 2;
+    return rect().adjusted(beside, above, -beside, -above);
 }
 
 int ScheduleStrip::xOf(int minutes) const {
@@ -143,7 +151,7 @@ int ScheduleStrip::timeAt(int x) const {
 
 void ScheduleStrip::placeHandles() {
     for (PointHandle* handle : handles_) {
-        handle->resize(handle->sizeHint());
+        handle->resize(handle->sizeHint().boundedTo(size()));
         QRect place = handle->rect();
         place.moveCenter({xOf(handle->sliderPosition()), track().center().y()});
         handle->move(place.topLeft());
@@ -159,8 +167,7 @@ void ScheduleStrip::resizeEvent(QResizeEvent* event) {
 void ScheduleStrip::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange) {
-        updateGeometry();
-        placeHandles();
+        followFont();
     }
 }
 
@@ -170,7 +177,9 @@ void ScheduleStrip::paintEvent(QPaintEvent* /*event*/) {
     paintDaylight(painter);
     paintHours(painter);
     paintNames(painter);
-    paintTimes(painter);
+    if (hasRoomForTimes()) {
+        paintTimes(painter);
+    }
 }
 
 void ScheduleStrip::paintDaylight(QPainter& painter) const {

@@ -12,8 +12,8 @@ namespace nocturo {
 class PointHandle;
 
 /// A day of 24 hours with its daylight, the points of a schedule as handles on it and what each
-/// brings written behind it, until the next. It does not change the points: it tells where the user
-/// has put one. Main thread only.
+/// brings written behind it, until the next; without the times where it is low. It does not change
+/// the points: it tells where the user has put one. Main thread only.
 class ScheduleStrip : public QWidget {
     Q_OBJECT
 
@@ -41,7 +41,6 @@ class ScheduleStrip : public QWidget {
     void setNow(int minutes);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
     void moved(int index, int minutes);
@@ -53,10 +52,12 @@ class ScheduleStrip : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    bool hasRoomForTimes() const;
     QRect track() const;
     int xOf(int minutes) const;
     int timeAt(int x) const;
     void addHandle();
+    void followFont();
     void placeHandles();
     std::vector<int> inOrder() const;
     void paintDaylight(QPainter& painter) const;
