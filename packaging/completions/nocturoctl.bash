@@ -27,7 +27,7 @@ _nocturoctl() {
     case ${words[1]}:$cword in
       pause:2) choices='30m 1h until while cancel' ;;
       pause:3) [[ $prev != until ]] || choices='tomorrow sunrise sunset next' ;;
-      rules:2) choices='list add remove on off' ;;
+      rules:2) choices='list add move remove on off' ;;
       rules:3) case $prev in list) choices='--json' ;; add) choices='fullscreen program game' ;; esac ;;
       rules:4 | rules:5) [[ $cword:${words[3]} != @(4:fullscreen|4:game|5:program) ]] || { choices=off looks=yes; } ;;
       schedule:2) choices='list add remove on off next' ;;

@@ -54,7 +54,7 @@ complete -c nocturoctl -n '__fish_seen_subcommand_from on toggle effects dim tem
 complete -c nocturoctl -n '__fish_seen_subcommand_from on off toggle look' -l fade -x -a '0 0.5 2 5' -d 'Take so many seconds'
 complete -c nocturoctl -n '__nocturoctl_at pause 0' -a '30m 1h until while cancel'
 complete -c nocturoctl -n '__nocturoctl_after pause until' -a 'tomorrow sunrise sunset next'
-complete -c nocturoctl -n '__nocturoctl_at rules 0' -a 'list add remove on off'
+complete -c nocturoctl -n '__nocturoctl_at rules 0' -a 'list add move remove on off'
 complete -c nocturoctl -n '__nocturoctl_after rules add' -a 'fullscreen program game'
 complete -c nocturoctl -n '__nocturoctl_at rules 2; and __fish_seen_subcommand_from fullscreen game' -a 'off (__nocturoctl_looks)'
 complete -c nocturoctl -n '__nocturoctl_at rules 3; and __fish_seen_subcommand_from program' -a 'off (__nocturoctl_looks)'

@@ -51,10 +51,10 @@ struct BusFace::Table {
     static constexpr auto kFree = SD_BUS_VTABLE_UNPRIVILEGED;
     static constexpr auto kTold = SD_BUS_VTABLE_PROPERTY_EMITS_CHANGE;
 
-    static const std::array<sd_bus_vtable, 74> members;
+    static const std::array<sd_bus_vtable, 75> members;
 };
 
-const std::array<sd_bus_vtable, 74> BusFace::Table::members = {{
+const std::array<sd_bus_vtable, 75> BusFace::Table::members = {{
     SD_BUS_VTABLE_START(0),
     SD_BUS_PROPERTY("Active", "b", tellProperty, 0, kTold),
     SD_BUS_PROPERTY("Paused", "b", tellProperty, 0, kTold),
@@ -99,6 +99,8 @@ const std::array<sd_bus_vtable, 74> BusFace::Table::members = {{
                             kServeWhenReady<&BusFace::removeSchedulePoint>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AddRule", SD_BUS_ARGS("s", words), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::addRule>, kFree),
+    SD_BUS_METHOD_WITH_ARGS("MoveRule", SD_BUS_ARGS("u", from, "u", to), SD_BUS_NO_RESULT,
+                            kServeWhenReady<&BusFace::moveRule>, kFree),
     SD_BUS_METHOD_WITH_ARGS("RemoveRule", SD_BUS_ARGS("u", index), SD_BUS_NO_RESULT,
                             kServeWhenReady<&BusFace::removeRule>, kFree),
     SD_BUS_METHOD_WITH_ARGS("AddEffects", SD_BUS_ARGS("as", names), SD_BUS_NO_RESULT,

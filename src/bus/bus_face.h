@@ -69,6 +69,7 @@ class BusFace {
     BusAnswer addSchedulePoint(const std::string& words);
     BusAnswer removeSchedulePoint(std::uint32_t index);
     BusAnswer addRule(const std::string& words);
+    BusAnswer moveRule(std::uint32_t from, std::uint32_t to);
     BusAnswer removeRule(std::uint32_t index);
     int holdPause(sd_bus_message* call, const std::string& command);
     static int pauseWhileConnected(sd_bus_message* call, void* self, sd_bus_error* error);

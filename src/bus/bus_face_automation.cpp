@@ -41,6 +41,10 @@ BusAnswer BusFace::addRule(const std::string& words) {
     return answer(nocturo::addRule(defaults_, chosenLook_.looks(), words));
 }
 
+BusAnswer BusFace::moveRule(std::uint32_t from, std::uint32_t to) {
+    return answer(nocturo::moveRule(defaults_, from, to));
+}
+
 BusAnswer BusFace::removeRule(std::uint32_t index) {
     return answer(nocturo::removeRule(defaults_, index));
 }

@@ -259,7 +259,7 @@ constexpr std::array kCommands = std::to_array<Command>({
          "A POINT is a time and a look or off: 07:00 off, sunset-00:30 Warm evening. Instead of a\n"
          "time of day it may have dawn, sunrise, sunset or dusk. list and next take --json."),
      runSchedule},
-    {"rules", "[list | add RULE | remove N | on | off]",
+    {"rules", "[list | add RULE | move N M | remove N | on | off]",
      ListedText("Show or change what happens while programs are in front"),
      ListedText(
          "A RULE is fullscreen, program NAME or game, and a look or off: fullscreen off,\n"

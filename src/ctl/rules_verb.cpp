@@ -92,6 +92,9 @@ void runRules(Arguments arguments) {
     } else if (how == "add") {
         expect(words.size() > 1 && !asJson);
         BusClient().callAndSave("AddRule", ruleFrom(words.subspan(1)));
+    } else if (how == "move") {
+        expect(arguments.size() == 3);
+        BusClient().callAndSave("MoveRule", indexFrom(arguments[1]), indexFrom(arguments[2]));
     } else {
         expect(how == "remove" && arguments.size() == 2);
         BusClient().callAndSave("RemoveRule", indexFrom(arguments[1]));

@@ -116,7 +116,10 @@ TEST_F(RulesOnX, AreHurtByNothingThatWindowsSay) {
     }
     client_.setRootProperty("_NET_ACTIVE_WINDOW", {0});
     EXPECT_TRUE(becomes("ii"));
-    ctl({"rules", "remove", "1"});
+    ctl({"rules", "move", "1", "2"});
+    EXPECT_LT(ctl({"rules"}).output.find("liar off"), ctl({"rules"}).output.find("fullscreen off"));
+    says("nocturoctl", {"rules", "move", "3", "1"}, 2, "There is no rule 3.");
+    ctl({"rules", "remove", "2"});
     ctl({"rules", "off"});
     EXPECT_NE(ctl({"rules"}).output.find("not in use"), std::string::npos);
 }
