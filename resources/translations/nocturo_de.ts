@@ -188,18 +188,6 @@
             <translation>Während des Bildschirmschoners &amp;pausieren</translation>
         </message>
         <message>
-            <source>Fa&amp;de:</source>
-            <translation>Überb&amp;lenden:</translation>
-        </message>
-        <message>
-            <source>How long the colors take to change when the effect is switched</source>
-            <translation>Wie lange die Farben brauchen, wenn der Effekt geschaltet wird</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Tastenkürzel</translation>
-        </message>
-        <message>
             <source>Works in every program, when you let go of the key</source>
             <translation>Wirkt in jedem Programm, sobald Sie die Taste loslassen</translation>
         </message>
@@ -216,8 +204,12 @@
             <translation>Tastenkürzel löschen</translation>
         </message>
         <message>
-            <source>Application</source>
-            <translation>Anwendung</translation>
+            <source>Fa&amp;de:</source>
+            <translation>Überb&amp;lenden:</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Wie lange die Farben brauchen, wenn der Effekt geschaltet wird</translation>
         </message>
         <message>
             <source>Show Nocturo:</source>

@@ -188,18 +188,6 @@
             <translation>Pausar mientras se ejec&amp;uta el salvapantallas</translation>
         </message>
         <message>
-            <source>Fa&amp;de:</source>
-            <translation>Transici&amp;ón:</translation>
-        </message>
-        <message>
-            <source>How long the colors take to change when the effect is switched</source>
-            <translation>Cuánto tardan los colores en cambiar al activar o desactivar el efecto</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Atajo de teclado</translation>
-        </message>
-        <message>
             <source>Works in every program, when you let go of the key</source>
             <translation>Funciona en todos los programas, al soltar la tecla</translation>
         </message>
@@ -216,8 +204,12 @@
             <translation>Borrar el atajo</translation>
         </message>
         <message>
-            <source>Application</source>
-            <translation>Aplicación</translation>
+            <source>Fa&amp;de:</source>
+            <translation>Transici&amp;ón:</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Cuánto tardan los colores en cambiar al activar o desactivar el efecto</translation>
         </message>
         <message>
             <source>Show Nocturo:</source>

@@ -188,18 +188,6 @@
             <translation>Suspendre pendant l’écono&amp;miseur d’écran</translation>
         </message>
         <message>
-            <source>Fa&amp;de:</source>
-            <translation>Fo&amp;ndu :</translation>
-        </message>
-        <message>
-            <source>How long the colors take to change when the effect is switched</source>
-            <translation>Durée du changement des couleurs quand l'effet est activé ou désactivé</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Raccourci clavier</translation>
-        </message>
-        <message>
             <source>Works in every program, when you let go of the key</source>
             <translation>Fonctionne dans tous les programmes, quand vous relâchez la touche</translation>
         </message>
@@ -216,8 +204,12 @@
             <translation>Effacer le raccourci</translation>
         </message>
         <message>
-            <source>Application</source>
-            <translation>Application</translation>
+            <source>Fa&amp;de:</source>
+            <translation>Fo&amp;ndu :</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Durée du changement des couleurs quand l'effet est activé ou désactivé</translation>
         </message>
         <message>
             <source>Show Nocturo:</source>

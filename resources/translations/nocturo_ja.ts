@@ -165,7 +165,7 @@
         </message>
         <message>
             <source>Switch on or off when Nocturo is started a&amp;gain</source>
-            <translation>Nocturo を再び起動したときにオン／オフを切り替える(&amp;G)</translation>
+            <translation>Nocturo をもう一度起動したらオン / オフ(&amp;G)</translation>
         </message>
         <message>
             <source>A click on its icon in the launcher then works as a switch</source>
@@ -188,18 +188,6 @@
             <translation>スクリーンセーバーの実行中は一時停止する(&amp;A)</translation>
         </message>
         <message>
-            <source>Fa&amp;de:</source>
-            <translation>フェード(&amp;D):</translation>
-        </message>
-        <message>
-            <source>How long the colors take to change when the effect is switched</source>
-            <translation>効果を切り替えるときに色が変わるまでの時間</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>ショートカットキー</translation>
-        </message>
-        <message>
             <source>Works in every program, when you let go of the key</source>
             <translation>どのプログラムでも、キーを離したときに働きます</translation>
         </message>
@@ -216,8 +204,12 @@
             <translation>ショートカットキーを消去</translation>
         </message>
         <message>
-            <source>Application</source>
-            <translation>アプリケーション</translation>
+            <source>Fa&amp;de:</source>
+            <translation>フェード(&amp;D):</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>効果を切り替えるときに色が変わるまでの時間</translation>
         </message>
         <message>
             <source>Show Nocturo:</source>

@@ -188,18 +188,6 @@
             <translation>Pausar en&amp;quanto o protetor de tela estiver ativo</translation>
         </message>
         <message>
-            <source>Fa&amp;de:</source>
-            <translation>Transiçã&amp;o:</translation>
-        </message>
-        <message>
-            <source>How long the colors take to change when the effect is switched</source>
-            <translation>Quanto tempo as cores levam para mudar quando o efeito é ligado ou desligado</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>Atalho de teclado</translation>
-        </message>
-        <message>
             <source>Works in every program, when you let go of the key</source>
             <translation>Funciona em todos os programas, quando você solta a tecla</translation>
         </message>
@@ -216,8 +204,12 @@
             <translation>Limpar o atalho</translation>
         </message>
         <message>
-            <source>Application</source>
-            <translation>Aplicativo</translation>
+            <source>Fa&amp;de:</source>
+            <translation>Transiçã&amp;o:</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>Quanto tempo as cores levam para mudar quando o efeito é ligado ou desligado</translation>
         </message>
         <message>
             <source>Show Nocturo:</source>

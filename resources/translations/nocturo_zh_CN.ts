@@ -188,18 +188,6 @@
             <translation>屏幕保护程序运行时暂停(&amp;A)</translation>
         </message>
         <message>
-            <source>Fa&amp;de:</source>
-            <translation>渐变(&amp;D)：</translation>
-        </message>
-        <message>
-            <source>How long the colors take to change when the effect is switched</source>
-            <translation>切换效果时颜色变化所需的时间</translation>
-        </message>
-        <message>
-            <source>Hot key</source>
-            <translation>快捷键</translation>
-        </message>
-        <message>
             <source>Works in every program, when you let go of the key</source>
             <translation>在所有程序中有效，松开按键时生效</translation>
         </message>
@@ -216,8 +204,12 @@
             <translation>清除快捷键</translation>
         </message>
         <message>
-            <source>Application</source>
-            <translation>应用程序</translation>
+            <source>Fa&amp;de:</source>
+            <translation>渐变(&amp;D)：</translation>
+        </message>
+        <message>
+            <source>How long the colors take to change when the effect is switched</source>
+            <translation>切换效果时颜色变化所需的时间</translation>
         </message>
         <message>
             <source>Show Nocturo:</source>
