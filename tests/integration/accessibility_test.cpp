@@ -18,6 +18,9 @@ constexpr const char* kLauncher = "/usr/libexec/at-spi-bus-launcher";
 struct Heard {
     std::string name;
     std::string value;
+    std::string role{};
+    bool isChecked = false;
+    bool operator==(const Heard&) const = default;
 };
 
 /// Follows the tree and the events of the accessibility bus.
@@ -26,8 +29,10 @@ class ScreenReader {
     explicit ScreenReader(const std::string& address) : connection_(SessionBus::connect(address)) {
         sd_bus_match_signal(bus_, nullptr, nullptr, nullptr, "org.a11y.atspi.Event.Object",
                             "StateChanged", &ScreenReader::take, this);
-        sd_bus_call_method(bus_, kRegistry, "/org/a11y/atspi/registry", kRegistry, "RegisterEvent",
-                           nullptr, nullptr, "s", "object:state-changed:showing");
+        for (const char* event : {"object:state-changed:showing", "object:state-changed:focused"}) {
+            sd_bus_call_method(bus_, kRegistry, "/org/a11y/atspi/registry", kRegistry,
+                               "RegisterEvent", nullptr, nullptr, "s", event);
+        }
     }
 
     /// The controls of everything that is shown, by role.
@@ -37,11 +42,17 @@ class ScreenReader {
         return found;
     }
 
+    /// What has the keyboard.
+    Heard focused() {
+        readEvents();
+        const auto& [service, path] = focus_;
+        return {name(service, path), {}, role(service, path), has(kChecked, service, path)};
+    }
+
     /// Whether a notification with that text in it was announced, or is so soon.
     bool hears(const std::string& text) {
         return waitUntil([&] {
-            while (sd_bus_process(bus_, nullptr) > 0) {
-            }
+            readEvents();
             return std::ranges::any_of(announced_, [&](const std::string& each) {
                 return each.find(text) != std::string::npos;
             });
@@ -70,17 +81,22 @@ class ScreenReader {
         const char* name = nullptr;
         return reply != nullptr && sd_bus_message_read(reply.get(), "s", &name) > 0 ? name : "";
     }
-    bool isVisible(const std::string& service, const std::string& path) {
-        constexpr unsigned kVisible = 1U << 30U;
+    static constexpr unsigned kChecked = 1U << 4U;
+    static constexpr unsigned kVisible = 1U << 30U;
+    bool has(unsigned state, const std::string& service, const std::string& path) {
         const Reply reply = call(service, path, "GetState");
         unsigned states = 0;
-        return reply == nullptr || sd_bus_message_enter_container(reply.get(), 'a', "u") <= 0 ||
-               sd_bus_message_read(reply.get(), "u", &states) <= 0 || (states & kVisible) != 0 ||
-               role(service, path) == "menu item" || service == kRegistry;
+        return reply != nullptr && sd_bus_message_enter_container(reply.get(), 'a', "u") > 0 &&
+               sd_bus_message_read(reply.get(), "u", &states) > 0 && (states & state) != 0;
+    }
+    void readEvents() {
+        while (sd_bus_process(bus_, nullptr) > 0) {
+        }
     }
     void read(const std::string& service, const std::string& path,
               std::multimap<std::string, Heard>& found) {
-        if (!isVisible(service, path)) {
+        if (service != kRegistry && role(service, path) != "menu item" &&
+            !has(kVisible, service, path)) {
             return;
         }
         double value = 0;
@@ -103,12 +119,15 @@ class ScreenReader {
     static int take(sd_bus_message* signal, void* self, sd_bus_error* /*error*/) {
         auto& reader = *static_cast<ScreenReader*>(self);
         const char* what = nullptr;
-        int shown = 0;
+        int holds = 0;
         const std::string path = sd_bus_message_get_path(signal);
         const std::string sender = sd_bus_message_get_sender(signal);
-        if (sd_bus_message_read(signal, "si", &what, &shown) > 0 &&
-            std::string_view(what) == "showing" && shown == 1 &&
-            reader.role(sender, path) == "notification") {
+        if (sd_bus_message_read(signal, "si", &what, &holds) <= 0 || holds != 1) {
+            return 0;
+        }
+        if (std::string_view(what) == "focused") {
+            reader.focus_ = {sender, path};
+        } else if (reader.role(sender, path) == "notification") {
             reader.announced_.push_back(reader.name(sender, path));
         }
         return 0;
@@ -117,6 +136,7 @@ class ScreenReader {
     SessionBus::Bus connection_;
     sd_bus* bus_ = connection_.get();
     std::vector<std::string> announced_;
+    std::pair<std::string, std::string> focus_;
 };
 
 struct Accessibility : NocturoOnX {
@@ -143,23 +163,62 @@ TEST_F(Accessibility, AFirstStartByKeyboardAloneIsHeard) {
     if (!std::filesystem::exists(kLauncher)) {
         GTEST_SKIP() << "at-spi2-core is not installed";
     }
+    const auto tray = session_.bus().connect();
+    ASSERT_GE(sd_bus_request_name(tray.get(), "org.kde.StatusNotifierWatcher", 0), 0);
     ScreenReader reader(addressOfBus()); // first, as Qt asks once what is listened to
     nocturo_ = session_.startNocturo();
-    // As a window manager does, and the keyboard is at the sheet, later at the looks.
-    const auto focus = [&](const std::string& title) {
+    const auto focus = [&](const std::string& title) { // as a window manager does
         xdotool({"windowfocus", "--sync", windowCalled(title)});
     };
+    const auto hears = [&](const std::string& role, const std::string& name) {
+        Heard heard;
+        EXPECT_TRUE(waitUntil([&] {
+            heard = reader.focused();
+            return heard.role.find(role) != std::string::npos && heard.name == name;
+        })) << role
+            << ' ' << name << ", not " << heard.role << ' ' << heard.name;
+    };
+    const auto goTo = [&](const char* key, const std::string& role, const std::string& name) {
+        for (int i = 0; i < 30 && reader.focused().name != name; ++i) {
+            const Heard before = reader.focused();
+            press(key);
+            waitUntil([&] { return !(reader.focused() == before); });
+        }
+        hears(role, name);
+    };
+    const auto ticks = [&](bool checked) {
+        press("space");
+        EXPECT_TRUE(waitUntil([&] { return reader.focused().isChecked == checked; }))
+            << reader.focused().name;
+    };
     focus("^Nocturo$");
+    hears("button", "Open preferences...");
     press("Escape");
     ASSERT_TRUE(waitUntil([&] { return !isShown("^Nocturo$"); }));
     focus("Nocturo Preferences");
-    for (const char* key : {"Right", "space"}) {
-        press(key);
-    }
-    ASSERT_TRUE(waitUntil([&] { return status()["look"] == "Warm evening"; })) << status()["look"];
+    EXPECT_TRUE(waitUntil([&] { return reader.focused().role.starts_with("list"); }));
+    goTo("Right", "list item", "Warm evening");
+    press("space");
     EXPECT_TRUE(reader.hears("On: "));
-    ctl({"off"});
+    EXPECT_TRUE(becomes("?") && status()["look"] == "Warm evening");
+    press("ctrl+e");
     EXPECT_TRUE(reader.hears("Off. When on: "));
+    EXPECT_TRUE(becomes("o"));
+    goTo("shift+Tab", "button", "Not now");
+    press("space");
+    hears("page tab", "Looks and effects");
+    press("ctrl+Next");
+    hears("page tab", "Switching");
+    goTo("Tab", "check box", "Switch on or off when Nocturo is started again");
+    ticks(false);
+    goTo("shift+Tab", "check box", "Start with the session");
+    ticks(true);
+    EXPECT_TRUE(std::filesystem::exists(session_.environment()["XDG_CONFIG_HOME"] +
+                                        "/autostart/org.nocturo.Nocturo.desktop"));
+    press("Escape");
+    ASSERT_TRUE(waitUntil([&] { return !isShown("Preferences"); }));
+    EXPECT_EQ(session_.run("nocturo").exit, 0);
+    focus("Nocturo Preferences");
 
     auto controls = reader.controls();
     const auto has = [&](const std::string& role, const std::string& name) {
@@ -168,8 +227,8 @@ TEST_F(Accessibility, AFirstStartByKeyboardAloneIsHeard) {
     };
     ctl({"schedule", "add", "07:00", "off"});
     ctl({"rules", "add", "game", "off"});
-    for (const char* box : {"Start with the session", "Choose looks by the clock and the sun",
-                            "Choose looks by what is in front"}) {
+    for (const char* box :
+         {"Choose looks by the clock and the sun", "Choose looks by what is in front", "Invert"}) {
         press("ctrl+Tab"); // to the next page
         EXPECT_TRUE(waitUntil([&] {
             controls.merge(reader.controls());
