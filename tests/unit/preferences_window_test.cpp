@@ -562,7 +562,8 @@ TEST_F(PreferencesWindow, RulesAreAddedReplacedAndRemovedForProgramsThatArePicke
     press("addRule");
     choose(*combos[0], 1);
     EXPECT_FALSE(page.findChild<QPushButton*>("addRule")->isEnabled());
-    press("pickWindow");
+    choose(*combos[0], 0);
+    press("pickWindow"); // makes it one about a program again
     changed();
     inFront.programs = {"gimp-2.10", "Gimp"};
     changed();

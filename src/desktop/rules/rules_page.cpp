@@ -31,6 +31,7 @@ namespace nocturo {
 namespace {
 
 constexpr std::array kShownSettings{kRules, kUseRules};
+constexpr int kProgramRow = 1; // of the form
 
 /// Nocturo's own window, which is in front while one picks another.
 bool isOurs(const std::string& program) {
@@ -99,6 +100,8 @@ QFormLayout* RulesPage::newForm() {
     connect(when_, &QComboBox::activated, this, &RulesPage::updateControls);
     program_ = new QLineEdit;
     program_->setObjectName(QStringLiteral("ruleProgram"));
+    program_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // the list needs the room
+    program_->setMinimumWidth(6 * program_->fontMetrics().height());
     describe(*program_, {}, localized("As its windows are called"));
     connect(program_, &QLineEdit::textChanged, this, &RulesPage::updateControls);
     pick_ = new QPushButton(localized("P&ick a window"));
@@ -175,6 +178,7 @@ void RulesPage::offerConditions() {
         offer(localized("A program is in front"), Rule::When::program);
     }
     offer(localized("A game is running"), Rule::When::game);
+    form_->setRowVisible(kProgramRow, seesWindows);
     say(seesWindows
             ? std::string()
             : localized("This desktop does not tell which window is in front.").toStdString());
@@ -218,7 +222,8 @@ void RulesPage::updateList() {
 
 void RulesPage::updateControls() {
     const bool isOfProgram = when_->currentData().toInt() == static_cast<int>(Rule::When::program);
-    form_->setRowVisible(1, isOfProgram);
+    program_->setEnabled(isOfProgram);
+    form_->itemAt(kProgramRow, QFormLayout::LabelRole)->widget()->setEnabled(isOfProgram);
     add_->setEnabled(!isOfProgram || !program_->text().trimmed().isEmpty());
     const int row = list_->indexOfTopLevelItem(list_->currentItem());
     remove_->setEnabled(row >= 0);
@@ -315,7 +320,9 @@ void RulesPage::windowCameToFront() {
     if (programs.empty() || std::ranges::any_of(programs, isOurs)) {
         return;
     }
+    when_->setCurrentIndex(when_->findData(static_cast<int>(Rule::When::program)));
     program_->setText(QString::fromStdString(programs.back())); // the class, where there are two
+    updateControls();
     // Who tells this is still at it.
     QMetaObject::invokeMethod(
         this,

@@ -149,6 +149,7 @@ QLayout* SchedulePage::newEditor() {
     describe(*time_, localized("Time"));
     offset_ = new OffsetField;
     describe(*offset_, localized("Minutes before or after the sun"));
+    time_->setMinimumWidth(offset_->sizeHint().width()); // one stands in the other's place
     look_ = new QComboBox;
     add_ = new QPushButton(localized("&Add"));
     add_->setObjectName(QStringLiteral("addPoint"));
