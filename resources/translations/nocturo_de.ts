@@ -1541,6 +1541,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Regeln</translation>
         </message>
         <message>
+            <source>Of the rules that hold for a screen the first one counts.</source>
+            <translation>Von den Regeln, die für einen Bildschirm gelten, zählt die erste.</translation>
+        </message>
+        <message>
             <source>As its windows are called</source>
             <translation>Wie seine Fenster heißen</translation>
         </message>

@@ -1541,6 +1541,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Reglas</translation>
         </message>
         <message>
+            <source>Of the rules that hold for a screen the first one counts.</source>
+            <translation>De las reglas que valen para una pantalla cuenta la primera.</translation>
+        </message>
+        <message>
             <source>As its windows are called</source>
             <translation>Como se llaman sus ventanas</translation>
         </message>

@@ -1541,6 +1541,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Règles</translation>
         </message>
         <message>
+            <source>Of the rules that hold for a screen the first one counts.</source>
+            <translation>Parmi les règles qui s’appliquent à un écran, la première l’emporte.</translation>
+        </message>
+        <message>
             <source>As its windows are called</source>
             <translation>Tel que ses fenêtres le nomment</translation>
         </message>

@@ -1540,6 +1540,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>ルール</translation>
         </message>
         <message>
+            <source>Of the rules that hold for a screen the first one counts.</source>
+            <translation>画面に当てはまるルールのうち、最初のものが有効になります。</translation>
+        </message>
+        <message>
             <source>As its windows are called</source>
             <translation>ウィンドウのクラス名</translation>
         </message>

@@ -1541,6 +1541,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>Regras</translation>
         </message>
         <message>
+            <source>Of the rules that hold for a screen the first one counts.</source>
+            <translation>Das regras que valem para uma tela, conta a primeira.</translation>
+        </message>
+        <message>
             <source>As its windows are called</source>
             <translation>Como suas janelas se chamam</translation>
         </message>

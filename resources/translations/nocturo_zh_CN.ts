@@ -1536,6 +1536,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>规则</translation>
         </message>
         <message>
+            <source>Of the rules that hold for a screen the first one counts.</source>
+            <translation>适用于某个屏幕的规则中，以第一条为准。</translation>
+        </message>
+        <message>
             <source>As its windows are called</source>
             <translation>其窗口的名称</translation>
         </message>

@@ -80,6 +80,8 @@ void RulesPage::make() {
             [this](bool on) { around_->defaults.setBool(on, kUseRules); });
     sentence_ = newSentence();
     list_ = newList(localized("Rules"), 2, 0);
+    describe(*list_, list_->accessibleName(),
+             localized("Of the rules that hold for a screen the first one counts."));
     connect(list_, &QTreeWidget::currentItemChanged, this, &RulesPage::choose);
     problem_ = newSentence();
     form_ = newForm();
