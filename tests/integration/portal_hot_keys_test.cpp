@@ -60,7 +60,10 @@ class Portal {
                "extra", "i", 7, "shortcuts", "a(sa{sv})", 1, "toggle", 2, "description", "s",
                "Toggle", "trigger_description", "s", trigger);
     }
-    void grantSession() { respond(0, "session_handle", "s", session.c_str()); }
+    void grantSession() {
+        signal(request_.c_str(), "org.freedesktop.portal.Request", "Response", "ua{sv}", 0, 2,
+               "session_handle", "s", session.c_str(), "extra", "i", 7);
+    }
     static bool refuse(sd_bus_message* call) {
         return sd_bus_reply_method_errorf(call, "org.freedesktop.portal.Error.NotAllowed",
                                           "An app id is required") >= 0;

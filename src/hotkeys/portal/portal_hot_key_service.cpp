@@ -207,7 +207,9 @@ void PortalHotKeyService::sessionCame(Outcome outcome, sd_bus_message* results) 
     if (outcome == Outcome::done) {
         forEachEntry(results, [&](std::string_view key) {
             std::string text = readTextVariant(results);
-            session = key == "session_handle" ? std::move(text) : std::move(session);
+            if (key == "session_handle") {
+                session = std::move(text);
+            }
         });
     }
     request_.reset();
