@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # "text" checks the layout of the code and the scripts; "code BUILD JOBS" the code itself, as compiled
-# in BUILD, which must have been built because generated headers are read.
+# in BUILD, which must have been built because generated headers are read. With ANALYZER_MODE=shallow
+# the path-sensitive analyzer takes a quarter of its time and follows fewer calls.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -27,6 +28,8 @@ tidy() {
   printf '%s\0' "$1"/*.cpp |
     xargs -0 -P "$2" -n 1 clang-tidy --quiet -p "$1" --config-file=.clang-tidy --checks="$3" \
       --header-filter="^$PWD/src/" --extra-arg=-Wno-unknown-warning-option --extra-arg=-Wno-error \
+      --extra-arg=-Xclang --extra-arg=-analyzer-config --extra-arg=-Xclang \
+      --extra-arg="mode=${ANALYZER_MODE:-deep}" \
       2> >(grep -v 'warnings\? generated\.$' >&2)
 }
 
