@@ -4,6 +4,7 @@
 #include "desktop/preview/effect_preview.h"
 #include "documents/current_effects.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -232,6 +233,18 @@ void LooksRow::resizeEvent(QResizeEvent* event) {
     QListWidget::resizeEvent(event);
     scheduleDelayedItemsLayout();
     makeRoomForBar();
+}
+
+/// Qt tells screen readers of the row alone, and of a look only once it is another.
+void LooksRow::focusInEvent(QFocusEvent* event) {
+    QListWidget::focusInEvent(event);
+    QTimer::singleShot(0, this, [this] {
+        if (hasFocus() && currentRow() >= 0) {
+            QAccessibleEvent arrival(this, QAccessible::Focus);
+            arrival.setChild(currentRow());
+            QAccessible::updateAccessibility(&arrival);
+        }
+    });
 }
 
 void LooksRow::keyPressEvent(QKeyEvent* event) {
