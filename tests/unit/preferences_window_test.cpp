@@ -347,6 +347,7 @@ TEST_F(PreferencesWindow, TemperaturesAreColorsOfTheFilterAndNoneIsAnEmptyField)
     EXPECT_EQ(find<QLabel>("hueWord").text(), "magenta");
     NDColorFilterEffect::setHue(static_cast<float>(filterAtTemperature(2700).hue));
     EXPECT_NEAR(slider("temperature").value(), 2700, 1);
+    EXPECT_FALSE(slider("temperature").isEmpty());
 }
 
 // 960 x 500 points at 150 % text.

@@ -117,8 +117,9 @@ void NDPreferencesController::updateFilter() {
     const QString word = kelvin ? temperatureWord(*kelvin) : QString();
     if (!kelvin) {
         ui_->temperature->setEmpty();
-    } else if (std::lround(*kelvin) !=
-               std::lround(static_cast<double>(ui_->temperature->value()))) {
+    } else if (ui_->temperature->isEmpty() ||
+               std::lround(*kelvin) !=
+                   std::lround(static_cast<double>(ui_->temperature->value()))) {
         ui_->temperature->setValue(static_cast<float>(*kelvin));
     }
     ui_->temperature->setWord(word);
