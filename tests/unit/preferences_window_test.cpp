@@ -244,6 +244,9 @@ TEST_F(PreferencesWindow, EveryControlIsReachedByTheKeyboardInOrderAndExplained)
 
 TEST_F(PreferencesWindow, FitsASmallScreenWithLargeText) {
     show();
+    controller.window()->resize(900, 600);
+    QCoreApplication::processEvents();
+    const QPoint place = find<QWidget>("pages").pos();
     controller.window()->resize(640, 333); // of 960 x 500 at 150 %
     QCoreApplication::processEvents();
     const auto& page = find<QScrollArea>("effectsPage");
@@ -251,6 +254,8 @@ TEST_F(PreferencesWindow, FitsASmallScreenWithLargeText) {
     EXPECT_FALSE(find<QWidget>("openButton").isVisible());
     controller.window()->resize(900, 600);
     EXPECT_TRUE(find<QWidget>("openButton").isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(find<QWidget>("pages").pos(), place);
 }
 
 TEST_F(PreferencesWindow, HasASwitchThatFollowsTheEffect) {

@@ -211,14 +211,11 @@ void NDPreferencesController::fitRoom() {
          std::initializer_list<QWidget*>{ui_->openButton, ui_->saveButton, ui_->closeButton}) {
         button->setVisible(!isTight);
     }
-    const int space = isTight ? 2 : 6;
-    const int margin = isTight ? 4 : panel_->style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
-    for (QLayout* layout :
-         std::initializer_list<QLayout*>{ui_->panelLayout, ui_->effectsPageLayout}) {
-        layout->setContentsMargins(margin, margin, margin, margin);
+    for (QGridLayout* layout : {ui_->panelLayout, ui_->effectsPageLayout}) {
+        isTight ? layout->setContentsMargins(4, 4, 4, 4) : layout->unsetContentsMargins();
     }
     for (QGridLayout* layout : {ui_->panelLayout, ui_->effectsPageLayout, ui_->previewLayout}) {
-        layout->setVerticalSpacing(space);
+        layout->setVerticalSpacing(isTight ? 2 : -1); // or as the style has it
     }
     ui_->effectsLayout->setVerticalSpacing(isTight ? 2 : 9);
     ui_->effectsLayout->removeItem(ui_->dimLayout);
