@@ -567,6 +567,8 @@ TEST_F(PreferencesWindow, RulesAreAddedReplacedAndRemovedForProgramsThatArePicke
     page.findChild<QCheckBox*>("useRules")->click();
     press("addRule");
     choose(*combos[0], 1);
+    page.hide();
+    page.show();
     EXPECT_FALSE(page.findChild<QPushButton*>("addRule")->isEnabled());
     choose(*combos[0], 0);
     press("pickWindow"); // makes it one about a program again

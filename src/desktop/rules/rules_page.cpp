@@ -171,15 +171,17 @@ void RulesPage::listen() {
 
 void RulesPage::offerConditions() {
     const bool seesWindows = around_->automation.rules().canSeeWindows();
-    when_->clear();
     const auto offer = [this](const QString& text, Rule::When when) {
         when_->addItem(text, static_cast<int>(when));
     };
-    if (seesWindows) {
-        offer(localized("A window fills a screen"), Rule::When::fullscreen);
-        offer(localized("A program is in front"), Rule::When::program);
+    if (when_->count() != (seesWindows ? 3 : 1)) { // what is chosen stays
+        when_->clear();
+        if (seesWindows) {
+            offer(localized("A window fills a screen"), Rule::When::fullscreen);
+            offer(localized("A program is in front"), Rule::When::program);
+        }
+        offer(localized("A game is running"), Rule::When::game);
     }
-    offer(localized("A game is running"), Rule::When::game);
     form_->setRowVisible(kProgramRow, seesWindows);
     say(seesWindows
             ? std::string()
