@@ -1677,6 +1677,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>Als Nächstes: %1$@ um %2$@</translation>
         </message>
         <message>
+            <source>Not in use.</source>
+            <translation>Nicht in Gebrauch.</translation>
+        </message>
+        <message>
             <source>Paused until %1$@, %2$@ h left</source>
             <translation>Pause bis %1$@, noch %2$@ h</translation>
         </message>

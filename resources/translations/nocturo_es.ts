@@ -1677,6 +1677,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>A continuación: %1$@ a las %2$@</translation>
         </message>
         <message>
+            <source>Not in use.</source>
+            <translation>No está en uso.</translation>
+        </message>
+        <message>
             <source>Paused until %1$@, %2$@ h left</source>
             <translation>En pausa hasta %1$@, quedan %2$@ h</translation>
         </message>

@@ -1677,6 +1677,10 @@ Sinon elles reviennent en arrière après dix secondes, à moins d'être conserv
             <translation>Ensuite : %1$@ à %2$@</translation>
         </message>
         <message>
+            <source>Not in use.</source>
+            <translation>Non utilisé.</translation>
+        </message>
+        <message>
             <source>Paused until %1$@, %2$@ h left</source>
             <translation>En pause jusqu’à %1$@, encore %2$@ h</translation>
         </message>

@@ -1676,6 +1676,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>次：%2$@ に%1$@</translation>
         </message>
         <message>
+            <source>Not in use.</source>
+            <translation>使用されていません。</translation>
+        </message>
+        <message>
             <source>Paused until %1$@, %2$@ h left</source>
             <translation>%1$@ まで一時停止中（残り %2$@）</translation>
         </message>

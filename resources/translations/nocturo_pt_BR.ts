@@ -1677,6 +1677,10 @@ atrás após dez segundos, a menos que alguém as mantenha.</translation>
             <translation>A seguir: %1$@ às %2$@</translation>
         </message>
         <message>
+            <source>Not in use.</source>
+            <translation>Não está em uso.</translation>
+        </message>
+        <message>
             <source>Paused until %1$@, %2$@ h left</source>
             <translation>Em pausa até %1$@, faltam %2$@ h</translation>
         </message>

@@ -1672,6 +1672,10 @@ after ten seconds, unless somebody keeps them.</source>
             <translation>接下来：%2$@ %1$@</translation>
         </message>
         <message>
+            <source>Not in use.</source>
+            <translation>未启用。</translation>
+        </message>
+        <message>
             <source>Paused until %1$@, %2$@ h left</source>
             <translation>已暂停至 %1$@，还剩 %2$@</translation>
         </message>

@@ -210,7 +210,9 @@ void SchedulePage::updateSentence() {
         sentence_->setText(filled(localized("Next: %1$@ at %2$@"),
                                   {titleOf(*point), QString::fromStdString(time)}));
     } else {
-        sentence_->setText(localized("Nothing is scheduled."));
+        sentence_->setText(around_->automation.listedPoints().empty()
+                               ? localized("Nothing is scheduled.")
+                               : localized("Not in use."));
     }
 }
 
