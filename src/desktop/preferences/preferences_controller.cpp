@@ -213,10 +213,9 @@ void NDPreferencesController::fitRoom() {
     }
     for (QGridLayout* layout : {ui_->panelLayout, ui_->effectsPageLayout}) {
         isTight ? layout->setContentsMargins(4, 4, 4, 4) : layout->unsetContentsMargins();
-    }
-    for (QGridLayout* layout : {ui_->panelLayout, ui_->effectsPageLayout, ui_->previewLayout}) {
         layout->setVerticalSpacing(isTight ? 2 : -1); // or as the style has it
     }
+    ui_->previewLayout->setVerticalSpacing(isTight ? 2 : 6);
     ui_->effectsLayout->setVerticalSpacing(isTight ? 2 : 9);
     ui_->effectsLayout->removeItem(ui_->dimLayout);
     ui_->effectsLayout->addItem(ui_->dimLayout, 5, 0, 1, isTight ? 4 : 3); // below the words, too
