@@ -28,7 +28,8 @@ bool canBeSeen() {
     return QGuiApplication::platformName() != QLatin1String("offscreen");
 }
 
-/// Shows a box when the window that it stands over has its place, or it would not know where.
+/// Shows a box when the window that it stands over can be seen, and keeps it over that: a window
+/// manager may give the window its place later.
 class WhenExposed : public QObject {
   public:
     WhenExposed(QWindow& window, QMessageBox& box) : QObject(&box), box_(box) {
@@ -37,15 +38,20 @@ class WhenExposed : public QObject {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Expose && static_cast<QWindow*>(watched)->isExposed()) {
-            watched->removeEventFilter(this);
+        if (event->type() == QEvent::Expose && !wasExposed_ &&
+            static_cast<QWindow*>(watched)->isExposed()) {
+            wasExposed_ = true;
             box_.show();
+        } else if (event->type() == QEvent::Move && box_.isVisible()) {
+            const QRect place = static_cast<QWindow*>(watched)->geometry();
+            box_.move(place.center() - box_.rect().center());
         }
         return false;
     }
 
   private:
     QMessageBox& box_;
+    bool wasExposed_ = false;
 };
 
 void setIcon(QMessageBox& box, const Alert& alert) {
