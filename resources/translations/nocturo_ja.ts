@@ -436,7 +436,7 @@
         </message>
         <message>
             <source>%1$@; by the rule "%2$@"</source>
-            <translation>%1$@; 規則「%2$@」による</translation>
+            <translation>%1$@; ルール「%2$@」による</translation>
         </message>
         <message>
             <source>%@; by the schedule</source>
@@ -512,11 +512,11 @@
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ rules at most.</source>
-            <translation>「%1$@」には最大 %2$@ 件の規則の一覧を指定します。</translation>
+            <translation>「%1$@」には最大 %2$@ 件のルールの一覧を指定します。</translation>
         </message>
         <message>
             <source>There is no rule %@.</source>
-            <translation>規則 %@ はありません。</translation>
+            <translation>ルール %@ はありません。</translation>
         </message>
         <message>
             <source>"%1$@" takes a list of %2$@ points at most.</source>
@@ -701,7 +701,7 @@ dawn、sunrise、sunset、dusk も使えます。list と next には --json を
 program mpv Warm evening. The first one that holds for a display counts. list takes
 --json.</source>
             <translation>RULE は fullscreen、program NAME または game に、ルックか off を続けたものです: fullscreen off、
-program mpv Warm evening。画面に当てはまる最初の規則が有効です。list には
+program mpv Warm evening。画面に当てはまる最初のルールが有効です。list には
 --json を付けられます。</translation>
         </message>
         <message>
@@ -1117,7 +1117,7 @@ after ten seconds, unless somebody keeps them.</source>
         </message>
         <message>
             <source>The rules are not in use; nocturoctl rules on changes that.</source>
-            <translation>規則は使われていません。nocturoctl rules on で使われます。</translation>
+            <translation>ルールは使われていません。nocturoctl rules on で使われます。</translation>
         </message>
         <message>
             <source>The schedule is not in use; nocturoctl schedule on changes that.</source>
@@ -2043,7 +2043,7 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         </message>
         <message>
             <source>"%@" is no rule, such as fullscreen off or program mpv Warm evening.</source>
-            <translation>「%@」は fullscreen off や program mpv Warm evening のような規則ではありません。</translation>
+            <translation>「%@」は fullscreen off や program mpv Warm evening のようなルールではありません。</translation>
         </message>
         <message>
             <source>"%@" is no point of a schedule, such as 07:00 off or sunset-00:30 Warm evening.</source>
@@ -2139,11 +2139,11 @@ there is one. Starting Nocturo a second time without one toggles the effect.</so
         </message>
         <message>
             <source>switch and choose looks by the rules</source>
-            <translation>規則で切り替えとルックの選択を行う</translation>
+            <translation>ルールで切り替えとルックの選択を行う</translation>
         </message>
         <message>
             <source>the rules: what is in front, with looks or off</source>
-            <translation>規則: 最前面にあるものと、ルックまたは off</translation>
+            <translation>ルール: 最前面にあるものと、ルックまたは off</translation>
         </message>
         <message>
             <source>displays by identifier with looks of their own</source>
