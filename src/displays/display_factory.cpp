@@ -56,12 +56,12 @@ Result<OpenedDisplays> openRandr(const DisplaySurroundings& surroundings, RunLoo
             translated("There is no X server to work with, because DISPLAY is not set."));
     }
     XConnection* server = surroundings.xServer;
-    std::unique_ptr<ProfileCalibrations> profiles;
-    if (server != nullptr) {
-        // What they ask the server is answered along with what is asked next.
-        ServerMark::expect(*server);
-        profiles = std::make_unique<ProfileCalibrations>(server, surroundings.systemBus);
+    if (server == nullptr) {
+        return failedForNow(openingProblem(RandrRefusal::unreachable, xDisplay));
     }
+    // What they ask the server is answered along with what is asked next.
+    ServerMark::expect(*server);
+    auto profiles = std::make_unique<ProfileCalibrations>(server, surroundings.systemBus);
     auto randr = RandrHardware::open(server);
     if (!randr) {
         return failedForNow(openingProblem(randr.error(), xDisplay));
