@@ -149,7 +149,7 @@ int run(const QStringList& arguments) {
     }
     const RecentDocuments recentDocuments(*runtimeDirectory() / "recent.plist");
     AppMenus appMenus(controller, defaults, centers.local, lookPicker, recentDocuments, {});
-    const DesktopMenus menus(controller, windows, recentDocuments, appMenus, nullptr);
+    DesktopMenus menus(controller, windows, recentDocuments, appMenus, nullptr);
     if (arguments[1] == QLatin1String("schedule")) {
         defaults.setObject(std::string("52.52 13.4"), kPlace);
         defaults.setObject(
@@ -174,6 +174,9 @@ int run(const QStringList& arguments) {
         shown->resize(shown->width(), 2 * shown->width());
     } else if (shown != nullptr && arguments.contains(QLatin1String("low"))) {
         shown->resize(640, 333); // 960 x 500 with text at 150 %
+    }
+    if (arguments[1] == QLatin1String("keep")) {
+        QTimer::singleShot(100, [&] { menus.askToKeepColors(8, [](bool) {}); });
     }
     QTimer::singleShot(1000, [&] {
         QRect area;
