@@ -6,17 +6,17 @@
 namespace nocturo {
 
 QPalette darkPalette() {
-    QPalette palette(QColor(53, 53, 53), QColor(42, 42, 42));
-    palette.setColor(QPalette::Base, QColor(35, 35, 35));
-    palette.setColor(QPalette::AlternateBase, QColor(48, 48, 48));
-    palette.setColor(QPalette::Window, QColor(49, 49, 49));
-    palette.setColor(QPalette::Button, QColor(60, 60, 60));
+    QPalette palette(QColor(66, 66, 66), QColor(58, 58, 58));
+    palette.setColor(QPalette::Base, QColor(26, 26, 26));
+    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 38));
+    palette.setColor(QPalette::Window, QColor(58, 58, 58));
+    palette.setColor(QPalette::Button, QColor(72, 72, 72));
     palette.setColor(QPalette::Highlight, QColor(61, 125, 200));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, QColor(235, 235, 235));
-        palette.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
+        palette.setColor(QPalette::Disabled, role, QColor(150, 150, 150));
     }
     return palette;
 }
