@@ -23,6 +23,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QStyle>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -223,6 +224,10 @@ void NDPreferencesController::fitRoom() {
     ui_->showCurves->setToolButtonStyle(isTight ? Qt::ToolButtonIconOnly
                                                 : Qt::ToolButtonTextBesideIcon);
     ui_->looks->setTight(isTight);
+    if (!isTight) {
+        QTimer::singleShot(0, this,
+                           &NDPreferencesController::fitRoom); // looks may need a scroll bar
+    }
 }
 
 bool NDPreferencesController::windowShouldClose() {
