@@ -150,7 +150,10 @@ void measureSlider(WaylandSession& desktop, BusClient& client) {
         return ramp ? static_cast<int>((*ramp)[0].back()) : 65535;
     };
     const bool moves = isShown && rig::waitUntil([&] {
-                           keyboard.tap(KEY_L, 8); // the slider's
+                           keyboard.tap(KEY_T, 8); // the temperature, which has a key
+                           for (int field = 0; field < 3; ++field) {
+                               keyboard.tap(KEY_TAB);
+                           }
                            keyboard.tap(KEY_RIGHT);
                            return lastEntry() > 0.205 * 65535;
                        });

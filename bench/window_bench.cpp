@@ -117,7 +117,7 @@ void measureSlider() {
     WindowObserver windows(session.server().display());
     client.call("ShowPreferences");
     windows.waitForPaintedWindow();
-    session.run("xdotool", {"key", "alt+l"});
+    session.run("xdotool", {"key", "alt+t", "Tab", "Tab", "Tab"}); // the temperature has a key
     rig::XClient keyboard(session.server().display());
     const auto step = [&] {
         keyboard.press(KEY_RIGHT);
